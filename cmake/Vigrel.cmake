@@ -1,0 +1,42 @@
+# Flags that every target of the project shares, and the two functions by which a folder becomes a target.
+
+add_library(vigrel_flags INTERFACE)
+target_compile_options(vigrel_flags INTERFACE
+  -Wall -Wextra -Wpedantic -Werror -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wconversion
+  $<$<CONFIG:Debug>:-O1>)
+target_include_directories(vigrel_flags INTERFACE ${PROJECT_SOURCE_DIR}/src)
+if(VIGREL_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+# vigrel_library(name [DEPENDS lib...]): every *.cpp of the calling folder as the static library vigrel_<name>.
+function(vigrel_library name)
+  cmake_parse_arguments(arg "" "" "DEPENDS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  if(sources)
+    add_library(vigrel_${name} STATIC ${sources})
+    target_link_libraries(vigrel_${name} PUBLIC vigrel_flags ${arg_DEPENDS})
+  else()
+    add_library(vigrel_${name} INTERFACE)
+    target_link_libraries(vigrel_${name} INTERFACE vigrel_flags ${arg_DEPENDS})
+  endif()
+endfunction()
+
+# vigrel_tests(name [DEPENDS lib...] [LABELS label...] [ENVIRONMENT var=value...]):
+# every *_test.cpp of the calling folder as the test program <name>_tests.
+function(vigrel_tests name)
+  cmake_parse_arguments(arg "" "" "DEPENDS;LABELS;ENVIRONMENT" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  if(NOT sources)
+    return()
+  endif()
+  add_executable(${name}_tests ${sources})
+  target_include_directories(${name}_tests PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  target_link_libraries(${name}_tests PRIVATE vigrel_flags ${arg_DEPENDS} GTest::gtest GTest::gtest_main)
+  gtest_discover_tests(${name}_tests
+    TEST_PREFIX "${name}."
+    DISCOVERY_TIMEOUT 60
+    PROPERTIES LABELS "${arg_LABELS}" ENVIRONMENT "${arg_ENVIRONMENT};TZ=Europe/Stockholm;LC_ALL=C.UTF-8" TIMEOUT 300)
+endfunction()
+include(GoogleTest)

@@ -1,0 +1,80 @@
+#include "common/dates.h"
+
+#include <cmath>
+
+#include "common/failure.h"
+
+namespace vigrel {
+namespace {
+
+// Days from 1970-01-01 of a date of the Gregorian calendar, and back, for any year.
+std::int64_t DaysFromCivil(std::int64_t year, int month, int day) {
+    year -= month <= 2;
+    const std::int64_t era = (year >= 0 ? year : year - 399) / 400;
+    const std::int64_t yearOfEra = year - era * 400;
+    const std::int64_t dayOfYear = (153 * (month + (month > 2 ? -3 : 9)) + 2) / 5 + day - 1;
+    const std::int64_t dayOfEra = yearOfEra * 365 + yearOfEra / 4 - yearOfEra / 100 + dayOfYear;
+    return era * 146097 + dayOfEra - 719468;
+}
+
+void CivilFromDays(std::int64_t days, cDateParts& parts) {
+    days += 719468;
+    const std::int64_t era = (days >= 0 ? days : days - 146096) / 146097;
+    const std::int64_t dayOfEra = days - era * 146097;
+    const std::int64_t yearOfEra = (dayOfEra - dayOfEra / 1460 + dayOfEra / 36524 - dayOfEra / 146096) / 365;
+    const std::int64_t dayOfYear = dayOfEra - (365 * yearOfEra + yearOfEra / 4 - yearOfEra / 100);
+    const std::int64_t shifted = (5 * dayOfYear + 2) / 153;
+    parts.day = static_cast<int>(dayOfYear - (153 * shifted + 2) / 5 + 1);
+    parts.month = static_cast<int>(shifted < 10 ? shifted + 3 : shifted - 9);
+    parts.year = static_cast<int>(yearOfEra + era * 400 + (parts.month <= 2 ? 1 : 0));
+}
+
+constexpr std::int64_t kEpoch = 25569;       // 1970-01-01 as a day count from 1899-12-30
+constexpr std::int64_t kFirstDay = -657434;  // 0100-01-01
+constexpr std::int64_t kLastDay = 2958465;   // 9999-12-31
+
+}  // namespace
+
+cDateParts SplitDateTime(DateTime value) {
+    if (!(value > static_cast<double>(kFirstDay) - 1 && value < static_cast<double>(kLastDay) + 1)) {
+        throw cFailure(eFailure::Overflow, "a date-time lies outside the years 100 to 9999");
+    }
+    const double whole = std::trunc(value);
+    auto days = static_cast<std::int64_t>(whole);
+    auto seconds = static_cast<std::int64_t>(std::llround(std::fabs(value - whole) * 86400));
+    if (seconds == 86400) {
+        seconds = 0;
+        ++days;
+    }
+    cDateParts parts;
+    CivilFromDays(days - kEpoch, parts);
+    parts.hour = static_cast<int>(seconds / 3600);
+    parts.minute = static_cast<int>(seconds / 60 % 60);
+    parts.second = static_cast<int>(seconds % 60);
+    // Day 0, 1899-12-30, was a Saturday.
+    parts.weekday = static_cast<int>(((days + 6) % 7 + 7) % 7) + 1;
+    parts.dayOfYear = static_cast<int>(days - kEpoch - DaysFromCivil(parts.year, 1, 1)) + 1;
+    return parts;
+}
+
+DateTime DateSerial(int year, int month, int day) {
+    if (year >= 0 && year < 100) year += year < 30 ? 2000 : 1900;
+    const std::int64_t months = static_cast<std::int64_t>(year) * 12 + month - 1;
+    const std::int64_t carriedYear = months >= 0 ? months / 12 : (months - 11) / 12;
+    const std::int64_t days =
+        DaysFromCivil(carriedYear, static_cast<int>(months - carriedYear * 12) + 1, 1) + day - 1 + kEpoch;
+    if (days < kFirstDay || days > kLastDay) {
+        throw cFailure(eFailure::InvalidCall, "a date lies outside the years 100 to 9999");
+    }
+    return static_cast<DateTime>(days);
+}
+
+DateTime TimeSerial(int hour, int minute, int second) {
+    return (static_cast<double>(hour) * 3600 + static_cast<double>(minute) * 60 + second) / 86400;
+}
+
+DateTime DateOf(DateTime value) {
+    return std::trunc(value);
+}
+
+}  // namespace vigrel

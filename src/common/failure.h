@@ -1,0 +1,47 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <utility>
+
+namespace vigrel {
+
+// Numbers of the failures that the system tells apart.
+enum class eFailure {
+    InvalidCall = 5,
+    Overflow = 6,
+    OutOfBounds = 9,
+    TypeMismatch = 13,
+    FileNotFound = 53,
+    FileExists = 58,
+    DiskFull = 61,
+    PermissionDenied = 70,
+    PathAccess = 75,
+    InputOutput = 57,
+    ObjectMissing = 91,
+    Device = 440,
+};
+
+// The one exception type of the system.
+class cFailure : public std::runtime_error {
+  public:
+    cFailure(eFailure number, const std::string& description)
+        : std::runtime_error(description), m_Number(number) {}
+    eFailure Number() const { return m_Number; }
+
+  private:
+    eFailure m_Number;
+};
+
+// Runs one step whose failure is skipped, so that the next step runs all the same. True when it did not fail.
+template <class Statement>
+bool SkipFailure(Statement&& statement) {
+    try {
+        std::forward<Statement>(statement)();
+        return true;
+    } catch (const cFailure&) {
+        return false;
+    }
+}
+
+}  // namespace vigrel

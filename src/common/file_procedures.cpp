@@ -1,0 +1,77 @@
+#include "common/file_procedures.h"
+
+#include <utility>
+
+#include "common/failure.h"
+#include "common/text.h"
+
+namespace vigrel {
+
+cPathParts SplitPath(std::string_view path) {
+    const std::size_t separator = path.find_last_of("\\/");
+    if (separator == std::string_view::npos) return {"", std::string(path)};
+    return {std::string(path.substr(0, separator + 1)), std::string(path.substr(separator + 1))};
+}
+
+bool FileExists(const cFileReader& files, std::string_view path) {
+    const cPathParts parts = SplitPath(path);
+    if (parts.name.find_first_of("*?") != std::string::npos) {
+        return !files.ListFiles(parts.folder, parts.name).empty();
+    }
+    return !parts.name.empty() && parts.name[0] != '.' && files.FileExists(path);
+}
+
+cLineReader::cLineReader(std::string content) : m_Lines(SplitLines(content)) {}
+
+bool cLineReader::AtEnd() const {
+    if (!m_Open) throw cFailure(eFailure::InvalidCall, "the file is not open");
+    return m_Next >= m_Lines.size();
+}
+
+std::string cLineReader::ReadLine() {
+    if (AtEnd()) throw cFailure(eFailure::InputOutput, "reading behind the end of a file");
+    return m_Lines[m_Next++];
+}
+
+bool SafeEof(const cLineReader& reader) {
+    bool atEnd = true;
+    SkipFailure([&] { atEnd = reader.AtEnd(); });
+    return atEnd;
+}
+
+void CopyMissingFiles(cFiles& files, std::string_view sourceFolder, std::string_view targetFolder,
+                      std::string_view mask, std::string_view sourceExtension,
+                      std::string_view targetExtension) {
+    const std::string source(sourceFolder);
+    const std::string pattern = std::string(mask) + "." + std::string(sourceExtension);
+    for (const std::string& found : files.ListFiles(sourceFolder, pattern)) {
+        const std::string name = found.substr(0, found.find('.') + 1);
+        const std::string target = std::string(targetFolder) + name + std::string(targetExtension);
+        if (files.FileExists(target)) continue;
+        SkipFailure([&] {
+            ReplaceFile(files, target, files.ReadFile(source + name + std::string(sourceExtension)),
+                        eDurability::Synced);
+        });
+    }
+}
+
+void ReplaceFile(cFiles& files, std::string_view path, std::string_view bytes, eDurability durability) {
+    const bool synced = durability == eDurability::Synced;
+    const std::string temporary = std::string(path) + std::string(kTemporaryMask.substr(1));
+    try {
+        files.WriteFile(temporary, bytes, synced);
+        files.RenameFile(temporary, path);
+    } catch (const cFailure&) {
+        SkipFailure([&] { files.RemoveFile(temporary); });
+        throw;
+    }
+    if (synced) files.SyncFolder(SplitPath(path).folder);
+}
+
+void RemoveTemporaries(cFiles& files, std::string_view folder) {
+    for (const std::string& name : files.ListFiles(folder, kTemporaryMask)) {
+        SkipFailure([&] { files.RemoveFile(std::string(folder) + name); });
+    }
+}
+
+}  // namespace vigrel

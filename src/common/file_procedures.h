@@ -1,0 +1,59 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/files.h"
+
+namespace vigrel {
+
+// Whether the path names an ordinary file: no folder, not hidden. A mask in the last part is true when
+// anything matches. Never fails.
+bool FileExists(const cFileReader& files, std::string_view path);
+
+// A file being read line by line. A reader that is closed has no end to test; ReadLine at the end, or on a
+// closed reader, throws cFailure.
+class cLineReader {
+  public:
+    explicit cLineReader(std::string content);
+    bool AtEnd() const;  // throws cFailure when the reader is closed
+    std::string ReadLine();
+    void Close() { m_Open = false; }
+
+  private:
+    std::vector<std::string> m_Lines;
+    std::size_t m_Next = 0;
+    bool m_Open = true;
+};
+
+// Whether the reader is at its end; true when that can't be told, so that a reading loop ends.
+bool SafeEof(const cLineReader& reader);
+
+// Copies each file of the source folder that the mask and extension match to the target folder under the
+// target extension, unless a file of that name is there. A name is cut at its first ".". Both folders end in
+// a separator. Failures are skipped.
+void CopyMissingFiles(cFiles& files, std::string_view sourceFolder, std::string_view targetFolder,
+                      std::string_view mask, std::string_view sourceExtension,
+                      std::string_view targetExtension);
+
+// Splits a path in front of its last separator: folder with its separator, name.
+struct cPathParts {
+    std::string folder, name;
+};
+cPathParts SplitPath(std::string_view path);
+
+// Synced: when the call returns, the new content survives a crash. Atomic: a crash leaves the old file or the
+// new one, whole, and which of the two is left to the machine.
+enum class eDurability { Atomic, Synced };
+
+// Replaces a file as a whole: written to a temporary beside it, then renamed over it. On failure the old file
+// stands, the temporary is gone and cFailure is thrown.
+void ReplaceFile(cFiles& files, std::string_view path, std::string_view bytes, eDurability durability);
+
+// The mask of temporaries that a crash can have left in a folder; no mask that the system reads matches them.
+inline constexpr std::string_view kTemporaryMask = "*.vigrel-new";
+// Removes them. Failures are skipped.
+void RemoveTemporaries(cFiles& files, std::string_view folder);
+
+}  // namespace vigrel

@@ -1,0 +1,178 @@
+#include "common/ini.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+#include "common/code_page.h"
+#include "common/failure.h"
+#include "common/file_procedures.h"
+#include "common/text.h"
+
+namespace vigrel {
+namespace {
+
+constexpr std::size_t kBufferSize = 0x800;
+
+std::string TrimSpace(std::string_view text) {
+    const std::size_t first = text.find_first_not_of(" \t");
+    if (first == std::string_view::npos) return {};
+    return std::string(text.substr(first, text.find_last_not_of(" \t") - first + 1));
+}
+
+// The name of a header line for the keyed reads, which allow blanks before the bracket.
+std::optional<std::string> HeaderName(std::string_view line) {
+    const std::string trimmed = TrimSpace(line);
+    if (trimmed.empty() || trimmed[0] != '[') return std::nullopt;
+    return TrimSpace(std::string_view(trimmed).substr(1, trimmed.find(']') - 1));
+}
+
+struct cKeyLine {
+    std::string key, value;
+};
+
+std::optional<cKeyLine> KeyLine(std::string_view line) {
+    const std::string trimmed = TrimSpace(line);
+    if (trimmed.empty() || trimmed[0] == ';') return std::nullopt;
+    const std::size_t equals = trimmed.find('=');
+    if (equals == std::string::npos) return std::nullopt;
+    std::string value = TrimSpace(std::string_view(trimmed).substr(equals + 1));
+    if (value.size() >= 2 && (value[0] == '"' || value[0] == '\'') && value.back() == value[0]) {
+        value = value.substr(1, value.size() - 2);
+    }
+    return cKeyLine{TrimSpace(std::string_view(trimmed).substr(0, equals)), std::move(value)};
+}
+
+// Where a key of a section stands or would have to be put, by line index.
+struct cPlace {
+    std::optional<std::size_t> keyLine;
+    std::optional<std::size_t> behindSection;
+};
+
+cPlace FindPlace(const std::vector<std::string>& lines, std::string_view section, std::string_view key) {
+    cPlace place;
+    bool inside = false;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (const auto header = HeaderName(lines[i])) {
+            if (inside) break;
+            inside = EqualsNoCase(*header, section);
+            if (inside) place.behindSection = i + 1;
+        } else if (inside) {
+            const auto line = KeyLine(lines[i]);
+            if (line && EqualsNoCase(line->key, key)) {
+                place.keyLine = i;
+                break;
+            }
+            // A new key goes behind the last line that isn't blank, so that sections stay apart.
+            if (!TrimSpace(lines[i]).empty()) place.behindSection = i + 1;
+        }
+    }
+    return place;
+}
+
+}  // namespace
+
+cIni::cIni(cFiles& files, std::string applicationPath)
+    : m_Files(files), m_ApplicationPath(std::move(applicationPath)) {}
+
+const cIni::cParsed& cIni::Parsed(std::string_view fileName) const {
+    const std::string path = FullPath(fileName);
+    const auto stamp = m_Files.Stamp(path);
+    cParsed& parsed = m_Cache[ToUpper(fileName)];
+    if (parsed.stamp == stamp) return parsed;
+    parsed = {stamp, {}};
+    std::string content;
+    SkipFailure([&] { content = m_Files.ReadFile(path); });
+    auto* section = static_cast<std::map<std::string, std::string, std::less<>>*>(nullptr);
+    for (const std::string& line : SplitLines(content)) {
+        if (const auto header = HeaderName(line)) {
+            const auto added = parsed.sections.try_emplace(ToUpper(*header));
+            section = added.second ? &added.first->second : nullptr;
+        } else if (section != nullptr) {
+            if (auto entry = KeyLine(line))
+                section->try_emplace(ToUpper(entry->key), std::move(entry->value));
+        }
+    }
+    return parsed;
+}
+
+std::string cIni::GetIniString(std::string_view section, std::string_view key, std::string_view defaultValue,
+                               std::string_view fileName) const {
+    const cParsed& parsed = Parsed(fileName);
+    std::string_view value = defaultValue;
+    if (const auto found = parsed.sections.find(ToUpper(TrimSpace(section)));
+        found != parsed.sections.end()) {
+        const auto entry = found->second.find(ToUpper(TrimSpace(key)));
+        if (entry != found->second.end()) value = entry->second;
+    }
+    return std::string(value.substr(0, kBufferSize - 1));
+}
+
+void cIni::PutIniString(std::string_view section, std::string_view key, std::string_view value,
+                        std::string_view fileName) {
+    const std::string path = FullPath(fileName);
+    std::vector<std::string> lines;
+    if (m_Files.Stamp(path).size >= 0) {
+        // A file that is there and can't be read must not be replaced by one line.
+        if (!SkipFailure([&] { lines = SplitLines(m_Files.ReadFile(path)); })) return;
+    }
+    const cPlace place = FindPlace(lines, section, key);
+    const std::string entry = std::string(key) + "=" + std::string(value);
+    if (place.keyLine) {
+        lines[*place.keyLine] = entry;
+    } else if (place.behindSection) {
+        lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(*place.behindSection), entry);
+    } else {
+        lines.push_back("[" + std::string(section) + "]");
+        lines.push_back(entry);
+    }
+    std::string content;
+    for (const std::string& line : lines) content += line + "\r\n";
+    SkipFailure([&] { ReplaceFile(m_Files, path, content, eDurability::Synced); });
+}
+
+std::int32_t ReadIniSection(const cFileReader& files, std::string_view section, std::string& buffer,
+                            std::size_t bufferSize, std::string_view fullPath) {
+    std::size_t offset = 0;
+    bool overflow = false;
+    const auto store = [&](std::string_view entry) {
+        overflow = overflow || offset + entry.size() + 1 >= bufferSize;
+        if (overflow) return;
+        buffer.replace(offset, entry.size() + 1, std::string(entry) + '\0');
+        offset += entry.size() + 1;
+    };
+    const bool read = SkipFailure([&] {
+        cLineReader lines(files.ReadFile(fullPath));
+        bool inside = false;
+        while (!SafeEof(lines)) {
+            const std::string line = lines.ReadLine();
+            const std::size_t close = line.find(']');
+            const bool header = !line.empty() && line[0] == '[' && close != std::string::npos;
+            if (header && section.empty()) {
+                store(std::string_view(line).substr(1, close - 1));
+            } else if (header) {
+                if (inside) break;
+                inside = EqualsNoCase(std::string_view(line).substr(1, close - 1), section);
+            } else if (inside && !line.empty() && line[0] != ';') {
+                store(line);
+            }
+        }
+    });
+    return read ? static_cast<std::int32_t>(offset) : 0;
+}
+
+cIniEntries ReadIniEntries(const cFileReader& files, std::string_view section, std::size_t bufferSize,
+                           std::string_view fullPath) {
+    std::string buffer(bufferSize, ' ');
+    cIniEntries result;
+    result.characters = ReadIniSection(files, section, buffer, bufferSize, fullPath);
+    std::string_view rest = std::string_view(buffer).substr(0, static_cast<std::size_t>(result.characters));
+    while (!rest.empty()) {
+        const std::size_t end = rest.find('\0');
+        result.entries.emplace_back(rest.substr(0, end));
+        rest.remove_prefix(end + 1);
+    }
+    return result;
+}
+
+}  // namespace vigrel

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/files.h"
+
+namespace vigrel {
+
+// The name of the configuration file, in the application folder.
+inline constexpr std::string_view kIniFile = "VigrelReceiver.INI";
+
+// Reads and writes INI-shaped files of the application folder.
+//
+// Sections and keys match without regard to case; of a repeated section or key only the first counts. A value
+// is what stands behind the first "=" without the blanks around it and without one pair of enclosing quotes.
+// Lines whose first non-blank is ";" are comments. Every read sees the file as it is now; an unchanged file
+// is not read again.
+class cIni {
+  public:
+    // m_ApplicationPath ends in a backslash.
+    cIni(cFiles& files, std::string applicationPath);
+
+    const std::string& ApplicationPath() const { return m_ApplicationPath; }
+    std::string FullPath(std::string_view fileName) const {
+        return m_ApplicationPath + std::string(fileName);
+    }
+
+    // At most 2,047 characters. A missing file, section or key gives the default.
+    std::string GetIniString(std::string_view section, std::string_view key, std::string_view defaultValue,
+                             std::string_view fileName = kIniFile) const;
+    // Creates file, section and key as needed, and keeps every other line. A failed write is silent.
+    void PutIniString(std::string_view section, std::string_view key, std::string_view value,
+                      std::string_view fileName = kIniFile);
+
+  private:
+    struct cParsed {
+        cFileReader::cStamp stamp;
+        // Upper-cased section, then upper-cased key.
+        std::map<std::string, std::map<std::string, std::string, std::less<>>, std::less<>> sections;
+    };
+    const cParsed& Parsed(std::string_view fileName) const;
+
+    cFiles& m_Files;
+    std::string m_ApplicationPath;
+    mutable std::map<std::string, cParsed, std::less<>> m_Cache;
+};
+
+// Reads section names (an empty section), or the lines of one section, from a file into the caller's buffer,
+// which already has its full size. Each entry is followed by one character of code 0. An entry is stored only
+// while offset
+// + its length + 1 stays below the buffer size; the first that doesn't fit ends the storing. Lines of a
+// section are kept as they stand, but for comment lines (a ";" in the first column) and empty ones; the next
+// header line ends the section, and only the first section of a name counts. The result is the number of
+// characters stored, the zeros included; 0 on any failure.
+std::int32_t ReadIniSection(const cFileReader& files, std::string_view section, std::string& buffer,
+                            std::size_t bufferSize, std::string_view fullPath);
+
+// The same as a list of entries.
+struct cIniEntries {
+    std::vector<std::string> entries;
+    std::int32_t characters = 0;  // as ReadIniSection counts them
+};
+cIniEntries ReadIniEntries(const cFileReader& files, std::string_view section, std::size_t bufferSize,
+                           std::string_view fullPath);
+
+}  // namespace vigrel

@@ -1,0 +1,41 @@
+#include "common/log.h"
+
+#include "common/code_page.h"
+#include "common/dates.h"
+#include "common/failure.h"
+#include "common/numbers.h"
+#include "common/text.h"
+
+namespace vigrel {
+
+cLog::cLog(cFiles& files, const cClock& clock, const cTexts& texts, std::string applicationPath)
+    : m_Files(files), m_Clock(clock), m_Texts(texts), m_Folder(std::move(applicationPath) + "LogFiles\\") {}
+
+void cLog::WriteLog(std::string_view text) {
+    SkipFailure([&] {
+        const cLocaleForms forms;
+        const std::string name = FormatDateTime(m_Clock.Now(), "yyyymmdd", forms) + ".Log";
+        // The time is read anew: a call that runs across midnight may stamp 00:00:00 into the old day's file.
+        const std::string line =
+            FormatDateTime(m_Clock.Now(), "hh\\:nn\\:ss", forms) + " " + std::string(text);
+        m_Files.AppendFile(m_Folder + name, line + "\r\n");
+    });
+}
+
+void cLog::CleanLogFiles(std::string_view mask, std::int16_t keepForDays) {
+    for (const std::string& found : m_Files.ListFiles(m_Folder, mask)) {
+        const std::string name = ToUpper(found);
+        const std::string stem = name.substr(0, name.find(".LOG"));
+        if (stem.size() != 8 || !IsNumeric(stem)) continue;
+        const cDateParts now = SplitDateTime(m_Clock.Now());
+        const double age = (now.year - Val(Mid(stem, 1, 4))) * 365 + (now.month - Val(Mid(stem, 5, 2))) * 30 +
+                           (now.day - Val(Mid(stem, 7, 2)));
+        if (age <= keepForDays) continue;
+        const std::string path = m_Folder + stem + ".LOG";
+        m_Files.SetNormalAttributes(path);
+        m_Files.RemoveFile(path);
+        WriteLog(m_Texts.GetText(141) + " " + path + ")");
+    }
+}
+
+}  // namespace vigrel

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "common/ini.h"
+
+namespace vigrel {
+
+// Every language file is named "Vigrel_Texts." and a number of three digits.
+inline constexpr std::string_view kTextFile = "Vigrel_Texts.";
+
+// The texts that the program shows and logs, by number.
+class cTexts {
+  public:
+    cTexts(const cFileReader& files, const cIni& ini) : m_Files(files), m_Ini(ini) {}
+
+    // Reads the file of the language that the settings name. False when no language is set or its file is
+    // missing.
+    bool LoadTexts();
+    // The text of an id; never empty: an id that no line has, and an id without text, give a text that says
+    // so.
+    std::string GetText(std::int32_t id) const;
+
+  private:
+    struct cRow {
+        std::int32_t id, start, length;
+    };
+    const cFileReader& m_Files;
+    const cIni& m_Ini;
+    std::string m_Texts;            // all texts, one behind the other
+    std::vector<cRow> m_TextIndex;  // start counts from 1
+};
+
+}  // namespace vigrel

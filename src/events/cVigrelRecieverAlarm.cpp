@@ -1,0 +1,52 @@
+#include "events/cVigrelRecieverAlarm.h"
+
+namespace vigrel {
+namespace {
+
+constexpr int kSpareStrings = 10;
+constexpr std::size_t kReserved = 40;
+
+const char* StateWord(std::int16_t status) {
+    switch (status) {
+        case StatusInactive:
+            return "Inactive";
+        case StatusActive:
+            return "Active";
+        case StatusAcked:
+            return "Acked";
+        case StatusMessage:
+            return "Message";
+        default:
+            return "";
+    }
+}
+
+}  // namespace
+
+std::string cVigrelRecieverAlarm::SysLogText() const {
+    std::string text = std::string(StateWord(m_Alarm.m_Status)) + " - " + m_Alarm.GetCondition(0) + " (";
+    for (int i = 1; i <= 4; ++i) text += m_Alarm.GetCondition(i) + (i < 4 ? "/" : ")");
+    return text;
+}
+
+void cVigrelRecieverAlarm::WriteToDisk(cBinaryWriter& file) const {
+    m_Alarm.WriteToDisk(file);
+    file.String(m_Sender);
+    file.Int16(m_Observed);
+    file.Double(m_CreatedTime);
+    file.Int32(m_FileId);
+    for (int i = 0; i < kSpareStrings; ++i) file.String("");
+    file.Zeros(kReserved);
+}
+
+void cVigrelRecieverAlarm::ReadFromDisk(cBinaryReader& file) {
+    m_Alarm.ReadFromDisk(file);
+    m_Sender = file.String();
+    m_Observed = file.Int16();
+    m_CreatedTime = file.Double();
+    m_FileId = file.Int32();
+    for (int i = 0; i < kSpareStrings; ++i) file.String();
+    file.Skip(kReserved);
+}
+
+}  // namespace vigrel

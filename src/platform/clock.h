@@ -1,0 +1,16 @@
+#pragma once
+
+namespace vigrel {
+
+// A date-time: days since 1899-12-30, the fraction being the time of day, in the machine's local time.
+using DateTime = double;
+
+// The one source of time. Nothing else in the system asks the machine what time it is.
+class cClock {
+  public:
+    virtual ~cClock() = default;
+    // Local date and time now, with sub-second resolution. Does not fail.
+    virtual DateTime Now() const = 0;
+};
+
+}  // namespace vigrel

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace vigrel {
+
+// The listening end. It accepts nothing itself; it reports each peer that knocks with an id, which a
+// cDataSocket takes over. An id that nobody accepts before the event returns is closed.
+class cListener {
+  public:
+    virtual ~cListener() = default;
+    virtual void SetLocalPort(std::int32_t port) = 0;
+    // Listens on every local address, IPv4 and IPv6. Throws cFailure when the port can't be opened.
+    virtual void Listen() = 0;
+
+    std::function<void(std::int32_t requestId)> OnConnectionRequest;
+};
+
+// One connection carrying bytes, each byte being one character.
+class cDataSocket {
+  public:
+    virtual ~cDataSocket() = default;
+    // 0 when closed, any other value otherwise.
+    virtual int State() const = 0;
+    // Ends the connection and forgets what was received and not yet fetched. Bytes already sent still go out.
+    // No event follows.
+    virtual void Close() = 0;
+    // Takes over the connection of a request. The socket must be closed. Throws cFailure for an unknown id.
+    virtual void Accept(std::int32_t requestId) = 0;
+    // Everything received since the last fetch; at most a few KiB, since no more is read in one turn.
+    virtual std::string Fetch() = 0;
+    // Queues the bytes and hands them to the network at once. Throws cFailure when the socket is not
+    // connected.
+    virtual void Send(std::string_view bytes) = 0;
+
+    // Events, delivered from the event loop. OnError comes also for a stream that went on for more than 1 MiB
+    // without a line feed.
+    std::function<void()> OnDataArrival;
+    std::function<void()> OnClosed;
+    std::function<void()> OnError;
+};
+
+}  // namespace vigrel

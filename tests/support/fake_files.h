@@ -1,0 +1,72 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <set>
+#include <string>
+
+#include "platform/files.h"
+
+namespace vigrel::testing {
+
+// A file system in memory that keeps apart what was written and what would survive a crash.
+//
+// Folders: "C:\App\" style or "/app/" style paths alike; names are compared by upper case. Every mutating
+// call counts one; a test makes call number n fail, fills the disk, or takes the power away.
+class cFakeFiles : public cFiles {
+  public:
+    // --- cFiles
+    bool FileExists(std::string_view path) const override;
+    std::string ReadFile(std::string_view path) const override;
+    std::vector<std::string> ListFiles(std::string_view folder, std::string_view mask) const override;
+    cStamp Stamp(std::string_view path) const override;
+    void WriteFile(std::string_view path, std::string_view bytes, bool sync) override;
+    void AppendFile(std::string_view path, std::string_view bytes) override;
+    void RemoveFile(std::string_view path) override;
+    void RenameFile(std::string_view from, std::string_view to) override;
+    void SyncFolder(std::string_view folder) override;
+    void MakeFolder(std::string_view path) override;
+    void SetNormalAttributes(std::string_view path) override;
+
+    // --- for tests
+    // Puts a durable file in place, with its folders.
+    void Put(std::string_view path, std::string_view bytes);
+    void PutFolder(std::string_view path);
+    bool HasFolder(std::string_view path) const;
+    // Every path with its spelling, sorted.
+    std::vector<std::string> AllPaths() const;
+    // Back to what would be on the disk after a power failure: unsynced bytes and names are gone.
+    void Crash();
+    void SetReadOnly(std::string_view path, bool readOnly);
+    void SetUnreadable(std::string_view path, bool unreadable);
+
+    int m_Calls = 0;                // mutating calls so far
+    int m_FailCall = -1;            // the call of this number (from 0) fails; -1: none
+    bool m_DiskFull = false;        // writes fail, leaving a partial file
+    bool m_FolderReadOnly = false;  // creating, renaming and removing fails
+    std::function<void(std::string_view operation, std::string_view path)> m_OnCall;
+
+  private:
+    struct cFile {
+        std::string path;  // with its spelling
+        std::string bytes;
+        std::int64_t inode = 0, modified = 0;
+        bool readOnly = false, unreadable = false;
+    };
+    using Names = std::map<std::string, std::int64_t>;  // folded path -> inode
+    void Count(std::string_view operation, std::string_view path);
+    const cFile* Find(std::string_view path) const;
+    cFile& Create(std::string_view path);
+
+    Names m_Names, m_DurableNames;
+    std::map<std::int64_t, cFile> m_Inodes;  // what programs see
+    std::map<std::int64_t, std::string> m_DurableBytes;
+    std::map<std::int64_t, std::string> m_DurableSpelling;
+    std::set<std::string> m_Folders;
+    std::int64_t m_NextInode = 1, m_Clock = 1;
+};
+
+// Whether a name fits a mask of "?" and "*", without regard to case.
+bool FitsMask(std::string_view name, std::string_view mask);
+
+}  // namespace vigrel::testing
