@@ -23,20 +23,24 @@ function(vigrel_library name)
   endif()
 endfunction()
 
-# vigrel_tests(name [DEPENDS lib...] [LABELS label...] [ENVIRONMENT var=value...]):
-# every *_test.cpp of the calling folder as the test program <name>_tests.
+# vigrel_tests(name [DEPENDS lib...] [LABEL label] [ENVIRONMENT var=value]): every *.cpp of the calling folder as the
+# test program <name>_tests. The label is the name unless given.
 function(vigrel_tests name)
-  cmake_parse_arguments(arg "" "" "DEPENDS;LABELS;ENVIRONMENT" ${ARGN})
+  cmake_parse_arguments(arg "" "LABEL;ENVIRONMENT" "DEPENDS" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
   if(NOT sources)
     return()
   endif()
+  if(NOT arg_LABEL)
+    set(arg_LABEL ${name})
+  endif()
+  if(NOT arg_ENVIRONMENT)
+    set(arg_ENVIRONMENT TZ=Europe/Stockholm)
+  endif()
   add_executable(${name}_tests ${sources})
   target_include_directories(${name}_tests PRIVATE ${PROJECT_SOURCE_DIR}/tests)
   target_link_libraries(${name}_tests PRIVATE vigrel_flags ${arg_DEPENDS} GTest::gtest GTest::gtest_main)
-  gtest_discover_tests(${name}_tests
-    TEST_PREFIX "${name}."
-    DISCOVERY_TIMEOUT 60
-    PROPERTIES LABELS "${arg_LABELS}" ENVIRONMENT "${arg_ENVIRONMENT};TZ=Europe/Stockholm;LC_ALL=C.UTF-8" TIMEOUT 300)
+  gtest_discover_tests(${name}_tests TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 60
+    PROPERTIES LABELS ${arg_LABEL} ENVIRONMENT ${arg_ENVIRONMENT} TIMEOUT 300)
 endfunction()
 include(GoogleTest)
