@@ -41,6 +41,7 @@ class cReportList {
     // --- records
     // The tag is whatever the owner of the record wants to find again; the list only keeps it.
     virtual RecordId AddRecord(std::shared_ptr<void> tag) = 0;
+    // A row of the record is gone with it.
     virtual void RemoveRecord(RecordId record) = 0;
     virtual void RemoveAllRecords() = 0;
     virtual int RecordCount() const = 0;
@@ -70,8 +71,8 @@ class cReportList {
     virtual void SelectAndShow(RecordId record) = 0;
     virtual void SetVisible(bool visible) = 0;
 
-    // --- sort order: by the item values of one column; text by the upper-cased code page, equal values by
-    // age
+    // --- sort order: by the item values of the columns added; text by the upper-cased code page, numbers in
+    // front of texts. Equal values by the records' age, in the direction of the last column added.
     virtual void ClearSortOrder() = 0;
     virtual void AddSortColumn(int column, bool ascending) = 0;
 

@@ -1,0 +1,214 @@
+#include "support/fake_report_list.h"
+
+#include <algorithm>
+
+#include "common/code_page.h"
+#include "common/failure.h"
+
+namespace vigrel::testing {
+namespace {
+
+template <class Container>
+auto& Element(Container& container, int index, const char* what) {
+    if (index < 0 || static_cast<std::size_t>(index) >= container.size()) {
+        throw cFailure(eFailure::OutOfBounds, std::string("no ") + what + " " + std::to_string(index));
+    }
+    return container[static_cast<std::size_t>(index)];
+}
+
+// Below, equal to or above 0. Numbers stand in front of texts.
+int CompareValues(const ItemValue& a, const ItemValue& b) {
+    if (a.index() != b.index()) return std::holds_alternative<double>(a) ? -1 : 1;
+    if (const double* number = std::get_if<double>(&a)) {
+        return *number < std::get<double>(b) ? -1 : *number > std::get<double>(b) ? 1 : 0;
+    }
+    return ToUpper(std::get<std::string>(a)).compare(ToUpper(std::get<std::string>(b)));
+}
+
+}  // namespace
+
+void cFakeReportList::Note(const std::string& step) const {
+    if (m_Transcript) m_Transcript->Add("list: " + step);
+}
+
+const cFakeReportList::cColumn& cFakeReportList::Column(int column) const {
+    return Element(m_Columns, column, "column");
+}
+cFakeReportList::cColumn& cFakeReportList::MutableColumn(int column) {
+    return Element(m_Columns, column, "column");
+}
+
+int cFakeReportList::AddColumn(std::string_view caption, int width) {
+    cColumn column;
+    column.caption = caption;
+    column.width = width;
+    m_Columns.push_back(column);
+    return ColumnCount() - 1;
+}
+void cFakeReportList::SetColumnTag(int column, std::string_view tag) {
+    MutableColumn(column).tag = tag;
+}
+std::string cFakeReportList::ColumnTag(int column) const {
+    return Column(column).tag;
+}
+void cFakeReportList::SetColumnWidth(int column, int width) {
+    DragColumn(column, width);
+}
+int cFakeReportList::ColumnWidth(int column) const {
+    return Column(column).width;
+}
+void cFakeReportList::SetColumnResizable(int column, bool resizable) {
+    MutableColumn(column).resizable = resizable;
+}
+void cFakeReportList::SetColumnSortable(int column, bool sortable) {
+    MutableColumn(column).sortable = sortable;
+}
+void cFakeReportList::SetColumnPlacement(int column, int cells, int header) {
+    MutableColumn(column).cellPlacement = cells;
+    MutableColumn(column).headerPlacement = header;
+}
+
+const cFakeReportList::cRecord& cFakeReportList::Record(RecordId record) const {
+    const auto found = m_Records.find(record);
+    if (found == m_Records.end()) {
+        throw cFailure(eFailure::ObjectMissing, "no record " + std::to_string(record));
+    }
+    return found->second;
+}
+const cFakeReportList::cItem& cFakeReportList::Item(RecordId record, int item) const {
+    return Element(Record(record).items, item, "item");
+}
+cFakeReportList::cItem& cFakeReportList::MutableItem(RecordId record, int item) {
+    Record(record);
+    return Element(m_Records.at(record).items, item, "item");
+}
+
+RecordId cFakeReportList::AddRecord(std::shared_ptr<void> tag) {
+    m_Records[m_NextRecord].tag = std::move(tag);
+    return m_NextRecord++;
+}
+void cFakeReportList::RemoveRecord(RecordId record) {
+    Record(record);
+    m_Records.erase(record);
+    m_Selected.erase(record);
+    std::erase(m_Rows, record);
+    Note("record " + std::to_string(record) + " removed");
+}
+void cFakeReportList::RemoveAllRecords() {
+    m_Records.clear();
+    m_Selected.clear();
+    m_Rows.clear();
+    Note("all records removed");
+}
+std::shared_ptr<void> cFakeReportList::RecordTag(RecordId record) const {
+    return Record(record).tag;
+}
+void cFakeReportList::AddItem(RecordId record) {
+    Record(record);
+    m_Records.at(record).items.emplace_back();
+}
+int cFakeReportList::ItemCount(RecordId record) const {
+    return static_cast<int>(Record(record).items.size());
+}
+void cFakeReportList::SetItemValue(RecordId record, int item, ItemValue value) {
+    MutableItem(record, item).value = std::move(value);
+}
+ItemValue cFakeReportList::GetItemValue(RecordId record, int item) const {
+    return Item(record, item).value;
+}
+void cFakeReportList::SetItemCaption(RecordId record, int item, std::string_view caption) {
+    MutableItem(record, item).caption = caption;
+    MutableItem(record, item).hasCaption = true;
+}
+void cFakeReportList::SetItemColours(RecordId record, int item, std::int32_t text, std::int32_t back) {
+    cItem& target = MutableItem(record, item);
+    target.hasColours = true;
+    target.textColour = text;
+    target.backColour = back;
+}
+void cFakeReportList::SetItemIcon(RecordId record, int item, int icon) {
+    MutableItem(record, item).icon = icon;
+}
+
+int cFakeReportList::Compare(RecordId a, RecordId b) const {
+    for (const cSortColumn& sort : m_SortColumns) {
+        const auto value = [&](RecordId record) {
+            return sort.column < ItemCount(record) ? GetItemValue(record, sort.column) : ItemValue{};
+        };
+        const int order = CompareValues(value(a), value(b));
+        if (order != 0) return sort.ascending ? order : -order;
+    }
+    const int age = a < b ? -1 : a > b ? 1 : 0;
+    return m_SortColumns.empty() || m_SortColumns.back().ascending ? age : -age;
+}
+
+void cFakeReportList::TakeOverRecords() {
+    m_Rows.clear();
+    for (const auto& [id, record] : m_Records) m_Rows.push_back(id);
+    std::sort(m_Rows.begin(), m_Rows.end(), [this](RecordId a, RecordId b) { return Compare(a, b) < 0; });
+    Note("take over " + std::to_string(m_Rows.size()) + (m_Rows.size() == 1 ? " row" : " rows"));
+}
+void cFakeReportList::Redraw() {
+    Note("redraw");
+}
+std::vector<RecordId> cFakeReportList::SelectedRows() {
+    std::vector<RecordId> rows;
+    std::copy_if(m_Rows.begin(), m_Rows.end(), std::back_inserter(rows),
+                 [this](RecordId row) { return m_Selected.contains(row); });
+    return rows;
+}
+void cFakeReportList::SelectAllRows() {
+    m_Selected.insert(m_Rows.begin(), m_Rows.end());
+    Note("select all");
+}
+void cFakeReportList::ClearSelection() {
+    m_Selected.clear();
+    Note("clear selection");
+}
+void cFakeReportList::SelectAndShow(RecordId record) {
+    if (std::find(m_Rows.begin(), m_Rows.end(), record) == m_Rows.end()) return;
+    m_Selected.insert(record);
+    Note("show record " + std::to_string(record));
+}
+void cFakeReportList::AddSortColumn(int column, bool ascending) {
+    Column(column);
+    m_SortColumns.push_back({column, ascending});
+}
+void cFakeReportList::SetFont(std::string_view name, double points) {
+    m_FontName = name;
+    m_FontPoints = points;
+}
+
+void cFakeReportList::DragColumn(int column, int width) {
+    if (MutableColumn(column).width == width) return;
+    MutableColumn(column).width = width;
+    if (OnColumnWidthChanged) OnColumnWidthChanged(column);
+}
+void cFakeReportList::DoubleClick(RecordId record) {
+    if (OnRowDoubleClick) OnRowDoubleClick(record);
+}
+void cFakeReportList::PressKey(int keyCode, int shift) {
+    if (OnKeyDown) OnKeyDown(keyCode, shift);
+}
+void cFakeReportList::LoseFocus() {
+    if (OnFocusChange) OnFocusChange();
+}
+cReportList::cFontStyle cFakeReportList::DrawnStyle(RecordId record) {
+    cFontStyle style = m_Style;
+    if (OnBeforeDrawRow) OnBeforeDrawRow(record, style);
+    return style;
+}
+std::string cFakeReportList::Screen() const {
+    std::string screen;
+    for (const RecordId row : m_Rows) {
+        std::string line;
+        for (const cItem& item : Record(row).items) {
+            line += (line.empty() && &item == &Record(row).items.front() ? "" : "|") + item.caption;
+            if (item.icon >= 0) line += "#" + std::to_string(item.icon);
+        }
+        screen += line + "\n";
+    }
+    return screen;
+}
+
+}  // namespace vigrel::testing

@@ -1,0 +1,116 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "platform/report_list.h"
+#include "support/transcript.h"
+
+namespace vigrel::testing {
+
+// A report list in memory, complete but for the painting. The transcript tells what an operator would notice:
+// rows taken over, rows brought into view, selection, redrawing.
+class cFakeReportList : public cReportList {
+  public:
+    explicit cFakeReportList(cTranscript* transcript = nullptr) : m_Transcript(transcript) {}
+
+    int ColumnCount() const override { return static_cast<int>(m_Columns.size()); }
+    int AddColumn(std::string_view caption, int width) override;
+    void SetColumnTag(int column, std::string_view tag) override;
+    std::string ColumnTag(int column) const override;
+    void SetColumnWidth(int column, int width) override;
+    int ColumnWidth(int column) const override;
+    void SetColumnResizable(int column, bool resizable) override;
+    void SetColumnSortable(int column, bool sortable) override;
+    void SetColumnPlacement(int column, int cells, int header) override;
+
+    RecordId AddRecord(std::shared_ptr<void> tag) override;
+    void RemoveRecord(RecordId record) override;
+    void RemoveAllRecords() override;
+    int RecordCount() const override { return static_cast<int>(m_Records.size()); }
+    std::shared_ptr<void> RecordTag(RecordId record) const override;
+    void AddItem(RecordId record) override;
+    int ItemCount(RecordId record) const override;
+    void SetItemValue(RecordId record, int item, ItemValue value) override;
+    ItemValue GetItemValue(RecordId record, int item) const override;
+    void SetItemCaption(RecordId record, int item, std::string_view caption) override;
+    void SetItemColours(RecordId record, int item, std::int32_t text, std::int32_t back) override;
+    void SetItemIcon(RecordId record, int item, int icon) override;
+
+    void TakeOverRecords() override;
+    void Redraw() override;
+    std::vector<RecordId> Rows() override { return m_Rows; }
+    std::vector<RecordId> SelectedRows() override;
+    void SelectAllRows() override;
+    void ClearSelection() override;
+    void SelectAndShow(RecordId record) override;
+    void SetVisible(bool visible) override { m_Visible = visible; }
+
+    void ClearSortOrder() override { m_SortColumns.clear(); }
+    void AddSortColumn(int column, bool ascending) override;
+
+    void SetFont(std::string_view name, double points) override;
+    void SetFontStyle(bool bold, bool italic) override { m_Style = {bold, italic}; }
+    double FontPoints() const override { return m_FontPoints; }
+    void SetEmptyText(std::string_view text) override { m_EmptyText = text; }
+
+    // --- for tests
+    struct cColumn {
+        std::string caption, tag;
+        int width = 0;
+        bool resizable = true, sortable = true;
+        int cellPlacement = 0, headerPlacement = 0;
+    };
+    struct cItem {
+        ItemValue value;
+        std::string caption;
+        bool hasCaption = false, hasColours = false;
+        std::int32_t textColour = 0, backColour = 0;
+        int icon = -1;
+    };
+    const cColumn& Column(int column) const;
+    const cItem& Item(RecordId record, int item) const;
+    // The operator's doings.
+    void Select(RecordId record) { m_Selected.insert(record); }
+    void DragColumn(int column, int width);
+    void DoubleClick(RecordId record);
+    void PressKey(int keyCode, int shift = 0);
+    void LoseFocus();
+    // The style with which a row is drawn.
+    cFontStyle DrawnStyle(RecordId record);
+    // The rows in display order, one a line: the captions joined by "|", an icon as "#27".
+    std::string Screen() const;
+
+    std::string m_FontName, m_EmptyText;
+    double m_FontPoints = 8;
+    cFontStyle m_Style;
+    bool m_Visible = true;
+
+  private:
+    struct cRecord {
+        std::shared_ptr<void> tag;
+        std::vector<cItem> items;
+    };
+    struct cSortColumn {
+        int column;
+        bool ascending;
+    };
+    cColumn& MutableColumn(int column);
+    const cRecord& Record(RecordId record) const;
+    cItem& MutableItem(RecordId record, int item);
+    int Compare(RecordId a, RecordId b) const;
+    void Note(const std::string& step) const;
+
+    cTranscript* m_Transcript;
+    std::vector<cColumn> m_Columns;
+    std::map<RecordId, cRecord> m_Records;
+    std::vector<RecordId> m_Rows;
+    std::set<RecordId> m_Selected;
+    std::vector<cSortColumn> m_SortColumns;
+    RecordId m_NextRecord = 1;
+};
+
+}  // namespace vigrel::testing
