@@ -6,6 +6,13 @@
 #include "common/text.h"
 
 namespace vigrel {
+namespace {
+
+std::string TemporaryName(std::string_view path) {
+    return std::string(path) + std::string(kTemporaryMask.substr(1));
+}
+
+}  // namespace
 
 cPathParts SplitPath(std::string_view path) {
     const std::size_t separator = path.find_last_of("\\/");
@@ -49,23 +56,43 @@ void CopyMissingFiles(cFiles& files, std::string_view sourceFolder, std::string_
         const std::string target = std::string(targetFolder) + name + std::string(targetExtension);
         if (files.FileExists(target)) continue;
         SkipFailure([&] {
-            ReplaceFile(files, target, files.ReadFile(source + name + std::string(sourceExtension)),
-                        eDurability::Synced);
+            ReplaceFile(files, target, files.ReadFile(source + name + std::string(sourceExtension)));
         });
     }
 }
 
-void ReplaceFile(cFiles& files, std::string_view path, std::string_view bytes, eDurability durability) {
-    const bool synced = durability == eDurability::Synced;
-    const std::string temporary = std::string(path) + std::string(kTemporaryMask.substr(1));
+void ReplaceFile(cFiles& files, std::string_view path, std::string_view bytes) {
+    const std::string temporary = TemporaryName(path);
     try {
-        files.WriteFile(temporary, bytes, synced);
+        files.WriteFile(temporary, bytes, true);
         files.RenameFile(temporary, path);
     } catch (const cFailure&) {
         SkipFailure([&] { files.RemoveFile(temporary); });
         throw;
     }
-    if (synced) files.SyncFolder(SplitPath(path).folder);
+    files.SyncFolder(SplitPath(path).folder);
+}
+
+bool cReplaceBatch::Add(std::string_view path, std::string_view bytes) {
+    const std::string temporary = TemporaryName(path);
+    if (SkipFailure([&] { m_Files.WriteFile(temporary, bytes, false); })) {
+        m_Paths.emplace_back(path);
+        return true;
+    }
+    SkipFailure([&] { m_Files.RemoveFile(temporary); });
+    return false;
+}
+
+bool cReplaceBatch::Commit() {
+    // No name may come to stand for bytes that the disk doesn't have yet.
+    bool done = SkipFailure([&] { m_Files.SyncFileSystem(m_Folder); });
+    for (const std::string& path : m_Paths) {
+        const std::string temporary = TemporaryName(path);
+        if (done && SkipFailure([&] { m_Files.RenameFile(temporary, path); })) continue;
+        SkipFailure([&] { m_Files.RemoveFile(temporary); });
+        done = false;
+    }
+    return SkipFailure([&] { m_Files.SyncFolder(m_Folder); }) && done;
 }
 
 void RemoveTemporaries(cFiles& files, std::string_view folder) {

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/files.h"
@@ -43,16 +44,29 @@ struct cPathParts {
 };
 cPathParts SplitPath(std::string_view path);
 
-// Synced: when the call returns, the new content survives a crash. Atomic: a crash leaves the old file or the
-// new one, whole, and which of the two is left to the machine.
-enum class eDurability { Atomic, Synced };
+// Replaces a file as a whole: written to a temporary beside it, synced, renamed over it, and the folder
+// synced. When the call returns the new content survives a crash; a crash before that leaves the old file or
+// the new one, whole. On failure cFailure is thrown and the temporary is gone.
+void ReplaceFile(cFiles& files, std::string_view path, std::string_view bytes);
 
-// Replaces a file as a whole: written to a temporary beside it, then renamed over it. On failure the old file
-// stands, the temporary is gone and cFailure is thrown.
-void ReplaceFile(cFiles& files, std::string_view path, std::string_view bytes, eDurability durability);
+// Replaces many files of one folder with a single wait for the disk in place of two for each. The same holds
+// for each file as with ReplaceFile, and for all of them once Commit has returned.
+class cReplaceBatch {
+  public:
+    cReplaceBatch(cFiles& files, std::string folder) : m_Files(files), m_Folder(std::move(folder)) {}
+    // Writes the temporary; false when that failed.
+    bool Add(std::string_view path, std::string_view bytes);
+    // False when any of the files could not be replaced.
+    bool Commit();
+
+  private:
+    cFiles& m_Files;
+    std::string m_Folder;
+    std::vector<std::string> m_Paths;
+};
 
 // The mask of temporaries that a crash can have left in a folder; no mask that the system reads matches them.
-inline constexpr std::string_view kTemporaryMask = "*.vigrel-new";
+inline constexpr std::string_view kTemporaryMask = "*.$~";
 // Removes them. Failures are skipped.
 void RemoveTemporaries(cFiles& files, std::string_view folder);
 

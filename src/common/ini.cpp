@@ -128,7 +128,7 @@ void cIni::PutIniString(std::string_view section, std::string_view key, std::str
     }
     std::string content;
     for (const std::string& line : lines) content += line + "\r\n";
-    SkipFailure([&] { ReplaceFile(m_Files, path, content, eDurability::Synced); });
+    SkipFailure([&] { ReplaceFile(m_Files, path, content); });
 }
 
 std::int32_t ReadIniSection(const cFileReader& files, std::string_view section, std::string& buffer,

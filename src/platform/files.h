@@ -46,6 +46,8 @@ class cFiles : public cFileReader {
     virtual void RenameFile(std::string_view from, std::string_view to) = 0;
     // Makes the names in the folder (creations, renames, removals) durable.
     virtual void SyncFolder(std::string_view folder) = 0;
+    // Makes everything durable that was written so far to the file system of the folder.
+    virtual void SyncFileSystem(std::string_view folder) = 0;
     virtual void MakeFolder(std::string_view path) = 0;  // a failure when it exists already
     // Takes a write protection away from a file.
     virtual void SetNormalAttributes(std::string_view path) = 0;

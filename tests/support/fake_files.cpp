@@ -147,6 +147,13 @@ void cFakeFiles::SyncFolder(std::string_view folder) {
     }
 }
 
+void cFakeFiles::SyncFileSystem(std::string_view folder) {
+    Count("sync all", folder);
+    for (const auto& [path, inode] : m_Names) m_DurableBytes[inode] = m_Inodes.at(inode).bytes;
+    m_DurableNames = m_Names;
+    for (const auto& [inode, file] : m_Inodes) m_DurableSpelling[inode] = file.path;
+}
+
 void cFakeFiles::MakeFolder(std::string_view path) {
     Count("mkdir", path);
     if (m_FolderReadOnly) Fail(eFailure::PermissionDenied, "the folder can't be written", path);

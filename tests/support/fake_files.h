@@ -25,6 +25,7 @@ class cFakeFiles : public cFiles {
     void RemoveFile(std::string_view path) override;
     void RenameFile(std::string_view from, std::string_view to) override;
     void SyncFolder(std::string_view folder) override;
+    void SyncFileSystem(std::string_view folder) override;
     void MakeFolder(std::string_view path) override;
     void SetNormalAttributes(std::string_view path) override;
 

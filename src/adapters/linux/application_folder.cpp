@@ -1,0 +1,98 @@
+#include "adapters/linux/application_folder.h"
+
+#include <unistd.h>
+
+#include <array>
+#include <cstdlib>
+#include <filesystem>
+
+#include "adapters/linux/files.h"
+#include "common/code_page.h"
+#include "common/failure.h"
+#include "common/file_procedures.h"
+#include "common/ini.h"
+#include "common/texts.h"
+
+namespace vigrel {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::optional<std::string> Variable(const char* name) {
+    const char* value = std::getenv(name);
+    if (value == nullptr || *value == '\0') return std::nullopt;
+    return Utf8ToCodePage(value);
+}
+
+std::string WithBackslash(std::string folder) {
+    while (folder.size() > 1 && folder.back() == '/') folder.pop_back();
+    if (folder.empty() || folder.back() != '\\') folder += '\\';
+    return folder;
+}
+
+bool IsPortable(const std::string& folder) {
+    const bool marked = fs::is_directory(NativePath(folder + "\\Templates")) ||
+                        cLinuxFiles().FileExists(folder + "\\" + std::string(kIniFile));
+    return marked && access(NativePath(folder).c_str(), W_OK) == 0;
+}
+
+bool IsApplicationFolder(const cFiles& files, const std::string& applicationPath) {
+    return files.FileExists(applicationPath + std::string(kIniFile)) ||
+           fs::is_directory(NativePath(applicationPath + "Templates")) ||
+           !files.ListFiles(applicationPath, std::string(kTextFile) + "*").empty();
+}
+
+// The folders of an installation, relative to its root, with what is copied from each.
+constexpr std::array<std::string_view, 3> kFolders{"", "Templates\\", "Sounds\\"};
+
+}  // namespace
+
+cFolderHints ReadFolderHints() {
+    cFolderHints hints;
+    hints.variable = Variable("VIGREL_APPLICATION_PATH");
+    std::error_code error;
+    hints.programFolder = Utf8ToCodePage(fs::read_symlink("/proc/self/exe", error).parent_path().string());
+    hints.userDataFolder =
+        Variable("XDG_DATA_HOME").value_or(Variable("HOME").value_or("") + "/.local/share");
+    return hints;
+}
+
+std::string FindApplicationFolder(const cFolderHints& hints) {
+    if (hints.variable) {
+        std::error_code error;
+        const fs::path absolute = fs::absolute(CodePageToUtf8(*hints.variable), error);
+        return WithBackslash(error ? *hints.variable : Utf8ToCodePage(absolute.lexically_normal().string()));
+    }
+    if (IsPortable(hints.programFolder)) return WithBackslash(hints.programFolder);
+    return WithBackslash(hints.userDataFolder + "/VigrelReceiver");
+}
+
+std::string FindInstalledFolder(const std::string& programFolder) {
+    const std::string program = CodePageToUtf8(programFolder);
+    for (const std::string& candidate : {program + "/../share/vigrel-receiver", program}) {
+        std::error_code error;
+        if (!fs::is_directory(candidate + "/Templates", error)) continue;
+        return Utf8ToCodePage(fs::path(candidate).lexically_normal().string());
+    }
+    return {};
+}
+
+void FillApplicationFolder(cFiles& files, const std::string& applicationPath,
+                           const std::string& installedFolder) {
+    if (IsApplicationFolder(files, applicationPath)) return;
+    std::error_code error;
+    fs::create_directories(NativePath(applicationPath), error);
+    if (installedFolder.empty()) return;
+    const std::string source = WithBackslash(installedFolder);
+    for (const std::string_view folder : kFolders) {
+        const std::string from = source + std::string(folder);
+        const std::string to = applicationPath + std::string(folder);
+        if (!folder.empty()) fs::create_directories(NativePath(to), error);
+        for (const std::string& name : files.ListFiles(from, "*")) {
+            if (files.FileExists(to + name)) continue;
+            SkipFailure([&] { ReplaceFile(files, to + name, files.ReadFile(from + name)); });
+        }
+    }
+}
+
+}  // namespace vigrel

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "platform/files.h"
+
+namespace vigrel {
+
+// What decides where the application folder is.
+struct cFolderHints {
+    std::optional<std::string> variable;  // VIGREL_APPLICATION_PATH, when set and not empty
+    std::string programFolder;            // where the running program lies
+    std::string userDataFolder;           // such as ~/.local/share
+};
+// Reads them from the process's surroundings. Text in the code page.
+cFolderHints ReadFolderHints();
+
+// The application folder, with a trailing backslash: the variable's; else the program's own folder when that
+// holds "Templates" or a VigrelReceiver.INI and can be written (a portable installation); else
+// "VigrelReceiver" under the user's data folder.
+std::string FindApplicationFolder(const cFolderHints& hints);
+
+// Where the templates and texts of the installation lie: beside the program (build folder, portable
+// installation) or under the usual prefix; empty when they are nowhere.
+std::string FindInstalledFolder(const std::string& programFolder);
+
+// Makes the folder with all folders above it, and copies to it each installed file (templates, texts, sounds)
+// that it doesn't hold. Nothing is ever overwritten. Failures are skipped: the start-up tells of what is
+// missing.
+void FillApplicationFolder(cFiles& files, const std::string& applicationPath,
+                           const std::string& installedFolder);
+
+}  // namespace vigrel

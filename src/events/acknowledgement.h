@@ -1,0 +1,41 @@
+#pragma once
+
+#include <functional>
+
+#include "common/log.h"
+#include "common/receiver_state.h"
+#include "common/settings.h"
+#include "common/texts.h"
+#include "events/alarm_list_view.h"
+#include "events/alarm_store.h"
+
+namespace vigrel {
+
+// The operator has seen an alarm. Acknowledging is local to this station: it changes the alarm's icon, its
+// file and the log, and can end the running sound.
+class cAcknowledgement {
+  public:
+    struct cServices {
+        cAlarmStore& store;
+        cAlarmListView& view;
+        cReportList& list;
+        cLog& log;
+        const cTexts& texts;
+        const cSettings& settings;
+        cReceiverState& state;
+    };
+    explicit cAcknowledgement(const cServices& services) : m_Services(services) {}
+
+    // Either may be nothing (0, null); a popup passes the alarm, the list its row.
+    void AckAlarm(RecordId row, const AlarmPtr& alarm);
+    void Menu_AckAll();
+    // closePopups closes every open popup, skipping failures.
+    void Menu_AckAll_AndClosePopups(const std::function<void()>& closePopups);
+
+  private:
+    void EndSound();
+
+    cServices m_Services;
+};
+
+}  // namespace vigrel

@@ -1,0 +1,111 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "categories/cCategorySpecificSetting.h"
+#include "common/ini.h"
+#include "common/receiver_state.h"
+#include "common/settings.h"
+#include "common/texts.h"
+#include "events/cVigrelRecieverAlarm.h"
+#include "platform/locale.h"
+#include "platform/report_list.h"
+#include "platform/windows.h"
+
+namespace vigrel {
+
+// What a column shows, by the index of its keyword in kColumnKeywords.
+enum class eColumnKind : std::int16_t {
+    StateIcon,
+    StateText,
+    AlarmDate,
+    AlarmTime,
+    AlarmDateTime,
+    Date,
+    Time,
+    DateAndTime,
+    t0,
+    t1,
+    t2,
+    t3,
+    t4,
+    t5,
+    ExtraText,
+    Observed
+};
+
+inline constexpr std::array<std::string_view, 16> kColumnKeywords{
+    "StateIcon", "StateText", "AlarmDate", "AlarmTime", "AlarmDateTime",
+    "Date",      "Time",      "DateTime",  "t0",        "t1",
+    "t2",        "t3",        "t4",        "t5",        "ExtraText",
+    "Observed"};
+
+// The caption and tag of the last column, which nobody sees: it sorts the list by arrival.
+inline constexpr std::string_view kHiddenColumn = "CreatedTimeStamp";
+
+// Icons of column "Observed".
+inline constexpr int kIconNotObserved = 26;
+inline constexpr int kIconObserved = 27;
+
+// The alarm list: one row per alarm, with columns, texts, colours and icons by configuration, category and
+// state. It shows; it decides nothing.
+class cAlarmListView {
+  public:
+    struct cServices {
+        cReportList& list;
+        cIni& ini;
+        const cTexts& texts;
+        const cSettings& settings;
+        cReceiverState& state;
+        const cCategorySettings& categories;
+        const cLocaleForms& forms;
+        const cScreen& screen;
+        cClipboard& clipboard;
+    };
+    explicit cAlarmListView(const cServices& services) : m_Services(services) {}
+
+    // Reads the column settings and builds the columns. More than 32 configured columns throw cFailure
+    // (OutOfBounds).
+    void SetUpColumns(cSettings& settings);
+    // By arrival, the oldest or the newest first.
+    void SetSortOrder();
+
+    // Chooses the alarm's category settings and adds its record; the list takes it over when told to.
+    void AddAlarmRow(const AlarmPtr& alarm);
+    // Writes the cells of the alarm's record. A step that fails is skipped.
+    void UpdateAlarmRow(const cVigrelRecieverAlarm& alarm);
+    // Takes over the records, brings the alarm's row into view and leaves no selection.
+    void ShowNewAlarm(const cVigrelRecieverAlarm& alarm);
+    // The alarm of a row; none for a record that is gone.
+    AlarmPtr AlarmOf(RecordId row) const;
+
+    // --- the list's events
+    void BeforeDrawRow(RecordId row, cReportList::cFontStyle& style) const;
+    int RowHeight() const;  // pixels
+    void ColumnWidthChanged(int column);
+    void FocusChange() { m_Services.list.ClearSelection(); }
+    // Ctrl+A and Ctrl+C, by key code and shift state.
+    void HandleListShortcut(int keyCode, int shift);
+    void CopyRowsToClipboard();
+
+  private:
+    struct cCell {
+        std::string text;
+        int icon = -1;
+    };
+    void AddColumn(const std::string& keyword);
+    cCell MakeCell(const cVigrelRecieverAlarm& alarm, eColumnKind kind) const;
+    std::string StateText(std::int16_t status) const;
+    std::string Format(DateTime value, const std::string& pattern) const;
+    std::string DateAndTime(DateTime value) const;
+    std::string CopyText(const ItemValue& value) const;
+
+    cServices m_Services;
+    // The kind of the column at each position.
+    std::array<eColumnKind, 32> m_ColumnMap{};
+};
+
+}  // namespace vigrel

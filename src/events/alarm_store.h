@@ -1,0 +1,76 @@
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "common/log.h"
+#include "common/receiver_state.h"
+#include "common/settings.h"
+#include "common/texts.h"
+#include "events/cVigrelRecieverAlarm.h"
+#include "platform/files.h"
+#include "platform/random.h"
+#include "platform/report_list.h"
+
+namespace vigrel {
+
+// All current alarms, in memory and as one file each in the folder Alarms. The folder is the only memory
+// across restarts, and its only index. File form: docs/formats/alarm-file.md.
+class cAlarmStore {
+  public:
+    struct cServices {
+        cFiles& files;
+        const cClock& clock;
+        cRandom& random;
+        cReportList& list;
+        cLog& log;
+        const cTexts& texts;
+        const cSettings& settings;
+        cReceiverState& state;
+    };
+    // m_ApplicationPath ends in a backslash.
+    cAlarmStore(const cServices& services, std::string applicationPath);
+
+    // Sorted by m_CreatedTime, oldest first.
+    std::deque<AlarmPtr> m_Alarms;
+
+    // Rebuilds m_Alarms and the list from the folder. addAlarmRow is called for each alarm that stays, in
+    // order. Throws cFailure when a file can't be read.
+    void LoadAlarms(const std::function<void(const AlarmPtr&)>& addAlarmRow);
+    // Writes the alarm's file as a whole, under a free number when it has none. Never fails: a file that
+    // can't be written is tried again by RetryUnsaved. With Synced the file survives a crash when the call
+    // returns.
+    void SaveAlarm(const AlarmPtr& alarm, eDurability durability);
+    void DeleteAlarmFile(const cVigrelRecieverAlarm& alarm);
+    // Puts the alarm in its place and enforces both limits; false when an alarm was removed for it, which can
+    // be the alarm itself.
+    bool InsertAlarm(const AlarmPtr& alarm, std::int32_t maxEvents);
+    // Removes the alarms at the front that are older than m_MaxDays; how many they were.
+    std::int32_t SweepOldAlarms();
+    // Writes what could not be written before.
+    void RetryUnsaved();
+
+    std::string FileName(std::int32_t fileId) const;
+
+  private:
+    bool IsTooOld(const cVigrelRecieverAlarm& alarm) const;
+    std::size_t FindPlace(const cVigrelRecieverAlarm& alarm) const;
+    void RemoveRow(cVigrelRecieverAlarm& alarm);
+    void RemoveOldest();
+    void DrawFileId(cVigrelRecieverAlarm& alarm);
+    std::string Bytes(cVigrelRecieverAlarm& alarm);
+    bool TrySave(cVigrelRecieverAlarm& alarm);
+    void SaveCollected();
+    AlarmPtr ReadAlarm(const std::string& name);
+
+    cServices m_Services;
+    std::string m_Folder;
+    std::vector<AlarmPtr> m_Unsaved;
+    bool m_Collecting = false;
+    std::vector<AlarmPtr> m_Collected;
+};
+
+}  // namespace vigrel
