@@ -18,9 +18,7 @@ void cAcknowledgement::AckAlarm(RecordId row, const AlarmPtr& alarm) {
         m_Services.log.WriteLog(m_Services.texts.GetText(10039) + " " + found->SysLogText());
         found->m_Observed = True16;
         m_Services.view.UpdateAlarmRow(*found);
-        // An acknowledgement that a power failure takes back comes up again for the operator, so that
-        // thousands at once need not wait for the disk one by one.
-        m_Services.store.SaveAlarm(found, eDurability::Atomic);
+        m_Services.store.SaveAlarm(found);
     }
     m_Services.state.m_ListChanged = true;
 }

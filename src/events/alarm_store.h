@@ -40,10 +40,11 @@ class cAlarmStore {
     // Rebuilds m_Alarms and the list from the folder. addAlarmRow is called for each alarm that stays, in
     // order. Throws cFailure when a file can't be read.
     void LoadAlarms(const std::function<void(const AlarmPtr&)>& addAlarmRow);
-    // Writes the alarm's file as a whole, under a free number when it has none. Never fails: a file that
-    // can't be written is tried again by RetryUnsaved. With Synced the file survives a crash when the call
-    // returns.
-    void SaveAlarm(const AlarmPtr& alarm, eDurability durability);
+    // Writes the alarm's file as a whole, under a free number when it has none; when the call returns it
+    // survives a crash. Never fails: a file that can't be written is tried again by RetryUnsaved.
+    void SaveAlarm(const AlarmPtr& alarm);
+    // What the steps save is collected and written at the end with one wait for the disk.
+    void SaveTogether(const std::function<void()>& steps);
     void DeleteAlarmFile(const cVigrelRecieverAlarm& alarm);
     // Puts the alarm in its place and enforces both limits; false when an alarm was removed for it, which can
     // be the alarm itself.
