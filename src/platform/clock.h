@@ -11,6 +11,9 @@ class cClock {
     virtual ~cClock() = default;
     // Local date and time now, with sub-second resolution. Does not fail.
     virtual DateTime Now() const = 0;
+    // Days on a clock that nobody sets and that runs on while the machine sleeps; only differences mean
+    // anything.
+    virtual double Steady() const = 0;
 };
 
 }  // namespace vigrel

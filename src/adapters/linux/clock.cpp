@@ -15,4 +15,10 @@ DateTime cSystemClock::Now() const {
            TimeSerial(local.tm_hour, local.tm_min, local.tm_sec) + static_cast<double>(now.tv_nsec) / 86400e9;
 }
 
+double cSystemClock::Steady() const {
+    timespec now{};
+    clock_gettime(CLOCK_BOOTTIME, &now);
+    return (static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9) / 86400;
+}
+
 }  // namespace vigrel

@@ -8,6 +8,7 @@ namespace vigrel {
 class cSystemClock : public cClock {
   public:
     DateTime Now() const override;
+    double Steady() const override;
 };
 
 }  // namespace vigrel

@@ -1,0 +1,124 @@
+#include "link/sender_table.h"
+
+#include <algorithm>
+
+#include "common/dates.h"
+#include "common/numbers.h"
+#include "common/text.h"
+
+namespace vigrel {
+namespace {
+
+constexpr std::size_t kSectionBuffer = 4096;
+constexpr std::int16_t kMostSenders = 100;
+constexpr double kMinutesPerDay = 1440;
+
+}  // namespace
+
+void cSenderTable::WarnTooMany() {
+    m_Services.messageBox.Show(m_Services.texts.GetText(10025), eMessageIcon::Warning, eMessageButtons::Ok);
+}
+
+void cSenderTable::MarkSeen(cSender& sender) const {
+    sender.LastSeen = m_Services.clock.Now();
+    sender.LastSeenSteady = m_Services.clock.Steady();
+}
+
+void cSenderTable::AddSender(const std::string& entry) {
+    cSender& sender = m_Senders[static_cast<std::size_t>(m_SenderCount)];
+    MarkSeen(sender);
+    sender.AlarmRaised = false;
+    sender.SenderName = GetField(entry, 0, "=");
+    sender.KeepAliveMinutes = ToInt16(Val(GetField(entry, 1, "=")));
+    sender.NotYetSeen = true;
+    ++m_SenderCount;
+}
+
+void cSenderTable::ReadSenders() {
+    const cIniEntries section =
+        ReadIniEntries(m_Services.files, "Senders", kSectionBuffer, m_Services.ini.FullPath(kIniFile));
+    if (section.characters >= static_cast<std::int32_t>(kSectionBuffer) - 2) WarnTooMany();
+    m_SenderCount = 0;
+    for (const std::string& entry : section.entries) {
+        if (entry.find('=') == std::string::npos || Trim(entry).starts_with(';')) continue;
+        AddSender(entry);
+        if (m_SenderCount == kMostSenders) {
+            WarnTooMany();
+            break;
+        }
+    }
+}
+
+void cSenderTable::LogSenders() {
+    const cTexts& texts = m_Services.texts;
+    for (std::int16_t i = 0; i < m_SenderCount; ++i) {
+        const cSender& sender = m_Senders[static_cast<std::size_t>(i)];
+        const std::string minutes = std::to_string(sender.KeepAliveMinutes);
+        m_Services.log.WriteLog(sender.SenderName + " - " +
+                                (sender.KeepAliveMinutes == 0
+                                     ? texts.GetText(10012)
+                                     : texts.GetText(10013) + " " + minutes + " " + texts.GetText(10014)));
+    }
+}
+
+// Silence is measured on the steady clock: neither the change to summer time nor a corrected clock makes a
+// sender look lost.
+bool cSenderTable::IsDue(const cSender& sender) const {
+    return sender.KeepAliveMinutes > 0 &&
+           m_Services.clock.Steady() > sender.LastSeenSteady + sender.KeepAliveMinutes / kMinutesPerDay;
+}
+
+std::string cSenderTable::StateText(const cSender& sender) const {
+    if (sender.NotYetSeen) return sender.SenderName + " - " + m_Services.texts.GetText(10032);
+    const auto format = [&](const std::string& pattern) {
+        return FormatDateTime(sender.LastSeen, pattern, m_Services.forms);
+    };
+    return sender.SenderName + " - " + m_Services.texts.GetText(10031) + " " +
+           format(m_Services.settings.m_DateFormat) + " " + format(m_Services.settings.m_TimeFormat);
+}
+
+AlarmPtr cSenderTable::Raise(const cSender& sender, std::int16_t status) {
+    const std::string text = StateText(sender);
+    auto alarm = std::make_shared<cVigrelRecieverAlarm>(m_Services.clock);
+    alarm->m_Sender = sender.SenderName;
+    alarm->m_Alarm.m_TimeStampFromSCADA = m_Services.clock.Now();
+    alarm->m_Alarm.m_Status = status;
+    alarm->m_Alarm.SetCondition(0, "VigrelAlarmReceiver");
+    alarm->m_Alarm.SetCondition(2, m_Services.settings.m_SystemErrorCategory);
+    alarm->m_Alarm.SetCondition(4, text);
+    m_Services.ProcessAlarm(alarm);
+    return alarm;
+}
+
+void cSenderTable::Tick() {
+    for (std::int16_t i = 0; i < m_SenderCount; ++i) {
+        cSender& sender = m_Senders[static_cast<std::size_t>(i)];
+        if (!IsDue(sender)) continue;
+        if (m_Services.settings.m_AutoResetKeepAliveTimer || !sender.AlarmRaised) {
+            Raise(sender, StatusActive);
+            sender.AlarmRaised = true;
+        }
+        MarkSeen(sender);
+    }
+}
+
+bool cSenderTable::Heard(AlarmPtr& alarm, std::string_view text, bool& accepted) {
+    const auto end = m_Senders.begin() + m_SenderCount;
+    const auto found = std::find_if(m_Senders.begin(), end, [&](const cSender& sender) {
+        return EqualsNoCase(sender.SenderName, alarm->m_Sender);
+    });
+    if (found == end) return false;
+    MarkSeen(*found);
+    if (found->AlarmRaised) {
+        alarm = Raise(*found, StatusInactive);
+        found->AlarmRaised = false;
+    }
+    found->NotYetSeen = false;
+    if (text.empty()) {
+        m_Services.log.WriteLog(alarm->m_Sender + " " + m_Services.texts.GetText(10028));
+        accepted = true;
+    }
+    return true;
+}
+
+}  // namespace vigrel
