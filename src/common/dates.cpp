@@ -36,15 +36,15 @@ constexpr std::int64_t kLastDay = 2958465;   // 9999-12-31
 }  // namespace
 
 cDateParts SplitDateTime(DateTime value) {
-    if (!(value > static_cast<double>(kFirstDay) - 1 && value < static_cast<double>(kLastDay) + 1)) {
-        throw cFailure(eFailure::Overflow, "a date-time lies outside the years 100 to 9999");
-    }
+    const cFailure outside(eFailure::Overflow, "a date-time lies outside the years 100 to 9999");
+    if (!(value > static_cast<double>(kFirstDay) - 1 && value < static_cast<double>(kLastDay) + 1))
+        throw outside;
     const double whole = std::trunc(value);
     auto days = static_cast<std::int64_t>(whole);
     auto seconds = static_cast<std::int64_t>(std::llround(std::fabs(value - whole) * 86400));
     if (seconds == 86400) {
         seconds = 0;
-        ++days;
+        if (++days > kLastDay) throw outside;
     }
     cDateParts parts;
     CivilFromDays(days - kEpoch, parts);

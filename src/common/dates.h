@@ -35,7 +35,8 @@ DateTime DateOf(DateTime value);
 // w ww, m mm mmm mmmm, q, y yy yyyy, h hh, n nn, s ss, ttttt, AM/PM am/pm A/P a/p AMPM, c, "/" and ":" (the
 // locale's separators), literals in quotes or behind a backslash; other characters stand for themselves. "m"
 // directly behind "h" (other characters than letters between) is minutes. An empty pattern is "General Date".
-// Weeks begin on Sunday, and week 1 is that of 1 January. Throws cFailure (Overflow) like SplitDateTime.
+// Weeks begin on Sunday, and week 1 is that of 1 January. A form of the locale that names a form shows that
+// name as it stands. Throws cFailure (Overflow) like SplitDateTime.
 std::string FormatDateTime(DateTime value, std::string_view pattern, const cLocaleForms& forms);
 
 }  // namespace vigrel
