@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QTcpSocket>
+#include <cstddef>
+#include <memory>
+#include <string>
+
+#include "platform/sockets.h"
+
+namespace vigrel {
+
+// Deleted from the event loop: a connection is often given up inside one of its own events.
+struct cDeleteLater {
+    void operator()(QObject* object) const { object->deleteLater(); }
+};
+using SocketPtr = std::unique_ptr<QTcpSocket, cDeleteLater>;
+
+// A connection over an accepted descriptor, set up for short lines and prompt replies. Nothing when the
+// descriptor is no good any more.
+SocketPtr MakeSocket(qintptr descriptor);
+
+class cQtListener;
+
+class cQtDataSocket : public cDataSocket {
+  public:
+    // Most bytes that one turn of the event loop reads, so that timers and windows get their turn in a flood.
+    static constexpr qint64 kBytesPerTurn = 4096;
+    // A stream without a line end that has grown to more than this is no sender's.
+    static constexpr std::size_t kMaxLine = 1024 * 1024;
+
+    // The listener's requests are what Accept takes over; it must outlive this socket.
+    explicit cQtDataSocket(cQtListener& listener) : m_Listener(listener) {}
+    ~cQtDataSocket() override;
+
+    int State() const override { return m_Socket ? kOpen : 0; }
+    void Close() override;
+    void Accept(std::int32_t requestId) override;
+    std::string Fetch() override;
+    void Send(std::string_view bytes) override;
+
+  private:
+    static constexpr int kOpen = 7;
+    void Read();
+    void Fail();
+    void CountLine(std::string_view chunk);
+
+    cQtListener& m_Listener;
+    SocketPtr m_Socket;
+    std::string m_Received;       // and not yet fetched
+    std::size_t m_LineBytes = 0;  // since the last line feed
+    bool m_Failed = false;
+};
+
+}  // namespace vigrel
