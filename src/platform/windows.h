@@ -44,9 +44,19 @@ class cWindow {
     virtual void SetFocus() = 0;
     // Over all ordinary windows, or back among them.
     virtual void SetTopMost(bool topMost) = 0;
-    // Runs the close query with reason Code and, when it isn't refused, the unload step. Throws cFailure when
-    // the close was refused.
+    // Runs the close query with reason Code and, when it isn't refused, the unload step; then the window is
+    // no longer among the open ones, and its memory lives until the event loop is reached again. Throws
+    // cFailure when the close was refused.
     virtual void Close() = 0;
+
+    // --- events
+    std::function<void()> OnActivate;
+    // The window's size or state has changed.
+    std::function<void()> OnResize;
+    // The close query: whether the window may be closed for that reason. Without a listener it may.
+    std::function<bool(eCloseReason)> OnQueryUnload;
+    // The unload step: once, the last event of the window, which still is among the open ones.
+    std::function<void()> OnUnload;
 };
 
 class cScreen {

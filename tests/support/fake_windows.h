@@ -41,13 +41,15 @@ class cFakeScreen : public cScreen {
     double m_Width = 1280 * 15, m_Height = 1024 * 15, m_TwipsPerPixel = 15;
 };
 
-// A window without a screen. A change of its state or size brings OnResize at once when it isn't hidden.
-class cFakeWindow : public cWindow {
+// A window without a screen, of any kind of window port. A change of its state or size brings OnResize at
+// once when it isn't hidden.
+template <class Port>
+class cFakeWindowOf : public Port {
   public:
-    explicit cFakeWindow(std::string name = "Vigrel_Receiver_Main", cTranscript* transcript = nullptr,
-                         cFakeWindowList* list = nullptr)
-        : m_Name(std::move(name)), m_Transcript(transcript), m_List(list) {}
-    ~cFakeWindow() override {
+    explicit cFakeWindowOf(std::string name = "Vigrel_Receiver_Main", cTranscript* transcript = nullptr,
+                           cFakeWindowList* list = nullptr)
+        : m_Name(std::move(name)), m_NameInTranscript(m_Name), m_Transcript(transcript), m_List(list) {}
+    ~cFakeWindowOf() override {
         if (m_List) m_List->Remove(*this);
     }
 
@@ -108,8 +110,8 @@ class cFakeWindow : public cWindow {
 
     // A close for another reason. Whether the window is gone.
     bool CloseWith(eCloseReason reason) {
-        if (OnQueryUnload && !OnQueryUnload(reason)) return false;
-        if (OnUnload) OnUnload();
+        if (this->OnQueryUnload && !this->OnQueryUnload(reason)) return false;
+        if (this->OnUnload) this->OnUnload();
         m_Visible = false;
         m_Open = false;
         if (m_List) m_List->Remove(*this);
@@ -117,28 +119,26 @@ class cFakeWindow : public cWindow {
         return true;
     }
 
-    // The window's events, as the real windows have them.
-    std::function<void()> OnActivate;
-    std::function<void()> OnResize;
-    std::function<bool(eCloseReason)> OnQueryUnload;  // whether the close is allowed
-    std::function<void()> OnUnload;
-
-    std::string m_Name, m_Caption;
+    std::string m_Name, m_NameInTranscript, m_Caption;
     eWindowState m_State = eWindowState::Normal;
     double m_Left = 0, m_Top = 0, m_Width = 8000, m_Height = 5000;
     double m_FrameWidth = 120, m_FrameHeight = 510;  // what the frame takes of width and height
     bool m_Visible = false, m_TopMost = false, m_Open = true;
 
-  private:
+  protected:
     void Note(const std::string& step) {
-        if (m_Transcript) m_Transcript->Add(m_Name + ": " + step);
+        if (m_Transcript) m_Transcript->Add(m_NameInTranscript + ": " + step);
     }
+
+  private:
     void Resized() {
-        if (m_Visible && OnResize) OnResize();
+        if (m_Visible && this->OnResize) this->OnResize();
     }
     cTranscript* m_Transcript;
     cFakeWindowList* m_List;
 };
+
+using cFakeWindow = cFakeWindowOf<cWindow>;
 
 // Gives the answers that a test has lined up; without one, the answer of a box that is closed unanswered.
 class cFakeMessageBox : public cMessageBox {

@@ -1,0 +1,267 @@
+#include "signals/popups.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "common/code_page.h"
+#include "common/failure.h"
+#include "common/numbers.h"
+#include "common/text.h"
+#include "common/window_procedures.h"
+
+namespace vigrel {
+namespace {
+
+const cCategorySpecificSetting& SettingOf(const cVigrelRecieverAlarm& alarm) {
+    if (alarm.m_CategorySpecificSetting == nullptr) {
+        throw cFailure(eFailure::ObjectMissing, "the alarm has no category settings");
+    }
+    return *alarm.m_CategorySpecificSetting;
+}
+
+const std::string& CategoryOf(const cVigrelRecieverAlarm& alarm) {
+    return alarm.m_Alarm.GetCondition(2);
+}
+
+}  // namespace
+
+cPopups::~cPopups() {
+    for (auto& [key, popup] : m_Popups) {
+        cPopupWindow& window = popup->m_Window;
+        window.OnQueryUnload = nullptr;
+        window.OnUnload = nullptr;
+        window.OnResize = nullptr;
+        window.OnPictureClick = nullptr;
+    }
+}
+
+// --- where a popup goes
+
+std::string cPopups::Setting(std::string_view key, std::string_view defaultValue) const {
+    return m_With.m_Ini.GetIniString("PopupForm", key, defaultValue);
+}
+
+std::int32_t cPopups::NumberSetting(std::string_view key, std::string_view defaultValue) const {
+    return ToInt32(Val(Setting(key, defaultValue)));
+}
+
+cPopups::cSize cPopups::ReadSize() const {
+    return {NumberSetting("X_Size", "-1"), NumberSetting("Y_Size", "-1")};
+}
+
+void cPopups::NextPlace() {
+    const std::string position = ToUpper(Setting("WindowPosition", "Default"));
+    if (position == "STATIC") {
+        ToStart();
+    } else if (position == "MOVING") {
+        NextMovingPlace();
+    } else {
+        m_PopupX = -1;
+        m_PopupY = -1;
+    }
+}
+
+void cPopups::ToStart() {
+    m_PopupX = NumberSetting("X_Start", "50");
+    m_PopupY = NumberSetting("Y_Start", "50");
+}
+
+void cPopups::NextMovingPlace() {
+    if (!m_PopupMovingStarted) {
+        ToStart();
+        m_PopupMovingStarted = true;
+    } else {
+        m_PopupX = ToInt32(static_cast<double>(m_PopupX) + NumberSetting("X_Step", "50"));
+        m_PopupY = ToInt32(static_cast<double>(m_PopupY) + NumberSetting("Y_Step", "50"));
+    }
+    // Only a bound that is passed upward ends a run; one axis takes the other along.
+    if (NumberSetting("X_Stop", "50") < m_PopupX || NumberSetting("Y_Stop", "50") < m_PopupY) ToStart();
+}
+
+// --- opening
+
+std::int32_t cPopups::ShowPopup(const AlarmPtr& alarm) {
+    m_PopupFormId = NextFormId(m_PopupFormId);
+    const cSize size = ReadSize();
+    NextPlace();
+    Vigrel_Receiver_Popup& popup = MakePopup();
+    cPopupWindow& window = popup.m_Window;
+    const cCategorySpecificSetting& setting = SettingOf(*alarm);
+    window.SetLabelText(m_With.ExpandEventText(*alarm, setting.m_EventPopupFormat, setting.m_ExtraText));
+    SetColours(window, *alarm);
+    SetFont(window);
+    m_With.m_Log.WriteLog(m_With.m_Texts.GetText(10043) + " " + alarm->SysLogText());
+    window.SetPictureVisible(alarm->m_Alarm.m_Status, true);
+    SetPlace(window, size);
+
+    // Out of sight until it stands where it stays in the stack; both screen sizes are in twips already, so
+    // that this is far away.
+    const cScreen& screen = m_With.m_Screen;
+    const std::int32_t left = ToInt32(window.Left());
+    const std::int32_t top = ToInt32(window.Top());
+    window.SetLeft(screen.Width() * screen.TwipsPerPixelX());
+    window.SetTop(screen.Height() * screen.TwipsPerPixelY());
+    popup.m_TimeStamp = m_With.m_Clock.Now();
+    popup.m_Alarm = alarm;
+    popup.m_FormId = m_PopupFormId;
+    const bool isFirst = SetPriority(popup);
+    window.Show();
+    Stack(popup, isFirst);
+    window.SetLeft(left);
+    window.SetTop(top);
+    return popup.m_FormId;
+}
+
+Vigrel_Receiver_Popup& cPopups::MakePopup() {
+    cPopupWindow& window = m_With.m_Maker.MakePopup();
+    auto& popup = *(m_Popups[&window] = std::make_unique<Vigrel_Receiver_Popup>(m_With, window));
+    window.OnQueryUnload = [&popup](eCloseReason reason) {
+        popup.QueryUnload(reason);
+        return true;
+    };
+    window.OnUnload = [this, &popup] {
+        popup.Unload([this, &popup] { SelectTopPopup(&popup); });
+        m_Popups.erase(&popup.m_Window);
+    };
+    window.OnResize = [&popup] { popup.Resize(); };
+    window.OnPictureClick = [&popup](int) { popup.Picture_Alarm_Click(); };
+    popup.Load();
+    return popup;
+}
+
+void cPopups::SetColours(cPopupWindow& window, const cVigrelRecieverAlarm& alarm) const {
+    const cCategorySpecificSetting& setting = SettingOf(alarm);
+    const Colour fore = setting.GetForeColor(alarm.m_Alarm.m_Status);
+    window.SetForeColour(fore);
+    window.SetLabelForeColour(fore);
+    const Colour back = setting.GetBackColor(alarm.m_Alarm.m_Status);
+    window.SetBackColour(back);
+    window.SetLabelBackColour(back);
+    for (int picture = 0; picture < cPopupWindow::kPictures; ++picture) {
+        window.SetPictureBackColour(picture, back);
+    }
+}
+
+void cPopups::SetFont(cPopupWindow& window) const {
+    window.SetLabelFont(Trim(Setting("FontName", "MS Sans Serif")), Val(Setting("FontSize", "8")));
+    window.SetLabelFontStyle(Val(Setting("FontBold", "0")) != 0, Val(Setting("FontItalic", "0")) != 0);
+}
+
+void cPopups::SetPlace(cPopupWindow& window, cSize size) const {
+    const double pixelX = m_With.m_Screen.TwipsPerPixelX();
+    const double pixelY = m_With.m_Screen.TwipsPerPixelY();
+    if (m_PopupX >= 0) {
+        window.SetLeft(m_PopupX * pixelX);
+        window.SetTop(m_PopupY * pixelY);
+    }
+    if (size.width >= 0 && size.height >= 0) {
+        window.SetWidth(size.width * pixelX);
+        window.SetHeight(size.height * pixelY);
+    }
+}
+
+// Gives the popup its priority. Whether its category is the first of the list.
+bool cPopups::SetPriority(Vigrel_Receiver_Popup& popup) const {
+    const std::string& list = m_With.m_Settings.m_PopupFormTopMostCategory;
+    const std::string category = ToUpper(CategoryOf(*popup.m_Alarm));
+    const std::string first = Trim(GetField(list, 0, ","));
+    std::string field = first;
+    for (std::int16_t index = 0; !field.empty(); field = Trim(GetField(list, ++index, ","))) {
+        if (category != field) continue;
+        popup.m_PriorityIndex = index;
+        break;
+    }
+    return category == first;
+}
+
+// --- order
+
+void cPopups::Stack(Vigrel_Receiver_Popup& popup, bool isFirst) {
+    cPopupWindow& window = popup.m_Window;
+    if (m_With.m_Settings.m_ViewOnlyOnePopupForm) {
+        window.Hide();
+        SelectTopPopup(nullptr);
+        // The new window, shown or not, and not the one that was selected.
+        SetTopMost(window, IsTopMostCategory(CategoryOf(*popup.m_Alarm)));
+    } else {
+        SetTopMost(window, true);
+        if (!isFirst) StackBehindChosen(popup);
+    }
+}
+
+// Unlike the comparison that gives the priority, this one takes the list as it is written, without regard to
+// case.
+bool cPopups::IsTopMostCategory(const std::string& category) const {
+    const std::string list = Trim(m_With.m_Settings.m_PopupFormTopMostCategory);
+    return list.empty() || FindNoCase("," + list + ",", "," + category + ",") > 0;
+}
+
+// Behind the oldest popup of the best priority, even when the new popup's own priority is better. With a best
+// stamp of 0 a popup whose category isn't listed is never chosen.
+void cPopups::StackBehindChosen(Vigrel_Receiver_Popup& popup) {
+    cBest best;
+    ForEachOther(&popup, [&](Vigrel_Receiver_Popup& other) { Consider(other, best); });
+    if (best.popup != nullptr) popup.m_Window.PlaceBehind(best.popup->m_Window);
+}
+
+Vigrel_Receiver_Popup* cPopups::SelectTopPopup(const Vigrel_Receiver_Popup* excluded) {
+    cBest best;
+    best.stamp = m_With.m_Clock.Now();
+    // A clock that was set back, as each autumn, must not put popups from before out of sight.
+    ForEachOther(excluded, [&](const Vigrel_Receiver_Popup& popup) {
+        best.stamp = std::max(best.stamp, popup.m_TimeStamp);
+    });
+    ForEachOther(excluded, [&](Vigrel_Receiver_Popup& popup) { Consider(popup, best); });
+    if (m_With.m_Settings.m_ViewOnlyOnePopupForm) {
+        ForEachOther(excluded, [&](Vigrel_Receiver_Popup& popup) {
+            if (&popup != best.popup) popup.m_Window.Hide();
+        });
+    }
+    if (best.popup != nullptr) {
+        cPopupWindow& window = best.popup->m_Window;
+        window.Show();
+        if (window.State() == eWindowState::Minimised) window.SetState(eWindowState::Normal);
+    }
+    return best.popup;
+}
+
+void cPopups::Consider(Vigrel_Receiver_Popup& popup, cBest& best) {
+    if (popup.m_PriorityIndex < best.priority) {
+        best.priority = popup.m_PriorityIndex;
+        best.stamp = popup.m_TimeStamp;
+    }
+    if (popup.m_PriorityIndex == best.priority && popup.m_TimeStamp <= best.stamp) {
+        best.stamp = popup.m_TimeStamp;
+        best.popup = &popup;
+    }
+}
+
+Vigrel_Receiver_Popup* cPopups::Find(const cWindow* window) const {
+    const auto found = m_Popups.find(window);
+    return found == m_Popups.end() ? nullptr : found->second.get();
+}
+
+// Visits the popups in the order in which they were opened.
+template <class Visit>
+void cPopups::ForEachOther(const Vigrel_Receiver_Popup* excluded, Visit visit) const {
+    for (const cWindow* window : m_With.m_Windows.OpenWindows()) {
+        Vigrel_Receiver_Popup* popup = Find(window);
+        if (popup != nullptr && popup != excluded) visit(*popup);
+    }
+}
+
+// --- closing
+
+void cPopups::ClosePopups() {
+    if (m_With.m_State.m_PopupFormCount <= 0) return;
+    // A window that is gone shifts the rest down, so that the index stays.
+    std::size_t index = 0;
+    for (auto windows = m_With.m_Windows.OpenWindows(); index < windows.size();
+         windows = m_With.m_Windows.OpenWindows()) {
+        cWindow& window = *windows[index];
+        const bool closed = window.Name() == kPopupKind && SkipFailure([&] { window.Close(); });
+        if (!closed) ++index;
+    }
+}
+
+}  // namespace vigrel

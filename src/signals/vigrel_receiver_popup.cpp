@@ -1,0 +1,49 @@
+#include "signals/vigrel_receiver_popup.h"
+
+#include "common/failure.h"
+#include "common/numbers.h"
+
+namespace vigrel {
+
+void Vigrel_Receiver_Popup::Load() {
+    m_PriorityIndex = kUnlistedPriority;
+    const std::string object = m_With.m_Ini.GetIniString("General", "Object", "none");
+    m_Window.SetCaption(m_With.m_Texts.GetText(10000) + " (" + object + ")");
+    m_With.m_State.m_PopupFormCount = ToInt16(m_With.m_State.m_PopupFormCount + 1);
+}
+
+void Vigrel_Receiver_Popup::Resize() {
+    constexpr double kTop = 100, kGap = 200;
+    const double left = m_Window.PictureLeft(0) + m_Window.PictureWidth(0) + kGap;
+    SkipFailure([&] { m_Window.SetLabelTop(kTop); });
+    SkipFailure([&] { m_Window.SetLabelLeft(left); });
+    // A window narrower than the label's left, or lower than its top, leaves the label as it is.
+    SkipFailure([&] { m_Window.SetLabelWidth(m_Window.InnerWidth() - left); });
+    SkipFailure([&] { m_Window.SetLabelHeight(m_Window.InnerHeight() - kTop); });
+}
+
+void Vigrel_Receiver_Popup::Picture_Alarm_Click() {
+    m_Window.Close();
+}
+
+void Vigrel_Receiver_Popup::LogClose(std::int32_t text) {
+    m_With.m_Log.WriteLog(m_With.m_Texts.GetText(text) + " " + (m_Alarm ? m_Alarm->SysLogText() : ""));
+}
+
+void Vigrel_Receiver_Popup::Unload(const std::function<void()>& selectNext) {
+    cReceiverState& state = m_With.m_State;
+    const bool last = state.m_PopupFormCount < 2;
+    if (!m_With.m_Settings.m_EventSignalUntilNoMorePopupForms || last) state.m_SoundState = 0;
+    if (m_UnloadMode == eCloseReason::Control || m_UnloadMode == eCloseReason::Code) {
+        SkipFailure([&] { LogClose(10037); });
+        if (m_With.m_Settings.m_AckEventWhenPopupFormIsClosed) {
+            SkipFailure([&] { m_With.AckAlarm(m_Alarm); });
+        }
+    } else {
+        SkipFailure([&] { LogClose(10038); });
+    }
+    SkipFailure(selectNext);
+    --state.m_PopupFormCount;
+}
+
+}  // namespace vigrel

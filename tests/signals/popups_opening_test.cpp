@@ -1,0 +1,323 @@
+#include <limits>
+
+#include "common/failure.h"
+#include "common/text.h"
+#include "popups_fixture.h"
+
+namespace vigrel::testing {
+namespace {
+
+class cShowPopup : public cPopupsTest {
+  protected:
+    // Category settings from lines of a section.
+    cCategorySpecificSetting Setting(const std::string& lines) {
+        cFakeFiles files;
+        files.Put("C:\\App\\VigrelReceiver.INI", "[C]\n" + lines);
+        cCategorySpecificSetting setting;
+        setting.GetSettings("C", nullptr, cIni(files, "C:\\App\\"));
+        return setting;
+    }
+    // The places of the next popups in pixels: "50,50 100,100".
+    std::string Places(int count) {
+        std::string text;
+        for (int i = 0; i < count; ++i) {
+            const int number = Show("C");
+            text += (i > 0 ? " " : "") + NumberText(m_Maker[number].Left() / 15) + "," +
+                    NumberText(m_Maker[number].Top() / 15);
+        }
+        return text;
+    }
+};
+
+TEST_F(cShowPopup, RunsItsStepsInOneOrder) {
+    Configure(
+        "X_Size=200\nY_Size=100\nWindowPosition=Static\nX_Start=10\nY_Start=20\n"
+        "FontName= Verdana \nFontSize=9.5\nFontBold=1\n");
+    const auto setting =
+        Setting("BackColor_Active=1,0,0\nForeColor_Active=2,0,0\nEventPopupFormat=format\nExtraText=extra\n");
+    const AlarmPtr alarm = Alarm("C");
+    alarm->m_CategorySpecificSetting = &setting;
+    EXPECT_EQ(m_Popups.ShowPopup(alarm), 1);
+    EXPECT_EQ(m_Transcript.Take(),
+              "popup 1: caption \"Title (Plant)\"\n"
+              "popup 1: label \"Alarm 1/format/extra\"\n"
+              "popup 1: fore colour 2\n"
+              "popup 1: label fore colour 2\n"
+              "popup 1: back colour 1\n"
+              "popup 1: label back colour 1\n"
+              "popup 1: picture 0 back colour 1\n"
+              "popup 1: picture 1 back colour 1\n"
+              "popup 1: picture 2 back colour 1\n"
+              "popup 1: picture 3 back colour 1\n"
+              "popup 1: label font Verdana 9.5\n"
+              "popup 1: label font style bold\n"
+              "popup 1: picture 1 visible\n"
+              "popup 1: left 150\n"
+              "popup 1: top 300\n"
+              "popup 1: width 3000\n"
+              "popup 1: height 1500\n"
+              "popup 1: left 288000\n"
+              "popup 1: top 230400\n"
+              "popup 1: show\n"
+              "popup 1: topmost\n"
+              "popup 1: left 150\n"
+              "popup 1: top 300\n");
+    EXPECT_EQ(LogText(), "shown Active - Alarm 1 (/C//)\n");
+    EXPECT_EQ(m_State.m_PopupFormCount, 1);
+}
+
+TEST_F(cShowPopup, KeepsWhatTheOrderNeedsOfTheEvent) {
+    m_Settings.m_PopupFormTopMostCategory = "A,B";
+    const AlarmPtr alarm = Alarm("B");
+    m_Popups.ShowPopup(alarm);
+    const Vigrel_Receiver_Popup* popup = m_Popups.SelectTopPopup(nullptr);
+    ASSERT_NE(popup, nullptr);
+    EXPECT_EQ(popup->m_Alarm, alarm);
+    EXPECT_EQ(popup->m_TimeStamp, m_Clock.Now());
+    EXPECT_EQ(popup->m_FormId, 1);
+    EXPECT_EQ(popup->m_PriorityIndex, 1);
+}
+
+TEST_F(cShowPopup, ASecondEventOpensASecondPopupEvenForTheSameAlarm) {
+    const AlarmPtr alarm = Alarm("C");
+    m_Popups.ShowPopup(alarm);
+    m_Popups.ShowPopup(alarm);
+    EXPECT_EQ(m_Maker.Visible(), "1 2");
+    EXPECT_EQ(m_State.m_PopupFormCount, 2);
+}
+
+TEST_F(cShowPopup, EachStatusShowsItsOwnPictureAlone) {
+    for (std::int16_t status = 0; status < 4; ++status) {
+        const int number = Show("C", status);
+        for (int picture = 0; picture < 4; ++picture) {
+            EXPECT_EQ(m_Maker[number].m_Pictures[picture].visible, picture == status) << status;
+        }
+    }
+}
+
+TEST_F(cShowPopup, TheCaptionNamesTheInstallationAsTheFileHasItNow) {
+    Show("C");
+    Configure("", "Object=Other\n");
+    Show("C");
+    Configure("", "");
+    Show("C");
+    EXPECT_EQ(m_Maker[1].m_Caption, "Title (Plant)");
+    EXPECT_EQ(m_Maker[2].m_Caption, "Title (Other)");
+    EXPECT_EQ(m_Maker[3].m_Caption, "Title (none)");
+}
+
+TEST_F(cShowPopup, NumbersGiveOneFirstAndAFailedCallTakesOneToo) {
+    EXPECT_EQ(m_Popups.ShowPopup(Alarm("C")), 1);
+    m_Maker.m_FailNext = true;
+    SkipFailure([&] { m_Popups.ShowPopup(Alarm("C")); });
+    m_Maker.m_FailNext = false;
+    EXPECT_EQ(m_Popups.ShowPopup(Alarm("C")), 3);
+}
+
+TEST(NextFormId, BehindTenMillionComesZero) {
+    EXPECT_EQ(NextFormId(0), 1);
+    EXPECT_EQ(NextFormId(9999999), 10000000);
+    EXPECT_EQ(NextFormId(10000000), 0);
+}
+
+// --- font
+
+TEST_F(cShowPopup, TheFontHasItsDefaults) {
+    Show("C");
+    EXPECT_EQ(Steps("label font"), "label font MS Sans Serif 8, label font style plain");
+}
+
+TEST_F(cShowPopup, BoldAndItalicAreAnyNumberButZero) {
+    Configure("FontBold=-1\nFontItalic=2x\n");
+    Show("C");
+    EXPECT_EQ(Steps("label font style"), "label font style bold italic");
+    Configure("FontBold=yes\nFontItalic=1\n");
+    Show("C");
+    EXPECT_EQ(Steps("label font style"), "label font style italic");
+}
+
+// --- place
+
+TEST_F(cShowPopup, ByDefaultTheWindowKeepsItsPlaceAndIsMovedAwayAroundTheShow) {
+    Show("C");
+    std::string steps;
+    for (const std::string& line : SplitLines(m_Transcript.Take())) {
+        if (line.find("left") != std::string::npos || line.find("top ") != std::string::npos ||
+            line.find("show") != std::string::npos) {
+            steps += line.substr(9) + ";";
+        }
+    }
+    EXPECT_EQ(steps, "left 288000;top 230400;show;left 1800;top 2300;");
+}
+
+TEST_F(cShowPopup, APlaceThatIsNoWholeTwipIsRoundedToTheEvenNeighbour) {
+    m_Screen.m_TwipsPerPixel = 12.5;
+    Configure("WindowPosition=STATIC\nX_Start=1\nY_Start=3\n");
+    Show("C");
+    EXPECT_EQ(m_Maker[1].Left(), 12);
+    EXPECT_EQ(m_Maker[1].Top(), 38);
+}
+
+TEST_F(cShowPopup, AStaticPlaceIsThatOfEveryPopup) {
+    Configure("WindowPosition=sTaTiC\nX_Start=7\nY_Start=9\n");
+    EXPECT_EQ(Places(2), "7,9 7,9");
+}
+
+TEST_F(cShowPopup, AStaticPlaceBesideTheLeftEdgeIsTheMakers) {
+    Configure("WindowPosition=STATIC\nX_Start=-1\nY_Start=9\n");
+    Show("C");
+    EXPECT_EQ(m_Maker[1].Left(), 1800);
+    EXPECT_EQ(m_Maker[1].Top(), 2300);
+}
+
+TEST_F(cShowPopup, AnUpperEdgeAboveTheScreenIsTakenAsItIs) {
+    Configure("WindowPosition=STATIC\nX_Start=0\nY_Start=-4\n");
+    EXPECT_EQ(Places(1), "0,-4");
+}
+
+TEST_F(cShowPopup, MovingWithoutBoundsFallsBackToTheStartAtOnce) {
+    Configure("WindowPosition=MOVING\n");
+    EXPECT_EQ(Places(3), "50,50 50,50 50,50");
+}
+
+TEST_F(cShowPopup, MovingRunsToItsBoundAndStartsAnew) {
+    Configure("WindowPosition=MOVING\nX_Stop=500\nY_Stop=2000\n");
+    EXPECT_EQ(Places(11),
+              "50,50 100,100 150,150 200,200 250,250 300,300 350,350 400,400 450,450 500,500 50,50");
+}
+
+TEST_F(cShowPopup, MovingTakesBothAxesBackWhenOnePassesItsBound) {
+    Configure("WindowPosition=MOVING\nX_Start=0\nY_Start=10\nX_Step=5\nY_Step=20\nX_Stop=500\nY_Stop=50\n");
+    EXPECT_EQ(Places(5), "0,10 5,30 10,50 0,10 5,30");
+}
+
+TEST_F(cShowPopup, MovingWithANegativeStepNeverStartsAnew) {
+    Configure(
+        "WindowPosition=MOVING\nX_Start=30\nY_Start=30\nX_Step=0\nY_Step=-20\nX_Stop=500\nY_Stop=500\n");
+    EXPECT_EQ(Places(5), "30,30 30,10 30,-10 30,-30 30,-50");
+}
+
+TEST_F(cShowPopup, MovingBeyondTheLeftEdgeLeavesThePlaceToTheMaker) {
+    Configure("WindowPosition=MOVING\nX_Start=10\nY_Start=0\nX_Step=-20\nY_Step=0\nX_Stop=99\nY_Stop=99\n");
+    EXPECT_EQ(Places(1), "10,0");
+    Show("C");
+    EXPECT_EQ(m_Maker[2].Left(), 2100);
+    EXPECT_EQ(m_Maker[2].Top(), 2600);
+}
+
+TEST_F(cShowPopup, MovingStartsOnlyOnceAndGoesOnFromAnotherKindsPlace) {
+    Configure("WindowPosition=MOVING\nX_Stop=900\nY_Stop=900\n");
+    EXPECT_EQ(Places(2), "50,50 100,100");
+    Configure("");
+    Show("C");
+    Configure("WindowPosition=MOVING\nX_Stop=900\nY_Stop=900\n");
+    EXPECT_EQ(Places(1), "49,49");
+}
+
+TEST_F(cShowPopup, ABoundThatIsReachedIsNotPassed) {
+    Configure("WindowPosition=MOVING\nX_Stop=100\nY_Stop=100\n");
+    EXPECT_EQ(Places(3), "50,50 100,100 50,50");
+}
+
+TEST_F(cShowPopup, AnEditOfTheFileTakesEffectAtTheNextPopup) {
+    Configure("WindowPosition=STATIC\nX_Start=1\nY_Start=2\n");
+    EXPECT_EQ(Places(1), "1,2");
+    Configure("WindowPosition=STATIC\nX_Start=3\nY_Start=4\n");
+    EXPECT_EQ(Places(1), "3,4");
+}
+
+TEST_F(cShowPopup, NumbersAreTheirLeadingPartRounded) {
+    Configure("WindowPosition=STATIC\nX_Start=2.5 pixels\nY_Start=none\n");
+    EXPECT_EQ(Places(1), "2,0");
+}
+
+// --- size
+
+TEST_F(cShowPopup, WithOneSizeOnlyTheDesignSizeStaysOnBothAxes) {
+    for (const char* size : {"X_Size=300\n", "Y_Size=300\n", "X_Size=300\nY_Size=-1\n", ""}) {
+        Configure(size);
+        const int number = Show("C");
+        EXPECT_EQ(m_Maker[number].InnerWidth(), 6768) << size;
+        EXPECT_EQ(m_Maker[number].InnerHeight(), 1260) << size;
+    }
+}
+
+TEST_F(cShowPopup, ASizeOfZeroIsASize) {
+    Configure("X_Size=0\nY_Size=0\n");
+    Show("C");
+    EXPECT_EQ(m_Maker[1].Width(), 0);
+    EXPECT_EQ(m_Maker[1].Height(), 0);
+}
+
+// --- failing steps
+
+TEST_F(cShowPopup, ASettingOutOfRangeOpensNoPopup) {
+    Configure("X_Size=99999999999\n");
+    EXPECT_THROW(m_Popups.ShowPopup(Alarm("C")), cFailure);
+    EXPECT_EQ(m_Maker.Open(), "");
+    EXPECT_EQ(m_State.m_PopupFormCount, 0);
+}
+
+TEST_F(cShowPopup, AWindowThatCantBeMadeLeavesNothing) {
+    m_Maker.m_FailNext = true;
+    EXPECT_THROW(m_Popups.ShowPopup(Alarm("C")), cFailure);
+    EXPECT_EQ(m_State.m_PopupFormCount, 0);
+    EXPECT_EQ(m_Popups.SelectTopPopup(nullptr), nullptr);
+}
+
+TEST_F(cShowPopup, AFailureHalfWayLeavesALoadedPopupThatDoesNotShow) {
+    const AlarmPtr alarm = Alarm("C");
+    alarm->m_CategorySpecificSetting = nullptr;
+    EXPECT_THROW(m_Popups.ShowPopup(alarm), cFailure);
+    EXPECT_EQ(m_Maker.Open(), "1");
+    EXPECT_EQ(m_Maker.Visible(), "");
+    EXPECT_EQ(m_State.m_PopupFormCount, 1);
+}
+
+TEST_F(cShowPopup, AStatusWithoutColoursStopsBehindTheText) {
+    EXPECT_THROW(m_Popups.ShowPopup(Alarm("C", 7)), cFailure);
+    EXPECT_EQ(m_Maker[1].m_LabelText, "Alarm 1//");
+    EXPECT_EQ(m_Maker.Visible(), "");
+}
+
+TEST_F(cShowPopup, APopupLeftHalfPreparedCloses) {
+    SkipFailure([&] { m_Popups.ShowPopup(Alarm("C", 7)); });
+    m_Settings.m_AckEventWhenPopupFormIsClosed = true;
+    m_Transcript.Take();
+    m_Popups.ClosePopups();
+    EXPECT_EQ(m_Transcript.Take(), "acknowledge nothing\npopup 1: closed\n");
+    EXPECT_EQ(LogText(), "closed \n");
+    EXPECT_EQ(m_State.m_PopupFormCount, 0);
+}
+
+// --- resize
+
+TEST_F(cShowPopup, AResizePutsTheLabelBesideThePicture) {
+    Show("C");
+    m_Transcript.Take();
+    m_Maker[1].SetWidth(5120);
+    EXPECT_EQ(m_Transcript.Take(),
+              "popup 1: width 5120\n"
+              "popup 1: label top 100\n"
+              "popup 1: label left 674\n"
+              "popup 1: label width 4326\n"
+              "popup 1: label height 1160\n");
+}
+
+TEST_F(cShowPopup, AWindowNarrowerThanTheLabelsLeftKeepsTheWidthAlone) {
+    Show("C");
+    m_Maker[1].SetHeight(1510);
+    m_Transcript.Take();
+    m_Maker[1].SetWidth(600);
+    EXPECT_EQ(Steps("label"), "label top 100, label left 674, label height 900");
+}
+
+TEST_F(cShowPopup, AWindowLowerThanTheLabelsTopKeepsTheHeightAlone) {
+    Show("C");
+    m_Transcript.Take();
+    m_Maker[1].SetHeight(560);
+    EXPECT_EQ(Steps("label"), "label top 100, label left 674, label width 6094");
+}
+
+}  // namespace
+}  // namespace vigrel::testing
