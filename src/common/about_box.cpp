@@ -1,0 +1,32 @@
+#include "common/about_box.h"
+
+#include "common/settings.h"
+
+namespace vigrel {
+
+std::string AboutText(const cTexts& texts) {
+    const std::string paragraph = "\r\n\r\n";
+    return texts.GetText(10000) + paragraph + texts.GetText(13) + " " + kVersion + paragraph +
+           texts.GetText(14) + " Kelmora AB";
+}
+
+cAboutBox::cAboutBox(cTimer& timerUnload) : m_TimerUnload(timerUnload) {
+    m_TimerUnload.OnTick = [this] { Timer_Unload_Tick(); };
+}
+
+cAboutBox::~cAboutBox() {
+    m_TimerUnload.OnTick = nullptr;
+}
+
+void cAboutBox::Timer_Unload_Tick() {
+    m_Elapsed += m_TimerUnload.Interval();
+    if (m_Elapsed <= kShownFor) return;
+    m_Elapsed = 0;
+    if (OnClose) OnClose();
+}
+
+void cAboutBox::Unload() {
+    m_TimerUnload.SetEnabled(false);
+}
+
+}  // namespace vigrel
