@@ -38,7 +38,7 @@ cPopups::~cPopups() {
 // --- where a popup goes
 
 std::string cPopups::Setting(std::string_view key, std::string_view defaultValue) const {
-    return m_With.m_Ini.GetIniString("PopupForm", key, defaultValue);
+    return m_Services.ini.GetIniString("PopupForm", key, defaultValue);
 }
 
 std::int32_t cPopups::NumberSetting(std::string_view key, std::string_view defaultValue) const {
@@ -87,21 +87,21 @@ std::int32_t cPopups::ShowPopup(const AlarmPtr& alarm) {
     Vigrel_Receiver_Popup& popup = MakePopup();
     cPopupWindow& window = popup.m_Window;
     const cCategorySpecificSetting& setting = SettingOf(*alarm);
-    window.SetLabelText(m_With.ExpandEventText(*alarm, setting.m_EventPopupFormat, setting.m_ExtraText));
+    window.SetLabelText(m_Services.expandEventText(*alarm, setting.m_EventPopupFormat, setting.m_ExtraText));
     SetColours(window, *alarm);
     SetFont(window);
-    m_With.m_Log.WriteLog(m_With.m_Texts.GetText(10043) + " " + alarm->SysLogText());
+    m_Services.log.WriteLog(m_Services.texts.GetText(10043) + " " + alarm->SysLogText());
     window.SetPictureVisible(alarm->m_Alarm.m_Status, true);
     SetPlace(window, size);
 
     // Out of sight until it stands where it stays in the stack; both screen sizes are in twips already, so
     // that this is far away.
-    const cScreen& screen = m_With.m_Screen;
+    const cScreen& screen = m_Services.screen;
     const std::int32_t left = ToInt32(window.Left());
     const std::int32_t top = ToInt32(window.Top());
     window.SetLeft(screen.Width() * screen.TwipsPerPixelX());
     window.SetTop(screen.Height() * screen.TwipsPerPixelY());
-    popup.m_TimeStamp = m_With.m_Clock.Now();
+    popup.m_TimeStamp = m_Services.clock.Now();
     popup.m_Alarm = alarm;
     popup.m_FormId = m_PopupFormId;
     const bool isFirst = SetPriority(popup);
@@ -113,8 +113,8 @@ std::int32_t cPopups::ShowPopup(const AlarmPtr& alarm) {
 }
 
 Vigrel_Receiver_Popup& cPopups::MakePopup() {
-    cPopupWindow& window = m_With.m_Maker.MakePopup();
-    auto& popup = *(m_Popups[&window] = std::make_unique<Vigrel_Receiver_Popup>(m_With, window));
+    cPopupWindow& window = m_Services.maker.MakePopup();
+    auto& popup = *(m_Popups[&window] = std::make_unique<Vigrel_Receiver_Popup>(m_Services, window));
     window.OnQueryUnload = [&popup](eCloseReason reason) {
         popup.QueryUnload(reason);
         return true;
@@ -148,8 +148,8 @@ void cPopups::SetFont(cPopupWindow& window) const {
 }
 
 void cPopups::SetPlace(cPopupWindow& window, cSize size) const {
-    const double pixelX = m_With.m_Screen.TwipsPerPixelX();
-    const double pixelY = m_With.m_Screen.TwipsPerPixelY();
+    const double pixelX = m_Services.screen.TwipsPerPixelX();
+    const double pixelY = m_Services.screen.TwipsPerPixelY();
     if (m_PopupX >= 0) {
         window.SetLeft(m_PopupX * pixelX);
         window.SetTop(m_PopupY * pixelY);
@@ -162,7 +162,7 @@ void cPopups::SetPlace(cPopupWindow& window, cSize size) const {
 
 // Gives the popup its priority. Whether its category is the first of the list.
 bool cPopups::SetPriority(Vigrel_Receiver_Popup& popup) const {
-    const std::string& list = m_With.m_Settings.m_PopupFormTopMostCategory;
+    const std::string& list = m_Services.settings.m_PopupFormTopMostCategory;
     const std::string category = ToUpper(CategoryOf(*popup.m_Alarm));
     const std::string first = Trim(GetField(list, 0, ","));
     std::string field = first;
@@ -178,7 +178,7 @@ bool cPopups::SetPriority(Vigrel_Receiver_Popup& popup) const {
 
 void cPopups::Stack(Vigrel_Receiver_Popup& popup, bool isFirst) {
     cPopupWindow& window = popup.m_Window;
-    if (m_With.m_Settings.m_ViewOnlyOnePopupForm) {
+    if (m_Services.settings.m_ViewOnlyOnePopupForm) {
         window.Hide();
         SelectTopPopup(nullptr);
         // The new window, shown or not, and not the one that was selected.
@@ -192,7 +192,7 @@ void cPopups::Stack(Vigrel_Receiver_Popup& popup, bool isFirst) {
 // Unlike the comparison that gives the priority, this one takes the list as it is written, without regard to
 // case.
 bool cPopups::IsTopMostCategory(const std::string& category) const {
-    const std::string list = Trim(m_With.m_Settings.m_PopupFormTopMostCategory);
+    const std::string list = Trim(m_Services.settings.m_PopupFormTopMostCategory);
     return list.empty() || FindNoCase("," + list + ",", "," + category + ",") > 0;
 }
 
@@ -206,13 +206,13 @@ void cPopups::StackBehindChosen(Vigrel_Receiver_Popup& popup) {
 
 Vigrel_Receiver_Popup* cPopups::SelectTopPopup(const Vigrel_Receiver_Popup* excluded) {
     cBest best;
-    best.stamp = m_With.m_Clock.Now();
+    best.stamp = m_Services.clock.Now();
     // A clock that was set back, as each autumn, must not put popups from before out of sight.
     ForEachOther(excluded, [&](const Vigrel_Receiver_Popup& popup) {
         best.stamp = std::max(best.stamp, popup.m_TimeStamp);
     });
     ForEachOther(excluded, [&](Vigrel_Receiver_Popup& popup) { Consider(popup, best); });
-    if (m_With.m_Settings.m_ViewOnlyOnePopupForm) {
+    if (m_Services.settings.m_ViewOnlyOnePopupForm) {
         ForEachOther(excluded, [&](Vigrel_Receiver_Popup& popup) {
             if (&popup != best.popup) popup.m_Window.Hide();
         });
@@ -244,7 +244,7 @@ Vigrel_Receiver_Popup* cPopups::Find(const cWindow* window) const {
 // Visits the popups in the order in which they were opened.
 template <class Visit>
 void cPopups::ForEachOther(const Vigrel_Receiver_Popup* excluded, Visit visit) const {
-    for (const cWindow* window : m_With.m_Windows.OpenWindows()) {
+    for (const cWindow* window : m_Services.windows.OpenWindows()) {
         Vigrel_Receiver_Popup* popup = Find(window);
         if (popup != nullptr && popup != excluded) visit(*popup);
     }
@@ -253,11 +253,11 @@ void cPopups::ForEachOther(const Vigrel_Receiver_Popup* excluded, Visit visit) c
 // --- closing
 
 void cPopups::ClosePopups() {
-    if (m_With.m_State.m_PopupFormCount <= 0) return;
+    if (m_Services.state.m_PopupFormCount <= 0) return;
     // A window that is gone shifts the rest down, so that the index stays.
     std::size_t index = 0;
-    for (auto windows = m_With.m_Windows.OpenWindows(); index < windows.size();
-         windows = m_With.m_Windows.OpenWindows()) {
+    for (auto windows = m_Services.windows.OpenWindows(); index < windows.size();
+         windows = m_Services.windows.OpenWindows()) {
         cWindow& window = *windows[index];
         const bool closed = window.Name() == kPopupKind && SkipFailure([&] { window.Close(); });
         if (!closed) ++index;

@@ -21,7 +21,7 @@ constexpr std::int32_t NextFormId(std::int32_t formId) {
 // Popups that are still open at its end are let go, not closed.
 class cPopups {
   public:
-    explicit cPopups(cPopupSurroundings surroundings) : m_With(std::move(surroundings)) {}
+    explicit cPopups(cPopupServices services) : m_Services(std::move(services)) {}
     ~cPopups();
     cPopups(const cPopups&) = delete;
     cPopups& operator=(const cPopups&) = delete;
@@ -70,7 +70,7 @@ class cPopups {
     void ForEachOther(const Vigrel_Receiver_Popup* excluded, Visit visit) const;
     static void Consider(Vigrel_Receiver_Popup& popup, cBest& best);
 
-    cPopupSurroundings m_With;
+    cPopupServices m_Services;
     std::unordered_map<const cWindow*, std::unique_ptr<Vigrel_Receiver_Popup>> m_Popups;
     std::int32_t m_PopupX = 0, m_PopupY = 0;  // the latest place in pixels; -1: the maker's
     bool m_PopupMovingStarted = false;

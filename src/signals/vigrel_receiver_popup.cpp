@@ -7,9 +7,9 @@ namespace vigrel {
 
 void Vigrel_Receiver_Popup::Load() {
     m_PriorityIndex = kUnlistedPriority;
-    const std::string object = m_With.m_Ini.GetIniString("General", "Object", "none");
-    m_Window.SetCaption(m_With.m_Texts.GetText(10000) + " (" + object + ")");
-    m_With.m_State.m_PopupFormCount = ToInt16(m_With.m_State.m_PopupFormCount + 1);
+    const std::string object = m_Services.ini.GetIniString("General", "Object", "none");
+    m_Window.SetCaption(m_Services.texts.GetText(10000) + " (" + object + ")");
+    m_Services.state.m_PopupFormCount = ToInt16(m_Services.state.m_PopupFormCount + 1);
 }
 
 void Vigrel_Receiver_Popup::Resize() {
@@ -27,17 +27,17 @@ void Vigrel_Receiver_Popup::Picture_Alarm_Click() {
 }
 
 void Vigrel_Receiver_Popup::LogClose(std::int32_t text) {
-    m_With.m_Log.WriteLog(m_With.m_Texts.GetText(text) + " " + (m_Alarm ? m_Alarm->SysLogText() : ""));
+    m_Services.log.WriteLog(m_Services.texts.GetText(text) + " " + (m_Alarm ? m_Alarm->SysLogText() : ""));
 }
 
 void Vigrel_Receiver_Popup::Unload(const std::function<void()>& selectNext) {
-    cReceiverState& state = m_With.m_State;
+    cReceiverState& state = m_Services.state;
     const bool last = state.m_PopupFormCount < 2;
-    if (!m_With.m_Settings.m_EventSignalUntilNoMorePopupForms || last) state.m_SoundState = 0;
+    if (!m_Services.settings.m_EventSignalUntilNoMorePopupForms || last) state.m_SoundState = 0;
     if (m_UnloadMode == eCloseReason::Control || m_UnloadMode == eCloseReason::Code) {
         SkipFailure([&] { LogClose(10037); });
-        if (m_With.m_Settings.m_AckEventWhenPopupFormIsClosed) {
-            SkipFailure([&] { m_With.AckAlarm(m_Alarm); });
+        if (m_Services.settings.m_AckEventWhenPopupFormIsClosed) {
+            SkipFailure([&] { m_Services.ackAlarm(m_Alarm); });
         }
     } else {
         SkipFailure([&] { LogClose(10038); });

@@ -17,21 +17,21 @@
 namespace vigrel {
 
 // What popups need of the receiver.
-struct cPopupSurroundings {
-    const cSettings& m_Settings;
-    cReceiverState& m_State;
-    const cIni& m_Ini;
-    const cTexts& m_Texts;
-    cLog& m_Log;
-    const cClock& m_Clock;
-    const cScreen& m_Screen;
-    cWindowList& m_Windows;
-    cPopupMaker& m_Maker;
+struct cPopupServices {
+    const cSettings& settings;
+    cReceiverState& state;
+    const cIni& ini;
+    const cTexts& texts;
+    cLog& log;
+    const cClock& clock;
+    const cScreen& screen;
+    cWindowList& windows;
+    cPopupMaker& maker;
     // The text of an event by a template; never fails.
     std::function<std::string(const cVigrelRecieverAlarm&, std::string_view eventTemplate,
                               std::string_view extraText)>
-        ExpandEventText;
-    std::function<void(const AlarmPtr&)> AckAlarm;
+        expandEventText;
+    std::function<void(const AlarmPtr&)> ackAlarm;
 };
 
 // Priority of a popup whose category is not listed in m_PopupFormTopMostCategory.
@@ -40,8 +40,8 @@ inline constexpr std::int16_t kUnlistedPriority = 9999;
 // One popup and what happens to it. Loaded when it is made; its window is the maker's.
 class Vigrel_Receiver_Popup {
   public:
-    Vigrel_Receiver_Popup(cPopupSurroundings& surroundings, cPopupWindow& window)
-        : m_Window(window), m_With(surroundings) {}
+    Vigrel_Receiver_Popup(cPopupServices& services, cPopupWindow& window)
+        : m_Window(window), m_Services(services) {}
 
     void Load();
     void QueryUnload(eCloseReason reason) { m_UnloadMode = reason; }
@@ -61,7 +61,7 @@ class Vigrel_Receiver_Popup {
   private:
     void LogClose(std::int32_t text);
 
-    cPopupSurroundings& m_With;
+    cPopupServices& m_Services;
 };
 
 }  // namespace vigrel
