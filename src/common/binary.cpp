@@ -11,11 +11,20 @@ void cBinaryWriter::Integer(std::uint64_t value, int bytes) {
     for (int i = 0; i < bytes; ++i) m_Bytes.push_back(static_cast<char>(value >> (8 * i) & 0xFF));
 }
 
+void cBinaryWriter::Byte(std::uint8_t value) {
+    Integer(value, 1);
+}
 void cBinaryWriter::Int16(std::int16_t value) {
     Integer(static_cast<std::uint16_t>(value), 2);
 }
 void cBinaryWriter::Int32(std::int32_t value) {
     Integer(static_cast<std::uint32_t>(value), 4);
+}
+void cBinaryWriter::Int64(std::int64_t value) {
+    Integer(static_cast<std::uint64_t>(value), 8);
+}
+void cBinaryWriter::Single(float value) {
+    Integer(std::bit_cast<std::uint32_t>(value), 4);
 }
 void cBinaryWriter::Double(double value) {
     Integer(std::bit_cast<std::uint64_t>(value), 8);
@@ -38,6 +47,10 @@ std::uint64_t cBinaryReader::Integer(int bytes) {
         }
     }
     return value;
+}
+
+float cBinaryReader::Single() {
+    return std::bit_cast<float>(static_cast<std::uint32_t>(Integer(4)));
 }
 
 double cBinaryReader::Double() {

@@ -16,8 +16,11 @@ constexpr Boolean16 False16 = 0;
 // count of bytes and the bytes.
 class cBinaryWriter {
   public:
+    void Byte(std::uint8_t value);
     void Int16(std::int16_t value);
     void Int32(std::int32_t value);
+    void Int64(std::int64_t value);
+    void Single(float value);   // IEEE 754, 4 bytes
     void Double(double value);  // IEEE 754, 8 bytes
     // A string of more than 65,535 bytes throws cFailure (Overflow).
     void String(std::string_view text);
@@ -35,8 +38,11 @@ class cBinaryWriter {
 class cBinaryReader {
   public:
     explicit cBinaryReader(std::string_view bytes) : m_Bytes(bytes) {}
+    std::uint8_t Byte() { return static_cast<std::uint8_t>(Integer(1)); }
     std::int16_t Int16() { return static_cast<std::int16_t>(Integer(2)); }
     std::int32_t Int32() { return static_cast<std::int32_t>(Integer(4)); }
+    std::int64_t Int64() { return static_cast<std::int64_t>(Integer(8)); }
+    float Single();
     double Double();
     std::string String();
     void Skip(std::size_t count);

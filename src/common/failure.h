@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -41,6 +42,17 @@ bool SkipFailure(Statement&& statement) {
         return true;
     } catch (const cFailure&) {
         return false;
+    }
+}
+
+// Runs steps up to the first failure and gives that failure back, for callers that report it.
+template <class Statement>
+std::optional<cFailure> CatchFailure(Statement&& statement) {
+    try {
+        std::forward<Statement>(statement)();
+        return std::nullopt;
+    } catch (const cFailure& failure) {
+        return failure;
     }
 }
 
