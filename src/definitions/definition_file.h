@@ -1,0 +1,74 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "common/binary.h"
+#include "common/ini.h"
+#include "common/log.h"
+#include "common/texts.h"
+#include "definitions/cReceiverTypes.h"
+#include "platform/clock.h"
+#include "platform/files.h"
+#include "platform/random.h"
+
+namespace vigrel {
+
+// What receivers and profiles ask of their surroundings. It outlives them.
+struct cDefinitionServices {
+    cFiles& files;
+    const cClock& clock;
+    cRandom& random;
+    const cTexts& texts;
+    cLog& log;
+    const cIni& ini;
+    const cReceiverTypes& receiverTypes;
+    // Whether "@" in the name of a profile parts a parent from its child.
+    bool m_ProfileNesting = false;
+};
+
+// A definition is a file of its own: a 16-bit version, then the record of that version. This is the version
+// that is written, and behind its record stands room for fields to come.
+constexpr std::int16_t kDefinitionVersion = 5;
+constexpr std::size_t kDefinitionFiller = 2048;
+
+// What the kinds of definitions differ in on disk: where their files lie, and the numbers of their log texts.
+struct cDefinitionKind {
+    std::string_view folderAndStem;  // below the application folder: "Receivers\Receiver_"
+    std::int16_t oldestVersion;
+    std::int32_t textUpgraded, textUnknownVersion, textLoadFailed, textSaveFailed, textRemoved,
+        textRemoveFailed;
+    // Whether the log line about an unknown version names the open file by its number, not by its name.
+    bool namesFileByNumber;
+};
+
+// Folder and stem, the last four digits of the identity, ".dat".
+std::string DefinitionFileName(const cDefinitionServices& services, const cDefinitionKind& kind,
+                               std::int16_t diskIdentity);
+
+// None of the following throws: a failure is a line in the log and a false result.
+
+struct cLoadResult {
+    bool loaded = false;
+    bool outdated = false;  // the file is of an older version and is to be saved again
+};
+// Reads one file: readRecord takes the record of a version from behind the version number and throws cFailure
+// for what it can't read. A missing file is made, empty; an empty one isn't loaded. The object's identity is
+// set as soon as there is something to read.
+cLoadResult LoadDefinition(const cDefinitionServices& services, const cDefinitionKind& kind,
+                           std::int16_t diskIdentity, std::int16_t& objectIdentity,
+                           const std::function<void(cBinaryReader&, std::int16_t version)>& readRecord);
+
+// Writes one file: the current version and what writeRecord adds. A negative identity is replaced by a random
+// one whose file doesn't exist, and hasUpdatedIdentity says so. The old file stands until the new one is
+// whole. When the first save of an object fails, the object stays without an identity, so that its number
+// can't be taken by two.
+bool SaveDefinition(const cDefinitionServices& services, const cDefinitionKind& kind, std::int16_t& identity,
+                    Boolean16& hasUpdatedIdentity, const std::function<void(cBinaryWriter&)>& writeRecord);
+
+bool RemoveDefinition(const cDefinitionServices& services, const cDefinitionKind& kind, std::int16_t identity,
+                      std::string_view name);
+
+}  // namespace vigrel
