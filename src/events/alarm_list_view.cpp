@@ -100,36 +100,46 @@ std::string cAlarmListView::DateAndTime(DateTime value) const {
            Format(value, m_Services.settings.m_TimeFormat);
 }
 
-cAlarmListView::cCell cAlarmListView::MakeCell(const cVigrelRecieverAlarm& alarm, eColumnKind kind) const {
+std::string cAlarmListView::CellText(const cVigrelRecieverAlarm& alarm, eColumnKind kind) const {
     const cAlarm& event = alarm.m_Alarm;
     const cSettings& settings = m_Services.settings;
     switch (kind) {
         case eColumnKind::StateIcon:
-            return {std::to_string(event.m_Status),
-                    alarm.m_CategorySpecificSetting->GetIcon(event.m_Status, alarm.m_Observed != False16)};
+            return std::to_string(event.m_Status);
         case eColumnKind::StateText:
-            return {StateText(event.m_Status)};
+            return StateText(event.m_Status);
         case eColumnKind::AlarmDate:
-            return {Format(event.m_TimeStampFromSCADA, settings.m_DateFormat)};
+            return Format(event.m_TimeStampFromSCADA, settings.m_DateFormat);
         case eColumnKind::AlarmTime:
-            return {Format(event.m_TimeStampFromSCADA, settings.m_TimeFormat)};
+            return Format(event.m_TimeStampFromSCADA, settings.m_TimeFormat);
         case eColumnKind::AlarmDateTime:
-            return {DateAndTime(event.m_TimeStampFromSCADA)};
+            return DateAndTime(event.m_TimeStampFromSCADA);
         case eColumnKind::Date:
-            return {Format(alarm.m_CreatedTime, settings.m_DateFormat)};
+            return Format(alarm.m_CreatedTime, settings.m_DateFormat);
         case eColumnKind::Time:
-            return {Format(alarm.m_CreatedTime, settings.m_TimeFormat)};
+            return Format(alarm.m_CreatedTime, settings.m_TimeFormat);
         case eColumnKind::DateAndTime:
-            return {DateAndTime(alarm.m_CreatedTime)};
+            return DateAndTime(alarm.m_CreatedTime);
         case eColumnKind::t2:
-            return {m_Services.ini.GetIniString("CategoryTranslations", event.GetCondition(2),
-                                                event.GetCondition(2))};
+            return m_Services.ini.GetIniString("CategoryTranslations", event.GetCondition(2),
+                                               event.GetCondition(2));
         case eColumnKind::ExtraText:
-            return {alarm.m_CategorySpecificSetting->m_ExtraText};
+            return alarm.m_CategorySpecificSetting->m_ExtraText;
         case eColumnKind::Observed:
-            return {"", alarm.m_Observed != False16 ? kIconObserved : kIconNotObserved};
+            return {};
         default:
-            return {event.GetCondition(static_cast<int>(kind) - static_cast<int>(eColumnKind::t0))};
+            return event.GetCondition(static_cast<int>(kind) - static_cast<int>(eColumnKind::t0));
+    }
+}
+
+void cAlarmListView::SetCellIcon(const cVigrelRecieverAlarm& alarm, int column, eColumnKind kind) {
+    const bool observed = alarm.m_Observed != False16;
+    if (kind == eColumnKind::StateIcon) {
+        m_Services.list.SetItemIcon(
+            alarm.m_Record, column,
+            alarm.m_CategorySpecificSetting->GetIcon(alarm.m_Alarm.m_Status, observed));
+    } else if (kind == eColumnKind::Observed) {
+        m_Services.list.SetItemIcon(alarm.m_Record, column, observed ? kIconObserved : kIconNotObserved);
     }
 }
 
@@ -137,17 +147,19 @@ void cAlarmListView::UpdateAlarmRow(const cVigrelRecieverAlarm& alarm) {
     cReportList& list = m_Services.list;
     const int visible = list.ColumnCount() - 1;
     for (int column = 0; column < visible; ++column) {
+        const eColumnKind kind = m_ColumnMap[static_cast<std::size_t>(column)];
+        std::string text;
+        SkipFailure([&] { text = CellText(alarm, kind); });
+        SkipFailure([&] { SetCellIcon(alarm, column, kind); });
+        SkipFailure([&] { list.SetItemValue(alarm.m_Record, column, text); });
+        // The first column is meant for the icon: it keeps the list's own colours and shows no text.
+        if (column == 0) continue;
         SkipFailure([&] {
-            const cCell cell = MakeCell(alarm, m_ColumnMap[static_cast<std::size_t>(column)]);
-            list.SetItemValue(alarm.m_Record, column, cell.text);
-            if (cell.icon >= 0) list.SetItemIcon(alarm.m_Record, column, cell.icon);
-            // The first column is meant for the icon: it keeps the list's own colours and shows no text.
-            if (column == 0) return;
-            list.SetItemCaption(alarm.m_Record, column, cell.text);
             list.SetItemColours(alarm.m_Record, column,
                                 alarm.m_CategorySpecificSetting->GetForeColor(alarm.m_Alarm.m_Status),
                                 alarm.m_CategorySpecificSetting->GetBackColor(alarm.m_Alarm.m_Status));
         });
+        SkipFailure([&] { list.SetItemCaption(alarm.m_Record, column, text); });
     }
 }
 

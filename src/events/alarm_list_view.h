@@ -92,12 +92,9 @@ class cAlarmListView {
     void CopyRowsToClipboard();
 
   private:
-    struct cCell {
-        std::string text;
-        int icon = -1;
-    };
     void AddColumn(const std::string& keyword);
-    cCell MakeCell(const cVigrelRecieverAlarm& alarm, eColumnKind kind) const;
+    std::string CellText(const cVigrelRecieverAlarm& alarm, eColumnKind kind) const;
+    void SetCellIcon(const cVigrelRecieverAlarm& alarm, int column, eColumnKind kind);
     std::string StateText(std::int16_t status) const;
     std::string Format(DateTime value, const std::string& pattern) const;
     std::string DateAndTime(DateTime value) const;

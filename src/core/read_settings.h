@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+#include "common/ini.h"
+#include "common/settings.h"
+
+namespace vigrel {
+
+// Reads the settings of sections "General" and "Printer" (but for the columns', which the list reads). A flag
+// is true only when its number is exactly 1. A number beyond its range throws cFailure (Overflow) that names
+// file, key and value. fontRead is called as soon as the list's font is known.
+void ReadSettings(const cIni& ini, cSettings& settings, const std::function<void()>& fontRead);
+
+// The listening port.
+std::int32_t ReadPort(const cIni& ini);
+
+}  // namespace vigrel

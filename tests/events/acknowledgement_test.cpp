@@ -1,0 +1,151 @@
+#include "events/acknowledgement.h"
+
+#include <gtest/gtest.h>
+
+#include "support/fake_station.h"
+
+namespace vigrel {
+namespace {
+
+using testing::cFakeStation;
+using testing::kApp;
+
+class Acknowledgement : public ::testing::Test, public cFakeStation {
+  protected:
+    Acknowledgement() {
+        Ini("[General]\r\nColumns=StateIcon,Observed\r\nIcon_Active=2,3\r\n");
+        categories.ReadDefault(ini);
+        view.SetUpColumns(settings);
+        LoadTexts({10039});
+        state.m_SoundState = 4;
+    }
+    int Icon(const AlarmPtr& alarm, int item) const { return list.Item(alarm->m_Record, item).icon; }
+};
+
+TEST_F(Acknowledgement, OfNothingDoesNothing) {
+    acknowledgement.AckAlarm(0, nullptr);
+    EXPECT_EQ(state.m_SoundState, 4);
+    EXPECT_FALSE(state.m_ListChanged);
+    EXPECT_EQ(Log(), "");
+}
+
+TEST_F(Acknowledgement, OfARowSetsTheAlarmObservedWithIconFileLogAndSilence) {
+    const AlarmPtr alarm = Take(MakeAlarm("Fire in hall"));
+    EXPECT_EQ(Icon(alarm, 0), 2);
+    EXPECT_EQ(Icon(alarm, 1), 26);
+    state.m_ListChanged = false;
+    acknowledgement.AckAlarm(alarm->m_Record, nullptr);
+    EXPECT_EQ(alarm->m_Observed, True16);
+    EXPECT_EQ(alarm->m_Alarm.m_Status, StatusActive);
+    EXPECT_EQ(Icon(alarm, 0), 3);
+    EXPECT_EQ(Icon(alarm, 1), 27);
+    EXPECT_EQ(state.m_SoundState, 0);
+    EXPECT_TRUE(state.m_ListChanged);
+    EXPECT_EQ(Log(), "T10039 Active - Fire in hall (///)\n");
+    files.Crash();
+    cVigrelRecieverAlarm read(clock);
+    const std::string bytes = files.ReadFile(store.FileName(alarm->m_FileId));
+    cBinaryReader file(bytes);
+    read.ReadFromDisk(file);
+    EXPECT_EQ(read.m_Observed, True16);
+}
+
+TEST_F(Acknowledgement, TheAlarmArgumentIsPreferredToTheRow) {
+    const AlarmPtr first = Take(MakeAlarm("first"));
+    const AlarmPtr second = Take(MakeAlarm("second"));
+    acknowledgement.AckAlarm(first->m_Record, second);
+    EXPECT_EQ(first->m_Observed, False16);
+    EXPECT_EQ(second->m_Observed, True16);
+}
+
+TEST_F(Acknowledgement, OfAnObservedAlarmOnlyStopsTheSoundAndMarksTheList) {
+    const AlarmPtr alarm = Take(MakeAlarm());
+    alarm->m_Observed = True16;
+    state.m_ListChanged = false;
+    const int calls = files.m_Calls;
+    acknowledgement.AckAlarm(alarm->m_Record, nullptr);
+    EXPECT_EQ(files.m_Calls, calls);
+    EXPECT_EQ(state.m_SoundState, 0);
+    EXPECT_TRUE(state.m_ListChanged);
+}
+
+TEST_F(Acknowledgement, TheSoundGoesOnWhilePopupsAreOpenWhenItLastsUntilTheLastOfThem) {
+    settings.m_EventSignalUntilNoMorePopupForms = true;
+    state.m_PopupFormCount = 2;
+    const AlarmPtr alarm = Take(MakeAlarm());
+    acknowledgement.AckAlarm(0, alarm);
+    EXPECT_EQ(state.m_SoundState, 4);
+    acknowledgement.Menu_AckAll();
+    EXPECT_EQ(state.m_SoundState, 4);
+    state.m_PopupFormCount = 0;
+    acknowledgement.Menu_AckAll();
+    EXPECT_EQ(state.m_SoundState, 0);
+}
+
+TEST_F(Acknowledgement, OfAllGoesThroughTheRowsInDisplayOrderAndSkipsTheObserved) {
+    for (const char* text : {"a", "b", "c"}) {
+        Take(MakeAlarm(text));
+        clock.AddSeconds(1);
+    }
+    settings.m_SortDescending = true;
+    view.SetSortOrder();
+    list.TakeOverRecords();
+    store.m_Alarms[1]->m_Observed = True16;
+    acknowledgement.Menu_AckAll();
+    EXPECT_EQ(Log(), "T10039 Active - c (///)\nT10039 Active - a (///)\n");
+    for (const AlarmPtr& alarm : store.m_Alarms) EXPECT_EQ(alarm->m_Observed, True16);
+}
+
+TEST_F(Acknowledgement, OfAllOnAnEmptyListOnlyEndsTheSound) {
+    acknowledgement.Menu_AckAll();
+    EXPECT_EQ(state.m_SoundState, 0);
+    EXPECT_FALSE(state.m_ListChanged);
+    EXPECT_EQ(Log(), "");
+}
+
+TEST_F(Acknowledgement, OfAllWithPopupsClosesThemAndEndsTheSound) {
+    settings.m_EventSignalUntilNoMorePopupForms = true;
+    state.m_PopupFormCount = 2;
+    const AlarmPtr alarm = Take(MakeAlarm());
+    acknowledgement.Menu_AckAll_AndClosePopups([&] {
+        EXPECT_EQ(alarm->m_Observed, True16);
+        EXPECT_EQ(state.m_SoundState, 4);
+        state.m_PopupFormCount = 0;
+    });
+    EXPECT_EQ(state.m_SoundState, 0);
+}
+
+TEST_F(Acknowledgement, WithoutPopupsNoneIsClosed) {
+    bool closed = false;
+    acknowledgement.Menu_AckAll_AndClosePopups([&] { closed = true; });
+    EXPECT_FALSE(closed);
+}
+
+TEST_F(Acknowledgement, ThatCannotBeWrittenIsTriedAgain) {
+    const AlarmPtr alarm = Take(MakeAlarm());
+    files.m_DiskFull = true;
+    acknowledgement.Menu_AckAll();
+    EXPECT_EQ(alarm->m_Observed, True16);
+    files.m_DiskFull = false;
+    store.RetryUnsaved();
+    cVigrelRecieverAlarm read(clock);
+    const std::string bytes = files.ReadFile(store.FileName(alarm->m_FileId));
+    cBinaryReader file(bytes);
+    read.ReadFromDisk(file);
+    EXPECT_EQ(read.m_Observed, True16);
+}
+
+TEST_F(Acknowledgement, KeepsRowColoursAndPlace) {
+    Ini("[General]\r\nColumns=StateIcon,t0\r\nBackColor_Active=10,20,30\r\nForeColor_Active=1,2,3\r\n");
+    categories.ReadDefault(ini);
+    const AlarmPtr alarm = Take(MakeAlarm());
+    const auto rows = list.Rows();
+    const auto before = list.Item(alarm->m_Record, 1);
+    acknowledgement.AckAlarm(alarm->m_Record, nullptr);
+    EXPECT_EQ(list.Rows(), rows);
+    EXPECT_EQ(list.Item(alarm->m_Record, 1).backColour, before.backColour);
+    EXPECT_EQ(list.Item(alarm->m_Record, 1).textColour, before.textColour);
+}
+
+}  // namespace
+}  // namespace vigrel

@@ -1,0 +1,426 @@
+#include "events/alarm_store.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "common/dates.h"
+#include "common/failure.h"
+#include "common/file_procedures.h"
+#include "common/text.h"
+#include "support/fake_station.h"
+
+namespace vigrel {
+namespace {
+
+using testing::cFakeStation;
+using testing::kApp;
+
+class AlarmStore : public ::testing::Test, public cFakeStation {
+  protected:
+    AlarmStore() {
+        view.SetUpColumns(settings);
+        LoadTexts({10036, 10041});
+    }
+    // A stored alarm of the given age in days.
+    std::string PutFile(std::int32_t id, double ageDays, const std::string& sender = "S") {
+        cVigrelRecieverAlarm alarm(clock);
+        alarm.m_Sender = sender;
+        alarm.m_CreatedTime = clock.Now() - ageDays;
+        alarm.m_FileId = id;
+        cBinaryWriter file;
+        alarm.WriteToDisk(file);
+        files.Put(store.FileName(id), file.Bytes());
+        return store.FileName(id);
+    }
+    void Load() {
+        store.LoadAlarms([this](const AlarmPtr& alarm) { view.AddAlarmRow(alarm); });
+    }
+    AlarmPtr At(double created, const std::string& sender) {
+        auto alarm = MakeAlarm();
+        alarm->m_CreatedTime = created;
+        alarm->m_Sender = sender;
+        return alarm;
+    }
+    std::string Senders() const {
+        std::string order;
+        for (const AlarmPtr& alarm : store.m_Alarms) order += alarm->m_Sender;
+        return order;
+    }
+};
+
+TEST_F(AlarmStore, AFileNameHasSevenDigits) {
+    EXPECT_EQ(store.FileName(42917), std::string(kApp) + "Alarms\\A0042917.alm");
+    EXPECT_EQ(store.FileName(0), std::string(kApp) + "Alarms\\A0000000.alm");
+    EXPECT_EQ(store.FileName(9999999), std::string(kApp) + "Alarms\\A9999999.alm");
+}
+
+TEST_F(AlarmStore, ANewAlarmGetsARandomFreeNumber) {
+    PutFile(5000000, 1);  // 0.5 * 9,999,999 rounds, tie to even, to 5,000,000
+    random.m_Values = {0.5, 0.25};
+    const AlarmPtr alarm = MakeAlarm();
+    store.SaveAlarm(alarm);
+    EXPECT_EQ(alarm->m_FileId, 2500000);
+    EXPECT_TRUE(files.FileExists(std::string(kApp) + "Alarms\\A2500000.alm"));
+}
+
+TEST_F(AlarmStore, ASavedAlarmSurvivesACrashAsSoonAsSaveReturns) {
+    const AlarmPtr alarm = MakeAlarm();
+    store.SaveAlarm(alarm);
+    cBinaryWriter expected;
+    alarm->WriteToDisk(expected);
+    files.Crash();
+    EXPECT_EQ(files.ReadFile(store.FileName(alarm->m_FileId)), expected.Bytes());
+}
+
+TEST_F(AlarmStore, SavingAgainReplacesTheFileInFull) {
+    const AlarmPtr alarm = MakeAlarm(std::string(500, 'x'));
+    store.SaveAlarm(alarm);
+    const std::int32_t id = alarm->m_FileId;
+    alarm->m_Alarm.SetCondition(0, "short");
+    store.SaveAlarm(alarm);
+    EXPECT_EQ(alarm->m_FileId, id);
+    EXPECT_EQ(AlarmFiles().size(), 1u);
+    EXPECT_EQ(files.ReadFile(store.FileName(id)).size(), 180u + 4 + 5);
+}
+
+TEST_F(AlarmStore, ACrashAtAnyStepOfAReplacementLeavesTheOldFileOrTheNewOne) {
+    for (int step = 0; step < 4; ++step) {
+        cFakeStation station;
+        const AlarmPtr alarm = station.MakeAlarm("old");
+        station.store.SaveAlarm(alarm);
+        const std::string name = station.store.FileName(alarm->m_FileId);
+        const std::string before = station.files.ReadFile(name);
+        alarm->m_Alarm.SetCondition(0, "new");
+        cBinaryWriter after;
+        alarm->WriteToDisk(after);
+        station.files.m_FailCall = station.files.m_Calls + step;
+        station.store.SaveAlarm(alarm);
+        station.files.Crash();
+        const std::string left = station.files.ReadFile(name);
+        EXPECT_TRUE(left == before || left == after.Bytes()) << "step " << step;
+    }
+}
+
+TEST_F(AlarmStore, AnAlarmThatCouldNotBeWrittenIsTriedAgainUntilItIsOnDisk) {
+    files.m_DiskFull = true;
+    const AlarmPtr first = Take(MakeAlarm("first"));
+    const AlarmPtr second = Take(MakeAlarm("second"));
+    EXPECT_TRUE(AlarmFiles().empty());
+    EXPECT_EQ(store.m_Alarms.size(), 2u);
+    store.RetryUnsaved();
+    EXPECT_TRUE(AlarmFiles().empty());
+    files.m_DiskFull = false;
+    store.RetryUnsaved();
+    EXPECT_EQ(AlarmFiles().size(), 2u);
+    files.Crash();
+    EXPECT_EQ(AlarmFiles().size(), 2u);
+    const int calls = files.m_Calls;
+    store.RetryUnsaved();
+    EXPECT_EQ(files.m_Calls, calls);
+}
+
+TEST_F(AlarmStore, AnUnsavedAlarmThatLeavesTheStoreIsNotWrittenAnyMore) {
+    settings.m_MaxEvents = 1;
+    files.m_DiskFull = true;
+    Take(MakeAlarm("first"));
+    clock.AddSeconds(1);
+    const AlarmPtr second = Take(MakeAlarm("second"));
+    files.m_DiskFull = false;
+    store.RetryUnsaved();
+    ASSERT_EQ(AlarmFiles().size(), 1u);
+    EXPECT_TRUE(files.FileExists(store.FileName(second->m_FileId)));
+}
+
+TEST_F(AlarmStore, AFailedFolderSyncIsTriedAgain) {
+    files.m_FailCall = files.m_Calls + 2;  // write, rename, sync
+    Take(MakeAlarm());
+    files.Crash();
+    EXPECT_TRUE(AlarmFiles().empty());
+    store.RetryUnsaved();
+    files.Crash();
+    EXPECT_EQ(AlarmFiles().size(), 1u);
+}
+
+TEST_F(AlarmStore, ManySavesTogetherAreDurableWhenTheyReturn) {
+    std::vector<AlarmPtr> alarms;
+    for (int i = 0; i < 5; ++i) alarms.push_back(Take(MakeAlarm()));
+    store.SaveTogether([&] {
+        for (const AlarmPtr& alarm : alarms) {
+            alarm->m_Observed = True16;
+            store.SaveAlarm(alarm);
+        }
+    });
+    files.Crash();
+    for (const AlarmPtr& alarm : alarms) {
+        cBinaryWriter expected;
+        alarm->WriteToDisk(expected);
+        EXPECT_EQ(files.ReadFile(store.FileName(alarm->m_FileId)), expected.Bytes());
+    }
+    EXPECT_EQ(AlarmFiles().size(), 5u);
+}
+
+TEST_F(AlarmStore, AFailureWhileSavingTogetherLosesNothingAtAnyStep) {
+    for (int step = 0; step < 12; ++step) {
+        cFakeStation station;
+        station.view.SetUpColumns(station.settings);
+        std::vector<AlarmPtr> alarms;
+        for (int i = 0; i < 3; ++i) alarms.push_back(station.Take(station.MakeAlarm("old")));
+        station.files.m_FailCall = station.files.m_Calls + step;
+        station.store.SaveTogether([&] {
+            for (const AlarmPtr& alarm : alarms) {
+                alarm->m_Observed = True16;
+                station.store.SaveAlarm(alarm);
+            }
+        });
+        station.store.RetryUnsaved();
+        station.files.Crash();
+        for (const AlarmPtr& alarm : alarms) {
+            cBinaryWriter expected;
+            alarm->WriteToDisk(expected);
+            EXPECT_EQ(station.files.ReadFile(station.store.FileName(alarm->m_FileId)), expected.Bytes())
+                << "step " << step;
+        }
+    }
+}
+
+TEST_F(AlarmStore, TheCollectionIsSortedByTheTimeOfCreation) {
+    for (const auto& [time, sender] : std::vector<std::pair<double, std::string>>{
+             {5, "e"}, {3, "c"}, {9, "i"}, {1, "a"}, {7, "g"}, {4, "d"}, {8, "h"}, {2, "b"}, {6, "f"}}) {
+        settings.m_MaxDays = 0;
+        EXPECT_TRUE(store.InsertAlarm(At(time, sender), 0));
+    }
+    EXPECT_EQ(Senders(), "abcdefghi");
+}
+
+TEST_F(AlarmStore, EveryInsertionOrderEndsSorted) {
+    settings.m_MaxDays = 0;
+    std::string order = "abcdef";
+    do {
+        store.m_Alarms.clear();
+        for (const char c : order) store.InsertAlarm(At(c, std::string(1, c)), 0);
+        ASSERT_EQ(Senders(), "abcdef") << order;
+    } while (std::next_permutation(order.begin(), order.end()));
+}
+
+TEST_F(AlarmStore, OfTwoEqualTimesTheLaterInsertionStandsBehindTheOneTheSearchMet) {
+    settings.m_MaxDays = 0;
+    store.InsertAlarm(At(1, "a"), 0);
+    store.InsertAlarm(At(1, "b"), 0);
+    EXPECT_EQ(Senders(), "ab");
+    // With "ab" the search begins at the second of two.
+    store.InsertAlarm(At(1, "c"), 0);
+    EXPECT_EQ(Senders(), "abc");
+    // With three it begins at position 3 (1.5 rounds to 2), with four at position 3.
+    store.InsertAlarm(At(1, "d"), 0);
+    EXPECT_EQ(Senders(), "abcd");
+    store.InsertAlarm(At(1, "e"), 0);
+    EXPECT_EQ(Senders(), "abced");
+}
+
+TEST_F(AlarmStore, TheOldestGoesWhenThereAreTooMany) {
+    settings.m_MaxEvents = 2;
+    const AlarmPtr first = Take(MakeAlarm("first"));
+    clock.AddSeconds(1);
+    Take(MakeAlarm("second"));
+    clock.AddSeconds(1);
+    const AlarmPtr third = MakeAlarm("third");
+    view.AddAlarmRow(third);
+    store.SaveAlarm(third);
+    EXPECT_FALSE(store.InsertAlarm(third, 2));
+    EXPECT_EQ(store.m_Alarms.size(), 2u);
+    EXPECT_EQ(AlarmFiles().size(), 2u);
+    EXPECT_FALSE(files.FileExists(store.FileName(first->m_FileId)));
+    EXPECT_EQ(list.RecordCount(), 2);
+    EXPECT_EQ(first->m_Record, 0u);
+}
+
+TEST_F(AlarmStore, OnlyOneGoesPerInsertionHoweverFarOverTheLimit) {
+    settings.m_MaxDays = 0;
+    for (int i = 0; i < 5; ++i) store.InsertAlarm(At(i + 1, "x"), 0);
+    EXPECT_FALSE(store.InsertAlarm(At(10, "y"), 2));
+    EXPECT_EQ(store.m_Alarms.size(), 5u);
+}
+
+TEST_F(AlarmStore, AnAlarmOlderThanEveryOtherCanBeTheOneThatGoes) {
+    settings.m_MaxDays = 0;
+    store.InsertAlarm(At(2, "b"), 1);
+    EXPECT_FALSE(store.InsertAlarm(At(1, "a"), 1));
+    EXPECT_EQ(Senders(), "b");
+}
+
+TEST_F(AlarmStore, ATooOldAlarmIsDeletedWithItsRowAndNotInserted) {
+    const AlarmPtr alarm = MakeAlarm();
+    alarm->m_CreatedTime = clock.Now() - 31;
+    view.AddAlarmRow(alarm);
+    store.SaveAlarm(alarm);
+    EXPECT_FALSE(store.InsertAlarm(alarm, 1000));
+    EXPECT_TRUE(store.m_Alarms.empty());
+    EXPECT_TRUE(AlarmFiles().empty());
+    EXPECT_EQ(list.RecordCount(), 0);
+}
+
+TEST_F(AlarmStore, WithoutLimitsNothingIsEverRemoved) {
+    settings.m_MaxDays = 0;
+    for (int i = 0; i < 50; ++i) EXPECT_TRUE(store.InsertAlarm(At(1, "x"), 0));
+    EXPECT_EQ(store.SweepOldAlarms(), 0);
+    EXPECT_EQ(store.m_Alarms.size(), 50u);
+}
+
+TEST_F(AlarmStore, AnEmptyFolderLogsZeroAlarms) {
+    Load();
+    EXPECT_EQ(Log(), "0 T10041\n");
+    EXPECT_TRUE(state.m_ListChanged);
+    EXPECT_TRUE(list.m_Visible);
+}
+
+TEST_F(AlarmStore, StoredAlarmsComeBackInOrderWithTheirState) {
+    PutFile(1, 1, "b");
+    PutFile(2, 2, "a");
+    const std::string seen = PutFile(3, 0.5, "c");
+    cVigrelRecieverAlarm observed(clock);
+    observed.m_Sender = "c";
+    observed.m_CreatedTime = clock.Now() - 0.5;
+    observed.m_Observed = True16;
+    cBinaryWriter file;
+    observed.WriteToDisk(file);
+    files.Put(seen, file.Bytes());
+    Load();
+    EXPECT_EQ(Senders(), "abc");
+    EXPECT_EQ(store.m_Alarms[2]->m_Observed, True16);
+    EXPECT_EQ(store.m_Alarms[0]->m_Observed, False16);
+    EXPECT_EQ(list.Rows().size(), 3u);
+    EXPECT_EQ(Log(), "3 T10041\n");
+}
+
+TEST_F(AlarmStore, The1001stFileAtStartRemovesTheOldest) {
+    for (int i = 0; i < 1001; ++i) PutFile(i + 1, 1 + i / 2000.0);
+    Load();
+    EXPECT_EQ(store.m_Alarms.size(), 1000u);
+    EXPECT_EQ(AlarmFiles().size(), 1000u);
+    EXPECT_FALSE(files.FileExists(store.FileName(1001)));
+    EXPECT_EQ(Log(), "1 T10036\n1000 T10041\n");
+}
+
+TEST_F(AlarmStore, ALoweredLimitRemovesOneAlarmForEachFileBeyondIt) {
+    for (int i = 0; i < 1500; ++i) PutFile(i + 1, 1 + i / 3000.0);
+    Load();
+    EXPECT_EQ(store.m_Alarms.size(), 1000u);
+    EXPECT_EQ(AlarmFiles().size(), 1000u);
+    EXPECT_EQ(Log(), "500 T10036\n1000 T10041\n");
+}
+
+TEST_F(AlarmStore, ATooOldFileIsDeletedAtStartAndNeverGetsARow) {
+    PutFile(1, 31);
+    PutFile(2, 29);
+    Load();
+    EXPECT_EQ(AlarmFiles(), std::vector<std::string>{"A0000002.alm"});
+    EXPECT_EQ(Log(), "1 T10036\n1 T10041\n");
+    EXPECT_EQ(list.RecordCount(), 1);
+}
+
+TEST_F(AlarmStore, ANameWithoutANumberIsLeftAloneForGood) {
+    files.Put(std::string(kApp) + "Alarms\\ABCDEFGH.alm", "not an alarm");
+    Load();
+    EXPECT_TRUE(store.m_Alarms.empty());
+    EXPECT_TRUE(files.FileExists(std::string(kApp) + "Alarms\\ABCDEFGH.alm"));
+}
+
+TEST_F(AlarmStore, AForeignNameCaseIsReadAndReplacedUnderItsOwnNumber) {
+    const std::string bytes = files.ReadFile(PutFile(77, 1));
+    files.RemoveFile(store.FileName(77));
+    files.Put(std::string(kApp) + "Alarms\\a0000077.ALM", bytes);
+    Load();
+    ASSERT_EQ(store.m_Alarms.size(), 1u);
+    EXPECT_EQ(store.m_Alarms[0]->m_FileId, 77);
+    store.SaveAlarm(store.m_Alarms[0]);
+    EXPECT_EQ(AlarmFiles().size(), 1u);
+}
+
+TEST_F(AlarmStore, TheNameDecidesTheNumberAndTheNextSaveCorrectsTheFile) {
+    const std::string bytes = files.ReadFile(PutFile(5, 1));
+    files.RemoveFile(store.FileName(5));
+    files.Put(store.FileName(9), bytes);
+    Load();
+    ASSERT_EQ(store.m_Alarms.size(), 1u);
+    EXPECT_EQ(store.m_Alarms[0]->m_FileId, 9);
+    store.SaveAlarm(store.m_Alarms[0]);
+    cVigrelRecieverAlarm read(clock);
+    const std::string saved = files.ReadFile(store.FileName(9));
+    cBinaryReader file(saved);
+    read.ReadFromDisk(file);
+    EXPECT_EQ(read.m_FileId, 9);
+}
+
+TEST_F(AlarmStore, AFileCutAtAnyLengthStillLoadsWithoutDayLimit) {
+    settings.m_MaxDays = 0;
+    const std::string bytes = files.ReadFile(PutFile(1, 1, "PLC1"));
+    for (std::size_t length = 0; length <= bytes.size(); ++length) {
+        files.Put(store.FileName(1), bytes.substr(0, length));
+        Load();
+        ASSERT_EQ(store.m_Alarms.size(), 1u) << length;
+    }
+    EXPECT_EQ(store.m_Alarms[0]->m_Sender, "PLC1");
+}
+
+TEST_F(AlarmStore, AFileCutShortStandsFirstInTheOrderOrGoesAsTooOld) {
+    settings.m_MaxDays = 0;
+    PutFile(2, 20, "b");
+    files.Put(store.FileName(1), "");
+    Load();
+    EXPECT_EQ(Senders(), "b");
+    EXPECT_EQ(store.m_Alarms[0]->m_CreatedTime, 0);
+    settings.m_MaxDays = 30;
+    Load();
+    EXPECT_EQ(store.m_Alarms.size(), 1u);
+    EXPECT_FALSE(files.FileExists(store.FileName(1)));
+}
+
+TEST_F(AlarmStore, AnAlarmFileThatCannotBeReadEndsTheStart) {
+    files.SetUnreadable(PutFile(1, 1), true);
+    EXPECT_THROW(Load(), cFailure);
+}
+
+TEST_F(AlarmStore, AFolderThatCannotBeWrittenStillLoads) {
+    PutFile(1, 40);
+    PutFile(2, 1);
+    files.m_FolderReadOnly = true;
+    Load();
+    EXPECT_EQ(store.m_Alarms.size(), 1u);
+    EXPECT_EQ(AlarmFiles().size(), 2u);
+}
+
+TEST_F(AlarmStore, ALeftoverTemporaryIsClearedAndNeverRead) {
+    files.Put(store.FileName(1) + ".$~", "half");
+    Load();
+    EXPECT_TRUE(store.m_Alarms.empty());
+    EXPECT_TRUE(AlarmFiles().empty());
+}
+
+TEST_F(AlarmStore, TheSweepStopsAtTheFirstAlarmThatIsYoungEnough) {
+    settings.m_MaxDays = 0;
+    for (const double age : {40.0, 35.0, 10.0, 1.0}) {
+        const AlarmPtr alarm = MakeAlarm();
+        alarm->m_CreatedTime = clock.Now() - age;
+        Take(alarm);
+    }
+    settings.m_MaxDays = 30;
+    EXPECT_EQ(store.SweepOldAlarms(), 2);
+    EXPECT_EQ(store.m_Alarms.size(), 2u);
+    EXPECT_EQ(AlarmFiles().size(), 2u);
+    EXPECT_EQ(list.RecordCount(), 2);
+}
+
+TEST_F(AlarmStore, ADrawnNumberOfZeroIsAValidFileAndANewNumberAtTheNextSave) {
+    random.m_Values = {0.0};
+    const AlarmPtr alarm = MakeAlarm();
+    store.SaveAlarm(alarm);
+    EXPECT_TRUE(files.FileExists(std::string(kApp) + "Alarms\\A0000000.alm"));
+    random.m_Values = {0.5};
+    store.SaveAlarm(alarm);
+    EXPECT_EQ(alarm->m_FileId, 5000000);
+    EXPECT_EQ(AlarmFiles().size(), 2u);
+}
+
+}  // namespace
+}  // namespace vigrel

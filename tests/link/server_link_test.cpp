@@ -1,0 +1,144 @@
+#include "link/server_link.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "common/failure.h"
+#include "support/fake_sockets.h"
+
+namespace vigrel {
+namespace {
+
+using testing::cFakeDataSocket;
+using testing::cFakeListener;
+
+class ServerLink : public ::testing::Test {
+  protected:
+    ServerLink() {
+        link.ProcessRecord = [this](const std::string& line) {
+            lines.push_back(line);
+            link.SendReply("ok" + std::to_string(lines.size()));
+        };
+        link.WriteTrace = [this](std::string_view text, std::int16_t kind) {
+            trace += std::to_string(kind) + ":" + std::string(text) + ";";
+        };
+        link.Listen(12412);
+    }
+
+    cFakeListener listener;
+    cFakeDataSocket data{listener};
+    cReceiverState state;
+    cServerLink link{listener, data, state};
+    std::vector<std::string> lines;
+    std::string trace;
+};
+
+TEST_F(ServerLink, ListensOnTheGivenPort) {
+    EXPECT_EQ(listener.m_Port, 12412);
+    EXPECT_TRUE(listener.m_Listening);
+}
+
+TEST_F(ServerLink, APortThatCannotBeOpenedIsAFailure) {
+    listener.m_PortInUse = true;
+    EXPECT_THROW(link.Listen(12412), cFailure);
+}
+
+TEST_F(ServerLink, ALineSplitOverTwoArrivalsIsProcessedOnceAtItsLineFeed) {
+    listener.Knock(1);
+    data.Arrive(
+        "\x02PLC1\xFFS0\xFF"
+        "9");
+    EXPECT_TRUE(lines.empty());
+    data.Arrive("2\x03\n");
+    EXPECT_EQ(lines, std::vector<std::string>{"\x02PLC1\xFFS0\xFF"
+                                              "92\x03"});
+    data.Arrive("");
+    EXPECT_EQ(lines.size(), 1u);
+}
+
+TEST_F(ServerLink, ThreeLinesInOneArrivalGiveThreeRepliesInOrder) {
+    listener.Knock(1);
+    data.Arrive("a\nb\nc\n");
+    EXPECT_EQ(lines, (std::vector<std::string>{"a", "b", "c"}));
+    EXPECT_EQ(data.TakeSent(), "ok1ok2ok3");
+}
+
+TEST_F(ServerLink, CarriageReturnsAreDroppedWhereverTheyStand) {
+    listener.Knock(1);
+    data.Arrive("a\r\nb\n\rc\rd\n\re");
+    EXPECT_EQ(lines, (std::vector<std::string>{"a", "b", "cd"}));
+    data.Arrive("\n");
+    EXPECT_EQ(lines.back(), "e");
+}
+
+TEST_F(ServerLink, ALineIsCutFromTheBufferOnlyAfterItWasProcessed) {
+    listener.Knock(1);
+    link.ProcessRecord = [this](const std::string& line) {
+        lines.push_back(line);
+        if (line == "bad") throw cFailure(eFailure::InvalidCall, "not taken");
+    };
+    EXPECT_THROW(data.Arrive("bad\n"), cFailure);
+    EXPECT_THROW(data.Arrive(""), cFailure);
+    EXPECT_EQ(lines, (std::vector<std::string>{"bad", "bad"}));
+}
+
+TEST_F(ServerLink, ASecondConnectionClosesTheFirstAndForgetsItsHalfLine) {
+    listener.Knock(1);
+    data.Arrive("half");
+    listener.Knock(2);
+    EXPECT_NE(data.State(), 0);
+    data.Arrive("whole\n");
+    EXPECT_EQ(lines, std::vector<std::string>{"whole"});
+}
+
+TEST_F(ServerLink, AfterThePeersCloseTheNextConnectionStartsWithAnEmptyBuffer) {
+    listener.Knock(1);
+    data.Arrive("half");
+    data.PeerCloses();
+    EXPECT_EQ(data.State(), 0);
+    EXPECT_TRUE(listener.m_Listening);
+    listener.Knock(2);
+    data.Arrive("whole\n");
+    EXPECT_EQ(lines, std::vector<std::string>{"whole"});
+}
+
+TEST_F(ServerLink, AnErrorClosesTheSocketAndListeningGoesOn) {
+    listener.Knock(1);
+    data.PeerFails();
+    EXPECT_EQ(data.State(), 0);
+    EXPECT_TRUE(listener.Knock(2));
+}
+
+TEST_F(ServerLink, AFailedSendIsIgnored) {
+    listener.Knock(1);
+    data.m_SendFails = true;
+    data.Arrive("a\n");
+    EXPECT_EQ(lines.size(), 1u);
+}
+
+TEST_F(ServerLink, TheTraceShowsChunksAsTheyCameAndRepliesOnlyInDebugMode) {
+    listener.Knock(1);
+    data.Arrive("a\n");
+    EXPECT_EQ(trace, "");
+    state.m_DebugMode = true;
+    data.Arrive("b\r\nc");
+    EXPECT_EQ(trace, "1:b\r\nc;2:ok2;");
+}
+
+TEST_F(ServerLink, ACarriageReturnBehindPosition32767OfTheBufferIsAFailure) {
+    listener.Knock(1);
+    data.Arrive(std::string(32767, 'x'));
+    EXPECT_THROW(data.Arrive("\r"), cFailure);
+}
+
+TEST_F(ServerLink, ALongLineWithoutCarriageReturnIsTaken) {
+    listener.Knock(1);
+    data.Arrive(std::string(40000, 'x'));
+    data.Arrive("\n");
+    ASSERT_EQ(lines.size(), 1u);
+    EXPECT_EQ(lines[0].size(), 40000u);
+}
+
+}  // namespace
+}  // namespace vigrel
