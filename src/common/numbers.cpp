@@ -1,5 +1,6 @@
 #include "common/numbers.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -10,6 +11,9 @@
 
 namespace vigrel {
 namespace {
+
+// Beyond the exponent of any number that a text can bring back into range by its digits.
+constexpr std::int64_t kFarExponent = std::int64_t{1} << 60;
 
 bool IsBlank(char c) {
     return c == ' ' || c == '\t';
@@ -44,15 +48,28 @@ std::size_t NumericPrefix(std::string_view text) {
     return i;
 }
 
+// Decimal exponent of the first digit that isn't 0, of a numeric prefix that has one.
+std::int64_t Magnitude(std::string_view number) {
+    const std::size_t e = std::min(number.find_first_of("eE"), number.size());
+    std::int64_t exponent = 0;
+    if (e < number.size()) {
+        const std::string_view digits = number.substr(e + (number[e + 1] == '+' ? 2 : 1));
+        const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), exponent);
+        if (result.ec == std::errc::result_out_of_range)
+            exponent = digits[0] == '-' ? -kFarExponent : kFarExponent;
+    }
+    const auto point = static_cast<std::int64_t>(std::min(number.find('.'), e));
+    const auto first = static_cast<std::int64_t>(number.find_first_of("123456789"));
+    return exponent + point - first;
+}
+
 double ToDouble(std::string_view number) {
     if (!number.empty() && number[0] == '+') number.remove_prefix(1);
     double value = 0;
     const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
     if (result.ec != std::errc::result_out_of_range) return value;
     // Out of the range of a double: too small is 0, too large can't be converted to anything further on.
-    const std::size_t e = number.find_first_of("eE");
-    const bool tiny = e != std::string_view::npos && number.substr(e + 1).starts_with('-');
-    if (tiny) return 0;
+    if (Magnitude(number) < 0) return 0;
     return number[0] == '-' ? -std::numeric_limits<double>::infinity()
                             : std::numeric_limits<double>::infinity();
 }
@@ -118,11 +135,12 @@ std::string SingleText(float value) {
 }
 
 std::string Digits(std::int64_t value, int width) {
-    std::string digits = std::to_string(value < 0 ? -value : value);
-    if (static_cast<int>(digits.size()) < width) {
-        digits.insert(0, static_cast<std::size_t>(width) - digits.size(), '0');
-    }
-    return value < 0 ? "-" + digits : digits;
+    std::string digits = std::to_string(value);
+    const std::size_t sign = value < 0 ? 1 : 0;
+    const std::size_t count = digits.size() - sign;
+    const auto wanted = static_cast<std::size_t>(width);
+    if (count < wanted) digits.insert(sign, wanted - count, '0');
+    return digits;
 }
 
 std::string HexText(std::uint32_t value) {
