@@ -51,7 +51,9 @@ cDecoded Decode(std::string_view utf8) {
         if ((next & 0xC0) != 0x80) return {kInvalid, 1};
         codePoint = (codePoint << 6) | (next & 0x3Fu);
     }
-    return {codePoint, length};
+    // A longer form than needed could smuggle a character past whoever looked for its short form.
+    const bool overlong = codePoint < (length == 2 ? 0x80u : length == 3 ? 0x800u : 0x10000u);
+    return overlong ? cDecoded{kInvalid, 1} : cDecoded{codePoint, length};
 }
 
 }  // namespace
