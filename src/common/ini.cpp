@@ -23,8 +23,9 @@ std::string TrimSpace(std::string_view text) {
 // The name of a header line for the keyed reads, which allow blanks before the bracket.
 std::optional<std::string> HeaderName(std::string_view line) {
     const std::string trimmed = TrimSpace(line);
-    if (trimmed.empty() || trimmed[0] != '[') return std::nullopt;
-    return TrimSpace(std::string_view(trimmed).substr(1, trimmed.find(']') - 1));
+    const std::size_t close = trimmed.find(']');
+    if (trimmed.empty() || trimmed[0] != '[' || close == std::string::npos) return std::nullopt;
+    return TrimSpace(std::string_view(trimmed).substr(1, close - 1));
 }
 
 struct cKeyLine {
@@ -46,7 +47,7 @@ std::optional<cKeyLine> KeyLine(std::string_view line) {
 // Where a key of a section stands or would have to be put, by line index.
 struct cPlace {
     std::optional<std::size_t> keyLine;
-    std::optional<std::size_t> behindSection;
+    std::optional<std::size_t> lastOfSection;
 };
 
 cPlace FindPlace(const std::vector<std::string>& lines, std::string_view section, std::string_view key) {
@@ -55,19 +56,42 @@ cPlace FindPlace(const std::vector<std::string>& lines, std::string_view section
     for (std::size_t i = 0; i < lines.size(); ++i) {
         if (const auto header = HeaderName(lines[i])) {
             if (inside) break;
-            inside = EqualsNoCase(*header, section);
-            if (inside) place.behindSection = i + 1;
+            inside = EqualsNoCase(*header, TrimSpace(section));
+            if (inside) place.lastOfSection = i;
         } else if (inside) {
             const auto line = KeyLine(lines[i]);
-            if (line && EqualsNoCase(line->key, key)) {
+            if (line && EqualsNoCase(line->key, TrimSpace(key))) {
                 place.keyLine = i;
                 break;
             }
             // A new key goes behind the last line that isn't blank, so that sections stay apart.
-            if (!TrimSpace(lines[i]).empty()) place.behindSection = i + 1;
+            if (!TrimSpace(lines[i]).empty()) place.lastOfSection = i;
         }
     }
     return place;
+}
+
+// The line end that a file uses.
+std::string LineEnd(std::string_view content, const std::vector<cLineSpan>& lines) {
+    if (lines.empty() || lines[0].next == lines[0].end) return "\r\n";
+    return std::string(content.substr(lines[0].end, lines[0].next - lines[0].end));
+}
+
+// The content with the key set; every other line stays as it is, byte by byte.
+std::string WithKey(std::string content, std::string_view section, std::string_view key,
+                    std::string_view entry) {
+    const std::vector<cLineSpan> lines = FindLines(content);
+    const cPlace place = FindPlace(SplitLines(content), section, key);
+    if (place.keyLine) {
+        const cLineSpan& line = lines[*place.keyLine];
+        return content.replace(line.begin, line.end - line.begin, entry);
+    }
+    const std::string end = LineEnd(content, lines);
+    const std::size_t at = place.lastOfSection ? lines[*place.lastOfSection].next : content.size();
+    const bool open = at > 0 && content[at - 1] != '\n' && content[at - 1] != '\r';
+    std::string added = open ? end : "";
+    if (!place.lastOfSection) added += "[" + std::string(section) + "]" + end;
+    return content.insert(at, added + std::string(entry) + end);
 }
 
 }  // namespace
@@ -82,7 +106,8 @@ const cIni::cParsed& cIni::Parsed(std::string_view fileName) const {
     if (parsed.stamp == stamp) return parsed;
     parsed = {stamp, {}};
     std::string content;
-    SkipFailure([&] { content = m_Files.ReadFile(path); });
+    // What can't be read now may be readable at the next look without having changed.
+    if (!SkipFailure([&] { content = m_Files.ReadFile(path); })) parsed.stamp = {};
     auto* section = static_cast<std::map<std::string, std::string, std::less<>>*>(nullptr);
     for (const std::string& line : SplitLines(content)) {
         if (const auto header = HeaderName(line)) {
@@ -111,24 +136,15 @@ std::string cIni::GetIniString(std::string_view section, std::string_view key, s
 void cIni::PutIniString(std::string_view section, std::string_view key, std::string_view value,
                         std::string_view fileName) {
     const std::string path = FullPath(fileName);
-    std::vector<std::string> lines;
+    std::string content;
     if (m_Files.Stamp(path).size >= 0) {
         // A file that is there and can't be read must not be replaced by one line.
-        if (!SkipFailure([&] { lines = SplitLines(m_Files.ReadFile(path)); })) return;
+        if (!SkipFailure([&] { content = m_Files.ReadFile(path); })) return;
     }
-    const cPlace place = FindPlace(lines, section, key);
     const std::string entry = std::string(key) + "=" + std::string(value);
-    if (place.keyLine) {
-        lines[*place.keyLine] = entry;
-    } else if (place.behindSection) {
-        lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(*place.behindSection), entry);
-    } else {
-        lines.push_back("[" + std::string(section) + "]");
-        lines.push_back(entry);
-    }
-    std::string content;
-    for (const std::string& line : lines) content += line + "\r\n";
-    SkipFailure([&] { ReplaceFile(m_Files, path, content); });
+    SkipFailure([&] { ReplaceFile(m_Files, path, WithKey(std::move(content), section, key, entry)); });
+    // A file system may stamp two contents written in quick succession alike.
+    m_Cache.erase(ToUpper(fileName));
 }
 
 std::int32_t ReadIniSection(const cFileReader& files, std::string_view section, std::string& buffer,

@@ -76,6 +76,7 @@ std::string GetField(std::string_view text, std::int16_t index, std::string&& se
 void ReplaceText(std::string& text, std::string_view find, std::string_view replacement) {
     // One pass into a new text: a replacement in place would move the tail at every occurrence. The position
     // that counts for the 16-bit limit is that in the text as it stands with the replacements so far.
+    if (find.empty()) return;
     std::string out;
     std::size_t from = 0;
     for (std::size_t found = text.find(find); found != std::string::npos; found = text.find(find, from)) {
@@ -122,14 +123,20 @@ std::int16_t CharsToInt16(std::string_view text) {
     return static_cast<std::int16_t>(static_cast<std::uint16_t>(Code(text[0]) * 256 + Code(text[1])));
 }
 
+std::vector<cLineSpan> FindLines(std::string_view content) {
+    std::vector<cLineSpan> lines;
+    for (std::size_t begin = 0; begin < content.size(); begin = lines.back().next) {
+        const std::size_t end = std::min(content.find_first_of("\r\n", begin), content.size());
+        const std::size_t length = content.substr(end, 2) == "\r\n" ? 2 : 1;
+        lines.push_back({begin, end, std::min(end + length, content.size())});
+    }
+    return lines;
+}
+
 std::vector<std::string> SplitLines(std::string_view content) {
     std::vector<std::string> lines;
-    while (!content.empty()) {
-        const std::size_t end = content.find_first_of("\r\n");
-        lines.emplace_back(content.substr(0, end));
-        if (end == std::string_view::npos) break;
-        const bool pair = content[end] == '\r' && end + 1 < content.size() && content[end + 1] == '\n';
-        content.remove_prefix(end + (pair ? 2 : 1));
+    for (const cLineSpan& line : FindLines(content)) {
+        lines.emplace_back(content.substr(line.begin, line.end - line.begin));
     }
     return lines;
 }

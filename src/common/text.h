@@ -28,8 +28,9 @@ inline int Code(char character) {
 std::string GetField(std::string_view text, std::int16_t index, std::string& separator);
 std::string GetField(std::string_view text, std::int16_t index, std::string&& separator);
 
-// Replaces every occurrence from left to right; what was put in is not searched again. The text to find must
-// not be empty. Throws cFailure (Overflow) at an occurrence behind position 32,767.
+// Replaces every occurrence from left to right; what was put in is not searched again. An empty text to find
+// changes nothing. Throws cFailure (Overflow) at an occurrence behind position 32,767 of the text as it then
+// stands; the caller's text is unchanged then.
 void ReplaceText(std::string& text, std::string_view find, std::string_view replacement);
 
 // Minutes after midnight, 0 to 1440, from a time of day as an operator types it: "8", "0830", "8:30", "8.30".
@@ -39,7 +40,13 @@ std::int16_t TimeTextToMinutes(std::string_view text);
 std::string Int16ToChars(std::int16_t value);
 std::int16_t CharsToInt16(std::string_view text);
 
-// The lines of a file's content; CR LF, LF and a lone CR end a line. A last line needs no end.
+// The lines of a file's content; CR LF, LF and a lone CR end a line. A last line needs no end. Offsets count
+// from 0.
+struct cLineSpan {
+    std::size_t begin, end;  // of the line without its end
+    std::size_t next;        // where the line's end is over
+};
+std::vector<cLineSpan> FindLines(std::string_view content);
 std::vector<std::string> SplitLines(std::string_view content);
 
 }  // namespace vigrel
