@@ -76,10 +76,11 @@ void ReplaceFile(cFiles& files, std::string_view path, std::string_view bytes) {
 bool cReplaceBatch::Add(std::string_view path, std::string_view bytes) {
     const std::string temporary = TemporaryName(path);
     if (SkipFailure([&] { m_Files.WriteFile(temporary, bytes, false); })) {
-        m_Paths.emplace_back(path);
+        m_Paths.emplace(path);
         return true;
     }
     SkipFailure([&] { m_Files.RemoveFile(temporary); });
+    m_Paths.erase(std::string(path));
     return false;
 }
 

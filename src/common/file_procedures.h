@@ -1,5 +1,6 @@
 #pragma once
 
+#include <set>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -54,7 +55,7 @@ void ReplaceFile(cFiles& files, std::string_view path, std::string_view bytes);
 class cReplaceBatch {
   public:
     cReplaceBatch(cFiles& files, std::string folder) : m_Files(files), m_Folder(std::move(folder)) {}
-    // Writes the temporary; false when that failed.
+    // Writes the temporary; false when that failed. The last content counts of a path that is added again.
     bool Add(std::string_view path, std::string_view bytes);
     // False when any of the files could not be replaced.
     bool Commit();
@@ -62,7 +63,7 @@ class cReplaceBatch {
   private:
     cFiles& m_Files;
     std::string m_Folder;
-    std::vector<std::string> m_Paths;
+    std::set<std::string> m_Paths;
 };
 
 // The mask of temporaries that a crash can have left in a folder; no mask that the system reads matches them.
