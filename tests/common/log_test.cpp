@@ -1,0 +1,197 @@
+#include "common/log.h"
+
+#include <gtest/gtest.h>
+
+#include "common/failure.h"
+#include "support/fake_clock.h"
+#include "support/fake_files.h"
+
+namespace vigrel::testing {
+namespace {
+
+using Paths = std::vector<std::string>;
+const std::string kFolder = "C:\\App\\";
+const std::string kLogs = kFolder + "LogFiles\\";
+
+// A station at 2026-03-15 12:30:15.
+struct cStation {
+    cStation() {
+        files.PutFolder(kLogs);
+        files.Put(kFolder + "VigrelReceiver.INI", "[General]\r\nLanguage=046\r\n");
+        files.Put(kFolder + "Vigrel_Texts.046", "141=Log file deleted (\r\n");
+        texts.LoadTexts();
+    }
+    std::string Today() const { return files.ReadFile(kLogs + "20260315.Log"); }
+    // Whether a log of that name is left by a cleaning.
+    bool Keeps(const std::string& name, std::int16_t keepForDays) {
+        files.Put(kLogs + name, "x");
+        log.CleanLogFiles(kLogMask, keepForDays);
+        return files.FileExists(kLogs + name);
+    }
+
+    cFakeFiles files;
+    cFakeClock clock;
+    cIni ini{files, kFolder};
+    cTexts texts{files, ini};
+    cLog log{files, clock, texts, kFolder};
+};
+
+TEST(WriteLog, TheFirstLineOfADayCreatesTheFile) {
+    cStation station;
+    station.log.WriteLog("started");
+    EXPECT_EQ(station.files.AllPaths()[0], kLogs + "20260315.Log");
+    EXPECT_EQ(station.Today(), "12:30:15 started\r\n");
+}
+
+TEST(WriteLog, AppendsOneLineForEachCall) {
+    cStation station;
+    station.log.WriteLog("one");
+    station.clock.Set(2026, 3, 15, 3, 4, 5);
+    station.log.WriteLog("two\r\nlines");
+    station.log.WriteLog("");
+    EXPECT_EQ(station.Today(), "12:30:15 one\r\n03:04:05 two\r\nlines\r\n03:04:05 \r\n");
+}
+
+TEST(WriteLog, EachDayHasItsFile) {
+    cStation station;
+    station.log.WriteLog("a");
+    station.clock.Set(2026, 12, 1);
+    station.log.WriteLog("b");
+    EXPECT_EQ(station.files.ReadFile(kLogs + "20261201.Log"), "00:00:00 b\r\n");
+    EXPECT_EQ(station.Today(), "12:30:15 a\r\n");
+}
+
+TEST(WriteLog, ALineIsInTheFileWhenTheCallReturns) {
+    cStation station;
+    for (const char* line : {"a", "b", "c"}) {
+        const int calls = station.files.m_Calls;
+        station.log.WriteLog(line);
+        EXPECT_EQ(station.files.m_Calls, calls + 1);
+        EXPECT_TRUE(station.Today().ends_with(std::string(line) + "\r\n"));
+    }
+}
+
+TEST(WriteLog, AMissingFolderAFullDiskOrALockedFileLosesTheLineInSilence) {
+    cFakeFiles nothing;
+    const cFakeClock clock;
+    const cIni ini(nothing, kFolder);
+    const cTexts texts(nothing, ini);
+    cLog(nothing, clock, texts, kFolder).WriteLog("lost");
+    EXPECT_EQ(nothing.AllPaths(), Paths{});
+
+    cStation station;
+    station.log.WriteLog("kept");
+    station.files.m_DiskFull = true;
+    station.log.WriteLog("lost");
+    station.files.m_DiskFull = false;
+    station.files.SetReadOnly(kLogs + "20260315.Log", true);
+    station.log.WriteLog("lost");
+    EXPECT_EQ(station.Today(), "12:30:15 kept\r\n");
+}
+
+TEST(CleanLogFiles, ALogOfTheKeptAgeStaysAndAnOlderOneGoes) {
+    cStation station;
+    EXPECT_TRUE(station.Keeps("20260215.Log", 30));
+    EXPECT_FALSE(station.Keeps("20260214.Log", 30));
+}
+
+TEST(CleanLogFiles, AgesCountYearsOf365DaysAndMonthsOf30) {
+    const auto ageIs = [](cStation& station, const std::string& name, std::int16_t age) {
+        return station.Keeps(name, age) && !station.Keeps(name, static_cast<std::int16_t>(age - 1));
+    };
+    cStation station;
+    station.clock.Set(2026, 2, 28);
+    EXPECT_TRUE(ageIs(station, "20260201.Log", 27));
+    station.clock.Set(2026, 1, 1);
+    EXPECT_TRUE(ageIs(station, "20251231.Log", 5));
+    station.clock.Set(2026, 3, 1);
+    EXPECT_TRUE(ageIs(station, "20260131.Log", 30));
+    EXPECT_TRUE(ageIs(station, "20240301.Log", 730));
+}
+
+TEST(CleanLogFiles, KeepingZeroDaysLeavesTodayAndWhatComputesToNoAge) {
+    cStation station;
+    EXPECT_TRUE(station.Keeps("20260315.Log", 0));
+    EXPECT_TRUE(station.Keeps("20270101.Log", 0));
+    EXPECT_FALSE(station.Keeps("20260314.Log", 0));
+    station.clock.Set(2026, 3, 1);
+    EXPECT_TRUE(station.Keeps("20260231.Log", 0));  // 30 - 30 days
+}
+
+TEST(CleanLogFiles, NamesAreTakenWithoutRegardToCase) {
+    cStation station;
+    EXPECT_FALSE(station.Keeps("20260101.log", 0));
+    EXPECT_FALSE(station.Keeps("20260102.Log", 0));
+    EXPECT_FALSE(station.Keeps("20260103.LOG", 0));
+}
+
+TEST(CleanLogFiles, OtherNamesAreLeftAlone) {
+    cStation station;
+    for (const char* name : {"OLD.LOG", "20200101.txt", "2020010.log", "202001011.log", "2020010x.log",
+                             "Debug.txt", "20200101.log.bak", "abcdefgh.log"}) {
+        EXPECT_TRUE(station.Keeps(name, 0)) << name;
+    }
+}
+
+TEST(CleanLogFiles, OtherNamesAreLeftAloneWhateverTheMask) {
+    cStation station;
+    station.files.Put(kLogs + "OLD.LOG", "");
+    station.files.Put(kLogs + "2020010.log", "");
+    station.log.CleanLogFiles("*", 0);
+    EXPECT_EQ(station.files.ListFiles(kLogs, "*").size(), 2u);
+}
+
+TEST(CleanLogFiles, ImpossibleMonthsAndDaysAreNumbersAllTheSame) {
+    cStation station;
+    EXPECT_TRUE(station.Keeps("20250000.Log", 365 + 90 + 15));
+    EXPECT_FALSE(station.Keeps("20250000.Log", 365 + 90 + 14));
+    EXPECT_TRUE(station.Keeps("20259999.Log", 0));
+}
+
+TEST(CleanLogFiles, EachDeletionIsLoggedWithThePathBehindIt) {
+    cStation station;
+    station.files.Put(kLogs + "20260101.log", "");
+    station.files.Put(kLogs + "20260102.log", "");
+    station.log.CleanLogFiles(kLogMask, 30);
+    EXPECT_EQ(station.Today(),
+              "12:30:15 Log file deleted ( C:\\App\\LogFiles\\20260101.LOG)\r\n"
+              "12:30:15 Log file deleted ( C:\\App\\LogFiles\\20260102.LOG)\r\n");
+}
+
+TEST(CleanLogFiles, TheLineIsWrittenWhenTheFileIsGone) {
+    cStation station;
+    station.files.Put(kLogs + "20260101.log", "");
+    std::string steps;
+    station.files.m_OnCall = [&](std::string_view operation, std::string_view) {
+        steps += std::string(operation) + " ";
+    };
+    station.log.CleanLogFiles(kLogMask, 30);
+    EXPECT_EQ(steps, "attributes remove append ");
+}
+
+TEST(CleanLogFiles, AWriteProtectedLogGoesToo) {
+    cStation station;
+    station.files.Put(kLogs + "20260101.log", "");
+    station.files.SetReadOnly(kLogs + "20260101.log", true);
+    station.log.CleanLogFiles(kLogMask, 30);
+    EXPECT_FALSE(station.files.FileExists(kLogs + "20260101.log"));
+}
+
+TEST(CleanLogFiles, AFailureToDeleteReachesTheCaller) {
+    cStation station;
+    station.files.Put(kLogs + "20260101.log", "");
+    station.files.m_FolderReadOnly = true;
+    EXPECT_THROW(station.log.CleanLogFiles(kLogMask, 30), cFailure);
+}
+
+TEST(CleanLogFiles, AMissingFolderHasNoLogs) {
+    cFakeFiles files;
+    const cFakeClock clock;
+    const cIni ini(files, kFolder);
+    const cTexts texts(files, ini);
+    cLog(files, clock, texts, kFolder).CleanLogFiles(kLogMask, 0);
+    EXPECT_EQ(files.m_Calls, 0);
+}
+
+}  // namespace
+}  // namespace vigrel::testing
