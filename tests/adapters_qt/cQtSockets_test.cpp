@@ -7,7 +7,7 @@
 
 #include "adapters/qt/cQtDataSocket.h"
 #include "adapters/qt/cQtListener.h"
-#include "adapters_qt/wait.h"
+#include "support/qt_wait.h"
 #include "contract/socket_contract.h"
 
 namespace vigrel::testing {

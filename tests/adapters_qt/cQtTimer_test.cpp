@@ -4,7 +4,7 @@
 
 #include <QThread>
 
-#include "adapters_qt/wait.h"
+#include "support/qt_wait.h"
 
 namespace vigrel::testing {
 namespace {
