@@ -2,8 +2,10 @@
 
 #include <QApplication>
 
+// Window tests need no display: they run on the toolkit's off-screen platform unless told otherwise.
 int main(int argc, char** argv) {
     ::testing::InitGoogleTest(&argc, argv);
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }
