@@ -56,6 +56,31 @@ cDecoded Decode(std::string_view utf8) {
     return overlong ? cDecoded{kInvalid, 1} : cDecoded{codePoint, length};
 }
 
+constexpr unsigned UpperCase(unsigned code) {
+    if ((code >= 'a' && code <= 'z') || (code >= 0xE0 && code <= 0xFE && code != 0xF7)) return code - 0x20;
+    if (code == 0x9A || code == 0x9C || code == 0x9E) return code - 0x10;
+    return code == 0xFF ? 0x9F : code;
+}
+
+constexpr std::array<char, 256> MakeUpperCase() {
+    std::array<char, 256> table{};
+    for (unsigned code = 0; code < table.size(); ++code) table[code] = static_cast<char>(UpperCase(code));
+    return table;
+}
+
+// Each upper-case letter's lower case is the one letter whose upper case it is.
+constexpr std::array<char, 256> MakeLowerCase() {
+    std::array<char, 256> table{};
+    for (unsigned code = 0; code < table.size(); ++code) table[code] = static_cast<char>(code);
+    for (unsigned code = 0; code < table.size(); ++code) {
+        if (UpperCase(code) != code) table[UpperCase(code)] = static_cast<char>(code);
+    }
+    return table;
+}
+
+constexpr std::array<char, 256> kUpperCase = MakeUpperCase();
+constexpr std::array<char, 256> kLowerCase = MakeLowerCase();
+
 }  // namespace
 
 char32_t ToUnicode(char character) {
@@ -91,32 +116,22 @@ std::string Utf8ToCodePage(std::string_view utf8) {
 }
 
 char ToUpper(char character) {
-    const auto code = static_cast<unsigned char>(character);
-    if ((code >= 'a' && code <= 'z') || (code >= 0xE0 && code <= 0xFE && code != 0xF7)) {
-        return static_cast<char>(code - 0x20);
-    }
-    if (code == 0x9A || code == 0x9C || code == 0x9E) return static_cast<char>(code - 0x10);
-    return code == 0xFF ? static_cast<char>(0x9F) : character;
+    return kUpperCase[static_cast<unsigned char>(character)];
 }
 
 char ToLower(char character) {
-    const auto code = static_cast<unsigned char>(character);
-    if ((code >= 'A' && code <= 'Z') || (code >= 0xC0 && code <= 0xDE && code != 0xD7)) {
-        return static_cast<char>(code + 0x20);
-    }
-    if (code == 0x8A || code == 0x8C || code == 0x8E) return static_cast<char>(code + 0x10);
-    return code == 0x9F ? static_cast<char>(0xFF) : character;
+    return kLowerCase[static_cast<unsigned char>(character)];
 }
 
 std::string ToUpper(std::string_view text) {
     std::string out(text);
-    std::transform(out.begin(), out.end(), out.begin(), [](char c) { return ToUpper(c); });
+    for (char& character : out) character = ToUpper(character);
     return out;
 }
 
 std::string ToLower(std::string_view text) {
     std::string out(text);
-    std::transform(out.begin(), out.end(), out.begin(), [](char c) { return ToLower(c); });
+    for (char& character : out) character = ToLower(character);
     return out;
 }
 
