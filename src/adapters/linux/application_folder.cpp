@@ -68,11 +68,10 @@ std::string FindApplicationFolder(const cFolderHints& hints) {
 }
 
 std::string FindInstalledFolder(const std::string& programFolder) {
-    const std::string program = CodePageToUtf8(programFolder);
-    for (const std::string& candidate : {program + "/../share/vigrel-receiver", program}) {
+    const fs::path program = CodePageToUtf8(programFolder);
+    for (const fs::path& candidate : {program.parent_path() / "share/vigrel-receiver", program}) {
         std::error_code error;
-        if (!fs::is_directory(candidate + "/Templates", error)) continue;
-        return Utf8ToCodePage(fs::path(candidate).lexically_normal().string());
+        if (fs::is_directory(candidate / "Templates", error)) return Utf8ToCodePage(candidate.string());
     }
     return {};
 }

@@ -1,0 +1,34 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that building (and, with "test", testing) needs, when any is missing.
+set -euo pipefail
+
+# Building and running a station.
+packages=(
+    g++ cmake ninja-build pkg-config
+    qt6-base-dev qt6-multimedia-dev libqt6svg6-dev libgl-dev libxcb1-dev
+    libsndfile1-dev libhidapi-dev libcups2-dev libgtest-dev
+    fonts-dejavu-core
+)
+# Checking what lands: formatting, windows under a real window manager, sound, printing.
+test_packages=(
+    clang-format libbenchmark-dev
+    xvfb openbox xdotool x11-utils wmctrl trayer imagemagick
+    pulseaudio pulseaudio-utils cups cups-client
+)
+[ "${1:-}" = test ] && packages+=("${test_packages[@]}")
+
+missing=()
+for package in "${packages[@]}"; do
+    [ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null)" = installed ] || missing+=("$package")
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+
+command -v apt-get >/dev/null || { echo "Missing: ${missing[*]}. Install them and start again." >&2; exit 1; }
+as_root=()
+if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null || { echo "Missing: ${missing[*]}. Install them as root and start again." >&2; exit 1; }
+    as_root=(sudo)
+fi
+echo "Installing: ${missing[*]}"
+"${as_root[@]}" apt-get update -q
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -q -y --no-install-recommends "${missing[@]}"

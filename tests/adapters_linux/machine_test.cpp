@@ -1,0 +1,101 @@
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <ctime>
+#include <memory>
+
+#include "adapters/linux/clock.h"
+#include "adapters/linux/random.h"
+#include "adapters/linux/running_apps.h"
+#include "adapters/linux/single_instance.h"
+#include "common/dates.h"
+#include "support/temporary_folder.h"
+
+namespace vigrel {
+namespace {
+
+using testing::cTemporaryFolder;
+
+TEST(SystemClock, TellsTheLocalTime) {
+    const cSystemClock clock;
+    const DateTime before = clock.Now();
+    const std::time_t now = std::time(nullptr);
+    const std::tm local = *std::localtime(&now);
+    const DateTime expected = DateSerial(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday) +
+                              TimeSerial(local.tm_hour, local.tm_min, local.tm_sec);
+    EXPECT_NEAR(before, expected, 2.0 / 86400);
+    EXPECT_GE(clock.Now(), before);
+}
+
+TEST(SystemClock, TheSteadyClockRuns) {
+    const cSystemClock clock;
+    const double before = clock.Steady();
+    usleep(20000);
+    EXPECT_NEAR(clock.Steady() - before, 0.02 / 86400, 0.015 / 86400);
+}
+
+TEST(StandardRandom, GivesValuesFromZeroToOneThatDependOnTheSeed) {
+    cStandardRandom a;
+    cStandardRandom b;
+    a.Seed(46000.5);
+    b.Seed(46000.5);
+    double sum = 0;
+    for (int i = 0; i < 1000; ++i) {
+        const double value = a.Next();
+        EXPECT_GE(value, 0);
+        EXPECT_LT(value, 1);
+        EXPECT_EQ(value, b.Next());
+        sum += value;
+    }
+    EXPECT_NEAR(sum / 1000, 0.5, 0.1);
+    b.Seed(46000.75);
+    EXPECT_NE(a.Next(), b.Next());
+}
+
+TEST(FolderLock, ASecondProgramOnTheSameFolderIsNoticedWhileTheFirstRuns) {
+    cTemporaryFolder folder;
+    auto first = std::make_unique<cFolderLock>(folder.Folder());
+    EXPECT_FALSE(first->AnotherIsRunning());
+    EXPECT_FALSE(first->AnotherIsRunning());
+    cFolderLock second(folder.Folder());
+    EXPECT_TRUE(second.AnotherIsRunning());
+    first.reset();
+    EXPECT_FALSE(second.AnotherIsRunning());
+}
+
+TEST(FolderLock, TwoFoldersAreTwoStations) {
+    cTemporaryFolder a;
+    cTemporaryFolder b;
+    cFolderLock first(a.Folder());
+    cFolderLock second(b.Folder());
+    EXPECT_FALSE(first.AnotherIsRunning());
+    EXPECT_FALSE(second.AnotherIsRunning());
+}
+
+TEST(FolderLock, AProgramThatWasKilledLeavesTheFolderFree) {
+    cTemporaryFolder folder;
+    const pid_t child = fork();
+    if (child == 0) {
+        cFolderLock lock(folder.Folder());
+        const bool other = lock.AnotherIsRunning();
+        std::_Exit(other ? 1 : 0);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    EXPECT_EQ(WEXITSTATUS(status), 0);
+    cFolderLock lock(folder.Folder());
+    EXPECT_FALSE(lock.AnotherIsRunning());
+}
+
+TEST(RunningApps, StatesAreKeptPerApplication) {
+    cLocalRunningApps apps;
+    EXPECT_EQ(apps.GetRunningApps(8), 0);
+    apps.SetRunningApps(8, -1);
+    EXPECT_EQ(apps.GetRunningApps(8), -1);
+    EXPECT_EQ(apps.GetRunningApps(7), 0);
+}
+
+}  // namespace
+}  // namespace vigrel
