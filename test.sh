@@ -1,0 +1,36 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds, and runs every test that landing requires.
+set -euo pipefail
+cd "$(dirname "$0")"
+
+case "${1:-}" in
+    --help|-h)
+        cat <<'HELP'
+./test.sh [--no-install]
+
+Installs the Debian packages that are missing, then builds and tests:
+  the code's format,
+  everything with the preset dev, with windows, sound and printing against real counterparts,
+  everything but those again with the address and undefined-behaviour sanitizers (preset asan),
+  the logic alone, without the toolkit.
+HELP
+        exit 0 ;;
+esac
+[ "${1:-}" = --no-install ] || scripts/install-packages.sh test
+
+echo "== format"
+git ls-files -z '*.h' '*.cpp' | xargs -0 clang-format --dry-run --Werror
+
+echo "== asan"
+cmake --preset asan >/dev/null
+cmake --build --preset asan
+ctest --preset asan -LE 'x11|sound|cups' -j2 --output-on-failure
+
+echo "== logic without the toolkit"
+cmake --preset dev -B build/logic -DVIGREL_WITH_QT=OFF >/dev/null
+cmake --build build/logic
+
+echo "== dev"
+cmake --preset dev >/dev/null
+cmake --build --preset dev
+ctest --preset dev -j2 --output-on-failure
