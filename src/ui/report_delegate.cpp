@@ -6,6 +6,7 @@
 #include <QToolTip>
 
 #include "adapters/qt/qt_text.h"
+#include "ui/colours.h"
 
 namespace vigrel {
 namespace {
@@ -65,10 +66,6 @@ cCellLayout LayoutCell(const QRect& cell, int iconSize, bool hasText, bool centr
     }
     if (hasText) layout.text = QRect(left, cell.top(), cell.right() - kMargin - left + 1, cell.height());
     return layout;
-}
-
-QColor ColourFromNumber(std::int32_t number) {
-    return QColor(number & 0xFF, (number >> 8) & 0xFF, (number >> 16) & 0xFF);
 }
 
 cReportDelegate::cReportDelegate(const cReportModel& model, const cIconStrip& icons, StyleOf styleOf,

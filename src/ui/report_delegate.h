@@ -18,9 +18,6 @@ struct cCellLayout {
 // a cell without icon.
 cCellLayout LayoutCell(const QRect& cell, int iconSize, bool hasText, bool centred);
 
-// A colour as settings number it: red in the low byte, then green, then blue.
-QColor ColourFromNumber(std::int32_t number);
-
 // Draws the cells of a report list: colours, icon, text in the row's style. What is selected shows by a frame
 // around the row, so that it is seen on every colour.
 class cReportDelegate : public QAbstractItemDelegate {

@@ -12,6 +12,7 @@
 #include "contract/report_list_contract.h"
 #include "support/fake_report_list.h"
 #include "support/qt_wait.h"
+#include "ui/colours.h"
 
 namespace vigrel::testing {
 namespace {
