@@ -40,9 +40,9 @@ class cPopupWindow : public cWindow {
     virtual double PictureLeft(int picture) const = 0;
     virtual double PictureWidth(int picture) const = 0;
 
-    // Directly behind another window in the stacking order, without moving or sizing it. A topmost window
-    // that goes behind one that isn't topmost stays over all ordinary ones.
-    virtual void PlaceBehind(cWindow& other) = 0;
+    // Directly behind another popup in the stacking order, without moving or sizing it. Topmost popups stay
+    // over all that are not.
+    virtual void PlaceBehind(cPopupWindow& other) = 0;
 
     // --- events
     // The operator chose a picture, with the mouse or the keyboard.

@@ -178,8 +178,7 @@ TEST_F(cClosePopups, WithACountOfZeroNothingIsWalked) {
 
 TEST_F(cClosePopups, PopupsThatAreOpenAtTheEndAreLetGo) {
     {
-        cPopups popups({m_Settings, m_State, m_Ini, m_Texts, m_Log, m_Clock, m_Screen, m_List, m_Maker,
-                        [](const auto&, auto, auto) { return std::string(); }, [](const AlarmPtr&) {}});
+        cPopups popups(Services(m_List, m_Maker));
         popups.ShowPopup(Alarm("C"));
     }
     m_Transcript.Take();

@@ -9,14 +9,6 @@ namespace {
 
 class cShowPopup : public cPopupsTest {
   protected:
-    // Category settings from lines of a section.
-    cCategorySpecificSetting Setting(const std::string& lines) {
-        cFakeFiles files;
-        files.Put("C:\\App\\VigrelReceiver.INI", "[C]\n" + lines);
-        cCategorySpecificSetting setting;
-        setting.GetSettings("C", nullptr, cIni(files, "C:\\App\\"));
-        return setting;
-    }
     // The places of the next popups in pixels: "50,50 100,100".
     std::string Places(int count) {
         std::string text;

@@ -114,7 +114,7 @@ class cFakePopupWindow : public cFakeWindowOf<cPopupWindow> {
         Check(picture);
         return 384;
     }
-    void PlaceBehind(cWindow& other) override {
+    void PlaceBehind(cPopupWindow& other) override {
         m_Stack.PlaceBehind(*this, other);
         Note("behind " + dynamic_cast<cFakePopupWindow&>(other).m_NameInTranscript);
     }
