@@ -1,0 +1,149 @@
+// The real program, run as a user runs it, on files of a folder of its own.
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "common/numbers.h"
+#include "inspect/alarm_samples.h"
+#include "support/samples.h"
+
+namespace vigrel {
+namespace {
+
+namespace fs = std::filesystem;
+
+struct cRun {
+    int exitCode = -1;
+    std::string output, errors;
+};
+
+class VigrelInspect : public ::testing::Test {
+  protected:
+    VigrelInspect() {
+        std::string pattern = (fs::temp_directory_path() / "vigrel-inspect-XXXXXX").string();
+        m_Folder = mkdtemp(pattern.data());
+        fs::create_directories(m_Folder / "App" / "Alarms");
+    }
+    ~VigrelInspect() override { fs::remove_all(m_Folder); }
+
+    static std::string Content(const fs::path& path) {
+        std::ifstream file(path, std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    }
+    fs::path Put(const std::string& name, const std::string& bytes) {
+        std::ofstream(m_Folder / name, std::ios::binary) << bytes;
+        return m_Folder / name;
+    }
+    // Runs the program in the folder, with words as a shell takes them.
+    cRun Run(const std::string& arguments, const std::string& output = "out.txt") {
+        const std::string command = "cd '" + m_Folder.string() + "' && " VIGREL_INSPECT " " + arguments +
+                                    " >" + output + " 2>errors.txt";
+        const int status = std::system(command.c_str());
+        return {WEXITSTATUS(status), Content(m_Folder / "out.txt"), Content(m_Folder / "errors.txt")};
+    }
+
+    fs::path m_Folder;
+};
+
+TEST_F(VigrelInspect, PrintsAFileAndLeavesItAsItIs) {
+    const fs::path path = Put("Receiver_0007.dat", testing::Sample("receiver_version_3.dat"));
+    fs::permissions(path, fs::perms::owner_read);
+    const auto before = fs::last_write_time(path);
+    const cRun run = Run("Receiver_0007.dat");
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(run.output.substr(0, 48), "Receiver_0007.dat: receiver, version 3, 30 bytes");
+    EXPECT_NE(run.output.find("Everything fits."), std::string::npos);
+    EXPECT_EQ(run.errors, "");
+    EXPECT_EQ(Content(path), testing::Sample("receiver_version_3.dat"));
+    EXPECT_EQ(fs::last_write_time(path), before);
+}
+
+TEST_F(VigrelInspect, PrintsSeveralFilesAsOneJsonArray) {
+    Put("Receiver_0007.dat", testing::Sample("receiver_version_5.dat"));
+    Put("A0042917.alm", samples::kAlarm.substr(0, 30));
+    const cRun run = Run("--json Receiver_0007.dat A0042917.alm");
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_TRUE(run.output.starts_with("[\n{\n  \"file\": \"Receiver_0007.dat\","));
+    EXPECT_NE(run.output.find("\"problems\": []\n},\n{\n  \"file\": \"A0042917.alm\","), std::string::npos);
+    EXPECT_TRUE(
+        run.output.ends_with("\"problems\": [\n    {\"offset\": 29, \"field\": \"t1\", "
+                             "\"description\": \"the file ends inside this field\"}\n  ]\n}\n]\n"));
+    EXPECT_EQ(Run("--json missing.alm").output, "[]\n");
+}
+
+TEST_F(VigrelInspect, GoesOnBehindAFileThatCantBeRead) {
+    Put("A0042917.alm", samples::kAlarm);
+    const cRun run = Run("missing.alm A0042917.alm");
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_NE(run.errors.find("missing.alm: No such file"), std::string::npos) << run.errors;
+    EXPECT_NE(run.output.find("A0042917.alm: alarm, 193 bytes"), std::string::npos);
+}
+
+TEST_F(VigrelInspect, NamesAFileWhoseKindCantBeTold) {
+    Put("notes.txt", "hello");
+    const cRun run = Run("notes.txt");
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_NE(run.output.find("the kind can't be told from the name; --as says it"), std::string::npos);
+}
+
+TEST_F(VigrelInspect, PrintsHelpWithExamples) {
+    const cRun run = Run("--help");
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_NE(run.output.find("Examples:\n"), std::string::npos);
+}
+
+TEST_F(VigrelInspect, RefusesAWrongCommandLine) {
+    const cRun run = Run("--nonsense");
+    EXPECT_EQ(run.exitCode, 2);
+    EXPECT_EQ(run.output, "");
+    EXPECT_EQ(run.errors, "vigrel-inspect: the option --nonsense is not known\nTry vigrel-inspect --help\n");
+}
+
+TEST_F(VigrelInspect, SaysThatItsOutputCantBeWritten) {
+    Put("A0042917.alm", samples::kAlarm);
+    const cRun run = Run("A0042917.alm", "/dev/full");
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.errors, "vigrel-inspect: standard output can't be written\n");
+}
+
+TEST_F(VigrelInspect, ExportsTheAlarmsOfAnApplicationFolder) {
+    Put("App/Alarms/A0042917.alm", samples::kAlarm);
+    const cRun run =
+        Run("App --alarms --csv --from 2026-03-15 --to 2026-03-15 --status active --observed no");
+    EXPECT_EQ(run.exitCode, 0) << run.errors;
+    EXPECT_NE(run.output.find("\"A0042917.alm\",\"2026-03-15 12:30:15\",\"\xC3\x96st\",\"active\""),
+              std::string::npos);
+    EXPECT_EQ(run.errors, "1 files read, 1 alarms exported, 0 files damaged\n");
+    EXPECT_EQ(Run("App --alarms --csv --from 2026-03-16 --quiet").errors, "");
+    EXPECT_EQ(Run("App --alarms --csv --from 2026-03-16").output.find("A0042917"), std::string::npos);
+    EXPECT_EQ(Run("App --alarms --csv --bom").output.substr(0, 3), "\xEF\xBB\xBF");
+}
+
+TEST_F(VigrelInspect, SaysThatAFolderHoldsNoAlarms) {
+    const cRun run = Run("App --alarms --csv");
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.errors, "vigrel-inspect: App: there is no alarm file here, nor in its folder Alarms\n");
+}
+
+TEST_F(VigrelInspect, ExportsAHundredThousandAlarmsInSeconds) {
+    for (int i = 0; i < 100000; ++i) Put("App/Alarms/A" + Digits(i, 7) + ".alm", samples::kAlarm);
+    const auto start = std::chrono::steady_clock::now();
+    const cRun run = Run("App --alarms --csv");
+    const std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_NE(run.errors.find("100000 files read, 100000 alarms exported, 0 files damaged\n"),
+              std::string::npos);
+    EXPECT_LT(took.count(), 20) << "on a machine that does nothing else it takes about two seconds";
+    RecordProperty("milliseconds", static_cast<int>(took.count() * 1000));
+}
+
+}  // namespace
+}  // namespace vigrel

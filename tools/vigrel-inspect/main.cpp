@@ -1,0 +1,122 @@
+// vigrel-inspect: prints the binary files of an alarm receiver, and exports its stored alarms as a table.
+
+#include <unistd.h>
+
+#include <chrono>
+#include <cstdio>
+
+#include "adapters/linux/files.h"
+#include "common/code_page.h"
+#include "common/failure.h"
+#include "common/file_procedures.h"
+#include "vigrel-inspect/alarm_export.h"
+#include "vigrel-inspect/options.h"
+#include "vigrel-inspect/print.h"
+
+namespace vigrel {
+namespace {
+
+constexpr int kFits = 0, kDoesNotFit = 1, kWrongUse = 2;
+// Far above every file of the system; nothing larger is taken into memory.
+constexpr std::int64_t kLargestFile = 64 << 20;
+
+void PrintError(const std::string& text) {
+    std::fprintf(stderr, "vigrel-inspect: %s\n", Printable(text).c_str());
+}
+
+// Throws cFailure when standard output takes no more.
+void Print(const std::string& utf8) {
+    if (std::fwrite(utf8.data(), 1, utf8.size(), stdout) != utf8.size() || std::fflush(stdout) != 0) {
+        throw cFailure(eFailure::DiskFull, "standard output can't be written");
+    }
+}
+
+// One line on standard error that keeps up with the work: rewritten in place on a terminal, seldom and line
+// by line elsewhere.
+class cProgress {
+  public:
+    void Show(std::size_t done, std::size_t all) {
+        const auto now = std::chrono::steady_clock::now();
+        if (now - m_Last < (m_Terminal ? std::chrono::milliseconds(100) : std::chrono::milliseconds(1000)))
+            return;
+        m_Last = now;
+        std::fprintf(stderr, "%s%zu of %zu files read%s", m_Terminal ? "\r" : "", done, all,
+                     m_Terminal ? "" : "\n");
+        std::fflush(stderr);
+    }
+    void Finish(const cExportResult& result) const {
+        std::fprintf(stderr, "%s%zu files read, %zu alarms exported, %zu files damaged\n",
+                     m_Terminal ? "\r" : "", result.files, result.alarms, result.damaged);
+    }
+
+  private:
+    bool m_Terminal = isatty(STDERR_FILENO) != 0;
+    std::chrono::steady_clock::time_point m_Last = std::chrono::steady_clock::now();
+};
+
+int Export(const cInspectOptions& options) {
+    const cLinuxFiles files;
+    cProgress progress;
+    const auto show = [&](std::size_t done, std::size_t all) {
+        if (!options.quiet) progress.Show(done, all);
+    };
+    const std::string folder = FindAlarmFolder(files, options.paths[0]);
+    const cExportResult result = ExportAlarms(files, folder, {options.filter, options.exact}, show);
+    Print((options.mark ? "\xEF\xBB\xBF" : "") + result.table);
+    if (!options.quiet) progress.Finish(result);
+    return result.damaged == 0 ? kFits : kDoesNotFit;
+}
+
+cInspection InspectFile(const cFileReader& files, const std::string& path, std::optional<eFileKind> kind) {
+    const std::string name = SplitPath(path).name;
+    if (files.Stamp(path).size > kLargestFile) {
+        throw cFailure(eFailure::InputOutput, path + ": the file is too large for a file of the system");
+    }
+    const std::string content = files.ReadFile(path);
+    if (!kind) kind = KindOfFile(name, content);
+    return kind ? Inspect(*kind, name, content) : InspectUnknown(content);
+}
+
+int InspectFiles(const cInspectOptions& options) {
+    const cLinuxFiles files;
+    int result = kFits;
+    std::string separator = options.json ? "[\n" : "";
+    for (const std::string& path : options.paths) {
+        cInspection inspection;
+        if (const auto failure = CatchFailure([&] { inspection = InspectFile(files, path, options.kind); })) {
+            PrintError(failure->what());
+            result = kDoesNotFit;
+            continue;
+        }
+        if (!inspection.problems.empty()) result = kDoesNotFit;
+        Print(separator +
+              (options.json ? InspectionJson(path, inspection) : InspectionText(path, inspection)));
+        separator = options.json ? ",\n" : "\n";
+    }
+    // With no object printed the list is still to be opened.
+    if (options.json) Print(separator == "[\n" ? "[]\n" : "\n]\n");
+    return result;
+}
+
+int Run(const std::vector<std::string>& words) {
+    cInspectOptions options;
+    if (const auto failure = CatchFailure([&] { options = ReadOptions(words); })) {
+        PrintError(failure->what());
+        std::fputs("Try vigrel-inspect --help\n", stderr);
+        return kWrongUse;
+    }
+    int result = kDoesNotFit;
+    const auto failure = CatchFailure([&] {
+        if (options.help) Print(HelpText());
+        result = options.help ? kFits : options.alarms ? Export(options) : InspectFiles(options);
+    });
+    if (failure) PrintError(failure->what());
+    return result;
+}
+
+}  // namespace
+}  // namespace vigrel
+
+int main(int argc, char** argv) {
+    return vigrel::Run({argv + 1, argv + argc});
+}

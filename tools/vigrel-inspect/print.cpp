@@ -1,0 +1,138 @@
+#include "vigrel-inspect/print.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "common/code_page.h"
+#include "common/date_text.h"
+#include "common/numbers.h"
+#include "common/text.h"
+
+namespace vigrel {
+namespace {
+
+bool IsControl(char c) {
+    const int code = Code(c);
+    // The codes that the code page leaves open stand for control characters.
+    return code < 0x20 || code == 0x7F || (ToUnicode(c) >= 0x80 && ToUnicode(c) < 0xA0);
+}
+
+std::string ValueText(const cField& field) {
+    struct cVisitor {
+        const cField& field;
+        std::string operator()(std::monostate) const {
+            return field.size > 2 ? std::to_string(field.size) + " bytes" : "-";
+        }
+        std::string operator()(std::int64_t value) const { return std::to_string(value); }
+        std::string operator()(double value) const { return NumberText(value); }
+        std::string operator()(bool value) const { return value ? "yes" : "no"; }
+        std::string operator()(const std::string& value) const { return "\"" + Printable(value) + "\""; }
+        std::string operator()(cDateValue value) const { return DateTimeText(value.m_Value); }
+    };
+    return std::visit(cVisitor{field}, field.value);
+}
+
+// A cell of a table, padded with blanks to a width.
+std::string Cell(std::string text, std::size_t width) {
+    if (text.size() < width) text.append(width - text.size(), ' ');
+    return text;
+}
+
+std::string ProblemText(const cProblem& problem) {
+    const std::string field = problem.field.empty() ? "" : ", " + Printable(problem.field);
+    return "byte " + std::to_string(problem.offset) + field + ": " + Printable(problem.description);
+}
+
+std::string JsonString(std::string_view text) {
+    std::string json = "\"";
+    for (const char c : CodePageToUtf8(text)) {
+        if (c == '"' || c == '\\') json += '\\';
+        if (Code(c) >= 0x20 && Code(c) != 0x7F) {
+            json += c;
+        } else {
+            json += "\\u00" + std::string(Code(c) < 0x10 ? "0" : "") +
+                    HexText(static_cast<std::uint32_t>(Code(c)));
+        }
+    }
+    return json + "\"";
+}
+
+std::string ValueJson(const cFieldValue& value) {
+    struct cVisitor {
+        std::string operator()(std::monostate) const { return "null"; }
+        std::string operator()(std::int64_t number) const { return std::to_string(number); }
+        std::string operator()(double number) const {
+            return std::isfinite(number) ? NumberText(number) : "null";
+        }
+        std::string operator()(bool flag) const { return flag ? "true" : "false"; }
+        std::string operator()(const std::string& text) const { return JsonString(text); }
+        std::string operator()(cDateValue date) const { return JsonString(DateTimeText(date.m_Value)); }
+    };
+    return std::visit(cVisitor{}, value);
+}
+
+std::string FieldJson(const cField& field) {
+    return "{\"name\": " + JsonString(field.name) + ", \"offset\": " + std::to_string(field.offset) +
+           ", \"size\": " + std::to_string(field.size) + ", \"value\": " + ValueJson(field.value) + "}";
+}
+
+std::string ProblemJson(const cProblem& problem) {
+    return "{\"offset\": " + std::to_string(problem.offset) +
+           ", \"field\": " + (problem.field.empty() ? "null" : JsonString(problem.field)) +
+           ", \"description\": " + JsonString(problem.description) + "}";
+}
+
+template <class Items, class Write>
+std::string JsonList(const Items& items, Write write) {
+    std::string json = "[";
+    for (std::size_t i = 0; i < items.size(); ++i) json += (i == 0 ? "\n    " : ",\n    ") + write(items[i]);
+    return json + (items.empty() ? "]" : "\n  ]");
+}
+
+}  // namespace
+
+std::string Printable(std::string_view text) {
+    std::string shown;
+    for (const char c : text) {
+        if (c == '\n') {
+            shown += "\\n";
+        } else if (c == '\r') {
+            shown += "\\r";
+        } else if (c == '\t') {
+            shown += "\\t";
+        } else if (IsControl(c)) {
+            const std::string hex = HexText(static_cast<std::uint32_t>(Code(c)));
+            shown += "\\x" + std::string(hex.size() < 2 ? "0" : "") + hex;
+        } else {
+            shown += CodePageToUtf8(std::string_view(&c, 1));
+        }
+    }
+    return shown;
+}
+
+std::string InspectionText(const std::string& file, const cInspection& inspection) {
+    std::string text = Printable(file) + ": " + inspection.kind;
+    if (inspection.version) text += ", version " + std::to_string(*inspection.version);
+    text += ", " + std::to_string(inspection.size) + " bytes\n";
+    std::size_t width = 5;
+    for (const cField& field : inspection.fields) width = std::max(width, field.name.size());
+    if (!inspection.fields.empty()) text += "  " + Cell("byte", 8) + Cell("field", width + 2) + "value\n";
+    for (const cField& field : inspection.fields) {
+        text += "  " + Cell(std::to_string(field.offset), 8) + Cell(field.name, width + 2) +
+                ValueText(field) + "\n";
+    }
+    if (inspection.problems.empty()) return text + "  Everything fits.\n";
+    text += "  What does not fit:\n";
+    for (const cProblem& problem : inspection.problems) text += "    " + ProblemText(problem) + "\n";
+    return text;
+}
+
+std::string InspectionJson(const std::string& file, const cInspection& inspection) {
+    const std::string version = inspection.version ? std::to_string(*inspection.version) : "null";
+    return "{\n  \"file\": " + JsonString(file) + ",\n  \"kind\": " + JsonString(inspection.kind) +
+           ",\n  \"version\": " + version + ",\n  \"size\": " + std::to_string(inspection.size) +
+           ",\n  \"fields\": " + JsonList(inspection.fields, FieldJson) +
+           ",\n  \"problems\": " + JsonList(inspection.problems, ProblemJson) + "\n}";
+}
+
+}  // namespace vigrel

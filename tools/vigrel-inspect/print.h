@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "vigrel-inspect/inspection.h"
+
+namespace vigrel {
+
+// Output is UTF-8.
+
+// A text of the code page as it can be shown on a terminal: control characters become escapes like "\n" and
+// "\x1B", so that no file can steer the terminal.
+std::string Printable(std::string_view text);
+
+// One inspection as a table for people.
+std::string InspectionText(const std::string& file, const cInspection& inspection);
+
+// One inspection as a JSON object: file, kind, version, size, fields (name, offset, size, value), problems
+// (offset, field, description). A date is its text, what has no value is null.
+std::string InspectionJson(const std::string& file, const cInspection& inspection);
+
+}  // namespace vigrel
