@@ -17,6 +17,7 @@ cReportHeader::cReportHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, pare
     setHighlightSections(false);
     setSortIndicator(-1, Qt::AscendingOrder);
     setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    setTextElideMode(Qt::ElideRight);
     connect(this, &QHeaderView::sectionResized, this, [this](int column) { Resized(column); });
     connect(this, &QHeaderView::sectionClicked, this, [this](int column) {
         if (OnClicked) OnClicked(column);
