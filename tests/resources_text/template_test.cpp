@@ -26,7 +26,7 @@ using vigrel::testing::eValueKind;
 using vigrel::testing::KnownKeys;
 
 constexpr std::string_view kCategoryPrefix = "CategorySpecificSetting_";
-constexpr int kIconsOfStrip = 32;
+constexpr int kIconsOfStrip = 48;
 const std::string kPath = "C:\\App\\VigrelReceiver.INI";
 
 // A line "key=value", or ";key=value", with the section above it.
