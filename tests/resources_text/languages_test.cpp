@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
 #include <cctype>
 #include <map>
 #include <set>
@@ -13,18 +12,13 @@
 #include "common/text.h"
 #include "common/texts.h"
 #include "resources_text/share_files.h"
+#include "resources_text/text_ids.h"
 #include "support/fake_files.h"
 
 namespace vigrel {
 namespace {
 
-// Every text that the program asks for, and 0, the language's own name.
-constexpr std::array<int, 72> kIds{
-    0,     13,    14,    141,   208,   272,   273,   274,   400,   401,   611,   612,   613,   614,   615,
-    616,   617,   803,   804,   805,   837,   838,   839,   888,   930,   976,   977,   978,   979,   980,
-    981,   982,   1088,  10000, 10004, 10006, 10007, 10008, 10009, 10010, 10011, 10012, 10013, 10014, 10015,
-    10016, 10017, 10018, 10019, 10020, 10021, 10022, 10025, 10027, 10028, 10029, 10030, 10031, 10032, 10034,
-    10035, 10036, 10037, 10038, 10039, 10040, 10041, 10042, 10043, 10044, 10046, 10047};
+using vigrel::testing::kTextIds;
 
 // A language file, with the upper-cased name by which desktops set to that language call it.
 struct cLanguage {
@@ -66,13 +60,13 @@ class Languages : public ::testing::TestWithParam<cLanguage> {
 };
 
 TEST_P(Languages, HasATextForEveryIdOfTheProgram) {
-    for (const int id : kIds) EXPECT_FALSE(m_Texts.GetText(id).starts_with("*** ")) << id;
+    for (const int id : kTextIds) EXPECT_FALSE(m_Texts.GetText(id).starts_with("*** ")) << id;
 }
 
 TEST_P(Languages, HasNoIdThatTheProgramDoesNotUseAndNoneTwice) {
     std::multiset<std::string> ids, known;
     for (const std::string& entry : Entries()) ids.insert(GetField(entry, 0, "="));
-    for (const int id : kIds) known.insert(std::to_string(id));
+    for (const int id : kTextIds) known.insert(std::to_string(id));
     EXPECT_EQ(ids, known);
 }
 
@@ -90,11 +84,11 @@ TEST_P(Languages, EveryLineEndsInCrLf) {
 }
 
 TEST_P(Languages, NoTextBeginsOrEndsWithABlank) {
-    for (const int id : kIds) EXPECT_EQ(Trim(m_Texts.GetText(id)), m_Texts.GetText(id)) << id;
+    for (const int id : kTextIds) EXPECT_EQ(Trim(m_Texts.GetText(id)), m_Texts.GetText(id)) << id;
 }
 
 TEST_P(Languages, NoTextHoldsAReplacementForALostCharacter) {
-    for (const int id : kIds) {
+    for (const int id : kTextIds) {
         // The question before the program closes is the only one.
         if (id != 10022) {
             EXPECT_EQ(m_Texts.GetText(id).find('?'), std::string::npos) << id;
@@ -119,7 +113,7 @@ TEST_P(Languages, TheOtherMenusHaveAnAccessKeyEach) {
 
 TEST_P(Languages, OnlyMenuCaptionsHoldAnAmpersand) {
     const std::set<int> captions{10004, 10006, 10007, 10008, 10009, 10019, 10034, 401};
-    for (const int id : kIds) {
+    for (const int id : kTextIds) {
         if (captions.contains(id)) continue;
         EXPECT_EQ(m_Texts.GetText(id).find('&'), std::string::npos) << id;
     }
