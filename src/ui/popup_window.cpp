@@ -100,8 +100,7 @@ void cPopupWidget::Hide() {
 }
 
 void cPopupWidget::SetTopMost(bool topMost) {
-    m_TopMost = topMost;
-    if (windowHandle() != nullptr) windowHandle()->setFlag(Qt::WindowStaysOnTopHint, topMost);
+    SetStaysOnTop(topMost);
     m_Stack.Raise(*this);
 }
 
@@ -134,8 +133,6 @@ void cPopupWidget::ReachPlace() {
 }
 
 void cPopupWidget::Map() {
-    winId();
-    windowHandle()->setFlag(Qt::WindowStaysOnTopHint, m_TopMost);
     const bool minimised = isMinimized();
     show();
     // One that a window manager has restored would come back as an icon.

@@ -74,7 +74,7 @@ class cPopupWidget : public cWidgetWindow<cPopupWindow> {
     QPlainTextEdit m_Label;
     std::array<cPopupPicture*, kPictures> m_Pictures;
     std::optional<QPoint> m_Place;  // of the frame; wished, and not on the screen yet
-    bool m_Shown = false, m_TopMost = false;
+    bool m_Shown = false;
 };
 
 // Makes popups, each a step beside the one before.

@@ -79,9 +79,7 @@ class cWidgetWindow : public Widget, public Port {
         FlushToScreen();
     }
     void SetTopMost(bool topMost) override {
-        this->winId();
-        // A live change of the native window; the widget's own flag would make a new one.
-        this->windowHandle()->setFlag(Qt::WindowStaysOnTopHint, topMost);
+        SetStaysOnTop(topMost);
         this->raise();
         FlushToScreen();
     }
@@ -91,6 +89,13 @@ class cWidgetWindow : public Widget, public Port {
     }
 
   protected:
+    // Changes a native window live; telling the toolkit in its usual way would make a new one.
+    void SetStaysOnTop(bool on) {
+        this->overrideWindowFlags(this->windowFlags().setFlag(Qt::WindowStaysOnTopHint, on));
+        if (this->windowHandle() != nullptr) {
+            this->windowHandle()->setFlag(Qt::WindowStaysOnTopHint, on);
+        }
+    }
     // Runs the close query and, when it isn't refused, the unload step. Whether the window is closed.
     bool TryClose(eCloseReason reason) {
         if (m_Closing || !m_Windows.Holds(*this)) return true;

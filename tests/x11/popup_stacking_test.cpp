@@ -1,0 +1,189 @@
+#include <gtest/gtest.h>
+
+#include <QLineEdit>
+#include <QPointer>
+#include <QWindow>
+
+#include "signals/popups.h"
+#include "support/popup_station.h"
+#include "support/qt_wait.h"
+#include "ui/popup_window.h"
+#include "x11/x_screen.h"
+
+namespace vigrel::testing {
+namespace {
+
+// Popups on a real screen, over a window in which the operator is typing.
+class cPopupsUnderX : public ::testing::Test, protected cPopupStation {
+  protected:
+    cPopupsUnderX() {
+        m_Typing.resize(600, 400);
+        m_Typing.show();
+        m_Typing.activateWindow();
+        EXPECT_TRUE(WaitUntil([&] { return m_Screen.ActiveWindow() == IdOf(m_Typing); }));
+    }
+    ~cPopupsUnderX() override {
+        m_Popups.ClosePopups();
+        EXPECT_TRUE(WaitUntil([&] { return Stacked().empty(); }));
+    }
+
+    // Opens a popup as the next alarm does; the event loop isn't reached.
+    void Open(const std::string& category) {
+        m_Clock.AddSeconds(1);
+        m_Popups.ShowPopup(Alarm(category));
+        m_Opened.emplace_back(dynamic_cast<cPopupWidget*>(m_Windows.OpenWindows().back()));
+    }
+    void OpenAll(const std::vector<std::string>& categories) {
+        for (const std::string& category : categories) Open(category);
+    }
+    cPopupWidget& Popup(int number) { return *m_Opened.at(static_cast<std::size_t>(number - 1)); }
+    // The widget's own id can be that of a native window that is gone.
+    static xcb_window_t IdOf(const QWidget& widget) {
+        return static_cast<xcb_window_t>(widget.windowHandle()->winId());
+    }
+    // What the window manager says: the popups that it shows, the uppermost first; "t" is the other window.
+    std::string Stacked() const {
+        std::string text;
+        for (const xcb_window_t window : m_Screen.RootWindows("_NET_CLIENT_LIST_STACKING")) {
+            if (window == IdOf(m_Typing)) continue;
+            for (std::size_t i = 0; i < m_Opened.size(); ++i) {
+                if (m_Opened[i] && m_Opened[i]->windowHandle() && IdOf(*m_Opened[i]) == window) {
+                    text = std::to_string(i + 1) + text;
+                }
+            }
+        }
+        return text;
+    }
+    bool StacksAs(const std::string& order) {
+        return WaitUntil([&] { return Stacked() == order; }) || (RunEvents(10), Stacked() == order);
+    }
+
+    cXScreen m_Screen;
+    QLineEdit m_Typing;
+    cOpenWindows m_Windows;
+    cPopupWidgetMaker m_Maker{m_Windows};
+    cPopups m_Popups{Services(m_Windows, m_Maker)};
+    std::vector<QPointer<cPopupWidget>> m_Opened;
+};
+
+TEST_F(cPopupsUnderX, SixInABurstStandInTheirOrder) {
+    m_Settings.m_PopupFormTopMostCategory = "A,B";
+    OpenAll({"X", "B", "A", "B", "A", "Y"});
+    EXPECT_TRUE(StacksAs("536421")) << Stacked();
+}
+
+TEST_F(cPopupsUnderX, SixOneByOneStandInTheirOrder) {
+    m_Settings.m_PopupFormTopMostCategory = "A,B";
+    const char* expected[] = {"1", "21", "321", "3421", "53421", "536421"};
+    int step = 0;
+    for (const char* category : {"X", "B", "A", "B", "A", "Y"}) {
+        Open(category);
+        EXPECT_TRUE(StacksAs(expected[step])) << step << ": " << Stacked();
+        ++step;
+    }
+}
+
+TEST_F(cPopupsUnderX, WithoutAListTheNewestLiesOnTop) {
+    for (int i = 0; i < 6; ++i) {
+        Open("X");
+        RunEvents(20);
+    }
+    EXPECT_TRUE(StacksAs("654321")) << Stacked();
+}
+
+TEST_F(cPopupsUnderX, OneOfSixShowsAndTheNextComesWithEachClose) {
+    m_Settings.m_PopupFormTopMostCategory = "A,B";
+    m_Settings.m_ViewOnlyOnePopupForm = true;
+    OpenAll({"X", "B", "A", "B", "A", "Y"});
+    for (const char* shown : {"3", "5", "2", "4", "1", "6"}) {
+        ASSERT_TRUE(StacksAs(shown)) << Stacked();
+        Popup(shown[0] - '0').Close();
+    }
+    EXPECT_TRUE(StacksAs(""));
+}
+
+TEST_F(cPopupsUnderX, AClosedPopupLeavesTheOthersInTheirOrder) {
+    m_Settings.m_PopupFormTopMostCategory = "A";
+    OpenAll({"X", "A", "X", "A"});
+    ASSERT_TRUE(StacksAs("4231")) << Stacked();
+    Popup(2).Close();
+    EXPECT_TRUE(StacksAs("431")) << Stacked();
+    Open("X");
+    EXPECT_TRUE(StacksAs("4531")) << Stacked();
+}
+
+TEST_F(cPopupsUnderX, PopupsLieOverOtherWindowsWithoutTakingTheKeyboard) {
+    OpenAll({"X", "Y"});
+    ASSERT_TRUE(StacksAs("21"));
+    RunEvents(100);
+    EXPECT_EQ(m_Screen.ActiveWindow(), IdOf(m_Typing));
+    EXPECT_TRUE(m_Screen.HasState(IdOf(Popup(1)), "_NET_WM_STATE_ABOVE"));
+    EXPECT_EQ(m_Screen.RootWindows("_NET_CLIENT_LIST_STACKING").front(), IdOf(m_Typing));
+    m_Typing.activateWindow();
+    m_Typing.raise();
+    RunEvents(50);
+    EXPECT_EQ(m_Screen.RootWindows("_NET_CLIENT_LIST_STACKING").front(), IdOf(m_Typing));
+}
+
+TEST_F(cPopupsUnderX, APopupOfAnUnlistedCategoryIsNotTopmostWhenOneShows) {
+    m_Settings.m_PopupFormTopMostCategory = "A";
+    m_Settings.m_ViewOnlyOnePopupForm = true;
+    Open("X");
+    ASSERT_TRUE(StacksAs("1"));
+    RunEvents(50);
+    EXPECT_FALSE(m_Screen.HasState(IdOf(Popup(1)), "_NET_WM_STATE_ABOVE"));
+    EXPECT_EQ(m_Screen.ActiveWindow(), IdOf(m_Typing));
+    // It was raised all the same.
+    EXPECT_EQ(m_Screen.RootWindows("_NET_CLIENT_LIST_STACKING").back(), IdOf(Popup(1)));
+}
+
+TEST_F(cPopupsUnderX, TheNextPopupTakesNoKeyboardEither) {
+    m_Settings.m_ViewOnlyOnePopupForm = true;
+    OpenAll({"X", "Y"});
+    ASSERT_TRUE(StacksAs("1"));
+    Popup(1).Close();
+    ASSERT_TRUE(StacksAs("2"));
+    RunEvents(100);
+    EXPECT_EQ(m_Screen.ActiveWindow(), IdOf(m_Typing));
+}
+
+TEST_F(cPopupsUnderX, TheFrameStandsWhereTheFileSays) {
+    Configure(
+        "X_Size=400\nY_Size=150\nWindowPosition=MOVING\nX_Start=100\nY_Start=200\nX_Stop=900\nY_Stop=900\n");
+    OpenAll({"X", "X", "X"});
+    ASSERT_TRUE(StacksAs("321"));
+    for (int number = 1; number <= 3; ++number) {
+        const int step = 50 * (number - 1);
+        EXPECT_TRUE(WaitUntil([&] {
+            return Popup(number).frameGeometry() == QRect(100 + step, 200 + step, 400, 150);
+        })) << number
+            << ": " << Popup(number).frameGeometry().x() << "," << Popup(number).frameGeometry().y() << " "
+            << Popup(number).frameGeometry().width() << "x" << Popup(number).frameGeometry().height();
+    }
+}
+
+TEST_F(cPopupsUnderX, NoPopupIsSeenWhereItWillNotStay) {
+    Configure("WindowPosition=STATIC\nX_Start=100\nY_Start=200\n");
+    m_Screen.WatchPlaces();
+    OpenAll({"X", "X"});
+    ASSERT_TRUE(StacksAs("21"));
+    RunEvents(100);
+    const auto places = m_Screen.PlacesSeen();
+    EXPECT_GE(places.size(), 2u);
+    for (const cXScreen::cPlace place : places) {
+        EXPECT_NEAR(place.x, 100, 30);
+        EXPECT_NEAR(place.y, 200, 30);
+    }
+}
+
+TEST_F(cPopupsUnderX, AMinimisedPopupComesBackWhenItIsNext) {
+    OpenAll({"X", "Y"});
+    ASSERT_TRUE(StacksAs("21"));
+    Popup(1).showMinimized();
+    ASSERT_TRUE(WaitUntil([&] { return m_Screen.HasState(IdOf(Popup(1)), "_NET_WM_STATE_HIDDEN"); }));
+    Popup(2).Close();
+    EXPECT_TRUE(WaitUntil([&] { return !m_Screen.HasState(IdOf(Popup(1)), "_NET_WM_STATE_HIDDEN"); }));
+}
+
+}  // namespace
+}  // namespace vigrel::testing
