@@ -17,6 +17,8 @@ class cNotificationArea {
     virtual std::string ToolTip() const = 0;
     virtual void SetToolTip(std::string_view text) = 0;
     virtual void SetVisible(bool visible) = 0;
+    // Whether the desktop has a place where the icon shows; it can come and go.
+    virtual bool HostAvailable() const = 0;
 
     std::function<void()> OnFirstClick;
     std::function<void()> OnSecondClick;
