@@ -104,6 +104,18 @@ TEST(Inspection, ReceiversOfEveryVersionFit) {
     }
 }
 
+TEST(Inspection, ProfilesOfEveryVersionFit) {
+    for (const int version : {4, 5}) {
+        const std::string bytes = Sample("profile_version_" + std::to_string(version) + ".dat");
+        const cInspection inspection = Inspect(eFileKind::Profile, "Profile_0012.dat", bytes);
+        EXPECT_EQ(inspection.version, version);
+        EXPECT_EQ(Problems(inspection), "") << version;
+        const cField& last = inspection.fields.back();
+        EXPECT_EQ(last.name, "use calendar");
+        EXPECT_EQ(last.offset + last.size, bytes.size());
+    }
+}
+
 TEST(Inspection, AReceiverShowsTheTypesOfItsSettings) {
     EXPECT_EQ(InspectionText("r", Inspect(eFileKind::Receiver, "r", Sample("receiver_version_3.dat"))),
               "r: receiver, version 3, 30 bytes\n"

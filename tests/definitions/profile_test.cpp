@@ -1,0 +1,400 @@
+#include "definitions/cProfile.h"
+
+#include <algorithm>
+
+#include "common/dates.h"
+#include "common/failure.h"
+#include "definitions/definition_fixture.h"
+#include "definitions/profile_samples.h"
+#include "support/samples.h"
+
+namespace vigrel {
+namespace {
+
+using samples::kProfileFields;
+using samples::kProfileSchedule;
+using samples::kProfileVersion4;
+using samples::kProfileVersion5;
+using testing::Bytes;
+
+class ProfileTest : public DefinitionTest {
+  protected:
+    void Load(cProfile& profile, const std::string& bytes) {
+        m_Files.Put(ProfilePath("0012"), bytes);
+        EXPECT_TRUE(profile.LoadFromDisk(12));
+    }
+    void ExpectRefused(const std::string& bytes) {
+        m_Files.Put(ProfilePath("0012"), bytes);
+        cProfile profile(m_Services);
+        EXPECT_FALSE(profile.LoadFromDisk(12));
+        EXPECT_EQ(m_Files.ReadFile(ProfilePath("0012")), bytes);
+    }
+    std::string OnDisk() const { return m_Files.ReadFile(ProfilePath("0012")); }
+};
+
+void ExpectNight(const cProfile& profile) {
+    EXPECT_EQ(profile.m_DiskIdentity, 12);
+    EXPECT_EQ(profile.m_Enabled, True16);
+    EXPECT_EQ(profile.GetName(), "Night");
+    EXPECT_EQ(profile.GetState(0), 1);
+    EXPECT_EQ(profile.GetState(1), 0);
+    EXPECT_EQ(profile.GetState(2), 2);
+    EXPECT_EQ(profile.m_UseTimeSchedule, True16);
+    EXPECT_EQ(profile.m_ParallellReceivers, "7;8");
+    EXPECT_EQ(profile.m_SequentialReceivers, "9");
+    EXPECT_EQ(profile.GetCondition(0), "Fire");
+    EXPECT_EQ(profile.GetCondition(1), "");
+    EXPECT_EQ(profile.GetCondition(3), "*");
+    EXPECT_EQ(profile.GetCondition(5),
+              "\xD6"
+              "1");
+    EXPECT_EQ(profile.m_TimeSchedule_ViewDayType, 5);
+    EXPECT_EQ(profile.m_Calendar_ViewTimeAxis, 1);
+    EXPECT_EQ(profile.m_UseExternalTag, True16);
+    EXPECT_EQ(profile.m_ExternalTagName, "TAG");
+    EXPECT_EQ(profile.m_IgnoreExternalTagInOtherProfiles, False16);
+    EXPECT_EQ(profile.m_UseExternalFile, False16);
+    EXPECT_EQ(profile.m_ExternalFileName, "a.txt");
+    EXPECT_EQ(profile.m_ExternalFileText, "hi");
+    EXPECT_EQ(profile.m_ScanSpecificSystems, True16);
+    EXPECT_EQ(profile.GetSystem(0), 1);
+    EXPECT_EQ(profile.GetSystem(62), 0);
+    EXPECT_EQ(profile.GetSystem(63), 3);
+    ASSERT_TRUE(profile.m_TimeSchedule);
+    EXPECT_EQ(profile.m_TimeSchedule->m_UseCalendar, True16);
+    std::int16_t start = 0;
+    std::int16_t stop = 0;
+    ASSERT_TRUE(profile.m_TimeSchedule->GetNextTimePeriod(0, start, stop, nullptr));
+    EXPECT_EQ(start, 420);
+    EXPECT_EQ(stop, 960);
+}
+
+TEST_F(ProfileTest, TheFrozenSamplesAreTheBytesWrittenByHand) {
+    EXPECT_EQ(testing::Sample("profile_version_4.dat"), kProfileVersion4);
+    EXPECT_EQ(testing::Sample("profile_version_5.dat"), kProfileVersion5);
+}
+
+TEST_F(ProfileTest, TheFileNameHoldsTheIdentityAsFourDigits) {
+    EXPECT_EQ(cProfile(m_Services).CreateFileName(12), "C:\\App\\Profiles\\Profile_0012.dat");
+}
+
+TEST_F(ProfileTest, ANewProfileIsEnabledWithoutIdentityOrSchedule) {
+    const cProfile profile(m_Services);
+    EXPECT_EQ(profile.m_DiskIdentity, -1);
+    EXPECT_EQ(profile.m_Enabled, True16);
+    EXPECT_FALSE(profile.m_TimeSchedule);
+    EXPECT_TRUE(profile.HasChangedSinceLastLoadFromDisk());
+}
+
+TEST_F(ProfileTest, AVersion4FileIsRead) {
+    cProfile profile(m_Services);
+    Load(profile, kProfileVersion4);
+    ExpectNight(profile);
+    EXPECT_EQ(profile.m_FileDateTimeStamp, 0);
+}
+
+TEST_F(ProfileTest, AVersion4FileIsRewrittenAsVersion5ByteByByte) {
+    cProfile profile(m_Services);
+    profile.m_OffDutyAlarmBehaviour = 2;
+    Load(profile, kProfileVersion4);
+    EXPECT_EQ(OnDisk(), kProfileVersion5);
+    EXPECT_EQ(OnDisk().size(), kProfileVersion4.size() + 2048 + 10);
+    EXPECT_EQ(Log(),
+              "12:30:15 Profile brought up 'C:\\App\\Profiles\\Profile_0012.dat' (version 4 -> 5)\r\n");
+}
+
+TEST_F(ProfileTest, OffDutyBehaviourKeepsItsValueOverAVersion4Load) {
+    cProfile profile(m_Services);
+    profile.m_OffDutyAlarmBehaviour = 7;
+    Load(profile, kProfileVersion4);
+    EXPECT_EQ(profile.m_OffDutyAlarmBehaviour, 7);
+    Load(profile, kProfileVersion5);
+    EXPECT_EQ(profile.m_OffDutyAlarmBehaviour, 2);
+}
+
+TEST_F(ProfileTest, AVersion5FileIsReadWithoutALogLineAndWithoutRewriting) {
+    m_Clock.Set(2027, 1, 1);
+    cProfile profile(m_Services);
+    Load(profile, kProfileVersion5);
+    ExpectNight(profile);
+    EXPECT_EQ(profile.m_OffDutyAlarmBehaviour, 2);
+    EXPECT_EQ(profile.m_FileDateTimeStamp, DateSerial(2026, 3, 15) + TimeSerial(12, 30, 15));
+    EXPECT_EQ(OnDisk(), kProfileVersion5);
+    EXPECT_EQ(m_Files.m_Calls, 0);
+}
+
+TEST_F(ProfileTest, AnUnchangedLoadHasNotChangedAlsoAfterARewrite) {
+    for (const std::string& bytes : {kProfileVersion4, kProfileVersion5}) {
+        cProfile profile(m_Services);
+        Load(profile, bytes);
+        EXPECT_FALSE(profile.HasChangedSinceLastLoadFromDisk());
+    }
+}
+
+TEST_F(ProfileTest, AFileOfLength0Or1LoadsAsFalseAndStays) {
+    ExpectRefused("");
+    ExpectRefused("\x05");
+    EXPECT_EQ(Log(), "");
+}
+
+TEST_F(ProfileTest, LoadingAMissingFileLeavesAnEmptyOne) {
+    cProfile profile(m_Services);
+    EXPECT_FALSE(profile.LoadFromDisk(12));
+    EXPECT_EQ(profile.m_DiskIdentity, -1);
+    EXPECT_EQ(OnDisk(), "");
+}
+
+TEST_F(ProfileTest, AnUnknownVersionIsRefusedWithTheNameOfTheFileAndNotChanged) {
+    for (const char version : {'\x03', '\x06'}) {
+        std::string bytes = kProfileVersion5;
+        bytes[0] = version;
+        ExpectRefused(bytes);
+    }
+    EXPECT_EQ(Log(),
+              "12:30:15 File 'C:\\App\\Profiles\\Profile_0012.dat' (3) is no profile\r\n"
+              "12:30:15 File 'C:\\App\\Profiles\\Profile_0012.dat' (6) is no profile\r\n");
+}
+
+TEST_F(ProfileTest, AFileCutAtAnyLengthIsRefusedAndStaysAsItIs) {
+    for (const std::string& bytes : {kProfileVersion4, kProfileVersion5}) {
+        for (std::size_t length = 0; length < bytes.size(); ++length) {
+            // Nothing is told apart inside the filler.
+            if (length > 400 && length < bytes.size() - 250 && length % 100 != 0) continue;
+            SCOPED_TRACE(length);
+            ExpectRefused(bytes.substr(0, length));
+        }
+    }
+    EXPECT_NE(Log().find("12:30:15 Profile not loaded C:\\App\\Profiles\\Profile_0012.dat "
+                         "Err:the file ends too early, at its byte 2\r\n"),
+              std::string::npos);
+}
+
+TEST_F(ProfileTest, AFileWithFlippedBytesNeverDoesWorseThanAFalseResult) {
+    for (std::size_t place = 0; place < kProfileVersion4.size(); ++place) {
+        for (const int pattern : {0x01, 0x80, 0xFF}) {
+            std::string bytes = kProfileVersion4;
+            bytes[place] = static_cast<char>(bytes[place] ^ pattern);
+            m_Files.Put(ProfilePath("0012"), bytes);
+            cProfile profile(m_Services);
+            const bool loaded = profile.LoadFromDisk(12);
+            EXPECT_TRUE(loaded ? OnDisk()[0] == 5 : OnDisk() == bytes) << place << " ^ " << pattern;
+        }
+    }
+}
+
+TEST_F(ProfileTest, AProfileThatWasNeverGivenConditionsHoldsSixEmptyStrings) {
+    m_Random.m_Values = {0};
+    cProfile profile(m_Services);
+    profile.m_TimeSchedule = std::make_unique<cTimeSchedule>();
+    ASSERT_TRUE(profile.SaveToDisk());
+    EXPECT_EQ(profile.m_DiskIdentity, 1);
+    EXPECT_EQ(profile.m_HasUpdatedDiskIdentity, True16);
+    const std::string bytes = m_Files.ReadFile(ProfilePath("0001"));
+    EXPECT_EQ(bytes.substr(0, 36), Bytes("05 00 00 00 FF FF"
+                                         "00 00 (name)"
+                                         "00 00 00 00 00 00 (states)"
+                                         "00 00 00 00 00 00 (use schedule, reserved)"
+                                         "00 00 00 00 (receivers)"
+                                         "00 00 00 00 00 00 00 00 00 00 00 00 (conditions)"));
+    EXPECT_EQ(bytes.size(), 2u + 2 + 2 + 2 + 6 + 2 + 4 + 2 + 2 + 12 + 2 + 2 + 2 + 2 + 2 + 2 + 2 + 2 + 2 +
+                                128 + 2 + 8 + 2048 + 186);
+}
+
+TEST_F(ProfileTest, AProfileWithoutScheduleCantBeSaved) {
+    cProfile profile(m_Services);
+    EXPECT_FALSE(profile.SaveToDisk());
+    EXPECT_EQ(profile.m_DiskIdentity, -1);
+    EXPECT_TRUE(m_Files.ListFiles("C:\\App\\Profiles\\", "*").empty());
+    EXPECT_NE(Log().find("Profile not saved"), std::string::npos);
+    EXPECT_NE(Log().find("Err:the profile has no time schedule"), std::string::npos);
+}
+
+TEST_F(ProfileTest, ASaveOfANewProfileNeverOverwritesAFileOfAnotherIdentity) {
+    m_Files.Put(ProfilePath("0001"), "first");
+    m_Random.m_Values = {0, 0, 0.5};
+    cProfile profile(m_Services);
+    profile.m_TimeSchedule = std::make_unique<cTimeSchedule>();
+    EXPECT_TRUE(profile.SaveToDisk());
+    EXPECT_EQ(profile.m_DiskIdentity, 4996);
+    EXPECT_EQ(m_Files.ReadFile(ProfilePath("0001")), "first");
+}
+
+TEST_F(ProfileTest, AFailureAtAnyCallOfASaveLeavesTheOldFileOrTheNewOneWhole) {
+    for (int call = 0;; ++call) {
+        cProfile profile(m_Services);
+        Load(profile, kProfileVersion5);
+        profile.SetName("Changed");
+        m_Files.m_Calls = 0;
+        m_Files.m_FailCall = call;
+        const bool saved = profile.SaveToDisk();
+        m_Files.m_FailCall = -1;
+        EXPECT_EQ(profile.HasChangedSinceLastLoadFromDisk(), !saved);
+        m_Files.Crash();
+        cProfile again(m_Services);
+        ASSERT_TRUE(again.LoadFromDisk(12)) << call;
+        EXPECT_EQ(again.GetName(), saved ? "Changed" : "Night") << call;
+        if (!saved) continue;
+        EXPECT_GE(call, 3);
+        return;
+    }
+}
+
+TEST_F(ProfileTest, AFailedSaveIsALogLineWithTheDescription) {
+    cProfile profile(m_Services);
+    Load(profile, kProfileVersion5);
+    m_Files.m_DiskFull = true;
+    m_Files.m_OnCall = [this](std::string_view operation, std::string_view) {
+        m_Files.m_DiskFull = operation == "write";
+    };
+    EXPECT_FALSE(profile.SaveToDisk());
+    EXPECT_EQ(Log(),
+              "12:30:15 Profile not saved C:\\App\\Profiles\\Profile_0012.dat "
+              "Err:C:\\App\\Profiles\\Profile_0012.dat.$~: the disk is full\r\n");
+}
+
+TEST_F(ProfileTest, RemovingIsALogLineWithNameAndFile) {
+    cProfile profile(m_Services);
+    Load(profile, kProfileVersion5);
+    EXPECT_TRUE(profile.RemoveFromDisk());
+    EXPECT_FALSE(m_Files.FileExists(ProfilePath("0012")));
+    EXPECT_EQ(Log(), "12:30:15 Profile removed 'Night' C:\\App\\Profiles\\Profile_0012.dat\r\n");
+}
+
+TEST_F(ProfileTest, AFailedRemovalIsTheSameLineWithTheDescriptionBehind) {
+    cProfile profile(m_Services);
+    profile.SetName("Gone");
+    profile.m_DiskIdentity = 3;
+    EXPECT_FALSE(profile.RemoveFromDisk());
+    EXPECT_EQ(Log(),
+              "12:30:15 Profile removed 'Gone' C:\\App\\Profiles\\Profile_0003.dat "
+              "Err:C:\\App\\Profiles\\Profile_0003.dat: the file does not exist\r\n");
+}
+
+TEST_F(ProfileTest, EveryStoredFieldCountsAsAChange) {
+    const std::vector<std::function<void(cProfile&)>> changes = {
+        [](cProfile& p) { p.SetName("x"); },
+        [](cProfile& p) { p.m_Enabled = False16; },
+        [](cProfile& p) { p.m_ParentName = "x"; },
+        [](cProfile& p) { p.m_NestingLevels = 4; },
+        [](cProfile& p) { p.SetState(0, 9); },
+        [](cProfile& p) { p.SetState(2, 9); },
+        [](cProfile& p) { p.m_UseTimeSchedule = False16; },
+        [](cProfile& p) { p.m_ParallellReceivers = "x"; },
+        [](cProfile& p) { p.m_SequentialReceivers = "x"; },
+        [](cProfile& p) { p.SetCondition(0, "x"); },
+        [](cProfile& p) { p.SetCondition(5, "x"); },
+        [](cProfile& p) { p.m_TimeSchedule_ViewDayType = 9; },
+        [](cProfile& p) { p.m_Calendar_ViewTimeAxis = 9; },
+        [](cProfile& p) { p.m_UseExternalTag = False16; },
+        [](cProfile& p) { p.m_ExternalTagName = "x"; },
+        [](cProfile& p) { p.m_IgnoreExternalTagInOtherProfiles = True16; },
+        [](cProfile& p) { p.m_UseExternalFile = True16; },
+        [](cProfile& p) { p.m_ExternalFileName = "x"; },
+        [](cProfile& p) { p.m_ExternalFileText = "x"; },
+        [](cProfile& p) { p.m_ScanSpecificSystems = False16; },
+        [](cProfile& p) { p.SetSystem(0, 9); },
+        [](cProfile& p) { p.SetSystem(63, 9); },
+        [](cProfile& p) { p.m_OffDutyAlarmBehaviour = 9; },
+        [](cProfile& p) { p.m_TimeSchedule->m_UseCalendar = False16; },
+        [](cProfile& p) { p.m_TimeSchedule = nullptr; },
+    };
+    for (std::size_t i = 0; i < changes.size(); ++i) {
+        cProfile profile(m_Services);
+        Load(profile, kProfileVersion5);
+        changes[i](profile);
+        EXPECT_TRUE(profile.HasChangedSinceLastLoadFromDisk()) << i;
+        profile.RememberOriginalSettings();
+        EXPECT_FALSE(profile.HasChangedSinceLastLoadFromDisk()) << i;
+    }
+}
+
+TEST_F(ProfileTest, AChangeOfOnePeriodInTheScheduleIsAChange) {
+    cProfile profile(m_Services);
+    Load(profile, kProfileVersion5);
+    std::int16_t start = 0;
+    std::int16_t stop = 0;
+    profile.m_TimeSchedule->GetNextTimePeriod(0, start, stop, nullptr)->m_StopMinute = 961;
+    EXPECT_TRUE(profile.HasChangedSinceLastLoadFromDisk());
+    EXPECT_TRUE(profile.SaveToDisk());
+    EXPECT_FALSE(profile.HasChangedSinceLastLoadFromDisk());
+}
+
+TEST_F(ProfileTest, TheCopyOfTheScheduleIsAScheduleOfItsOwn) {
+    cProfile profile(m_Services);
+    Load(profile, kProfileVersion5);
+    ASSERT_TRUE(profile.m_Original_TimeSchedule);
+    EXPECT_NE(profile.m_Original_TimeSchedule.get(), profile.m_TimeSchedule.get());
+    EXPECT_EQ(profile.m_Original_Enabled, True16);
+    EXPECT_EQ(profile.m_Original_ParallellReceivers, "7;8");
+}
+
+TEST_F(ProfileTest, CopyFromTakesEverythingButTheIdentityAndSharesNothing) {
+    cProfile source(m_Services);
+    Load(source, kProfileVersion5);
+    cProfile copy(m_Services);
+    copy.CopyFrom(source);
+    EXPECT_EQ(copy.m_DiskIdentity, -1);
+    EXPECT_EQ(copy.m_OffDutyAlarmBehaviour, 2);
+    std::int16_t start = 0;
+    std::int16_t stop = 0;
+    copy.m_TimeSchedule->GetNextTimePeriod(0, start, stop, nullptr)->m_StopMinute = 500;
+    EXPECT_FALSE(source.HasChangedSinceLastLoadFromDisk());
+    copy.m_TimeSchedule->GetNextTimePeriod(0, start, stop, nullptr)->m_StopMinute = 960;
+    copy.m_DiskIdentity = 12;
+    ExpectNight(copy);
+    EXPECT_TRUE(copy.SaveToDisk());
+    EXPECT_EQ(OnDisk(), kProfileVersion5);
+}
+
+TEST_F(ProfileTest, CopyFromAProfileWithoutScheduleHasNone) {
+    const cProfile source(m_Services);
+    cProfile copy(m_Services);
+    copy.m_TimeSchedule = std::make_unique<cTimeSchedule>();
+    copy.CopyFrom(source);
+    EXPECT_FALSE(copy.m_TimeSchedule);
+}
+
+TEST_F(ProfileTest, AnIndexOutsideItsRangeIsABoundsFailure) {
+    cProfile profile(m_Services);
+    const std::vector<std::function<void()>> calls = {
+        [&] { profile.GetCondition(6); },     [&] { profile.GetCondition(-1); },
+        [&] { profile.SetCondition(6, ""); }, [&] { profile.GetState(3); },
+        [&] { profile.SetState(-1, 0); },     [&] { profile.GetSystem(64); },
+        [&] { profile.SetSystem(64, 0); }};
+    for (const auto& call : calls) {
+        const auto failure = CatchFailure(call);
+        ASSERT_TRUE(failure);
+        EXPECT_EQ(failure->Number(), eFailure::OutOfBounds);
+    }
+}
+
+TEST_F(ProfileTest, WithoutNestingANameHasNoParent) {
+    cProfile profile(m_Services);
+    profile.SetName("Building@Floor@Room");
+    EXPECT_EQ(profile.GetName(), "Building@Floor@Room");
+    EXPECT_EQ(profile.m_ParentName, "");
+    EXPECT_EQ(profile.m_NestingLevels, 0);
+}
+
+TEST_F(ProfileTest, WithNestingANameOfThreePartsHasTheFirstTwoAsParentAndLevel2) {
+    m_Services.m_ProfileNesting = true;
+    cProfile profile(m_Services);
+    profile.SetName("Byggnad@V\xE5ning@Rum");
+    EXPECT_EQ(profile.m_ParentName, "BYGGNAD@V\xC5NING");
+    EXPECT_EQ(profile.m_NestingLevels, 2);
+    profile.SetName("@x");
+    EXPECT_EQ(profile.m_ParentName, "");
+    EXPECT_EQ(profile.m_NestingLevels, 1);
+}
+
+TEST_F(ProfileTest, WithNestingANameWithoutSignHasLevel0) {
+    m_Services.m_ProfileNesting = true;
+    cProfile profile(m_Services);
+    profile.SetName("Building@Floor");
+    profile.SetName("Building");
+    EXPECT_EQ(profile.m_ParentName, "");
+    EXPECT_EQ(profile.m_NestingLevels, 0);
+}
+
+}  // namespace
+}  // namespace vigrel
