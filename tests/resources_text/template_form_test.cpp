@@ -1,0 +1,150 @@
+// The form of the delivered configuration: complete, readable, explained.
+
+#include <cmath>
+#include <limits>
+#include <set>
+
+#include "common/numbers.h"
+#include "events/alarm_list_view.h"
+#include "resources_text/default_configuration.h"
+
+namespace vigrel {
+namespace {
+
+using namespace vigrel::testing;
+
+bool IsWholeNumber(const std::string& text, double low, double high) {
+    return IsNumeric(text) && Val(text) == std::floor(Val(text)) && Val(text) >= low && Val(text) <= high;
+}
+
+bool AreNumbers(const std::string& text, std::int16_t count, double high) {
+    for (std::int16_t i = 0; i < count; ++i) {
+        if (!IsWholeNumber(GetField(text, i, ","), 0, high)) return false;
+    }
+    return GetField(text, count, ",").empty();
+}
+
+bool Parses(const std::string& value, eValueKind kind) {
+    using int16 = std::numeric_limits<std::int16_t>;
+    using int32 = std::numeric_limits<std::int32_t>;
+    switch (kind) {
+        case eValueKind::Flag:
+            return value == "0" || value == "1";
+        case eValueKind::Int16:
+            return IsWholeNumber(value, int16::min(), int16::max());
+        case eValueKind::Int32:
+            return IsWholeNumber(value, int32::min(), int32::max());
+        case eValueKind::Decimal:
+            return IsNumeric(value);
+        case eValueKind::Colour:
+            return AreNumbers(value, 3, 255);
+        case eValueKind::Icons:
+            return AreNumbers(value, 2, kIconsOfStrip - 1);
+        case eValueKind::Text:
+            return true;
+    }
+    return false;
+}
+
+TEST_F(DefaultConfiguration, HasEveryKeySetOrCommentedOut) {
+    for (const cKnownKey& key : KnownKeys()) {
+        EXPECT_TRUE(HasLine(key.section, key.name)) << "[" << key.section << "] " << key.name;
+    }
+}
+
+TEST_F(DefaultConfiguration, HasNoKeyThatNobodyReads) {
+    const std::set<std::string> free{"Senders", "CategoryTranslations", "PrinterPorts"};
+    for (const cLine& line : m_Lines) {
+        if (free.contains(line.section)) continue;
+        EXPECT_NE(Known(line), nullptr) << "[" << line.section << "] " << line.key;
+    }
+}
+
+// Remarks tell "Key (default VALUE)" or, for keys with the same default, "Key, Key (default VALUE)".
+TEST_F(DefaultConfiguration, TellsTheDefaultOfEveryKey) {
+    const std::string columns = m_Content.substr(m_Content.find("; Columns. Each has"));
+    for (const cKnownKey& key : KnownKeys()) {
+        const bool column = key.name.starts_with("Column") && key.section != "General";
+        const std::string& remarks = column ? columns : m_Remarks[key.section];
+        std::size_t place = remarks.find(" " + key.name + " (default ");
+        if (place == std::string::npos) place = remarks.find(" " + key.name + ",");
+        ASSERT_NE(place, std::string::npos) << "[" << key.section << "] " << key.name;
+        const std::size_t told = remarks.find("(default ", place);
+        EXPECT_EQ(remarks.substr(told + 9, key.defaultValue.size() + 1), key.defaultValue + ")") << key.name;
+    }
+}
+
+TEST_F(DefaultConfiguration, EveryValueParsesAlsoTheOnesCommentedOut) {
+    for (const cLine& line : m_Lines) {
+        const cKnownKey* key = Known(line);
+        if (key != nullptr) {
+            EXPECT_TRUE(Parses(line.value, key->kind)) << line.key << "=" << line.value;
+        }
+    }
+}
+
+TEST_F(DefaultConfiguration, NoValueIsLongerThanCanBeRead) {
+    for (const cLine& line : m_Lines) EXPECT_LT(line.value.size(), 2048u) << line.key;
+}
+
+TEST_F(DefaultConfiguration, NoSectionOrKeyStandsTwice) {
+    std::set<std::string> seen;
+    for (const cLine& line : m_Lines) {
+        if (!line.commented) {
+            EXPECT_TRUE(seen.insert(line.section + "/" + line.key).second) << line.key;
+        }
+    }
+    const auto sections = ReadIniEntries(m_Files, "", 8192, kPath).entries;
+    EXPECT_EQ(std::set<std::string>(sections.begin(), sections.end()).size(), sections.size());
+}
+
+TEST_F(DefaultConfiguration, OnlyCommentsSectionsKeysAndEmptyLines) {
+    for (const std::string& line : SplitLines(m_Content)) {
+        const bool fits = line.empty() || line[0] == ';' || (line[0] == '[' && line.ends_with("]")) ||
+                          (line[0] != ' ' && line.find('=') != std::string::npos);
+        EXPECT_TRUE(fits) << line;
+    }
+}
+
+TEST_F(DefaultConfiguration, EverySectionNameFitsTheBufferTheyAreReadInto) {
+    const cIniEntries small = ReadIniEntries(m_Files, "", 8192, kPath);
+    const cIniEntries large = ReadIniEntries(m_Files, "", 1u << 20, kPath);
+    EXPECT_EQ(small.entries, large.entries);
+    EXPECT_LT(large.characters, 8192 / 4) << "leave room for the installer's own categories";
+}
+
+TEST_F(DefaultConfiguration, NoSenderIsSetAndTheExamplesAreReadWhenUncommented) {
+    EXPECT_TRUE(ReadIniEntries(m_Files, "Senders", 4096, kPath).entries.empty());
+    std::vector<std::string> examples;
+    for (const cLine& line : m_Lines) {
+        if (line.section != "Senders") continue;
+        EXPECT_TRUE(IsWholeNumber(line.value, 0, 32767)) << line.key;
+        examples.push_back(line.key + "=" + line.value);
+    }
+    std::string uncommented;
+    for (const std::string& line : SplitLines(m_Content)) {
+        const auto entry = KeyLine(line, "");
+        uncommented += (entry && entry->commented ? line.substr(1) : line) + "\r\n";
+    }
+    m_Files.Put(kPath, uncommented);
+    EXPECT_EQ(ReadIniEntries(m_Files, "Senders", 4096, kPath).entries, examples);
+    EXPECT_FALSE(examples.empty());
+}
+
+TEST_F(DefaultConfiguration, AsksForTheLanguageAtTheFirstStart) {
+    EXPECT_EQ(m_Ini.GetIniString("General", "Language", "missing"), "");
+}
+
+TEST_F(DefaultConfiguration, WhatTheProgramWritesReplacesALineInPlace) {
+    const std::size_t lines = SplitLines(m_Content).size();
+    for (const std::string key :
+         {"Language", "CountryFilter", "Vigrel_Receiver_Main.Top", "Vigrel_Receiver_Main.Left",
+          "Vigrel_Receiver_Main.Height", "Vigrel_Receiver_Main.Width"}) {
+        m_Ini.PutIniString("General", key, "046");
+    }
+    for (const std::string_view column : kColumnKeywords) m_Ini.PutIniString(column, "ColumnWidth", "77");
+    EXPECT_EQ(SplitLines(m_Files.ReadFile(kPath)).size(), lines);
+}
+
+}  // namespace
+}  // namespace vigrel

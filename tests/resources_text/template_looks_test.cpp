@@ -1,0 +1,152 @@
+// What the delivered configuration makes of a station: columns, colours, icons, sounds, popups.
+
+#include <cmath>
+#include <set>
+
+#include "common/numbers.h"
+#include "core/read_settings.h"
+#include "events/alarm_list_view.h"
+#include "resources_text/default_configuration.h"
+
+namespace vigrel {
+namespace {
+
+using namespace vigrel::testing;
+
+// --- contrast, as the accessibility guidelines for web content compute it
+
+double Luminance(Colour colour) {
+    const auto part = [&](int shift) {
+        const double value = ((colour >> shift) & 0xFF) / 255.0;
+        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * part(0) + 0.7152 * part(8) + 0.0722 * part(16);
+}
+
+double Contrast(Colour a, Colour b) {
+    const auto [dark, light] = std::minmax({Luminance(a), Luminance(b)});
+    return (light + 0.05) / (dark + 0.05);
+}
+
+TEST(Contrast, BlackOnWhiteIs21) {
+    EXPECT_NEAR(Contrast(0, 0xFFFFFF), 21, 0.001);
+}
+
+TEST(Contrast, GreyOnWhiteIsAsPublished) {
+    EXPECT_NEAR(Contrast(0x767676, 0xFFFFFF), 4.54, 0.01);
+}
+
+TEST_F(DefaultConfiguration, ColumnsAreKnownAndBeginWithTheIcon) {
+    const std::string columns = m_Ini.GetIniString("General", "Columns", "");
+    std::vector<std::string> shown;
+    for (std::int16_t i = 0; !GetField(columns, i, ",").empty(); ++i) {
+        shown.push_back(GetField(columns, i, ","));
+    }
+    ASSERT_GT(shown.size(), 4u);
+    EXPECT_EQ(shown.front(), "StateIcon");
+    for (const std::string& keyword : shown) {
+        EXPECT_NE(std::find(kColumnKeywords.begin(), kColumnKeywords.end(), keyword), kColumnKeywords.end())
+            << keyword;
+    }
+}
+
+TEST_F(DefaultConfiguration, TheColumnsShownFitTheWindow) {
+    const std::string columns = m_Ini.GetIniString("General", "Columns", "");
+    double width = 0;
+    for (std::int16_t i = 0; !GetField(columns, i, ",").empty(); ++i) {
+        width += Val(m_Ini.GetIniString(GetField(columns, i, ","), "ColumnWidth", "100"));
+    }
+    constexpr double kTwipsPerPixel = 15, kScrollBar = 20;
+    EXPECT_LE(width + kScrollBar,
+              Val(m_Ini.GetIniString("General", "Vigrel_Receiver_Main.Width", "")) / kTwipsPerPixel);
+}
+
+TEST_F(DefaultConfiguration, TextIsReadableInEveryStateOfEveryCategory) {
+    for (const auto* setting : AllSettings()) {
+        for (int status = 0; status < 4; ++status) {
+            EXPECT_GE(Contrast(setting->GetBackColor(status), setting->GetForeColor(status)), 4.5)
+                << "category \"" << setting->m_Category << "\", state " << status;
+        }
+    }
+}
+
+TEST_F(DefaultConfiguration, StatesDifferInTheirColours) {
+    std::set<Colour> grounds;
+    for (int status = 0; status < 4; ++status) {
+        grounds.insert(m_Categories.m_DefaultCategorySetting.GetBackColor(status));
+    }
+    EXPECT_EQ(grounds.size(), 4u);
+}
+
+// A ground without its own text colour would turn the inherited one into something nobody chose.
+TEST_F(DefaultConfiguration, GroundAndTextAreSetTogether) {
+    for (const cLine& line : m_Lines) {
+        if (line.key.starts_with("BackColor_")) {
+            EXPECT_TRUE(HasLine(line.section, "ForeColor_" + line.key.substr(10))) << line.section;
+        }
+        if (line.key.starts_with("ForeColor_")) {
+            EXPECT_TRUE(HasLine(line.section, "BackColor_" + line.key.substr(10))) << line.section;
+        }
+    }
+}
+
+TEST_F(DefaultConfiguration, AcknowledgementShowsInEveryIcon) {
+    for (const auto* setting : AllSettings()) {
+        for (int status = 0; status < 4; ++status) {
+            EXPECT_NE(setting->GetIcon(status, false), setting->GetIcon(status, true));
+        }
+    }
+}
+
+TEST_F(DefaultConfiguration, EveryCategoryHasAnIconOfItsOwnWhenActive) {
+    std::set<std::int16_t> icons;
+    for (const auto* setting : AllSettings()) icons.insert(setting->GetIcon(1, false));
+    EXPECT_EQ(icons.size(), AllSettings().size());
+}
+
+TEST_F(DefaultConfiguration, SignalsNameASoundOfTheApplicationFolder) {
+    const std::set<std::string> sounds{"C:\\App\\Sounds\\alarm.wav", "C:\\App\\Sounds\\warning.wav",
+                                       "C:\\App\\Sounds\\notice.wav"};
+    for (const auto* setting : AllSettings()) {
+        EXPECT_TRUE(setting->m_EventSignal == 2 || setting->m_EventSignal == 3) << setting->m_Category;
+        EXPECT_TRUE(sounds.contains(setting->m_EventSoundFile)) << setting->m_EventSoundFile;
+    }
+}
+
+TEST_F(DefaultConfiguration, TheCategoryOfLostSendersHasASection) {
+    const std::string category = m_Ini.GetIniString("General", "SystemErrorCategory", "");
+    EXPECT_EQ(m_Categories.Find(category).m_Category, category);
+}
+
+TEST_F(DefaultConfiguration, TheImportantCategoriesOfPopupsHaveSections) {
+    const std::string list = m_Ini.GetIniString("General", "PopupFormTopMostCategory", "");
+    ASSERT_FALSE(list.empty());
+    for (std::int16_t i = 0; !GetField(list, i, ",").empty(); ++i) {
+        const std::string category = GetField(list, i, ",");
+        EXPECT_EQ(m_Categories.Find(category).m_Category, category);
+    }
+}
+
+TEST_F(DefaultConfiguration, SettingsAreReadWithoutAFailure) {
+    cSettings settings;
+    EXPECT_NO_THROW(ReadSettings(m_Ini, settings, [] {}));
+    EXPECT_GE(settings.m_EventFontSize, 10);
+    EXPECT_GT(settings.m_MaxEvents, 0);
+    EXPECT_GT(settings.m_MaxDays, 0);
+    EXPECT_GT(settings.m_KeepForDays, 0);
+}
+
+TEST_F(DefaultConfiguration, PrintsNothingAndDrivesNoLight) {
+    EXPECT_EQ(m_Ini.GetIniString("Printer", "Format", "missing"), "");
+    for (const auto* setting : AllSettings()) EXPECT_FALSE(setting->USBLED_Enabled);
+}
+
+TEST_F(DefaultConfiguration, MovingPopupsStepThroughSeveralPlaces) {
+    const auto number = [&](std::string_view key) { return Val(m_Ini.GetIniString("PopupForm", key, "")); };
+    for (const std::string axis : {"X_", "Y_"}) {
+        EXPECT_GE((number(axis + "Stop") - number(axis + "Start")) / number(axis + "Step"), 5) << axis;
+    }
+}
+
+}  // namespace
+}  // namespace vigrel
