@@ -10,6 +10,11 @@ if(VIGREL_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
+if(VIGREL_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
 # vigrel_library(name [DEPENDS lib...]): every *.cpp of the calling folder as the static library vigrel_<name>.
 function(vigrel_library name)
   cmake_parse_arguments(arg "" "" "DEPENDS" ${ARGN})
