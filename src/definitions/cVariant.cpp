@@ -154,7 +154,7 @@ cVariant cVariant::Read(cBinaryReader& file) {
         case eVariantType::String:
             return String(file.String());
         case eVariantType::Boolean:
-            return cVariant(Value(cFlag{file.Int16()}));
+            return Holding(cFlag{file.Int16()});
         case eVariantType::Byte:
             return Byte(file.Byte());
     }

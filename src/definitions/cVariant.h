@@ -30,24 +30,18 @@ enum class eVariantType : std::int16_t {
 // is up to the type of the receiver.
 class cVariant {
   public:
-    // A number with four decimals, kept as a count of ten-thousandths.
-    struct cCurrency {
-        std::int64_t m_TenThousandths = 0;
-    };
-
     cVariant() = default;
-    static cVariant Null() { return cVariant(Value(cNull{})); }
-    static cVariant Int16(std::int16_t value) { return cVariant(Value(value)); }
-    static cVariant Int32(std::int32_t value) { return cVariant(Value(value)); }
-    static cVariant Single(float value) { return cVariant(Value(value)); }
-    static cVariant Double(double value) { return cVariant(Value(value)); }
-    static cVariant Currency(std::int64_t tenThousandths) {
-        return cVariant(Value(cCurrency{tenThousandths}));
-    }
-    static cVariant Date(DateTime value) { return cVariant(Value(cDate{value})); }
-    static cVariant String(std::string value) { return cVariant(Value(std::move(value))); }
-    static cVariant Boolean(bool value) { return cVariant(Value(cFlag{value ? True16 : False16})); }
-    static cVariant Byte(std::uint8_t value) { return cVariant(Value(value)); }
+    // A currency has four decimals and is kept as a count of ten-thousandths.
+    static cVariant Null() { return Holding(cNull{}); }
+    static cVariant Int16(std::int16_t value) { return Holding(value); }
+    static cVariant Int32(std::int32_t value) { return Holding(value); }
+    static cVariant Single(float value) { return Holding(value); }
+    static cVariant Double(double value) { return Holding(value); }
+    static cVariant Currency(std::int64_t tenThousandths) { return Holding(cCurrency{tenThousandths}); }
+    static cVariant Date(DateTime value) { return Holding(cDate{value}); }
+    static cVariant String(std::string value) { return Holding(std::move(value)); }
+    static cVariant Boolean(bool value) { return Holding(cFlag{value ? True16 : False16}); }
+    static cVariant Byte(std::uint8_t value) { return Holding(value); }
 
     eVariantType Type() const;
     // The number that the value is or reads as: an empty value is 0, true is -1, a text counts when the whole
@@ -67,6 +61,9 @@ class cVariant {
 
   private:
     struct cNull {};
+    struct cCurrency {
+        std::int64_t m_TenThousandths = 0;
+    };
     struct cDate {
         DateTime m_Value = 0;
     };
@@ -75,7 +72,12 @@ class cVariant {
     };
     using Value = std::variant<std::monostate, cNull, std::int16_t, std::int32_t, float, double, cCurrency,
                                cDate, std::string, cFlag, std::uint8_t>;
-    explicit cVariant(Value value) : m_Value(std::move(value)) {}
+    template <class T>
+    static cVariant Holding(T value) {
+        cVariant variant;
+        variant.m_Value.template emplace<T>(std::move(value));
+        return variant;
+    }
     void WriteValue(cBinaryWriter& file) const;
 
     Value m_Value;
