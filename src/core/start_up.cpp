@@ -1,0 +1,155 @@
+// The start-up: one strict order. Texts come before the first log line, settings before the stored alarms,
+// and the listening port opens last of all, when everything that an alarm needs is in place.
+
+#include "common/code_page.h"
+#include "common/failure.h"
+#include "common/file_procedures.h"
+#include "common/window_procedures.h"
+#include "core/Vigrel_Receiver_Main.h"
+#include "core/form_geometry.h"
+#include "core/read_settings.h"
+
+namespace vigrel {
+namespace {
+
+constexpr std::int32_t kApplication = 8;
+constexpr std::size_t kSeparatorLength = 120;
+
+}  // namespace
+
+bool cVigrelReceiverMain::HasSwitch(std::string_view name) const {
+    return m_CommandLine.find(name) != std::string::npos;
+}
+
+eStartUp cVigrelReceiverMain::Form_Load() {
+    m_Ports.random.Seed(m_Ports.clock.Now());
+    m_State.m_StartingUp = true;
+    PrepareFolders();
+    if (!LoadLanguage()) return eStartUp::NoLanguage;
+    m_Log.WriteLog(std::string(kSeparatorLength, '-'));
+    m_Log.WriteLog(m_Texts.GetText(10040));
+    const std::int16_t devices = m_Light.ScanDevices();
+    m_View.SetUpColumns(m_Settings);
+    m_Ports.list.SetEmptyText("(" + m_Texts.GetText(10035) + ")");
+    ReadCategories(devices);
+    SetCaptions();
+    if (!IsOnlyInstance()) return eStartUp::SecondInstance;
+    if (!ReachSuiteLibrary()) return eStartUp::NoSuiteLibrary;
+    SetTitle();
+    ReadSettings(m_Ini, m_Settings, [this] { SetListFont(); });
+    m_Sound.Prepare();
+    m_Sound.OpenSound(m_Categories.m_DefaultCategorySetting);
+    ApplyWindowSwitches();
+    m_Ports.menus.SetVisible("Menu_Simulate", HasSwitch("/SIMULATE"));
+    m_Tray.SetUp();
+    m_Senders.ReadSenders();
+    m_Log.CleanLogFiles(kLogMask, m_Settings.m_KeepForDays);
+    m_View.SetSortOrder();
+    m_Store.LoadAlarms([this](const AlarmPtr& alarm) { m_View.AddAlarmRow(alarm); });
+    m_Senders.LogSenders();
+    if (!OpenPort()) return eStartUp::PortTaken;
+    m_LastWindowState = m_Ports.mainWindow.State();
+    m_Log.WriteLog(m_Texts.GetText(10011));
+    m_Ports.runningApps.SetRunningApps(kApplication, -1);
+    m_State.m_StartingUp = false;
+    return eStartUp::Running;
+}
+
+void cVigrelReceiverMain::PrepareFolders() {
+    RemoveTemporaries(m_Ports.files, m_ApplicationPath);
+    CopyMissingFiles(m_Ports.files, m_ApplicationPath + "Templates\\", m_ApplicationPath, "*", "oni", "ini");
+    SkipFailure([&] { m_Ports.files.MakeFolder(m_ApplicationPath + "LogFiles"); });
+    SkipFailure([&] { m_Ports.files.MakeFolder(m_ApplicationPath + "Alarms"); });
+}
+
+bool cVigrelReceiverMain::LoadLanguage() {
+    if (m_Texts.LoadTexts()) return true;
+    m_Ports.otherWindows.ShowLanguageWindow();
+    return m_Texts.LoadTexts();
+}
+
+void cVigrelReceiverMain::ReadCategories(std::int16_t devices) {
+    m_Categories.ReadDefault(m_Ini);
+    m_Ports.menus.SetVisible("Menu_StopLight", false);
+    m_Ports.menus.SetEnabled("Menu_StopLight", false);
+    m_Categories.ReadCategories(m_Ports.files, m_Ini);
+    for (const cCategorySpecificSetting& setting : m_Categories.m_CategorySettings) {
+        if (setting.USBLED_Enabled && devices > 0) m_Ports.menus.SetVisible("Menu_StopLight", true);
+    }
+    const cCategorySpecificSetting& general = m_Categories.m_DefaultCategorySetting;
+    m_Ports.list.SetFontStyle(general.GetFontBold(0) != 0, general.GetFontItalic(0) != 0);
+}
+
+void cVigrelReceiverMain::SetCaptions() {
+    cMenus& menus = m_Ports.menus;
+    menus.SetCaption("Menu_File", m_Texts.GetText(10004));
+    menus.SetCaption("Menu_StopSound", m_Texts.GetText(10034));
+    menus.SetCaption("Menu_StopLight", m_Texts.GetText(10019));
+    menus.SetCaption("Menu_AckAll", m_Texts.GetText(10006));
+    menus.SetCaption("Menu_Exit", m_Texts.GetText(10007) + "\tAlt+F4");
+    menus.SetCaption("Menu_Simulate", m_Texts.GetText(10008));
+    menus.SetCaption("Menu_SimAlarm", m_Texts.GetText(10009));
+}
+
+bool cVigrelReceiverMain::IsOnlyInstance() {
+    if (!m_Ports.singleInstance.AnotherIsRunning()) return true;
+    m_Ports.messageBox.Show(m_Texts.GetText(10010), eMessageIcon::Warning, eMessageButtons::Ok);
+    return false;
+}
+
+bool cVigrelReceiverMain::ReachSuiteLibrary() {
+    // The answer doesn't matter; that there is one does.
+    if (SkipFailure([&] { m_Ports.runningApps.GetRunningApps(kApplication); })) return true;
+    m_Ports.messageBox.Show(m_Texts.GetText(208), eMessageIcon::Stop, eMessageButtons::Ok);
+    return false;
+}
+
+void cVigrelReceiverMain::SetTitle() {
+    m_Ports.mainWindow.SetCaption(m_Texts.GetText(10000) + " (" +
+                                  m_Ini.GetIniString("General", "Object", "none") + ") - Version " +
+                                  kVersion);
+}
+
+void cVigrelReceiverMain::SetListFont() {
+    m_Ports.list.SetFont(m_Settings.m_EventFontName, m_Settings.m_EventFontSize);
+}
+
+void cVigrelReceiverMain::ApplyWindowSwitches() {
+    if (HasSwitch("/TOPMOST")) SetTopMost(m_Ports.mainWindow, true);
+    if (HasSwitch("/DEBUG")) {
+        m_Ports.otherWindows.ShowDebugWindow();
+        m_State.m_DebugMode = true;
+    }
+    PlaceWindow();
+}
+
+void cVigrelReceiverMain::PlaceWindow() {
+    if (HasSwitch("/MAXIMIZE")) {
+        m_Ports.mainWindow.SetState(eWindowState::Maximised);
+        return;
+    }
+    RestoreFormGeometry(m_Ports.mainWindow, m_Ini, m_Ports.screen);
+    if (HasSwitch("/MINIMIZE") || m_Settings.m_ViewPopupForm) {
+        ShowAbout();
+        m_Ports.mainWindow.SetState(eWindowState::Minimised);
+    }
+}
+
+void cVigrelReceiverMain::ShowAbout() {
+    m_SplashShown = true;
+    m_Ports.otherWindows.ShowAboutBox();
+}
+
+bool cVigrelReceiverMain::OpenPort() {
+    const std::int32_t port = ReadPort(m_Ini);
+    if (!SkipFailure([&] { m_Link.Listen(port); })) {
+        m_Ports.messageBox.Show(
+            m_Texts.GetText(10015) + " (" + std::to_string(port) + ") " + m_Texts.GetText(10016),
+            eMessageIcon::Warning, eMessageButtons::Ok);
+        return false;
+    }
+    m_Log.WriteLog(m_Texts.GetText(10017) + " " + std::to_string(port) + " " + m_Texts.GetText(10018));
+    return true;
+}
+
+}  // namespace vigrel

@@ -1,0 +1,332 @@
+// The receiver while it runs: from a sender's bytes to the operator, its timers, its window and its end.
+
+#include <gtest/gtest.h>
+
+#include "link/frame.h"
+#include "support/fake_receiver.h"
+
+namespace vigrel {
+namespace {
+
+using testing::cFakeReceiver;
+
+const std::string kPositiveReply =
+    "\x04"
+    "04\n\r";
+
+class Running : public ::testing::Test, public cFakeReceiver {
+  protected:
+    std::string Send(const std::string& sender, const std::string& second) {
+        if (data.State() == 0) listener.Knock(1);
+        data.Arrive(MakeFrame(sender, second));
+        return data.TakeSent();
+    }
+    bool Did(const std::string& step) const { return transcript.Text().find(step) != std::string::npos; }
+};
+
+TEST_F(Running, AnAlarmIsOnDiskBeforeThePositiveReplyGoesOut) {
+    Start();
+    bool saved = false;
+    files.m_OnCall = [&](std::string_view operation, std::string_view path) {
+        if (operation == "sync" && path.find("Alarms") != std::string_view::npos) {
+            saved = true;
+            EXPECT_EQ(data.TakeSent(), "");
+        }
+    };
+    EXPECT_EQ(Send("PLC1", "S1||Fan 3 tripped||Technical"), kPositiveReply);
+    EXPECT_TRUE(saved);
+    files.Crash();
+    EXPECT_EQ(AlarmFiles().size(), 1u);
+}
+
+TEST_F(Running, AFullDiskKeepsTheStationReceivingAndItRecovers) {
+    Ini("Columns=StateIcon,t0\r\n");
+    Start();
+    files.m_DiskFull = true;
+    EXPECT_EQ(Send("PLC1", "S1||one"), kPositiveReply);
+    EXPECT_EQ(Send("PLC1", "S1||two"), kPositiveReply);
+    EXPECT_EQ(list.Rows().size(), 2u);
+    EXPECT_TRUE(AlarmFiles().empty());
+    timerKeepAlive.Tick();
+    EXPECT_TRUE(AlarmFiles().empty());
+    files.m_DiskFull = false;
+    timerKeepAlive.Tick();
+    EXPECT_EQ(AlarmFiles().size(), 2u);
+}
+
+TEST_F(Running, TheTraceGoesToTheDebugWindowInDebugMode) {
+    Start("/debug");
+    Send("PLC1", "S0");
+    EXPECT_EQ(otherWindows.m_Trace, "1:" + MakeFrame("PLC1", "S0") + ";2:" + kPositiveReply + ";");
+}
+
+TEST_F(Running, AnEventOpensAPopupPlaysAndPrints) {
+    Ini("ViewPopupForm=1\r\nEventPopupFormat=[T0]!\r\nEventSignal=3\r\n",
+        "[Printer]\r\nFormat=[SENDER] [T0]\r\n");
+    Start();
+    Send("PLC1", "S1||Fan");
+    EXPECT_EQ(popups.Open(), "1");
+    EXPECT_EQ(popups[1].m_LabelText, "Fan!");
+    EXPECT_EQ(receiver->State().m_SoundState, 3);
+    EXPECT_EQ(printerPorts.m_Lines, std::vector<std::string>{"0:PLC1 Fan\r\n"});
+    timerPlay.Tick();
+    EXPECT_TRUE(waveDevice.m_Playing);
+    popups[1].Close();
+    timerPlay.Tick();
+    EXPECT_FALSE(waveDevice.m_Playing);
+}
+
+TEST_F(Running, ADoubleClickAcknowledges) {
+    Ini("Columns=StateIcon,Observed\r\n");
+    Start();
+    Send("PLC1", "S1||Fan");
+    list.DoubleClick(list.Rows()[0]);
+    EXPECT_EQ(list.Screen(), "#0|#27|\n");
+    EXPECT_NE(Log().find("T10039 Active - Fan (///)\n"), std::string::npos);
+}
+
+TEST_F(Running, F9AcknowledgesAllAndEscapeDeselectsWhateverTheShiftState) {
+    Ini("Columns=StateIcon,Observed\r\n");
+    Start();
+    Send("PLC1", "S1||a");
+    Send("PLC1", "S1||b");
+    list.PressKey(120, 1);
+    EXPECT_EQ(list.Screen(), "#0|#27|\n#0|#27|\n");
+    list.SelectAllRows();
+    list.PressKey(27, 2);
+    EXPECT_TRUE(list.SelectedRows().empty());
+}
+
+TEST_F(Running, TheListForgetsItsSelectionWhenAttentionLeavesIt) {
+    Start();
+    Send("PLC1", "S1||a");
+    list.SelectAllRows();
+    list.LoseFocus();
+    EXPECT_TRUE(list.SelectedRows().empty());
+}
+
+TEST_F(Running, AcknowledgingAllWithPopupsClosesThem) {
+    Ini("ViewPopupForm=1\r\nEventSignalUntilNoMorePopupForms=1\r\nEventSignal=3\r\n");
+    Start();
+    Send("PLC1", "S1||a");
+    Send("PLC1", "S1||b");
+    receiver->Menu_AckAll();
+    EXPECT_EQ(receiver->State().m_SoundState, 3);
+    receiver->Menu_AckAll_AndClosePopups();
+    EXPECT_EQ(popups.Open(), "");
+    EXPECT_EQ(receiver->State().m_SoundState, 0);
+    EXPECT_EQ(receiver->State().m_PopupFormCount, 0);
+}
+
+TEST_F(Running, TheFileMenuEnablesWhatCanBeDone) {
+    Ini("ViewPopupForm=1\r\nEventSignal=2\r\n");
+    Start();
+    receiver->Menu_File();
+    EXPECT_FALSE(menus["Menu_StopSound"].enabled);
+    EXPECT_FALSE(menus["Menu_AckAll_AndClosePopups"].enabled);
+    Send("PLC1", "S1||a");
+    receiver->Menu_File();
+    EXPECT_TRUE(menus["Menu_StopSound"].enabled);
+    EXPECT_TRUE(menus["Menu_AckAll_AndClosePopups"].enabled);
+    receiver->Menu_StopSound();
+    receiver->Menu_File();
+    EXPECT_FALSE(menus["Menu_StopSound"].enabled);
+    EXPECT_NE(Log().find("T10044\n"), std::string::npos);
+}
+
+TEST_F(Running, ASilentSenderRaisesAnAlarmAndItsFrameTheReturn) {
+    Ini("Columns=StateIcon,t4\r\nSystemErrorCategory=System\r\nDateFormat=yyyy-mm-dd\r\nTimeFormat=hh:nn:"
+        "ss\r\n",
+        "[Senders]\r\nPLC1=1\r\n[CategorySpecificSetting_System]\r\nEventSignal=3\r\nEventSoundFile=lost."
+        "wav\r\n");
+    Start();
+    for (int i = 0; i < 7; ++i) {
+        clock.AddSeconds(10);
+        timerKeepAlive.Tick();
+    }
+    EXPECT_EQ(list.Screen(), "#0|PLC1 - T10032|\n");
+    EXPECT_EQ(receiver->State().m_SoundState, 3);
+    EXPECT_EQ(waveDevice.FileName(), "C:\\App\\lost.wav");
+    EXPECT_EQ(Send("plc1", "S0"), kPositiveReply);
+    EXPECT_EQ(list.Screen(), "#0|PLC1 - T10032|\n#0|PLC1 - T10032|\n");
+    EXPECT_EQ(AlarmFiles().size(), 2u);
+}
+
+TEST_F(Running, TheFirstTickOfARunDoesNoHousekeeping) {
+    Start();
+    files.Put("C:\\App\\LogFiles\\20260101.log", "old");
+    timerKeepAlive.Tick();
+    timerKeepAlive.Tick();
+    EXPECT_TRUE(files.FileExists("C:\\App\\LogFiles\\20260101.log"));
+}
+
+TEST_F(Running, AtTheChangeOfDateOldLogsAndAlarmsGo) {
+    Ini("MaxDays=30\r\nKeepForDays=20\r\n");
+    Start();
+    timerKeepAlive.Tick();
+    Send("PLC1", "S1||old");
+    clock.AddSeconds(29.0 * 86400);
+    Send("PLC1", "S1||young");
+    clock.AddSeconds(1.5 * 86400);  // 2026-04-15
+    timerKeepAlive.Tick();
+    EXPECT_EQ(AlarmFiles().size(), 1u);
+    EXPECT_EQ(list.RecordCount(), 1);
+    EXPECT_EQ(list.Rows().size(), 1u);
+    EXPECT_FALSE(files.FileExists("C:\\App\\LogFiles\\20260315.Log"));
+    EXPECT_NE(Log("20260415").find("1 T10036\n"), std::string::npos);
+    const std::string log = Log("20260415");
+    clock.AddSeconds(3600);
+    timerKeepAlive.Tick();
+    EXPECT_EQ(Log("20260415"), log);
+}
+
+TEST_F(Running, WithoutDayLimitTheChangeOfDateRemovesNoAlarm) {
+    Ini("MaxDays=0\r\n");
+    Start();
+    timerKeepAlive.Tick();
+    Send("PLC1", "S1||old");
+    clock.AddSeconds(400.0 * 86400);
+    timerKeepAlive.Tick();
+    EXPECT_EQ(AlarmFiles().size(), 1u);
+    EXPECT_FALSE(files.FileExists("C:\\App\\LogFiles\\20260315.Log"));
+}
+
+TEST_F(Running, InThePauseOfARepeatTheTrayPartOfTheTickIsLeftOut) {
+    Ini("ShowInTaskBar=0\r\nEventSignal=3\r\nEventSoundFileDelay=5000\r\n");
+    Start();
+    Send("PLC1", "S1||a");
+    timerPlay.Tick();
+    waveDevice.EndPlay();
+    transcript.Take();
+    timerPlay.Tick();
+    timerPlay.Tick();
+    EXPECT_EQ(transcript.Text(), "");
+}
+
+// --- closing
+
+TEST_F(Running, ClosingAsksAndNoKeepsTheStation) {
+    Start();
+    const std::string log = Log();
+    EXPECT_FALSE(mainWindow.CloseWith(eCloseReason::Control));
+    EXPECT_EQ(messageBox.m_Shown, std::vector<std::string>{"question, yes/no: T10022"});
+    EXPECT_EQ(Log(), log);
+    EXPECT_TRUE(mainWindow.m_Open);
+}
+
+TEST_F(Running, AYesEndsTheStationInItsOrder) {
+    Ini("ShowInTaskBar=0\r\nViewPopupForm=1\r\nEventPopupFormat=[T0]\r\n",
+        "[CategorySpecificSetting_Fire]\r\nUSBLED_DeviceName_Active=L\r\n");
+    light.m_Version = 1;
+    light.m_Devices = {{1, {"L"}}};
+    Start();
+    Send("PLC1", "S1||a");
+    Send("PLC1", "S1||b");
+    Send("PLC1", "S1||c");
+    mainWindow.m_Left = 1500;
+    transcript.Take();
+    messageBox.m_Answers = {eMessageAnswer::Yes};
+    EXPECT_TRUE(mainWindow.CloseWith(eCloseReason::Code));
+    std::string steps = transcript.Text();
+    const auto next = [&](const std::string& step) {
+        const std::size_t found = steps.find(step);
+        EXPECT_NE(found, std::string::npos) << step << "\n" << steps;
+        if (found != std::string::npos) steps = steps.substr(found + step.size());
+    };
+    next("message box (question, yes/no): T10022\n");
+    next("sound: notify off\nsound: wait on\nsound: Close\n");
+    next("tray: invisible\n");
+    next("application 8 is 0\n");
+    next("light: open L 0\nlight: control");
+    next("popup 1: closed\n");
+    next("popup 2: closed\n");
+    next("popup 3: closed\n");
+    EXPECT_EQ(popups.Open(), "");
+    EXPECT_EQ(receiver->Ini().GetIniString("General", "Vigrel_Receiver_Main.Left", ""), "1500");
+    EXPECT_NE(Log().find("T10021\nT10037"), std::string::npos) << Log();
+}
+
+TEST_F(Running, AForbiddenShutdownIsRefusedWithoutAQuestion) {
+    Ini("DisableShutdown=1\r\n");
+    Start();
+    const std::string log = Log();
+    for (const eCloseReason reason : {eCloseReason::Control, eCloseReason::Code, eCloseReason::TaskManager,
+                                      static_cast<eCloseReason>(5)}) {
+        EXPECT_FALSE(mainWindow.CloseWith(reason));
+    }
+    EXPECT_TRUE(messageBox.m_Shown.empty());
+    EXPECT_EQ(Log(), log);
+}
+
+TEST_F(Running, TheEndOfTheDesktopsSessionIsNeverQuestioned) {
+    Ini("DisableShutdown=1\r\n");
+    Start();
+    EXPECT_TRUE(mainWindow.CloseWith(eCloseReason::SessionEnd));
+    EXPECT_TRUE(messageBox.m_Shown.empty());
+    EXPECT_EQ(Log().substr(Log().size() - 7), "T10020\n");
+}
+
+// --- minimising
+
+TEST_F(Running, AMinimisedWindowHidesWhenItHasAnIconInstead) {
+    Ini("ShowInTaskBar=0\r\n");
+    Start();
+    mainWindow.SetState(eWindowState::Minimised);
+    EXPECT_FALSE(mainWindow.m_Visible);
+    trayArea.OnOpen();
+    EXPECT_TRUE(mainWindow.m_Visible);
+    EXPECT_EQ(mainWindow.m_State, eWindowState::Normal);
+}
+
+TEST_F(Running, WithoutATrayHostAMinimisedWindowStaysAndTheLogSaysSoOnce) {
+    Ini("ShowInTaskBar=0\r\n");
+    trayArea.m_HostAvailable = false;
+    Start();
+    const std::size_t before = Log().size();
+    mainWindow.SetState(eWindowState::Minimised);
+    mainWindow.SetState(eWindowState::Normal);
+    mainWindow.SetState(eWindowState::Minimised);
+    EXPECT_TRUE(mainWindow.m_Visible);
+    const std::string lines = Log().substr(before);
+    EXPECT_EQ(std::count(lines.begin(), lines.end(), '\n'), 1);
+}
+
+TEST_F(Running, InTheTaskBarAMinimisedWindowStaysThere) {
+    Start();
+    mainWindow.SetState(eWindowState::Minimised);
+    EXPECT_TRUE(mainWindow.m_Visible);
+    EXPECT_EQ(mainWindow.m_State, eWindowState::Minimised);
+    EXPECT_FALSE(trayArea.m_Visible);
+}
+
+TEST_F(Running, APreventedMinimiseJumpsBackToTheStateBefore) {
+    Ini("PreventMinimize=1\r\n");
+    Start();
+    mainWindow.SetState(eWindowState::Minimised);
+    EXPECT_EQ(mainWindow.m_State, eWindowState::Normal);
+    mainWindow.SetState(eWindowState::Maximised);
+    mainWindow.SetState(eWindowState::Minimised);
+    EXPECT_EQ(mainWindow.m_State, eWindowState::Maximised);
+}
+
+TEST_F(Running, APreventedMinimiseUndoesAMinimisedStart) {
+    Ini("PreventMinimize=1\r\n");
+    mainWindow.m_Visible = true;
+    EXPECT_EQ(Load("/MINIMIZE"), eStartUp::Running);
+    EXPECT_EQ(mainWindow.m_State, eWindowState::Normal);
+}
+
+TEST_F(Running, AHiddenWindowComesBackWithAnEventInItsFormerSize) {
+    Ini("ShowInTaskBar=0\r\n");
+    Start();
+    const double width = mainWindow.m_Width;
+    mainWindow.SetState(eWindowState::Minimised);
+    EXPECT_FALSE(mainWindow.m_Visible);
+    Send("PLC1", "S1||a");
+    EXPECT_TRUE(mainWindow.m_Visible);
+    EXPECT_EQ(mainWindow.m_State, eWindowState::Normal);
+    EXPECT_EQ(mainWindow.m_Width, width);
+}
+
+}  // namespace
+}  // namespace vigrel

@@ -1,0 +1,299 @@
+#include <gtest/gtest.h>
+
+#include "common/failure.h"
+#include "events/cVigrelRecieverAlarm.h"
+#include "support/fake_receiver.h"
+
+namespace vigrel {
+namespace {
+
+using testing::cFakeReceiver;
+
+class StartUp : public ::testing::Test, public cFakeReceiver {
+  protected:
+    const std::string dashes = std::string(120, '-') + "\n";
+    bool Did(const std::string& step) const { return transcript.Text().find(step) != std::string::npos; }
+};
+
+TEST_F(StartUp, TheLogTellsTheStepsInTheirOrder) {
+    Ini("", "[Senders]\r\nPLC1=5\r\nPLC2=0\r\n");
+    light.m_Version = 1.2;
+    light.m_Devices = {{1, {"Light A", "Light B"}}, {3, {"Light C"}}};
+    EXPECT_EQ(Load(), eStartUp::Running);
+    EXPECT_EQ(Log(), dashes +
+                         "T10040\nT10027 1.2\nT10047 (type 1): Light A\nT10047 (type 1): Light B\n"
+                         "T10047 (type 3): Light C\n0 T10041\nPLC1 - T10013 5 T10014\nPLC2 - T10012\n"
+                         "T10017 12412 T10018\nT10011\n");
+}
+
+TEST_F(StartUp, TheStepsRunInTheirOrder) {
+    Ini("ShowInTaskBar=0\r\nEventSoundFile=a.wav\r\nObject=Plant\r\n", "[TCPIP]\r\nPort=12500\r\n");
+    EXPECT_EQ(Load("/topmost /debug"), eStartUp::Running);
+    EXPECT_EQ(transcript.Text(),
+              "Vigrel_Receiver_Main: caption \"T10000 (Plant) - Version 3.00.04\"\n"
+              "sound: notify off\nsound: wait on\nsound: share off\nsound: Open\n"
+              "sound: type WaveAudio\nsound: Close\nsound: file C:\\App\\a.wav\nsound: Open\n"
+              "Vigrel_Receiver_Main: topmost\ndebug window\n"
+              "tray: icon -1\ntray: tooltip Vigrel Alarm Receiver\ntray: visible\n"
+              "listening on 12500\napplication 8 is -1\n");
+    EXPECT_FALSE(receiver->State().m_StartingUp);
+    EXPECT_TRUE(receiver->State().m_DebugMode);
+}
+
+TEST_F(StartUp, TheRandomGeneratorIsSeededFromTheClock) {
+    Load();
+    EXPECT_EQ(random.m_Seed, clock.Now());
+}
+
+TEST_F(StartUp, AFirstStartCopiesTheDefaultConfigurationAndALaterOneKeepsChanges) {
+    files.RemoveFile("C:\\App\\VigrelReceiver.INI");
+    files.Put("C:\\App\\Templates\\VigrelReceiver.oni", "[General]\r\nLanguage=046\r\nObject=Default\r\n");
+    EXPECT_EQ(Load(), eStartUp::Running);
+    EXPECT_EQ(receiver->Ini().GetIniString("General", "Object", ""), "Default");
+    receiver->Ini().PutIniString("General", "Object", "Mine");
+    EXPECT_EQ(Load(), eStartUp::Running);
+    EXPECT_EQ(mainWindow.m_Caption, "T10000 (Mine) - Version 3.00.04");
+}
+
+TEST_F(StartUp, TheFoldersAreMade) {
+    Load();
+    EXPECT_TRUE(files.HasFolder("C:\\App\\LogFiles"));
+    EXPECT_TRUE(files.HasFolder("C:\\App\\Alarms"));
+}
+
+TEST_F(StartUp, FoldersThatCannotBeMadeAreIgnored) {
+    files.m_FolderReadOnly = true;
+    EXPECT_EQ(Load(), eStartUp::Running);
+    EXPECT_EQ(Log(), "");
+}
+
+TEST_F(StartUp, WithoutALanguageTheWindowAsksAndTheChoiceTakesEffectAtOnce) {
+    files.Put("C:\\App\\VigrelReceiver.INI", "");
+    otherWindows.m_OnLanguageWindow = [this] { receiver->Ini().PutIniString("General", "Language", "046"); };
+    EXPECT_EQ(Load(), eStartUp::Running);
+    EXPECT_TRUE(Did("language window"));
+    EXPECT_EQ(Log().substr(0, 128), dashes + "T10040\n");
+}
+
+TEST_F(StartUp, WithoutALanguageInTheEndTheProgramEndsWithoutAWord) {
+    files.Put("C:\\App\\VigrelReceiver.INI", "");
+    EXPECT_EQ(Load(), eStartUp::NoLanguage);
+    EXPECT_EQ(transcript.Text(), "language window\n");
+    EXPECT_EQ(Log(), "");
+    EXPECT_FALSE(listener.m_Listening);
+}
+
+TEST_F(StartUp, ALanguageFileThatIsMissingAsksToo) {
+    Ini("");
+    files.RemoveFile("C:\\App\\Vigrel_Texts.046");
+    EXPECT_EQ(Load(), eStartUp::NoLanguage);
+    EXPECT_TRUE(Did("language window"));
+}
+
+TEST_F(StartUp, ASecondInstanceEndsAfterItsFirstLogLines) {
+    singleInstance.m_Another = true;
+    light.m_Version = 2;
+    EXPECT_EQ(Load(), eStartUp::SecondInstance);
+    EXPECT_EQ(messageBox.m_Shown, std::vector<std::string>{"warning, ok: T10010"});
+    EXPECT_EQ(Log(), dashes + "T10040\nT10027 2\nT10046\n");
+    EXPECT_FALSE(listener.m_Listening);
+    EXPECT_TRUE(runningApps.m_States.empty());
+}
+
+TEST_F(StartUp, ASuiteLibraryThatCannotBeReachedEndsTheStart) {
+    runningApps.m_Missing = true;
+    EXPECT_EQ(Load(), eStartUp::NoSuiteLibrary);
+    EXPECT_EQ(messageBox.m_Shown, std::vector<std::string>{"stop, ok: T208"});
+    EXPECT_EQ(Log(), dashes + "T10040\n");
+}
+
+TEST_F(StartUp, APortThatCannotBeOpenedIsNamedAndEndsTheStart) {
+    Ini("", "[Senders]\r\nPLC1=5\r\n");
+    listener.m_PortInUse = true;
+    EXPECT_EQ(Load(), eStartUp::PortTaken);
+    EXPECT_EQ(messageBox.m_Shown, std::vector<std::string>{"warning, ok: T10015 (12412) T10016"});
+    EXPECT_EQ(Log(), dashes + "T10040\n0 T10041\nPLC1 - T10013 5 T10014\n");
+    EXPECT_FALSE(runningApps.m_States.contains(8) && runningApps.m_States[8] == -1);
+}
+
+TEST_F(StartUp, WithoutALightLibraryNothingIsLogged) {
+    light.m_Missing = true;
+    EXPECT_EQ(Load(), eStartUp::Running);
+    EXPECT_EQ(receiver->State().m_DelcomDllVersion, 0);
+    EXPECT_EQ(Log(), dashes + "T10040\n0 T10041\nT10017 12412 T10018\nT10011\n");
+}
+
+TEST_F(StartUp, CaptionsComeFromTheTextTableButForTheFixedOne) {
+    Load();
+    EXPECT_EQ(menus["Menu_File"].caption, "T10004");
+    EXPECT_EQ(menus["Menu_StopSound"].caption, "T10034");
+    EXPECT_EQ(menus["Menu_StopLight"].caption, "T10019");
+    EXPECT_EQ(menus["Menu_AckAll"].caption, "T10006");
+    EXPECT_EQ(menus["Menu_Exit"].caption, "T10007\tAlt+F4");
+    EXPECT_EQ(menus["Menu_Simulate"].caption, "T10008");
+    EXPECT_EQ(menus["Menu_SimAlarm"].caption, "T10009");
+    EXPECT_EQ(menus["Menu_AckAll_AndClosePopups"].caption, "");
+    EXPECT_EQ(list.m_EmptyText, "(T10035)");
+}
+
+TEST_F(StartUp, TheListTakesItsFontFromSettingsAndTheDefaultCategory) {
+    Ini("EventFontName=DejaVu Sans\r\nEventFontSize=14\r\nFontBold_Inactive=1\r\n");
+    Load();
+    EXPECT_EQ(list.m_FontName, "DejaVu Sans");
+    EXPECT_EQ(list.m_FontPoints, 14);
+    EXPECT_TRUE(list.m_Style.bold);
+    EXPECT_FALSE(list.m_Style.italic);
+}
+
+TEST_F(StartUp, TheTitleNamesNoObjectAsNone) {
+    Load();
+    EXPECT_EQ(mainWindow.m_Caption, "T10000 (none) - Version 3.00.04");
+}
+
+TEST_F(StartUp, TheLightMenuIsOfferedForACategoryWithALightAndADevice) {
+    light.m_Version = 1;
+    light.m_Devices = {{1, {"L"}}};
+    Ini("", "[CategorySpecificSetting_Fire]\r\nUSBLED_DeviceName_Active=L\r\n");
+    Load();
+    EXPECT_TRUE(menus["Menu_StopLight"].visible);
+    EXPECT_FALSE(menus["Menu_StopLight"].enabled);
+}
+
+TEST_F(StartUp, TheLightMenuStaysHiddenWithoutADevice) {
+    light.m_Version = 1;
+    Ini("", "[CategorySpecificSetting_Fire]\r\nUSBLED_DeviceName_Active=L\r\n");
+    Load();
+    EXPECT_FALSE(menus["Menu_StopLight"].visible);
+}
+
+TEST_F(StartUp, TheDefaultSettingsAloneNeverOfferTheLightMenu) {
+    light.m_Version = 1;
+    light.m_Devices = {{1, {"L"}}};
+    Ini("USBLED_DeviceName_Active=L\r\n", "[CategorySpecificSetting_Fire]\r\n");
+    Load();
+    EXPECT_FALSE(menus["Menu_StopLight"].visible);
+}
+
+TEST_F(StartUp, ASwitchIsFoundAnywhereInAnyCase) {
+    EXPECT_EQ(Load("x/debuggery/ToPmOsT"), eStartUp::Running);
+    EXPECT_TRUE(Did("debug window"));
+    EXPECT_TRUE(mainWindow.m_TopMost);
+}
+
+TEST_F(StartUp, WithoutSwitchesTheWindowTakesItsStoredPlace) {
+    Ini("Vigrel_Receiver_Main.Left=1500\r\nVigrel_Receiver_Main.Top=600\r\nVigrel_Receiver_Main.Width="
+        "9000\r\n"
+        "Vigrel_Receiver_Main.Height=6000\r\n");
+    Load();
+    EXPECT_EQ(mainWindow.m_Left, 1500);
+    EXPECT_EQ(mainWindow.m_Top, 600);
+    EXPECT_EQ(mainWindow.m_Width, 9000);
+    EXPECT_EQ(mainWindow.m_Height, 6000);
+    EXPECT_EQ(mainWindow.m_State, eWindowState::Normal);
+    EXPECT_FALSE(mainWindow.m_TopMost);
+    EXPECT_FALSE(menus["Menu_Simulate"].visible);
+    EXPECT_FALSE(Did("about box"));
+}
+
+TEST_F(StartUp, MaximisedTheStoredPlaceIsNotApplied) {
+    Ini("Vigrel_Receiver_Main.Left=1500\r\n");
+    Load("/MAXIMIZE");
+    EXPECT_EQ(mainWindow.m_State, eWindowState::Maximised);
+    EXPECT_EQ(mainWindow.m_Left, 0);
+    EXPECT_FALSE(Did("about box"));
+}
+
+TEST_F(StartUp, MinimisedAndWithPopupsTheStoredPlaceIsAppliedFirst) {
+    for (const auto& [general, commandLine] : {std::pair{"", "/minimize"}, {"ViewPopupForm=1\r\n", ""}}) {
+        mainWindow.m_State = eWindowState::Normal;
+        mainWindow.m_Left = 0;
+        transcript.Take();
+        Ini(std::string("Vigrel_Receiver_Main.Left=1500\r\n") + general);
+        Load(commandLine);
+        EXPECT_EQ(mainWindow.m_Left, 1500) << commandLine;
+        EXPECT_EQ(mainWindow.m_State, eWindowState::Minimised) << commandLine;
+        EXPECT_TRUE(Did("about box\nVigrel_Receiver_Main: minimised")) << transcript.Text();
+    }
+}
+
+TEST_F(StartUp, MaximisedAndMinimisedTheFirstActivationMinimises) {
+    Load("/MAXIMIZE /MINIMIZE");
+    EXPECT_EQ(mainWindow.m_State, eWindowState::Maximised);
+    transcript.Take();
+    receiver->Form_Activate();
+    EXPECT_EQ(mainWindow.m_State, eWindowState::Minimised);
+    EXPECT_TRUE(Did("about box"));
+}
+
+TEST_F(StartUp, TheFirstActivationShowsTheAboutBoxAndTheNextUnloadsIt) {
+    Load();
+    transcript.Take();
+    receiver->Form_Activate();
+    EXPECT_EQ(transcript.Take(), "about box\n");
+    receiver->Form_Activate();
+    EXPECT_EQ(transcript.Take(), "about box unloaded\n");
+}
+
+TEST_F(StartUp, AfterAMinimisedStartTheFirstActivationUnloadsTheAboutBox) {
+    Load("/MINIMIZE");
+    transcript.Take();
+    receiver->Form_Activate();
+    EXPECT_EQ(transcript.Take(), "about box unloaded\n");
+}
+
+TEST_F(StartUp, TheSimulationMenuShowsWithItsSwitchOnly) {
+    Load("/simulate");
+    EXPECT_TRUE(menus["Menu_Simulate"].visible);
+}
+
+TEST_F(StartUp, InTheTaskBarNoIconShows) {
+    Load();
+    EXPECT_FALSE(trayArea.m_Visible);
+    EXPECT_FALSE(Did("tray:"));
+}
+
+TEST_F(StartUp, OldLogsGo) {
+    files.Put("C:\\App\\LogFiles\\20260210.log", "old");
+    files.Put("C:\\App\\LogFiles\\20260310.log", "young");
+    Ini("KeepForDays=30\r\n");
+    Load();
+    EXPECT_FALSE(files.FileExists("C:\\App\\LogFiles\\20260210.log"));
+    EXPECT_TRUE(files.FileExists("C:\\App\\LogFiles\\20260310.log"));
+}
+
+TEST_F(StartUp, StoredAlarmsAreListedAndNothingSignals) {
+    Ini("Columns=StateIcon,t0\r\nViewPopupForm=1\r\nEventSignal=3\r\n");
+    cVigrelRecieverAlarm alarm(clock);
+    alarm.m_Alarm.m_Status = StatusActive;
+    alarm.m_Alarm.SetCondition(0, "stored");
+    cBinaryWriter file;
+    alarm.WriteToDisk(file);
+    files.Put("C:\\App\\Alarms\\A0000001.alm", file.Bytes());
+    EXPECT_EQ(Load(), eStartUp::Running);
+    EXPECT_EQ(list.Screen(), "#0|stored|\n");
+    EXPECT_EQ(popups.Open(), "");
+    EXPECT_EQ(receiver->State().m_SoundState, 0);
+    EXPECT_TRUE(printerPorts.m_Lines.empty());
+}
+
+TEST_F(StartUp, NoColumnWidthIsStoredWhileTheColumnsAreBuilt) {
+    Ini("Columns=t0\r\n");
+    Load();
+    EXPECT_EQ(receiver->Ini().GetIniString("t0", "ColumnWidth", "none"), "none");
+    list.DragColumn(0, 222);
+    EXPECT_EQ(receiver->Ini().GetIniString("t0", "ColumnWidth", "none"), "222");
+}
+
+TEST_F(StartUp, ANumberOutOfRangeEndsTheStart) {
+    Ini("MaxEvents=99999999999\r\n");
+    EXPECT_THROW(Load(), cFailure);
+}
+
+TEST_F(StartUp, LeftoverTemporariesAreCleared) {
+    files.Put("C:\\App\\VigrelReceiver.INI.$~", "half");
+    Load();
+    EXPECT_FALSE(files.FileExists("C:\\App\\VigrelReceiver.INI.$~"));
+}
+
+}  // namespace
+}  // namespace vigrel

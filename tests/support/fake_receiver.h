@@ -1,0 +1,126 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+#include "common/text.h"
+#include "core/Vigrel_Receiver_Main.h"
+#include "support/fake_clock.h"
+#include "support/fake_devices.h"
+#include "support/fake_files.h"
+#include "support/fake_locale.h"
+#include "support/fake_popups.h"
+#include "support/fake_random.h"
+#include "support/fake_report_list.h"
+#include "support/fake_sockets.h"
+#include "support/fake_timer.h"
+#include "support/fake_windows.h"
+#include "support/transcript.h"
+
+namespace vigrel::testing {
+
+class cFakeOtherWindows : public cOtherWindows {
+  public:
+    explicit cFakeOtherWindows(cTranscript& transcript) : m_Transcript(transcript) {}
+    void ShowLanguageWindow() override {
+        m_Transcript.Add("language window");
+        if (m_OnLanguageWindow) m_OnLanguageWindow();
+    }
+    void ShowDebugWindow() override { m_Transcript.Add("debug window"); }
+    void WriteTrace(std::string_view text, std::int16_t kind) override {
+        m_Trace += std::to_string(kind) + ":" + std::string(text) + ";";
+    }
+    void ShowAboutBox() override { m_Transcript.Add("about box"); }
+    void UnloadAboutBox() override { m_Transcript.Add("about box unloaded"); }
+
+    std::function<void()> m_OnLanguageWindow;
+    std::string m_Trace;
+
+  private:
+    cTranscript& m_Transcript;
+};
+
+// A whole receiver over fakes. What a test changes before Load is found by the start.
+class cFakeReceiver {
+  public:
+    cFakeReceiver() {
+        files.PutFolder("C:\\App\\");
+        Texts("046");
+        Ini("");
+    }
+    // A text file "<id>=T<id>".
+    void Texts(const std::string& language) {
+        std::string content;
+        for (const auto& [first, last] : {std::pair{0, 1100}, {10000, 10050}}) {
+            for (int id = first; id < last; ++id)
+                content += std::to_string(id) + "=T" + std::to_string(id) + "\r\n";
+        }
+        files.Put("C:\\App\\Vigrel_Texts." + language, content);
+    }
+    // The configuration: lines of section General, then further sections.
+    void Ini(const std::string& general, const std::string& sections = "") {
+        files.Put("C:\\App\\VigrelReceiver.INI", "[General]\r\nLanguage=046\r\n" + general + sections);
+    }
+    cVigrelReceiverMain& Make(const std::string& commandLine = "") {
+        receiver.reset();
+        receiver = std::make_unique<cVigrelReceiverMain>(
+            cReceiverPorts{files,      clock,          random,    locale,      singleInstance, listener,
+                           data,       timerKeepAlive, timerPlay, list,        mainWindow,     menus,
+                           screen,     windows,        popups,    messageBox,  clipboard,      beeper,
+                           waveDevice, trayArea,       light,     runningApps, printerPorts,   otherWindows},
+            "C:\\App\\", commandLine);
+        mainWindow.OnResize = [this] { receiver->Form_Resize(); };
+        mainWindow.OnActivate = [this] { receiver->Form_Activate(); };
+        mainWindow.OnQueryUnload = [this](eCloseReason reason) { return receiver->Form_QueryUnload(reason); };
+        mainWindow.OnUnload = [this] { receiver->Form_Unload(); };
+        return *receiver;
+    }
+    eStartUp Load(const std::string& commandLine = "") { return Make(commandLine).Form_Load(); }
+    // Loaded and shown, as the program does it.
+    cVigrelReceiverMain& Start(const std::string& commandLine = "") {
+        EXPECT_EQ(Load(commandLine), eStartUp::Running);
+        mainWindow.Show();
+        transcript.Take();
+        return *receiver;
+    }
+    // The lines of a day's log without their time stamps.
+    std::string Log(const std::string& day = "20260315") const {
+        const std::string name = "C:\\App\\LogFiles\\" + day + ".Log";
+        std::string lines;
+        if (!files.FileExists(name)) return lines;
+        for (const std::string& line : SplitLines(files.ReadFile(name))) lines += line.substr(9) + "\n";
+        return lines;
+    }
+    std::vector<std::string> AlarmFiles() const { return files.ListFiles("C:\\App\\Alarms\\", "*"); }
+
+    cTranscript transcript;
+    cFakeFiles files;
+    cFakeClock clock;
+    cFakeRandom random;
+    cFakeLocale locale;
+    cFakeSingleInstance singleInstance;
+    cFakeListener listener{&transcript};
+    cFakeDataSocket data{listener};
+    cFakeTimer timerKeepAlive{10000};
+    cFakeTimer timerPlay{500};
+    cFakeReportList list;
+    cFakeWindowList windows;
+    cFakeWindow mainWindow{"Vigrel_Receiver_Main", &transcript, &windows};
+    cFakeMenus menus;
+    cFakeScreen screen;
+    cFakePopupMaker popups{transcript, windows};
+    cFakeMessageBox messageBox{&transcript};
+    cFakeClipboard clipboard;
+    cFakeBeeper beeper{&transcript};
+    cFakeWaveDevice waveDevice{&transcript};
+    cFakeNotificationArea trayArea{&transcript};
+    cFakeSignalLight light{&transcript};
+    cFakeRunningApps runningApps{&transcript};
+    cFakePrinterPorts printerPorts;
+    cFakeOtherWindows otherWindows{transcript};
+    std::unique_ptr<cVigrelReceiverMain> receiver;
+};
+
+}  // namespace vigrel::testing
