@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "adapters/qt/qt_text.h"
+#include "ui/fonts.h"
 
 namespace vigrel {
 
@@ -210,8 +211,7 @@ void cQtReportList::SortByClick(int column) {
 
 void cQtReportList::SetFont(std::string_view name, double points) {
     m_FontPoints = points;
-    QFont font(ToQString(name));
-    font.setPointSizeF(std::clamp(points, 1.0, 200.0));
+    const QFont font = FontOf(name, points);
     m_View->setFont(font);
     m_Header.setFont(font);
     m_Delegate.SetFont(font);

@@ -7,8 +7,8 @@
 
 #include "adapters/qt/cQtDataSocket.h"
 #include "adapters/qt/cQtListener.h"
-#include "support/qt_wait.h"
 #include "contract/socket_contract.h"
+#include "support/qt_wait.h"
 
 namespace vigrel::testing {
 namespace {

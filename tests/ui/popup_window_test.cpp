@@ -11,10 +11,10 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include "support/qt_wait.h"
 #include "common/code_page.h"
 #include "signals/popups.h"
 #include "support/popup_station.h"
+#include "support/qt_wait.h"
 
 namespace vigrel::testing {
 namespace {

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QApplication>
+#include <QTranslator>
+#include <functional>
+#include <string>
+
+class QMessageBox;
+
+namespace vigrel {
+
+// The toolkit's application, with what a station of ours asks of it.
+//
+// A failure that no handler takes ends the program: a line on standard error, a message box that names it
+// and closes by itself after a while, so that an unattended station starts again, and exit code 70.
+class cApplication : public QApplication {
+    Q_OBJECT
+  public:
+    static constexpr int kFailureExitCode = 70;
+    static constexpr int kFailureBoxMilliseconds = 60000;
+
+    // To be called before the application is made. In a Wayland session X11 is preferred where there is any,
+    // since windows there can be placed, stacked and raised. Without any display the program runs unseen.
+    static void ChoosePlatform();
+
+    cApplication(int& argc, char** argv);
+
+    // Runs a step outside the event loop under the same rule.
+    void Guard(const std::function<void()>& step);
+    bool notify(QObject* receiver, QEvent* event) override;
+
+    // How long the message box of a failure stands.
+    void SetFailureBoxTime(int milliseconds) { m_FailureBoxMilliseconds = milliseconds; }
+
+    // The desktop's session is about to end, or may be. Windows are closed later, unless the end is called
+    // off.
+    std::function<void()> OnSessionEnds;
+
+  private:
+    [[noreturn]] void End(const std::string& failure);
+    void ShowFailure(const std::string& failure);
+    bool ServesFailureBox(QObject* receiver, const QEvent& event) const;
+
+    QTranslator m_Translator;
+    int m_FailureBoxMilliseconds = kFailureBoxMilliseconds;
+    bool m_Failed = false;
+    QMessageBox* m_FailureBox = nullptr;
+};
+
+}  // namespace vigrel
