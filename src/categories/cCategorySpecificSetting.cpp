@@ -39,20 +39,6 @@ bool IsFullPath(std::string_view path) {
 
 }  // namespace
 
-Colour ColorFromText(std::string_view text) {
-    Colour colour = 0xFFFFFF;
-    SkipFailure([&] {
-        Colour mixed = 0;
-        for (std::int16_t i = 0; i < 3; ++i) {
-            const std::int16_t part = ToInt16(Val(GetField(text, i, ",")));
-            if (part < 0) throw cFailure(eFailure::InvalidCall, "a colour is negative");
-            mixed |= std::min<Colour>(part, 255) << (8 * i);
-        }
-        colour = mixed;
-    });
-    return colour;
-}
-
 const cCategorySpecificSetting::cState& cCategorySpecificSetting::At(int status) const {
     if (status < 0 || status > 3) {
         throw cFailure(eFailure::OutOfBounds, "status " + std::to_string(status) + " is not one of 0 to 3");

@@ -6,17 +6,11 @@
 #include <string_view>
 #include <vector>
 
+#include "categories/colours.h"
 #include "common/binary.h"
 #include "common/ini.h"
 
 namespace vigrel {
-
-// A colour: red in the low byte, then green, then blue.
-using Colour = std::int32_t;
-
-// Three decimal numbers, red, green and blue, separated by ",". A missing one is 0, one above 255 is 255; a
-// negative one, or one above 32,767, makes the whole white.
-Colour ColorFromText(std::string_view text);
 
 // The suffixes of the keys that are set for each state, by status.
 inline constexpr std::array<std::string_view, 4> kStateSuffixes{"Inactive", "Active", "Acked", "Message"};
