@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QKeyEvent>
 #include <QScreen>
+#include <QScrollBar>
 #include <algorithm>
 #include <utility>
 
@@ -67,6 +68,10 @@ cPopupWidget::cPopupWidget(cOpenWindows& windows, cPopupStack& stack, const Popu
     m_Label.setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     m_Label.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_Label.document()->setDocumentMargin(0);
+    // The colours of an alarm are not for its scroll bar, which must stay recognisable.
+    QPalette ordinary = QApplication::palette();
+    ordinary.setResolveMask(~QPalette::ResolveMask{0});
+    m_Label.verticalScrollBar()->setPalette(ordinary);
     m_Label.setGeometry(ToPixels(720), 0, ToPixels(6015), ToPixels(1170));
     // The text, not the picture: a key pressed by chance must not close an alarm that nobody has read.
     m_Label.setFocus();

@@ -98,6 +98,8 @@ TEST_F(cPopupWidgetTest, TakesItsColours) {
     EXPECT_EQ(PixelAt(popup, {2, 2}), QColor(255, 0, 0));
     EXPECT_EQ(PixelAt(popup, {300, 60}), QColor(0, 255, 0));
     EXPECT_EQ(PixelAt(popup, {7, 15}), QColor(0, 0, 255));
+    EXPECT_EQ(Label(popup).verticalScrollBar()->palette().color(QPalette::Window),
+              QApplication::palette().color(QPalette::Window));
     popup.SetForeColour(0x010203);
     popup.SetLabelForeColour(0x010203);
     EXPECT_EQ(popup.palette().color(QPalette::WindowText), QColor(3, 2, 1));
