@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <string>
 #include <vector>
@@ -13,6 +11,7 @@
 #include "common/text.h"
 #include "events/cVigrelRecieverAlarm.h"
 #include "link/frame.h"
+#include "resources_text/doc_pages.h"
 #include "resources_text/known_keys.h"
 #include "resources_text/text_ids.h"
 #include "support/fake_clock.h"
@@ -20,11 +19,7 @@
 namespace vigrel {
 namespace {
 
-std::vector<std::string> ReadPage(const std::string& name) {
-    std::ifstream file(std::string(VIGREL_DOCS_DIR) + "/" + name, std::ios::binary);
-    if (!file) throw std::runtime_error("docs/" + name + " is missing");
-    return SplitLines(std::string(std::istreambuf_iterator<char>(file), {}));
-}
+using vigrel::testing::ReadPage;
 
 // The bytes of the block that begins with ```hex NAME; what stands behind "|" is explanation.
 std::string HexBlock(const std::string& page, const std::string& name) {
