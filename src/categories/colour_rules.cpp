@@ -1,0 +1,163 @@
+#include "categories/colour_rules.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "common/failure.h"
+#include "common/file_procedures.h"
+#include "common/numbers.h"
+#include "common/text.h"
+
+namespace vigrel {
+namespace {
+
+constexpr std::int32_t kLastCategory = 255, kLastArea = 999, kLastPart = 255;
+constexpr int kFields = 6;
+
+[[noreturn]] void Refuse(const std::string& description) {
+    throw cFailure(eFailure::InvalidCall, description);
+}
+
+std::vector<std::string> Split(std::string_view text, char separator) {
+    std::vector<std::string> parts;
+    while (true) {
+        const std::size_t end = text.find(separator);
+        parts.push_back(Trim(text.substr(0, end)));
+        if (end == std::string_view::npos) return parts;
+        text.remove_prefix(end + 1);
+    }
+}
+
+// A whole number written in digits alone.
+std::int32_t NumberFromText(const std::string& text, std::int32_t last, const std::string& what) {
+    const bool digits = !text.empty() && text.find_first_not_of("0123456789") == std::string::npos;
+    if (!digits || text.size() > 6 || Val(text) > last) {
+        Refuse(what + ": \"" + text + "\" is not a number from 0 to " + std::to_string(last));
+    }
+    return ToInt32(Val(text));
+}
+
+void CheckItem(const std::string& item, std::int32_t last, const std::string& what) {
+    if (item == "*") return;
+    const std::size_t dash = item.find('-');
+    const std::int32_t from = NumberFromText(Trim(item.substr(0, dash)), last, what);
+    if (dash == std::string::npos) return;
+    if (NumberFromText(Trim(item.substr(dash + 1)), last, what) < from) {
+        Refuse(what + ": the range \"" + item + "\" ends before it begins");
+    }
+}
+
+// The filter as the setters of cUserColor take it: every item, also a single one, with a ";" behind it.
+std::string CheckedFilter(const std::string& filter, std::int32_t last, const std::string& what) {
+    std::string checked;
+    for (const std::string& item : Split(filter, ';')) {
+        // A ";" at the end ends the last item.
+        if (item.empty() && !checked.empty() && filter.ends_with(';')) continue;
+        CheckItem(item, last, what);
+        checked += item + ";";
+    }
+    return checked;
+}
+
+void CheckColour(const std::string& colour, const std::string& what) {
+    const std::vector<std::string> parts = Split(colour, ',');
+    if (parts.size() != 3) Refuse(what + ": \"" + colour + "\" is not red,green,blue");
+    for (const std::string& part : parts) NumberFromText(part, kLastPart, what);
+}
+
+cColourRule RuleFromLine(std::string_view line) {
+    const std::vector<std::string> fields = Split(line, '|');
+    if (fields.size() != kFields) {
+        Refuse(
+            "a rule has six fields (tag | categories | areas | text colour | background | fade), this line "
+            "has " +
+            std::to_string(fields.size()));
+    }
+    cColourRule rule;
+    rule.m_TagFilter = fields[0];
+    rule.m_CategoryFilter = fields[1];
+    rule.m_AreaFilter = fields[2];
+    rule.m_ForeColor = fields[3];
+    rule.m_BackColor = fields[4];
+    rule.m_ZebraFade = NumberFromText(fields[5], kLastPart, "fade");
+    MakeUserColor(rule);
+    return rule;
+}
+
+std::string LineFromRule(const cColourRule& rule) {
+    return rule.m_TagFilter + " | " + rule.m_CategoryFilter + " | " + rule.m_AreaFilter + " | " +
+           rule.m_ForeColor + " | " + rule.m_BackColor + " | " + std::to_string(rule.m_ZebraFade);
+}
+
+bool IsComment(std::string_view line) {
+    const std::size_t first = line.find_first_not_of(" \t");
+    return first == std::string_view::npos || line[first] == '#';
+}
+
+}  // namespace
+
+cUserColor MakeUserColor(const cColourRule& rule) {
+    if (rule.m_TagFilter.empty()) Refuse("tag: it is empty; \"*\" stands for every tag");
+    if (rule.m_TagFilter.find_first_of("|\r\n") != std::string::npos) Refuse("tag: it must not hold \"|\"");
+    if (rule.m_TagFilter[0] == '#') Refuse("tag: it must not begin with \"#\"; write \"?\" for it");
+    CheckColour(rule.m_ForeColor, "text colour");
+    CheckColour(rule.m_BackColor, "background");
+    if (rule.m_ZebraFade < 0 || rule.m_ZebraFade > kLastPart)
+        Refuse("fade: it is not a number from 0 to 255");
+    cUserColor color;
+    color.SetTagFilter(rule.m_TagFilter);
+    color.SetCategoryFilter(CheckedFilter(rule.m_CategoryFilter, kLastCategory, "categories"));
+    color.SetAreaFilter(CheckedFilter(rule.m_AreaFilter, kLastArea, "areas"));
+    color.m_AreaFilter = rule.m_AreaFilter;
+    color.SetForeColor(rule.m_ForeColor);
+    color.SetBackColor(rule.m_BackColor, rule.m_ZebraFade);
+    return color;
+}
+
+std::vector<cLineProblem> cColourRules::Load(const cFileReader& files, std::string_view path) {
+    *this = {};
+    if (files.Stamp(path).size < 0) return {};
+    std::string content;
+    if (const auto failure = CatchFailure([&] { content = files.ReadFile(path); })) {
+        return {{0, failure->what()}};
+    }
+    std::vector<cLineProblem> problems;
+    std::size_t number = 0;
+    for (const std::string& line : SplitLines(content)) {
+        ++number;
+        cColourRule rule;
+        const auto failure = CatchFailure([&] {
+            if (!IsComment(line)) rule = RuleFromLine(line);
+        });
+        if (failure) problems.push_back({number, failure->what()});
+        if (failure || IsComment(line)) {
+            m_LinesAfter.push_back(line);
+            continue;
+        }
+        rule.m_LinesBefore = std::move(m_LinesAfter);
+        m_LinesAfter.clear();
+        m_Rules.push_back(std::move(rule));
+    }
+    return problems;
+}
+
+void cColourRules::Save(cFiles& files, std::string_view path) const {
+    std::string content;
+    const auto add = [&](const std::string& line) { content += line + "\r\n"; };
+    for (const cColourRule& rule : m_Rules) {
+        MakeUserColor(rule);
+        std::for_each(rule.m_LinesBefore.begin(), rule.m_LinesBefore.end(), add);
+        add(LineFromRule(rule));
+    }
+    std::for_each(m_LinesAfter.begin(), m_LinesAfter.end(), add);
+    ReplaceFile(files, path, content);
+}
+
+void cColourRules::Remove(std::size_t index) {
+    std::vector<std::string> lines = std::move(m_Rules.at(index).m_LinesBefore);
+    m_Rules.erase(m_Rules.begin() + static_cast<std::ptrdiff_t>(index));
+    std::vector<std::string>& next = index < m_Rules.size() ? m_Rules[index].m_LinesBefore : m_LinesAfter;
+    next.insert(next.begin(), std::make_move_iterator(lines.begin()), std::make_move_iterator(lines.end()));
+}
+
+}  // namespace vigrel

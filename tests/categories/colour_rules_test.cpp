@@ -1,0 +1,155 @@
+#include "categories/colour_rules.h"
+
+#include <gtest/gtest.h>
+
+#include "common/failure.h"
+#include "support/fake_files.h"
+
+namespace vigrel {
+namespace {
+
+const char* const kPath = "C:\\App\\ColourRules.txt";
+
+class ColourRules : public ::testing::Test {
+  protected:
+    std::vector<cLineProblem> Load(const std::string& content) {
+        m_Files.Put(kPath, content);
+        return m_Rules.Load(m_Files, kPath);
+    }
+    static cColourRule Rule() {
+        cColourRule rule;
+        rule.m_TagFilter = "P*";
+        rule.m_CategoryFilter = "5;7-9";
+        rule.m_AreaFilter = "*";
+        rule.m_ForeColor = "255,255,255";
+        rule.m_BackColor = "10,20,30";
+        rule.m_ZebraFade = 15;
+        return rule;
+    }
+    static std::string Refusal(const cColourRule& rule) {
+        const auto failure = CatchFailure([&] { MakeUserColor(rule); });
+        return failure ? failure->what() : "";
+    }
+
+    testing::cFakeFiles m_Files;
+    cColourRules m_Rules;
+};
+
+TEST_F(ColourRules, ALineIsARule) {
+    EXPECT_TRUE(Load("P* | 5;7-9 | * | 255,255,255 | 10,20,30 | 15\r\n").empty());
+    EXPECT_EQ(m_Rules.m_Rules, std::vector<cColourRule>{Rule()});
+}
+
+TEST_F(ColourRules, ARuleAtWorkHasFiltersColoursAndTheTextOfItsAreas) {
+    const cUserColor color = MakeUserColor(Rule());
+    EXPECT_TRUE(color.IsMatching("Pump", 5, 0));
+    EXPECT_TRUE(color.IsMatching("Pump", 8, 999));
+    EXPECT_FALSE(color.IsMatching("Pump", 6, 0));
+    EXPECT_FALSE(color.IsMatching("Fan", 5, 0));
+    EXPECT_EQ(color.m_AreaFilter, "*");
+    EXPECT_EQ(color.m_ForeColor, 0xFFFFFF);
+    EXPECT_EQ(color.m_BackColor, 10 + 20 * 256 + 30 * 65536);
+    EXPECT_EQ(color.m_BackColorFade, 5 * 256 + 15 * 65536);
+    EXPECT_EQ(color.m_BackColorFlash, 0);
+}
+
+TEST_F(ColourRules, ASingleItemNeedsNoSeparator) {
+    cColourRule rule = Rule();
+    rule.m_CategoryFilter = "5";
+    rule.m_AreaFilter = "3;";
+    EXPECT_TRUE(MakeUserColor(rule).IsMatching("Pump", 5, 3));
+    EXPECT_FALSE(MakeUserColor(rule).IsMatching("Pump", 5, 4));
+}
+
+TEST_F(ColourRules, AWrongLineIsNamedAndSkipped) {
+    const auto problems = Load(
+        "# rules\n"
+        "\n"
+        "P* | 5 | * | 255,255,255 | 10,20,30\n"
+        " | 5 | * | 255,255,255 | 10,20,30 | 0\n"
+        "P | 300 | * | 255,255,255 | 10,20,30 | 0\n"
+        "P | 5 | 9-3 | 255,255,255 | 10,20,30 | 0\n"
+        "P | 5;;6 | * | 255,255,255 | 10,20,30 | 0\n"
+        "P | 5 | * | 255,256,255 | 10,20,30 | 0\n"
+        "P | 5 | * | 255,255,255 | red | 0\n"
+        "P | 5 | * | 255,255,255 | 10,20,30 | -1\n"
+        "P | 5 | * | 255,255,255 | 10,20,30 | 0\n");
+    EXPECT_EQ(problems,
+              (std::vector<cLineProblem>{
+                  {3,
+                   "a rule has six fields (tag | categories | areas | text colour | background | fade), this "
+                   "line has 5"},
+                  {4, "tag: it is empty; \"*\" stands for every tag"},
+                  {5, "categories: \"300\" is not a number from 0 to 255"},
+                  {6, "areas: the range \"9-3\" ends before it begins"},
+                  {7, "categories: \"\" is not a number from 0 to 255"},
+                  {8, "text colour: \"256\" is not a number from 0 to 255"},
+                  {9, "background: \"red\" is not red,green,blue"},
+                  {10, "fade: \"-1\" is not a number from 0 to 255"}}));
+    ASSERT_EQ(m_Rules.m_Rules.size(), 1u);
+    EXPECT_EQ(m_Rules.m_Rules[0].m_TagFilter, "P");
+}
+
+TEST_F(ColourRules, FieldsThatCantBeWrittenAreRefused) {
+    cColourRule rule = Rule();
+    rule.m_TagFilter = "a|b";
+    EXPECT_EQ(Refusal(rule), "tag: it must not hold \"|\"");
+    rule.m_TagFilter = "#1";
+    EXPECT_EQ(Refusal(rule), "tag: it must not begin with \"#\"; write \"?\" for it");
+    rule = Rule();
+    rule.m_ZebraFade = 256;
+    EXPECT_EQ(Refusal(rule), "fade: it is not a number from 0 to 255");
+    rule = Rule();
+    rule.m_AreaFilter = "";
+    EXPECT_EQ(Refusal(rule), "areas: \"\" is not a number from 0 to 999");
+    m_Rules.m_Rules = {rule};
+    m_Files.Put(kPath, "old");
+    EXPECT_THROW(m_Rules.Save(m_Files, kPath), cFailure);
+    EXPECT_EQ(m_Files.ReadFile(kPath), "old");
+}
+
+TEST_F(ColourRules, AMissingFileIsAnEmptyListAndAnUnreadableOneSaysSo) {
+    EXPECT_TRUE(m_Rules.Load(m_Files, kPath).empty());
+    EXPECT_TRUE(m_Rules.m_Rules.empty());
+    m_Files.Put(kPath, "x");
+    m_Files.SetUnreadable(kPath, true);
+    const auto problems = m_Rules.Load(m_Files, kPath);
+    ASSERT_EQ(problems.size(), 1u);
+    EXPECT_EQ(problems[0].line, 0u);
+}
+
+TEST_F(ColourRules, SavingKeepsCommentsAndLinesThatWereNotUnderstood) {
+    const std::string content =
+        "# rules\r\n\r\nA | 1 | 1 | 0,0,0 | 1,1,1 | 0\r\nnonsense\r\nB | 2 | 2 | 0,0,0 | 1,1,1 | 0\r\n# "
+        "end\r\n";
+    EXPECT_EQ(Load(content).size(), 1u);
+    m_Rules.Save(m_Files, kPath);
+    EXPECT_EQ(m_Files.ReadFile(kPath), content);
+}
+
+TEST_F(ColourRules, ARemovedRuleLeavesTheLinesInFrontOfIt) {
+    Load("# a\r\nA | 1 | 1 | 0,0,0 | 1,1,1 | 0\r\n# b\r\nB | 2 | 2 | 0,0,0 | 1,1,1 | 0\r\n# end\r\n");
+    m_Rules.Remove(0);
+    m_Rules.Save(m_Files, kPath);
+    EXPECT_EQ(m_Files.ReadFile(kPath), "# a\r\n# b\r\nB | 2 | 2 | 0,0,0 | 1,1,1 | 0\r\n# end\r\n");
+    m_Rules.Remove(0);
+    m_Rules.Save(m_Files, kPath);
+    EXPECT_EQ(m_Files.ReadFile(kPath), "# a\r\n# b\r\n# end\r\n");
+}
+
+TEST_F(ColourRules, AFailedSaveLeavesTheOldFile) {
+    Load("A | 1 | 1 | 0,0,0 | 1,1,1 | 0\r\n");
+    const std::string old = m_Files.ReadFile(kPath);
+    m_Rules.m_Rules[0].m_TagFilter = "B";
+    for (int call = 0; call < 3; ++call) {
+        m_Files.m_Calls = 0;
+        m_Files.m_FailCall = call;
+        EXPECT_THROW(m_Rules.Save(m_Files, kPath), cFailure) << call;
+        m_Files.m_FailCall = -1;
+        m_Files.Crash();
+        EXPECT_EQ(m_Files.ReadFile(kPath), old) << call;
+    }
+}
+
+}  // namespace
+}  // namespace vigrel
