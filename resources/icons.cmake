@@ -10,3 +10,6 @@ target_link_libraries(vigrel_resource_object PRIVATE Qt6::Core)
 add_library(vigrel_resources INTERFACE)
 target_link_libraries(vigrel_resources INTERFACE
   $<TARGET_OBJECTS:vigrel_resource_object> Qt6::Core Qt6::Gui Qt6::Svg)
+
+# Desktops look for a program's icon by name in the icon theme.
+install(FILES icons/vigrel-receiver.svg icons/vigrel-definitions.svg DESTINATION share/icons/hicolor/scalable/apps)
