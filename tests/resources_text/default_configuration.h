@@ -19,7 +19,6 @@
 namespace vigrel::testing {
 
 inline constexpr std::string_view kCategoryPrefix = "CategorySpecificSetting_";
-inline constexpr int kIconsOfStrip = 48;
 inline const std::string kPath = "C:\\App\\VigrelReceiver.INI";
 
 // A line "key=value", or ";key=value", with the section above it.

@@ -39,7 +39,7 @@ bool Parses(const std::string& value, eValueKind kind) {
         case eValueKind::Colour:
             return AreNumbers(value, 3, 255);
         case eValueKind::Icons:
-            return AreNumbers(value, 2, kIconsOfStrip - 1);
+            return AreNumbers(value, 2, 99);
         case eValueKind::Text:
             return true;
     }

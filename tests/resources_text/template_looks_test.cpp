@@ -1,6 +1,7 @@
 // What the delivered configuration makes of a station: columns, colours, icons, sounds, popups.
 
 #include <cmath>
+#include <fstream>
 #include <set>
 
 #include "common/numbers.h"
@@ -104,12 +105,26 @@ TEST_F(DefaultConfiguration, EveryCategoryHasAnIconOfItsOwnWhenActive) {
     EXPECT_EQ(icons.size(), AllSettings().size());
 }
 
-TEST_F(DefaultConfiguration, SignalsNameASoundOfTheApplicationFolder) {
-    const std::set<std::string> sounds{"C:\\App\\Sounds\\alarm.wav", "C:\\App\\Sounds\\warning.wav",
-                                       "C:\\App\\Sounds\\notice.wav"};
+TEST_F(DefaultConfiguration, EveryIconIsAPictureOfTheStrip) {
+    for (const auto* setting : AllSettings()) {
+        for (int status = 0; status < 4; ++status) {
+            for (const bool observed : {false, true}) {
+                const int icon = setting->GetIcon(status, observed);
+                const std::string picture =
+                    std::string(VIGREL_RESOURCES_DIR) + "/icons/strip/" + Digits(icon, 2) + ".svg";
+                EXPECT_TRUE(std::ifstream(picture).good()) << setting->m_Category << ": " << icon;
+            }
+        }
+    }
+}
+
+TEST_F(DefaultConfiguration, EverySoundIsDelivered) {
+    const std::string folder = "C:\\App\\Sounds\\";
     for (const auto* setting : AllSettings()) {
         EXPECT_TRUE(setting->m_EventSignal == 2 || setting->m_EventSignal == 3) << setting->m_Category;
-        EXPECT_TRUE(sounds.contains(setting->m_EventSoundFile)) << setting->m_EventSoundFile;
+        ASSERT_TRUE(setting->m_EventSoundFile.starts_with(folder)) << setting->m_EventSoundFile;
+        const std::string name = setting->m_EventSoundFile.substr(folder.size());
+        EXPECT_TRUE(ReadShareFile("Sounds/" + name).starts_with("RIFF")) << name;
     }
 }
 
