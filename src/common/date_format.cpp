@@ -79,9 +79,8 @@ int cDateFormatter::Hour(bool twelveHours) const {
 }
 
 int cDateFormatter::Week() const {
-    // Days from the Sunday on or before 1 January to this day.
-    const int firstWeekday = ((m_Parts.weekday - m_Parts.dayOfYear) % 7 + 7) % 7;
-    return (firstWeekday + m_Parts.dayOfYear - 1) / 7 + 1;
+    const DateTime day = DateSerial(m_Parts.year, m_Parts.month, m_Parts.day);
+    return WeekOfYear(day, 1, eFirstWeek::FirstOfJanuary);
 }
 
 std::string cDateFormatter::OwnHalfOfDay(std::string_view spelling) const {

@@ -77,4 +77,25 @@ DateTime DateOf(DateTime value) {
     return std::trunc(value);
 }
 
+int WeekOfYear(DateTime value, int firstDayOfWeek, eFirstWeek firstWeekOfYear) {
+    const auto beginOfWeek = [firstDayOfWeek](DateTime day) {
+        return day - (SplitDateTime(day).weekday - firstDayOfWeek + 7) % 7;
+    };
+    // The first week holds this day of January, whatever weekday that is.
+    const int dayInWeekOne = firstWeekOfYear == eFirstWeek::FirstFourDays   ? 4
+                             : firstWeekOfYear == eFirstWeek::FirstFullWeek ? 7
+                                                                            : 1;
+    const auto weekOne = [&](int year) { return beginOfWeek(DateSerial(year, 1, dayInWeekOne)); };
+    const DateTime week = beginOfWeek(DateOf(value));
+    int year = SplitDateTime(DateOf(value)).year;
+    if (firstWeekOfYear != eFirstWeek::FirstOfJanuary) {
+        if (week < weekOne(year)) {
+            --year;
+        } else if (week >= weekOne(year + 1)) {
+            ++year;
+        }
+    }
+    return static_cast<int>(week - weekOne(year)) / 7 + 1;
+}
+
 }  // namespace vigrel

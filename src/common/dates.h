@@ -30,6 +30,11 @@ DateTime TimeSerial(int hour, int minute, int second);
 // The whole day of a date-time.
 DateTime DateOf(DateTime value);
 
+// The number of the week that a date lies in. Days of the week count 1 Sunday to 7 Saturday. The last days of
+// a year can belong to week 1 of the next, and the first ones to the last week of the year before, unless the
+// first week is that of 1 January.
+int WeekOfYear(DateTime value, int firstDayOfWeek, eFirstWeek firstWeekOfYear);
+
 // The text of a date-time. The pattern is a named form ("General Date", "Long Date", "Medium Date", "Short
 // Date", "Long Time", "Medium Time", "Short Time", in any case) or a sequence of: d dd ddd dddd ddddd dddddd,
 // w ww, m mm mmm mmmm, q, y yy yyyy, h hh, n nn, s ss, ttttt, AM/PM am/pm A/P a/p AMPM, c, "/" and ":" (the

@@ -5,6 +5,10 @@
 
 namespace vigrel {
 
+// Which week of a year is its first: that of 1 January, the first with at least four days in the year, or the
+// first that lies in the year as a whole.
+enum class eFirstWeek { FirstOfJanuary, FirstFourDays, FirstFullWeek };
+
 // How the desktop's user writes dates and times. Patterns are those of FormatDateTime (common/dates.h); all
 // text is in the code page. Filled once at start.
 struct cLocaleForms {
@@ -25,6 +29,8 @@ struct cLocaleForms {
                                            "September", "October",  "November", "December"};
     std::array<std::string, 12> shortMonthNames{"Jan", "Feb", "Mar", "Apr", "May", "Jun",
                                                 "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+    int firstDayOfWeek = 2;  // 1 Sunday to 7 Saturday
+    eFirstWeek firstWeekOfYear = eFirstWeek::FirstFourDays;
 };
 
 class cLocale {

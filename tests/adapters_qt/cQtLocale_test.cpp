@@ -81,6 +81,17 @@ TEST(cQtLocale, NoLocaleOfTheMachineGivesAFormThatTheCodePageLacks) {
     }
 }
 
+TEST(cQtLocale, WeeksBeginAsTheCountryCountsThem) {
+    const cLocaleForms swedish = FormsOf(QLocale::Swedish, QLocale::Sweden);
+    EXPECT_EQ(swedish.firstDayOfWeek, 2);
+    EXPECT_EQ(swedish.firstWeekOfYear, eFirstWeek::FirstFourDays);
+    const cLocaleForms american = FormsOf(QLocale::English, QLocale::UnitedStates);
+    EXPECT_EQ(american.firstDayOfWeek, 1);
+    EXPECT_EQ(american.firstWeekOfYear, eFirstWeek::FirstOfJanuary);
+    const cLocaleForms arabic = FormsOf(QLocale::Arabic, QLocale::Egypt);
+    EXPECT_EQ(arabic.firstDayOfWeek, 7);
+}
+
 TEST(cQtLocale, NamesOfLanguageAndCountry) {
     const cQtLocale swedish(QLocale(QLocale::Swedish, QLocale::Sweden));
     EXPECT_EQ(swedish.EnglishLanguageName(), "Swedish");

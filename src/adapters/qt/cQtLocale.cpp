@@ -91,6 +91,29 @@ void TakeAllNames(cLocaleForms& forms, const QLocale& locale) {
     TakeNames(forms.shortMonthNames, [&](int i) { return locale.monthName(i + 1, QLocale::ShortFormat); });
 }
 
+// The countries whose first week has at least four days in the year; in the others it is that of 1 January.
+// The toolkit knows the first day of the week but not this rule.
+bool WeekOneHasFourDays(QLocale::Territory territory) {
+    // clang-format off
+    static constexpr QLocale::Territory kTerritories[] = {
+        QLocale::AlandIslands, QLocale::Andorra, QLocale::Austria, QLocale::Belgium, QLocale::Bulgaria,
+        QLocale::Czechia, QLocale::Denmark, QLocale::Estonia, QLocale::FaroeIslands, QLocale::Finland,
+        QLocale::France, QLocale::Germany, QLocale::Gibraltar, QLocale::Greece, QLocale::Guernsey,
+        QLocale::Hungary, QLocale::Iceland, QLocale::Ireland, QLocale::IsleOfMan, QLocale::Italy,
+        QLocale::Jersey, QLocale::Liechtenstein, QLocale::Lithuania, QLocale::Luxembourg, QLocale::Monaco,
+        QLocale::Netherlands, QLocale::Norway, QLocale::Poland, QLocale::Portugal, QLocale::Russia,
+        QLocale::SanMarino, QLocale::Slovakia, QLocale::Spain, QLocale::SvalbardAndJanMayen, QLocale::Sweden,
+        QLocale::Switzerland, QLocale::UnitedKingdom, QLocale::VaticanCity};
+    // clang-format on
+    return std::find(std::begin(kTerritories), std::end(kTerritories), territory) != std::end(kTerritories);
+}
+
+void TakeWeekRules(cLocaleForms& forms, const QLocale& locale) {
+    forms.firstDayOfWeek = locale.firstDayOfWeek() % 7 + 1;
+    forms.firstWeekOfYear =
+        WeekOneHasFourDays(locale.territory()) ? eFirstWeek::FirstFourDays : eFirstWeek::FirstOfJanuary;
+}
+
 // Takes what the code page can show, and leaves the text as it was otherwise.
 void TakeShown(std::string& text, const std::string& own) {
     if (!own.empty() && own.find('?') == std::string::npos) text = own;
@@ -126,6 +149,7 @@ cLocaleForms cQtLocale::Forms() const {
     TakeShown(forms.am, FromQString(m_Locale.amText()));
     TakeShown(forms.pm, FromQString(m_Locale.pmText()));
     TakeAllNames(forms, m_Locale);
+    TakeWeekRules(forms, m_Locale);
     return forms;
 }
 
