@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdio>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -115,6 +116,28 @@ class cFakeScheduleContainer : public cFakeDayTypes<cTimeScheduleContainer> {
 
   private:
     void Note(const std::string& what, double value) { m_Transcript.Add(what + Numbers({value})); }
+};
+
+// The list of day types holds "none", Monday to Sunday and "type 1" to "type 16".
+class cFakeCalendarContainer : public cFakeDayTypes<cCalendarContainer> {
+  public:
+    using cFakeDayTypes::cFakeDayTypes;
+    std::optional<std::string> Get_Combo_Calendar_DayType_SelectedItem() const override {
+        if (m_Selected == 0) return std::nullopt;
+        return Get_Combo_Calendar_DayType_ComboItems(m_Selected);
+    }
+    std::int16_t Get_Combo_Calendar_DayType_SelectedItem_Index() const override { return m_Selected; }
+    std::string Get_Combo_Calendar_DayType_ComboItems(std::int16_t number) const override {
+        if (number < 1 || number > 24) throw cFailure(eFailure::OutOfBounds, "no such entry");
+        if (number == 1) return "none";
+        const auto day = static_cast<std::size_t>(number) - 2;
+        return day < 7 ? m_DayNames.m_LongNames[day] : "type " + std::to_string(number - 8);
+    }
+    void Set_Text_Calendar_Month(std::string_view text) override {
+        m_Transcript.Add("month " + std::string(text));
+    }
+
+    std::int16_t m_Selected = 0;  // number of the entry, 0 for none
 };
 
 }  // namespace vigrel::testing
