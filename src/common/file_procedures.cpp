@@ -28,7 +28,7 @@ bool FileExists(const cFileReader& files, std::string_view path) {
     return !parts.name.empty() && parts.name[0] != '.' && files.FileExists(path);
 }
 
-cLineReader::cLineReader(std::string content) : m_Lines(SplitLines(content)) {}
+cLineReader::cLineReader(std::string_view content) : m_Lines(SplitLines(content)) {}
 
 bool cLineReader::AtEnd() const {
     if (!m_Open) throw cFailure(eFailure::InvalidCall, "the file is not open");

@@ -18,7 +18,7 @@ bool FileExists(const cFileReader& files, std::string_view path);
 // closed reader, throws cFailure.
 class cLineReader {
   public:
-    explicit cLineReader(std::string content);
+    explicit cLineReader(std::string_view content);
     bool AtEnd() const;  // throws cFailure when the reader is closed
     std::string ReadLine();
     void Close() { m_Open = false; }

@@ -21,7 +21,7 @@ std::string ApplyRange(std::string value, const std::string& range) {
     SkipFailure([&] { from = ToInt16(Val(GetField(range, 0, "-"))); });
     SkipFailure([&] { to = ToInt16(Val(GetField(range, 1, "-"))); });
     to = std::max(from, to);
-    return Mid(value, static_cast<std::size_t>(from) + 1, static_cast<std::size_t>(to - from + 1));
+    return Mid(value, static_cast<std::size_t>(from) + 1, static_cast<std::size_t>(to - from) + 1);
 }
 
 std::string ApplyWidth(std::string value, const std::string& width) {
