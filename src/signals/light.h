@@ -2,7 +2,7 @@
 
 #include <cstdint>
 #include <functional>
-#include <string>
+#include <string_view>
 
 #include "categories/cCategorySpecificSetting.h"
 #include "common/log.h"
@@ -14,8 +14,10 @@
 
 namespace vigrel {
 
-// The USB signal lights: each event programs the devices that its category names for its status, and the
-// light goes on by itself. No device stays open longer than a step.
+// The USB signal lights. An event programs the lights that its category names for its status, and they go on
+// by themselves; there is no notion of a light that is on. No handle outlives a call.
+//
+// A light that fails is passed over: no failure leaves this class, and none is logged.
 class cLight {
   public:
     struct cServices {
@@ -28,20 +30,25 @@ class cLight {
     };
     explicit cLight(const cServices& services) : m_Services(services) {}
 
-    // Looks for the library and its devices, logs them and sets m_DelcomDllVersion. The number of devices.
+    // At start: notes the library's version, 0 when it is absent, and logs the devices that are there. How
+    // many they are.
     std::int16_t ScanDevices();
+    // Programs the lights and enables the menu entry when one could be opened.
     void SignalUsbLight(const cVigrelRecieverAlarm& alarm);
-    // Switches off every light that a category names.
+    // Switches off all lights that a category names, and disables its own menu entry. Lights that only the
+    // default settings name are not reached.
     void Menu_StopLight();
 
   private:
-    void ScanType(std::int32_t type, std::int16_t& devices);
-    // closed is called for each device that was open, behind its closing.
-    void ForEachDevice(const std::string& names, const std::function<void(std::int32_t handle)>& steps,
-                       const std::function<void()>& closed);
-    void Program(std::int32_t handle, const cCategorySpecificSetting& setting, int status);
-    void ProgramLed(std::int32_t handle, std::int16_t led, const cCategorySpecificSetting& setting,
-                    int status);
+    void LogNames(std::int32_t type);
+    std::string DeviceName(std::int32_t type, std::int32_t index);
+    // Opens the devices of a comma-separated list one by one, up to an empty name, and calls with each
+    // handle.
+    void ForEachDevice(const cCategorySpecificSetting& setting, int status,
+                       const std::function<void(std::int32_t handle)>& visit);
+    void Programme(std::int32_t handle, const cCategorySpecificSetting& setting, int status);
+    void ProgrammeLed(std::int32_t handle, std::uint8_t led, const cCategorySpecificSetting& setting,
+                      int status);
 
     cServices m_Services;
 };

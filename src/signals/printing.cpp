@@ -7,7 +7,7 @@ namespace {
 
 constexpr std::size_t kLineLength = 80;
 
-char ConvertToPrinterChar(char character) {
+char ToPrinterChar(char character) {
     switch (character) {
         case '\xC4':
             return '\x8E';  // Ä
@@ -30,20 +30,20 @@ char ConvertToPrinterChar(char character) {
 
 std::string ConvertToPrinterChars(std::string_view text) {
     std::string converted(text);
-    for (char& character : converted) character = ConvertToPrinterChar(character);
+    for (char& character : converted) character = ToPrinterChar(character);
     return converted;
 }
 
 bool cPrinting::PrintEventText(std::string_view text) {
     if (m_Settings.m_PrinterPort == 0) return true;
-    std::string rest = m_Settings.m_PrinterISOLatConv ? ConvertToPrinterChars(text) : std::string(text);
-    bool printed = true;
-    for (std::size_t from = 0; from < rest.size(); from += kLineLength) {
-        // A failed line is not sent again, and the last one decides: what is on paper is what counts by then.
-        printed = m_Ports.SendPRN(rest.substr(from, kLineLength) + "\r\n",
-                                  ToInt16(m_Settings.m_PrinterPort - 1)) != 0;
+    const std::string printed =
+        m_Settings.m_PrinterISOLatConv ? ConvertToPrinterChars(text) : std::string(text);
+    bool result = true;
+    for (std::size_t at = 0; at < printed.size(); at += kLineLength) {
+        const std::int16_t port = ToInt16(m_Settings.m_PrinterPort - 1);
+        result = m_Ports.SendPRN(printed.substr(at, kLineLength) + "\r\n", port) != 0;
     }
-    return printed;
+    return result;
 }
 
 }  // namespace vigrel

@@ -1,136 +1,127 @@
 #include "signals/sound.h"
 
+#include <cstdint>
+
 #include "common/failure.h"
 
 namespace vigrel {
 namespace {
 
-enum eSoundState : std::int16_t {
-    Silent = 0,
-    PlayWanted = 1,
-    Playing = 2,
-    RepeatPause = 3,
-    RepeatPlaying = 4
-};
+// Values of m_SoundState.
+constexpr std::int16_t kSilent = 0, kPlayOnce = 1, kPlayingOnce = 2, kRepeatPause = 3, kRepeatPlaying = 4;
+// Values of m_EventSignal; any other is no signal.
+constexpr std::int16_t kSignalBeep = 1, kSignalOnce = 2, kSignalRepeated = 3;
 
-constexpr std::int16_t kSignalBeep = 1;
-constexpr std::int16_t kSignalOnce = 2;
-constexpr std::int16_t kSignalRepeat = 3;
+bool IsRepeating(std::int16_t state) {
+    return state == kRepeatPause || state == kRepeatPlaying;
+}
+
+// A single play that is running is left out: only the device's word ends it.
+bool WantsPlay(std::int16_t state) {
+    return state == kPlayOnce || IsRepeating(state);
+}
 
 }  // namespace
 
 cSound::cSound(const cServices& services) : m_Services(services) {
-    m_Services.device.OnDone = [this] { PlayDone(); };
+    m_Services.device.OnDone = [this] { PlayHasEnded(); };
+}
+
+void cSound::Command(std::string_view command) {
+    SkipFailure([&] { m_Services.device.Command(command); });
 }
 
 void cSound::Prepare() {
-    cWaveDevice& device = m_Services.device;
-    SkipFailure([&] { device.SetNotify(false); });
-    SkipFailure([&] { device.SetWait(true); });
-    SkipFailure([&] { device.SetShareable(false); });
-    SkipFailure([&] { device.Command("Open"); });
+    SkipFailure([&] { m_Services.device.SetNotify(false); });
+    SkipFailure([&] { m_Services.device.SetWait(true); });
+    SkipFailure([&] { m_Services.device.SetShareable(false); });
+    Command("Open");
 }
 
 void cSound::OpenSound(const cCategorySpecificSetting& setting) {
-    cWaveDevice& device = m_Services.device;
     const std::string& file = setting.m_EventSoundFile;
-    if (file.empty() || file == device.FileName()) return;
-    SkipFailure([&] { device.SetDeviceType("WaveAudio"); });
-    SkipFailure([&] { device.Command("Close"); });
-    SkipFailure([&] { device.SetFileName(file); });
-    SkipFailure([&] { device.Command("Open"); });
+    if (file.empty() || file == m_Services.device.FileName()) return;
+    SkipFailure([&] { m_Services.device.SetDeviceType("WaveAudio"); });
+    Command("Close");
+    SkipFailure([&] { m_Services.device.SetFileName(file); });
+    Command("Open");
 }
 
 void cSound::StartSignal(const cCategorySpecificSetting& setting) {
-    cReceiverState& state = m_Services.state;
     OpenSound(setting);
-    switch (setting.m_EventSignal) {
-        case kSignalBeep:
-            m_Services.beeper.Beep();
-            break;
-        case kSignalOnce:
-            // A single play never cuts a repeat.
-            if (state.m_SoundState != RepeatPause && state.m_SoundState != RepeatPlaying) {
-                state.m_SoundState = PlayWanted;
-            }
-            break;
-        case kSignalRepeat:
-            state.m_SoundState = RepeatPause;
-            // The pause counts as over, so that the first play starts at the next tick.
-            state.m_SoundDelayCounter = m_Services.settings.m_EventSoundFileDelay;
-            break;
-        default:
-            break;
+    cReceiverState& state = m_Services.state;
+    if (setting.m_EventSignal == kSignalBeep) {
+        SkipFailure([&] { m_Services.beeper.Beep(); });
+    } else if (setting.m_EventSignal == kSignalOnce) {
+        if (!IsRepeating(state.m_SoundState)) state.m_SoundState = kPlayOnce;
+    } else if (setting.m_EventSignal == kSignalRepeated) {
+        state.m_SoundState = kRepeatPause;
+        // The pause counts as over, so that the first play starts at the next tick.
+        state.m_SoundDelayCounter = m_Services.settings.m_EventSoundFileDelay;
     }
 }
 
 bool cSound::TickSound() {
-    cReceiverState& state = m_Services.state;
-    if (state.m_SoundState == Silent && m_SoundBusy) StopPlay();
-    const bool wanted = state.m_SoundState == PlayWanted || state.m_SoundState == RepeatPause ||
-                        state.m_SoundState == RepeatPlaying;
-    if (!wanted) return true;
-    if (!m_SoundBusy) {
-        if (state.m_SoundState != PlayWanted) {
-            state.m_SoundDelayCounter += m_Services.timerPlay.Interval();
-            if (state.m_SoundDelayCounter < m_Services.settings.m_EventSoundFileDelay) return false;
-            state.m_SoundDelayCounter = 0;
-        }
+    StopSilenced();
+    if (WantsPlay(m_Services.state.m_SoundState) && !m_SoundBusy) {
+        if (PauseRuns()) return false;
         StartPlay();
     }
-    // For a completion that never comes. A single play that runs is not looked at: only its completion ends
-    // it.
-    const bool looked = state.m_SoundState == PlayWanted || state.m_SoundState == RepeatPause ||
-                        state.m_SoundState == RepeatPlaying;
-    if (looked && m_SoundBusy && m_Services.device.Mode() != cWaveDevice::Playing) m_SoundBusy = false;
+    // For a completion event that never comes.
+    if (WantsPlay(m_Services.state.m_SoundState) && m_SoundBusy) {
+        SkipFailure([&] { m_SoundBusy = m_Services.device.Mode() == cWaveDevice::Playing; });
+    }
     return true;
 }
 
-// The timer rests while the device is told, so that no tick comes in between.
-void cSound::StopPlay() {
+void cSound::StopSilenced() {
+    if (m_Services.state.m_SoundState != kSilent || !m_SoundBusy) return;
     m_Services.timerPlay.SetEnabled(false);
-    SkipFailure([&] { m_Services.device.Command("Stop"); });
+    Command("Stop");
     m_SoundBusy = false;
     m_Services.timerPlay.SetEnabled(true);
 }
 
-void cSound::StartPlay() {
+// Counts the pause of repeat mode. The sum is formed in 64 bits: a delay near the end of the 32-bit range
+// must not overflow.
+bool cSound::PauseRuns() {
     cReceiverState& state = m_Services.state;
-    cWaveDevice& device = m_Services.device;
-    m_SoundBusy = true;
-    m_Services.timerPlay.SetEnabled(false);
-    SkipFailure([&] { device.Command("Prev"); });
-    SkipFailure([&] { device.SetNotify(true); });
-    SkipFailure([&] { device.SetWait(false); });
-    SkipFailure([&] { device.Command("Play"); });
-    m_Services.timerPlay.SetEnabled(true);
-    if (state.m_SoundState == PlayWanted) {
-        state.m_SoundState = Playing;
-    } else if (state.m_SoundState == RepeatPause) {
-        state.m_SoundState = RepeatPlaying;
-    }
+    if (!IsRepeating(state.m_SoundState)) return false;
+    const std::int64_t waited = std::int64_t{state.m_SoundDelayCounter} + m_Services.timerPlay.Interval();
+    const bool runs = waited < m_Services.settings.m_EventSoundFileDelay;
+    state.m_SoundDelayCounter = runs ? static_cast<std::int32_t>(waited) : 0;
+    return runs;
 }
 
-void cSound::PlayDone() {
-    cReceiverState& state = m_Services.state;
-    if (state.m_SoundState == Playing) {
-        state.m_SoundState = Silent;
-    } else if (state.m_SoundState == RepeatPlaying) {
-        state.m_SoundState = RepeatPause;
-    }
+void cSound::StartPlay() {
+    m_SoundBusy = true;
+    m_Services.timerPlay.SetEnabled(false);
+    Command("Prev");
+    SkipFailure([&] { m_Services.device.SetNotify(true); });
+    SkipFailure([&] { m_Services.device.SetWait(false); });
+    Command("Play");
+    m_Services.timerPlay.SetEnabled(true);
+    std::int16_t& state = m_Services.state.m_SoundState;
+    if (state == kPlayOnce) state = kPlayingOnce;
+    if (state == kRepeatPause) state = kRepeatPlaying;
+}
+
+void cSound::PlayHasEnded() {
+    std::int16_t& state = m_Services.state.m_SoundState;
+    if (state == kPlayingOnce) state = kSilent;
+    if (state == kRepeatPlaying) state = kRepeatPause;
     m_SoundBusy = false;
 }
 
 void cSound::Menu_StopSound() {
-    m_Services.state.m_SoundState = Silent;
+    m_Services.state.m_SoundState = kSilent;
     m_Services.log.WriteLog(m_Services.texts.GetText(10044));
 }
 
 void cSound::Shutdown() {
-    cWaveDevice& device = m_Services.device;
-    SkipFailure([&] { device.SetNotify(false); });
-    SkipFailure([&] { device.SetWait(true); });
-    SkipFailure([&] { device.Command("Close"); });
+    SkipFailure([&] { m_Services.device.SetNotify(false); });
+    SkipFailure([&] { m_Services.device.SetWait(true); });
+    Command("Close");
 }
 
 }  // namespace vigrel

@@ -1,17 +1,26 @@
 #include "signals/tray.h"
 
-#include <algorithm>
 #include <limits>
-#include <string>
+#include <string_view>
+
+#include "common/failure.h"
 
 namespace vigrel {
 namespace {
 
-constexpr const char* kTitle = "Vigrel Alarm Receiver";
-constexpr const char* kNotice = "Alarm receiver of the Vigrel suite";
-constexpr std::int16_t kFlashIcon = 1;
-constexpr std::int16_t kRestIcon = 2;
-constexpr std::int32_t kTipDelay = 1000;  // milliseconds
+constexpr std::string_view kProduct = "Vigrel Alarm Receiver";
+// The notice of the product, under its name.
+constexpr std::string_view kNotice = "Alarm receiver of the Vigrel suite";
+// Kept in every language, so that operators find it wherever they work.
+constexpr std::string_view kNewAlarms = "Nya larm: ";
+// The tooltip of the start stays for as long, in milliseconds of ticks.
+constexpr std::int32_t kTipDelay = 1000;
+
+std::string ToolTipText(std::int16_t notObserved) {
+    std::string text(kProduct);
+    text.append("\r\n").append(kNotice).append("\r\n").append(kNewAlarms);
+    return text + std::to_string(notObserved);
+}
 
 }  // namespace
 
@@ -24,15 +33,16 @@ cTray::cTray(const cServices& services) : m_Services(services) {
 void cTray::SetUp() {
     if (m_Services.settings.m_ShowInTaskBar) return;
     m_Services.trayArea.SetIcon(cNotificationArea::WindowIcon);
-    m_Services.trayArea.SetToolTip(kTitle);
+    m_Services.trayArea.SetToolTip(kProduct);
     m_Services.trayArea.SetVisible(true);
 }
 
 void cTray::TickTray() {
     if (m_Services.state.m_ListChanged) Recount();
-    const std::int16_t icon = m_NotObservedCount > 0 && m_FlashPhase ? kFlashIcon : kRestIcon;
+    const std::int16_t icon = NextIcon();
     m_FlashPhase = !m_FlashPhase;
-    // Past its mark the counter says all that it ever will; left growing it would overflow after 24.8 days.
+    // Only whether the delay is over matters. The counter rests there: one that grew with every tick would
+    // overflow after 24.8 days, and stations run for months.
     if (m_TipDelayCounter <= kTipDelay) m_TipDelayCounter += m_Services.timerPlay.Interval();
     if (m_TipDelayCounter > kTipDelay) UpdateToolTip();
     if (icon == m_TrayIconIndex) return;
@@ -40,20 +50,26 @@ void cTray::TickTray() {
     m_TrayIconIndex = icon;
 }
 
+// The count rests at 32,767: a station without a limit of events can hold more, and to the operator who reads
+// the tooltip that number says all; ending the program there would lose the alarms' signals.
 void cTray::Recount() {
-    const auto count = std::count_if(m_Services.alarms.begin(), m_Services.alarms.end(),
-                                     [](const AlarmPtr& alarm) { return alarm->m_Observed == False16; });
-    // A flood beyond 16 bits must not stop the station; the operator reads "very many" either way.
-    m_NotObservedCount =
-        static_cast<std::int16_t>(std::min<std::ptrdiff_t>(count, std::numeric_limits<std::int16_t>::max()));
+    m_NotObservedCount = 0;
+    for (const AlarmPtr& alarm : m_Services.alarms) {
+        if (alarm->m_Observed == False16 && m_NotObservedCount < std::numeric_limits<std::int16_t>::max()) {
+            ++m_NotObservedCount;
+        }
+    }
     m_Services.list.Redraw();
     m_Services.state.m_ListChanged = false;
 }
 
+std::int16_t cTray::NextIcon() const {
+    return m_NotObservedCount > 0 && m_FlashPhase ? kFlashIcon : kRestingIcon;
+}
+
 void cTray::UpdateToolTip() {
-    const std::string tip =
-        std::string(kTitle) + "\r\n" + kNotice + "\r\nNya larm: " + std::to_string(m_NotObservedCount);
-    if (tip != m_Services.trayArea.ToolTip()) m_Services.trayArea.SetToolTip(tip);
+    const std::string text = ToolTipText(m_NotObservedCount);
+    if (text != m_Services.trayArea.ToolTip()) m_Services.trayArea.SetToolTip(text);
 }
 
 void cTray::Click() {
@@ -63,7 +79,8 @@ void cTray::Click() {
 void cTray::Open() {
     m_Services.mainWindow.SetState(eWindowState::Normal);
     m_Services.mainWindow.Show();
-    m_Services.mainWindow.SetFocus();
+    // Some desktops bring a window back only after a while, and one that isn't back yet takes no focus.
+    SkipFailure([&] { m_Services.mainWindow.SetFocus(); });
 }
 
 }  // namespace vigrel

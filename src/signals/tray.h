@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <string>
 
 #include "common/receiver_state.h"
 #include "common/settings.h"
@@ -13,10 +14,13 @@
 
 namespace vigrel {
 
-// The notification icon: it flashes while there are alarms that nobody has observed, and its tooltip counts
-// them.
+// The notification icon: it flashes as long as there are alarms that nobody has looked at, and its tooltip
+// counts them. The flashing follows from the alarms alone, not from the sound.
 class cTray {
   public:
+    // Numbers of the images.
+    static constexpr std::int16_t kFlashIcon = 1, kRestingIcon = 2;
+
     struct cServices {
         cNotificationArea& trayArea;
         cTimer& timerPlay;
@@ -26,24 +30,26 @@ class cTray {
         cReceiverState& state;
         const cSettings& settings;
     };
+    // Listens to the icon's three notices from now on.
     explicit cTray(const cServices& services);
 
-    // Shows the icon unless the program stands in the task bar.
+    // At start: shows the icon, unless the program stands in the task bar.
     void SetUp();
-    // The tray part of a tick of Timer_Play.
+    // The tray part of a tick, behind the sound part.
     void TickTray();
 
   private:
     void Recount();
+    std::int16_t NextIcon() const;
     void UpdateToolTip();
     void Click();
     void Open();
 
     cServices m_Services;
-    bool m_FlashPhase = false;            // flips on every tick
-    std::int32_t m_TipDelayCounter = 0;   // milliseconds of ticks; stops growing when it has done its work
-    std::int16_t m_TrayIconIndex = 0;     // icon last set
-    std::int16_t m_NotObservedCount = 0;  // stops at 32,767
+    bool m_FlashPhase = false;
+    std::int32_t m_TipDelayCounter = 0;  // milliseconds of ticks; see TickTray
+    std::int16_t m_TrayIconIndex = 0;    // the image last set; 0: none yet
+    std::int16_t m_NotObservedCount = 0;
 };
 
 }  // namespace vigrel

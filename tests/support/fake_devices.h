@@ -31,8 +31,7 @@ class cFakeWaveDevice : public cWaveDevice {
         Note(std::string(command));
         if (m_FailCommands.contains(std::string(command)))
             throw cFailure(eFailure::Device, "the device fails");
-        if (command == "Play") m_Playing = true;
-        if (command == "Stop") m_Playing = false;
+        m_Playing = command == "Play";
     }
     void SetNotify(bool on) override { Note(on ? "notify on" : "notify off"); }
     void SetWait(bool on) override { Note(on ? "wait on" : "wait off"); }
@@ -61,7 +60,10 @@ class cFakeWaveDevice : public cWaveDevice {
 class cFakeNotificationArea : public cNotificationArea {
   public:
     explicit cFakeNotificationArea(cTranscript* transcript = nullptr) : m_Transcript(transcript) {}
-    void SetIcon(int image) override { Note("icon " + std::to_string(image)); }
+    void SetIcon(int image) override {
+        m_Image = image;
+        Note("icon " + std::to_string(image));
+    }
     std::string ToolTip() const override { return m_ToolTip; }
     void SetToolTip(std::string_view text) override {
         m_ToolTip = text;
@@ -73,6 +75,7 @@ class cFakeNotificationArea : public cNotificationArea {
     }
     bool HostAvailable() const override { return m_HostAvailable; }
 
+    int m_Image = 0;  // the one last set
     std::string m_ToolTip;
     bool m_Visible = false, m_HostAvailable = true;
 
@@ -103,6 +106,7 @@ class cFakeSignalLight : public cSignalLight {
     }
     std::int32_t DelcomOpenDevice(std::string_view name, std::int32_t mode) override {
         Note("open " + std::string(name) + " " + std::to_string(mode));
+        if (m_FailCalls.contains("open")) throw cFailure(eFailure::Device, "the light fails");
         for (const auto& [type, names] : m_Devices) {
             for (const std::string& known : names) {
                 if (known == name) return ++m_LastHandle;
@@ -132,12 +136,12 @@ class cFakeSignalLight : public cSignalLight {
     std::map<std::int32_t, std::vector<std::string>> m_Devices;  // names by type
     double m_Version = 0;
     bool m_Missing = false;
-    std::string m_FailCall;  // every call of this name fails
+    std::set<std::string> m_FailCalls;  // every call of such a name fails: "power"
 
   private:
     void Step(const std::string& call, std::int32_t handle, const std::string& rest) {
         Note(call + " #" + std::to_string(handle) + (rest.empty() ? "" : " " + rest));
-        if (call == m_FailCall) throw cFailure(eFailure::Device, "the light fails");
+        if (m_FailCalls.contains(call)) throw cFailure(eFailure::Device, "the light fails");
     }
     void Note(const std::string& step) {
         if (m_Transcript) m_Transcript->Add("light: " + step);
@@ -170,10 +174,11 @@ class cFakePrinterPorts : public cPrinterPorts {
   public:
     std::int16_t SendPRN(std::string_view line, std::int16_t port) override {
         m_Lines.push_back(std::to_string(port) + ":" + std::string(line));
-        return m_FailLines.contains(m_Lines.size()) ? std::int16_t{0} : std::int16_t{1};
+        return m_FailLines.contains(m_Lines.size()) ? std::int16_t{0} : m_Success;
     }
     std::vector<std::string> m_Lines;   // "port:line"
     std::set<std::size_t> m_FailLines;  // numbers of the lines that fail, from 1
+    std::int16_t m_Success = 1;         // the result of the others
 };
 
 class cFakeSingleInstance : public cSingleInstance {
