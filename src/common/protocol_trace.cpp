@@ -38,7 +38,7 @@ std::string Time(DateTime now, std::string_view pattern) {
 
 }  // namespace
 
-cProtocolTrace::cProtocolTrace(const cReceiverState& state, const cClock& clock, cFiles& files,
+cProtocolTrace::cProtocolTrace(cReceiverState& state, const cClock& clock, cFiles& files,
                                std::string_view applicationPath)
     : m_State(state),
       m_Clock(clock),

@@ -27,7 +27,7 @@ class cProtocolTrace {
     static constexpr std::size_t kMaxRows = 400;
 
     // applicationPath ends in a backslash.
-    cProtocolTrace(const cReceiverState& state, const cClock& clock, cFiles& files,
+    cProtocolTrace(cReceiverState& state, const cClock& clock, cFiles& files,
                    std::string_view applicationPath);
 
     // Adds the text as rows, unless m_DebugMode is off. Kinds: 1 received on the data socket, 2 sent on it;
@@ -36,6 +36,8 @@ class cProtocolTrace {
     // Appends all rows to LogFiles\Debug.txt behind four header lines. Throws cFailure when the file can't be
     // written.
     void Menu_Save() const;
+    // The window of the trace is closed: m_DebugMode is off, and stays so for the rest of the run.
+    void Form_Unload() { m_State.m_DebugMode = false; }
 
     const std::deque<cTraceRow>& Rows() const { return m_Rows; }
     // How many rows are gone from the front, so that a view can tell which of its rows still stand.
@@ -47,7 +49,7 @@ class cProtocolTrace {
   private:
     void AddRow(std::string_view tag, std::string_view text, int icon);
 
-    const cReceiverState& m_State;
+    cReceiverState& m_State;
     const cClock& m_Clock;
     cFiles& m_Files;
     std::string m_Path;

@@ -44,8 +44,9 @@ TEST_F(cProtocolTraceTest, NothingIsAddedWithoutDebugMode) {
 
 TEST_F(cProtocolTraceTest, AfterTheViewIsClosedNothingMoreIsAdded) {
     m_Trace.WriteTrace("abc", TraceReceived);
-    m_State.m_DebugMode = false;
+    m_Trace.Form_Unload();
     m_Trace.WriteTrace("def", TraceReceived);
+    EXPECT_FALSE(m_State.m_DebugMode);
     EXPECT_EQ(Rows(), "V<-S/2 abc\n");
 }
 
