@@ -424,6 +424,7 @@ TEST_F(cReportListPictureTest, AColouredCellIsDrawnInItsColours) {
 
 TEST_F(cReportListPictureTest, ACellWithoutCaptionAndColoursShowsTheListsOwnColourAlone) {
     Fill(2);
+    m_List.SetItemIcon(m_Records[1], 0, -1);
     const QImage cell = Picture(1, 0);
     EXPECT_EQ(Count(cell, View().palette().color(QPalette::Base)), cell.width() * (cell.height() - 1));
 }
