@@ -8,16 +8,6 @@
 namespace vigrel {
 namespace {
 
-constexpr cDefinitionKind kProfiles = {.folderAndStem = "Profiles\\Profile_",
-                                       .oldestVersion = 4,
-                                       .textUpgraded = 930,
-                                       .textUnknownVersion = 805,
-                                       .textLoadFailed = 982,
-                                       .textSaveFailed = 980,
-                                       .textRemoved = 981,
-                                       .textRemoveFailed = 981,
-                                       .namesFileByNumber = false};
-
 std::size_t CheckedIndex(std::int16_t index, int count, const char* what) {
     if (index < 0 || index >= count) {
         throw cFailure(eFailure::OutOfBounds, std::string(what) + " " + std::to_string(index) +
@@ -41,6 +31,16 @@ std::unique_ptr<cTimeSchedule> CopyOf(const std::unique_ptr<cTimeSchedule>& sche
 }
 
 }  // namespace
+
+constexpr cDefinitionKind cProfile::kKind = {.folderAndStem = "Profiles\\Profile_",
+                                             .oldestVersion = 4,
+                                             .textUpgraded = 930,
+                                             .textUnknownVersion = 805,
+                                             .textLoadFailed = 982,
+                                             .textSaveFailed = 980,
+                                             .textRemoved = 981,
+                                             .textRemoveFailed = 981,
+                                             .namesFileByNumber = false};
 
 template <class Profile>
 auto cProfile::Fields(Profile& p) {
@@ -70,7 +70,7 @@ void cProfile::RememberOriginalSettings() {
 }
 
 std::string cProfile::CreateFileName(std::int16_t DiskIdentity) const {
-    return DefinitionFileName(m_Services, kProfiles, DiskIdentity);
+    return DefinitionFileName(m_Services, kKind, DiskIdentity);
 }
 
 bool cProfile::HasChangedSinceLastLoadFromDisk() const {
@@ -119,12 +119,12 @@ void cProfile::SetName(std::string_view NewName) {
 }
 
 bool cProfile::RemoveFromDisk() {
-    return RemoveDefinition(m_Services, kProfiles, m_DiskIdentity, m_Name);
+    return RemoveDefinition(m_Services, kKind, m_DiskIdentity, m_Name);
 }
 
 bool cProfile::LoadFromDisk(std::int16_t DiskIdentity) {
     const cLoadResult result =
-        LoadDefinition(m_Services, kProfiles, DiskIdentity, m_DiskIdentity,
+        LoadDefinition(m_Services, kKind, DiskIdentity, m_DiskIdentity,
                        [this](cBinaryReader& file, std::int16_t version) { ReadRecord(file, version); });
     if (result.outdated) SaveToDisk();
     RememberOriginalSettings();
@@ -166,7 +166,7 @@ void cProfile::ReadFields(cBinaryReader& file) {
 }
 
 bool cProfile::SaveToDisk() {
-    const bool saved = SaveDefinition(m_Services, kProfiles, m_DiskIdentity, m_HasUpdatedDiskIdentity,
+    const bool saved = SaveDefinition(m_Services, kKind, m_DiskIdentity, m_HasUpdatedDiskIdentity,
                                       [this](cBinaryWriter& file) { WriteRecord(file); });
     if (saved) RememberOriginalSettings();
     return saved;

@@ -23,6 +23,7 @@ class cProfile {
     static constexpr int kStates = 3;
     static constexpr int kConditions = 6;
     static constexpr int kSystems = 64;
+    static const cDefinitionKind kKind;
 
     explicit cProfile(const cDefinitionServices& services) : m_Services(services) {}
 

@@ -8,15 +8,6 @@
 namespace vigrel {
 namespace {
 
-constexpr cDefinitionKind kReceivers = {.folderAndStem = "Receivers\\Receiver_",
-                                        .oldestVersion = 3,
-                                        .textUpgraded = 888,
-                                        .textUnknownVersion = 804,
-                                        .textLoadFailed = 978,
-                                        .textSaveFailed = 979,
-                                        .textRemoved = 976,
-                                        .textRemoveFailed = 977,
-                                        .namesFileByNumber = true};
 constexpr std::size_t kReserved = 10;
 
 std::size_t SettingIndex(std::int16_t index) {
@@ -28,12 +19,21 @@ std::size_t SettingIndex(std::int16_t index) {
 
 }  // namespace
 
+constexpr cDefinitionKind cReceiver::kKind = {.folderAndStem = "Receivers\\Receiver_",
+                                              .oldestVersion = 3,
+                                              .textUpgraded = 888,
+                                              .textUnknownVersion = 804,
+                                              .textLoadFailed = 978,
+                                              .textSaveFailed = 979,
+                                              .textRemoved = 976,
+                                              .textRemoveFailed = 977,
+                                              .namesFileByNumber = true};
 std::string cReceiver::CreateFileName(std::int16_t DiskIdentity) const {
-    return DefinitionFileName(m_Services, kReceivers, DiskIdentity);
+    return DefinitionFileName(m_Services, kKind, DiskIdentity);
 }
 
 bool cReceiver::RemoveFromDisk() {
-    return RemoveDefinition(m_Services, kReceivers, m_DiskIdentity, m_ReceiverName);
+    return RemoveDefinition(m_Services, kKind, m_DiskIdentity, m_ReceiverName);
 }
 
 const cVariant& cReceiver::GetSetting(std::int16_t Index) const {
@@ -93,7 +93,7 @@ void cReceiver::ReadKeepAliveInterval(const cReceiverType& type) {
 
 bool cReceiver::LoadFromDisk(std::int16_t DiskIdentity) {
     const cLoadResult result =
-        LoadDefinition(m_Services, kReceivers, DiskIdentity, m_DiskIdentity,
+        LoadDefinition(m_Services, kKind, DiskIdentity, m_DiskIdentity,
                        [this](cBinaryReader& file, std::int16_t version) { ReadRecord(file, version); });
     if (result.outdated) SaveToDisk();
     RememberOriginalSettings();
@@ -130,7 +130,7 @@ void cReceiver::ReadVersion4And5(cBinaryReader& file, std::int16_t version) {
 }
 
 bool cReceiver::SaveToDisk() {
-    const bool saved = SaveDefinition(m_Services, kReceivers, m_DiskIdentity, m_HasUpdatedDiskIdentity,
+    const bool saved = SaveDefinition(m_Services, kKind, m_DiskIdentity, m_HasUpdatedDiskIdentity,
                                       [this](cBinaryWriter& file) { WriteRecord(file); });
     if (saved) RememberOriginalSettings();
     return saved;

@@ -17,6 +17,7 @@ namespace vigrel {
 class cReceiver {
   public:
     static constexpr int kSettings = 4;
+    static const cDefinitionKind kKind;
 
     explicit cReceiver(const cDefinitionServices& services) : m_Services(services) {}
 

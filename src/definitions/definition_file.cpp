@@ -1,5 +1,7 @@
 #include "definitions/definition_file.h"
 
+#include <algorithm>
+
 #include "common/failure.h"
 #include "common/file_procedures.h"
 #include "common/numbers.h"
@@ -43,33 +45,33 @@ std::int16_t InventIdentity(const cDefinitionServices& services, const cDefiniti
     throw cFailure(eFailure::DiskFull, "all numbers for new files are taken");
 }
 
-// One definition file being read, and what the log is told of it.
-class cLoading {
-  public:
-    cLoading(const cDefinitionServices& services, const cDefinitionKind& kind, std::string fileName)
-        : m_Services(services), m_Kind(kind), m_FileName(std::move(fileName)) {}
+using eNote = cDefinitionNote::eKind;
 
-    void LogUpgrade(std::int16_t version) {
-        Log(m_Kind.textUpgraded, " '" + m_FileName + "' (version " + std::to_string(version) + " -> " +
-                                     std::to_string(kDefinitionVersion) + ")");
-    }
-    void LogUnknownVersion(std::int16_t version) {
-        const std::string name = m_Kind.namesFileByNumber ? kFileNumber : m_FileName;
-        Log(803, " '" + name + "' (" + std::to_string(version) + ") " +
-                     m_Services.texts.GetText(m_Kind.textUnknownVersion));
-    }
-    void LogFailure(const cFailure& failure) {
-        Log(m_Kind.textLoadFailed, " " + m_FileName + " Err:" + failure.what());
-    }
+void Log(const cDefinitionServices& services, eNote kind, std::int32_t text, const std::string& rest) {
+    const cDefinitionNote note{kind, services.texts.GetText(text) + rest};
+    services.log.WriteLog(note.line);
+    if (services.m_OnNote) services.m_OnNote(note);
+}
 
-  private:
-    void Log(std::int32_t text, const std::string& rest) {
-        m_Services.log.WriteLog(m_Services.texts.GetText(text) + rest);
-    }
-    const cDefinitionServices& m_Services;
-    const cDefinitionKind& m_Kind;
-    std::string m_FileName;
-};
+void LogUpgrade(const cDefinitionServices& services, const cDefinitionKind& kind, const std::string& fileName,
+                std::int16_t version) {
+    Log(services, eNote::Upgraded, kind.textUpgraded,
+        " '" + fileName + "' (version " + std::to_string(version) + " -> " +
+            std::to_string(kDefinitionVersion) + ")");
+}
+
+void LogUnknownVersion(const cDefinitionServices& services, const cDefinitionKind& kind,
+                       const std::string& fileName, std::int16_t version) {
+    const std::string name = kind.namesFileByNumber ? kFileNumber : fileName;
+    Log(services, eNote::Failed, 803,
+        " '" + name + "' (" + std::to_string(version) + ") " +
+            services.texts.GetText(kind.textUnknownVersion));
+}
+
+void LogFailure(const cDefinitionServices& services, std::int32_t text, const std::string& what,
+                const cFailure& failure) {
+    Log(services, eNote::Failed, text, what + " Err:" + failure.what());
+}
 
 void RequireComplete(const cBinaryReader& file) {
     if (file.Complete()) return;
@@ -85,11 +87,23 @@ std::string DefinitionFileName(const cDefinitionServices& services, const cDefin
     return services.ini.FullPath(kind.folderAndStem) + digits.substr(digits.size() - 4) + ".dat";
 }
 
+std::vector<std::int16_t> DefinitionIdentities(const cDefinitionServices& services,
+                                               const cDefinitionKind& kind) {
+    const cPathParts parts = SplitPath(services.ini.FullPath(kind.folderAndStem));
+    std::vector<std::int16_t> identities;
+    for (const std::string& name : services.files.ListFiles(parts.folder, parts.name + "????.dat")) {
+        const std::string digits = name.substr(parts.name.size(), 4);
+        if (digits.find_first_not_of("0123456789") == std::string::npos)
+            identities.push_back(ToInt16(Val(digits)));
+    }
+    std::sort(identities.begin(), identities.end());
+    return identities;
+}
+
 cLoadResult LoadDefinition(const cDefinitionServices& services, const cDefinitionKind& kind,
                            std::int16_t diskIdentity, std::int16_t& objectIdentity,
                            const std::function<void(cBinaryReader&, std::int16_t)>& readRecord) {
     const std::string fileName = DefinitionFileName(services, kind, diskIdentity);
-    cLoading loading(services, kind, fileName);
     cLoadResult result;
     std::int16_t version = 0;
     const auto failure = CatchFailure([&] {
@@ -99,17 +113,17 @@ cLoadResult LoadDefinition(const cDefinitionServices& services, const cDefinitio
         cBinaryReader file(content);
         version = file.Int16();
         if (version < kind.oldestVersion || version > kDefinitionVersion) {
-            loading.LogUnknownVersion(version);
+            LogUnknownVersion(services, kind, fileName, version);
             return;
         }
         readRecord(file, version);
         RequireComplete(file);
         result.loaded = true;
     });
-    if (failure) loading.LogFailure(*failure);
+    if (failure) LogFailure(services, kind.textLoadFailed, " " + fileName, *failure);
     // A damaged file is not brought up: it stays as it is for whoever can repair it.
     result.outdated = result.loaded && version < kDefinitionVersion;
-    if (result.outdated) loading.LogUpgrade(version);
+    if (result.outdated) LogUpgrade(services, kind, fileName, version);
     return result;
 }
 
@@ -126,8 +140,7 @@ bool SaveDefinition(const cDefinitionServices& services, const cDefinitionKind& 
     });
     if (!failure) return true;
     const std::string fileName = DefinitionFileName(services, kind, identity);
-    services.log.WriteLog(services.texts.GetText(kind.textSaveFailed) + " " + fileName +
-                          " Err:" + failure->what());
+    LogFailure(services, kind.textSaveFailed, " " + fileName, *failure);
     if (isNew && !FileExists(services.files, fileName)) {
         identity = -1;
         hasUpdatedIdentity = False16;
@@ -142,10 +155,12 @@ bool RemoveDefinition(const cDefinitionServices& services, const cDefinitionKind
         services.files.RemoveFile(fileName);
         services.files.SyncFolder(SplitPath(fileName).folder);
     });
-    std::string line = services.texts.GetText(failure ? kind.textRemoveFailed : kind.textRemoved) + " '" +
-                       std::string(name) + "' " + fileName;
-    if (failure) line += std::string(" Err:") + failure->what();
-    services.log.WriteLog(line);
+    const std::string what = " '" + std::string(name) + "' " + fileName;
+    if (failure) {
+        LogFailure(services, kind.textRemoveFailed, what, *failure);
+    } else {
+        Log(services, eNote::Removed, kind.textRemoved, what);
+    }
     return !failure;
 }
 

@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "common/binary.h"
 #include "common/ini.h"
@@ -16,6 +17,13 @@
 
 namespace vigrel {
 
+// A line that was logged about a definition file, for programs that show it too.
+struct cDefinitionNote {
+    enum class eKind { Upgraded, Removed, Failed };
+    eKind kind;
+    std::string line;
+};
+
 // What receivers and profiles ask of their surroundings. It outlives them.
 struct cDefinitionServices {
     cFiles& files;
@@ -27,6 +35,7 @@ struct cDefinitionServices {
     const cReceiverTypes& receiverTypes;
     // Whether "@" in the name of a profile parts a parent from its child.
     bool m_ProfileNesting = false;
+    std::function<void(const cDefinitionNote&)> m_OnNote = nullptr;
 };
 
 // A definition is a file of its own: a 16-bit version, then the record of that version. This is the version
@@ -49,6 +58,10 @@ std::string DefinitionFileName(const cDefinitionServices& services, const cDefin
                                std::int16_t diskIdentity);
 
 // None of the following throws: a failure is a line in the log and a false result.
+
+// The identities of the files of a kind that lie in their folder, in rising order. Other names are left out.
+std::vector<std::int16_t> DefinitionIdentities(const cDefinitionServices& services,
+                                               const cDefinitionKind& kind);
 
 struct cLoadResult {
     bool loaded = false;

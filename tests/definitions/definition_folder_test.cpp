@@ -1,0 +1,121 @@
+#include "definitions/definition_folder.h"
+
+#include "definitions/definition_fixture.h"
+#include "definitions/receiver_list.h"
+#include "support/samples.h"
+
+namespace vigrel {
+namespace {
+
+using eNote = cDefinitionNote::eKind;
+
+class DefinitionFolder : public DefinitionTest {
+  protected:
+    DefinitionFolder() {
+        m_Services.m_OnNote = [this](const cDefinitionNote& note) { m_Notes.push_back(note); };
+        m_Files.Put(ReceiverPath("0009"), testing::Sample("receiver_version_3.dat"));
+        m_Files.Put(ReceiverPath("0007"), testing::Sample("receiver_version_5.dat"));
+        m_Files.Put(ReceiverPath("0008"), "\x06\x01");
+        m_Files.Put(ReceiverPath("00x1"), "x");
+        m_Files.Put(ReceiverPath("0007") + ".$~", "x");
+    }
+    std::vector<cDefinitionNote> m_Notes;
+    cReceiverFolder m_Receivers{m_Services};
+};
+
+TEST_F(DefinitionFolder, LoadsWhatCanBeReadInTheOrderOfTheIdentities) {
+    m_Receivers.Load();
+    ASSERT_EQ(m_Receivers.Count(), 2u);
+    EXPECT_EQ(m_Receivers.At(0).m_DiskIdentity, 7);
+    EXPECT_EQ(m_Receivers.At(1).m_DiskIdentity, 9);
+    EXPECT_EQ(m_Receivers.Unreadable(), std::vector<std::string>{ReceiverPath("0008")});
+    EXPECT_FALSE(m_Receivers.HasChanges());
+}
+
+TEST_F(DefinitionFolder, UpgradesAndFailuresAreTold) {
+    m_Receivers.Load();
+    ASSERT_EQ(m_Notes.size(), 2u);
+    EXPECT_EQ(m_Notes[0].kind, eNote::Failed);
+    EXPECT_EQ(m_Notes[0].line, "File '1' (262) is no receiver");
+    EXPECT_EQ(m_Notes[1].kind, eNote::Upgraded);
+    EXPECT_EQ(m_Notes[1].line, "Receiver brought up '" + ReceiverPath("0009") + "' (version 3 -> 5)");
+}
+
+TEST_F(DefinitionFolder, ANewDefinitionIsUnsavedUntilItIsSaved) {
+    m_Receivers.Load();
+    const std::size_t position = m_Receivers.Add("New");
+    EXPECT_TRUE(m_Receivers.HasChanges());
+    EXPECT_TRUE(m_Receivers.At(position).SaveToDisk());
+    EXPECT_FALSE(m_Receivers.HasChanges());
+    cReceiverFolder again(m_Services);
+    again.Load();
+    EXPECT_EQ(again.Count(), 3u);
+}
+
+TEST_F(DefinitionFolder, ANewProfileHasTheDefaultScheduleAndCanBeSaved) {
+    cProfileFolder profiles(m_Services);
+    cProfile& profile = profiles.At(profiles.Add("Day"));
+    std::int16_t start = 0;
+    std::int16_t stop = 0;
+    ASSERT_TRUE(profile.m_TimeSchedule->GetNextTimePeriod(0, start, stop, nullptr));
+    EXPECT_EQ(start, 420);
+    EXPECT_TRUE(profile.SaveToDisk());
+}
+
+TEST_F(DefinitionFolder, ACopyHasAFreeNameAndNoIdentity) {
+    m_Receivers.Load();
+    EXPECT_EQ(m_Receivers.FreeName("Duty1"), "Duty1 2");
+    EXPECT_EQ(m_Receivers.FreeName("Other"), "Other");
+    const std::size_t position = m_Receivers.AddCopy(1, m_Receivers.FreeName("Duty1"));
+    EXPECT_EQ(m_Receivers.At(position).m_ReceiverName, "Duty1 2");
+    EXPECT_EQ(m_Receivers.At(position).m_DiskIdentity, -1);
+    EXPECT_EQ(m_Receivers.At(position).GetSetting(1), cVariant::Int16(60));
+    EXPECT_EQ(m_Receivers.FreeName("Duty1"), "Duty1 3");
+}
+
+TEST_F(DefinitionFolder, RemovingTakesTheFileAwayToo) {
+    m_Receivers.Load();
+    EXPECT_TRUE(m_Receivers.Remove(0));
+    EXPECT_FALSE(m_Files.FileExists(ReceiverPath("0007")));
+    EXPECT_EQ(m_Receivers.Count(), 1u);
+    EXPECT_EQ(m_Notes.back().kind, eNote::Removed);
+    m_Receivers.Add("New");
+    EXPECT_TRUE(m_Receivers.Remove(1));
+    EXPECT_EQ(m_Receivers.Count(), 1u);
+}
+
+TEST_F(DefinitionFolder, WhatCantBeRemovedStays) {
+    m_Receivers.Load();
+    m_Files.m_FolderReadOnly = true;
+    EXPECT_FALSE(m_Receivers.Remove(0));
+    EXPECT_EQ(m_Receivers.Count(), 2u);
+    EXPECT_EQ(m_Notes.back().kind, eNote::Failed);
+}
+
+TEST_F(DefinitionFolder, RevertingReadsTheFileAgainOrDropsANewOne) {
+    m_Receivers.Load();
+    m_Receivers.At(0).m_ReceiverName = "x";
+    EXPECT_TRUE(m_Receivers.Revert(0));
+    EXPECT_EQ(m_Receivers.At(0).m_ReceiverName, "\xD6st");
+    m_Receivers.Add("New");
+    EXPECT_TRUE(m_Receivers.Revert(2));
+    EXPECT_EQ(m_Receivers.Count(), 2u);
+    m_Receivers.At(0).m_ReceiverName = "x";
+    m_Files.Put(ReceiverPath("0007"), "");
+    EXPECT_FALSE(m_Receivers.Revert(0));
+    EXPECT_EQ(m_Receivers.At(0).m_ReceiverName, "x");
+}
+
+TEST(ReceiverList, IsIdentitiesSeparatedBySemicolons) {
+    EXPECT_EQ(ReceiverItems("7; 12 ;;abc"), (std::vector<std::string>{"7", "12", "abc"}));
+    EXPECT_TRUE(ReceiverItems("").empty());
+    EXPECT_EQ(ReceiverText({"7", "12", "abc"}), "7;12;abc");
+    EXPECT_EQ(ReceiverText({}), "");
+    EXPECT_EQ(ReceiverIdentity("0012"), 12);
+    EXPECT_EQ(ReceiverIdentity("abc"), std::nullopt);
+    EXPECT_EQ(ReceiverIdentity("12345"), std::nullopt);
+    EXPECT_EQ(ReceiverIdentity("-1"), std::nullopt);
+}
+
+}  // namespace
+}  // namespace vigrel
