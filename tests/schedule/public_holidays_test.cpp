@@ -1,0 +1,181 @@
+#include "schedule/public_holidays.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+
+#include "common/code_page.h"
+#include "common/dates.h"
+#include "common/numbers.h"
+
+namespace vigrel {
+namespace {
+
+std::string DateText(std::int32_t day) {
+    const cDateParts parts = SplitDateTime(day + kFirstCalendarDay);
+    return Digits(parts.year, 4) + "-" + Digits(parts.month, 2) + "-" + Digits(parts.day, 2);
+}
+
+// The public holidays of a year: "01-01 01-06".
+std::string FreeDays(std::string_view code, int year) {
+    std::string text;
+    const std::string prefix = std::to_string(year) + "-";
+    for (const cHolidayLabel& label : PublicHolidays(code).m_HolidayLabels) {
+        const std::string date = DateText(label.m_Day);
+        if (label.m_ViewInCalendar == False16 || date.rfind(prefix, 0) != 0) continue;
+        text += (text.empty() ? "" : " ") + date.substr(5);
+    }
+    return text;
+}
+
+std::string NameOf(std::string_view code, int year, int month, int day) {
+    const cHolidays holidays = PublicHolidays(code);
+    const cHolidayLabel* label = holidays.LabelOf(CalendarIndex(DateSerial(year, month, day)));
+    return label == nullptr ? "" : CodePageToUtf8(label->m_Label);
+}
+
+// Easter Sundays as almanacs print them, with the earliest and latest of the span.
+TEST(PublicHolidays, EasterFallsAsInTheAlmanacs) {
+    const std::vector<std::array<int, 3>> dates{
+        {2000, 4, 23}, {2001, 4, 15}, {2002, 3, 31}, {2003, 4, 20}, {2004, 4, 11}, {2005, 3, 27},
+        {2008, 3, 23}, {2011, 4, 24}, {2016, 3, 27}, {2018, 4, 1},  {2019, 4, 21}, {2024, 3, 31},
+        {2025, 4, 20}, {2026, 4, 5},  {2027, 3, 28}, {2035, 3, 25}, {2038, 4, 25}, {2039, 4, 10},
+        {1818, 3, 22}, {1943, 4, 25}, {1954, 4, 18}, {1981, 4, 19}, {2049, 4, 18}, {2076, 4, 19}};
+    for (const auto& [year, month, day] : dates) {
+        EXPECT_EQ(EasterSunday(year), DateSerial(year, month, day)) << year;
+    }
+}
+
+struct cYear {
+    const char* code;
+    int year;
+    const char* days;
+};
+
+class HolidaysOfAYear : public ::testing::TestWithParam<cYear> {};
+
+TEST_P(HolidaysOfAYear, AreThoseOfThePrintedCalendar) {
+    EXPECT_EQ(FreeDays(GetParam().code, GetParam().year), GetParam().days);
+}
+
+const cYear kYears[] = {
+    {"SE", 2004, "01-01 01-06 04-09 04-11 04-12 05-01 05-20 05-30 05-31 06-26 11-06 12-25 12-26"},
+    {"SE", 2005, "01-01 01-06 03-25 03-27 03-28 05-01 05-05 05-15 06-06 06-25 11-05 12-25 12-26"},
+    {"SE", 2026, "01-01 01-06 04-03 04-05 04-06 05-01 05-14 05-24 06-06 06-20 10-31 12-25 12-26"},
+    {"NO", 2026, "01-01 04-02 04-03 04-05 04-06 05-01 05-14 05-17 05-24 05-25 12-25 12-26"},
+    // Ascension fell on 1 May.
+    {"NO", 2008, "01-01 03-20 03-21 03-23 03-24 05-01 05-01 05-11 05-12 05-17 12-25 12-26"},
+    {"DK", 2023, "01-01 04-06 04-07 04-09 04-10 05-05 05-18 05-28 05-29 12-25 12-26"},
+    {"DK", 2024, "01-01 03-28 03-29 03-31 04-01 05-09 05-19 05-20 12-25 12-26"},
+    {"FI", 2026, "01-01 01-06 04-03 04-05 04-06 05-01 05-14 05-24 06-20 10-31 12-06 12-25 12-26"},
+    {"FI", 2021, "01-01 01-06 04-02 04-04 04-05 05-01 05-13 05-23 06-26 11-06 12-06 12-25 12-26"},
+    {"DE", 2016, "01-01 03-25 03-28 05-01 05-05 05-16 10-03 12-25 12-26"},
+    {"DE", 2017, "01-01 04-14 04-17 05-01 05-25 06-05 10-03 10-31 12-25 12-26"},
+    {"GB", 2000, "01-01 01-03 04-21 04-24 05-01 05-29 08-28 12-25 12-26"},
+    {"GB", 2002, "01-01 03-29 04-01 05-06 06-03 06-04 08-26 12-25 12-26"},
+    {"GB", 2010, "01-01 04-02 04-05 05-03 05-31 08-30 12-25 12-26 12-27 12-28"},
+    {"GB", 2011, "01-01 01-03 04-22 04-25 04-29 05-02 05-30 08-29 12-25 12-26 12-27"},
+    {"GB", 2012, "01-01 01-02 04-06 04-09 05-07 06-04 06-05 08-27 12-25 12-26"},
+    {"GB", 2020, "01-01 04-10 04-13 05-08 05-25 08-31 12-25 12-26 12-28"},
+    {"GB", 2021, "01-01 04-02 04-05 05-03 05-31 08-30 12-25 12-26 12-27 12-28"},
+    {"GB", 2022, "01-01 01-03 04-15 04-18 05-02 06-02 06-03 08-29 09-19 12-25 12-26 12-27"},
+    {"GB", 2023, "01-01 01-02 04-07 04-10 05-01 05-08 05-29 08-28 12-25 12-26"},
+    {"GB-SCT", 2006, "01-01 01-02 01-03 04-14 05-01 05-29 08-07 12-25 12-26"},
+    {"GB-SCT", 2019, "01-01 01-02 04-19 05-06 05-27 08-05 11-30 12-02 12-25 12-26"},
+    {"GB-SCT", 2022, "01-01 01-02 01-03 01-04 04-15 05-02 06-02 06-03 08-01 09-19 11-30 12-25 12-26 12-27"},
+    {"GB-NIR", 2018, "01-01 03-17 03-19 03-30 04-02 05-07 05-28 07-12 08-27 12-25 12-26"},
+    {"GB-NIR", 2020, "01-01 03-17 04-10 04-13 05-08 05-25 07-12 07-13 08-31 12-25 12-26 12-28"},
+};
+
+INSTANTIATE_TEST_SUITE_P(Schedule, HolidaysOfAYear, ::testing::ValuesIn(kYears));
+
+TEST(PublicHolidays, WhitMondayGaveWayToSwedensNationalDay) {
+    EXPECT_EQ(NameOf("SE", 2004, 5, 31), "Annandag pingst");
+    EXPECT_EQ(NameOf("SE", 2005, 5, 16), "");
+    const cHolidays holidays = PublicHolidays("SE");
+    const auto shown = [&](int year) {
+        return holidays.LabelOf(CalendarIndex(DateSerial(year, 6, 6)))->m_ViewInCalendar != False16;
+    };
+    EXPECT_FALSE(shown(2004));
+    EXPECT_TRUE(shown(2005));
+    EXPECT_TRUE(shown(2039));
+}
+
+TEST(PublicHolidays, DenmarkKeptItsDayOfPrayerUntil2023) {
+    EXPECT_EQ(NameOf("DK", 2000, 5, 19), "Store bededag");
+    EXPECT_EQ(NameOf("DK", 2023, 5, 5), "Store bededag");
+    EXPECT_EQ(NameOf("DK", 2024, 4, 26), "");
+}
+
+TEST(PublicHolidays, BritishSubstitutesAreNamed) {
+    EXPECT_EQ(NameOf("GB", 2021, 12, 27), "Christmas Day (substitute day)");
+    EXPECT_EQ(NameOf("GB", 2021, 12, 28), "Boxing Day (substitute day)");
+    EXPECT_EQ(NameOf("GB", 2022, 12, 26), "Boxing Day");
+    EXPECT_EQ(NameOf("GB", 2022, 12, 27), "Christmas Day (substitute day)");
+    EXPECT_EQ(NameOf("GB-SCT", 2017, 1, 3), "New Year's Day (substitute day)");
+    EXPECT_EQ(NameOf("GB-SCT", 2021, 1, 4), "2nd January (substitute day)");
+}
+
+TEST(PublicHolidays, NamesAreInTheCodePage) {
+    const cHolidays holidays = PublicHolidays("SE");
+    EXPECT_EQ(holidays.LabelOf(0)->m_Label, "Ny\xE5rsdagen");
+    EXPECT_EQ(NameOf("FI", 2026, 12, 6), "Itsenäisyyspäivä");
+    EXPECT_EQ(NameOf("NO", 2026, 4, 2), "Skjærtorsdag");
+}
+
+TEST(PublicHolidays, EvesAreNamedLikeASaturdayAndNotShown) {
+    const cHolidays holidays = PublicHolidays("SE");
+    const cHolidayLabel* eve = holidays.LabelOf(CalendarIndex(DateSerial(2026, 6, 19)));
+    ASSERT_NE(eve, nullptr);
+    EXPECT_EQ(eve->m_Label, "Midsommarafton");
+    EXPECT_EQ(eve->m_ViewInCalendar, False16);
+    EXPECT_EQ(eve->m_DayType, 5);
+    EXPECT_EQ(holidays.LabelOf(CalendarIndex(DateSerial(2026, 6, 20)))->m_DayType, 6);
+}
+
+TEST(PublicHolidays, EveryListedCountryHasHolidaysInEveryYear) {
+    ASSERT_EQ(HolidayCountries().size(), 8u);
+    for (const cHolidayCountry& country : HolidayCountries()) {
+        const cHolidays holidays = PublicHolidays(country.code);
+        std::array<int, 40> perYear{};
+        std::int32_t previous = -1;
+        for (const cHolidayLabel& label : holidays.m_HolidayLabels) {
+            ++perYear[static_cast<std::size_t>(SplitDateTime(label.m_Day + kFirstCalendarDay).year - 2000)];
+            EXPECT_LE(previous, label.m_Day);
+            EXPECT_EQ(holidays.m_HolidayMarks[static_cast<std::size_t>(label.m_Day)], True16);
+            EXPECT_EQ(label.m_Label.find('?'), std::string::npos) << label.m_Label;
+            previous = label.m_Day;
+        }
+        for (const int count : perYear) EXPECT_GE(count, 9) << country.name;
+        std::set<std::int32_t> days;
+        for (const cHolidayLabel& label : holidays.m_HolidayLabels) days.insert(label.m_Day);
+        EXPECT_EQ(std::count(holidays.m_HolidayMarks.begin(), holidays.m_HolidayMarks.end(), True16),
+                  static_cast<std::ptrdiff_t>(days.size()));
+    }
+}
+
+TEST(PublicHolidays, AnUnknownCodeHasNone) {
+    EXPECT_TRUE(PublicHolidays("").m_HolidayLabels.empty());
+    EXPECT_TRUE(PublicHolidays("XX").m_HolidayLabels.empty());
+}
+
+TEST(Holidays, OfOneDayTheShownLabelComesFirst) {
+    cHolidays holidays;
+    holidays.Add({10, 5, False16, "eve"});
+    holidays.Add({10, 6, True16, "free"});
+    EXPECT_EQ(holidays.LabelOf(10)->m_Label, "free");
+    EXPECT_EQ(holidays.LabelOf(11), nullptr);
+}
+
+TEST(Holidays, ADayOutsideTheSpanIsLeftOut) {
+    cHolidays holidays;
+    holidays.Add({-1, 6, True16, "before"});
+    holidays.Add({kCalendarDays, 6, True16, "behind"});
+    EXPECT_TRUE(holidays.m_HolidayLabels.empty());
+    EXPECT_EQ(holidays.LabelOf(-1), nullptr);
+    EXPECT_EQ(holidays.LabelOf(kCalendarDays), nullptr);
+}
+
+}  // namespace
+}  // namespace vigrel
