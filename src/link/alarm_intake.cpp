@@ -11,14 +11,14 @@ void cAlarmIntake::ProcessAlarm(const AlarmPtr& alarm) {
     SkipFailure([&] { m_Services.view.AddAlarmRow(alarm); });
     SkipFailure([&] { m_Services.store.SaveAlarm(alarm); });
     SkipFailure([&] { m_Services.store.InsertAlarm(alarm, settings.m_MaxEvents); });
-    if (OpensPopup(*alarm)) SkipFailure([&] { m_Services.signals.ShowPopup(alarm); });
+    if (OpensPopup(*alarm)) SkipFailure([&] { m_Services.signalling.ShowPopup(alarm); });
     if (active || !settings.m_EventSignalOnlyForActive) {
-        SkipFailure([&] { m_Services.signals.StartSound(*alarm->m_CategorySpecificSetting); });
+        SkipFailure([&] { m_Services.signalling.StartSound(*alarm->m_CategorySpecificSetting); });
     }
     if (settings.m_EventRestore && (active || !settings.m_EventRestoreOnlyForActive)) RestoreWindow();
     if (settings.m_PrinterPort > 0) Print(*alarm);
     SkipFailure([&] { m_Services.view.ShowNewAlarm(*alarm); });
-    SkipFailure([&] { m_Services.signals.SignalUsbLight(*alarm); });
+    SkipFailure([&] { m_Services.signalling.SignalUsbLight(*alarm); });
 }
 
 bool cAlarmIntake::OpensPopup(const cVigrelRecieverAlarm& alarm) const {
@@ -43,7 +43,7 @@ void cAlarmIntake::RestoreWindow() {
 
 void cAlarmIntake::Print(const cVigrelRecieverAlarm& alarm) {
     bool printed = true;
-    SkipFailure([&] { printed = m_Services.signals.PrintEvent(alarm); });
+    SkipFailure([&] { printed = m_Services.signalling.PrintEvent(alarm); });
     if (!printed) m_Services.log.WriteLog(m_Services.texts.GetText(10038) + " " + alarm.SysLogText());
 }
 

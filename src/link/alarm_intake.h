@@ -30,7 +30,7 @@ class cAlarmIntake {
         cLog& log;
         const cTexts& texts;
         const cSettings& settings;
-        cSignals signals;
+        cSignals signalling;
     };
     explicit cAlarmIntake(cServices services) : m_Services(std::move(services)) {}
 

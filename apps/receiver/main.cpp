@@ -1,0 +1,110 @@
+// The alarm receiver: builds the machine's side of every port, and the receiver over them.
+
+#include <memory>
+
+#include "absent_devices.h"
+#include "adapters/linux/application_folder.h"
+#include "adapters/linux/clock.h"
+#include "adapters/linux/files.h"
+#include "adapters/linux/random.h"
+#include "adapters/linux/running_apps.h"
+#include "adapters/linux/single_instance.h"
+#include "adapters/qt/cQtDataSocket.h"
+#include "adapters/qt/cQtListener.h"
+#include "adapters/qt/cQtLocale.h"
+#include "adapters/qt/cQtTimer.h"
+#include "adapters/qt/stop_signals.h"
+#include "common/failure.h"
+#include "core/Vigrel_Receiver_Main.h"
+#include "ui/application.h"
+#include "ui/desktop.h"
+#include "ui/main_window.h"
+#include "ui/message_box.h"
+#include "ui/other_windows.h"
+#include "ui/popup_window.h"
+
+namespace vigrel {
+namespace {
+
+constexpr int kKeepAliveInterval = 10000;  // milliseconds
+constexpr int kPlayInterval = 500;         // milliseconds
+
+// What stands behind the program's own name, as one text.
+std::string CommandLine(int argc, char** argv) {
+    std::string line;
+    for (int i = 1; i < argc; ++i) line += (i > 1 ? " " : "") + std::string(argv[i]);
+    return line;
+}
+
+void ConnectWindow(cMainWindow& window, cVigrelReceiverMain& receiver) {
+    window.OnActivate = [&] { receiver.Form_Activate(); };
+    window.OnResize = [&] { receiver.Form_Resize(); };
+    window.OnQueryUnload = [&](eCloseReason reason) { return receiver.Form_QueryUnload(reason); };
+    window.OnUnload = [&] { receiver.Form_Unload(); };
+    window.OnMenuFileOpens = [&] { receiver.Menu_File(); };
+    window.OnMenuStopSound = [&] { receiver.Menu_StopSound(); };
+    window.OnMenuStopLight = [&] { receiver.Menu_StopLight(); };
+    window.OnMenuAckAll = [&] { receiver.Menu_AckAll(); };
+    window.OnMenuExit = [&] { SkipFailure([&] { window.Close(); }); };
+    window.OnMenuAckAllAndClosePopups = [&] { receiver.Menu_AckAll_AndClosePopups(); };
+}
+
+int Run(int argc, char** argv) {
+    const std::string commandLine = CommandLine(argc, argv);
+    cApplication::ChoosePlatform();
+    cApplication application(argc, argv);
+
+    const cFolderHints hints = ReadFolderHints();
+    const std::string applicationPath = FindApplicationFolder(hints);
+    cLinuxFiles files;
+    FillApplicationFolder(files, applicationPath, FindInstalledFolder(hints.programFolder));
+
+    const cSystemClock clock;
+    cStandardRandom random;
+    const cQtLocale locale;
+    cFolderLock singleInstance(applicationPath);
+    cQtListener winsockConnect;
+    cQtDataSocket winsockData(winsockConnect);
+    cQtTimer timerKeepAlive(kKeepAliveInterval);
+    cQtTimer timerPlay(kPlayInterval);
+    cOpenWindows windows;
+    cMainWindow mainWindow(windows);
+    cPopupWidgetMaker popups(windows);
+    cQtScreen screen;
+    cQtMessageBox messageBox;
+    cQtClipboard clipboard;
+    cQtBeeper beeper;
+    cNoWave waveDevice;
+    cNoTray trayArea;
+    cNoLight signalLight;
+    cLocalRunningApps runningApps;
+    cNoPrinter printerPorts;
+    cQtOtherWindows otherWindows(files, locale, applicationPath);
+
+    cVigrelReceiverMain receiver({files,          clock,       random,         locale,      singleInstance,
+                                  winsockConnect, winsockData, timerKeepAlive, timerPlay,   mainWindow.List(),
+                                  mainWindow,     mainWindow,  screen,         windows,     popups,
+                                  messageBox,     clipboard,   beeper,         waveDevice,  trayArea,
+                                  signalLight,    runningApps, printerPorts,   otherWindows},
+                                 applicationPath, commandLine);
+    ConnectWindow(mainWindow, receiver);
+    cStopSignals stopSignals;
+    stopSignals.OnStop = [&] { mainWindow.EndSession(); };
+    application.OnSessionEnds = stopSignals.OnStop;
+
+    eStartUp started = eStartUp::NoLanguage;
+    application.Guard([&] {
+        started = receiver.Form_Load();
+        if (started == eStartUp::Running) mainWindow.Show();
+    });
+    // The operator has been told why.
+    if (started != eStartUp::Running) return 1;
+    return cApplication::exec();
+}
+
+}  // namespace
+}  // namespace vigrel
+
+int main(int argc, char** argv) {
+    return vigrel::Run(argc, argv);
+}

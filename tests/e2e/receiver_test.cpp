@@ -1,0 +1,142 @@
+// Whole stations: the real program on a real folder, fed over real sockets.
+
+#include <gtest/gtest.h>
+#include <signal.h>
+
+#include <algorithm>
+#include <chrono>
+
+#include "e2e/station.h"
+#include "vigrel-send/connection.h"
+
+namespace vigrel {
+namespace {
+
+using testing::cResult;
+using testing::cStation;
+using testing::ReadAll;
+
+std::vector<std::string> Behind(const std::vector<std::string>& lines, std::size_t count) {
+    return {lines.begin() + static_cast<std::ptrdiff_t>(std::min(count, lines.size())), lines.end()};
+}
+
+TEST(Receiver, AnAlarmIsAnsweredStoredAndBackAfterAKill) {
+    cStation station;
+    ASSERT_TRUE(station.Start()) << station.StandardError();
+    const std::vector<std::string> expectedStart{std::string(120, '-'), "T10040", "0 T10041",
+                                                 "T10017 " + std::to_string(station.m_Port) + " T10018",
+                                                 "T10011"};
+    auto start = station.Log();
+    // The signal light's lines depend on the machine.
+    std::erase_if(start, [](const std::string& line) {
+        return line.starts_with("T10027") || line.starts_with("T10046") || line.starts_with("T10047");
+    });
+    EXPECT_EQ(start, expectedStart);
+
+    const std::size_t before = station.Log().size();
+    const cResult sent = station.Send({"--sender", "PLC1", "--t0", "Fan 3 tripped", "--t2", "Technical",
+                                       "--date", "2024-03-05", "--time", "01:02:03"});
+    EXPECT_EQ(sent.exitCode, 0) << sent.output;
+    EXPECT_EQ(sent.output, "positive\n");
+    EXPECT_EQ(Behind(station.Log(), before),
+              (std::vector<std::string>{"PLC1 T10030 Active - Fan 3 tripped (/Technical//)", "PLC1T10029"}));
+    ASSERT_EQ(station.AlarmFiles().size(), 1u);
+    const std::string file = ReadAll(station.AlarmFiles()[0]);
+    // 180 bytes of an empty alarm and its texts; the event's id 0 and status 1 behind the two time stamps.
+    EXPECT_EQ(file.size(), 180u + 13 + 9 + 4);
+    using std::string_literals::operator""s;
+    EXPECT_EQ(file.substr(16, 23), "\0\0\0\0\x01\0\x0D\0Fan 3 tripped\0\0"s);
+
+    EXPECT_EQ(station.Stop(SIGKILL), -SIGKILL);
+    const std::size_t killed = station.Log().size();
+    ASSERT_TRUE(station.Start()) << station.StandardError();
+    const auto restart = Behind(station.Log(), killed);
+    EXPECT_NE(std::find(restart.begin(), restart.end(), "1 T10041"), restart.end());
+    EXPECT_EQ(station.AlarmFiles().size(), 1u);
+    EXPECT_EQ(station.Stop(SIGTERM), 0);
+}
+
+TEST(Receiver, EveryStopSignalEndsItInOrder) {
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+        cStation station;
+        ASSERT_TRUE(station.Start()) << station.StandardError();
+        EXPECT_EQ(station.Stop(signal), 0) << signal;
+        EXPECT_EQ(station.Log().back(), "T10020") << signal;
+        EXPECT_NE(ReadAll(station.Folder() / "VigrelReceiver.INI").find("Vigrel_Receiver_Main.Width="),
+                  std::string::npos);
+    }
+}
+
+TEST(Receiver, SpoiledFramesAreRefusedAndTheConnectionStaysUp) {
+    cStation station;
+    ASSERT_TRUE(station.Start());
+    for (const char* what : {"checksum", "etx", "kind"}) {
+        const cResult sent = station.Send({"--corrupt", what, "--count", "2", "--quiet"});
+        EXPECT_EQ(sent.exitCode, 1) << what << sent.output;
+    }
+    EXPECT_TRUE(station.AlarmFiles().empty());
+    EXPECT_EQ(station.Send({"--raw", "02 41 FF 53 30 FF 39 33 03 0A 02 41 FF 53 30 FF 43 33 03 0A"}).output,
+              "negative\npositive\n");
+}
+
+TEST(Receiver, AMessageIsLoggedAndAKeepAliveOfAKnownSenderToo) {
+    cStation station;
+    station.Configure("[Senders]\r\nPLC1=5\r\n");
+    ASSERT_TRUE(station.Start());
+    EXPECT_EQ(station.Send({"--sender", "PLC1", "--message", "hello"}).exitCode, 0);
+    EXPECT_EQ(station.Send({"--sender", "plc1", "--keepalive"}).exitCode, 0);
+    const auto log = station.Log();
+    EXPECT_NE(std::find(log.begin(), log.end(), "PLC1 - T10013 5 T10014"), log.end());
+    EXPECT_EQ(log.back(), "plc1 T10028");
+    EXPECT_EQ(log[log.size() - 2], "PLC1 T10042 -> hello");
+}
+
+TEST(Receiver, ABurstIsStoredWhole) {
+    cStation station;
+    ASSERT_TRUE(station.Start());
+    EXPECT_EQ(station.Send({"--t0", "burst", "--count", "300", "--quiet"}).exitCode, 0);
+    EXPECT_EQ(station.AlarmFiles().size(), 300u);
+}
+
+TEST(Receiver, ALimitOfEventsRemovesTheOldest) {
+    cStation station;
+    station.Configure("[General]\r\nMaxEvents=10\r\n");
+    ASSERT_TRUE(station.Start());
+    EXPECT_EQ(station.Send({"--count", "25", "--quiet"}).exitCode, 0);
+    EXPECT_EQ(station.AlarmFiles().size(), 10u);
+}
+
+TEST(Receiver, ItAnswersOverIPv4AndIPv6) {
+    cStation station;
+    ASSERT_TRUE(station.Start());
+    EXPECT_EQ(station.Send({"--host", "127.0.0.1", "--keepalive"}).exitCode, 0);
+    EXPECT_EQ(station.Send({"--host", "::1", "--keepalive"}).exitCode, 0);
+}
+
+TEST(Receiver, TwoFoldersRunSideBySide) {
+    cStation first;
+    cStation second;
+    ASSERT_TRUE(first.Start());
+    ASSERT_TRUE(second.Start());
+    EXPECT_EQ(first.Send({"--t0", "first"}).exitCode, 0);
+    EXPECT_EQ(second.Send({"--t0", "second", "--count", "2"}).exitCode, 0);
+    EXPECT_EQ(first.AlarmFiles().size(), 1u);
+    EXPECT_EQ(second.AlarmFiles().size(), 2u);
+}
+
+TEST(Receiver, AFloodWithoutLineEndEndsTheConnectionAndTheNextOneWorks) {
+    cStation station;
+    ASSERT_TRUE(station.Start());
+    send::cConnection flood("127.0.0.1", std::to_string(station.m_Port), 10);
+    const std::string chunk(64 * 1024, 'x');
+    for (int i = 0; i < 20; ++i) flood.Send(chunk);
+    // The station's end of the connection comes as the end of what can be read, long before the time is over.
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(flood.ReadReply(), "");
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(8));
+    EXPECT_EQ(station.Send({"--t0", "after"}).exitCode, 0);
+    EXPECT_EQ(station.AlarmFiles().size(), 1u);
+}
+
+}  // namespace
+}  // namespace vigrel

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <filesystem>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "support/temporary_folder.h"
+
+namespace vigrel::testing {
+
+// What a program printed and how it ended.
+struct cResult {
+    int exitCode = -1;
+    std::string output;  // standard output and error
+};
+
+// Runs a program of the build to its end.
+cResult RunProgram(const std::string& program, const std::vector<std::string>& arguments);
+
+// A free TCP port of this machine.
+int FreePort();
+
+// A real vigrel-receiver on an application folder of its own, with the texts "T<id>" and a free port.
+class cStation {
+  public:
+    cStation();
+    ~cStation();
+    cStation(const cStation&) = delete;
+    cStation& operator=(const cStation&) = delete;
+
+    // Sections and keys of the configuration, below what the station needs to run here. Before Start.
+    void Configure(const std::string& content) { m_Configuration = content; }
+    // Starts the program and waits until it is ready or has ended. True when it is ready.
+    bool Start(const std::vector<std::string>& switches = {});
+    // Ends it with the signal; the exit code, or minus the signal that killed it.
+    int Stop(int signal);
+    // Waits for the program's own end.
+    int WaitForEnd();
+    bool Running() const { return m_Process > 0; }
+
+    // vigrel-send to this station.
+    cResult Send(std::vector<std::string> arguments) const;
+    std::filesystem::path Folder() const { return m_Folder.Path(); }
+    // Today's log without the time stamps.
+    std::vector<std::string> Log() const;
+    bool WaitForLog(const std::string& line, double seconds = 10) const;
+    std::vector<std::filesystem::path> AlarmFiles() const;
+    std::string StandardError() const;
+
+    int m_Port;
+    std::map<std::string, std::string> m_Environment{{"QT_QPA_PLATFORM", "offscreen"}};
+
+  private:
+    void WriteConfiguration() const;
+
+    cTemporaryFolder m_Folder;
+    std::string m_Configuration;
+    pid_t m_Process = -1;
+};
+
+std::string ReadAll(const std::filesystem::path& path);
+
+}  // namespace vigrel::testing
