@@ -206,8 +206,8 @@ void cPopups::StackBehindChosen(Vigrel_Receiver_Popup& popup) {
 
 Vigrel_Receiver_Popup* cPopups::SelectTopPopup(const Vigrel_Receiver_Popup* excluded) {
     cBest best;
-    best.stamp = m_Services.clock.Now();
-    // A clock that was set back, as each autumn, must not put popups from before out of sight.
+    // Stamps begin at the present time: at the latest one there is, since a clock that was set back, as each
+    // autumn, must not put popups from before out of sight.
     ForEachOther(excluded, [&](const Vigrel_Receiver_Popup& popup) {
         best.stamp = std::max(best.stamp, popup.m_TimeStamp);
     });

@@ -13,10 +13,10 @@ cAboutWindow::cAboutWindow(cOpenWindows& windows, const cScreen& screen, const c
       m_TimerUnload(std::move(timerUnload)),
       m_Box(*m_TimerUnload) {
     setAttribute(Qt::WA_ShowWithoutActivating);
-    setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     cAboutWindow::SetCaption("Vigrel - Larmmottagare");
 
-    constexpr int kIconSize = 64, kMargin = 20;
+    constexpr int kIconSize = 64, kMargin = 20, kLabelWidth = 260;
     auto* icon = new QLabel(this);
     icon->setPixmap(QIcon(":/icons/vigrel-receiver.svg").pixmap(kIconSize));
     auto* label = new QLabel(this);
@@ -24,6 +24,7 @@ cAboutWindow::cAboutWindow(cOpenWindows& windows, const cScreen& screen, const c
     label->setTextFormat(Qt::PlainText);
     label->setText(ToQString(AboutText(texts)).replace("\r\n", "\n"));
     label->setAccessibleName(label->text());
+    label->setMinimumWidth(kLabelWidth);  // room for the caption too
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     layout->setSpacing(kMargin);

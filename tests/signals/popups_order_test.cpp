@@ -109,6 +109,14 @@ TEST_F(cOnePopup, TheTopmostTestTakesTheListAsWritten) {
     EXPECT_EQ(m_Popups.SelectTopPopup(nullptr)->m_PriorityIndex, 1);
 }
 
+TEST_F(cOnePopup, TheTopmostTestLeavesOuterBlanksOfTheListAlone) {
+    m_Settings.m_PopupFormTopMostCategory = " A,B ";
+    Show("A");
+    Show("B");
+    EXPECT_TRUE(m_Maker[1].m_TopMost);
+    EXPECT_TRUE(m_Maker[2].m_TopMost);
+}
+
 TEST_F(cOnePopup, ACategoryBehindAnEmptyFieldIsTopmostAllTheSame) {
     m_Settings.m_PopupFormTopMostCategory = "A,,B";
     Show("B");
