@@ -12,12 +12,16 @@
 #include <QTest>
 
 #include "common/code_page.h"
+#include "contract/popup_contract.h"
 #include "signals/popups.h"
 #include "support/popup_station.h"
 #include "support/qt_wait.h"
+#include "ui/popup_rig.h"
 
 namespace vigrel::testing {
 namespace {
+
+INSTANTIATE_TYPED_TEST_SUITE_P(Qt, PopupContract, cPopupWidgetRig);
 
 // --- text
 
