@@ -1,5 +1,6 @@
 #include "ui/popup_window.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QFile>
 #include <QKeyEvent>
@@ -142,6 +143,9 @@ void cPopupWidget::Map() {
     show();
     // One that a window manager has restored would come back as an icon.
     if (!minimised && !isMaximized()) showNormal();
+    // Screen readers speak it, as they would a message box.
+    QAccessibleEvent alert(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
 }
 
 void cPopupWidget::Closed() {

@@ -162,6 +162,26 @@ TEST_F(cPopupsUnderX, TheFrameStandsWhereTheFileSays) {
     }
 }
 
+TEST_F(cPopupsUnderX, APopupThatWasHiddenComesBackWhereItStood) {
+    m_Settings.m_PopupFormTopMostCategory = "A";
+    m_Settings.m_ViewOnlyOnePopupForm = true;
+    Configure("X_Size=400\nY_Size=150\nWindowPosition=STATIC\nX_Start=100\nY_Start=200\n");
+    Open("B");
+    const QRect place(100, 200, 400, 150);
+    for (int number = 2; number < 6; ++number) {
+        ASSERT_TRUE(StacksAs("1"));
+        ASSERT_TRUE(WaitUntil([&] { return Popup(1).frameGeometry() == place; })) << number;
+        // Nothing moves it later either.
+        RunEvents(50);
+        ASSERT_EQ(Popup(1).frameGeometry(), place) << number;
+        Open("A");
+        ASSERT_TRUE(StacksAs(std::to_string(number)));
+        EXPECT_EQ(Popup(1).Left(), 1500);
+        EXPECT_EQ(Popup(1).Top(), 3000);
+        Popup(number).Close();
+    }
+}
+
 TEST_F(cPopupsUnderX, NoPopupIsSeenWhereItWillNotStay) {
     Configure("WindowPosition=STATIC\nX_Start=100\nY_Start=200\n");
     m_Screen.WatchPlaces();
