@@ -69,6 +69,11 @@ class cDefinitionFolder {
         m_Definitions.push_back(std::move(definition));
         return m_Definitions.size() - 1;
     }
+    // Writes one, and reads it back as the file has it.
+    bool Save(std::size_t position) {
+        Definition& definition = *m_Definitions.at(position);
+        return definition.SaveToDisk() && definition.LoadFromDisk(definition.m_DiskIdentity);
+    }
     // Takes one away, with its file when it has one. False, and it stays, when the file can't be removed.
     bool Remove(std::size_t position) {
         Definition& definition = *m_Definitions.at(position);

@@ -73,6 +73,18 @@ TEST_F(DefinitionFolder, ACopyHasAFreeNameAndNoIdentity) {
     EXPECT_EQ(m_Receivers.FreeName("Duty1"), "Duty1 3");
 }
 
+TEST_F(DefinitionFolder, ASaveReadsBackWhatTheFileHas) {
+    m_Receivers.Load();
+    m_Receivers.At(0).m_ReceiverName = "Changed";
+    m_Clock.Set(2026, 5, 1);
+    EXPECT_TRUE(m_Receivers.Save(0));
+    EXPECT_EQ(m_Receivers.At(0).m_FileDateTimeStamp, m_Clock.Now());
+    m_Receivers.At(0).m_ReceiverName = "Again";
+    m_Files.m_FolderReadOnly = true;
+    EXPECT_FALSE(m_Receivers.Save(0));
+    EXPECT_EQ(m_Receivers.At(0).m_ReceiverName, "Again");
+}
+
 TEST_F(DefinitionFolder, RemovingTakesTheFileAwayToo) {
     m_Receivers.Load();
     EXPECT_TRUE(m_Receivers.Remove(0));

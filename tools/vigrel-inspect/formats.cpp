@@ -6,18 +6,17 @@
 #include "common/dates.h"
 #include "common/numbers.h"
 #include "definitions/definition_file.h"
+#include "schedule/definition_files.h"
 
 namespace vigrel {
 namespace {
 
-constexpr std::array kDayTypes = {"Monday", "Tuesday",  "Wednesday", "Thursday",
-                                  "Friday", "Saturday", "Sunday"};
-constexpr int kDayTypeCount = 23;
-constexpr std::int16_t kMinutesPerDay = 1440;
+constexpr std::array kWeekDayNames = {"Monday", "Tuesday",  "Wednesday", "Thursday",
+                                      "Friday", "Saturday", "Sunday"};
 
 std::string DayTypeName(int dayType) {
-    if (dayType < 7) return kDayTypes[static_cast<std::size_t>(dayType)];
-    return "special day " + std::to_string(dayType - 6);
+    if (dayType < kWeekDays) return kWeekDayNames[static_cast<std::size_t>(dayType)];
+    return "special day " + std::to_string(dayType - kWeekDays + 1);
 }
 
 void ReadSpares(cFieldReader& file, const std::string& owner) {
@@ -92,9 +91,9 @@ void ReadProfileRecord(cFieldReader& file) {
 
 void ReadPeriod(cFieldReader& file, const std::string& name) {
     const std::int16_t start = file.Int16(name + " start");
-    file.ExpectRange(start, 0, kMinutesPerDay);
+    file.ExpectRange(start, 0, kMinutesOfDay);
     const std::int16_t stop = file.Int16(name + " stop");
-    file.ExpectRange(stop, 0, kMinutesPerDay);
+    file.ExpectRange(stop, 0, kMinutesOfDay);
     if (stop < start) file.Problem("the period stops before it starts");
 }
 
@@ -151,7 +150,7 @@ void ReadProfileFields(cFieldReader& file, cInspection& inspection) {
 }
 
 void ReadScheduleFields(cFieldReader& file) {
-    for (int dayType = 0; dayType < kDayTypeCount; ++dayType) {
+    for (int dayType = 0; dayType < kDayTypes; ++dayType) {
         const std::string day = DayTypeName(dayType);
         file.Boolean(day + " active");
         file.Boolean(day + " grouped");
@@ -166,27 +165,26 @@ void ReadScheduleFields(cFieldReader& file) {
 
 void ReadCalendarFields(std::string_view content, cInspection& inspection) {
     cBinaryReader file(content);
-    for (std::size_t day = 0; day < kCalendarDays; ++day) {
+    for (std::int32_t day = 0; day < kCalendarDays; ++day) {
+        const std::size_t from = file.Position();
         const std::int16_t value = file.Int16();
         if (!file.Complete()) {
             inspection.problems.push_back(
-                {day * 2, "",
+                {from, "",
                  "the file ends at day " + std::to_string(day) + " of " + std::to_string(kCalendarDays)});
             return;
         }
         if (value == 0) continue;
-        const std::string date =
-            DateTimeText(DateSerial(2000, 1, 1) + static_cast<double>(day)).substr(0, 10);
-        const bool known = value > 0 && value <= kDayTypeCount;
+        const std::string date = DateTimeText(kFirstCalendarDay + day).substr(0, 10);
+        const bool known = value > 0 && value <= kDayTypes;
         inspection.fields.push_back(
-            {date + (known ? " (" + DayTypeName(value - 1) + ")" : ""), day * 2, 2, std::int64_t{value}});
-        if (!known)
-            inspection.problems.push_back({day * 2, date, std::to_string(value) + " is not in 0 to 23"});
+            {date + (known ? " (" + DayTypeName(value - 1) + ")" : ""), from, 2, std::int64_t{value}});
+        if (!known) inspection.problems.push_back({from, date, std::to_string(value) + " is not in 0 to 23"});
     }
-    if (content.size() > kCalendarDays * 2) {
+    if (content.size() > kCalendarFileSize) {
         inspection.problems.push_back(
-            {kCalendarDays * 2, "",
-             std::to_string(content.size() - kCalendarDays * 2) + " bytes lie behind the last day"});
+            {kCalendarFileSize, "",
+             std::to_string(content.size() - kCalendarFileSize) + " bytes lie behind the last day"});
     }
 }
 

@@ -14,8 +14,7 @@ void ReadReceiverFields(cFieldReader& file, std::string_view fileName, cInspecti
 void ReadProfileFields(cFieldReader& file, cInspection& inspection);
 void ReadScheduleFields(cFieldReader& file);
 
-// The calendar's days that have a type of their own; the others are only counted.
-constexpr std::size_t kCalendarDays = 14610;
+// The calendar's days that have a type of their own; the others are many and say nothing.
 void ReadCalendarFields(std::string_view content, cInspection& inspection);
 
 // The number in the name of a file: the digits in front of its extension; -1 when there are none.

@@ -5,6 +5,7 @@
 #include "common/code_page.h"
 #include "common/failure.h"
 #include "common/text.h"
+#include "schedule/definition_files.h"
 #include "vigrel-inspect/formats.h"
 
 namespace vigrel {
@@ -55,7 +56,7 @@ std::optional<eFileKind> KindOfFile(std::string_view fileName, std::string_view 
     if (name.ends_with(".ALM")) return eFileKind::Alarm;
     if (name.starts_with("RECEIVER_") && name.ends_with(".DAT")) return eFileKind::Receiver;
     if (name.starts_with("PROFILE_") && name.ends_with(".DAT")) return eFileKind::Profile;
-    if (content.size() == kCalendarDays * 2) return eFileKind::Calendar;
+    if (content.size() == kCalendarFileSize) return eFileKind::Calendar;
     // A schedule has no mark of its own: it is one when all of it reads as one.
     const bool isSchedule = Inspect(eFileKind::Schedule, fileName, content).problems.empty();
     return isSchedule ? std::optional(eFileKind::Schedule) : std::nullopt;
