@@ -81,7 +81,9 @@ void cRecordDecoder::ProcessRecord(const std::string& line) {
 
 void cRecordDecoder::ReadFrame(cFrame& frame, const std::string& line) const {
     SkipFailure([&] { frame.alarm->m_Sender = Mid(Field(line, 0), 2); });
-    SkipFailure([&] { frame.text = Field(line, 1); });
+    // A field that can't be read is no empty one, which would pass for a keep-alive: what it held would be
+    // answered as if it were stored.
+    if (!SkipFailure([&] { frame.text = Field(line, 1); })) frame.text = line;
     frame.kind = KindOf(frame.text);
     std::string checksum;
     SkipFailure([&] { checksum = Mid(Field(line, 2), 1, 2); });

@@ -286,8 +286,11 @@ TEST_F(RecordDecoder, ABadFrameBringsALostSenderBack) {
 }
 
 TEST_F(RecordDecoder, AFieldBeyondTheSixteenBitPositionsIsRefused) {
-    EXPECT_EQ(Frame("PLC1", "S1" + std::string(40000, 'x')), kNegativeReply);
+    for (const char* sender : {"PLC1", "Alpha"}) {
+        EXPECT_EQ(Frame(sender, "S1" + std::string(40000, 'x')), kNegativeReply) << sender;
+    }
     EXPECT_TRUE(alarms.empty());
+    EXPECT_EQ(Log(), "PLC1T10029\n");
 }
 
 TEST_F(RecordDecoder, AFailingIntakeStillGetsTheAlarmLoggedAndAnswered) {
