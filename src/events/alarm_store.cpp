@@ -112,6 +112,9 @@ void cAlarmStore::RetryUnsaved() {
     const auto stillUnsaved = std::find_if_not(m_Unsaved.begin(), m_Unsaved.end(),
                                                [&](const AlarmPtr& alarm) { return TrySave(*alarm); });
     m_Unsaved.erase(m_Unsaved.begin(), stillUnsaved);
+    // That round begins behind the one that failed, lest a single file that can never be written keeps all
+    // others from the disk.
+    if (!m_Unsaved.empty()) std::rotate(m_Unsaved.begin(), m_Unsaved.begin() + 1, m_Unsaved.end());
 }
 
 // A binary search that comes back to the neighbour it came from; among equal times the newcomer stands behind

@@ -132,6 +132,27 @@ TEST_F(AlarmStore, AnUnsavedAlarmThatLeavesTheStoreIsNotWrittenAnyMore) {
     EXPECT_TRUE(files.FileExists(store.FileName(second->m_FileId)));
 }
 
+TEST_F(AlarmStore, AFileThatCanNeverBeWrittenKeepsNoOtherFromTheDisk) {
+    random.m_Values = {0.1, 0.2, 0.3};
+    files.m_DiskFull = true;
+    const AlarmPtr stuck = Take(MakeAlarm("stuck"));
+    Take(MakeAlarm("second"));
+    Take(MakeAlarm("third"));
+    files.m_DiskFull = false;
+    const std::string name = store.FileName(stuck->m_FileId);
+    files.m_OnCall = [&](std::string_view operation, std::string_view path) {
+        if (operation == "write" && path.starts_with(name)) {
+            throw cFailure(eFailure::PermissionDenied, std::string(path));
+        }
+    };
+    store.RetryUnsaved();
+    store.RetryUnsaved();
+    EXPECT_EQ(AlarmFiles().size(), 2u);
+    files.m_OnCall = nullptr;
+    store.RetryUnsaved();
+    EXPECT_EQ(AlarmFiles().size(), 3u);
+}
+
 TEST_F(AlarmStore, AFailedFolderSyncIsTriedAgain) {
     files.m_FailCall = files.m_Calls + 2;  // write, rename, sync
     Take(MakeAlarm());
