@@ -34,6 +34,8 @@ eStartUp cVigrelReceiverMain::Form_Load() {
     ReadCategories(devices);
     SetCaptions();
     if (!IsOnlyInstance()) return eStartUp::SecondInstance;
+    // Not before: another instance could be writing one.
+    RemoveTemporaries(m_Ports.files, m_ApplicationPath);
     if (!ReachSuiteLibrary()) return eStartUp::NoSuiteLibrary;
     SetTitle();
     ReadSettings(m_Ini, m_Settings, [this] { SetListFont(); });
@@ -56,7 +58,6 @@ eStartUp cVigrelReceiverMain::Form_Load() {
 }
 
 void cVigrelReceiverMain::PrepareFolders() {
-    RemoveTemporaries(m_Ports.files, m_ApplicationPath);
     CopyMissingFiles(m_Ports.files, m_ApplicationPath + "Templates\\", m_ApplicationPath, "*", "oni", "ini");
     SkipFailure([&] { m_Ports.files.MakeFolder(m_ApplicationPath + "LogFiles"); });
     SkipFailure([&] { m_Ports.files.MakeFolder(m_ApplicationPath + "Alarms"); });

@@ -295,5 +295,12 @@ TEST_F(StartUp, LeftoverTemporariesAreCleared) {
     EXPECT_FALSE(files.FileExists("C:\\App\\VigrelReceiver.INI.$~"));
 }
 
+TEST_F(StartUp, ASecondInstanceLeavesTheFirstOnesTemporariesAlone) {
+    files.Put("C:\\App\\VigrelReceiver.INI.$~", "being written");
+    singleInstance.m_Another = true;
+    EXPECT_EQ(Load(), eStartUp::SecondInstance);
+    EXPECT_TRUE(files.FileExists("C:\\App\\VigrelReceiver.INI.$~"));
+}
+
 }  // namespace
 }  // namespace vigrel
