@@ -7,6 +7,7 @@
 #include "common/code_page.h"
 #include "common/failure.h"
 #include "common/file_procedures.h"
+#include "common/numbers.h"
 #include "common/text.h"
 
 namespace vigrel {
@@ -145,6 +146,25 @@ void cIni::PutIniString(std::string_view section, std::string_view key, std::str
     SkipFailure([&] { ReplaceFile(m_Files, path, WithKey(std::move(content), section, key, entry)); });
     // A file system may stamp two contents written in quick succession alike.
     m_Cache.erase(ToUpper(fileName));
+}
+
+template <class Integer>
+Integer cIni::Number(std::string_view section, std::string_view key, std::string_view text,
+                     Integer (*convert)(double)) const {
+    Integer number{};
+    if (const auto failure = CatchFailure([&] { number = convert(Val(text)); })) {
+        throw cFailure(failure->Number(), FullPath(kIniFile) + ": key " + std::string(key) + " of section " +
+                                              std::string(section) + " is \"" + std::string(text) +
+                                              "\": " + failure->what());
+    }
+    return number;
+}
+
+std::int16_t cIni::Int16(std::string_view section, std::string_view key, std::string_view text) const {
+    return Number(section, key, text, ToInt16);
+}
+std::int32_t cIni::Int32(std::string_view section, std::string_view key, std::string_view text) const {
+    return Number(section, key, text, ToInt32);
 }
 
 std::int32_t ReadIniSection(const cFileReader& files, std::string_view section, std::string& buffer,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <string>
 #include <string_view>
@@ -35,7 +36,15 @@ class cIni {
     void PutIniString(std::string_view section, std::string_view key, std::string_view value,
                       std::string_view fileName = kIniFile);
 
+    // The number in the text of a key, rounded. One beyond the range throws cFailure (Overflow) that names
+    // file, section, key and text: nobody finds a number without its key.
+    std::int16_t Int16(std::string_view section, std::string_view key, std::string_view text) const;
+    std::int32_t Int32(std::string_view section, std::string_view key, std::string_view text) const;
+
   private:
+    template <class Integer>
+    Integer Number(std::string_view section, std::string_view key, std::string_view text,
+                   Integer (*convert)(double)) const;
     struct cParsed {
         cFileReader::cStamp stamp;
         // Upper-cased section, then upper-cased key.

@@ -3,7 +3,6 @@
 #include <string>
 
 #include "common/code_page.h"
-#include "common/failure.h"
 #include "common/numbers.h"
 #include "common/text.h"
 
@@ -25,25 +24,13 @@ class cSection {
         return Val(Text(key, defaultValue));
     }
     std::int16_t Int16(std::string_view key, std::string_view defaultValue) const {
-        return Number(key, defaultValue, ToInt16);
+        return m_Ini.Int16(m_Section, key, Text(key, defaultValue));
     }
     std::int32_t Int32(std::string_view key, std::string_view defaultValue) const {
-        return Number(key, defaultValue, ToInt32);
+        return m_Ini.Int32(m_Section, key, Text(key, defaultValue));
     }
 
   private:
-    template <class Integer>
-    Integer Number(std::string_view key, std::string_view defaultValue, Integer (*convert)(double)) const {
-        const std::string text = Text(key, defaultValue);
-        try {
-            return convert(Val(text));
-        } catch (const cFailure& failure) {
-            // The one place that takes a failure to say more: nobody finds a number without its key.
-            throw cFailure(failure.Number(), m_Ini.FullPath(kIniFile) + ": key " + std::string(key) +
-                                                 " of section " + m_Section + " is \"" + text +
-                                                 "\": " + failure.what());
-        }
-    }
     const cIni& m_Ini;
     std::string m_Section;
 };

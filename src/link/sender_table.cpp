@@ -29,7 +29,7 @@ void cSenderTable::AddSender(const std::string& entry) {
     MarkSeen(sender);
     sender.AlarmRaised = false;
     sender.SenderName = GetField(entry, 0, "=");
-    sender.KeepAliveMinutes = ToInt16(Val(GetField(entry, 1, "=")));
+    sender.KeepAliveMinutes = m_Services.ini.Int16("Senders", sender.SenderName, GetField(entry, 1, "="));
     sender.NotYetSeen = true;
     ++m_SenderCount;
 }

@@ -83,6 +83,14 @@ TEST_F(AlarmListView, ThirtyTwoColumnsAreTheMost) {
     EXPECT_THROW(other.view.SetUpColumns(other.settings), cFailure);
 }
 
+TEST_F(AlarmListView, AWidthOutOfRangeNamesItsColumn) {
+    Ini("[General]\r\nColumns=t0\r\n[t0]\r\nColumnWidth=1e10\r\n");
+    const auto failure = CatchFailure([&] { view.SetUpColumns(settings); });
+    ASSERT_TRUE(failure);
+    EXPECT_NE(std::string(failure->what()).find("key ColumnWidth of section t0 is \"1e10\""),
+              std::string::npos);
+}
+
 TEST_F(AlarmListView, EveryKindOfColumnHasItsText) {
     Start(
         "[General]\r\nColumns=t5,StateIcon,StateText,AlarmDate,AlarmTime,AlarmDateTime,Date,Time,DateTime,"

@@ -102,7 +102,12 @@ TEST_F(SenderTable, ASectionTooLargeKeepsTheLeadingSenders) {
 }
 
 TEST_F(SenderTable, MinutesBeyondSixteenBitsEndTheStart) {
-    EXPECT_THROW(Read("Alpha=32768\r\n"), cFailure);
+    const auto failure = CatchFailure([&] { Read("Alpha=32768\r\n"); });
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->Number(), eFailure::Overflow);
+    const std::string text = failure->what();
+    EXPECT_TRUE(text.starts_with("C:\\App\\VigrelReceiver.INI: key Alpha of section Senders is \"32768\": "))
+        << text;
 }
 
 TEST_F(SenderTable, TheTableIsLoggedWithMinutesOrAsUnsupervised) {
