@@ -28,10 +28,10 @@ function(vigrel_library name)
   endif()
 endfunction()
 
-# vigrel_tests(name [DEPENDS lib...] [LABEL label] [ENVIRONMENT var=value]): every *.cpp of the calling folder as the
-# test program <name>_tests. The label is the name unless given.
+# vigrel_tests(name [DEPENDS lib...] [LABEL label] [ENVIRONMENT var=value] [SERIAL]): every *.cpp of the calling folder
+# as the test program <name>_tests. The label is the name unless given. SERIAL: no other test runs beside it.
 function(vigrel_tests name)
-  cmake_parse_arguments(arg "" "LABEL;ENVIRONMENT" "DEPENDS" ${ARGN})
+  cmake_parse_arguments(arg "SERIAL" "LABEL;ENVIRONMENT" "DEPENDS" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
   if(NOT sources)
     return()
@@ -46,6 +46,6 @@ function(vigrel_tests name)
   target_include_directories(${name}_tests PRIVATE ${PROJECT_SOURCE_DIR}/tests)
   target_link_libraries(${name}_tests PRIVATE vigrel_flags ${arg_DEPENDS} GTest::gtest GTest::gtest_main)
   gtest_discover_tests(${name}_tests TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 60
-    PROPERTIES LABELS ${arg_LABEL} ENVIRONMENT ${arg_ENVIRONMENT} TIMEOUT 300)
+    PROPERTIES LABELS ${arg_LABEL} ENVIRONMENT ${arg_ENVIRONMENT} TIMEOUT 300 RUN_SERIAL ${arg_SERIAL})
 endfunction()
 include(GoogleTest)

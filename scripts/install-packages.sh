@@ -5,8 +5,8 @@ set -euo pipefail
 # Building and running a station.
 packages=(
     g++ cmake ninja-build pkg-config
-    qt6-base-dev qt6-multimedia-dev libqt6svg6-dev libgl-dev libxcb1-dev
-    libsndfile1-dev libhidapi-dev libcups2-dev libgtest-dev
+    qt6-base-dev libqt6svg6-dev libgl-dev libxcb1-dev
+    libsndfile1-dev libpulse-dev libhidapi-dev libcups2-dev libgtest-dev
     fonts-dejavu-core
 )
 # Checking what lands: formatting, windows under a real window manager, sound, printing.
