@@ -82,12 +82,14 @@ int FreePort() {
     return ntohs(address.sin_port);
 }
 
-cStation::cStation() : m_Port(FreePort()) {
+cStation::cStation() : m_Port(FreePort()), m_Folder(std::make_shared<cTemporaryFolder>()) {
     std::string texts;
     for (int id = 1; id < 1100; ++id) texts += std::to_string(id) + "=T" + std::to_string(id) + "\r\n";
     for (int id = 10000; id < 10050; ++id) texts += std::to_string(id) + "=T" + std::to_string(id) + "\r\n";
     std::ofstream(Folder() / "Vigrel_Texts.046", std::ios::binary) << "0=Test\r\n" << texts;
 }
+
+cStation::cStation(const cStation* other) : m_Port(other->m_Port), m_Folder(other->m_Folder) {}
 
 cStation::~cStation() {
     if (Running()) Stop(SIGKILL);
@@ -107,9 +109,8 @@ void cStation::WriteConfiguration() const {
     std::ofstream(ini, std::ios::binary) << content << "[TCPIP]\r\nPort=" << m_Port << "\r\n";
 }
 
-bool cStation::Start(const std::vector<std::string>& switches) {
+void cStation::Launch(const std::vector<std::string>& switches) {
     WriteConfiguration();
-    const std::size_t before = Log().size();
     const std::string path = ProgramPath("vigrel-receiver");
     m_Process = fork();
     if (m_Process == 0) {
@@ -117,6 +118,11 @@ bool cStation::Start(const std::vector<std::string>& switches) {
         for (const auto& [name, value] : m_Environment) setenv(name.c_str(), value.c_str(), 1);
         Execute(path, switches, open((Folder() / "stderr.txt").c_str(), O_WRONLY | O_CREAT | O_APPEND, 0666));
     }
+}
+
+bool cStation::Start(const std::vector<std::string>& switches) {
+    const std::size_t before = Log().size();
+    Launch(switches);
     const auto deadline = Clock::now() + std::chrono::seconds(30);
     while (Clock::now() < deadline) {
         const auto log = Log();

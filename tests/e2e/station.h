@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -27,6 +28,8 @@ int FreePort();
 class cStation {
   public:
     cStation();
+    // A second program on the folder, and with the port, of another.
+    explicit cStation(const cStation* other);
     ~cStation();
     cStation(const cStation&) = delete;
     cStation& operator=(const cStation&) = delete;
@@ -35,6 +38,8 @@ class cStation {
     void Configure(const std::string& content) { m_Configuration = content; }
     // Starts the program and waits until it is ready or has ended. True when it is ready.
     bool Start(const std::vector<std::string>& switches = {});
+    // Starts the program without waiting.
+    void Launch(const std::vector<std::string>& switches = {});
     // Ends it with the signal; the exit code, or minus the signal that killed it.
     int Stop(int signal);
     // Waits for the program's own end.
@@ -43,7 +48,8 @@ class cStation {
 
     // vigrel-send to this station.
     cResult Send(std::vector<std::string> arguments) const;
-    std::filesystem::path Folder() const { return m_Folder.Path(); }
+    pid_t Process() const { return m_Process; }
+    std::filesystem::path Folder() const { return m_Folder->Path(); }
     // Today's log without the time stamps.
     std::vector<std::string> Log() const;
     bool WaitForLog(const std::string& line, double seconds = 10) const;
@@ -56,7 +62,7 @@ class cStation {
   private:
     void WriteConfiguration() const;
 
-    cTemporaryFolder m_Folder;
+    std::shared_ptr<cTemporaryFolder> m_Folder;
     std::string m_Configuration;
     pid_t m_Process = -1;
 };

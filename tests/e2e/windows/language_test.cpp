@@ -1,0 +1,74 @@
+// A first start with the delivered languages, by keyboard alone.
+
+#include <gtest/gtest.h>
+#include <signal.h>
+
+#include <fstream>
+
+#include "e2e/station.h"
+#include "e2e/windows/operator.h"
+
+namespace vigrel {
+namespace {
+
+using testing::cStation;
+using testing::FindWindow;
+using testing::Press;
+using testing::ReadAll;
+
+// The text of an id in a delivered language.
+std::string DeliveredText(const std::string& language, int id) {
+    std::ifstream file(std::string(VIGREL_SHARE_DIR) + "/Vigrel_Texts." + language, std::ios::binary);
+    const std::string key = std::to_string(id) + "=";
+    for (std::string line; std::getline(file, line);) {
+        if (!line.starts_with(key)) continue;
+        if (line.back() == '\r') line.pop_back();
+        return line.substr(key.size());
+    }
+    return {};
+}
+
+// A folder as it is after installation: the delivered texts, and no language chosen yet.
+void PutDeliveredTexts(const cStation& station) {
+    for (const auto& entry : std::filesystem::directory_iterator(station.Folder())) {
+        std::filesystem::remove_all(entry.path());
+    }
+    for (const auto& entry : std::filesystem::directory_iterator(VIGREL_SHARE_DIR)) {
+        if (entry.path().filename().string().starts_with("Vigrel_Texts.")) {
+            std::filesystem::copy(entry.path(), station.Folder() / entry.path().filename());
+        }
+    }
+    std::ofstream(station.Folder() / "VigrelReceiver.INI") << "[TCPIP]\r\nPort=" << station.m_Port << "\r\n";
+}
+
+TEST(FirstStart, TheLanguageIsChosenByKeyboardAndTheStationRunsInItAtOnce) {
+    cStation station;
+    PutDeliveredTexts(station);
+    station.m_Environment = {{"QT_QPA_PLATFORM", "xcb"}, {"LC_ALL", "C.UTF-8"}, {"LANG", "C.UTF-8"}};
+    station.Launch();
+    const std::string window = FindWindow(station.Process(), "Vigrel - Select Language");
+    ASSERT_NE(window, "") << station.StandardError();
+    Press(window, {"n", "Return"});  // norsk
+    EXPECT_TRUE(station.WaitForLog(DeliveredText("047", 10011))) << station.StandardError();
+    const std::string ini = ReadAll(station.Folder() / "VigrelReceiver.INI");
+    EXPECT_NE(ini.find("Language=047\r\n"), std::string::npos) << ini;
+    EXPECT_NE(FindWindow(station.Process(), DeliveredText("047", 10000)), "");
+    EXPECT_EQ(station.Stop(SIGTERM), 0);
+    EXPECT_EQ(station.Log().back(), DeliveredText("047", 10020));
+}
+
+TEST(FirstStart, WithoutAChoiceTheProgramEndsWithoutAWord) {
+    cStation station;
+    PutDeliveredTexts(station);
+    station.m_Environment = {{"QT_QPA_PLATFORM", "xcb"}, {"LC_ALL", "C.UTF-8"}};
+    station.Launch();
+    const std::string window = FindWindow(station.Process(), "Vigrel - Select Language");
+    ASSERT_NE(window, "") << station.StandardError();
+    Press(window, {"Escape"});
+    EXPECT_EQ(station.WaitForEnd(), 1);
+    EXPECT_EQ(station.StandardError().find("Failure"), std::string::npos) << station.StandardError();
+    EXPECT_TRUE(station.Log().empty());
+}
+
+}  // namespace
+}  // namespace vigrel

@@ -1,0 +1,19 @@
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <exception>
+
+#include "x11/x_server.h"
+
+int main(int argc, char** argv) {
+    ::testing::InitGoogleTest(&argc, argv);
+    // Listing the tests, as a build does, needs no screen.
+    if (GTEST_FLAG_GET(list_tests)) return RUN_ALL_TESTS();
+    try {
+        const vigrel::testing::cXServer server;
+        return RUN_ALL_TESTS();
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "%s\n", failure.what());
+        return 1;
+    }
+}

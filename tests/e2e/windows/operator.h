@@ -1,0 +1,18 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <string>
+#include <vector>
+
+namespace vigrel::testing {
+
+// Somebody at the screen with a keyboard.
+//
+// The window of a program that shows by now, or within the time; empty when there is none.
+std::string FindWindow(pid_t process, const std::string& title = "", double seconds = 20);
+std::string TitleOf(const std::string& window);
+// Gives the window the keyboard, then presses keys by their names ("Return", "Tab", "s").
+void Press(const std::string& window, const std::vector<std::string>& keys);
+
+}  // namespace vigrel::testing
