@@ -4,18 +4,7 @@
 #include "platform/notification_area.h"
 #include "platform/signal_light.h"
 #include "platform/suite_library.h"
-#include "platform/wave_device.h"
 namespace vigrel {
-struct cNoWave : cWaveDevice {
-    void SetDeviceType(std::string_view) override {}
-    std::string FileName() const override { return {}; }
-    void SetFileName(std::string_view) override {}
-    void Command(std::string_view) override {}
-    void SetNotify(bool) override {}
-    void SetWait(bool) override {}
-    void SetShareable(bool) override {}
-    int Mode() const override { return 0; }
-};
 struct cNoTray : cNotificationArea {
     void SetIcon(int) override {}
     std::string ToolTip() const override { return {}; }

@@ -12,7 +12,10 @@
 #include "adapters/qt/cQtDataSocket.h"
 #include "adapters/qt/cQtListener.h"
 #include "adapters/qt/cQtLocale.h"
+#include "adapters/qt/cQtSettingStore.h"
 #include "adapters/qt/cQtTimer.h"
+#include "adapters/qt/cQtWaveDevice.h"
+#include "adapters/qt/cTonePlayer.h"
 #include "adapters/qt/stop_signals.h"
 #include "common/failure.h"
 #include "core/Vigrel_Receiver_Main.h"
@@ -73,13 +76,18 @@ int Run(int argc, char** argv) {
     cQtScreen screen;
     cQtMessageBox messageBox;
     cQtClipboard clipboard;
-    cQtBeeper beeper;
-    cNoWave waveDevice;
+    cQtWaveDevice waveDevice(NativePath);
+    cTonePlayer tone;
+    cQtBeeper beeper([&] {
+        tone.Play();
+        return true;
+    });
     cNoTray trayArea;
     cNoLight signalLight;
     cLocalRunningApps runningApps;
     cNoPrinter printerPorts;
-    cQtOtherWindows otherWindows(files, locale, applicationPath);
+    const cQtSettingStore settingStore;
+    cQtOtherWindows otherWindows({files, clock, locale, screen, settingStore, windows}, applicationPath);
 
     cVigrelReceiverMain receiver({files,          clock,       random,         locale,      singleInstance,
                                   winsockConnect, winsockData, timerKeepAlive, timerPlay,   mainWindow.List(),

@@ -1,8 +1,10 @@
 #pragma once
 
-#include <functional>
+#include <cstdint>
 #include <string_view>
 
+#include "common/receiver_state.h"
+#include "common/texts.h"
 #include "platform/clock.h"
 #include "platform/files.h"
 #include "platform/locale.h"
@@ -26,11 +28,12 @@ class cOtherWindows {
     virtual ~cOtherWindows() = default;
     // Lets the operator choose a language; returns when that window is closed.
     virtual void ShowLanguageWindow() = 0;
-    // Shown without blocking, from now on fed by WriteTrace.
-    virtual void ShowDebugWindow() = 0;
+    // Shown without blocking, from now on fed by WriteTrace; its close clears m_DebugMode. What is referred
+    // to outlives the window.
+    virtual void ShowDebugWindow(const cTexts& texts, cReceiverState& state) = 0;
     virtual void WriteTrace(std::string_view text, std::int16_t kind) = 0;
     // Shown without blocking and painted at once.
-    virtual void ShowAboutBox() = 0;
+    virtual void ShowAboutBox(const cTexts& texts) = 0;
     virtual void UnloadAboutBox() = 0;
 };
 

@@ -118,7 +118,7 @@ void cVigrelReceiverMain::SetListFont() {
 void cVigrelReceiverMain::ApplyWindowSwitches() {
     if (HasSwitch("/TOPMOST")) SetTopMost(m_Ports.mainWindow, true);
     if (HasSwitch("/DEBUG")) {
-        m_Ports.otherWindows.ShowDebugWindow();
+        m_Ports.otherWindows.ShowDebugWindow(m_Texts, m_State);
         m_State.m_DebugMode = true;
     }
     PlaceWindow();
@@ -138,7 +138,7 @@ void cVigrelReceiverMain::PlaceWindow() {
 
 void cVigrelReceiverMain::ShowAbout() {
     m_SplashShown = true;
-    m_Ports.otherWindows.ShowAboutBox();
+    m_Ports.otherWindows.ShowAboutBox(m_Texts);
 }
 
 bool cVigrelReceiverMain::OpenPort() {

@@ -60,6 +60,14 @@ TEST_F(Running, TheTraceGoesToTheDebugWindowInDebugMode) {
     EXPECT_EQ(otherWindows.m_Trace, "1:" + MakeFrame("PLC1", "S0") + ";2:" + kPositiveReply + ";");
 }
 
+TEST_F(Running, ClosingTheDebugWindowEndsTheTraceAndTheStationRunsOn) {
+    Start("/debug");
+    EXPECT_TRUE(receiver->State().m_DebugMode);
+    otherWindows.m_CloseDebugWindow();
+    EXPECT_EQ(Send("PLC1", "S0"), kPositiveReply);
+    EXPECT_EQ(otherWindows.m_Trace, "");
+}
+
 TEST_F(Running, AnEventOpensAPopupPlaysAndPrints) {
     Ini("ViewPopupForm=1\r\nEventPopupFormat=[T0]!\r\nEventSignal=3\r\n",
         "[Printer]\r\nFormat=[SENDER] [T0]\r\n");

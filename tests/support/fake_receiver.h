@@ -28,14 +28,18 @@ class cFakeOtherWindows : public cOtherWindows {
         m_Transcript.Add("language window");
         if (m_OnLanguageWindow) m_OnLanguageWindow();
     }
-    void ShowDebugWindow() override { m_Transcript.Add("debug window"); }
+    void ShowDebugWindow(const cTexts&, cReceiverState& state) override {
+        m_Transcript.Add("debug window");
+        m_CloseDebugWindow = [&state] { state.m_DebugMode = false; };
+    }
     void WriteTrace(std::string_view text, std::int16_t kind) override {
         m_Trace += std::to_string(kind) + ":" + std::string(text) + ";";
     }
-    void ShowAboutBox() override { m_Transcript.Add("about box"); }
+    void ShowAboutBox(const cTexts&) override { m_Transcript.Add("about box"); }
     void UnloadAboutBox() override { m_Transcript.Add("about box unloaded"); }
 
     std::function<void()> m_OnLanguageWindow;
+    std::function<void()> m_CloseDebugWindow;
     std::string m_Trace;
 
   private:
