@@ -6,6 +6,7 @@
 #include <unistd.h>
 #include <xcb/xcb.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
@@ -44,6 +45,32 @@ std::string ReadLine(int file) {
     std::string line;
     for (char c = 0; read(file, &c, 1) == 1 && c != '\n';) line += c;
     return line;
+}
+
+// Whether a window that is shown now comes under a window manager. One that is just starting announces itself
+// before it looks after windows, and loses those that are shown in between.
+bool ProbeIsManaged() {
+    const cXScreen screen;
+    xcb_connection_t* connection = xcb_connect(nullptr, nullptr);
+    const xcb_screen_t* root = xcb_setup_roots_iterator(xcb_get_setup(connection)).data;
+    const xcb_window_t probe = xcb_generate_id(connection);
+    xcb_create_window(connection, XCB_COPY_FROM_PARENT, probe, root->root, 0, 0, 10, 10, 0,
+                      XCB_WINDOW_CLASS_INPUT_OUTPUT, root->root_visual, 0, nullptr);
+    xcb_map_window(connection, probe);
+    xcb_flush(connection);
+    const auto isManaged = [&] {
+        const std::vector<std::uint32_t> clients = screen.RootWindows("_NET_CLIENT_LIST");
+        return std::find(clients.begin(), clients.end(), probe) != clients.end();
+    };
+    const auto waitUntil = [&](bool managed) {
+        for (int tries = 0; tries < 20 && isManaged() != managed; ++tries) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        }
+        return isManaged() == managed;
+    };
+    const bool managed = waitUntil(true);
+    xcb_disconnect(connection);  // and the probe goes
+    return managed && waitUntil(false);
 }
 
 }  // namespace
@@ -91,10 +118,8 @@ void cXServer::StartWindowManager() {
     setenv("HOME", m_Home.c_str(), 1);
     setenv("XDG_CONFIG_HOME", m_Home.c_str(), 1);
     m_WindowManager = Start({"openbox", "--sm-disable"});
-    const cXScreen screen;
-    for (int tries = 0; tries < 500; ++tries) {
-        if (!screen.RootWindows("_NET_SUPPORTING_WM_CHECK").empty()) return;
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    for (int tries = 0; tries < 50; ++tries) {
+        if (ProbeIsManaged()) return;
     }
     throw std::runtime_error("openbox did not start; is package openbox installed?");
 }
