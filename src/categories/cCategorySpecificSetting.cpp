@@ -9,9 +9,6 @@
 namespace vigrel {
 namespace {
 
-constexpr std::string_view kSectionPrefix = "CategorySpecificSetting_";
-constexpr std::size_t kSectionNamesBuffer = 8192;
-
 // One key of a section and state.
 class cStateKeys {
   public:
@@ -108,10 +105,10 @@ void cCategorySettings::ReadDefault(const cIni& ini) {
 void cCategorySettings::ReadCategories(const cFileReader& files, const cIni& ini) {
     const cIniEntries sections = ReadIniEntries(files, "", kSectionNamesBuffer, ini.FullPath(kIniFile));
     for (const std::string& section : sections.entries) {
-        if (!EqualsNoCase(section.substr(0, kSectionPrefix.size()), kSectionPrefix)) continue;
+        if (!EqualsNoCase(section.substr(0, kCategorySectionPrefix.size()), kCategorySectionPrefix)) continue;
         cCategorySpecificSetting& setting = m_CategorySettings.emplace_back();
         setting.GetSettings(section, &m_DefaultCategorySetting, ini);
-        setting.m_Category = Trim(section.substr(kSectionPrefix.size()));
+        setting.m_Category = Trim(section.substr(kCategorySectionPrefix.size()));
     }
 }
 

@@ -15,6 +15,11 @@ namespace vigrel {
 // The suffixes of the keys that are set for each state, by status.
 inline constexpr std::array<std::string_view, 4> kStateSuffixes{"Inactive", "Active", "Acked", "Message"};
 
+// A category's section is named by this and the category, in any case.
+inline constexpr std::string_view kCategorySectionPrefix = "CategorySpecificSetting_";
+// The names of all sections are read into a buffer of this size (ReadIniSection).
+inline constexpr std::size_t kSectionNamesBuffer = 8192;
+
 // Everything that is configured for one category: the look and the signal light of each of the four states,
 // the event signal, sound file, popup format and extra text. Filled once, then only read. A status outside 0
 // to 3 throws cFailure (OutOfBounds).

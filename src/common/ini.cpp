@@ -1,7 +1,6 @@
 #include "common/ini.h"
 
 #include <algorithm>
-#include <optional>
 #include <utility>
 
 #include "common/code_page.h"
@@ -13,36 +12,10 @@
 namespace vigrel {
 namespace {
 
-constexpr std::size_t kBufferSize = 0x800;
-
 std::string TrimSpace(std::string_view text) {
     const std::size_t first = text.find_first_not_of(" \t");
     if (first == std::string_view::npos) return {};
     return std::string(text.substr(first, text.find_last_not_of(" \t") - first + 1));
-}
-
-// The name of a header line for the keyed reads, which allow blanks before the bracket.
-std::optional<std::string> HeaderName(std::string_view line) {
-    const std::string trimmed = TrimSpace(line);
-    const std::size_t close = trimmed.find(']');
-    if (trimmed.empty() || trimmed[0] != '[' || close == std::string::npos) return std::nullopt;
-    return TrimSpace(std::string_view(trimmed).substr(1, close - 1));
-}
-
-struct cKeyLine {
-    std::string key, value;
-};
-
-std::optional<cKeyLine> KeyLine(std::string_view line) {
-    const std::string trimmed = TrimSpace(line);
-    if (trimmed.empty() || trimmed[0] == ';') return std::nullopt;
-    const std::size_t equals = trimmed.find('=');
-    if (equals == std::string::npos) return std::nullopt;
-    std::string value = TrimSpace(std::string_view(trimmed).substr(equals + 1));
-    if (value.size() >= 2 && (value[0] == '"' || value[0] == '\'') && value.back() == value[0]) {
-        value = value.substr(1, value.size() - 2);
-    }
-    return cKeyLine{TrimSpace(std::string_view(trimmed).substr(0, equals)), std::move(value)};
 }
 
 // Where a key of a section stands or would have to be put, by line index.
@@ -55,12 +28,12 @@ cPlace FindPlace(const std::vector<std::string>& lines, std::string_view section
     cPlace place;
     bool inside = false;
     for (std::size_t i = 0; i < lines.size(); ++i) {
-        if (const auto header = HeaderName(lines[i])) {
+        if (const auto header = IniHeaderName(lines[i])) {
             if (inside) break;
             inside = EqualsNoCase(*header, TrimSpace(section));
             if (inside) place.lastOfSection = i;
         } else if (inside) {
-            const auto line = KeyLine(lines[i]);
+            const auto line = ReadIniKeyLine(lines[i]);
             if (line && EqualsNoCase(line->key, TrimSpace(key))) {
                 place.keyLine = i;
                 break;
@@ -97,6 +70,25 @@ std::string WithKey(std::string content, std::string_view section, std::string_v
 
 }  // namespace
 
+std::optional<std::string> IniHeaderName(std::string_view line) {
+    const std::string trimmed = TrimSpace(line);
+    const std::size_t close = trimmed.find(']');
+    if (trimmed.empty() || trimmed[0] != '[' || close == std::string::npos) return std::nullopt;
+    return TrimSpace(std::string_view(trimmed).substr(1, close - 1));
+}
+
+std::optional<cIniKeyLine> ReadIniKeyLine(std::string_view line) {
+    const std::string trimmed = TrimSpace(line);
+    if (trimmed.empty() || trimmed[0] == ';') return std::nullopt;
+    const std::size_t equals = trimmed.find('=');
+    if (equals == std::string::npos) return std::nullopt;
+    std::string value = TrimSpace(std::string_view(trimmed).substr(equals + 1));
+    if (value.size() >= 2 && (value[0] == '"' || value[0] == '\'') && value.back() == value[0]) {
+        value = value.substr(1, value.size() - 2);
+    }
+    return cIniKeyLine{TrimSpace(std::string_view(trimmed).substr(0, equals)), std::move(value)};
+}
+
 cIni::cIni(cFiles& files, std::string applicationPath)
     : m_Files(files), m_ApplicationPath(std::move(applicationPath)) {}
 
@@ -111,11 +103,11 @@ const cIni::cParsed& cIni::Parsed(std::string_view fileName) const {
     if (!SkipFailure([&] { content = m_Files.ReadFile(path); })) parsed.stamp = {};
     auto* section = static_cast<std::map<std::string, std::string, std::less<>>*>(nullptr);
     for (const std::string& line : SplitLines(content)) {
-        if (const auto header = HeaderName(line)) {
+        if (const auto header = IniHeaderName(line)) {
             const auto added = parsed.sections.try_emplace(ToUpper(*header));
             section = added.second ? &added.first->second : nullptr;
         } else if (section != nullptr) {
-            if (auto entry = KeyLine(line))
+            if (auto entry = ReadIniKeyLine(line))
                 section->try_emplace(ToUpper(entry->key), std::move(entry->value));
         }
     }
@@ -131,7 +123,7 @@ std::string cIni::GetIniString(std::string_view section, std::string_view key, s
         const auto entry = found->second.find(ToUpper(TrimSpace(key)));
         if (entry != found->second.end()) value = entry->second;
     }
-    return std::string(value.substr(0, kBufferSize - 1));
+    return std::string(value.substr(0, kMostValueCharacters));
 }
 
 void cIni::PutIniString(std::string_view section, std::string_view key, std::string_view value,

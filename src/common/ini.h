@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,6 +14,19 @@ namespace vigrel {
 // The name of the configuration file, in the application folder.
 inline constexpr std::string_view kIniFile = "VigrelReceiver.INI";
 
+// The most characters of a value that are read.
+inline constexpr std::size_t kMostValueCharacters = 0x7FF;
+
+// The name of a header line as keyed reads see it, which allow blanks around the line and around the name;
+// none for any other line.
+std::optional<std::string> IniHeaderName(std::string_view line);
+// A line "key=value", without outer blanks and without one pair of enclosing quotes around the value; none
+// for a comment and for a line without "=".
+struct cIniKeyLine {
+    std::string key, value;
+};
+std::optional<cIniKeyLine> ReadIniKeyLine(std::string_view line);
+
 // Reads and writes INI-shaped files of the application folder.
 //
 // Sections and keys match without regard to case; of a repeated section or key only the first counts. A value
@@ -23,15 +37,18 @@ class cIni {
   public:
     // m_ApplicationPath ends in a backslash.
     cIni(cFiles& files, std::string applicationPath);
+    virtual ~cIni() = default;
 
     const std::string& ApplicationPath() const { return m_ApplicationPath; }
     std::string FullPath(std::string_view fileName) const {
         return m_ApplicationPath + std::string(fileName);
     }
 
-    // At most 2,047 characters. A missing file, section or key gives the default.
-    std::string GetIniString(std::string_view section, std::string_view key, std::string_view defaultValue,
-                             std::string_view fileName = kIniFile) const;
+    // At most kMostValueCharacters. A missing file, section or key gives the default. Virtual, so that a test
+    // can hear which keys a reader asks for.
+    virtual std::string GetIniString(std::string_view section, std::string_view key,
+                                     std::string_view defaultValue,
+                                     std::string_view fileName = kIniFile) const;
     // Creates file, section and key as needed, and keeps every other line. A failed write is silent.
     void PutIniString(std::string_view section, std::string_view key, std::string_view value,
                       std::string_view fileName = kIniFile);
@@ -59,11 +76,10 @@ class cIni {
 
 // Reads section names (an empty section), or the lines of one section, from a file into the caller's buffer,
 // which already has its full size. Each entry is followed by one character of code 0. An entry is stored only
-// while offset
-// + its length + 1 stays below the buffer size; the first that doesn't fit ends the storing. Lines of a
-// section are kept as they stand, but for comment lines (a ";" in the first column) and empty ones; the next
-// header line ends the section, and only the first section of a name counts. The result is the number of
-// characters stored, the zeros included; 0 on any failure.
+// while offset + its length + 1 stays below the buffer size; the first that doesn't fit ends the storing.
+// Lines of a section are kept as they stand, but for comment lines (a ";" in the first column) and empty
+// ones; the next header line ends the section, and only the first section of a name counts. The result is the
+// number of characters stored, the zeros included; 0 on any failure.
 std::int32_t ReadIniSection(const cFileReader& files, std::string_view section, std::string& buffer,
                             std::size_t bufferSize, std::string_view fullPath);
 

@@ -40,6 +40,8 @@ struct cSettings {
     bool m_PrinterISOLatConv = true;
     std::string m_PrinterFormat;
     std::int16_t m_KeepForDays = 0;  // days that logs are kept
+
+    bool operator==(const cSettings&) const = default;
 };
 
 // The version of the program, as it shows and logs it.

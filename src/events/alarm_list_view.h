@@ -43,9 +43,14 @@ inline constexpr std::array<std::string_view, 16> kColumnKeywords{
     "t2",        "t3",        "t4",        "t5",        "ExtraText",
     "Observed"};
 
+// The most columns that can be configured.
+inline constexpr std::size_t kMostColumns = 32;
+
 // The caption and tag of the last column, which nobody sees: it sorts the list by arrival.
 inline constexpr std::string_view kHiddenColumn = "CreatedTimeStamp";
 
+// The image strip has pictures 0 to this.
+inline constexpr int kLastIcon = 47;
 // Icons of column "Observed".
 inline constexpr int kIconNotObserved = 26;
 inline constexpr int kIconObserved = 27;
@@ -102,7 +107,7 @@ class cAlarmListView {
 
     cServices m_Services;
     // The kind of the column at each position.
-    std::array<eColumnKind, 32> m_ColumnMap{};
+    std::array<eColumnKind, kMostColumns> m_ColumnMap{};
 };
 
 }  // namespace vigrel

@@ -9,8 +9,6 @@
 namespace vigrel {
 namespace {
 
-constexpr std::size_t kSectionBuffer = 4096;
-constexpr std::int16_t kMostSenders = 100;
 constexpr double kMinutesPerDay = 1440;
 
 }  // namespace
@@ -36,8 +34,8 @@ void cSenderTable::AddSender(const std::string& entry) {
 
 void cSenderTable::ReadSenders() {
     const cIniEntries section =
-        ReadIniEntries(m_Services.files, "Senders", kSectionBuffer, m_Services.ini.FullPath(kIniFile));
-    if (section.characters >= static_cast<std::int32_t>(kSectionBuffer) - 2) WarnTooMany();
+        ReadIniEntries(m_Services.files, "Senders", kSenderBuffer, m_Services.ini.FullPath(kIniFile));
+    if (section.characters >= static_cast<std::int32_t>(kSenderBuffer) - 2) WarnTooMany();
     m_SenderCount = 0;
     for (const std::string& entry : section.entries) {
         if (entry.find('=') == std::string::npos || Trim(entry).starts_with(';')) continue;

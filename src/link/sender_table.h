@@ -16,6 +16,11 @@
 
 namespace vigrel {
 
+// The lines of section "Senders" are read into a buffer of this size (ReadIniSection).
+inline constexpr std::size_t kSenderBuffer = 4096;
+// The rows of the table that are ever filled.
+inline constexpr std::int16_t kMostSenders = 100;
+
 // The senders that the station expects to hear from. One that stays silent for longer than its minutes raises
 // an alarm of the station's own; its next frame, valid or not, brings the matching inactive one.
 class cSenderTable {

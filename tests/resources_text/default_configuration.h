@@ -12,13 +12,12 @@
 #include "categories/cCategorySpecificSetting.h"
 #include "common/ini.h"
 #include "common/text.h"
-#include "resources_text/known_keys.h"
+#include "core/setting_keys.h"
 #include "resources_text/share_files.h"
 #include "support/fake_files.h"
 
 namespace vigrel::testing {
 
-inline constexpr std::string_view kCategoryPrefix = "CategorySpecificSetting_";
 inline const std::string kPath = "C:\\App\\VigrelReceiver.INI";
 
 // A line "key=value", or ";key=value", with the section above it.
@@ -68,13 +67,10 @@ class DefaultConfiguration : public ::testing::Test {
                            [&](const cLine& line) { return line.section == section && line.key == key; });
     }
     // The key as a line of this kind of section would name it.
-    static const cKnownKey* Known(const cLine& line) {
-        const bool category = line.section.starts_with(kCategoryPrefix);
-        const auto& keys = category ? vigrel::testing::CategoryKeys() : KnownKeys();
-        const auto found = std::find_if(keys.begin(), keys.end(), [&](const cKnownKey& key) {
-            return key.name == line.key && (category || key.section == line.section);
-        });
-        return found == keys.end() ? nullptr : &*found;
+    static const cSettingKey* Known(const cLine& line) {
+        const cSettingKey* key = FindSettingKey(line.section, line.key);
+        // Texts for people are held to the exact spelling.
+        return key != nullptr && key->name == line.key ? key : nullptr;
     }
 
     std::string m_Content;

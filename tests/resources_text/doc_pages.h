@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "common/text.h"
+#include "core/setting_keys.h"
 
 namespace vigrel::testing {
 
@@ -15,6 +16,12 @@ inline std::vector<std::string> ReadPage(const std::string& name) {
     std::ifstream file(std::string(VIGREL_DOCS_DIR) + "/" + name, std::ios::binary);
     if (!file) throw std::runtime_error("docs/" + name + " is missing");
     return SplitLines(std::string(std::istreambuf_iterator<char>(file), {}));
+}
+
+// The default as pages for people write it.
+inline std::string DefaultInWords(const cSettingKey& key) {
+    if (key.name == "ColumnText") return "the column's keyword";
+    return key.defaultValue.empty() ? "empty" : key.defaultValue;
 }
 
 }  // namespace vigrel::testing

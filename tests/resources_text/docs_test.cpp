@@ -9,10 +9,10 @@
 #include "common/binary.h"
 #include "common/dates.h"
 #include "common/text.h"
+#include "core/setting_keys.h"
 #include "events/cVigrelRecieverAlarm.h"
 #include "link/frame.h"
 #include "resources_text/doc_pages.h"
-#include "resources_text/known_keys.h"
 #include "resources_text/text_ids.h"
 #include "support/fake_clock.h"
 
@@ -102,11 +102,11 @@ struct cPlaceOfKey {
     std::string heading, key;
 };
 
-cPlaceOfKey PlaceOf(const vigrel::testing::cKnownKey& key) {
+cPlaceOfKey PlaceOf(const cSettingKey& key) {
     if (key.section != "General" && key.name.starts_with("Column")) {
         return {"Sections of columns", "`" + key.name + "`"};
     }
-    for (const auto& category : vigrel::testing::CategoryKeys()) {
+    for (const auto& category : CategoryKeys()) {
         if (category.name != key.name || key.section != "General") continue;
         const std::size_t state = key.name.rfind('_');
         const bool perState = state != std::string::npos;
@@ -118,19 +118,19 @@ cPlaceOfKey PlaceOf(const vigrel::testing::cKnownKey& key) {
 
 TEST(ConfigurationPage, ListsEveryKeyWithItsDefault) {
     const auto tables = ReadKeyTables();
-    for (const auto& key : vigrel::testing::KnownKeys()) {
+    for (const auto& key : SettingKeys()) {
         const cPlaceOfKey place = PlaceOf(key);
         const auto table = tables.find(place.heading);
         ASSERT_NE(table, tables.end()) << place.heading;
         const auto row = table->second.find(place.key);
         ASSERT_NE(row, table->second.end()) << place.heading << ": " << place.key;
-        EXPECT_EQ(row->second, key.defaultValue) << place.key;
+        EXPECT_EQ(row->second, vigrel::testing::DefaultInWords(key)) << place.key;
     }
 }
 
 TEST(ConfigurationPage, ListsNoKeyThatNobodyReads) {
     std::map<std::string, Rows> known;
-    for (const auto& key : vigrel::testing::KnownKeys()) {
+    for (const auto& key : SettingKeys()) {
         const cPlaceOfKey place = PlaceOf(key);
         known[place.heading][place.key] = key.defaultValue;
     }

@@ -74,7 +74,7 @@ class ManualPage : public DefaultConfiguration {
 // A category's key is named by what stands in front of its state.
 TEST_F(ManualPage, NamesEveryKey) {
     const std::string manual = Manual();
-    for (const cKnownKey& key : KnownKeys()) {
+    for (const cSettingKey& key : SettingKeys()) {
         if (key.section == "PrinterPorts") continue;
         std::string name = key.name;
         for (const std::string_view state : kStateSuffixes) {

@@ -1,12 +1,12 @@
 // The form of the delivered configuration: complete, readable, explained.
 
 #include <cmath>
-#include <limits>
 #include <set>
 
 #include "common/numbers.h"
 #include "events/alarm_list_view.h"
 #include "resources_text/default_configuration.h"
+#include "resources_text/doc_pages.h"
 
 namespace vigrel {
 namespace {
@@ -17,29 +17,37 @@ bool IsWholeNumber(const std::string& text, double low, double high) {
     return IsNumeric(text) && Val(text) == std::floor(Val(text)) && Val(text) >= low && Val(text) <= high;
 }
 
-bool AreNumbers(const std::string& text, std::int16_t count, double high) {
+bool AreNumbers(const std::string& text, std::int16_t count, const std::string& separator,
+                const cSettingKey& key) {
     for (std::int16_t i = 0; i < count; ++i) {
-        if (!IsWholeNumber(GetField(text, i, ","), 0, high)) return false;
+        if (!IsWholeNumber(GetField(text, i, std::string(separator)), key.low, key.high)) return false;
     }
-    return GetField(text, count, ",").empty();
+    return GetField(text, count, std::string(separator)).empty();
 }
 
-bool Parses(const std::string& value, eValueKind kind) {
-    using int16 = std::numeric_limits<std::int16_t>;
-    using int32 = std::numeric_limits<std::int32_t>;
-    switch (kind) {
+bool ArePairs(const std::string& text, const cSettingKey& key) {
+    for (std::int16_t i = 0; i < 4; ++i) {
+        if (!AreNumbers(GetField(text, i, "/"), 2, ",", key)) return false;
+    }
+    return GetField(text, 4, "/").empty();
+}
+
+bool Parses(const std::string& value, const cSettingKey& key) {
+    switch (key.kind) {
         case eValueKind::Flag:
-            return value == "0" || value == "1";
         case eValueKind::Int16:
-            return IsWholeNumber(value, int16::min(), int16::max());
         case eValueKind::Int32:
-            return IsWholeNumber(value, int32::min(), int32::max());
+            return IsWholeNumber(value, key.low, key.high);
         case eValueKind::Decimal:
-            return IsNumeric(value);
-        case eValueKind::Colour:
-            return AreNumbers(value, 3, 255);
+            return IsNumeric(value) && Val(value) >= key.low && Val(value) <= key.high;
+        case eValueKind::Rgb:
+            return AreNumbers(value, 3, ",", key);
         case eValueKind::Icons:
-            return AreNumbers(value, 2, 99);
+            return AreNumbers(value, 2, ",", key);
+        case eValueKind::Leds:
+            return AreNumbers(value, 4, "/", key);
+        case eValueKind::LedPairs:
+            return ArePairs(value, key);
         case eValueKind::Text:
             return true;
     }
@@ -47,7 +55,7 @@ bool Parses(const std::string& value, eValueKind kind) {
 }
 
 TEST_F(DefaultConfiguration, HasEveryKeySetOrCommentedOut) {
-    for (const cKnownKey& key : KnownKeys()) {
+    for (const cSettingKey& key : SettingKeys()) {
         EXPECT_TRUE(HasLine(key.section, key.name)) << "[" << key.section << "] " << key.name;
     }
 }
@@ -63,22 +71,23 @@ TEST_F(DefaultConfiguration, HasNoKeyThatNobodyReads) {
 // Remarks tell "Key (default VALUE)" or, for keys with the same default, "Key, Key (default VALUE)".
 TEST_F(DefaultConfiguration, TellsTheDefaultOfEveryKey) {
     const std::string columns = m_Content.substr(m_Content.find("; Columns. Each has"));
-    for (const cKnownKey& key : KnownKeys()) {
+    for (const cSettingKey& key : SettingKeys()) {
         const bool column = key.name.starts_with("Column") && key.section != "General";
         const std::string& remarks = column ? columns : m_Remarks[key.section];
         std::size_t place = remarks.find(" " + key.name + " (default ");
         if (place == std::string::npos) place = remarks.find(" " + key.name + ",");
         ASSERT_NE(place, std::string::npos) << "[" << key.section << "] " << key.name;
         const std::size_t told = remarks.find("(default ", place);
-        EXPECT_EQ(remarks.substr(told + 9, key.defaultValue.size() + 1), key.defaultValue + ")") << key.name;
+        const std::string words = DefaultInWords(key);
+        EXPECT_EQ(remarks.substr(told + 9, words.size() + 1), words + ")") << key.name;
     }
 }
 
 TEST_F(DefaultConfiguration, EveryValueParsesAlsoTheOnesCommentedOut) {
     for (const cLine& line : m_Lines) {
-        const cKnownKey* key = Known(line);
+        const cSettingKey* key = Known(line);
         if (key != nullptr) {
-            EXPECT_TRUE(Parses(line.value, key->kind)) << line.key << "=" << line.value;
+            EXPECT_TRUE(Parses(line.value, *key)) << line.key << "=" << line.value;
         }
     }
 }
