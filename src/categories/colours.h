@@ -20,4 +20,9 @@ Colour MakeColour(const ColourParts& parts);
 // The colour of such a text; white when a number is negative or above 32,767.
 Colour ColorFromText(std::string_view text);
 
+// How far two colours stand apart, 1 to 21, as the accessibility guidelines for web content compute it.
+double Contrast(Colour a, Colour b);
+// The least contrast of text and ground that those guidelines ask for.
+inline constexpr double kReadableContrast = 4.5;
+
 }  // namespace vigrel

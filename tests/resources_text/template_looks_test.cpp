@@ -1,6 +1,6 @@
 // What the delivered configuration makes of a station: columns, colours, icons, sounds, popups.
 
-#include <cmath>
+#include <filesystem>
 #include <fstream>
 #include <set>
 
@@ -13,29 +13,6 @@ namespace vigrel {
 namespace {
 
 using namespace vigrel::testing;
-
-// --- contrast, as the accessibility guidelines for web content compute it
-
-double Luminance(Colour colour) {
-    const auto part = [&](int shift) {
-        const double value = ((colour >> shift) & 0xFF) / 255.0;
-        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * part(0) + 0.7152 * part(8) + 0.0722 * part(16);
-}
-
-double Contrast(Colour a, Colour b) {
-    const auto [dark, light] = std::minmax({Luminance(a), Luminance(b)});
-    return (light + 0.05) / (dark + 0.05);
-}
-
-TEST(Contrast, BlackOnWhiteIs21) {
-    EXPECT_NEAR(Contrast(0, 0xFFFFFF), 21, 0.001);
-}
-
-TEST(Contrast, GreyOnWhiteIsAsPublished) {
-    EXPECT_NEAR(Contrast(0x767676, 0xFFFFFF), 4.54, 0.01);
-}
 
 TEST_F(DefaultConfiguration, ColumnsAreKnownAndBeginWithTheIcon) {
     const std::string columns = m_Ini.GetIniString("General", "Columns", "");
@@ -65,7 +42,8 @@ TEST_F(DefaultConfiguration, TheColumnsShownFitTheWindow) {
 TEST_F(DefaultConfiguration, TextIsReadableInEveryStateOfEveryCategory) {
     for (const auto* setting : AllSettings()) {
         for (int status = 0; status < 4; ++status) {
-            EXPECT_GE(Contrast(setting->GetBackColor(status), setting->GetForeColor(status)), 4.5)
+            EXPECT_GE(Contrast(setting->GetBackColor(status), setting->GetForeColor(status)),
+                      kReadableContrast)
                 << "category \"" << setting->m_Category << "\", state " << status;
         }
     }
@@ -161,6 +139,14 @@ TEST_F(DefaultConfiguration, MovingPopupsStepThroughSeveralPlaces) {
     for (const std::string axis : {"X_", "Y_"}) {
         EXPECT_GE((number(axis + "Stop") - number(axis + "Start")) / number(axis + "Step"), 5) << axis;
     }
+}
+
+TEST(ImageStrip, HasAPictureForEachNumberUpToTheLast) {
+    const std::filesystem::path strip = std::string(VIGREL_RESOURCES_DIR) + "/icons/strip";
+    for (int icon = 0; icon <= kLastIcon; ++icon) {
+        EXPECT_TRUE(std::filesystem::exists(strip / (Digits(icon, 2) + ".svg"))) << icon;
+    }
+    EXPECT_FALSE(std::filesystem::exists(strip / (Digits(kLastIcon + 1, 2) + ".svg")));
 }
 
 }  // namespace
