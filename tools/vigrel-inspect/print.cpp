@@ -43,20 +43,6 @@ std::string ProblemText(const cProblem& problem) {
     return "byte " + std::to_string(problem.offset) + field + ": " + Printable(problem.description);
 }
 
-std::string JsonString(std::string_view text) {
-    std::string json = "\"";
-    for (const char c : CodePageToUtf8(text)) {
-        if (c == '"' || c == '\\') json += '\\';
-        if (Code(c) >= 0x20 && Code(c) != 0x7F) {
-            json += c;
-        } else {
-            json += "\\u00" + std::string(Code(c) < 0x10 ? "0" : "") +
-                    HexText(static_cast<std::uint32_t>(Code(c)));
-        }
-    }
-    return json + "\"";
-}
-
 std::string ValueJson(const cFieldValue& value) {
     struct cVisitor {
         std::string operator()(std::monostate) const { return "null"; }
@@ -108,6 +94,20 @@ std::string Printable(std::string_view text) {
         }
     }
     return shown;
+}
+
+std::string JsonString(std::string_view text) {
+    std::string json = "\"";
+    for (const char c : CodePageToUtf8(text)) {
+        if (c == '"' || c == '\\') json += '\\';
+        if (Code(c) >= 0x20 && Code(c) != 0x7F) {
+            json += c;
+        } else {
+            json += "\\u00" + std::string(Code(c) < 0x10 ? "0" : "") +
+                    HexText(static_cast<std::uint32_t>(Code(c)));
+        }
+    }
+    return json + "\"";
 }
 
 std::string InspectionText(const std::string& file, const cInspection& inspection) {

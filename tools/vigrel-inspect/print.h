@@ -13,6 +13,9 @@ namespace vigrel {
 // "\x1B", so that no file can steer the terminal.
 std::string Printable(std::string_view text);
 
+// A text of the code page as a JSON string, quotes included.
+std::string JsonString(std::string_view text);
+
 // One inspection as a table for people.
 std::string InspectionText(const std::string& file, const cInspection& inspection);
 
