@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <thread>
 
 #include "e2e/station.h"
 #include "vigrel-send/connection.h"
@@ -122,6 +123,30 @@ TEST(Receiver, TwoFoldersRunSideBySide) {
     EXPECT_EQ(second.Send({"--t0", "second", "--count", "2"}).exitCode, 0);
     EXPECT_EQ(first.AlarmFiles().size(), 1u);
     EXPECT_EQ(second.AlarmFiles().size(), 2u);
+}
+
+TEST(Receiver, AMinuteOfSilenceIsAnAlarmAndTheNextFrameItsEnd) {
+    cStation station;
+    station.Configure("[General]\r\nDateFormat=yyyy-mm-dd\r\nTimeFormat=hh:nn\r\n[Senders]\r\nPLC1=1\r\n");
+    ASSERT_TRUE(station.Start());
+    EXPECT_EQ(station.Send({"--sender", "PLC1", "--keepalive"}).exitCode, 0);
+    const auto start = std::chrono::steady_clock::now();
+    while (station.AlarmFiles().empty() &&
+           std::chrono::steady_clock::now() - start < std::chrono::seconds(90)) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(200));
+    }
+    // A minute, and at most one tick of ten seconds behind it.
+    EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::seconds(59));
+    ASSERT_EQ(station.AlarmFiles().size(), 1u);
+    const auto lost = station.AlarmFiles()[0];
+    const std::string file = ReadAll(lost);
+    EXPECT_EQ(file[20], 1);
+    EXPECT_NE(file.find("VigrelAlarmReceiver"), std::string::npos);
+    EXPECT_NE(file.find("PLC1 - T10031 20"), std::string::npos);
+    EXPECT_EQ(station.Send({"--sender", "plc1", "--keepalive"}).exitCode, 0);
+    ASSERT_EQ(station.AlarmFiles().size(), 2u);
+    const auto files = station.AlarmFiles();
+    EXPECT_EQ(ReadAll(files[0] == lost ? files[1] : files[0])[20], 0);
 }
 
 TEST(Receiver, AFloodWithoutLineEndEndsTheConnectionAndTheNextOneWorks) {
