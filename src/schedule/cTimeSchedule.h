@@ -87,6 +87,9 @@ class cTimeSchedule {
     // --- for containers
     std::int32_t SelectedDayType() const { return m_SelectedDayType; }  // -1 for none
     const PeriodPtr& SelectedPeriod() const { return m_SelectedPeriod; }
+    // Nothing is selected any more, as in a new schedule; the time fields are cleared. For content that came
+    // from elsewhere.
+    void ClearSelection(cTimeScheduleContainer& parent);
     bool IsDragging() const { return m_DragMode != eDragMode::None; }
 
   private:

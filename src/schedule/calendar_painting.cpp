@@ -12,6 +12,7 @@ constexpr std::int32_t kWhite = Rgb(255, 255, 255);
 constexpr std::int32_t kBarEnd = Rgb(128, 128, 128);
 constexpr std::int32_t kFirstHeading = 611;
 constexpr int kHeadingRoom = 4;  // more than the height of a line
+constexpr int kNumberGap = 2;    // between a week's number and the grid
 constexpr int kBandWidth = 14;
 constexpr int kBandHeightWithAxis = 16;
 constexpr int kBandStep = 3;
@@ -80,8 +81,8 @@ void cCalendar::PaintWeekNumbers(cPaintObject& paintObject) const {
             Digits(WeekOfYear(DateSerial(m_SelectedYear, m_SelectedMonth, row * 7 + 1),
                               m_Surroundings.m_Forms.firstDayOfWeek, m_Surroundings.m_Forms.firstWeekOfYear),
                    1);
-        paintObject.SetCurrentPosition(kGridLeft - digitWidth * static_cast<double>(number.size()),
-                                       y + row * kCellHeight);
+        paintObject.SetCurrentPosition(
+            kGridLeft - kNumberGap - digitWidth * static_cast<double>(number.size()), y + row * kCellHeight);
         paintObject.Print(number);
     }
 }

@@ -24,6 +24,11 @@ void ShowTimes(cTimeScheduleContainer& parent, std::int32_t start, std::int32_t 
     parent.Set_Text_Schedule_Period_Stop(TimeText(stop));
 }
 
+void ClearTimes(cTimeScheduleContainer& parent) {
+    parent.Set_Text_Schedule_Period_Start("");
+    parent.Set_Text_Schedule_Period_Stop("");
+}
+
 void SetPointer(cPaintObject* paintObject, eMousePointer pointer) {
     if (paintObject != nullptr) paintObject->SetMousePointer(pointer);
 }
@@ -65,9 +70,14 @@ void cTimeSchedule::MouseDown(cTimeScheduleContainer& parent, cPaintObject* pain
     if (m_SelectedPeriod) {
         ShowTimes(parent, m_EditStart, m_EditStop);
     } else {
-        parent.Set_Text_Schedule_Period_Start("");
-        parent.Set_Text_Schedule_Period_Stop("");
+        ClearTimes(parent);
     }
+}
+
+void cTimeSchedule::ClearSelection(cTimeScheduleContainer& parent) {
+    m_SelectedDayType = -1;
+    m_SelectedPeriod = nullptr;
+    ClearTimes(parent);
 }
 
 // Both ends of a period belong to it here. In free space the edit times become those of the gap, as far as

@@ -487,7 +487,7 @@ TEST(CalendarPainting, TheMonthIsFrameHeadingsNameWeekNumbersAndDays) {
         expected += "print " + std::to_string(x) + " 5 h61\n";
     expected += "month January 2026\n";
     expected +=
-        "print 24 26 1\nprint 24 51 2\nprint 24 76 3\nprint 24 101 4\nprint 24 126 5\nprint 24 151 6\n";
+        "print 22 26 1\nprint 22 51 2\nprint 22 76 3\nprint 22 101 4\nprint 22 126 5\nprint 22 151 6\n";
     for (int day = 1; day <= 31; ++day) expected += bench.DateBox(day);
     EXPECT_EQ(painted, expected);
 }
@@ -511,15 +511,15 @@ std::string WeekNumbers(int year, int month, int firstDayOfWeek, eFirstWeek rule
 
 TEST(CalendarPainting, WeekNumbersGoOnBehindTheMonthsEnd) {
     EXPECT_EQ(WeekNumbers(2026, 12, 2, eFirstWeek::FirstFourDays),
-              "print 18 26 49;print 18 51 50;print 18 76 51;print 18 101 52;print 18 126 53;print 24 151 1;");
+              "print 16 26 49;print 16 51 50;print 16 76 51;print 16 101 52;print 16 126 53;print 22 151 1;");
 }
 
 TEST(CalendarPainting, WeekNumbersFollowTheDesktopsRules) {
     // 1 January 2027 is a Friday: by days of the year its week is the last of 2026.
     EXPECT_EQ(WeekNumbers(2027, 1, 2, eFirstWeek::FirstFourDays),
-              "print 18 26 53;print 24 51 1;print 24 76 2;print 24 101 3;print 24 126 4;print 24 151 5;");
+              "print 16 26 53;print 22 51 1;print 22 76 2;print 22 101 3;print 22 126 4;print 22 151 5;");
     EXPECT_EQ(WeekNumbers(2027, 1, 1, eFirstWeek::FirstOfJanuary),
-              "print 24 26 1;print 24 51 2;print 24 76 3;print 24 101 4;print 24 126 5;print 24 151 6;");
+              "print 22 26 1;print 22 51 2;print 22 76 3;print 22 101 4;print 22 126 5;print 22 151 6;");
 }
 
 TEST(CalendarPainting, AMonthBehindTheTableIsABoundsFailure) {

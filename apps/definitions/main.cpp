@@ -1,0 +1,86 @@
+// The definitions editor: builds the machine's side of what the window needs, and the window.
+
+#include <QCommandLineParser>
+#include <QSettings>
+
+#include "adapters/linux/application_folder.h"
+#include "adapters/linux/clock.h"
+#include "adapters/linux/files.h"
+#include "adapters/qt/cQtLocale.h"
+#include "common/ini.h"
+#include "common/texts.h"
+#include "ui/application.h"
+#include "ui/definitions/definitions_window.h"
+
+namespace vigrel {
+namespace {
+
+constexpr std::int32_t kFirstHeading = 611, kLastHeading = 617;
+
+QStringList ReadCommandLine(const QCoreApplication& application) {
+    QCommandLineParser parser;
+    parser.setApplicationDescription("Edits the time schedules and calendars of the alarm receiver.");
+    parser.addPositionalArgument("files", "Schedules and calendars to open.", "[files...]");
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.process(application);
+    return parser.positionalArguments();
+}
+
+// Without a language the headings of the calendar are the desktop's.
+std::function<std::string(std::int32_t)> TextSource(cTexts& texts, const cLocaleForms& forms) {
+    bool loaded = false;
+    SkipFailure([&] { loaded = texts.LoadTexts(); });
+    return [&texts, &forms, loaded](std::int32_t id) {
+        if (loaded || id < kFirstHeading || id > kLastHeading) return texts.GetText(id);
+        return forms.dayNames[static_cast<std::size_t>(id - kFirstHeading + 1) % 7];
+    };
+}
+
+int Run(int argc, char** argv) {
+    cApplication::ChoosePlatform();
+    cApplication application(argc, argv);
+    cApplication::setApplicationName("vigrel-definitions");
+    cApplication::setApplicationDisplayName("Vigrel Definitions");
+    cApplication::setApplicationVersion(VIGREL_VERSION);
+    cApplication::setDesktopFileName("vigrel-definitions");
+    const QStringList paths = ReadCommandLine(application);
+
+    const cFolderHints hints = ReadFolderHints();
+    const std::string applicationPath = FindApplicationFolder(hints);
+    cLinuxFiles files;
+    FillApplicationFolder(files, applicationPath, FindInstalledFolder(hints.programFolder));
+
+    const cSystemClock clock;
+    const cLocaleForms forms = cQtLocale().Forms();
+    cIni ini(files, applicationPath);
+    cTexts texts(files, ini);
+    cDialogPrompts prompts;
+    QSettings settings(QSettings::IniFormat, QSettings::UserScope, "Vigrel", "VigrelDefinitions");
+    cEditorServices services{files,
+                             clock,
+                             ini,
+                             forms,
+                             TextSource(texts, forms),
+                             prompts,
+                             settings,
+                             cDayTypeNames(ini, forms),
+                             cIconStrip(":/icons/daytype")};
+    int result = 0;
+    application.Guard([&] {
+        cDefinitionsWindow window(services);
+        QObject::connect(&window, &cDefinitionsWindow::Closed, &application, &QCoreApplication::quit,
+                         Qt::QueuedConnection);
+        window.show();
+        for (const QString& path : paths) window.OpenFile(path);
+        result = cApplication::exec();
+    });
+    return result;
+}
+
+}  // namespace
+}  // namespace vigrel
+
+int main(int argc, char** argv) {
+    return vigrel::Run(argc, argv);
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QWidget>
+
+class QAction;
+class QUndoStack;
+
+namespace vigrel {
+
+// One tab of the editor's window.
+class cEditorPage : public QWidget {
+    Q_OBJECT
+  public:
+    using QWidget::QWidget;
+    // For the tab and in questions: a file's name, the name of a list.
+    virtual QString Title() const = 0;
+    // Where the content comes from, for the tab's tip and to find a page that is open already; empty for
+    // none.
+    virtual QString Path() const;
+    virtual bool IsDirty() const = 0;
+    // False when nothing was saved; the operator has been told why, or has cancelled.
+    virtual bool Save() = 0;
+    // Whether the content can be saved under another name, by SaveAs.
+    virtual bool HasSaveAs() const { return false; }
+    virtual bool SaveAs() { return Save(); }
+    // None for a page that can't undo.
+    virtual QUndoStack* UndoStack();
+    // The page's entries of the menu Edit; null stands for a separator.
+    virtual QList<QAction*> EditActions() const;
+    // Sets the drawing's size, 1 is 100 %.
+    virtual void SetZoom(double) {}
+    // The names of day types have changed.
+    virtual void RefreshDayTypes() {}
+
+  signals:
+    // Title, path or dirty state have changed.
+    void StateChanged();
+    // The content has changed.
+    void ContentChanged();
+    // The operator has given a day type another name.
+    void DayTypesRenamed();
+    // A file was opened or saved.
+    void FileUsed(const QString& path);
+    void Message(const QString& text);
+};
+
+}  // namespace vigrel

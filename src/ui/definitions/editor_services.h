@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QSettings>
+#include <cstdint>
+#include <functional>
+#include <string>
+
+#include "common/ini.h"
+#include "platform/clock.h"
+#include "platform/files.h"
+#include "platform/locale.h"
+#include "ui/definitions/day_type_names.h"
+#include "ui/definitions/prompts.h"
+#include "ui/icon_strip.h"
+
+namespace vigrel {
+
+// What the pages of the editor share; all of it outlives the window.
+struct cEditorServices {
+    cFiles& m_Files;
+    const cClock& m_Clock;
+    cIni& m_Ini;  // of the application folder
+    const cLocaleForms& m_Forms;
+    std::function<std::string(std::int32_t)> GetText;
+    cPrompts& m_Prompts;
+    QSettings& m_Settings;  // the user's
+    cDayTypeNames m_DayTypeNames;
+    cIconStrip m_DayTypeImages;  // numbered from 1
+};
+
+// Day type images are squares of so many units.
+inline constexpr int kDayTypeImageSize = 16;
+
+}  // namespace vigrel

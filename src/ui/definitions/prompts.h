@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+namespace vigrel {
+
+// What the editor asks its operator. Every method waits for the answer.
+class cPrompts {
+  public:
+    virtual ~cPrompts() = default;
+    enum class eSave { Save, Discard, Cancel };
+    virtual eSave AskToSave(QWidget* owner, const QString& title) = 0;
+    virtual bool AskYesNo(QWidget* owner, const QString& question) = 0;
+    virtual void ShowFailure(QWidget* owner, const QString& text) = 0;
+    // Empty texts: the operator has cancelled.
+    virtual QString AskOpenPath(QWidget* owner, const QString& folder, const QString& filter) = 0;
+    virtual QString AskSavePath(QWidget* owner, const QString& path, const QString& filter,
+                                const QString& suffix) = 0;
+    virtual QString AskText(QWidget* owner, const QString& label, const QString& text) = 0;
+};
+
+// By dialogs.
+class cDialogPrompts : public cPrompts {
+  public:
+    eSave AskToSave(QWidget* owner, const QString& title) override;
+    bool AskYesNo(QWidget* owner, const QString& question) override;
+    void ShowFailure(QWidget* owner, const QString& text) override;
+    QString AskOpenPath(QWidget* owner, const QString& folder, const QString& filter) override;
+    QString AskSavePath(QWidget* owner, const QString& path, const QString& filter,
+                        const QString& suffix) override;
+    QString AskText(QWidget* owner, const QString& label, const QString& text) override;
+};
+
+}  // namespace vigrel
