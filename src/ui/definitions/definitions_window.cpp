@@ -1,7 +1,6 @@
 #include "ui/definitions/definitions_window.h"
 
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QMenu>
@@ -106,11 +105,11 @@ bool cDefinitionsWindow::OpenFile(const QString& path) {
     } else {
         page = new cSchedulePage(m_Services, {});
     }
-    connect(page, &cEditorPage::FileUsed, this, [this](const QString& used) { m_Recent.Add(used); });
     if (!page->Open(name)) {
         delete page;
         return false;
     }
+    m_Recent.Add(page->Path());
     AddPage(page);
     return true;
 }
@@ -171,9 +170,9 @@ void cDefinitionsWindow::PageStateChanged() {
     m_Save->setEnabled(page != nullptr);
     m_SaveAs->setEnabled(page != nullptr && page->HasSaveAs());
     m_Close->setEnabled(page != nullptr);
-    setWindowModified(page != nullptr && page->IsDirty());
-    const QString program = QCoreApplication::translate("cDefinitionsWindow", "Vigrel Definitions");
+    const QString program = tr("Vigrel Definitions");
     setWindowTitle(page == nullptr ? program : QString("%1[*] - %2").arg(page->Title(), program));
+    setWindowModified(page != nullptr && page->IsDirty());
     SchedulesChanged();
 }
 

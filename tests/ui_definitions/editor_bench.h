@@ -1,0 +1,129 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QMouseEvent>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QUndoStack>
+#include <deque>
+#include <memory>
+
+#include "adapters/qt/qt_text.h"
+#include "schedule/schedule_builder.h"
+#include "support/fake_clock.h"
+#include "support/fake_files.h"
+#include "ui/definitions/definitions_window.h"
+
+namespace vigrel::testing {
+
+// Answers what a test has put in line, and notes what was asked.
+class cFakePrompts : public cPrompts {
+  public:
+    eSave AskToSave(QWidget*, const QString& title) override {
+        m_Asked += "save " + title + "\n";
+        return Take(m_SaveAnswers, eSave::Cancel);
+    }
+    bool AskYesNo(QWidget*, const QString& question) override {
+        m_Asked += "yes or no: " + question + "\n";
+        return Take(m_YesNoAnswers, false);
+    }
+    void ShowFailure(QWidget*, const QString& text) override { m_Asked += "failure: " + text + "\n"; }
+    QString AskOpenPath(QWidget*, const QString& folder, const QString&) override {
+        m_Asked += "open in " + folder + "\n";
+        return Take(m_Texts, QString());
+    }
+    QString AskSavePath(QWidget*, const QString& path, const QString&, const QString& suffix) override {
+        m_Asked += "save as " + path + " (" + suffix + ")\n";
+        return Take(m_Texts, QString());
+    }
+    QString AskText(QWidget*, const QString& label, const QString& text) override {
+        m_Asked += label + ": " + text + "\n";
+        return Take(m_Texts, QString());
+    }
+
+    QString m_Asked;
+    std::deque<eSave> m_SaveAnswers;
+    std::deque<bool> m_YesNoAnswers;
+    std::deque<QString> m_Texts;
+
+  private:
+    template <class T>
+    static T Take(std::deque<T>& answers, T otherwise) {
+        if (answers.empty()) return otherwise;
+        T answer = answers.front();
+        answers.pop_front();
+        return answer;
+    }
+};
+
+// The editor over fake files in the application folder /app, on 2026-03-15.
+class cEditorBench {
+  public:
+    cEditorBench() {
+        m_Files.PutFolder("/app/");
+        // The smallest size, so that a unit is a pixel.
+        m_Settings.setValue("Zoom", 1.0);
+        m_Window = std::make_unique<cDefinitionsWindow>(m_Services);
+        m_Window->show();
+    }
+
+    cSchedulePage& NewSchedule() {
+        m_Window->NewSchedule();
+        return dynamic_cast<cSchedulePage&>(*m_Window->CurrentPage());
+    }
+    cCalendarPage& NewCalendar() {
+        m_Window->NewCalendar();
+        return dynamic_cast<cCalendarPage&>(*m_Window->CurrentPage());
+    }
+    template <class T>
+    static T& Find(QWidget& page, const char* name) {
+        T* found = page.findChild<T*>(name);
+        if (found == nullptr) throw std::runtime_error(std::string("no element ") + name);
+        return *found;
+    }
+    // An entry of a page or of the window.
+    void Choose(QWidget& owner, const char* name) { Find<QAction>(owner, name).trigger(); }
+
+    // A drag with the left button through places of a view, in its units.
+    static void Drag(QWidget& view, const std::vector<QPoint>& places) {
+        Press(view, places.front());
+        for (const QPoint& place : places) Move(view, place);
+        Release(view, places.back());
+    }
+    static void Press(QWidget& view, QPoint place, Qt::MouseButton button = Qt::LeftButton) {
+        QTest::mousePress(&view, button, {}, place);
+    }
+    static void Release(QWidget& view, QPoint place) {
+        QTest::mouseRelease(&view, Qt::LeftButton, {}, place);
+    }
+    // The toolkit's own helper only moves the cursor, which an unseen screen doesn't have.
+    static void Move(QWidget& view, QPoint place) {
+        QMouseEvent event(QEvent::MouseMove, QPointF(place), view.mapToGlobal(QPointF(place)), Qt::NoButton,
+                          Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&view, &event);
+    }
+    // The place of a minute in a row of a schedule.
+    static QPoint At(int row, int minute) { return {30 + minute / 5, row * 25 + 10}; }
+
+    QTemporaryDir m_Folder;
+    cFakeFiles m_Files;
+    cFakeClock m_Clock;
+    cLocaleForms m_Forms;
+    cIni m_Ini{m_Files, "/app/"};
+    cFakePrompts m_Prompts;
+    QSettings m_Settings{m_Folder.filePath("settings.ini"), QSettings::IniFormat};
+    cEditorServices m_Services{m_Files,
+                               m_Clock,
+                               m_Ini,
+                               m_Forms,
+                               [](std::int32_t id) { return "h" + std::to_string(id); },
+                               m_Prompts,
+                               m_Settings,
+                               cDayTypeNames(m_Ini, m_Forms),
+                               cIconStrip(":/icons/daytype")};
+    std::unique_ptr<cDefinitionsWindow> m_Window;
+};
+
+}  // namespace vigrel::testing
