@@ -1,0 +1,211 @@
+// What lies in the folder beside the configuration, and the machine around it.
+
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <unistd.h>
+#include <filesystem>
+
+#include "common/file_procedures.h"
+#include "inspect/alarm_samples.h"
+#include "receiver-check/installation.h"
+#include "receiver-check/posix_machine.h"
+#include "receiver_check/checked_station.h"
+#include "support/temporary_folder.h"
+
+namespace vigrel {
+namespace {
+
+using testing::kApp;
+
+class CheckFolderTest : public testing::cCheckedStation {
+  protected:
+    void Alarm(const std::string& name, const std::string& bytes) {
+        m_Files.Put(kApp + "Alarms\\" + name, bytes);
+    }
+    std::string Found() { return Whole(Content()); }
+};
+
+TEST_F(CheckFolderTest, ALanguageWithoutFileIsAnError) {
+    const std::string content = Content("Language=46");
+    m_Files.Put(kApp + "Vigrel_Texts.046", "0=Svenska\r\n10000=Mottagare\r\n");
+    EXPECT_EQ(Lines(Check(content)).substr(0, 42), "error language-missing [General] Language\n");
+    EXPECT_EQ(Check(content).m_All[0].message,
+              "there is no file Vigrel_Texts.46: the start waits for somebody to choose a language; there "
+              "are 044, 046");
+}
+
+TEST_F(CheckFolderTest, ALanguageThatIsNotSetIsAskedFor) {
+    const cFindings findings = Check(Content("Language="));
+    EXPECT_EQ(findings.m_All[0].name, "language-not-set");
+    EXPECT_EQ(findings.m_All[0].severity, eSeverity::Remark);
+}
+
+TEST_F(CheckFolderTest, AFolderWithoutTextsIsAnError) {
+    m_Files.RemoveFile(kApp + "Vigrel_Texts.044");
+    EXPECT_EQ(Found(), "error no-texts Vigrel_Texts.NNN");
+}
+
+TEST_F(CheckFolderTest, TextsThatAnotherLanguageHasAreMissed) {
+    m_Files.Put(kApp + "Vigrel_Texts.044", "0=English\r\n10000=Receiver\r\n10004=\r\n");
+    m_Files.Put(kApp + "Vigrel_Texts.046", "0=Svenska\r\n10004=Arkiv\r\n10006=Kvittera\r\n");
+    const cFindings findings = Check(Content());
+    EXPECT_EQ(Lines(findings), "warning texts-missing Vigrel_Texts.044");
+    EXPECT_EQ(Message(findings), "lacks texts that another language has: 10004, 10006");
+}
+
+TEST_F(CheckFolderTest, TextsThatCantBeReadAreAnError) {
+    m_Files.Put(kApp + "Vigrel_Texts.044", "99999999999=x\r\n");
+    EXPECT_EQ(Found(), "error texts-unreadable Vigrel_Texts.044");
+}
+
+TEST_F(CheckFolderTest, AGoodAlarmIsLeftAlone) {
+    Alarm("A0042917.alm", samples::kAlarm);
+    EXPECT_EQ(Found(), "");
+}
+
+TEST_F(CheckFolderTest, AnAlarmThatIsCutOrTooLongIsDamaged) {
+    Alarm("A0042917.alm", samples::kAlarm.substr(0, 30));
+    const cFindings cut = Check(Content());
+    EXPECT_EQ(Lines(cut), "warning alarm-damaged Alarms\\A0042917.alm");
+    EXPECT_EQ(Message(cut).substr(0, 51), "byte 29, t1: the file ends inside this field");
+    Alarm("A0042917.alm", samples::kAlarm + "x");
+    EXPECT_EQ(Found(), "warning alarm-damaged Alarms\\A0042917.alm");
+}
+
+TEST_F(CheckFolderTest, AnAlarmThatCantBeReadEndsTheStart) {
+    Alarm("A0042917.alm", samples::kAlarm);
+    m_Files.SetUnreadable(kApp + "Alarms\\A0042917.alm", true);
+    EXPECT_EQ(Found(), "error alarm-unreadable Alarms\\A0042917.alm");
+}
+
+TEST_F(CheckFolderTest, AlarmsWithoutNumberAndStrangersAreNotRead) {
+    Alarm("A004291X.alm", samples::kAlarm);
+    Alarm("A42917.alm", samples::kAlarm);
+    Alarm("notes.txt", "");
+    Alarm("A0000001.$~", "");
+    EXPECT_EQ(Found(),
+              "remark leftover Alarms\\A0000001.$~\n"
+              "warning not-an-alarm Alarms\\A004291X.alm\n"
+              "warning not-an-alarm Alarms\\A42917.alm\n"
+              "remark not-an-alarm Alarms\\notes.txt");
+}
+
+TEST_F(CheckFolderTest, MoreAlarmsThanAreKeptAreRemarked) {
+    for (int i = 1; i <= 3; ++i) Alarm("A004291" + std::to_string(i) + ".alm", samples::kAlarm);
+    const cFindings findings = Check(Content("MaxEvents=2"));
+    EXPECT_EQ(findings.m_All[0].name, "more-than-max-events");
+    EXPECT_EQ(findings.m_All[0].message, "3 alarms are stored: the next start removes the oldest 1");
+    EXPECT_EQ(Lines(Check(Content("MaxEvents=0"))).find("more-than"), std::string::npos);
+}
+
+TEST_F(CheckFolderTest, APortInUseMayBeTheStationItself) {
+    m_Machine.m_Trial = {cMachine::ePort::InUse, ""};
+    EXPECT_EQ(Rest("[TCPIP]\r\nPort=12500"), "warning port-in-use [TCPIP] Port");
+    EXPECT_EQ(RestMessage("[TCPIP]\r\nPort=12500"),
+              "TCP port 12500 is in use (perhaps by the station itself)");
+    EXPECT_EQ(m_Machine.m_Tried.back(), 12500);
+    EXPECT_EQ(Message(Check(Content())), "TCP port 12412 is in use (perhaps by the station itself)");
+}
+
+TEST_F(CheckFolderTest, APortThatCantBeOpenedIsAnError) {
+    m_Machine.m_Trial = {cMachine::ePort::Failed, "Permission denied"};
+    EXPECT_EQ(Rest("[TCPIP]\r\nPort=80"), "error port-not-opened [TCPIP] Port");
+    EXPECT_EQ(RestMessage("[TCPIP]\r\nPort=80"), "TCP port 80 can't be opened: Permission denied");
+}
+
+TEST_F(CheckFolderTest, APortOutOfRangeIsNotTried) {
+    for (const std::string port : {"0", "-1", "65536"}) {
+        EXPECT_NE(Rest("[TCPIP]\r\nPort=" + port).find("error port-out-of-range [TCPIP] Port"),
+                  std::string::npos);
+    }
+    EXPECT_TRUE(m_Machine.m_Tried.empty());
+    EXPECT_EQ(Rest("[TCPIP]\r\nPort=3000000000"), "error number-overflow [TCPIP] Port");
+}
+
+TEST_F(CheckFolderTest, AlarmsThatCantBeWrittenAreAnErrorAndLogsAWarning) {
+    m_Machine.m_NotWritable = {{kApp + "Alarms", "Permission denied"}, {kApp + "LogFiles", "Read-only"}};
+    EXPECT_EQ(Found(), "error folder-not-writable Alarms\nwarning folder-not-writable LogFiles");
+    EXPECT_EQ(Check(Content()).m_All[0].message, "Permission denied: no alarm is kept over a restart");
+}
+
+TEST_F(CheckFolderTest, MissingFoldersAreMadeWhereTheFolderAboveCanBeWritten) {
+    m_Machine.m_Missing = {kApp + "Alarms", kApp + "LogFiles"};
+    EXPECT_EQ(Found(), "");
+    m_Machine.m_NotWritable = {{kApp, "Permission denied"}};
+    EXPECT_EQ(Found(),
+              "warning folder-not-writable .\n"
+              "error folder-missing Alarms\n"
+              "warning folder-missing LogFiles");
+}
+
+TEST_F(CheckFolderTest, WithoutAMachineOnlyFilesAreLookedAt) {
+    m_Machine.m_Trial = {cMachine::ePort::InUse, ""};
+    m_Files.Put(kApp + "VigrelReceiver.INI", Content());
+    EXPECT_EQ(Lines(CheckInstallation(m_Files, kApp, nullptr)), "");
+    EXPECT_TRUE(m_Machine.m_Tried.empty());
+}
+
+TEST_F(CheckFolderTest, NothingIsEverWritten) {
+    Alarm("A0042917.alm", samples::kAlarm);
+    const int calls = m_Files.m_Calls;
+    CheckInstallation(m_Files, kApp, &m_Machine);
+    EXPECT_EQ(m_Files.m_Calls, calls);
+    cReadOnlyFiles files(m_Files);
+    const auto refused = [&](const std::function<void()>& step) { return !SkipFailure(step); };
+    EXPECT_TRUE(refused([&] { files.WriteFile("a", "b", true); }));
+    EXPECT_TRUE(refused([&] { files.AppendFile("a", "b"); }));
+    EXPECT_TRUE(refused([&] { files.RemoveFile("a"); }));
+    EXPECT_TRUE(refused([&] { files.RenameFile("a", "b"); }));
+    EXPECT_TRUE(refused([&] { files.MakeFolder("a"); }));
+    EXPECT_TRUE(refused([&] { files.SetNormalAttributes("a"); }));
+    EXPECT_EQ(m_Files.m_Calls, calls);
+}
+
+// --- the machine's side
+
+// A socket of this process on a port that the system chooses.
+class cOpenPort {
+  public:
+    explicit cOpenPort(bool listening) : m_Socket(socket(AF_INET, SOCK_STREAM, 0)) {
+        sockaddr_in address{};
+        address.sin_family = AF_INET;
+        socklen_t size = sizeof address;
+        bind(m_Socket, reinterpret_cast<sockaddr*>(&address), size);
+        if (listening) listen(m_Socket, 1);
+        getsockname(m_Socket, reinterpret_cast<sockaddr*>(&address), &size);
+        m_Port = ntohs(address.sin_port);
+    }
+    ~cOpenPort() { Close(); }
+    void Close() {
+        if (m_Socket >= 0) close(m_Socket);
+        m_Socket = -1;
+    }
+    std::int32_t m_Port = 0;
+
+  private:
+    int m_Socket;
+};
+
+TEST(PosixMachine, APortIsInUseWhileSomebodyListensAndFreeAfterwards) {
+    const cPosixMachine machine;
+    cOpenPort port(true);
+    EXPECT_EQ(machine.TryPort(port.m_Port).port, cMachine::ePort::InUse);
+    port.Close();
+    EXPECT_EQ(machine.TryPort(port.m_Port).port, cMachine::ePort::Free);
+    EXPECT_EQ(machine.TryPort(port.m_Port).port, cMachine::ePort::Free) << "the trial lets the port go";
+}
+
+TEST(PosixMachine, FoldersAreFoundInAnyCaseAndAskedForTheirRights) {
+    const cPosixMachine machine;
+    const testing::cTemporaryFolder folder;
+    std::filesystem::create_directories(folder.Path() / "Alarms");
+    EXPECT_TRUE(machine.FolderExists(folder.Folder() + "ALARMS"));
+    EXPECT_FALSE(machine.FolderExists(folder.Folder() + "LogFiles"));
+    EXPECT_EQ(machine.WhyNotWritable(folder.Folder() + "alarms"), std::nullopt);
+    EXPECT_EQ(machine.WhyNotReadable(folder.Folder()), std::nullopt);
+    EXPECT_EQ(machine.WhyNotWritable(folder.Folder() + "LogFiles"), "No such file or directory");
+    EXPECT_NE(machine.WhyNotWritable("/proc/self"), std::nullopt) << "nobody may write there";
+}
+
+}  // namespace
+}  // namespace vigrel

@@ -1,0 +1,55 @@
+#include "common/failure.h"
+#include "core/read_settings.h"
+#include "receiver-check/checks.h"
+
+namespace vigrel {
+namespace {
+
+constexpr double kLargestPort = 65535;
+
+void CheckPort(const cInstallation& installation, const cMachine& machine, cFindings& findings) {
+    const cPlace place = installation.PlaceOf("TCPIP", "Port");
+    std::int32_t port = 0;
+    // A number that doesn't fit was told of with the values.
+    if (!SkipFailure([&] { port = ReadPort(installation.Ini()); })) return;
+    const std::string name = "TCP port " + std::to_string(port);
+    if (port < 1 || port > kLargestPort) {
+        findings.Error("port-out-of-range", place, name + " is none that senders could reach: 1 to 65535");
+        return;
+    }
+    const cMachine::cPortTrial trial = machine.TryPort(port);
+    if (trial.port == cMachine::ePort::InUse) {
+        findings.Warning("port-in-use", place, name + " is in use (perhaps by the station itself)");
+    } else if (trial.port == cMachine::ePort::Failed) {
+        findings.Error("port-not-opened", place, name + " can't be opened: " + trial.reason);
+    }
+}
+
+// A folder that is missing is made by the start, where the folder above lets it.
+void CheckFolder(const cInstallation& installation, const cMachine& machine, const std::string& name,
+                 eSeverity severity, const std::string& effect, cFindings& findings) {
+    const std::string path = installation.Path() + name;
+    if (!machine.FolderExists(path)) {
+        if (machine.WhyNotWritable(installation.Path())) {
+            findings.Add(severity, "folder-missing", {name, 0, "", "", ""},
+                         "the folder is missing and can't be made: " + effect);
+        }
+    } else if (const auto reason = machine.WhyNotWritable(path)) {
+        findings.Add(severity, "folder-not-writable", {name, 0, "", "", ""}, *reason + ": " + effect);
+    }
+}
+
+}  // namespace
+
+void CheckMachine(const cInstallation& installation, const cMachine& machine, cFindings& findings) {
+    CheckPort(installation, machine, findings);
+    CheckFolder(installation, machine, "Alarms", eSeverity::Error, "no alarm is kept over a restart",
+                findings);
+    CheckFolder(installation, machine, "LogFiles", eSeverity::Warning, "nothing is logged", findings);
+    if (const auto reason = machine.WhyNotWritable(installation.Path())) {
+        findings.Warning("folder-not-writable", {".", 0, "", "", ""},
+                         *reason + ": neither language nor window and column sizes are kept");
+    }
+}
+
+}  // namespace vigrel

@@ -1,0 +1,74 @@
+#include "receiver-check/options.h"
+
+#include <string_view>
+
+#include "common/code_page.h"
+#include "common/failure.h"
+
+namespace vigrel {
+namespace {
+
+constexpr std::string_view kHelp =
+    R"(vigrel-receiver-check reads the application folder of an alarm receiver as the receiver would, and
+tells what is wrong or odd in it. It never changes anything; the station may run meanwhile.
+
+Usage:
+  vigrel-receiver-check [--json] [--files-only] FOLDER
+
+  --json         print a JSON object for scripts
+  --files-only   don't look at this machine: neither at the port nor at the rights of the user
+
+Run it as the user whom the station runs as: the rights that are tested are yours.
+
+Each finding is one line: file, line, severity, section and key, what is the matter, and in brackets
+the name of this kind of finding, which stays the same in later versions.
+  error     the station doesn't start or receive, or alarms stay unseen, unheard or unsupervised
+  warning   a setting doesn't do what it says
+  remark    worth a look; may be meant
+
+Exit code: 0 nothing found, 1 remarks and warnings only, 2 errors, 3 the folder can't be read or the
+command line is wrong.
+
+Examples:
+  vigrel-receiver-check ~/.local/share/VigrelReceiver
+  vigrel-receiver-check --json /srv/station2 > station2.json
+  vigrel-receiver-check --files-only ./new-station
+  sudo -u alarm vigrel-receiver-check /home/alarm/.local/share/VigrelReceiver
+)";
+
+[[noreturn]] void Refuse(const std::string& description) {
+    throw cFailure(eFailure::InvalidCall, description);
+}
+
+}  // namespace
+
+cCheckOptions ReadCheckOptions(const std::vector<std::string>& words) {
+    cCheckOptions options;
+    bool onlyFolders = false;
+    for (const std::string& word : words) {
+        if (onlyFolders || !word.starts_with("-")) {
+            if (!options.folder.empty()) Refuse("one folder at a time can be checked");
+            options.folder = Utf8ToCodePage(word);
+            if (CodePageToUtf8(options.folder) != word)
+                Refuse("\"" + options.folder + "\" has characters outside the code page 1252");
+        } else if (word == "--") {
+            onlyFolders = true;
+        } else if (word == "--help" || word == "-h") {
+            options.help = true;
+        } else if (word == "--json") {
+            options.json = true;
+        } else if (word == "--files-only") {
+            options.filesOnly = true;
+        } else {
+            Refuse("the option " + word + " is not known");
+        }
+    }
+    if (options.folder.empty() && !options.help) Refuse("no folder was named");
+    return options;
+}
+
+std::string CheckHelpText() {
+    return std::string(kHelp);
+}
+
+}  // namespace vigrel

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "receiver-check/machine.h"
+
+namespace vigrel {
+
+// This machine, asked by calls that leave no trace: a socket that is bound and closed, and questions for
+// rights.
+class cPosixMachine : public cMachine {
+  public:
+    cPortTrial TryPort(std::int32_t port) const override;
+    bool FolderExists(std::string_view path) const override;
+    std::optional<std::string> WhyNotWritable(std::string_view folder) const override;
+    std::optional<std::string> WhyNotReadable(std::string_view folder) const override;
+};
+
+}  // namespace vigrel
