@@ -8,6 +8,7 @@
 #include "adapters/linux/files.h"
 #include "adapters/linux/random.h"
 #include "adapters/linux/running_apps.h"
+#include "adapters/linux/signal_light.h"
 #include "adapters/linux/single_instance.h"
 #include "adapters/qt/cQtDataSocket.h"
 #include "adapters/qt/cQtListener.h"
@@ -23,6 +24,7 @@
 #include "ui/desktop.h"
 #include "ui/main_window.h"
 #include "ui/message_box.h"
+#include "ui/notification_icon.h"
 #include "ui/other_windows.h"
 #include "ui/popup_window.h"
 
@@ -82,8 +84,8 @@ int Run(int argc, char** argv) {
         tone.Play();
         return true;
     });
-    cNoTray trayArea;
-    cNoLight signalLight;
+    cNotificationIcon trayArea;
+    cHidSignalLight signalLight(clock);
     cLocalRunningApps runningApps;
     cNoPrinter printerPorts;
     const cQtSettingStore settingStore;

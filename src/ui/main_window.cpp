@@ -4,7 +4,6 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
-#include <QTimer>
 
 #include "adapters/qt/qt_text.h"
 #include "common/failure.h"
@@ -18,6 +17,8 @@ constexpr double kWidth = 8000, kHeight = 5000;  // twips
 
 // A window manager can refuse the focus; after this time the window asks for attention in the taskbar.
 constexpr int kRefusedMilliseconds = 400;
+// Shortest time between two ways to the front.
+constexpr int kFrontMilliseconds = 50;
 
 }  // namespace
 
@@ -29,6 +30,17 @@ cMainWindow::cMainWindow(cOpenWindows& windows)
     m_List.View().setAccessibleName("Alarms");
     setCentralWidget(&m_List.View());
     setFocusProxy(&m_List.View());
+
+    m_FrontTimer.setSingleShot(true);
+    m_FrontTimer.setInterval(kFrontMilliseconds);
+    QObject::connect(&m_FrontTimer, &QTimer::timeout, this, [this] {
+        if (m_FrontWished && isVisible() && !isMinimized()) ComeToFront();
+    });
+    m_RefusedTimer.setSingleShot(true);
+    m_RefusedTimer.setInterval(kRefusedMilliseconds);
+    QObject::connect(&m_RefusedTimer, &QTimer::timeout, this, [this] {
+        if (isVisible() && !isActiveWindow()) QApplication::alert(this);
+    });
 
     QMenu* file = AddMenu("Menu_File", "&Arkiv");
     AddEntry(*file, "Menu_StopSound", "&St\xE4ng av ljudsignal", OnMenuStopSound);
@@ -77,17 +89,21 @@ void cMainWindow::Show() {
 }
 
 void cMainWindow::SetFocus() {
-    cWidgetWindow::SetFocus();
+    const bool shows = isVisible() && !isMinimized();
+    if (!shows || !m_FrontTimer.isActive()) cWidgetWindow::SetFocus();
     ComeToFront();
 }
 
+// Every alarm asks for it, and it costs several messages to the display; in a flood one answer serves all
+// that ask shortly behind it.
 void cMainWindow::ComeToFront() {
+    m_FrontWished = m_FrontTimer.isActive();
+    if (m_FrontWished) return;
     raise();
     activateWindow();
     FlushToScreen();
-    QTimer::singleShot(kRefusedMilliseconds, this, [this] {
-        if (isVisible() && !isActiveWindow()) QApplication::alert(this);
-    });
+    m_FrontTimer.start();
+    m_RefusedTimer.start();
 }
 
 void cMainWindow::EndSession() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QTimer>
 #include <functional>
 #include <string_view>
 
@@ -60,6 +61,9 @@ class cMainWindow : public cWidgetWindow<cWindow, QMainWindow>, public cMenus {
     void ComeToFront();
     QAction& Entry(std::string_view name) const;
 
+    QTimer m_FrontTimer;  // runs for a while after each way to the front
+    QTimer m_RefusedTimer;
+    bool m_FrontWished = false;  // again, while m_FrontTimer runs
     cIconStrip m_Icons;
     cQtReportList m_List;
 };
