@@ -58,6 +58,16 @@ TEST_F(CheckFolderTest, TextsThatCantBeReadAreAnError) {
     EXPECT_EQ(Found(), "error texts-unreadable Vigrel_Texts.044");
 }
 
+TEST_F(CheckFolderTest, LinesOfListsThatAreSkippedAreTold) {
+    m_Files.Put(kApp + "ColourRules.txt", "# a remark\r\n* | 1 | 1 | 0,0,0 | 255,255,255\r\n");
+    m_Files.Put(kApp + "ReceiverTypes.txt", "nonsense\r\n");
+    const cFindings findings = Check(Content());
+    EXPECT_EQ(Lines(findings),
+              "warning list-line-skipped ColourRules.txt\nwarning list-line-skipped ReceiverTypes.txt");
+    EXPECT_EQ(findings.m_All[0].place.line, 2u);
+    EXPECT_NE(findings.m_All[0].message.find("a rule has six fields"), std::string::npos);
+}
+
 TEST_F(CheckFolderTest, AGoodAlarmIsLeftAlone) {
     Alarm("A0042917.alm", samples::kAlarm);
     EXPECT_EQ(Found(), "");

@@ -12,7 +12,7 @@ cFindings CheckInstallation(const cFileReader& files, const std::string& applica
     const cInstallation installation(files, applicationPath);
     cFindings findings;
     for (const auto check : {CheckFile, CheckKeys, CheckList, CheckCategories, CheckPopups, CheckSenders,
-                             CheckPrinter, CheckLanguage, CheckAlarmFiles}) {
+                             CheckPrinter, CheckLanguage, CheckLists, CheckAlarmFiles}) {
         check(installation, findings);
     }
     if (machine != nullptr) CheckMachine(installation, *machine, findings);

@@ -78,12 +78,12 @@ class cKeyCheck {
 
     void Lengths(const cIniDocument::cSection& section) {
         for (const cIniDocument::cKey& key : section.keys) {
-            if (key.value.size() <= kMostValueCharacters) continue;
+            if (key.length <= kMostValueCharacters) continue;
             cPlace place = cInstallation::PlaceOf(section, key);
             place.value = place.value.substr(0, 40) + "...";
             m_Findings.Warning("value-too-long", place,
                                "only the first " + std::to_string(kMostValueCharacters) + " of its " +
-                                   std::to_string(key.value.size()) + " characters are read");
+                                   std::to_string(key.length) + " characters are read");
         }
     }
 

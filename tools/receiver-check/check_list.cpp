@@ -1,7 +1,6 @@
 #include <algorithm>
 
 #include "common/dates.h"
-#include "common/failure.h"
 #include "common/text.h"
 #include "core/setting_keys.h"
 #include "events/alarm_list_view.h"
@@ -84,13 +83,10 @@ void CheckForm(const cInstallation& installation, const std::string& key, const 
     const std::string form = installation.Value("General", key);
     const DateTime moment = DateSerial(2021, 3, 4) + TimeSerial(5, 6, 7);
     std::string missing;
-    const auto failure = CatchFailure([&] {
-        for (const cPart& part : parts) {
-            if (FormatDateTime(moment, form, forms) != FormatDateTime(part.moment, form, forms)) continue;
-            missing += (missing.empty() ? "" : " nor ") + part.name;
-        }
-    });
-    if (failure) missing = parts.front().name;
+    for (const cPart& part : parts) {
+        if (FormatDateTime(moment, form, forms) != FormatDateTime(part.moment, form, forms)) continue;
+        missing += (missing.empty() ? "" : " nor ") + part.name;
+    }
     if (missing.empty()) return;
     findings.Warning("form-without-part", place,
                      "shows no " + missing + ": " + FormatDateTime(moment, form, forms));

@@ -22,6 +22,8 @@ void CheckPopups(const cInstallation& installation, cFindings& findings);
 void CheckSenders(const cInstallation& installation, cFindings& findings);
 void CheckPrinter(const cInstallation& installation, cFindings& findings);
 void CheckLanguage(const cInstallation& installation, cFindings& findings);
+// The lists that people write beside the configuration: colour rules, kinds of receivers.
+void CheckLists(const cInstallation& installation, cFindings& findings);
 void CheckAlarmFiles(const cInstallation& installation, cFindings& findings);
 // The port and the rights of the user who runs the check.
 void CheckMachine(const cInstallation& installation, const cMachine& machine, cFindings& findings);

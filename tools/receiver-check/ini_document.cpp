@@ -34,7 +34,8 @@ cIniDocument::cIniDocument(std::string_view content) : m_Lines(SplitLines(conten
         cSection& section = m_Sections.empty() ? m_Before : m_Sections.back();
         if (auto key = ReadIniKeyLine(line)) {
             const bool first = !Has(section.keys, key->key);
-            section.keys.push_back({number, std::move(key->key), std::move(key->value), first});
+            section.keys.push_back({number, std::move(key->key), key->value.substr(0, kMostValueCharacters),
+                                    key->value.size(), first});
         } else if (!IsEmptyOrComment(line)) {
             section.odd.push_back({number, line});
         }

@@ -13,8 +13,10 @@ class cIniDocument {
   public:
     struct cKey {
         std::size_t line = 0;
-        std::string name, value;
-        bool first = true;  // of this name in its section
+        std::string name;
+        std::string value;       // as much of it as is read
+        std::size_t length = 0;  // of the whole value
+        bool first = true;       // of this name in its section
     };
     struct cLine {
         std::size_t line = 0;
