@@ -1,0 +1,84 @@
+// The editor as an operator works with it.
+
+#include <gtest/gtest.h>
+
+#include "e2e/definitions/editor_program.h"
+#include "schedule/schedule_builder.h"
+#include "support/samples.h"
+
+namespace vigrel::testing {
+namespace {
+
+// Monday to Friday 07:00 to 17:30 as a group, Saturday 09:00 to 13:00, Sunday the whole day.
+std::string ExpectedSchedule() {
+    cContent content;
+    for (std::size_t day = 0; day < 5; ++day) content.Day(day, {{420, 1050}});
+    content.Day(5, {{540, 780}}).Day(6, {{0, 1440}}).Grouped({0, 1, 2, 3, 4});
+    for (int day = 0; day < 23; ++day)
+        content.days[static_cast<std::size_t>(day)].axisIndex = std::min(day, 7);
+    return content.Bytes();
+}
+
+class DefinitionsEditor : public ::testing::TestWithParam<int>, protected cEditorProgram {};
+
+// At both sizes of the drawing.
+TEST_P(DefinitionsEditor, AScheduleMadeByMouseIsSavedAndReadAgain) {
+    Start(GetParam());
+    Keys({"ctrl+n"});
+    ASSERT_TRUE(HasTitle("Schedule 1 - Vigrel Definitions"));
+    ASSERT_TRUE(FindAxis());
+    Drag({At(1, 960), At(1, 1000), At(1, 1050)});
+    ASSERT_TRUE(HasTitle("Schedule 1* - Vigrel Definitions"));
+    Drag({At(5, 540), At(5, 600), At(5, 780)});
+    RightClick(At(6, 600));
+    Type("w");
+
+    Keys({"ctrl+s"});
+    ASSERT_TRUE(ChooseFile("Save as", Path("made")));
+    ASSERT_TRUE(HasTitle("made.sch - Vigrel Definitions"));
+    EXPECT_EQ(File("made.sch", ExpectedSchedule().size()), ExpectedSchedule());
+
+    Keys({"ctrl+w"});
+    ASSERT_TRUE(HasTitle("Vigrel Definitions"));
+    Keys({"ctrl+o"});
+    ASSERT_TRUE(ChooseFile("Open", Path("made.sch")));
+    ASSERT_TRUE(HasTitle("made.sch - Vigrel Definitions"));
+    Keys({"ctrl+shift+s"});
+    ASSERT_TRUE(ChooseFile("Save as", Path("again.sch")));
+    ASSERT_TRUE(HasTitle("again.sch - Vigrel Definitions"));
+    EXPECT_EQ(File("again.sch", ExpectedSchedule().size()), ExpectedSchedule());
+    Keys({"ctrl+q"});
+    EXPECT_EQ(WaitForEnd(), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Zoom, DefinitionsEditor, ::testing::Values(1, 2));
+
+class DefinitionsFiles : public ::testing::Test, protected cEditorProgram {};
+
+TEST_F(DefinitionsFiles, FilesOfTheCommandLineAreOpened) {
+    Start(1, {SamplePath("calendar.dat"), SamplePath("schedule.dat")});
+    EXPECT_TRUE(HasTitle("schedule.dat - Vigrel Definitions"));
+    Keys({"ctrl+w"});
+    EXPECT_TRUE(HasTitle("calendar.dat - Vigrel Definitions"));
+    Keys({"ctrl+q"});
+    EXPECT_EQ(WaitForEnd(), 0);
+}
+
+TEST_F(DefinitionsFiles, UnsavedChangesAreAskedForAtTheEnd) {
+    Start(2, {SamplePath("schedule.dat")});
+    ASSERT_TRUE(HasTitle("schedule.dat - Vigrel Definitions"));
+    ASSERT_TRUE(FindAxis());
+    Drag({At(6, 540), At(6, 600), At(6, 780)});
+    ASSERT_TRUE(HasTitle("schedule.dat* - Vigrel Definitions"));
+    Keys({"ctrl+q"});
+    ASSERT_TRUE(EnterDialog("Vigrel Definitions"));
+    Type("\x1B");
+    EXPECT_TRUE(HasTitle("schedule.dat* - Vigrel Definitions"));
+    Keys({"ctrl+z"});
+    EXPECT_TRUE(HasTitle("schedule.dat - Vigrel Definitions"));
+    Keys({"ctrl+q"});
+    EXPECT_EQ(WaitForEnd(), 0);
+}
+
+}  // namespace
+}  // namespace vigrel::testing

@@ -1,0 +1,142 @@
+#include "e2e/definitions/editor_program.h"
+
+#include <fcntl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <thread>
+
+#include "e2e/windows/operator.h"
+#include "schedule/schedule_geometry.h"
+
+namespace vigrel::testing {
+namespace {
+
+constexpr const char* kTitle = "Vigrel Definitions";
+
+template <class Condition>
+bool Eventually(Condition&& condition) {
+    for (int tries = 0; tries < 200; ++tries) {
+        if (condition()) return true;
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    }
+    return condition();
+}
+
+// The mouse and the keyboard of the display.
+void Do(const std::string& steps) {
+    const int result = std::system(("xdotool " + steps + " >/dev/null 2>&1").c_str());
+    static_cast<void>(result);
+}
+
+std::string Text(cPixelPlace place) {
+    return std::to_string(place.x) + " " + std::to_string(place.y);
+}
+
+std::string Content(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+}  // namespace
+
+void cEditorProgram::Start(int zoom, const std::vector<std::string>& files) {
+    m_Zoom = zoom;
+    std::filesystem::create_directories(m_Folder.Path() / "config/Vigrel");
+    std::ofstream(m_Folder.Path() / "config/Vigrel/VigrelDefinitions.ini")
+        << "[General]\nZoom=" << zoom << "\n";
+    m_Process = fork();
+    if (m_Process == 0) {
+        setenv("VIGREL_APPLICATION_PATH", m_Folder.Path().c_str(), 1);
+        setenv("XDG_CONFIG_HOME", Path("config").c_str(), 1);
+        setenv("QT_QPA_PLATFORM", "xcb", 1);
+        setenv("LC_ALL", "C.UTF-8", 1);
+        std::vector<std::string> words{VIGREL_DEFINITIONS};
+        words.insert(words.end(), files.begin(), files.end());
+        std::vector<char*> arguments;
+        for (std::string& word : words) arguments.push_back(word.data());
+        arguments.push_back(nullptr);
+        execv(arguments[0], arguments.data());
+        _exit(127);
+    }
+    m_Window = FindWindow(m_Process, kTitle);
+}
+
+cEditorProgram::~cEditorProgram() {
+    if (m_Process <= 0) return;
+    kill(m_Process, SIGKILL);
+    waitpid(m_Process, nullptr, 0);
+}
+
+int cEditorProgram::WaitForEnd() {
+    int status = -1;
+    if (!Eventually([&] { return waitpid(m_Process, &status, WNOHANG) == m_Process; })) return -1;
+    m_Process = -1;
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+bool cEditorProgram::HasTitle(const std::string& title) const {
+    return Eventually([&] { return TitleOf(m_Window) == title; });
+}
+
+void cEditorProgram::Keys(const std::vector<std::string>& keys) const {
+    Press(m_Window, keys);
+}
+
+void cEditorProgram::Type(const std::string& text) const {
+    Do("type --delay 10 '" + text + "'");
+}
+
+bool cEditorProgram::EnterDialog(const std::string& title) {
+    const std::string dialog = FindWindow(m_Process, title);
+    if (dialog.empty()) return false;
+    Do("windowactivate --sync " + dialog);
+    return true;
+}
+
+// Return alone may only close the list of completions; the button's key accepts.
+bool cEditorProgram::ChooseFile(const std::string& title, const std::string& path) {
+    if (!EnterDialog(title)) return false;
+    Type(path);
+    Do(std::string("key alt+") + (title == "Open" ? "o" : "s"));
+    return true;
+}
+
+std::string cEditorProgram::File(const std::string& name, std::size_t size) const {
+    Eventually([&] {
+        std::error_code error;
+        return std::filesystem::file_size(Path(name), error) == size && !error;
+    });
+    return Content(Path(name));
+}
+
+// The uppermost line of an axis is the only long one of its grey.
+bool cEditorProgram::FindAxis() {
+    return Eventually([&] {
+        const auto found = cScreenPicture().FindRun(0xDCDCDC, 80 * m_Zoom);
+        if (found) m_Axis = *found;
+        return found.has_value();
+    });
+}
+
+cPixelPlace cEditorProgram::At(int row, int minute) const {
+    return {m_Axis.x + minute / kMinutesPerUnit * m_Zoom + m_Zoom / 2,
+            m_Axis.y + row * kRowHeight * m_Zoom + m_Zoom * 6};
+}
+
+void cEditorProgram::Drag(const std::vector<cPixelPlace>& places) const {
+    std::string steps = "mousemove " + Text(places.front()) + " mousedown 1";
+    for (const cPixelPlace& place : places) steps += " sleep 0.1 mousemove " + Text(place);
+    Do(steps + " sleep 0.1 mouseup 1");
+}
+
+void cEditorProgram::RightClick(cPixelPlace place) const {
+    Do("mousemove " + Text(place) + " click 3 sleep 0.3");
+}
+
+}  // namespace vigrel::testing
