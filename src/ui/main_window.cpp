@@ -25,6 +25,7 @@ constexpr int kFrontMilliseconds = 50;
 cMainWindow::cMainWindow(cOpenWindows& windows)
     : cWidgetWindow("Vigrel_Receiver_Main", windows), m_List(this, m_Icons) {
     SetCaption(kTitle);
+    setWindowIcon(QIcon(":/icons/vigrel-receiver.svg"));
     resize(ToPixels(kWidth), ToPixels(kHeight));
     m_List.View().setObjectName("ListView_Alarms");
     m_List.View().setAccessibleName("Alarms");
@@ -83,8 +84,6 @@ double cMainWindow::InnerHeight() const {
 
 void cMainWindow::Show() {
     cWidgetWindow::Show();
-    // What a window manager has restored, and was hidden since, would come back as an icon.
-    if (State() == eWindowState::Normal) showNormal();
     if (State() != eWindowState::Minimised) ComeToFront();
 }
 

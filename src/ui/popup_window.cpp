@@ -85,12 +85,12 @@ cPopupWidget::cPopupWidget(cOpenWindows& windows, cPopupStack& stack, const Popu
 // --- place and visibility
 
 void cPopupWidget::SetLeft(double twips) {
-    m_Place = QPoint(ToPixels(twips), m_Place ? m_Place->y() : y());
+    m_Place = QPoint(ToPixels(twips), m_Place ? m_Place->y() : Place().y());
     m_Stack.Schedule();
 }
 
 void cPopupWidget::SetTop(double twips) {
-    m_Place = QPoint(m_Place ? m_Place->x() : x(), ToPixels(twips));
+    m_Place = QPoint(m_Place ? m_Place->x() : Place().x(), ToPixels(twips));
     m_Stack.Schedule();
 }
 
@@ -120,7 +120,7 @@ bool cPopupWidget::ReachScreen() {
     if (m_Shown) {
         Map();
     } else {
-        hide();
+        Vanish();
     }
     return true;
 }
@@ -135,14 +135,12 @@ void cPopupWidget::ReachPlace() {
         return screen->availableGeometry().intersects(frame);
     });
     if (!seen) frame.moveTopLeft(QGuiApplication::primaryScreen()->availableGeometry().topLeft());
-    if (frame.topLeft() != pos() || !testAttribute(Qt::WA_Moved)) move(frame.topLeft());
+    if (frame.topLeft() != Place() || !testAttribute(Qt::WA_Moved)) PlaceAt(frame.topLeft());
 }
 
 void cPopupWidget::Map() {
-    const bool minimised = isMinimized();
+    Reappear();
     show();
-    // One that a window manager has restored would come back as an icon.
-    if (!minimised && !isMaximized()) showNormal();
     // Screen readers speak it, as they would a message box.
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);

@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <utility>
 
 #include "ui/key_codes.h"
 
@@ -75,11 +76,23 @@ void cReportView::ChooseRow(const QModelIndex& index) {
     if (index.isValid() && OnRowChosen) OnRowChosen(index);
 }
 
+void cReportView::focusInEvent(QFocusEvent* event) {
+    m_InMenu = false;
+    QTableView::focusInEvent(event);
+}
+
 void cReportView::focusOutEvent(QFocusEvent* event) {
     QTableView::focusOutEvent(event);
     // A menu is a part of the window; the operator is still at the list.
-    const bool menu = event->reason() == Qt::PopupFocusReason || event->reason() == Qt::MenuBarFocusReason;
-    if (!menu && OnFocusLost) OnFocusLost();
+    m_InMenu = event->reason() == Qt::PopupFocusReason || event->reason() == Qt::MenuBarFocusReason;
+    if (!m_InMenu && OnFocusLost) OnFocusLost();
+}
+
+bool cReportView::event(QEvent* event) {
+    // From the menu the operator has gone elsewhere.
+    const bool left = event->type() == QEvent::WindowDeactivate && std::exchange(m_InMenu, false);
+    if (left && OnFocusLost) OnFocusLost();
+    return QTableView::event(event);
 }
 
 void cReportView::mouseDoubleClickEvent(QMouseEvent* event) {

@@ -25,7 +25,9 @@ class cReportView : public QTableView {
     std::function<void()> OnPaint;                        // a painting begins
 
   protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -34,6 +36,7 @@ class cReportView : public QTableView {
     void ChooseRow(const QModelIndex& index);
     cReportHeader* m_Header;  // the toolkit's to delete
     QString m_EmptyText;
+    bool m_InMenu = false;  // a menu of the window has taken the focus over
 };
 
 }  // namespace vigrel

@@ -4,16 +4,20 @@
 #include <QEvent>
 #include <QMoveEvent>
 #include <QResizeEvent>
+#include <QScopedValueRollback>
 #include <QShowEvent>
+#include <QTimer>
 #include <QWidget>
 #include <QWindow>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "adapters/qt/qt_text.h"
 #include "common/failure.h"
 #include "platform/windows.h"
+#include "ui/restore_icon.h"
 #include "ui/screen_flush.h"
 #include "ui/twips.h"
 #include "ui/window_list.h"
@@ -51,14 +55,18 @@ class cWidgetWindow : public Widget, public Port {
         const Qt::WindowState own = state == eWindowState::Minimised   ? Qt::WindowMinimized
                                     : state == eWindowState::Maximised ? Qt::WindowMaximized
                                                                        : Qt::WindowNoState;
+        const bool wasIcon = this->isMinimized();
+        ++m_StateWishes;
         this->setWindowState(others | own);
+        if (wasIcon && !this->isMinimized() && this->isVisible()) BecomeWindow();
+        FlushToScreen();
     }
-    double Left() const override { return ToTwips(this->x()); }
-    double Top() const override { return ToTwips(this->y()); }
+    double Left() const override { return ToTwips(Place().x()); }
+    double Top() const override { return ToTwips(Place().y()); }
     double Width() const override { return ToTwips(FrameSize().width()); }
     double Height() const override { return ToTwips(FrameSize().height()); }
-    void SetLeft(double twips) override { this->move(ToPixels(twips), this->y()); }
-    void SetTop(double twips) override { this->move(this->x(), ToPixels(twips)); }
+    void SetLeft(double twips) override { PlaceAt({ToPixels(twips), Place().y()}); }
+    void SetTop(double twips) override { PlaceAt({Place().x(), ToPixels(twips)}); }
     void SetWidth(double twips) override { SetFrameSize({ToPixels(twips), FrameSize().height()}); }
     void SetHeight(double twips) override { SetFrameSize({FrameSize().width(), ToPixels(twips)}); }
     double InnerWidth() const override { return ToTwips(this->width()); }
@@ -67,10 +75,15 @@ class cWidgetWindow : public Widget, public Port {
     bool Visible() const override { return this->isVisible(); }
     void Show() override {
         m_Windows.Enter(*this);
-        this->show();
+        Reappear();
+        {
+            const QScopedValueRollback showing(m_Showing, true);
+            this->show();
+        }
         FlushToScreen();
+        if (std::exchange(m_ResizedInShow, false) && this->OnResize) this->OnResize();
     }
-    void Hide() override { this->hide(); }
+    void Hide() override { Vanish(); }
     void SetFocus() override {
         if (!this->isVisible() || this->isMinimized()) {
             throw cFailure(eFailure::InvalidCall, m_Name + ": a window that doesn't show takes no focus");
@@ -96,6 +109,34 @@ class cWidgetWindow : public Widget, public Port {
             this->windowHandle()->setFlag(Qt::WindowStaysOnTopHint, on);
         }
     }
+    // Hides the window and gives its native one up. A hidden native window keeps what the window manager made
+    // of it, its frame, its place, its being an icon, and the toolkit remembers one or the other of it
+    // depending on the moment; a new one comes up where and as the widget says.
+    void Vanish() {
+        if (!this->isVisible()) return;
+        const bool maximised = this->isMaximized();
+        const QRect restored = this->normalGeometry();  // of the inside
+        m_HiddenPlace = maximised ? restored.topLeft() - QPoint(m_Frame.left(), m_Frame.top()) : this->pos();
+        this->hide();
+        this->destroy();
+        if (maximised) this->resize(restored.size());
+    }
+    // What is to happen to a hidden window before it is shown again.
+    void Reappear() {
+        if (!m_HiddenPlace) return;
+        // By the inside, for which the toolkit needs to know nothing of the frame.
+        this->setGeometry(QRect(*m_HiddenPlace + QPoint(m_Frame.left(), m_Frame.top()), this->size()));
+        m_HiddenPlace.reset();
+    }
+    // The frame's upper left corner.
+    QPoint Place() const { return m_HiddenPlace ? *m_HiddenPlace : this->pos(); }
+    void PlaceAt(QPoint place) {
+        if (m_HiddenPlace) {
+            m_HiddenPlace = place;
+        } else {
+            this->move(place);
+        }
+    }
     // Runs the close query and, when it isn't refused, the unload step. Whether the window is closed.
     bool TryClose(eCloseReason reason) {
         if (m_Closing || !m_Windows.Holds(*this)) return true;
@@ -119,7 +160,7 @@ class cWidgetWindow : public Widget, public Port {
         // Sized by somebody else: without a frame to wait for, the wish is over.
         if (m_WishedFrame && event->size() != *m_WishedFrame) m_WishedFrame.reset();
         MeetFrame();
-        if (this->OnResize) this->OnResize();
+        Resized();
     }
     void showEvent(QShowEvent* event) override {
         Widget::showEvent(event);
@@ -131,32 +172,52 @@ class cWidgetWindow : public Widget, public Port {
     }
     void changeEvent(QEvent* event) override {
         Widget::changeEvent(event);
-        if (event->type() == QEvent::WindowStateChange && this->OnResize) this->OnResize();
+        if (event->type() == QEvent::WindowStateChange) Resized();
         if (event->type() == QEvent::ActivationChange && this->isActiveWindow() && this->OnActivate) {
             this->OnActivate();
         }
     }
 
   private:
-    QMargins Frame() const {
-        return this->windowHandle() != nullptr ? this->windowHandle()->frameMargins() : QMargins();
+    // A window that is hidden while it is being shown would show all the same: the event waits.
+    void Resized() {
+        m_ResizedInShow = m_ResizedInShow || m_Showing;
+        if (!m_Showing && this->OnResize) this->OnResize();
     }
-    QSize FrameSize() const { return m_WishedFrame ? *m_WishedFrame : this->size().grownBy(Frame()); }
+    void BecomeWindow() {
+        RestoreFromIcon(*this);
+        // A window manager that was just making an icon of the window goes on with it.
+        constexpr int kSettledMilliseconds = 200;
+        QTimer::singleShot(kSettledMilliseconds, this, [this, wish = m_StateWishes] {
+            if (wish != m_StateWishes || !this->isVisible() || this->windowHandle()->isExposed()) return;
+            this->setWindowState(this->windowState() & ~Qt::WindowMinimized);
+            RestoreFromIcon(*this);
+            FlushToScreen();
+        });
+    }
+    QSize FrameSize() const { return m_WishedFrame ? *m_WishedFrame : this->size().grownBy(m_Frame); }
     void SetFrameSize(QSize size) {
         m_WishedFrame.reset();
         if (!m_FrameSeen) m_WishedFrame = size;
-        this->resize(size.shrunkBy(Frame()).expandedTo({0, 0}));
+        this->resize(size.shrunkBy(m_Frame).expandedTo({0, 0}));
     }
     void MeetFrame() {
-        if (m_FrameSeen || !this->isVisible() || Frame().isNull()) return;
-        m_FrameSeen = true;
+        if (!this->isVisible() || this->isMinimized() || this->windowHandle() == nullptr) return;
+        const QMargins frame = this->windowHandle()->frameMargins();
+        if (frame.isNull()) return;
+        m_Frame = frame;
+        if (std::exchange(m_FrameSeen, true)) return;
         if (m_WishedFrame) SetFrameSize(*m_WishedFrame);
     }
 
     std::string m_Name, m_Caption;
     cOpenWindows& m_Windows;
-    std::optional<QSize> m_WishedFrame;  // until the frame is seen
+    std::optional<QSize> m_WishedFrame;   // until the frame is seen
+    std::optional<QPoint> m_HiddenPlace;  // of the frame, while hidden by the program
+    QMargins m_Frame;                     // as last seen
     bool m_FrameSeen = false, m_Closing = false;
+    bool m_Showing = false, m_ResizedInShow = false;
+    unsigned m_StateWishes = 0;  // how often a state was set
 };
 
 }  // namespace vigrel

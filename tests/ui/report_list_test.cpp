@@ -47,7 +47,7 @@ class cReportListTest : public ::testing::Test {
         const RecordId record = m_List.AddRecord(nullptr);
         for (int i = 0; i < 3; ++i) m_List.AddItem(record);
         m_List.SetItemValue(record, 0, std::string("1"));
-        m_List.SetItemIcon(record, 0, 3);
+        m_List.SetItemIcon(record, 0, 999);  // a number without picture
         m_List.SetItemValue(record, 1, text);
         m_List.SetItemCaption(record, 1, text);
         m_List.SetItemColours(record, 1, 0xFFFFFF, 0x0000FF);  // white on red
@@ -427,6 +427,13 @@ TEST_F(cReportListPictureTest, ACellWithoutCaptionAndColoursShowsTheListsOwnColo
     m_List.SetItemIcon(m_Records[1], 0, -1);
     const QImage cell = Picture(1, 0);
     EXPECT_EQ(Count(cell, View().palette().color(QPalette::Base)), cell.width() * (cell.height() - 1));
+}
+
+TEST_F(cReportListPictureTest, ACellWithIconShowsItsPicture) {
+    Fill(2);
+    m_List.SetItemIcon(m_Records[1], 0, 2);
+    m_List.Redraw();
+    EXPECT_NE(Picture(1, 0), Picture(0, 0));
 }
 
 TEST_F(cReportListPictureTest, ASelectedRowIsFramedOnEveryColour) {
