@@ -1,11 +1,12 @@
 // The alarm receiver: builds the machine's side of every port, and the receiver over them.
 
-#include <memory>
+#include <cstdio>
+#include <string>
 
-#include "absent_devices.h"
 #include "adapters/linux/application_folder.h"
 #include "adapters/linux/clock.h"
 #include "adapters/linux/files.h"
+#include "adapters/linux/printer_ports.h"
 #include "adapters/linux/random.h"
 #include "adapters/linux/running_apps.h"
 #include "adapters/linux/signal_light.h"
@@ -18,6 +19,7 @@
 #include "adapters/qt/cQtWaveDevice.h"
 #include "adapters/qt/cTonePlayer.h"
 #include "adapters/qt/stop_signals.h"
+#include "common/code_page.h"
 #include "common/failure.h"
 #include "core/Vigrel_Receiver_Main.h"
 #include "ui/application.h"
@@ -87,7 +89,10 @@ int Run(int argc, char** argv) {
     cNotificationIcon trayArea;
     cHidSignalLight signalLight(clock);
     cLocalRunningApps runningApps;
-    cNoPrinter printerPorts;
+    const cIni printerIni(files, applicationPath);
+    cLinuxPrinterPorts printerPorts(printerIni, clock, [](const std::string& text) {
+        std::fprintf(stderr, "vigrel-receiver: %s\n", CodePageToUtf8(text).c_str());
+    });
     const cQtSettingStore settingStore;
     cQtOtherWindows otherWindows({files, clock, locale, screen, settingStore, windows}, applicationPath);
 

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <fstream>
 #include <thread>
 
 #include "e2e/station.h"
@@ -123,6 +124,20 @@ TEST(Receiver, TwoFoldersRunSideBySide) {
     EXPECT_EQ(second.Send({"--t0", "second", "--count", "2"}).exitCode, 0);
     EXPECT_EQ(first.AlarmFiles().size(), 1u);
     EXPECT_EQ(second.AlarmFiles().size(), 2u);
+}
+
+TEST(Receiver, AnEventIsPrintedByItsTemplateInLinesOfEightyCharacters) {
+    cStation station;
+    const std::string printer = (station.Folder() / "printer").string();
+    station.Configure("[Printer]\r\nPort=2\r\nFormat={ACTIVE?ALARM }[SENDER] [T0]\r\n[PrinterPorts]\r\n2=" +
+                      printer + "\r\n");
+    // A printer's device is there before anything is printed on it.
+    std::ofstream(printer).close();
+    ASSERT_TRUE(station.Start());
+    EXPECT_EQ(station.Send({"--sender", "PLC1", "--t0", "K\xC3\xA4llare " + std::string(70, 'x')}).exitCode,
+              0);
+    EXPECT_EQ(ReadAll(printer),
+              "ALARM PLC1 K\x84llare " + std::string(61, 'x') + "\r\n" + std::string(9, 'x') + "\r\n");
 }
 
 TEST(Receiver, AMinuteOfSilenceIsAnAlarmAndTheNextFrameItsEnd) {
