@@ -1,6 +1,7 @@
 #include <algorithm>
-#include <array>
+#include <map>
 
+#include "common/code_page.h"
 #include "common/failure.h"
 #include "common/numbers.h"
 #include "common/text.h"
@@ -149,26 +150,33 @@ void CheckLightsOfGeneral(const cInstallation& installation, cFindings& findings
     }
 }
 
-std::string SectionOf(const cIniDocument& document, const std::string& category) {
-    for (const cIniDocument::cSection& section : document.m_Sections) {
-        const bool same = IsCategorySection(section.name) &&
-                          EqualsNoCase(Trim(section.name.substr(kCategorySectionPrefix.size())), category);
-        if (same && section.first) return section.name;
-    }
-    return std::string(kCategorySectionPrefix) + category;
+// The section that counts for each category, by its upper-cased name.
+using SectionsByCategory = std::map<std::string, std::string>;
+
+std::string CategoryOf(const cIniDocument::cSection& section) {
+    return Trim(section.name.substr(kCategorySectionPrefix.size()));
 }
 
-void CheckRepeated(const cInstallation& installation, cFindings& findings) {
-    const auto& all = installation.Categories().m_CategorySettings;
+SectionsByCategory FindSections(const cIniDocument& document) {
+    SectionsByCategory sections;
+    for (const cIniDocument::cSection& section : document.m_Sections) {
+        if (!section.first || !IsCategorySection(section.name)) continue;
+        sections.try_emplace(ToUpper(CategoryOf(section)), section.name);
+    }
+    return sections;
+}
+
+void CheckRepeated(const cInstallation& installation, const SectionsByCategory& sections,
+                   cFindings& findings) {
     for (const cIniDocument::cSection& section : installation.Document().m_Sections) {
         if (!section.first || !IsCategorySection(section.name)) continue;
-        const std::string category = Trim(section.name.substr(kCategorySectionPrefix.size()));
+        const std::string category = CategoryOf(section);
         if (category.empty()) {
             findings.Warning("category-without-name", cInstallation::PlaceOf(section),
                              "names no category: it holds for alarms without one");
         }
-        const std::string first = SectionOf(installation.Document(), category);
-        if (EqualsNoCase(first, section.name) || all.empty()) continue;
+        const std::string& first = sections.at(ToUpper(category));
+        if (EqualsNoCase(first, section.name)) continue;
         findings.Warning("category-repeated", cInstallation::PlaceOf(section),
                          "the category has the section [" + first + "] already, which counts");
     }
@@ -192,13 +200,15 @@ void CheckSystemErrorCategory(const cInstallation& installation, cFindings& find
 void CheckCategories(const cInstallation& installation, cFindings& findings) {
     if (!installation.IsConfigured()) return;
     cLook(installation, "General", installation.Categories().m_DefaultCategorySetting, findings).Check();
+    const SectionsByCategory sections = FindSections(installation.Document());
     for (const cCategorySpecificSetting& setting : installation.Categories().m_CategorySettings) {
         const bool first = &installation.Categories().Find(setting.m_Category) == &setting;
-        const std::string section = SectionOf(installation.Document(), setting.m_Category);
-        if (first) cLook(installation, section, setting, findings).Check();
+        const auto section = sections.find(ToUpper(setting.m_Category));
+        if (first && section != sections.end())
+            cLook(installation, section->second, setting, findings).Check();
     }
     CheckLightsOfGeneral(installation, findings);
-    CheckRepeated(installation, findings);
+    CheckRepeated(installation, sections, findings);
     CheckSystemErrorCategory(installation, findings);
 }
 

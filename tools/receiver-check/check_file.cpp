@@ -78,12 +78,9 @@ void CheckRepeatedKeys(const cIniDocument::cSection& section, cFindings& finding
     if (EqualsNoCase(section.name, "Senders")) return;
     for (const cIniDocument::cKey& key : section.keys) {
         if (key.first) continue;
-        const auto first = std::find_if(section.keys.begin(), section.keys.end(), [&](const auto& other) {
-            return EqualsNoCase(other.name, key.name);
-        });
-        findings.Warning(
-            "key-repeated", cInstallation::PlaceOf(section, key),
-            "the key stands in line " + std::to_string(first->line) + " already; only the first one counts");
+        const std::string line = std::to_string(section.Key(key.name)->line);
+        findings.Warning("key-repeated", cInstallation::PlaceOf(section, key),
+                         "the key stands in line " + line + " already; only the first one counts");
     }
 }
 

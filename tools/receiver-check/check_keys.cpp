@@ -47,7 +47,7 @@ class cKeyCheck {
     void Section(const cIniDocument::cSection& section) {
         if (IsFreeSection(section.name)) return Lengths(section);
         const bool known = IsCategorySection(section.name) || IsColumn(section.name) ||
-                           Contains(KnownSections(), section.name);
+                           Contains(m_KnownSections, section.name);
         if (!known) return UnknownSection(section);
         Lengths(section);
         for (const cIniDocument::cKey& key : section.keys) {
@@ -71,7 +71,7 @@ class cKeyCheck {
         } else if (ToUpper(section.name).starts_with("CATEGORY")) {
             message += ": a category's is named " + std::string(kCategorySectionPrefix) + "NAME";
         } else {
-            message += MeantPerhaps(section.name, KnownSections());
+            message += MeantPerhaps(section.name, m_KnownSections);
         }
         m_Findings.Warning("unknown-section", cInstallation::PlaceOf(section), message);
     }
@@ -89,7 +89,7 @@ class cKeyCheck {
 
     void Key(const cIniDocument::cSection& section, const cIniDocument::cKey& key) {
         // A column that isn't known has the keys of one that is.
-        const bool unknownColumn = IsColumn(section.name) && !Contains(KnownSections(), section.name);
+        const bool unknownColumn = IsColumn(section.name) && !Contains(m_KnownSections, section.name);
         const std::string_view sameKeys = unknownColumn ? kColumnKeywords[0] : std::string_view(section.name);
         const cSettingKey* known = FindSettingKey(sameKeys, key.name);
         if (known == nullptr) return UnknownKey(section, key);
@@ -127,6 +127,7 @@ class cKeyCheck {
     const cInstallation& m_Installation;
     cFindings& m_Findings;
     std::vector<std::string> m_Columns;
+    std::vector<std::string> m_KnownSections = KnownSections();
 };
 
 }  // namespace

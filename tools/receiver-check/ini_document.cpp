@@ -1,19 +1,13 @@
 #include "receiver-check/ini_document.h"
 
-#include <algorithm>
 #include <utility>
 
+#include "common/code_page.h"
 #include "common/ini.h"
 #include "common/text.h"
 
 namespace vigrel {
 namespace {
-
-template <class Items>
-bool Has(const Items& items, std::string_view name) {
-    return std::any_of(items.begin(), items.end(),
-                       [&](const auto& item) { return EqualsNoCase(item.name, name); });
-}
 
 bool IsEmptyOrComment(std::string_view line) {
     const std::size_t first = line.find_first_not_of(" \t");
@@ -27,13 +21,13 @@ cIniDocument::cIniDocument(std::string_view content) : m_Lines(SplitLines(conten
     for (const std::string& line : m_Lines) {
         ++number;
         if (auto name = IniHeaderName(line)) {
-            const bool first = !Has(m_Sections, *name);
-            m_Sections.push_back({number, std::move(*name), line, first, {}, {}});
+            const bool first = m_FirstSections.try_emplace(ToUpper(*name), m_Sections.size()).second;
+            m_Sections.push_back({number, std::move(*name), line, first, {}, {}, {}});
             continue;
         }
         cSection& section = m_Sections.empty() ? m_Before : m_Sections.back();
         if (auto key = ReadIniKeyLine(line)) {
-            const bool first = !Has(section.keys, key->key);
+            const bool first = section.firstKeys.try_emplace(ToUpper(key->key), section.keys.size()).second;
             section.keys.push_back({number, std::move(key->key), key->value.substr(0, kMostValueCharacters),
                                     key->value.size(), first});
         } else if (!IsEmptyOrComment(line)) {
@@ -43,18 +37,18 @@ cIniDocument::cIniDocument(std::string_view content) : m_Lines(SplitLines(conten
 }
 
 const cIniDocument::cSection* cIniDocument::Section(std::string_view name) const {
-    const auto found = std::find_if(m_Sections.begin(), m_Sections.end(), [&](const cSection& section) {
-        return EqualsNoCase(section.name, name);
-    });
-    return found == m_Sections.end() ? nullptr : &*found;
+    const auto found = m_FirstSections.find(ToUpper(name));
+    return found == m_FirstSections.end() ? nullptr : &m_Sections[found->second];
+}
+
+const cIniDocument::cKey* cIniDocument::cSection::Key(std::string_view keyName) const {
+    const auto found = firstKeys.find(ToUpper(keyName));
+    return found == firstKeys.end() ? nullptr : &keys[found->second];
 }
 
 const cIniDocument::cKey* cIniDocument::Key(std::string_view section, std::string_view name) const {
     const cSection* found = Section(section);
-    if (found == nullptr) return nullptr;
-    const auto key = std::find_if(found->keys.begin(), found->keys.end(),
-                                  [&](const cKey& k) { return EqualsNoCase(k.name, name); });
-    return key == found->keys.end() ? nullptr : &*key;
+    return found == nullptr ? nullptr : found->Key(name);
 }
 
 }  // namespace vigrel

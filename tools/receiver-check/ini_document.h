@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -29,6 +30,10 @@ class cIniDocument {
         bool first = true;   // of this name
         std::vector<cKey> keys;
         std::vector<cLine> odd;  // neither key, comment nor empty
+        // The key that counts.
+        const cKey* Key(std::string_view keyName) const;
+
+        std::map<std::string, std::size_t, std::less<>> firstKeys;  // index by upper-cased name
     };
 
     cIniDocument() = default;
@@ -42,6 +47,9 @@ class cIniDocument {
     cSection m_Before;  // what stands before the first header
     std::vector<cSection> m_Sections;
     std::vector<std::string> m_Lines;
+
+  private:
+    std::map<std::string, std::size_t, std::less<>> m_FirstSections;  // index by upper-cased name
 };
 
 }  // namespace vigrel
