@@ -39,7 +39,7 @@ for argument in "$@"; do
 done
 
 [ $install = no ] || scripts/install-packages.sh
-[ -f build/release/build.ninja ] || cmake --preset release -DVIGREL_BENCH=OFF
+[ -f build/release/build.ninja ] || cmake --preset release -DBUILD_TESTING=OFF
 cmake --build --preset release
 [ $build_only = no ] || exit 0
 
