@@ -1,21 +1,30 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that building (and, with "test", testing) needs, when any is missing.
+# Installs the Debian packages that building needs, when any is missing. With "test" also those for testing, with
+# "package" also those for making and testing the packages of packaging/.
 set -euo pipefail
 
 # Building and running a station.
 packages=(
     g++ cmake ninja-build pkg-config
     qt6-base-dev libqt6svg6-dev libgl-dev libxcb1-dev
-    libsndfile1-dev libpulse-dev libhidapi-dev libcups2-dev libgtest-dev
-    fonts-dejavu-core
+    libsndfile1-dev libpulse-dev libhidapi-dev libcups2-dev
+    fonts-dejavu-core qt6-translations-l10n
 )
 # Checking what lands: formatting, windows under a real window manager, sound, printing.
 test_packages=(
-    clang-format libbenchmark-dev
+    git clang-format libgtest-dev libbenchmark-dev
     xvfb openbox xdotool x11-utils wmctrl trayer imagemagick
     pulseaudio pulseaudio-utils cups cups-client
 )
-[ "${1:-}" = test ] && packages+=("${test_packages[@]}")
+# Making the packages, looking at what they hold, installing them in a bare Debian.
+package_packages=(
+    dpkg-dev file binutils
+    desktop-file-utils appstream lintian man-db groff mandoc debootstrap
+)
+case "${1:-}" in
+    test) packages+=("${test_packages[@]}") ;;
+    package) packages+=("${package_packages[@]}") ;;
+esac
 
 missing=()
 for package in "${packages[@]}"; do
