@@ -1,0 +1,7 @@
+# Read once for each package of "--target package".
+if(CPACK_GENERATOR STREQUAL "TGZ")
+  set(CPACK_PACKAGE_FILE_NAME "${CPACK_PACKAGE_NAME}-${CPACK_PACKAGE_VERSION}-portable-${CPACK_VIGREL_MACHINE}")
+  set(CPACK_INCLUDE_TOPLEVEL_DIRECTORY ON)
+else()
+  set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+endif()
