@@ -1,0 +1,211 @@
+#!/usr/bin/env bash
+# Installs, uses, upgrades and removes the packages in a bare Debian 12.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+source packaging/bare-root.sh
+
+usage() {
+    cat <<'HELP'
+packaging/test-package.sh [--no-build] [--keep]
+
+Builds the Debian package and the portable archive, makes a bare Debian 12 in a temporary folder, and there
+  installs the package with apt, starts the station as an ordinary user without windows, sends it an alarm, ends it,
+  upgrades, and looks that the user's files are as they were,
+  removes the package, and looks that nothing is left,
+  unpacks the archive beside a desktop's own libraries, and starts the station in it.
+
+  --no-build   takes the packages of the last build
+  --keep       leaves the temporary folder there
+
+Needs root, debootstrap, and this machine's apt sources.
+HELP
+}
+
+build=yes keep=no
+for argument in "$@"; do
+    case "$argument" in
+        --help|-h) usage; exit 0 ;;
+        --no-build) build=no ;;
+        --keep) keep=yes ;;
+        *) echo "test-package.sh: unknown option \"$argument\"; try --help" >&2; exit 2 ;;
+    esac
+done
+[ "$(id -u)" -eq 0 ] || { echo "test-package.sh: must be run by root" >&2; exit 2; }
+
+packages=build/release/packages
+if [ $build = yes ]; then
+    rm -rf $packages
+    ./run.sh --no-install --build-only
+    cmake --build --preset release --target package
+fi
+deb=$(ls $packages/vigrel-receiver_*.deb)
+archive=$(ls $packages/vigrel-receiver-*-portable-*.tar.gz)
+
+work=$(mktemp -d)
+root=$work/root
+station=
+leave() {
+    [ -z "$station" ] || kill -KILL "$station" 2>/dev/null || true
+    [ $keep = no ] || { echo "Kept: $root"; return; }
+    remove_root "$root" && rm -rf --one-file-system "$work"
+}
+trap leave EXIT
+
+# The network is shared with this machine, so the usual port may be taken.
+port=$((20000 + RANDOM % 10000))
+
+# as_user USER COMMAND...
+as_user() {
+    local user=$1
+    shift
+    inside "$root" setpriv --reuid "$user" --regid "$user" --init-groups \
+        env HOME="/home/$user" QT_QPA_PLATFORM=offscreen "$@"
+}
+
+# start USER PROGRAM: the station, in the background. chroot, setpriv and env become the program: one process.
+start() {
+    as_user "$@" >"$work/output" 2>&1 &
+    station=$!
+}
+
+# end: tells the station to end; its exit code is in $code.
+end() {
+    code=0
+    kill -TERM "$station"
+    wait "$station" || code=$?
+    station=
+}
+
+# until_true COMMAND...: up to a minute.
+until_true() {
+    local tries
+    for tries in $(seq 120); do
+        "$@" 2>/dev/null && return
+        sleep 0.5
+    done
+    echo "The station's output:" >&2
+    cat "$work/output" >&2
+    return 1
+}
+
+log_says() { grep -aqs "$2" "$1"/LogFiles/*.[Ll]og; }
+files_in() { (cd "$1" && find . -type f | sort); }
+sum() { sha256sum "$1" | cut -d' ' -f1; }
+
+# set_key INI KEY VALUE: in the file as it is, whose lines end with CR LF.
+set_key() { LC_ALL=C sed -i "s/^$2=.*/$2=$3\r/" "$1"; }
+
+# use_station USER FOLDER PROGRAMS: a whole life: language, start, alarm, orderly end.
+use_station() {
+    local user=$1 folder=$2 programs=$3 alarms
+    set_key "$folder/VigrelReceiver.INI" Language 044
+    set_key "$folder/VigrelReceiver.INI" Port $port
+    start "$user" "${programs}vigrel-receiver"
+    check "the station starts" until_true log_says "$folder" "Port $port is open"
+    check "an alarm gets the positive reply" as_user "$user" "${programs}vigrel-send" --port $port \
+        --sender PLC1 --t0 "Fan 3 tripped" --t2 Technical
+    alarms=("$folder"/Alarms/*.alm)
+    check "the alarm has its file" [ ${#alarms[@]} -eq 1 ]
+    as_user "$user" "${programs}vigrel-inspect" "${alarms[0]#"$root"}" >"$work/alarm" || true
+    check "vigrel-inspect reads it" grep -q "Fan 3 tripped" "$work/alarm"
+    end
+    check "SIGTERM ends the station in order (exit code 0)" [ $code -eq 0 ]
+    check "the log tells the end" log_says "$folder" "ends with the operating system"
+}
+
+echo "== a bare Debian"
+make_root "$root"
+inside "$root" apt-get update -q >"$work/apt"
+inside "$root" useradd --create-home operator
+inside "$root" useradd --create-home traveller
+files_in "$root/usr" | grep -v -e /__pycache__/ >"$work/usr-before"
+
+echo "== install"
+cp "$deb" "$root/tmp/package.deb"
+inside "$root" apt-get install -q -y --no-install-recommends /tmp/package.deb >"$work/apt" 2>&1 || { cat "$work/apt"; exit 1; }
+inside "$root" dpkg -L vigrel-receiver >"$work/files"
+check "the package is installed" grep -q "ok installed" <(inside "$root" dpkg -s vigrel-receiver)
+check "nothing lies outside /usr" [ -z "$(grep -v -e '^/\.$' -e '^/usr' "$work/files")" ]
+for program in "$root"/usr/bin/vigrel-*; do
+    name=$(basename "$program")
+    check "$name has a manual page" gzip -t "$root/usr/share/man/man1/$name.1.gz"
+    check "$name finds its libraries" [ -z "$(inside "$root" ldd "/usr/bin/$name" | grep 'not found')" ]
+done
+for page in "$root"/usr/share/man/man1/vigrel-*.1.gz; do
+    check "$(basename "$page") has its program" [ -x "$root/usr/bin/$(basename "$page" .1.gz)" ]
+done
+for entry in "$root"/usr/share/applications/vigrel-*.desktop; do
+    check "$(basename "$entry") has its program" [ -x "$root/usr/bin/$(sed -n 's/^Exec=//p' "$entry")" ]
+    check "$(basename "$entry") has its icon" \
+        [ -f "$root/usr/share/icons/hicolor/scalable/apps/$(sed -n 's/^Icon=//p' "$entry").svg" ]
+done
+for file in lib/systemd/user/vigrel-receiver.service lib/udev/rules.d/70-vigrel-signal-light.rules \
+    share/vigrel-receiver/autostart/vigrel-receiver.desktop share/metainfo/org.vigrel.receiver.metainfo.xml; do
+    check "$file is there" [ -f "$root/usr/$file" ]
+done
+check "the service is not switched on" \
+    [ -z "$(find "$root/etc" "$root/usr/lib/systemd" -path '*.wants/*' -name 'vigrel*')" ]
+
+echo "== first start of a user"
+folder=$root/home/operator/.local/share/VigrelReceiver
+start operator vigrel-receiver
+check "the application folder gets a configuration" until_true [ -f "$folder/VigrelReceiver.INI" ]
+end
+for file in $(cd "$root/usr/share/vigrel-receiver" && find . -type f -not -path './autostart/*'); do
+    check "$file is as delivered" cmp "$root/usr/share/vigrel-receiver/$file" "$folder/$file"
+done
+use_station operator "$folder" /usr/bin/
+
+echo "== upgrade"
+echo "; changed by the operator" >>"$folder/VigrelReceiver.INI"
+echo "changed too" >"$folder/Vigrel_Texts.045"
+before=$(cd "$folder" && sha256sum VigrelReceiver.INI Vigrel_Texts.* Templates/* Sounds/* Alarms/*)
+dpkg-deb -R "$deb" "$work/newer"
+version=$(sed -n 's/^Version: //p' "$work/newer/DEBIAN/control")
+sed -i "s/^Version: .*/Version: $version+1/" "$work/newer/DEBIAN/control"
+printf 'a newer text\n' >"$work/newer/usr/share/vigrel-receiver/Vigrel_Texts.045"
+dpkg-deb --root-owner-group -b "$work/newer" "$root/tmp/newer.deb" >/dev/null
+inside "$root" apt-get install -q -y --no-install-recommends /tmp/newer.deb >"$work/apt" 2>&1 || { cat "$work/apt"; exit 1; }
+check "the newer version is installed" grep -q "^Version: $version+1$" <(inside "$root" dpkg -s vigrel-receiver)
+rm -f "$folder"/LogFiles/*
+start operator vigrel-receiver
+check "the station starts after the upgrade" until_true log_says "$folder" "Port $port is open"
+check "it knows its alarm" log_says "$folder" "1 alarm(s) loaded"
+end
+check "the user's files are as they were" \
+    [ "$before" = "$(cd "$folder" && sha256sum VigrelReceiver.INI Vigrel_Texts.* Templates/* Sounds/* Alarms/*)" ]
+
+echo "== remove"
+inside "$root" apt-get remove -q -y vigrel-receiver >"$work/apt" 2>&1
+inside "$root" apt-get purge -q -y vigrel-receiver >"$work/apt" 2>&1
+check "the package is gone" [ -z "$(inside "$root" dpkg-query -W -f='${db:Status-Status}' vigrel-receiver 2>/dev/null)" ]
+inside "$root" apt-get autoremove -q -y --purge >"$work/apt" 2>&1
+check "no file of it is left under /usr" [ -z "$(find "$root/usr" -ipath '*vigrel*')" ]
+# Caches that other packages make when they come stay when they go.
+files_in "$root/usr" | grep -v -e /__pycache__/ | comm -13 "$work/usr-before" - >"$work/usr-left"
+check "only caches of other packages are new under /usr" \
+    [ -z "$(grep -v -e '/cache' -e '\.cache$' -e 'mime/' -e 'gschemas.compiled' "$work/usr-left")" ]
+check "the alarms of the user stay" [ -n "$(ls "$folder"/Alarms/*.alm)" ]
+
+echo "== portable"
+# What every desktop has.
+inside "$root" apt-get install -q -y --no-install-recommends libgl1 libegl1 libopengl0 libglx0 libx11-6 libx11-xcb1 \
+    libxcb1 libfontconfig1 libfreetype6 libglib2.0-0 libdbus-1-3 libgssapi-krb5-2 libice6 libsm6 libpulse0 libcups2 \
+    libudev1 libharfbuzz0b libpng16-16 fonts-dejavu-core >"$work/apt" 2>&1 || { cat "$work/apt"; exit 1; }
+check "the toolkit is not installed" [ -z "$(find "$root/usr/lib" -name 'libQt6*')" ]
+cp "$archive" "$root/tmp/portable.tar.gz"
+as_user traveller mkdir /home/traveller/station
+as_user traveller tar xf /tmp/portable.tar.gz --strip-components=1 -C /home/traveller/station
+folder=$root/home/traveller/station
+check "everything is there for the first five minutes" [ -s "$folder/README.txt" ]
+for library in $(cd "$folder" && find lib plugins -name '*.so*'); do
+    check "$library finds its libraries" \
+        [ -z "$(inside "$root" env LD_LIBRARY_PATH=/home/traveller/station/lib ldd "/home/traveller/station/$library" | grep 'not found')" ]
+done
+start traveller /home/traveller/station/vigrel-receiver
+check "the folder gets a configuration" until_true [ -f "$folder/VigrelReceiver.INI" ]
+end
+use_station traveller "$folder" /home/traveller/station/
+check "nothing lies outside the folder" [ ! -e "$root/home/traveller/.local/share/VigrelReceiver" ]
+
+echo "$checks passed, 0 failed"
