@@ -1,0 +1,109 @@
+#!/usr/bin/env bash
+# Runs the station's service under a service manager of its own: starts with the desktop, restarts, ends.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+usage() {
+    cat <<'HELP'
+packaging/test-service.sh
+
+Starts a user's service manager in a temporary folder, switches the station's service on in it, and looks what the
+service does when the desktop starts and ends, when the station is killed, fails, is told to end, or can't start.
+Takes the programs of build/release (./run.sh --build-only).
+
+Needs root and the package systemd. The machine's own services are not touched.
+HELP
+}
+case "${1:-}" in
+    --help|-h) usage; exit 0 ;;
+    ?*) echo "test-service.sh: unknown option \"$1\"; try --help" >&2; exit 2 ;;
+esac
+[ "$(id -u)" -eq 0 ] || { echo "test-service.sh: must be run by root" >&2; exit 2; }
+# In a mount namespace of its own: the manager asks whether the machine was started by systemd, and may be told so.
+if [ -z "${VIGREL_OWN_NAMESPACE:-}" ]; then
+    VIGREL_OWN_NAMESPACE=1 exec unshare --mount packaging/test-service.sh
+fi
+source packaging/bare-root.sh
+
+programs=$PWD/build/release/bin
+work=$(mktemp -d)
+export HOME=$work/home XDG_RUNTIME_DIR=$work/run
+unset DBUS_SESSION_BUS_ADDRESS XDG_CONFIG_HOME XDG_DATA_HOME DISPLAY WAYLAND_DISPLAY VIGREL_APPLICATION_PATH
+folder=$HOME/.local/share/VigrelReceiver
+units=$HOME/.config/systemd/user
+mkdir -p "$folder" "$units/vigrel-receiver.service.d" -m 700 "$XDG_RUNTIME_DIR"
+mkdir -p /run/systemd
+mount -t tmpfs tmpfs /run/systemd
+mkdir /run/systemd/system
+
+/lib/systemd/systemd --user --log-target=console >"$work/manager.log" 2>&1 &
+manager=$!
+leave() {
+    systemctl --user exit 2>/dev/null || true
+    wait $manager || true
+    rm -rf --one-file-system "$work"
+}
+trap leave EXIT
+
+# until_true COMMAND...: up to half a minute.
+until_true() {
+    local tries
+    for tries in $(seq 60); do
+        "$@" && return
+        sleep 0.5
+    done
+    tail -20 "$work/manager.log" >&2
+    return 1
+}
+manager_answers() { systemctl --user list-units >/dev/null 2>&1; }
+property() { systemctl --user show vigrel-receiver -p "$1" --value; }
+answers() { "$programs/vigrel-send" --port "$port" --keepalive --timeout 2 --quiet 2>/dev/null; }
+restarted() { [ "$(property NRestarts)" -ge "$1" ] && [ "$(property SubState)" = running ] && answers; }
+state_is() { [ "$(property ActiveState)" = "$1" ]; }
+# Longer than the service waits before it starts again.
+stays_down() { sleep 4 && [ "$(property MainPID)" = 0 ]; }
+# instead COMMAND: what the service runs from now on in place of the station.
+instead() {
+    printf '[Service]\nExecStart=\nExecStart=%s\n' "$1" >"$units/vigrel-receiver.service.d/instead.conf"
+    systemctl --user daemon-reload
+}
+
+port=$((20000 + RANDOM % 10000))
+cp -r build/release/share/vigrel-receiver/. "$folder"
+LC_ALL=C sed -e "s/^Language=.*/Language=044\r/; s/^Port=.*/Port=$port\r/" \
+    "$folder/Templates/VigrelReceiver.oni" >"$folder/VigrelReceiver.INI"
+sed "s|/usr/bin/|$programs/|" packaging/vigrel-receiver.service >"$units/vigrel-receiver.service"
+printf '[Unit]\nBindsTo=graphical-session.target\n' >"$units/desktop.target"
+
+check "a service manager runs" until_true manager_answers
+systemctl --user enable vigrel-receiver 2>/dev/null
+systemctl --user start desktop.target
+check "the station starts with the desktop" until_true answers
+for times in 1 2 3 4 5 6 7; do
+    kill -KILL "$(property MainPID)"
+    check "killed for the ${times}. time, it starts again" until_true restarted $times
+done
+kill -TERM "$(property MainPID)"
+check "told to end, it ends" until_true state_is inactive
+check "and stays away" stays_down
+
+instead "/bin/sh -c 'exit 70'"
+systemctl --user start vigrel-receiver
+check "after exit code 70 it starts again" until_true eval '[ "$(property NRestarts)" -ge 2 ]'
+systemctl --user stop vigrel-receiver
+instead "/bin/sh -c 'echo started >>$work/starts; exit 1'"
+systemctl --user start vigrel-receiver
+check "after exit code 1, the operator was told" until_true state_is failed
+check "it stays away" stays_down
+check "it was started once" [ "$(wc -l <"$work/starts")" -eq 1 ]
+
+rm "$units/vigrel-receiver.service.d/instead.conf"
+systemctl --user daemon-reload
+systemctl --user start vigrel-receiver
+check "it can be started by hand" until_true answers
+systemctl --user stop desktop.target graphical-session.target
+check "it ends with the desktop" until_true state_is inactive
+check "in order" [ "$(property ExecMainStatus)" = 0 ]
+check "its log tells so" grep -aqs "ends with the operating system" "$folder"/LogFiles/*
+
+echo "$checks passed, 0 failed"
