@@ -4,11 +4,12 @@ suite=bookworm
 
 # The mirror that this machine's own packages come from.
 mirror() {
-    local sources=(/etc/apt/sources.list /etc/apt/sources.list.d/*.list /etc/apt/sources.list.d/*.sources)
-    cat "${sources[@]}" 2>/dev/null | awk -v suite=$suite '
-        $1 == "deb" { sub(/\[[^]]*\]/, ""); if ($3 == suite) { print $2; exit } }
+    find /etc/apt -name '*.list' -exec cat {} + -o -name '*.sources' -exec cat {} + | awk -v suite=$suite '
+        found != "" { next }
+        $1 == "deb" { sub(/\[[^]]*\]/, ""); if ($3 == suite) found = $2 }
         $1 == "URIs:" { uri = $2 }
-        $1 == "Suites:" && uri { for (i = 2; i <= NF; i++) if ($i == suite) { print uri; exit } }'
+        $1 == "Suites:" { for (i = 2; i <= NF; i++) if ($i == suite) found = uri }
+        END { print found }'
 }
 
 # make_root FOLDER: a Debian with nothing but what apt needs, and this machine's way to the mirror.
