@@ -116,7 +116,7 @@ use_station() {
 echo "== a bare Debian"
 make_root "$root"
 inside "$root" apt-get update -q >"$work/apt"
-inside "$root" useradd --create-home operator
+inside "$root" useradd --create-home keeper
 inside "$root" useradd --create-home traveller
 files_in "$root/usr" | grep -v -e /__pycache__/ >"$work/usr-before"
 
@@ -147,14 +147,14 @@ check "the service is not switched on" \
     [ -z "$(find "$root/etc" "$root/usr/lib/systemd" -path '*.wants/*' -name 'vigrel*')" ]
 
 echo "== first start of a user"
-folder=$root/home/operator/.local/share/VigrelReceiver
-start operator vigrel-receiver
+folder=$root/home/keeper/.local/share/VigrelReceiver
+start keeper vigrel-receiver
 check "the application folder gets a configuration" until_true [ -f "$folder/VigrelReceiver.INI" ]
 end
 for file in $(cd "$root/usr/share/vigrel-receiver" && find . -type f -not -path './autostart/*'); do
     check "$file is as delivered" cmp "$root/usr/share/vigrel-receiver/$file" "$folder/$file"
 done
-use_station operator "$folder" /usr/bin/
+use_station keeper "$folder" /usr/bin/
 
 echo "== upgrade"
 echo "; changed by the operator" >>"$folder/VigrelReceiver.INI"
@@ -168,7 +168,7 @@ dpkg-deb --root-owner-group -b "$work/newer" "$root/tmp/newer.deb" >/dev/null
 inside "$root" apt-get install -q -y --no-install-recommends /tmp/newer.deb >"$work/apt" 2>&1 || { cat "$work/apt"; exit 1; }
 check "the newer version is installed" grep -q "^Version: $version+1$" <(inside "$root" dpkg -s vigrel-receiver)
 rm -f "$folder"/LogFiles/*
-start operator vigrel-receiver
+start keeper vigrel-receiver
 check "the station starts after the upgrade" until_true log_says "$folder" "Port $port is open"
 check "it knows its alarm" log_says "$folder" "1 alarm(s) loaded"
 end
