@@ -28,12 +28,15 @@ make_root() {
     mount -t proc proc "$root/proc"
 }
 
-# inside FOLDER COMMAND...: runs a command in the root, with nothing of this machine's surroundings.
+# inside FOLDER COMMAND...: runs a command in the root, with nothing of this machine's surroundings. In the background
+# it becomes the command, so that its process id is the command's.
 inside() {
     local root=$1
     shift
-    env -i PATH=/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin HOME=/root LANG=C.UTF-8 \
-        DEBIAN_FRONTEND=noninteractive chroot "$root" "$@"
+    local enter=(env -i PATH=/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin HOME=/root LANG=C.UTF-8
+        DEBIAN_FRONTEND=noninteractive chroot "$root")
+    if [ "${in_background:-no}" = yes ]; then exec "${enter[@]}" "$@"; fi
+    "${enter[@]}" "$@"
 }
 
 # Takes away what make_root made. One file system: what is mounted in the root is not touched.

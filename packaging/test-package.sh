@@ -64,7 +64,7 @@ as_user() {
 
 # start USER PROGRAM: the station, in the background. chroot, setpriv and env become the program: one process.
 start() {
-    as_user "$@" >"$work/output" 2>&1 &
+    in_background=yes as_user "$@" >"$work/output" 2>&1 &
     station=$!
 }
 
@@ -88,9 +88,20 @@ until_true() {
     return 1
 }
 
+# first_start USER FOLDER PROGRAM: fills the folder. The question for the language, which follows, can't be answered
+# without a window, so nothing of the station runs yet that could be ended in order.
+first_start() {
+    start "$1" "$3"
+    check "the first start makes a configuration" until_true has_configuration "$2"
+    kill -KILL "$station"
+    wait "$station" 2>/dev/null || true
+    station=
+}
+configuration() { find "$1" -maxdepth 1 -iname VigrelReceiver.ini; }
+has_configuration() { [ -n "$(configuration "$1")" ]; }
+
 log_says() { grep -aqs "$2" "$1"/LogFiles/*.[Ll]og; }
 files_in() { (cd "$1" && find . -type f | sort); }
-sum() { sha256sum "$1" | cut -d' ' -f1; }
 
 # set_key INI KEY VALUE: in the file as it is, whose lines end with CR LF.
 set_key() { LC_ALL=C sed -i "s/^$2=.*/$2=$3\r/" "$1"; }
@@ -98,8 +109,8 @@ set_key() { LC_ALL=C sed -i "s/^$2=.*/$2=$3\r/" "$1"; }
 # use_station USER FOLDER PROGRAMS: a whole life: language, start, alarm, orderly end.
 use_station() {
     local user=$1 folder=$2 programs=$3 alarms
-    set_key "$folder/VigrelReceiver.INI" Language 044
-    set_key "$folder/VigrelReceiver.INI" Port $port
+    set_key "$(configuration "$folder")" Language 044
+    set_key "$(configuration "$folder")" Port $port
     start "$user" "${programs}vigrel-receiver"
     check "the station starts" until_true log_says "$folder" "Port $port is open"
     check "an alarm gets the positive reply" as_user "$user" "${programs}vigrel-send" --port $port \
@@ -148,18 +159,17 @@ check "the service is not switched on" \
 
 echo "== first start of a user"
 folder=$root/home/keeper/.local/share/VigrelReceiver
-start keeper vigrel-receiver
-check "the application folder gets a configuration" until_true [ -f "$folder/VigrelReceiver.INI" ]
-end
+first_start keeper "$folder" vigrel-receiver
 for file in $(cd "$root/usr/share/vigrel-receiver" && find . -type f -not -path './autostart/*'); do
     check "$file is as delivered" cmp "$root/usr/share/vigrel-receiver/$file" "$folder/$file"
 done
 use_station keeper "$folder" /usr/bin/
 
 echo "== upgrade"
-echo "; changed by the operator" >>"$folder/VigrelReceiver.INI"
+echo "; changed by the operator" >>"$(configuration "$folder")"
 echo "changed too" >"$folder/Vigrel_Texts.045"
-before=$(cd "$folder" && sha256sum VigrelReceiver.INI Vigrel_Texts.* Templates/* Sounds/* Alarms/*)
+users_files() { (cd "$folder" && find . -type f -not -path './LogFiles/*' -print0 | sort -z | xargs -0 sha256sum); }
+before=$(users_files)
 dpkg-deb -R "$deb" "$work/newer"
 version=$(sed -n 's/^Version: //p' "$work/newer/DEBIAN/control")
 sed -i "s/^Version: .*/Version: $version+1/" "$work/newer/DEBIAN/control"
@@ -172,8 +182,7 @@ start keeper vigrel-receiver
 check "the station starts after the upgrade" until_true log_says "$folder" "Port $port is open"
 check "it knows its alarm" log_says "$folder" "1 alarm(s) loaded"
 end
-check "the user's files are as they were" \
-    [ "$before" = "$(cd "$folder" && sha256sum VigrelReceiver.INI Vigrel_Texts.* Templates/* Sounds/* Alarms/*)" ]
+check "the user's files are as they were" [ "$before" = "$(users_files)" ]
 
 echo "== remove"
 inside "$root" apt-get remove -q -y vigrel-receiver >"$work/apt" 2>&1
@@ -202,9 +211,7 @@ for library in $(cd "$folder" && find lib plugins -name '*.so*'); do
     check "$library finds its libraries" \
         [ -z "$(inside "$root" env LD_LIBRARY_PATH=/home/traveller/station/lib ldd "/home/traveller/station/$library" | grep 'not found')" ]
 done
-start traveller /home/traveller/station/vigrel-receiver
-check "the folder gets a configuration" until_true [ -f "$folder/VigrelReceiver.INI" ]
-end
+first_start traveller "$folder" /home/traveller/station/vigrel-receiver
 use_station traveller "$folder" /home/traveller/station/
 check "nothing lies outside the folder" [ ! -e "$root/home/traveller/.local/share/VigrelReceiver" ]
 
