@@ -42,15 +42,17 @@ class cSenderCheck {
         return ReadIniEntries(m_Installation.Files(), "Senders", size, m_Installation.IniPath()).entries;
     }
 
-    // The lines on which the entries stand: in the order of the file, below the header.
+    // The lines on which the entries stand: in the order of the file, below the header. 0 where zero bytes
+    // cut a line into entries.
     std::vector<std::size_t> LinesOf(const std::vector<std::string>& entries) const {
         const std::vector<std::string>& lines = m_Installation.Document().m_Lines;
         const cIniDocument::cSection* section = m_Installation.Document().Section("Senders");
-        std::size_t line = section == nullptr ? 0 : section->line;
+        auto next = lines.begin() + static_cast<std::ptrdiff_t>(section == nullptr ? 0 : section->line);
         std::vector<std::size_t> numbers;
         for (const std::string& entry : entries) {
-            while (line < lines.size() && lines[line] != entry) ++line;
-            numbers.push_back(++line);
+            const auto found = std::find(next, lines.end(), entry);
+            if (found != lines.end()) next = found + 1;
+            numbers.push_back(found == lines.end() ? 0 : static_cast<std::size_t>(next - lines.begin()));
         }
         return numbers;
     }
