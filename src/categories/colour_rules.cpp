@@ -114,16 +114,20 @@ cUserColor MakeUserColor(const cColourRule& rule) {
     return color;
 }
 
-std::vector<cLineProblem> cColourRules::Load(const cFileReader& files, std::string_view path) {
+std::optional<std::size_t> FirstMatch(const std::vector<cUserColor>& colors, std::string_view tag,
+                                      std::int32_t category, std::int32_t area) {
+    const auto match = std::find_if(colors.begin(), colors.end(), [&](const cUserColor& color) {
+        return color.IsMatching(tag, category, area) != False16;
+    });
+    if (match == colors.end()) return std::nullopt;
+    return static_cast<std::size_t>(match - colors.begin());
+}
+
+std::vector<cLineProblem> cColourRules::Parse(std::string_view text) {
     *this = {};
-    if (files.Stamp(path).size < 0) return {};
-    std::string content;
-    if (const auto failure = CatchFailure([&] { content = files.ReadFile(path); })) {
-        return {{0, failure->what()}};
-    }
     std::vector<cLineProblem> problems;
     std::size_t number = 0;
-    for (const std::string& line : SplitLines(content)) {
+    for (const std::string& line : SplitLines(text)) {
         ++number;
         cColourRule rule;
         const auto failure = CatchFailure([&] {
@@ -141,16 +145,30 @@ std::vector<cLineProblem> cColourRules::Load(const cFileReader& files, std::stri
     return problems;
 }
 
-void cColourRules::Save(cFiles& files, std::string_view path) const {
-    std::string content;
-    const auto add = [&](const std::string& line) { content += line + "\r\n"; };
+std::string cColourRules::Text() const {
+    std::string text;
+    const auto add = [&](const std::string& line) { text += line + "\r\n"; };
     for (const cColourRule& rule : m_Rules) {
-        MakeUserColor(rule);
         std::for_each(rule.m_LinesBefore.begin(), rule.m_LinesBefore.end(), add);
         add(LineFromRule(rule));
     }
     std::for_each(m_LinesAfter.begin(), m_LinesAfter.end(), add);
-    ReplaceFile(files, path, content);
+    return text;
+}
+
+std::vector<cLineProblem> cColourRules::Load(const cFileReader& files, std::string_view path) {
+    *this = {};
+    if (files.Stamp(path).size < 0) return {};
+    std::string content;
+    if (const auto failure = CatchFailure([&] { content = files.ReadFile(path); })) {
+        return {{0, failure->what()}};
+    }
+    return Parse(content);
+}
+
+void cColourRules::Save(cFiles& files, std::string_view path) const {
+    for (const cColourRule& rule : m_Rules) MakeUserColor(rule);
+    ReplaceFile(files, path, Text());
 }
 
 void cColourRules::Remove(std::size_t index) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -29,16 +30,23 @@ struct cColourRule {
     bool operator==(const cColourRule&) const = default;
 };
 
+// The first rule that matches, by position; nothing when none does.
+std::optional<std::size_t> FirstMatch(const std::vector<cUserColor>& colors, std::string_view tag,
+                                      std::int32_t category, std::int32_t area);
+
 // The rule at work. Throws cFailure with a description for the user when a field is wrong.
 cUserColor MakeUserColor(const cColourRule& rule);
 
 // The list of rules of a station, in the order in which they are tried.
 class cColourRules {
   public:
+    // Replaces the list by that of a text and says which lines of it were skipped; and the text of the list.
+    std::vector<cLineProblem> Parse(std::string_view text);
+    std::string Text() const;
     // Replaces the list by that of a file and says which lines of it were skipped. A file that is missing
     // gives an empty list; one that can't be read says so too.
     std::vector<cLineProblem> Load(const cFileReader& files, std::string_view path);
-    // Throws cFailure; the old file stands then.
+    // Throws cFailure, also for a rule that is wrong; the old file stands then.
     void Save(cFiles& files, std::string_view path) const;
 
     // Removes a rule; the lines in front of it go to what follows.

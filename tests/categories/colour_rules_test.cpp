@@ -61,6 +61,15 @@ TEST_F(ColourRules, ASingleItemNeedsNoSeparator) {
     EXPECT_FALSE(MakeUserColor(rule).IsMatching("Pump", 5, 4));
 }
 
+TEST_F(ColourRules, TheFirstRuleThatMatchesCounts) {
+    Load("P* | 5 | * | 0,0,0 | 1,1,1 | 0\n* | * | * | 0,0,0 | 1,1,1 | 0\n");
+    std::vector<cUserColor> colors;
+    for (const cColourRule& rule : m_Rules.m_Rules) colors.push_back(MakeUserColor(rule));
+    EXPECT_EQ(FirstMatch(colors, "Pump", 5, 0), 0u);
+    EXPECT_EQ(FirstMatch(colors, "Pump", 6, 0), 1u);
+    EXPECT_EQ(FirstMatch(colors, "Pump", 256, 0), std::nullopt);
+}
+
 TEST_F(ColourRules, AWrongLineIsNamedAndSkipped) {
     const auto problems = Load(
         "# rules\n"
