@@ -33,14 +33,15 @@ inline const std::string kProfileFields =
         "01 00 (system 0)") +
     std::string(2 * 62, '\0') + testing::Bytes("03 00 (system 63)");
 
-// The schedule: Monday from 07:00 to 16:00 in row 0, the other weekdays active without periods.
+// The schedule: Monday from 07:00 to 16:00 in row 0, the other weekdays active without periods; day types
+// that have no row are given the one behind the last.
 inline const std::string kProfileSchedule = [] {
     std::string bytes = testing::Bytes("FF FF FF FF 01 00 A4 01 C0 03 00 00");
     for (int day = 1; day < 7; ++day) {
         bytes += testing::Bytes("FF FF 00 00 00 00") + std::string(1, static_cast<char>(day)) +
                  std::string(1, '\0');
     }
-    for (int day = 7; day < 23; ++day) bytes += testing::Bytes("00 00 00 00 00 00 FF FF");
+    for (int day = 7; day < 23; ++day) bytes += testing::Bytes("00 00 00 00 00 00 07 00");
     return bytes + testing::Bytes("FF FF (use calendar)");
 }();
 
