@@ -6,9 +6,11 @@
 #include "adapters/linux/application_folder.h"
 #include "adapters/linux/clock.h"
 #include "adapters/linux/files.h"
+#include "adapters/linux/random.h"
 #include "adapters/qt/cQtLocale.h"
 #include "common/ini.h"
 #include "common/texts.h"
+#include "definitions/station_definitions.h"
 #include "ui/application.h"
 #include "ui/definitions/definitions_window.h"
 
@@ -19,8 +21,9 @@ constexpr std::int32_t kFirstHeading = 611, kLastHeading = 617;
 
 QStringList ReadCommandLine(const QCoreApplication& application) {
     QCommandLineParser parser;
-    parser.setApplicationDescription("Edits the time schedules and calendars of the alarm receiver.");
-    parser.addPositionalArgument("files", "Schedules and calendars to open.", "[files...]");
+    parser.setApplicationDescription(
+        "Edits time schedules, calendars, receivers, profiles and colour rules of the alarm receiver.");
+    parser.addPositionalArgument("files", "Schedules, calendars and colour rules to open.", "[files...]");
     parser.addHelpOption();
     parser.addVersionOption();
     parser.process(application);
@@ -57,6 +60,9 @@ int Run(int argc, char** argv) {
     cTexts texts(files, ini);
     cDialogPrompts prompts;
     QSettings settings(QSettings::IniFormat, QSettings::UserScope, "Vigrel", "VigrelDefinitions");
+    cStandardRandom random;
+    random.Seed(clock.Now());
+    cStationDefinitions station(files, clock, random, texts, ini);
     cEditorServices services{files,
                              clock,
                              ini,
@@ -65,7 +71,8 @@ int Run(int argc, char** argv) {
                              prompts,
                              settings,
                              cDayTypeNames(ini, forms),
-                             cIconStrip(":/icons/daytype")};
+                             cIconStrip(":/icons/daytype"),
+                             station};
     int result = 0;
     application.Guard([&] {
         cDefinitionsWindow window(services);

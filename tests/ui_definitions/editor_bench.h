@@ -7,56 +7,17 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QUndoStack>
-#include <deque>
 #include <memory>
 
 #include "adapters/qt/qt_text.h"
 #include "schedule/schedule_builder.h"
 #include "support/fake_clock.h"
 #include "support/fake_files.h"
+#include "support/fake_random.h"
 #include "ui/definitions/definitions_window.h"
+#include "ui_definitions/fake_prompts.h"
 
 namespace vigrel::testing {
-
-// Answers what a test has put in line, and notes what was asked.
-class cFakePrompts : public cPrompts {
-  public:
-    eSave AskToSave(QWidget*, const QString& title) override {
-        m_Asked += "save " + title + "\n";
-        return Take(m_SaveAnswers, eSave::Cancel);
-    }
-    bool AskYesNo(QWidget*, const QString& question) override {
-        m_Asked += "yes or no: " + question + "\n";
-        return Take(m_YesNoAnswers, false);
-    }
-    void ShowFailure(QWidget*, const QString& text) override { m_Asked += "failure: " + text + "\n"; }
-    QString AskOpenPath(QWidget*, const QString& folder, const QString&) override {
-        m_Asked += "open in " + folder + "\n";
-        return Take(m_Texts, QString());
-    }
-    QString AskSavePath(QWidget*, const QString& path, const QString&, const QString& suffix) override {
-        m_Asked += "save as " + path + " (" + suffix + ")\n";
-        return Take(m_Texts, QString());
-    }
-    QString AskText(QWidget*, const QString& label, const QString& text) override {
-        m_Asked += label + ": " + text + "\n";
-        return Take(m_Texts, QString());
-    }
-
-    QString m_Asked;
-    std::deque<eSave> m_SaveAnswers;
-    std::deque<bool> m_YesNoAnswers;
-    std::deque<QString> m_Texts;
-
-  private:
-    template <class T>
-    static T Take(std::deque<T>& answers, T otherwise) {
-        if (answers.empty()) return otherwise;
-        T answer = answers.front();
-        answers.pop_front();
-        return answer;
-    }
-};
 
 // The editor over fake files in the application folder /app, on 2026-03-15.
 class cEditorBench {
@@ -114,6 +75,9 @@ class cEditorBench {
     cIni m_Ini{m_Files, "/app/"};
     cFakePrompts m_Prompts;
     QSettings m_Settings{m_Folder.filePath("settings.ini"), QSettings::IniFormat};
+    cFakeRandom m_Random;
+    cTexts m_Texts{m_Files, m_Ini};
+    cStationDefinitions m_Station{m_Files, m_Clock, m_Random, m_Texts, m_Ini};
     cEditorServices m_Services{m_Files,
                                m_Clock,
                                m_Ini,
@@ -122,7 +86,8 @@ class cEditorBench {
                                m_Prompts,
                                m_Settings,
                                cDayTypeNames(m_Ini, m_Forms),
-                               cIconStrip(":/icons/daytype")};
+                               cIconStrip(":/icons/daytype"),
+                               m_Station};
     std::unique_ptr<cDefinitionsWindow> m_Window;
 };
 

@@ -175,6 +175,14 @@ void cCalendarPage::SetSchedules(const QList<cSchedulePage*>& pages) {
     TakeSchedule();
 }
 
+void cCalendarPage::ChooseSchedule(const cSchedulePage* page) {
+    int index = 0;
+    for (int i = 0; i < m_SchedulePages.size(); ++i) {
+        if (m_SchedulePages[i] == page) index = i + 1;
+    }
+    m_Schedule.setCurrentIndex(index);
+}
+
 void cCalendarPage::TakeSchedule() {
     const cSchedulePage* page = m_SchedulePages.value(m_Schedule.currentIndex() - 1);
     m_Calendar.m_AssociatedTimeSchedule = page == nullptr ? nullptr : &page->Schedule();

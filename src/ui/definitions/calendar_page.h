@@ -27,6 +27,10 @@ class cCalendarPage : public cFilePage, private cCalendarContainer {
     void ShowMonth(int year, int month);
     // The schedules whose periods the day boxes can show; the chosen one stays while it is among them.
     void SetSchedules(const QList<cSchedulePage*>& pages);
+    // One of them; any other page chooses none.
+    void ChooseSchedule(const cSchedulePage* page);
+    // Whether the day boxes show the periods.
+    QCheckBox& ShowTimeAxis() { return m_ShowTimeAxis; }
 
     QList<QAction*> EditActions() const override;
     void SetZoom(double zoom) override;

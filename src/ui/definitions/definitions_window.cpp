@@ -10,6 +10,9 @@
 #include "adapters/qt/qt_text.h"
 #include "common/failure.h"
 #include "schedule/definition_files.h"
+#include "ui/definitions/colour_rules_page.h"
+#include "ui/definitions/profiles_page.h"
+#include "ui/definitions/receivers_page.h"
 
 namespace vigrel {
 
@@ -26,6 +29,7 @@ cDefinitionsWindow::cDefinitionsWindow(cEditorServices& services)
     MakeFileMenu();
     MakeEditMenu();
     MakeViewMenu();
+    MakeStationMenu();
     MakeHelpMenu();
     m_Centre.addWidget(MakeStartPage());
     m_Centre.addWidget(&m_Tabs);
@@ -79,8 +83,43 @@ void cDefinitionsWindow::NewCalendar() {
 void cDefinitionsWindow::Open() {
     const QString path = m_Services.m_Prompts.AskOpenPath(
         this, ToQString(m_Services.m_Ini.ApplicationPath()).replace('\\', '/'),
-        tr("Schedules and calendars (*.sch *.cal);;All files (*)"));
+        tr("Schedules, calendars, colour rules (*.sch *.cal ColourRules.txt);;All files (*)"));
     if (!path.isEmpty()) OpenFile(path);
+}
+
+template <class Page>
+void cDefinitionsWindow::ShowPage() {
+    for (cEditorPage* page : Pages()) {
+        if (qobject_cast<Page*>(page) == nullptr) continue;
+        m_Tabs.setCurrentWidget(page);
+        return;
+    }
+    AddPage(new Page(m_Services));
+}
+
+void cDefinitionsWindow::ShowReceivers() {
+    ShowPage<cReceiversPage>();
+}
+
+void cDefinitionsWindow::ShowProfiles() {
+    ShowPage<cProfilesPage>();
+}
+
+void cDefinitionsWindow::ShowColourRules() {
+    OpenFile(ToQString(m_Services.m_Ini.FullPath(kColourRulesFile)).replace('\\', '/'));
+}
+
+// The kind of a file's page, by the file's name and size.
+cFilePage* cDefinitionsWindow::MakeFilePage(const QString& path) {
+    if (QFileInfo(path).fileName().compare(ToQString(kColourRulesFile), Qt::CaseInsensitive) == 0) {
+        return new cColourRulesPage(m_Services);
+    }
+    const auto size =
+        static_cast<std::size_t>(std::max<std::int64_t>(m_Services.m_Files.Stamp(FromQString(path)).size, 0));
+    if (KindOfDefinition(size) == eDefinitionKind::Calendar || path.endsWith(".cal", Qt::CaseInsensitive)) {
+        return new cCalendarPage(m_Services, {});
+    }
+    return new cSchedulePage(m_Services, {});
 }
 
 bool cDefinitionsWindow::OpenFile(const QString& path) {
@@ -96,15 +135,7 @@ bool cDefinitionsWindow::OpenFile(const QString& path) {
         return false;
     }
     const std::string name = FromQString(absolute);
-    const auto size =
-        static_cast<std::size_t>(std::max<std::int64_t>(m_Services.m_Files.Stamp(name).size, 0));
-    cFilePage* page = nullptr;
-    if (KindOfDefinition(size) == eDefinitionKind::Calendar ||
-        absolute.endsWith(".cal", Qt::CaseInsensitive)) {
-        page = new cCalendarPage(m_Services, {});
-    } else {
-        page = new cSchedulePage(m_Services, {});
-    }
+    cFilePage* page = MakeFilePage(absolute);
     if (!page->Open(name)) {
         delete page;
         return false;

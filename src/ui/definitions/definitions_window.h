@@ -29,6 +29,10 @@ class cDefinitionsWindow : public QMainWindow {
 
     void NewSchedule();
     void NewCalendar();
+    // The pages of the application folder; each comes to the front when it is open already.
+    void ShowReceivers();
+    void ShowProfiles();
+    void ShowColourRules();
     // A file that is open already comes to the front. False when it could not be opened; the operator has
     // been told.
     bool OpenFile(const QString& path);
@@ -44,12 +48,16 @@ class cDefinitionsWindow : public QMainWindow {
     void MakeFileMenu();
     void MakeEditMenu();
     void MakeViewMenu();
+    void MakeStationMenu();
     void MakeHelpMenu();
     QAction* AddEntry(QMenu& menu, const char* name, const QString& text, const QKeySequence& keys,
                       const std::function<void()>& chosen);
     QWidget* MakeStartPage();
     void RestoreWindow();
 
+    template <class Page>
+    void ShowPage();
+    cFilePage* MakeFilePage(const QString& path);
     void Open();
     void OpenRecent(const QString& path);
     void FillRecentMenu();

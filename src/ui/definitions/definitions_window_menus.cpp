@@ -101,6 +101,13 @@ void cDefinitionsWindow::MakeViewMenu() {
     }
 }
 
+void cDefinitionsWindow::MakeStationMenu() {
+    QMenu& menu = *menuBar()->addMenu(tr("&Station"));
+    AddEntry(menu, "Receivers", tr("&Receivers"), tr("Ctrl+R"), [this] { ShowReceivers(); });
+    AddEntry(menu, "Profiles", tr("&Profiles"), tr("Ctrl+P"), [this] { ShowProfiles(); });
+    AddEntry(menu, "ColourRules", tr("&Colour rules"), tr("Ctrl+L"), [this] { ShowColourRules(); });
+}
+
 void cDefinitionsWindow::MakeHelpMenu() {
     QMenu& menu = *menuBar()->addMenu(tr("&Help"));
     AddEntry(menu, "About", tr("&About"), {}, [this] { ShowAbout(); });
@@ -109,7 +116,8 @@ void cDefinitionsWindow::MakeHelpMenu() {
 void cDefinitionsWindow::ShowAbout() {
     QMessageBox::about(
         this, tr("About"),
-        tr("%1 %2\n\nTime schedules and calendars of the alarm receiver.\nApplication folder: %3")
+        tr("%1 %2\n\nSchedules, calendars, receivers, profiles and colour rules of the alarm "
+           "receiver.\nApplication folder: %3")
             .arg(QGuiApplication::applicationDisplayName(), QGuiApplication::applicationVersion(),
                  ToQString(m_Services.m_Ini.ApplicationPath()).replace('\\', '/')));
 }
@@ -119,7 +127,7 @@ QWidget* cDefinitionsWindow::MakeStartPage() {
     auto* page = new QWidget;
     auto* layout = new QVBoxLayout(page);
     layout->addStretch(1);
-    auto* title = new QLabel(tr("Open or make a time schedule or a calendar"));
+    auto* title = new QLabel(tr("What do you want to edit?"));
     QFont font = title->font();
     font.setPointSizeF(font.pointSizeF() * 1.4);
     title->setFont(font);
@@ -135,6 +143,10 @@ QWidget* cDefinitionsWindow::MakeStartPage() {
     add("Button_NewSchedule", tr("New &schedule"), &cDefinitionsWindow::NewSchedule);
     add("Button_NewCalendar", tr("New c&alendar"), &cDefinitionsWindow::NewCalendar);
     add("Button_Open", tr("&Open..."), &cDefinitionsWindow::Open);
+    layout->addSpacing(12);
+    add("Button_Receivers", tr("&Receivers of the station"), &cDefinitionsWindow::ShowReceivers);
+    add("Button_Profiles", tr("&Profiles of the station"), &cDefinitionsWindow::ShowProfiles);
+    add("Button_ColourRules", tr("&Colour rules of the station"), &cDefinitionsWindow::ShowColourRules);
     layout->addStretch(2);
     return page;
 }

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "common/ini.h"
+#include "definitions/station_definitions.h"
 #include "platform/clock.h"
 #include "platform/files.h"
 #include "platform/locale.h"
@@ -25,7 +26,8 @@ struct cEditorServices {
     cPrompts& m_Prompts;
     QSettings& m_Settings;  // the user's
     cDayTypeNames m_DayTypeNames;
-    cIconStrip m_DayTypeImages;  // numbered from 1
+    cIconStrip m_DayTypeImages;      // numbered from 1
+    cStationDefinitions& m_Station;  // receivers and profiles of the application folder
 };
 
 // Day type images are squares of so many units.

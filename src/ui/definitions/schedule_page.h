@@ -22,6 +22,8 @@ class cSchedulePage : public cFilePage, private cTimeScheduleContainer {
     cSchedulePage(cEditorServices& services, const QString& newName, QWidget* parent = nullptr);
 
     const cTimeSchedule& Schedule() const { return m_Schedule; }
+    // Whether the rows show the names of their days.
+    QCheckBox& ViewDayType() { return m_ViewDayType; }
     QList<QAction*> EditActions() const override;
     void SetZoom(double zoom) override;
     void RefreshDayTypes() override;
