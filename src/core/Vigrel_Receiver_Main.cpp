@@ -9,7 +9,6 @@
 namespace vigrel {
 namespace {
 
-constexpr std::int32_t kApplication = 8;  // this program's number among the suite's
 constexpr int kKeyEscape = 27;
 constexpr int kKeyF9 = 120;
 

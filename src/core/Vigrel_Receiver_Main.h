@@ -69,10 +69,10 @@ class cVigrelReceiverMain {
     cIni& Ini() { return m_Ini; }
 
   private:
+    static constexpr std::int32_t kApplication = 8;  // this program's number among the suite's
+
     bool HasSwitch(std::string_view name) const;
     void ConnectEvents();
-    void ConnectListEvents();
-    void ConnectTimers();
 
     // The steps of the start, in their order.
     void PrepareFolders();
@@ -86,18 +86,13 @@ class cVigrelReceiverMain {
     void ApplyWindowSwitches();
     void PlaceWindow();
     void ShowAbout();
-    void SetUpTray();
     bool OpenPort();
 
     void Timer_KeepAlive_Tick();
     void Timer_Play_Tick();
     void DailyHousekeeping();
     void ListKeyDown(int keyCode, int shift);
-    void ProcessAlarm(const AlarmPtr& alarm) { m_Intake.ProcessAlarm(alarm); }
-    std::string EventText(const cVigrelRecieverAlarm& alarm, std::string_view format,
-                          std::string_view extraText);
     bool PrintEvent(const cVigrelRecieverAlarm& alarm);
-    std::int16_t CountNotObserved() const;
     void HideWhenMinimised();
 
     cReceiverPorts m_Ports;

@@ -12,7 +12,6 @@
 namespace vigrel {
 namespace {
 
-constexpr std::int32_t kApplication = 8;
 constexpr std::size_t kSeparatorLength = 120;
 
 }  // namespace
