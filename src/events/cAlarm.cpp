@@ -19,6 +19,16 @@ std::size_t Index(int conditionNumber) {
 
 }  // namespace
 
+void WriteSpare(cBinaryWriter& file) {
+    for (int i = 0; i < kSpareStrings; ++i) file.String("");
+    file.Zeros(kReserved);
+}
+
+void SkipSpare(cBinaryReader& file) {
+    for (int i = 0; i < kSpareStrings; ++i) file.String();
+    file.Skip(kReserved);
+}
+
 void cAlarm::CopyFromOtherObject(const cAlarm& copyObject) {
     m_EventId = copyObject.m_EventId;
     m_TimeStampFromSCADA = copyObject.m_TimeStampFromSCADA;
@@ -61,8 +71,7 @@ void cAlarm::WriteToDisk(cBinaryWriter& file) const {
     file.Int16(m_SequenceNumbers);
     file.String(m_ParallellReceivers);
     file.Int16(m_ParallellNumbers);
-    for (int i = 0; i < kSpareStrings; ++i) file.String("");
-    file.Zeros(kReserved);
+    WriteSpare(file);
 }
 
 void cAlarm::ReadFromDisk(cBinaryReader& file) {
@@ -76,8 +85,7 @@ void cAlarm::ReadFromDisk(cBinaryReader& file) {
     m_SequenceNumbers = file.Int16();
     m_ParallellReceivers = file.String();
     m_ParallellNumbers = file.Int16();
-    for (int i = 0; i < kSpareStrings; ++i) file.String();
-    file.Skip(kReserved);
+    SkipSpare(file);
 }
 
 }  // namespace vigrel

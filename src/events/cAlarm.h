@@ -57,4 +57,8 @@ class cAlarm {
     std::array<std::string, 6> m_Conditions;
 };
 
+// The room for later fields with which each record of an alarm file ends: written empty, read over.
+void WriteSpare(cBinaryWriter& file);
+void SkipSpare(cBinaryReader& file);
+
 }  // namespace vigrel

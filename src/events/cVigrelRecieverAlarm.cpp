@@ -3,22 +3,9 @@
 namespace vigrel {
 namespace {
 
-constexpr int kSpareStrings = 10;
-constexpr std::size_t kReserved = 40;
-
-const char* StateWord(std::int16_t status) {
-    switch (status) {
-        case StatusInactive:
-            return "Inactive";
-        case StatusActive:
-            return "Active";
-        case StatusAcked:
-            return "Acked";
-        case StatusMessage:
-            return "Message";
-        default:
-            return "";
-    }
+std::string_view StateWord(std::int16_t status) {
+    const auto index = static_cast<std::size_t>(status);
+    return index < kStateSuffixes.size() ? kStateSuffixes[index] : "";
 }
 
 }  // namespace
@@ -35,8 +22,7 @@ void cVigrelRecieverAlarm::WriteToDisk(cBinaryWriter& file) const {
     file.Int16(m_Observed);
     file.Double(m_CreatedTime);
     file.Int32(m_FileId);
-    for (int i = 0; i < kSpareStrings; ++i) file.String("");
-    file.Zeros(kReserved);
+    WriteSpare(file);
 }
 
 void cVigrelRecieverAlarm::ReadFromDisk(cBinaryReader& file) {
@@ -45,8 +31,7 @@ void cVigrelRecieverAlarm::ReadFromDisk(cBinaryReader& file) {
     m_Observed = file.Int16();
     m_CreatedTime = file.Double();
     m_FileId = file.Int32();
-    for (int i = 0; i < kSpareStrings; ++i) file.String();
-    file.Skip(kReserved);
+    SkipSpare(file);
 }
 
 }  // namespace vigrel
