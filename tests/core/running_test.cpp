@@ -68,6 +68,33 @@ TEST_F(Running, ClosingTheDebugWindowEndsTheTraceAndTheStationRunsOn) {
     EXPECT_EQ(otherWindows.m_Trace, "");
 }
 
+TEST_F(Running, ASenderThatCountsItsCarriageReturnIsRefused) {
+    Start();
+    EXPECT_EQ(Send("PLC1", "S1||one\rtwo"),
+              "\x05"
+              "05\n\r");
+    EXPECT_TRUE(AlarmFiles().empty());
+}
+
+TEST_F(Running, TwoSendersShareAConnection) {
+    Ini("Columns=StateIcon,t0\r\n", "[Senders]\r\nPLC1=5\r\nPLC2=5\r\n");
+    Start();
+    listener.Knock(1);
+    data.Arrive(MakeFrame("PLC1", "S1||a") + MakeFrame("PLC2", "S1||b"));
+    EXPECT_EQ(data.TakeSent(), kPositiveReply + kPositiveReply);
+    EXPECT_EQ(list.Screen(), "#0|a|\n#0|b|\n");
+    EXPECT_NE(Log().find("PLC1 T10030 Active - a (///)\nPLC2 T10030 Active - b (///)\n"), std::string::npos);
+}
+
+TEST_F(Running, ATranslationChangedInTheFileShowsInTheNextRow) {
+    Ini("Columns=StateIcon,t2\r\n");
+    Start();
+    Send("PLC1", "S1||||Fire");
+    receiver->Ini().PutIniString("CategoryTranslations", "Fire", "Brand");
+    Send("PLC1", "S1||||Fire");
+    EXPECT_EQ(list.Screen(), "#0|Fire|\n#0|Brand|\n");
+}
+
 TEST_F(Running, AnEventOpensAPopupPlaysAndPrints) {
     Ini("ViewPopupForm=1\r\nEventPopupFormat=[T0]!\r\nEventSignal=3\r\n",
         "[Printer]\r\nFormat=[SENDER] [T0]\r\n");
