@@ -175,6 +175,13 @@ TEST_F(AlarmListView, TheFirstCategoryThatMatchesInAnyCaseIsUsed) {
     EXPECT_EQ(Take(MakeAlarm("x", "Gas"))->m_CategorySpecificSetting->m_ExtraText, "none");
 }
 
+TEST_F(AlarmListView, ANewRowMarksTheListAsChanged) {
+    Start("[General]\r\nColumns=t0\r\n");
+    state.m_ListChanged = false;
+    view.AddAlarmRow(MakeAlarm());
+    EXPECT_TRUE(state.m_ListChanged);
+}
+
 TEST_F(AlarmListView, TheHiddenColumnHoldsTheTimeOfCreation) {
     Start("[General]\r\nColumns=t0\r\n");
     const AlarmPtr alarm = Take(MakeAlarm());

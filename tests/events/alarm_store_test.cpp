@@ -314,6 +314,23 @@ TEST_F(AlarmStore, StoredAlarmsComeBackInOrderWithTheirState) {
     EXPECT_EQ(Log(), "3 T10041\n");
 }
 
+TEST_F(AlarmStore, LoadingAgainStartsAfreshBehindAHiddenList) {
+    PutFile(1, 1);
+    PutFile(2, 2);
+    Load();
+    list.SelectAllRows();
+    state.m_ListChanged = false;
+    store.LoadAlarms([this](const AlarmPtr& alarm) {
+        EXPECT_FALSE(list.m_Visible);
+        view.AddAlarmRow(alarm);
+    });
+    EXPECT_TRUE(list.m_Visible);
+    EXPECT_EQ(list.RecordCount(), 2);
+    EXPECT_EQ(store.m_Alarms.size(), 2u);
+    EXPECT_TRUE(list.SelectedRows().empty());
+    EXPECT_TRUE(state.m_ListChanged);
+}
+
 TEST_F(AlarmStore, The1001stFileAtStartRemovesTheOldest) {
     for (int i = 0; i < 1001; ++i) PutFile(i + 1, 1 + i / 2000.0);
     Load();

@@ -145,6 +145,13 @@ TEST_F(SenderTable, ASilentSenderIsReportedWhenItsTimeIsOverAndNotBefore) {
     EXPECT_EQ(Log(), "");
 }
 
+TEST_F(SenderTable, ASenderIsNotDueAtItsLastMoment) {
+    Read("Alpha=45\r\n");  // 1/32 day, which a double holds exactly
+    Row(0).LastSeenSteady = clock.Steady() - 1.0 / 32;
+    table.Tick();
+    EXPECT_TRUE(alarms.empty());
+}
+
 TEST_F(SenderTable, ASilentSenderRepeatsItsAlarmEveryPeriodWithAutomaticReset) {
     Read("Alpha=5\r\n");
     for (int i = 0; i < 3; ++i) Minutes(5.1);
