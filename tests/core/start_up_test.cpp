@@ -276,6 +276,24 @@ TEST_F(StartUp, StoredAlarmsAreListedAndNothingSignals) {
     EXPECT_TRUE(printerPorts.m_Lines.empty());
 }
 
+TEST_F(StartUp, StoredAlarmsStandInTheConfiguredOrderFromTheStart) {
+    for (const auto& [number, text] : {std::pair{1, "older"}, {2, "newer"}}) {
+        cVigrelRecieverAlarm alarm(clock);
+        alarm.m_CreatedTime = clock.Now() - 1.0 / number;
+        alarm.m_Alarm.SetCondition(0, text);
+        cBinaryWriter file;
+        alarm.WriteToDisk(file);
+        files.Put("C:\\App\\Alarms\\A000000" + std::to_string(number) + ".alm", file.Bytes());
+    }
+    Ini("Columns=StateIcon,t0\r\nSortDescending=1\r\n");
+    EXPECT_EQ(Load(), eStartUp::Running);
+    EXPECT_EQ(list.Screen(), "#0|newer|\n#0|older|\n");
+    Ini("Columns=StateIcon,t0\r\n");
+    list = testing::cFakeReportList();
+    EXPECT_EQ(Load(), eStartUp::Running);
+    EXPECT_EQ(list.Screen(), "#0|older|\n#0|newer|\n");
+}
+
 TEST_F(StartUp, NoColumnWidthIsStoredWhileTheColumnsAreBuilt) {
     Ini("Columns=t0\r\n");
     Load();

@@ -68,6 +68,17 @@ TEST_F(AlarmIntake, TheStepsRunInTheirOrder) {
     EXPECT_EQ(list.Rows().size(), 1u);
 }
 
+TEST_F(AlarmIntake, AnAlarmThatTheLimitTakesAtOnceLeavesNoFile) {
+    settings.m_MaxEvents = 1;
+    Process(StatusActive);
+    const AlarmPtr kept = last;
+    clock.AddSeconds(-60);  // a clock set back: the next alarm is the oldest
+    Process(StatusActive);
+    EXPECT_EQ(store.m_Alarms.front(), kept);
+    EXPECT_EQ(AlarmFiles().size(), 1u);
+    EXPECT_TRUE(files.FileExists(store.FileName(kept->m_FileId)));
+}
+
 TEST_F(AlarmIntake, WithTheDefaultsThereIsNoPopupAndTheRestForEveryStatus) {
     for (std::int16_t status = 0; status < 3; ++status) {
         const std::string steps = Process(status);
