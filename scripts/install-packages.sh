@@ -12,7 +12,7 @@ packages=(
 )
 # Checking what lands: formatting, windows under a real window manager, sound, printing.
 test_packages=(
-    git clang-format libgtest-dev libbenchmark-dev
+    git ccache clang-format libgtest-dev libbenchmark-dev
     xvfb openbox xdotool x11-utils wmctrl trayer imagemagick
     pulseaudio pulseaudio-utils cups cups-client
 )

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include <QLineEdit>
 #include <QProcess>
 #include <QWindow>
@@ -246,8 +248,12 @@ TEST_F(ComingToTheFront, FromTheNotificationAreaAgainAndAgain) {
     m_Main.SetWidth(9000);
     m_Main.SetHeight(6000);
     ShowMain();
-    RunEvents(100);
-    const cGeometry shown = GeometryOf(m_Main);
+    // The window manager's frame comes in its own time.
+    cGeometry shown = GeometryOf(m_Main);
+    WaitUntil([&] {
+        const cGeometry before = std::exchange(shown, (RunEvents(300), GeometryOf(m_Main)));
+        return before == shown;
+    });
     for (int i = 0; i < 3; ++i) {
         IconifyFromOutside();
         ASSERT_TRUE(WaitUntil([&] { return !m_Main.isVisible(); })) << i;

@@ -102,7 +102,8 @@ TEST(BoxesWhileRunning, AFailureBoxThatNobodyAnswersClosesByItself) {
     const testing::cResult result = testing::RunProgram("failing_program", {});
     EXPECT_EQ(result.exitCode, 70);
     EXPECT_NE(result.output.find("Failure: an event failed\n"), std::string::npos) << result.output;
-    EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(1500));
+    // The box stands for 1.5 s; the toolkit's timers may come a twentieth early.
+    EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(1400));
 }
 
 }  // namespace
