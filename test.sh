@@ -21,8 +21,9 @@ esac
 echo "== format"
 git ls-files -z '*.h' '*.cpp' | xargs -0 clang-format --dry-run --Werror
 
-# Objects are shared between the builds below and kept for the next run.
-export CMAKE_CXX_COMPILER_LAUNCHER=ccache CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
+# Objects are shared between the builds below, and kept for the next run.
+export CMAKE_CXX_COMPILER_LAUNCHER=ccache CCACHE_DIR=$PWD/build/ccache CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
+mkdir -p "$CCACHE_DIR"
 
 echo "== build"
 cmake --preset dev >/dev/null
