@@ -181,6 +181,8 @@ TEST_F(cPopupsUnderX, APopupThatWasHiddenComesBackWhereItStood) {
         ASSERT_TRUE(StacksAs(std::to_string(number)));
         EXPECT_EQ(Popup(1).Left(), 1500);
         EXPECT_EQ(Popup(1).Top(), 3000);
+        EXPECT_EQ(Popup(1).Width(), 6000);
+        EXPECT_EQ(Popup(1).Height(), 2250);
         Popup(number).Close();
     }
 }
