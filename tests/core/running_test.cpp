@@ -344,6 +344,16 @@ TEST_F(Running, APreventedMinimiseJumpsBackToTheStateBefore) {
     EXPECT_EQ(mainWindow.m_State, eWindowState::Maximised);
 }
 
+TEST_F(Running, APreventedMinimiseHasNoIconToGoBackTo) {
+    Ini("PreventMinimize=1\r\n");
+    Make("/MINIMIZE");
+    mainWindow.OnResize = nullptr;  // told only when the start is over
+    EXPECT_EQ(receiver->Form_Load(), eStartUp::Running);
+    EXPECT_EQ(mainWindow.m_State, eWindowState::Minimised);
+    receiver->Form_Resize();
+    EXPECT_EQ(mainWindow.m_State, eWindowState::Normal);
+}
+
 TEST_F(Running, APreventedMinimiseUndoesAMinimisedStart) {
     Ini("PreventMinimize=1\r\n");
     mainWindow.m_Visible = true;
