@@ -226,6 +226,16 @@ TEST_F(Running, WithoutDayLimitTheChangeOfDateRemovesNoAlarm) {
     EXPECT_FALSE(files.FileExists("C:\\App\\LogFiles\\20260315.Log"));
 }
 
+TEST_F(Running, TheChangeOfDateTakesOverRecordsThoughNothingWasRemoved) {
+    Start();
+    timerKeepAlive.Tick();
+    list.AddRecord(nullptr);
+    EXPECT_TRUE(list.Rows().empty());
+    clock.AddSeconds(86400);
+    timerKeepAlive.Tick();
+    EXPECT_EQ(list.Rows().size(), 1u);
+}
+
 TEST_F(Running, InThePauseOfARepeatTheTrayPartOfTheTickIsLeftOut) {
     Ini("ShowInTaskBar=0\r\nEventSignal=3\r\nEventSoundFileDelay=5000\r\n");
     Start();
@@ -341,6 +351,16 @@ TEST_F(Running, APreventedMinimiseJumpsBackToTheStateBefore) {
     EXPECT_EQ(mainWindow.m_State, eWindowState::Normal);
     mainWindow.SetState(eWindowState::Maximised);
     mainWindow.SetState(eWindowState::Minimised);
+    EXPECT_EQ(mainWindow.m_State, eWindowState::Maximised);
+}
+
+TEST_F(Running, APreventedMinimiseGoesBackToTheStateOfTheStart) {
+    Ini("PreventMinimize=1\r\n");
+    Make("/MAXIMIZE");
+    mainWindow.OnResize = nullptr;
+    EXPECT_EQ(receiver->Form_Load(), eStartUp::Running);
+    mainWindow.SetState(eWindowState::Minimised);
+    receiver->Form_Resize();
     EXPECT_EQ(mainWindow.m_State, eWindowState::Maximised);
 }
 

@@ -113,7 +113,8 @@ TEST_F(StartUp, APortThatCannotBeOpenedIsNamedAndEndsTheStart) {
     EXPECT_EQ(Load(), eStartUp::PortTaken);
     EXPECT_EQ(messageBox.m_Shown, std::vector<std::string>{"warning, ok: T10015 (12412) T10016"});
     EXPECT_EQ(Log(), dashes + "T10040\n0 T10041\nPLC1 - T10013 5 T10014\n");
-    EXPECT_FALSE(runningApps.m_States.contains(8) && runningApps.m_States[8] == -1);
+    // Asked for, never set.
+    EXPECT_EQ(runningApps.m_States, (std::map<std::int32_t, std::int32_t>{{8, 0}}));
 }
 
 TEST_F(StartUp, WithoutALightLibraryNothingIsLogged) {
@@ -259,6 +260,13 @@ TEST_F(StartUp, OldLogsGo) {
     Load();
     EXPECT_FALSE(files.FileExists("C:\\App\\LogFiles\\20260210.log"));
     EXPECT_TRUE(files.FileExists("C:\\App\\LogFiles\\20260310.log"));
+}
+
+TEST_F(StartUp, OldLogsStayUntilTheSendersAreRead) {
+    files.Put("C:\\App\\LogFiles\\20260210.log", "old");
+    Ini("", "[Senders]\r\nPLC1=40000\r\n");
+    EXPECT_THROW(Load(), cFailure);
+    EXPECT_TRUE(files.FileExists("C:\\App\\LogFiles\\20260210.log"));
 }
 
 TEST_F(StartUp, StoredAlarmsAreListedAndNothingSignals) {
