@@ -131,6 +131,16 @@ TEST_F(CalendarPage, KeysChooseADayAcrossMonthsAndPaintIt) {
     EXPECT_EQ(m_Page.UndoStack()->count(), 5);
 }
 
+TEST_F(CalendarPage, KeysGoOnFromTheDayThatWasClicked) {
+    m_Page.ShowMonth(2026, 6);
+    Combo("Combo_Calendar_DayType").setCurrentIndex(7);
+    Drag(View(), {Cell(2, 1)});
+    Drag(View(), {QPoint(5, 5)});
+    Key(Qt::Key_Right);
+    Key(Qt::Key_Space);
+    EXPECT_EQ(Value(2026, 6, 11), 7);
+}
+
 TEST_F(CalendarPage, KeysStopAtTheEndsOfTheCalendar) {
     m_Page.ShowMonth(2000, 1);
     for (int i = 0; i < 20; ++i) Key(Qt::Key_Left);

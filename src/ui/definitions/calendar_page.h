@@ -72,6 +72,7 @@ class cCalendarPage : public cFilePage, private cCalendarContainer {
     void MoveDay(int days);
     void PaintChosenDay();
     QPoint CellOf(int day) const;
+    std::optional<int> DayAt(QPoint unit) const;
 
     void MoveMonth(int months);
     void ShowToday();

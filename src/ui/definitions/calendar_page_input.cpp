@@ -56,6 +56,7 @@ void cCalendarPage::MouseDown(std::int16_t button, std::int16_t shift, QPoint un
     if (button != 1 || m_Painting) return;
     if (!Get_Combo_Calendar_DayType_SelectedItem()) emit Message(tr("Choose a day type to paint."));
     m_Painting = true;
+    m_Day = DayAt(unit).value_or(m_Day);
     BeginEdit();
     m_Calendar.MouseDown(*this, &m_View.Surface(), button, shift, static_cast<float>(unit.x()),
                          static_cast<float>(unit.y()));
@@ -120,6 +121,15 @@ QPoint cCalendarPage::CellOf(int day) const {
     const int cell = day + m_Calendar.m_FirstWeekDayInActualMonth;
     return {kGridLeft + cell % kGridColumns * kCellWidth + kCellWidth / 2,
             kGridTop + cell / kGridColumns * kCellHeight + kCellHeight / 2};
+}
+
+// The day of the month whose cell that is.
+std::optional<int> cCalendarPage::DayAt(QPoint unit) const {
+    if (unit.x() < kGridLeft || unit.x() >= kGridRight || unit.y() < kGridTop) return std::nullopt;
+    const int cell = (unit.y() - kGridTop) / kCellHeight * kGridColumns + (unit.x() - kGridLeft) / kCellWidth;
+    const int day = cell - m_Calendar.m_FirstWeekDayInActualMonth;
+    if (day < 0 || day >= m_Calendar.m_DaysInActualMonth) return std::nullopt;
+    return day;
 }
 
 void cCalendarPage::PaintChosenDay() {
