@@ -42,11 +42,12 @@ void CheckCalendar(std::string_view content) {
     bench.m_Files.Put("C:\\App\\a.cal", content);
     fuzz::Require(bench.m_Calendar.ReadFromDisk("C:\\App\\a.cal"), "a file is read");
     fuzz::Require(bench.m_Calendar.CompareToDisk("C:\\App\\a.cal"), "the table is that of the file");
-    bench.m_Calendar.m_ShowTimeAxis = True16;
-    bench.m_Calendar.m_AssociatedTimeSchedule = &schedule;
     bench.Show(2000, 1);
-    bench.m_Calendar.Paint(bench.m_Container, &bench.m_Paint);
     for (int day = 0; day < 42; ++day) bench.Move(bench.X(day % 7), bench.Y(day / 7));
+    for (std::int32_t i = 0; i < kCalendarDays; ++i) {
+        const std::int16_t dayType = bench.m_Calendar.ResolveDayType(i, schedule);
+        fuzz::Require(dayType >= 0 && (dayType < 7 || dayType == 22), "a date has a day type in use");
+    }
     bench.m_Calendar.SaveToDisk("C:\\App\\a.cal");
     const std::string saved = bench.m_Files.ReadFile("C:\\App\\a.cal");
     fuzz::Require(saved.size() == kCalendarFileSize, "a calendar has its size");
