@@ -317,8 +317,8 @@ TEST_F(PrinterPorts, AnUnknownHostFailsInTime) {
 // --- entries
 
 TEST_F(PrinterPorts, AnEntryThatNamesNoPrinterIsReportedOnce) {
-    for (const char* entry : {"LPT1:", "tcp:", "tcp::9100", "tcp:host:", "tcp:host:port", "tcp:[::1",
-                              "tcp:[::1]x:1", "cups:", "printer"}) {
+    for (const char* entry : {"LPT1:", "tcp:", "tcp:host", "tcp::9100", "tcp:host:", "tcp:host:port",
+                              "tcp:host:0", "tcp:host:65536", "tcp:[]:9100", "cups:", "printer"}) {
         Ports(std::string("1=") + entry);
         m_Reports.clear();
         EXPECT_EQ(Send(), 0) << entry;
@@ -335,6 +335,13 @@ TEST_F(PrinterPorts, AnAddressOfTheNewerKindStandsInBrackets) {
     EXPECT_EQ(Send(), 0);
     ASSERT_EQ(m_Reports.size(), 1u);
     EXPECT_NE(m_Reports[0].find("tcp:[::1]:1: "), std::string::npos) << m_Reports[0];
+}
+
+TEST_F(PrinterPorts, TheKindOfAnEntryIsReadInAnyCase) {
+    cTcpSink sink;
+    Ports("1=TCP:127.0.0.1:" + sink.Port());
+    EXPECT_NE(Send("text\r\n"), 0);
+    EXPECT_TRUE(sink.Gets({"text\r\n"}));
 }
 
 TEST_F(PrinterPorts, ChangesForTheWorseAndTheBetterAreReported) {

@@ -4,44 +4,38 @@
 #include <system_error>
 
 #include "common/code_page.h"
+#include "common/numbers.h"
 
 namespace vigrel {
 namespace {
 
 constexpr std::string_view kTcp = "tcp:", kCups = "cups:";
-constexpr const char* kRawPort = "9100";
+constexpr int kLastPort = 65535;
 
-bool IsNumber(std::string_view text) {
-    return !text.empty() &&
-           std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+bool IsPort(const std::string& text) {
+    const bool digits = !text.empty() && text.find_first_not_of("0123456789") == std::string::npos;
+    return digits && Val(text) >= 1 && Val(text) <= kLastPort;
 }
 
-// "HOST", "HOST:PORT", "[ADDRESS]", "[ADDRESS]:PORT".
-PrinterPtr MakeTcpPrinterOf(std::string_view address) {
-    std::string_view host = address, port = kRawPort;
-    const std::size_t bracket = address.starts_with('[') ? address.find(']') : std::string_view::npos;
-    const std::size_t colon = address.find(':', bracket == std::string_view::npos ? 0 : bracket);
-    if (colon != std::string_view::npos) {
-        host = address.substr(0, colon);
-        port = address.substr(colon + 1);
-    }
-    if (bracket != std::string_view::npos) {
-        if (host.size() != bracket + 1) return nullptr;
-        host = host.substr(1, bracket - 1);
-    }
-    if (host.empty() || !IsNumber(port)) return nullptr;
-    return MakeTcpPrinter(std::string(host), std::string(port));
+// "HOST:PORT", "[ADDRESS]:PORT".
+PrinterPtr MakeTcpPrinterOf(const std::string& address) {
+    const std::size_t colon = address.rfind(':');
+    if (colon == std::string::npos) return nullptr;
+    std::string host = address.substr(0, colon);
+    if (host.starts_with('[') && host.ends_with(']')) host = host.substr(1, host.size() - 2);
+    const std::string port = address.substr(colon + 1);
+    return host.empty() || !IsPort(port) ? nullptr : MakeTcpPrinter(host, port);
 }
 
 }  // namespace
 
 PrinterPtr MakePrinter(std::string_view entry) {
-    if (entry.starts_with('/')) return MakePathPrinter(CodePageToUtf8(entry));
-    if (entry.starts_with(kTcp)) return MakeTcpPrinterOf(entry.substr(kTcp.size()));
-    if (entry.starts_with(kCups) && entry.size() > kCups.size()) {
-        return MakeCupsPrinter(CodePageToUtf8(entry.substr(kCups.size())));
-    }
-    return nullptr;
+    const std::string device = CodePageToUtf8(entry);
+    if (device.starts_with('/')) return MakePathPrinter(device);
+    const std::string kind = ToLower(std::string_view(device).substr(0, device.find(':') + 1));
+    const std::string rest = device.substr(kind.size());
+    if (kind == kTcp) return MakeTcpPrinterOf(rest);
+    return kind == kCups && !rest.empty() ? MakeCupsPrinter(rest) : nullptr;
 }
 
 int MillisecondsLeft(Deadline deadline) {

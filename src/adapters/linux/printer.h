@@ -36,8 +36,8 @@ PrinterPtr MakeCupsPrinter(std::string queue);
 // else the USB printer device, else the queue "LPT<number>". deviceFolder is /dev.
 PrinterPtr MakeDefaultPrinter(int number, const std::string& deviceFolder);
 
-// The printer that an entry of the configuration names: a path that begins with "/", "tcp:HOST:PORT" (PORT is
-// 9100 when left out; an IPv6 address stands in square brackets), or "cups:QUEUE". nullptr for anything else.
+// The printer that an entry of the configuration names: a path that begins with "/", "tcp:HOST:PORT", or
+// "cups:QUEUE". nullptr for anything else.
 PrinterPtr MakePrinter(std::string_view entry);
 
 // Until the deadline, or 0 behind it.
