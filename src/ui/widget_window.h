@@ -116,7 +116,7 @@ class cWidgetWindow : public Widget, public Port {
         if (!this->isVisible()) return;
         const bool maximised = this->isMaximized();
         const QRect restored = this->normalGeometry();  // of the inside
-        m_HiddenPlace = maximised ? restored.topLeft() - QPoint(m_Frame.left(), m_Frame.top()) : this->pos();
+        m_HiddenPlace = maximised ? restored.topLeft() - FrameCorner() : Place();
         this->hide();
         this->destroy();
         if (maximised) this->resize(restored.size());
@@ -125,11 +125,14 @@ class cWidgetWindow : public Widget, public Port {
     void Reappear() {
         if (!m_HiddenPlace) return;
         // By the inside, for which the toolkit needs to know nothing of the frame.
-        this->setGeometry(QRect(*m_HiddenPlace + QPoint(m_Frame.left(), m_Frame.top()), this->size()));
+        this->setGeometry(QRect(*m_HiddenPlace + FrameCorner(), this->size()));
         m_HiddenPlace.reset();
     }
-    // The frame's upper left corner.
-    QPoint Place() const { return m_HiddenPlace ? *m_HiddenPlace : this->pos(); }
+    // The frame's upper left corner. The toolkit's own answer is without the frame now and then.
+    QPoint Place() const {
+        if (m_HiddenPlace) return *m_HiddenPlace;
+        return m_FrameSeen ? this->geometry().topLeft() - FrameCorner() : this->pos();
+    }
     void PlaceAt(QPoint place) {
         if (m_HiddenPlace) {
             m_HiddenPlace = place;
@@ -195,6 +198,7 @@ class cWidgetWindow : public Widget, public Port {
             FlushToScreen();
         });
     }
+    QPoint FrameCorner() const { return {m_Frame.left(), m_Frame.top()}; }
     QSize FrameSize() const { return m_WishedFrame ? *m_WishedFrame : this->size().grownBy(m_Frame); }
     void SetFrameSize(QSize size) {
         m_WishedFrame.reset();

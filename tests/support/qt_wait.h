@@ -9,7 +9,7 @@ namespace vigrel::testing {
 
 // Runs the event loop until the condition holds. False when it does not in time.
 template <class Condition>
-bool WaitUntil(Condition&& condition, int milliseconds = 5000) {
+bool WaitUntil(Condition&& condition, int milliseconds = 20000) {
     QTimer wake;  // lets a loop without events come back
     wake.start(2);
     QElapsedTimer timer;
