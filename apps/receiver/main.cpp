@@ -82,6 +82,8 @@ int Run(int argc, char** argv) {
     cQtClipboard clipboard;
     cQtWaveDevice waveDevice(NativePath);
     cTonePlayer tone;
+    // The bell is for stations that can play no sound.
+    tone.OnSilent = [] { QApplication::beep(); };
     cQtBeeper beeper([&] {
         tone.Play();
         return true;
