@@ -2,8 +2,7 @@
 
 add_library(vigrel_flags INTERFACE)
 target_compile_options(vigrel_flags INTERFACE
-  -Wall -Wextra -Wpedantic -Werror -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wconversion
-  $<$<CONFIG:Debug>:-O1>)
+  -Wall -Wextra -Wpedantic -Werror -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wconversion)
 target_include_directories(vigrel_flags INTERFACE ${PROJECT_SOURCE_DIR}/src)
 if(VIGREL_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
