@@ -36,9 +36,9 @@ cmake --build build/logic
 echo "== asan"
 cmake --preset asan >/dev/null
 cmake --build --preset asan
-ctest --preset asan -LE 'x11|sound|cups' -j2
+ctest --preset asan -LE 'x11|sound|cups' -j4
 
 echo "== dev"
 # Window managers, sound servers and schedulers have their own pace, above all on a busy machine: a test gets a second
 # and a third try. One that fails for a reason of its own fails them all.
-ctest --preset dev -j2 --repeat until-pass:3
+ctest --preset dev -j4 --repeat until-pass:3
