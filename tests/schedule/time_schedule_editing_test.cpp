@@ -190,6 +190,7 @@ INSTANTIATE_TEST_SUITE_P(Schedule, MouseSequence, ::testing::ValuesIn(kSequences
 // --- merging, seen after a click into free space
 
 struct cMerge {
+    const char* name;
     std::vector<std::pair<int, int>> before;
     const char* after;
 };
@@ -203,20 +204,22 @@ TEST_P(Merging, JoinsWhatOverlapsOrTouches) {
 }
 
 const cMerge kMerges[] = {
-    {{{100, 200}, {300, 400}, {200, 300}}, "100-400"},
-    {{{480, 540}, {540, 600}}, "480-600"},
-    {{{540, 600}, {480, 540}}, "480-600"},
-    {{{100, 200}, {201, 300}}, "100-200 201-300"},
-    {{{100, 400}, {200, 300}}, "100-400"},
-    {{{200, 300}, {100, 400}}, "100-400"},
-    {{{100, 200}, {100, 200}}, "100-200"},
-    {{{500, 600}, {100, 200}, {550, 700}}, "500-700 100-200"},
-    {{{960, 1200}, {1200, 1200}}, "960-1200"},
-    {{{1, 2}, {3, 4}, {5, 6}, {7, 8}, {2, 7}}, "1-8"},
-    {{}, ""},
+    {"APeriodThatFillsTheGapJoinsAllThree", {{100, 200}, {300, 400}, {200, 300}}, "100-400"},
+    {"EightToNineAndNineToTenAreOne", {{480, 540}, {540, 600}}, "480-600"},
+    {"TheLaterOneMayStandFirst", {{540, 600}, {480, 540}}, "480-600"},
+    {"AMinuteBetweenKeepsThemTwo", {{100, 200}, {201, 300}}, "100-200 201-300"},
+    {"APeriodInsideAnotherDisappears", {{100, 400}, {200, 300}}, "100-400"},
+    {"APeriodInsideALaterOneOfTheListDisappears", {{200, 300}, {100, 400}}, "100-400"},
+    {"OfTwoEqualOnesOneStays", {{100, 200}, {100, 200}}, "100-200"},
+    {"TheListIsNotSorted", {{500, 600}, {100, 200}, {550, 700}}, "500-700 100-200"},
+    {"AnEmptyPeriodAtAnEndDisappears", {{960, 1200}, {1200, 1200}}, "960-1200"},
+    {"AnEmptyPeriodByItselfStays", {{100, 200}, {1440, 1440}}, "100-200 1440-1440"},
+    {"AChainIsJoinedToTheEnd", {{1, 2}, {3, 4}, {5, 6}, {7, 8}, {2, 7}}, "1-8"},
+    {"AnEmptyListStaysEmpty", {}, ""},
 };
 
-INSTANTIATE_TEST_SUITE_P(Schedule, Merging, ::testing::ValuesIn(kMerges));
+INSTANTIATE_TEST_SUITE_P(Schedule, Merging, ::testing::ValuesIn(kMerges),
+                         [](const auto& merge) { return merge.param.name; });
 
 // --- the rest
 
@@ -340,6 +343,14 @@ TEST(ScheduleMouse, TheDaysOfAGroupShareNoPeriod) {
     bench.Move(3, 500);
     EXPECT_EQ(Periods(bench.m_Schedule, 0), "100-350");
     EXPECT_EQ(Periods(bench.m_Schedule, 3), "100-500");
+}
+
+// The day that a right press has selected meanwhile hands its periods on; the dragged one is merged.
+TEST(ScheduleMouse, TheReleaseCopiesFromTheSelectedDayAndMergesTheDraggedOne) {
+    cScheduleBench bench(cContent().Day(0, {{100, 200}, {300, 400}}).Day(2, {{7, 8}}).Grouped({2, 4}));
+    bench.Play("left 0 200;move 0 350;right 2 600;up");
+    EXPECT_EQ(Periods(bench.m_Schedule, 0), "100-400");
+    EXPECT_EQ(Periods(bench.m_Schedule, 4), "7-8");
 }
 
 TEST(ScheduleMouse, ARightPressSelectsTheDayTypeKeepsThePeriodAndOnlySetsPopupStates) {
@@ -494,6 +505,18 @@ TEST(ScheduleMenu, PasteMergesWhatItBrings) {
     EXPECT_EQ(Periods(bench.m_Schedule, 0), "100-200 200-300");
 }
 
+TEST(ScheduleMenu, CopyWithoutASelectedDayForgetsTheSource) {
+    cScheduleBench bench(cContent().Day(0, {{420, 960}}));
+    bench.Down(0, 600, 2);
+    bench.m_Schedule.Copy();
+    bench.m_Schedule.SetTimeFrom00to24(bench.m_Container, &bench.m_Paint);
+    bench.m_Schedule.Copy();
+    bench.Down(1, 600, 2);
+    EXPECT_NE(bench.m_Transcript.Text().find("paste enabled 0\n"), std::string::npos);
+    bench.m_Schedule.Paste(bench.m_Container, &bench.m_Paint);
+    EXPECT_EQ(Periods(bench.m_Schedule, 1), "");
+}
+
 TEST(ScheduleMenu, TheWholeDayLeavesTheGroupAndTheSelectedDay) {
     cScheduleBench bench(cContent().Day(0, {{420, 960}}).Day(1, {{420, 960}}).Grouped({0, 1}));
     bench.Click(0, 1300);
@@ -530,7 +553,16 @@ TEST(ScheduleMenu, DeleteOfADayThatLacksTheSelectedPeriodOnlyUngroupsIt) {
     EXPECT_EQ(bench.m_Schedule.SelectedDayType(), -1);
 }
 
+TEST(ScheduleMenu, DeleteMergesWhatStays) {
+    cScheduleBench bench(cContent().Day(0, {{420, 960}, {1000, 1100}, {1100, 1200}}));
+    // Only a press selects here: a release would merge already.
+    bench.Down(0, 600);
+    bench.m_Schedule.Delete(bench.m_Container, &bench.m_Paint);
+    EXPECT_EQ(Periods(bench.m_Schedule, 0), "1000-1200");
+}
+
 struct cInversion {
+    const char* name;
     std::vector<std::pair<int, int>> before;
     const char* after;
 };
@@ -546,18 +578,19 @@ TEST_P(Inversion, CoversWhatWasFree) {
 }
 
 const cInversion kInversions[] = {
-    {{{420, 960}}, "0-420 960-1440"},
-    {{{0, 1440}}, "1440-1440"},
-    {{}, "0-1440"},
-    {{{0, 960}}, "960-1440"},
-    {{{420, 1440}}, "0-420 1440-1440"},
-    {{{500, 600}, {100, 200}}, "0-100 200-500 600-1440"},
-    {{{1439, 1440}}, "0-1439 1440-1440"},
-    {{{600, 600}}, "0-1440"},
-    {{{-100, 60}, {1400, 20000}}, "60-1400 1440-1440"},
+    {"AWorkingDayLeavesMorningAndEvening", {{420, 960}}, "0-420 960-1440"},
+    {"TheWholeDayLeavesAnEmptyPeriodAtItsEnd", {{0, 1440}}, "1440-1440"},
+    {"AnEmptyDayBecomesWhole", {}, "0-1440"},
+    {"FromMidnightOnLeavesTheEvening", {{0, 960}}, "960-1440"},
+    {"UpToMidnightLeavesTheMorningAndAnEmptyPeriod", {{420, 1440}}, "0-420 1440-1440"},
+    {"PeriodsOutOfOrderLeaveTheGapsInOrder", {{500, 600}, {100, 200}}, "0-100 200-500 600-1440"},
+    {"TheLastMinuteIsAMinute", {{1439, 1440}}, "0-1439 1440-1440"},
+    {"AnEmptyPeriodCoversNothing", {{600, 600}}, "0-1440"},
+    {"PeriodsOutOfTheDayCoverTheirPartOfIt", {{-100, 60}, {1400, 20000}}, "60-1400 1440-1440"},
 };
 
-INSTANTIATE_TEST_SUITE_P(Schedule, Inversion, ::testing::ValuesIn(kInversions));
+INSTANTIATE_TEST_SUITE_P(Schedule, Inversion, ::testing::ValuesIn(kInversions),
+                         [](const auto& inversion) { return inversion.param.name; });
 
 TEST(ScheduleMenu, InvertingADayOfAGroupInvertsTheGroup) {
     cScheduleBench bench(cContent().Day(2, {{420, 960}}).Grouped({0, 2}));
@@ -573,6 +606,14 @@ TEST(ScheduleMenu, ADayThatJoinsTakesThePeriodsOfTheFirstGroupedDay) {
     EXPECT_TRUE(IsGrouped(bench.m_Schedule, 1));
     EXPECT_EQ(Periods(bench.m_Schedule, 1), "30-40");
     EXPECT_EQ(Periods(bench.m_Schedule, 4), "50-60");
+}
+
+TEST(ScheduleMenu, ADayThatJoinsMergesWhatItTakes) {
+    cScheduleBench bench(cContent().Day(3, {{30, 40}, {40, 50}}).Grouped({3}));
+    bench.Down(1, 1300, 2);
+    bench.m_Schedule.Group(bench.m_Container, &bench.m_Paint);
+    EXPECT_EQ(Periods(bench.m_Schedule, 1), "30-50");
+    EXPECT_EQ(Periods(bench.m_Schedule, 3), "30-40 40-50");
 }
 
 TEST(ScheduleMenu, TheFirstDayOfAGroupKeepsItsPeriods) {
