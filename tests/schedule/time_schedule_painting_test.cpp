@@ -162,6 +162,66 @@ TEST(SchedulePainting, ALeftPressPaintsThePreviouslySelectedRowWithoutItsHighlig
               Axis(4) + Gradient(114, 222, 4, kPeriodGreens) + Ends(114, 222, 4) + "print 16 5 Mo\n");
 }
 
+// The rows that were painted, in their order.
+std::string RowsOf(const std::string& painted) {
+    std::string rows;
+    std::istringstream lines(painted);
+    for (std::string line; std::getline(lines, line);) {
+        for (int row = 0; row < 7; ++row) {
+            const std::string y = std::to_string(row * 25 + 4);
+            if (line == "line 30 " + y + " 318 " + y + " #DCDCDC") rows += std::to_string(row);
+        }
+    }
+    return rows;
+}
+
+TEST(SchedulePainting, AReleasePaintsTheGroupAndThenTheDayItself) {
+    cScheduleBench bench(cContent().Day(2, {{420, 960}}).Grouped({0, 2, 4}));
+    bench.Down(2, 960);
+    bench.m_Transcript.Take();
+    bench.Up();
+    EXPECT_EQ(RowsOf(bench.m_Transcript.Text()), "042");
+}
+
+TEST(SchedulePainting, TypedTimesPaintTheDayAndThenTheGroup) {
+    cScheduleBench bench(cContent().Day(2, {{420, 960}}).Grouped({0, 2, 4}));
+    bench.Click(2, 600);
+    bench.m_Transcript.Take();
+    bench.m_Schedule.ExtractTimeFromTextboxes(bench.m_Container, &bench.m_Paint);
+    EXPECT_EQ(RowsOf(bench.m_Transcript.Text()), "204");
+}
+
+TEST(SchedulePainting, EntriesPaintTheRowsThatTheyChange) {
+    using Operation = void (cTimeSchedule::*)(cTimeScheduleContainer&, cPaintObject*);
+    const auto rows = [](Operation operation) {
+        cScheduleBench bench(cContent().Day(2, {{420, 960}}).Grouped({0, 2, 4}));
+        bench.Down(5, 600, 2);
+        bench.m_Schedule.Copy();
+        bench.Down(2, 600, 2);
+        bench.m_Transcript.Take();
+        (bench.m_Schedule.*operation)(bench.m_Container, &bench.m_Paint);
+        return RowsOf(bench.m_Transcript.Text());
+    };
+    EXPECT_EQ(rows(&cTimeSchedule::Delete), "2");
+    EXPECT_EQ(rows(&cTimeSchedule::SetTimeFrom00to24), "2");
+    EXPECT_EQ(rows(&cTimeSchedule::Paste), "2");
+    EXPECT_EQ(rows(&cTimeSchedule::Group), "2");
+    EXPECT_EQ(rows(&cTimeSchedule::InvertTimeSchedule), "204");
+    EXPECT_EQ(rows(&cTimeSchedule::GroupMonFri),
+              "01234"
+              "1234"
+              "0123456");
+}
+
+TEST(SchedulePainting, ADayThatJoinsAGroupIsPainted) {
+    cScheduleBench bench(cContent().Day(2, {{420, 960}}).Grouped({2}));
+    bench.Down(5, 600, 2);
+    bench.m_Transcript.Take();
+    bench.m_Schedule.Group(bench.m_Container, &bench.m_Paint);
+    EXPECT_EQ(RowsOf(bench.m_Transcript.Text()), "5");
+    EXPECT_NE(bench.m_Transcript.Text().find("line 317 129 312 129 #FFFFFF\n"), std::string::npos);
+}
+
 TEST(SchedulePainting, GroupingMondayToFridayPaintsRowsThenGroupThenAll) {
     cScheduleBench bench;
     bench.m_Transcript.Take();
