@@ -145,6 +145,25 @@ TEST(CalendarFile, DamagedValuesAreReadAndHarmNothing) {
     }
 }
 
+TEST(CalendarFile, AFlippedByteChangesTheValueOfItsDateAlone) {
+    cCalendarBench bench;
+    std::string bytes(29220, '\0');
+    cCalendar calendar(bench.Surroundings()), plain(bench.Surroundings());
+    for (std::size_t position = 0; position < bytes.size(); position += 13) {
+        for (const int bits : {0x01, 0x7F, 0x80, 0xFF}) {
+            bytes[position] = static_cast<char>(bits);
+            bench.m_Files.Put(kFile, bytes);
+            ASSERT_TRUE(calendar.ReadFromDisk(kFile));
+            const auto day = static_cast<std::int32_t>(position / 2);
+            ASSERT_EQ(calendar.GetDayType(day),
+                      static_cast<std::int16_t>(position % 2 == 0 ? bits : bits << 8));
+            calendar.SetDayType(day, 0);
+            ASSERT_TRUE(calendar.CompareToOtherCalendar(plain)) << position;
+        }
+        bytes[position] = 0;
+    }
+}
+
 TEST(CalendarFile, AFailedSaveLeavesTheOldFileAndTellsOfIt) {
     cCalendarBench bench;
     bench.m_Files.Put(kFile, "old");
@@ -297,6 +316,29 @@ TEST(CalendarMouse, TheToolTipNamesDayTypeAndHoliday) {
     EXPECT_EQ(bench.m_Paint.m_ToolTip, " (Second)");
     bench.Move(cCalendarBench::X(1), cCalendarBench::Y(0));
     EXPECT_EQ(bench.m_Paint.m_ToolTip, "");
+}
+
+TEST(CalendarMouse, ADayThatIsPaintedByADragShowsItsNewTypeAtOnce) {
+    cCalendarBench bench;
+    bench.Show(2026, 6);
+    bench.SetValue(2026, 6, 2, 3);
+    bench.m_Container.m_Selected = 10;
+    bench.Down(cCalendarBench::X(0), cCalendarBench::Y(0));
+    bench.Move(cCalendarBench::X(1), cCalendarBench::Y(0));
+    EXPECT_EQ(bench.m_Paint.m_ToolTip, "type 2");
+}
+
+TEST(CalendarMouse, ADragOverADayOfThatValueDrawsNothing) {
+    cCalendarBench bench;
+    bench.Show(2026, 6);
+    bench.SetValue(2026, 6, 2, 9);
+    bench.m_Container.m_Selected = 10;
+    bench.Down(cCalendarBench::X(0), cCalendarBench::Y(0));
+    bench.m_Transcript.Take();
+    bench.Move(cCalendarBench::X(1), cCalendarBench::Y(0));
+    EXPECT_EQ(bench.m_Transcript.Text(), "");
+    bench.Move(cCalendarBench::X(2), cCalendarBench::Y(0));
+    EXPECT_NE(bench.m_Transcript.Text(), "");
 }
 
 TEST(CalendarMouse, ABlankCellClearsTheToolTip) {

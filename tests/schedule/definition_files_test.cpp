@@ -78,6 +78,29 @@ TEST(ScheduleFile, CutAtAnyLengthItIsRefused) {
     }
 }
 
+// A flipped bit is refused, or it is another sound schedule and read as that one.
+TEST(ScheduleFile, WithAFlippedBitItIsRefusedOrReadAsWhatItSays) {
+    const std::string whole = cContent().Day(0, {{420, 960}}).Day(22, {{0, 1440}, {5, 6}}).Bytes();
+    int refused = 0;
+    for (std::size_t bit = 0; bit < whole.size() * 8; ++bit) {
+        std::string damaged = whole;
+        damaged[bit / 8] = static_cast<char>(damaged[bit / 8] ^ (1 << bit % 8));
+        if (Refusal(damaged) != "accepted") {
+            ++refused;
+            continue;
+        }
+        cFakeFiles files;
+        files.Put(kPath, damaged);
+        cTimeSchedule schedule;
+        LoadScheduleFile(files, kPath, schedule);
+        EXPECT_EQ(Saved(schedule), damaged) << bit;
+    }
+    // Flags and counts, 70 values, have no other sound pattern. Most bits of rows and minutes carry them out of
+    // their range.
+    EXPECT_GE(refused, 70 * 16);
+    EXPECT_LT(refused, static_cast<int>(whole.size()) * 8);
+}
+
 TEST(ScheduleFile, AMissingFileIsTheDisksFailure) {
     cFakeFiles files;
     cTimeSchedule schedule;
@@ -111,6 +134,27 @@ TEST(CalendarDefinition, AFileOfOtherSizeOrValueIsRefusedAndTheTableKept) {
               "C:\\App\\Site.cal is not a calendar: the value of 2000-01-01 is -32768, not one of 0 to 23.");
     EXPECT_EQ(refusal(Changed(plain, 14, "\x17")), "accepted");
     EXPECT_EQ(bench.m_Calendar.GetDayType(7), 23);
+}
+
+TEST(CalendarDefinition, CutAtAnyLengthItIsRefused) {
+    const std::string plain(29220, '\0');
+    for (std::size_t length = 0; length < plain.size(); ++length) {
+        ASSERT_TRUE(FaultOfCalendarFile(std::string_view(plain).substr(0, length))) << length;
+    }
+    EXPECT_FALSE(FaultOfCalendarFile(plain));
+    EXPECT_TRUE(FaultOfCalendarFile(plain + "x"));
+}
+
+TEST(CalendarDefinition, WithAFlippedByteItIsRefusedUnlessTheValueIsADayTypes) {
+    std::string content(29220, '\0');
+    for (std::size_t position = 0; position < content.size(); position += 7) {
+        for (const int bits : {0x01, 0x10, 0x18, 0x80, 0xFF}) {
+            content[position] = static_cast<char>(bits);
+            const bool isSound = position % 2 == 0 && (bits == 0x01 || bits == 0x10);
+            ASSERT_EQ(!FaultOfCalendarFile(content), isSound) << position << " " << bits;
+        }
+        content[position] = 0;
+    }
 }
 
 TEST(DefinitionKind, IsToldByTheSizeAlone) {
