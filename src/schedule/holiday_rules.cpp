@@ -135,6 +135,7 @@ constexpr std::array kEnglandAndWales{
 constexpr std::array kScotland{
     Fixed(1, 2, "2nd January").WithSubstitute(),
     OnOrFrom(kMonday, 8, 1, "Summer bank holiday"),
+    Fixed(6, 15, "World Cup bank holiday").In(2026),
     Fixed(11, 30, "St Andrew's Day").WithSubstitute().From(2007),
 };
 
