@@ -363,6 +363,30 @@ TEST(CalendarMouse, TheDayLastSeenChangesNothing) {
     EXPECT_EQ(bench.m_Paint.m_ToolTip, "type 2");
 }
 
+TEST(CalendarMouse, ADayIsSeenAgainAfterABlankCell) {
+    cCalendarBench bench;
+    bench.Show(2026, 2);
+    bench.SetValue(2026, 2, 2, 9);
+    bench.Move(cCalendarBench::X(0), cCalendarBench::Y(1));
+    bench.Move(cCalendarBench::X(0), cCalendarBench::Y(0));
+    bench.Move(cCalendarBench::X(0), cCalendarBench::Y(1));
+    EXPECT_EQ(bench.m_Paint.m_ToolTip, "type 2");
+}
+
+TEST(CalendarMouse, TheDayLastSeenIsKeptOverAChangeOfMonth) {
+    cCalendarBench bench;
+    bench.SetValue(2026, 6, 5, 9);
+    bench.SetValue(2027, 2, 1, 10);
+    bench.SetValue(2027, 2, 5, 10);
+    bench.Show(2026, 6);  // like February 2027 it begins on a Monday
+    bench.Move(cCalendarBench::X(4), cCalendarBench::Y(0));
+    bench.Show(2027, 2);
+    bench.Move(cCalendarBench::X(4), cCalendarBench::Y(0));
+    EXPECT_EQ(bench.m_Paint.m_ToolTip, "type 2");
+    bench.Move(cCalendarBench::X(0), cCalendarBench::Y(0));
+    EXPECT_EQ(bench.m_Paint.m_ToolTip, "type 3");
+}
+
 TEST(CalendarMouse, AMonthBehindTheTableShowsNoToolTipAndDoesNotFail) {
     cCalendarBench bench;
     bench.Show(2040, 1);
@@ -556,6 +580,12 @@ TEST(CalendarPainting, WeekNumbersGoOnBehindTheMonthsEnd) {
               "print 16 26 49;print 16 51 50;print 16 76 51;print 16 101 52;print 16 126 53;print 22 151 1;");
 }
 
+// A row counts by the day that stands a whole number of weeks behind the first, here its Sunday.
+TEST(CalendarPainting, ARowsWeekIsThatOfTheFirstsWeekday) {
+    EXPECT_EQ(WeekNumbers(2026, 2, 2, eFirstWeek::FirstFourDays),
+              "print 22 26 5;print 22 51 6;print 22 76 7;print 22 101 8;print 22 126 9;print 16 151 10;");
+}
+
 TEST(CalendarPainting, WeekNumbersFollowTheDesktopsRules) {
     // 1 January 2027 is a Friday: by days of the year its week is the last of 2026.
     EXPECT_EQ(WeekNumbers(2027, 1, 2, eFirstWeek::FirstFourDays),
@@ -591,6 +621,18 @@ TEST(CalendarResolving, ADateWithoutATypeFollowsItsWeekday) {
     EXPECT_EQ(bench.m_Calendar.ResolveDayType(cCalendarBench::Index(2026, 3, 15), schedule), 6);
     EXPECT_EQ(bench.m_Calendar.ResolveDayType(cCalendarBench::Index(2026, 3, 16), schedule), 0);
     EXPECT_EQ(bench.m_Calendar.ResolveDayType(14609, schedule), 5);
+}
+
+TEST(CalendarResolving, AWeekdayThatIsNotInUseStaysThatWeekdayWithoutPeriods) {
+    cCalendarBench bench;
+    cTimeSchedule schedule;
+    testing::Load(schedule, cContent().Day(0, {{0, 720}}).Day(1, {{0, 1440}}));
+    schedule.SetActive(1, False16);
+    bench.m_Calendar.m_ShowTimeAxis = True16;
+    bench.m_Calendar.m_AssociatedTimeSchedule = &schedule;
+    bench.Show(2026, 6);
+    EXPECT_EQ(bench.m_Calendar.ResolveDayType(cCalendarBench::Index(2026, 6, 2), schedule), 1);
+    EXPECT_EQ(bench.DateBox(2).find("#00F000"), std::string::npos);
 }
 
 TEST(CalendarResolving, ADateOfAnActiveTypeFollowsTheType) {

@@ -84,9 +84,10 @@ TEST(SchedulePainting, APeriodIsAGreenBarBetweenTwoBlackLines) {
 }
 
 TEST(SchedulePainting, EndsAreRoundedToTheNearestUnit) {
-    cScheduleBench bench(cContent().Day(0, {{3, 6}, {1438, 1440}}));
-    // 3 / 5 = 0.6; 7 / 5 = 1.4; 1438 / 5 = 287.6; 1441 / 5 = 288.2.
+    cScheduleBench bench(cContent().Day(0, {{3, 6}, {600, 662}, {1438, 1440}}));
+    // 3 / 5 = 0.6; 7 / 5 = 1.4; 663 / 5 = 132.6, where 662 / 5 = 132.4; 1438 / 5 = 287.6; 1441 / 5 = 288.2.
     EXPECT_EQ(Row(Painted(bench), 0), Axis(4) + Gradient(31, 31, 4, kPeriodGreens) + Ends(31, 31, 4) +
+                                          Gradient(150, 163, 4, kPeriodGreens) + Ends(150, 163, 4) +
                                           Gradient(318, 318, 4, kPeriodGreens) + Ends(318, 318, 4) +
                                           "print 16 5 Mo\n");
 }
