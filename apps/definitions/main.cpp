@@ -71,7 +71,7 @@ int Run(int argc, char** argv) {
                              prompts,
                              settings,
                              cDayTypeNames(ini, forms),
-                             cIconStrip(":/icons/daytype"),
+                             cDayTypeImages(ini),
                              station};
     int result = 0;
     application.Guard([&] {

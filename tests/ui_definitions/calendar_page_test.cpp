@@ -78,6 +78,37 @@ TEST_F(CalendarPage, TheToolTipNamesDayTypeAndHoliday) {
     EXPECT_EQ(m_Ini.GetIniString("Calendar", "Holidays", "", "VigrelDefinitions.INI"), "SE");
 }
 
+TEST_F(CalendarPage, TheToolTipIsNeverThatOfTheMonthBefore) {
+    m_Page.ShowMonth(2026, 6);
+    Combo("Combo_Calendar_DayType").setCurrentIndex(9);
+    Drag(View(), {Cell(5, 0)});
+    Move(View(), Cell(5, 0));
+    EXPECT_EQ(View().toolTip(), "Special day type 2");
+    m_Page.ShowMonth(2026, 9);
+    EXPECT_EQ(View().toolTip(), "");
+    m_Page.ShowMonth(2026, 6);
+    Move(View(), Cell(5, 0));
+    EXPECT_EQ(View().toolTip(), "Special day type 2");
+}
+
+TEST_F(CalendarPage, TheFirstDayHasItsToolTipWhenThePointerComesFirst) {
+    Combo("Combo_Calendar_Holidays").setCurrentIndex(Combo("Combo_Calendar_Holidays").findText("Germany"));
+    emit Combo("Combo_Calendar_Holidays").activated(0);
+    m_Page.ShowMonth(2026, 1);
+    Move(View(), Cell(3, 0));
+    EXPECT_EQ(View().toolTip(), " (Neujahr)");
+}
+
+TEST_F(CalendarPage, AClickedDayHasItsNewTypeInTheToolTip) {
+    m_Page.ShowMonth(2026, 6);
+    Combo("Combo_Calendar_DayType").setCurrentIndex(8);
+    Move(View(), Cell(2, 1));
+    Press(View(), Cell(2, 1));
+    Release(View(), Cell(2, 1));
+    Move(View(), Cell(2, 1));
+    EXPECT_EQ(View().toolTip(), "Special day type 1");
+}
+
 TEST_F(CalendarPage, TheChosenCountryIsThatOfTheNextCalendar) {
     m_Ini.PutIniString("Calendar", "Holidays", "DK", "VigrelDefinitions.INI");
     EXPECT_EQ(Find<QComboBox>(NewCalendar(), "Combo_Calendar_Holidays").currentText(), "Denmark");
@@ -225,6 +256,26 @@ TEST_F(CalendarPage, BandsAndBoxesStandWhereTheyShould) {
     EXPECT_EQ(Pixel(30 + 6 * 40 + 2 + 13, 20 + 25 + 2 + 21), QColor(255, 129, 129));
     EXPECT_EQ(Pixel(30 + 40, 100), QColor(0, 0, 0));
     EXPECT_EQ(Pixel(31 + 40, 100), QColor(255, 255, 255));
+}
+
+TEST_F(CalendarPage, ADaysNumberAndItsShortNameDoNotTouch) {
+    m_Page.ShowMonth(2026, 6);
+    Combo("Combo_Calendar_DayType").setCurrentIndex(3);
+    Drag(View(), {Cell(2, 3)});
+    QImage image(View().size() * 2, QImage::Format_RGB32);
+    image.setDevicePixelRatio(2);
+    View().render(&image);
+    // Wednesday the 24th: some column between the two texts is as empty as the box.
+    const int left = (30 + 2 * 40 + 2) * 2, top = (20 + 3 * 25 + 2) * 2;
+    const auto isEmpty = [&](int x) {
+        for (int y = top; y < top + 30; ++y) {
+            if (image.pixelColor(x, y).lightness() < 128) return false;
+        }
+        return true;
+    };
+    std::string columns;
+    for (int x = left; x < left + 37 * 2; ++x) columns += isEmpty(x) ? ' ' : '#';
+    EXPECT_NE(columns.find("  ", 20), std::string::npos) << columns;
 }
 
 TEST_F(CalendarPage, TheListOfDayTypesFollowsANewName) {

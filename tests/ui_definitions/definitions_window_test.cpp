@@ -1,6 +1,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QStatusBar>
 
 #include "support/samples.h"
 #include "ui_definitions/editor_bench.h"
@@ -254,6 +255,22 @@ class cOtherPage : public cEditorPage {
     }
     bool m_Dirty = true;
 };
+
+TEST_F(DefinitionsWindow, APageInsideAnotherIsHeardAsWell) {
+    cCalendarPage& calendar = NewCalendar();
+    auto* page = new cOtherPage;
+    auto* part = new cSchedulePage(m_Services, "Part", page);
+    m_Window->AddPage(page);
+    emit part->Message("There is no gap.");
+    EXPECT_EQ(m_Window->statusBar()->currentMessage(), "There is no gap.");
+    m_Services.m_DayTypeNames.Rename(22, "Lucia");
+    emit part->DayTypesChanged();
+    EXPECT_EQ(Find<QComboBox>(calendar, "Combo_Calendar_DayType").itemText(23), "Lucia");
+    m_Files.Put("/app/Part.sch", Sample("schedule.dat"));
+    part->Open("/app/Part.sch");
+    EXPECT_EQ(Recent().first(), "/app/Part.sch");
+    page->m_Dirty = false;
+}
 
 TEST_F(DefinitionsWindow, APageWithoutFileOrUndoIsSavedAndClosedLikeTheOthers) {
     auto* page = new cOtherPage;

@@ -86,7 +86,7 @@ class cEditorBench {
                                m_Prompts,
                                m_Settings,
                                cDayTypeNames(m_Ini, m_Forms),
-                               cIconStrip(":/icons/daytype"),
+                               cDayTypeImages(m_Ini),
                                m_Station};
     std::unique_ptr<cDefinitionsWindow> m_Window;
 };

@@ -103,7 +103,7 @@ class PageTest : public ::testing::Test {
                                m_Prompts,
                                m_Settings,
                                cDayTypeNames(m_Ini, m_Forms),
-                               cIconStrip(":/icons/daytype"),
+                               cDayTypeImages(m_Ini),
                                m_Station};
 };
 

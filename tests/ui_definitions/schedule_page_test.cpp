@@ -1,3 +1,4 @@
+#include <QMenu>
 #include <QScrollBar>
 
 #include "ui_definitions/editor_bench.h"
@@ -151,12 +152,73 @@ TEST_F(SchedulePage, TypedTimesAreTakenOverAndNormalised) {
     EXPECT_EQ(m_Page.UndoStack()->count(), 3);
 }
 
+TEST_F(SchedulePage, AStartBehindTheOldStopWaitsForTheNewStop) {
+    QApplication::setActiveWindow(m_Window.get());
+    Click(5, 600);
+    Drag(View(), {At(5, 480), At(5, 540)});
+    auto& start = Find<QLineEdit>(m_Page, "Text_Schedule_Period_Start");
+    auto& stop = Find<QLineEdit>(m_Page, "Text_Schedule_Period_Stop");
+    start.setFocus();
+    start.selectAll();
+    QTest::keyClicks(&start, "18");
+    QTest::keyClick(&start, Qt::Key_Tab);
+    ASSERT_TRUE(stop.hasFocus());
+    EXPECT_EQ(Day(5), "480-540");
+    Type("Text_Schedule_Period_Stop", "20");
+    EXPECT_EQ(Day(5), "1080-1200");
+    EXPECT_EQ(start.text(), "18:00");
+    // Leaving both by the mouse takes over, too.
+    start.setFocus();
+    start.selectAll();
+    QTest::keyClicks(&start, "19");
+    View().setFocus();
+    EXPECT_EQ(Day(5), "1140-1200");
+}
+
+TEST_F(SchedulePage, ATimeThatIsStillBeingTypedIsSavedWithTheRest) {
+    QApplication::setActiveWindow(m_Window.get());
+    Click(0, 600);
+    auto& stop = Find<QLineEdit>(m_Page, "Text_Schedule_Period_Stop");
+    stop.setFocus();
+    stop.selectAll();
+    QTest::keyClicks(&stop, "1730");
+    m_Prompts.m_Texts = {"/app/Office.sch"};
+    Choose(*m_Window, "Menu_Save");
+    EXPECT_EQ(m_Files.ReadFile("/app/Office.sch"), Saved(m_Page.Schedule()));
+    EXPECT_EQ(Day(0), "420-1050");
+    EXPECT_FALSE(m_Page.IsDirty());
+    stop.selectAll();
+    QTest::keyClicks(&stop, "18");
+    Choose(*m_Window, "Menu_Close");
+    EXPECT_TRUE(m_Prompts.m_Asked.endsWith("save Office.sch\n"));
+    EXPECT_EQ(Day(0), "420-1080");
+}
+
 TEST_F(SchedulePage, TheTimeUnderThePointerIsShown) {
     Move(View(), At(3, 765));
     EXPECT_EQ(Find<QLabel>(m_Page, "Text_Schedule_Time").text(), "12:45");
 }
 
+TEST_F(SchedulePage, TheTimesCanBeReadDuringADrag) {
+    auto& start = Find<QLineEdit>(m_Page, "Text_Schedule_Period_Start");
+    EXPECT_FALSE(start.isEnabled());
+    Press(View(), At(5, 600));
+    Move(View(), At(5, 700));
+    EXPECT_TRUE(start.isEnabled());
+    EXPECT_EQ(start.text(), "10:00");
+    Release(View(), At(5, 700));
+    EXPECT_TRUE(start.isEnabled());
+    Click(6, 600);
+    EXPECT_FALSE(start.isEnabled());
+}
+
 // --- keyboard
+
+TEST_F(SchedulePage, ANewPageHasTheKeyboard) {
+    EXPECT_EQ(m_Window->focusWidget(), &View());
+    cCalendarPage& calendar = NewCalendar();
+    EXPECT_EQ(m_Window->focusWidget(), &Find<QWidget>(calendar, "Picture_Calendar"));
+}
 
 TEST_F(SchedulePage, ArrowKeysChooseRowsAndPeriods) {
     Key(Qt::Key_Down);
@@ -262,6 +324,43 @@ TEST_F(SchedulePage, ASpecialDayTypeGetsANameOfTheInstallation) {
     EXPECT_TRUE(m_Prompts.m_Asked.endsWith("Name of the day type: Special day type 1\n"));
     EXPECT_EQ(list.item(7)->text(), "Lucia");
     EXPECT_EQ(m_Files.ReadFile("/app/VigrelDefinitions.INI"), "[DayTypes]\r\n7=Lucia\r\n");
+}
+
+TEST_F(SchedulePage, ASpecialDayTypeGetsOneOfTheDrawings) {
+    cCalendarPage& calendar = NewCalendar();
+    Find<QTabWidget>(*m_Window, "Tabs_Pages").setCurrentWidget(&m_Page);
+    Find<QCheckBox>(m_Page, "Check_TimeSchedule_UseCalendar").click();
+    auto& list = Find<QListWidget>(m_Page, "List_DayTypes");
+    list.item(7)->setCheckState(Qt::Checked);
+    auto& menu = Find<QMenu>(m_Page, "Menu_DayTypeImages");
+    ASSERT_EQ(menu.actions().size(), 23);
+    Click(6, 600);
+    menu.actions()[2]->trigger();
+    EXPECT_TRUE(m_Prompts.m_Asked.startsWith("failure: Choose a special day type"));
+    Drag(View(), {QPoint(150, 7 * 25 + 10)});
+    menu.actions()[2]->trigger();
+    EXPECT_EQ(m_Files.ReadFile("/app/VigrelDefinitions.INI"), "[DayTypeImages]\r\n7=3\r\n");
+    // The fir tree is green where the star was brown, in the row and in both lists.
+    EXPECT_EQ(Pixel(20, 7 * 25 + 12), QColor("#2f8a3c"));
+    const auto middle = [](const QIcon& icon) {
+        return icon.pixmap(16, 16).toImage().scaled(16, 16).pixelColor(8, 8);
+    };
+    const auto& combo = Find<QComboBox>(calendar, "Combo_Calendar_DayType");
+    EXPECT_EQ(middle(list.item(7)->icon()), QColor("#2f8a3c"));
+    EXPECT_EQ(middle(combo.itemIcon(8)), QColor("#2f8a3c"));
+    // The next start knows it; a number that is no drawing counts as no choice.
+    EXPECT_EQ(cDayTypeImages(m_Ini).DrawingOf(1), 3);
+    m_Ini.PutIniString("DayTypeImages", "7", "24", "VigrelDefinitions.INI");
+    EXPECT_EQ(cDayTypeImages(m_Ini).DrawingOf(1), 1);
+}
+
+TEST_F(SchedulePage, AnImageThatCannotBeStoredIsTold) {
+    Find<QCheckBox>(m_Page, "Check_TimeSchedule_UseCalendar").click();
+    Find<QListWidget>(m_Page, "List_DayTypes").item(7)->setCheckState(Qt::Checked);
+    Drag(View(), {QPoint(150, 7 * 25 + 10)});
+    m_Files.m_DiskFull = true;
+    Find<QMenu>(m_Page, "Menu_DayTypeImages").actions()[3]->trigger();
+    EXPECT_EQ(m_Prompts.m_Asked, "failure: The choice could not be stored in /app/VigrelDefinitions.INI.\n");
 }
 
 // --- drawing

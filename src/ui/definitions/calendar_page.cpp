@@ -20,6 +20,8 @@ namespace {
 constexpr std::string_view kIniSection = "Calendar";
 constexpr std::string_view kIniHolidays = "Holidays";
 constexpr std::int16_t kEntries = kDayTypes + 1;
+// A day's number of two digits and a short name of three letters stand side by side in a box of 37 units.
+constexpr int kFontSize = 10;
 
 }  // namespace
 
@@ -29,6 +31,7 @@ cCalendarPage::cCalendarPage(cEditorServices& services, const QString& newName, 
       m_View("Picture_Calendar", this),
       m_ShowTimeAxis(tr("Show the day's &periods")) {
     setObjectName("Page_Calendar");
+    setFocusProxy(&m_View);
     MakeActions();
     MakeLayout();
     FillDayTypes();
@@ -42,6 +45,7 @@ cCalendarPage::cCalendarPage(cEditorServices& services, const QString& newName, 
 }
 
 void cCalendarPage::MakeLayout() {
+    m_View.Surface().SetFontSize(kFontSize);
     auto* drawing = new QVBoxLayout;
     drawing->addLayout(MakeMonthBar());
     drawing->addWidget(&m_View);
@@ -95,6 +99,12 @@ QWidget* cCalendarPage::MakeToolBox() {
     m_DayType.setObjectName("Combo_Calendar_DayType");
     m_DayType.setMaxVisibleItems(kEntries);
     m_DayType.setPlaceholderText(tr("None chosen"));
+    // The colour that dark desktops leave to chance.
+    QPalette colours = m_DayType.palette();
+    QColor hint = colours.color(QPalette::ButtonText);
+    hint.setAlphaF(0.6F);
+    colours.setColor(QPalette::PlaceholderText, hint);
+    m_DayType.setPalette(colours);
     m_Country.setObjectName("Combo_Calendar_Holidays");
     m_Schedule.setObjectName("Combo_Calendar_TimeSchedule");
     m_ShowTimeAxis.setObjectName("Check_Calendar_ShowTimeAxis");
@@ -110,16 +120,15 @@ void cCalendarPage::FillDayTypes() {
     m_DayType.clear();
     for (std::int16_t number = 1; number <= kEntries; ++number) {
         const int image = number - 1 - kWeekDays;
-        const QIcon icon(image >= 1
-                             ? m_Services.m_DayTypeImages.Image(image, kDayTypeImageSize, devicePixelRatioF())
-                             : QPixmap());
-        m_DayType.addItem(icon, ToQString(m_Services.m_DayTypeNames.Entry(number)));
+        m_DayType.addItem(m_Services.m_DayTypeImages.Icon(image, devicePixelRatioF()),
+                          ToQString(m_Services.m_DayTypeNames.Entry(number)));
     }
     m_DayType.setCurrentIndex(current);
 }
 
 void cCalendarPage::RefreshDayTypes() {
     FillDayTypes();
+    m_View.update();
 }
 
 void cCalendarPage::FillCountries() {
@@ -202,6 +211,7 @@ void cCalendarPage::ShowMonth(int year, int month) {
     m_Previous.setEnabled(year > kFirstCalendarYear || month > 1);
     m_Next.setEnabled(year < kLastCalendarYear || month < 12);
     m_Day = std::min(m_Day, m_Calendar.m_DaysInActualMonth - 1);
+    ForgetPointer();
     // The month's name is among what the calendar tells while it paints.
     m_Calendar.Paint(*this, &m_View.Surface());
 }

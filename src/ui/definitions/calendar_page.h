@@ -71,6 +71,8 @@ class cCalendarPage : public cFilePage, private cCalendarContainer {
     bool Key(const QKeyEvent& event);
     void MoveDay(int days);
     void PaintChosenDay();
+    // The pointer counts as over no day until it moves, so that no tip of before stays.
+    void ForgetPointer();
     QPoint CellOf(int day) const;
     std::optional<int> DayAt(QPoint unit) const;
 

@@ -68,6 +68,13 @@ void cCalendarPage::MouseUp(std::int16_t button, std::int16_t shift, QPoint unit
     m_Calendar.MouseUp(*this, &m_View.Surface(), button, shift, static_cast<float>(unit.x()),
                        static_cast<float>(unit.y()));
     EndEdit(tr("painting days"));
+    ForgetPointer();
+}
+
+// The last cell of the grid is blank in every month.
+void cCalendarPage::ForgetPointer() {
+    m_Calendar.MouseMove(*this, &m_View.Surface(), 0, 0, kGridRight - kCellWidth / 2,
+                         kGridBottom - kCellHeight / 2);
 }
 
 bool cCalendarPage::Key(const QKeyEvent& event) {

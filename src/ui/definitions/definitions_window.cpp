@@ -62,14 +62,22 @@ void cDefinitionsWindow::AddPage(cEditorPage* page) {
     page->SetZoom(m_Zoom);
     if (page->UndoStack() != nullptr) m_UndoGroup.addStack(page->UndoStack());
     connect(page, &cEditorPage::StateChanged, this, &cDefinitionsWindow::PageStateChanged);
+    ListenTo(page);
+    // A profile's page holds those of its schedule and calendar.
+    for (cEditorPage* part : page->findChildren<cEditorPage*>()) ListenTo(part);
+    m_Tabs.setCurrentIndex(m_Tabs.addTab(page, QString()));
+    // A page that says where its keys work has the keyboard at once.
+    if (page->focusProxy() != nullptr) page->setFocus();
+    PageStateChanged();
+}
+
+void cDefinitionsWindow::ListenTo(cEditorPage* page) {
     connect(page, &cEditorPage::Message, this,
             [this](const QString& text) { statusBar()->showMessage(text, 10000); });
     connect(page, &cEditorPage::FileUsed, this, [this](const QString& path) { m_Recent.Add(path); });
-    connect(page, &cEditorPage::DayTypesRenamed, this, [this] {
+    connect(page, &cEditorPage::DayTypesChanged, this, [this] {
         for (cEditorPage* each : Pages()) each->RefreshDayTypes();
     });
-    m_Tabs.setCurrentIndex(m_Tabs.addTab(page, QString()));
-    PageStateChanged();
 }
 
 void cDefinitionsWindow::NewSchedule() {
@@ -150,6 +158,7 @@ void cDefinitionsWindow::OpenRecent(const QString& path) {
 }
 
 bool cDefinitionsWindow::MayClose(cEditorPage& page) {
+    page.FinishTyping();
     if (!page.IsDirty()) return true;
     m_Tabs.setCurrentWidget(&page);
     switch (m_Services.m_Prompts.AskToSave(this, page.Title())) {

@@ -55,6 +55,7 @@ class cDefinitionsWindow : public QMainWindow {
     QWidget* MakeStartPage();
     void RestoreWindow();
 
+    void ListenTo(cEditorPage* page);
     template <class Page>
     void ShowPage();
     cFilePage* MakeFilePage(const QString& path);

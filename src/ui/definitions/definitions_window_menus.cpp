@@ -36,9 +36,14 @@ void cDefinitionsWindow::MakeFileMenu() {
     m_RecentMenu->setObjectName("Menu_Recent");
     connect(m_RecentMenu, &QMenu::aboutToShow, this, &cDefinitionsWindow::FillRecentMenu);
     menu.addSeparator();
-    m_Save = AddEntry(menu, "Save", tr("&Save"), QKeySequence::Save, [this] { CurrentPage()->Save(); });
-    m_SaveAs =
-        AddEntry(menu, "SaveAs", tr("Save &as..."), tr("Ctrl+Shift+S"), [this] { CurrentPage()->SaveAs(); });
+    m_Save = AddEntry(menu, "Save", tr("&Save"), QKeySequence::Save, [this] {
+        CurrentPage()->FinishTyping();
+        CurrentPage()->Save();
+    });
+    m_SaveAs = AddEntry(menu, "SaveAs", tr("Save &as..."), tr("Ctrl+Shift+S"), [this] {
+        CurrentPage()->FinishTyping();
+        CurrentPage()->SaveAs();
+    });
     m_Close =
         AddEntry(menu, "Close", tr("&Close"), tr("Ctrl+W"), [this] { ClosePage(m_Tabs.currentIndex()); });
     menu.addSeparator();

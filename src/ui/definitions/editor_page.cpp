@@ -1,6 +1,12 @@
 #include "ui/definitions/editor_page.h"
 
+#include <QLineEdit>
+
 namespace vigrel {
+
+void cEditorPage::FinishTyping() {
+    if (auto* field = qobject_cast<QLineEdit*>(focusWidget())) emit field->editingFinished();
+}
 
 QString cEditorPage::Path() const {
     return {};

@@ -20,6 +20,9 @@ class cEditorPage : public QWidget {
     // none.
     virtual QString Path() const;
     virtual bool IsDirty() const = 0;
+    // Takes over what stands in a field that still has the keyboard: a key of the menu doesn't leave the
+    // field.
+    void FinishTyping();
     // False when nothing was saved; the operator has been told why, or has cancelled.
     virtual bool Save() = 0;
     // Whether the content can be saved under another name, by SaveAs.
@@ -31,7 +34,7 @@ class cEditorPage : public QWidget {
     virtual QList<QAction*> EditActions() const;
     // Sets the drawing's size, 1 is 100 %.
     virtual void SetZoom(double) {}
-    // The names of day types have changed.
+    // Names or images of day types have changed.
     virtual void RefreshDayTypes() {}
 
   signals:
@@ -39,8 +42,8 @@ class cEditorPage : public QWidget {
     void StateChanged();
     // The content has changed.
     void ContentChanged();
-    // The operator has given a day type another name.
-    void DayTypesRenamed();
+    // The operator has given a day type another name or image.
+    void DayTypesChanged();
     // A file was opened or saved.
     void FileUsed(const QString& path);
     void Message(const QString& text);

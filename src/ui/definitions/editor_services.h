@@ -10,9 +10,9 @@
 #include "platform/clock.h"
 #include "platform/files.h"
 #include "platform/locale.h"
+#include "ui/definitions/day_type_images.h"
 #include "ui/definitions/day_type_names.h"
 #include "ui/definitions/prompts.h"
-#include "ui/icon_strip.h"
 
 namespace vigrel {
 
@@ -26,11 +26,8 @@ struct cEditorServices {
     cPrompts& m_Prompts;
     QSettings& m_Settings;  // the user's
     cDayTypeNames m_DayTypeNames;
-    cIconStrip m_DayTypeImages;      // numbered from 1
+    cDayTypeImages m_DayTypeImages;
     cStationDefinitions& m_Station;  // receivers and profiles of the application folder
 };
-
-// Day type images are squares of so many units.
-inline constexpr int kDayTypeImageSize = 16;
 
 }  // namespace vigrel

@@ -11,10 +11,11 @@
 namespace vigrel {
 namespace {
 
-constexpr int kFontSize = 11;  // units
+constexpr int kUsualFontSize = 11;
 
+// Pixels of the font are units of the drawing.
 QFont UnitFont(QFont font) {
-    font.setPixelSize(kFontSize);
+    font.setPixelSize(kUsualFontSize);
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
 }
@@ -25,6 +26,11 @@ cPaintSurface::cPaintSurface(QWidget& widget) : m_Widget(widget), m_Font(UnitFon
 
 void cPaintSurface::SetZoom(double zoom) {
     m_Zoom = zoom;
+    m_Widget.update();
+}
+
+void cPaintSurface::SetFontSize(int units) {
+    m_Font.setPixelSize(units);
     m_Widget.update();
 }
 

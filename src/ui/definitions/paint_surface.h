@@ -24,6 +24,7 @@ class cPaintSurface : public cPaintObject {
 
     double Zoom() const { return m_Zoom; }
     void SetZoom(double zoom);
+    void SetFontSize(int units);
     // The unit that a position of the widget lies in.
     QPoint ToUnit(QPointF position) const;
 

@@ -10,6 +10,11 @@
 #include "schedule/definition_files.h"
 
 namespace vigrel {
+namespace {
+
+constexpr int kTimeLength = 8;  // characters that a time can be typed in
+
+}  // namespace
 
 cSchedulePage::cSchedulePage(cEditorServices& services, const QString& newName, QWidget* parent)
     : cFilePage(services, newName, parent),
@@ -17,10 +22,13 @@ cSchedulePage::cSchedulePage(cEditorServices& services, const QString& newName, 
       m_Frame(this),
       m_ViewDayType(tr("Day &names in the rows")),
       m_UseCalendar(tr("&Special day types")),
-      m_Popup(this) {
+      m_Popup(this),
+      m_Images(tr("I&mage of the day type"), this) {
     setObjectName("Page_Schedule");
+    setFocusProxy(&m_Frame.View());
     m_Schedule.SetDefaultPeriod();
     MakeActions();
+    MakeImageMenu();
     MakeLayout();
     ConnectView();
     SetZoom(1);
@@ -54,9 +62,15 @@ QWidget* cSchedulePage::MakePeriodBox() {
     m_Time.setObjectName("Text_Schedule_Time");
     m_Time.setAccessibleName(tr("Time under the pointer"));
     for (QLineEdit* field : {&m_Start, &m_Stop}) {
-        field->setMaxLength(8);
+        field->setMaxLength(kTimeLength);
+        field->setMaximumWidth(field->fontMetrics().averageCharWidth() * 3 * kTimeLength);
         field->setToolTip(tr("A time of day, such as 8, 0830 or 16:30"));
-        connect(field, &QLineEdit::editingFinished, this, &cSchedulePage::TakeTimes);
+        // On the way from one field to the other half of what is meant stands there, and the schedule would
+        // swap a start that lies behind the old stop.
+        const QLineEdit* other = field == &m_Start ? &m_Stop : &m_Start;
+        connect(field, &QLineEdit::editingFinished, this, [this, other] {
+            if (!other->hasFocus()) TakeTimes();
+        });
     }
     form->addRow(tr("S&tart"), &m_Start);
     form->addRow(tr("Sto&p"), &m_Stop);
@@ -79,7 +93,7 @@ QWidget* cSchedulePage::MakeDayTypeBox() {
     connect(&m_UseCalendar, &QCheckBox::clicked, this, &cSchedulePage::TakeUseCalendar);
     connect(&m_DayTypes, &QListWidget::itemChanged, this,
             [this](const QListWidgetItem* item) { TakeDayType(*item); });
-    m_DayTypes.addAction(m_Rename);
+    m_DayTypes.addActions({m_Rename, m_Images.menuAction()});
     m_DayTypes.setContextMenuPolicy(Qt::ActionsContextMenu);
     return box;
 }
@@ -95,6 +109,7 @@ void cSchedulePage::ConnectView() {
     view.OnMouseMove = [this](std::int16_t button, std::int16_t shift, QPoint unit) {
         m_Schedule.MouseMove(*this, m_SchedulePaintObject, button, shift, static_cast<float>(unit.x()),
                              static_cast<float>(unit.y()));
+        EnableTimes();
     };
     view.OnPopupMenu = [this](QPoint place) { ShowPopupMenu(place); };
     view.OnKey = [this](const QKeyEvent& event) { return Key(event); };
@@ -144,6 +159,7 @@ void cSchedulePage::Recalculate() {
 
 void cSchedulePage::RefreshDayTypes() {
     FillDayTypes();
+    m_Frame.View().update();
 }
 
 void cSchedulePage::FillDayTypes() {
@@ -154,8 +170,7 @@ void cSchedulePage::FillDayTypes() {
         auto* item = new QListWidgetItem(ToQString(m_Services.m_DayTypeNames.Name(dayType)), &m_DayTypes);
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
         if (dayType >= kWeekDays) {
-            item->setIcon(m_Services.m_DayTypeImages.Image(dayType - kWeekDays + 1, kDayTypeImageSize,
-                                                           devicePixelRatioF()));
+            item->setIcon(m_Services.m_DayTypeImages.Icon(dayType - kWeekDays + 1, devicePixelRatioF()));
         }
     }
     m_DayTypes.setCurrentRow(current);
@@ -171,10 +186,15 @@ void cSchedulePage::Refresh() {
         item->setHidden(dayType >= kWeekDays && m_Schedule.m_UseCalendar == False16);
     }
     const bool hasDay = m_Schedule.SelectedDayType() >= 0;
-    const bool hasPeriod = m_Schedule.SelectedPeriod() != nullptr;
     for (QAction* action : {m_Copy, m_WholeDay, m_Invert, m_Grouped}) action->setEnabled(hasDay);
-    for (QLineEdit* field : {&m_Start, &m_Stop}) field->setEnabled(hasPeriod);
+    EnableTimes();
     m_Schedule.PreparePopupMenu(*this);
+}
+
+// What a drag shows is to be read well, though nothing is typed then.
+void cSchedulePage::EnableTimes() {
+    const bool shown = m_Schedule.SelectedPeriod() != nullptr || m_Schedule.IsDragging();
+    for (QLineEdit* field : {&m_Start, &m_Stop}) field->setEnabled(shown);
 }
 
 // --- container

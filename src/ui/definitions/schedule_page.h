@@ -69,6 +69,7 @@ class cSchedulePage : public cFilePage, private cTimeScheduleContainer {
     void MakeActions();
     QAction* MakeAction(const char* name, const QString& text, const QKeySequence& keys,
                         void (cSchedulePage::*chosen)());
+    void MakeImageMenu();
     void MakeLayout();
     QWidget* MakePeriodBox();
     QWidget* MakeDayTypeBox();
@@ -86,6 +87,11 @@ class cSchedulePage : public cFilePage, private cTimeScheduleContainer {
     void Group();
     void GroupMonFri();
     void Rename();
+    void ChooseImage(int drawing);
+    // The day type of the list's current entry, else the selected row's, as the number of a special type.
+    // None for another one; the operator has been told.
+    std::optional<int> ChosenSpecialType();
+    void ShowNotStored();
     void TakeTimes();
     void TakeDayType(const QListWidgetItem& item);
     void TakeUseCalendar(bool use);
@@ -109,6 +115,7 @@ class cSchedulePage : public cFilePage, private cTimeScheduleContainer {
     void PaintFocus(QPainter& painter);
     // After anything that can change what is selected.
     void Refresh();
+    void EnableTimes();
 
     cTimeSchedule m_Schedule;
     cPaintObject* m_SchedulePaintObject = nullptr;
@@ -118,7 +125,7 @@ class cSchedulePage : public cFilePage, private cTimeScheduleContainer {
     QLabel m_Time;
     QCheckBox m_ViewDayType, m_UseCalendar;
     QListWidget m_DayTypes;
-    QMenu m_Popup;
+    QMenu m_Popup, m_Images;
     QAction *m_Delete = nullptr, *m_Copy = nullptr, *m_Paste = nullptr, *m_WholeDay = nullptr,
             *m_Invert = nullptr, *m_Grouped = nullptr, *m_GroupedMonFri = nullptr, *m_Rename = nullptr;
 };

@@ -39,7 +39,7 @@ QAction* cSchedulePage::MakeAction(const char* name, const QString& text, const 
 
 QList<QAction*> cSchedulePage::EditActions() const {
     return {m_Copy,  m_Paste,   m_Delete,        nullptr, m_WholeDay, m_Invert,
-            nullptr, m_Grouped, m_GroupedMonFri, nullptr, m_Rename};
+            nullptr, m_Grouped, m_GroupedMonFri, nullptr, m_Rename,   m_Images.menuAction()};
 }
 
 // An entry can leave no day selected; the fields then have nothing to speak of.
@@ -106,24 +106,47 @@ void cSchedulePage::TakeDayType(const QListWidgetItem& item) {
     });
 }
 
-// The day type of the list's current entry, else the selected row's.
+std::optional<int> cSchedulePage::ChosenSpecialType() {
+    const int dayType = m_DayTypes.hasFocus() ? m_DayTypes.currentRow() : m_Schedule.SelectedDayType();
+    if (dayType >= kWeekDays) return dayType - kWeekDays + 1;
+    m_Services.m_Prompts.ShowFailure(
+        this, tr("Choose a special day type: only those have names and images of your own."));
+    return std::nullopt;
+}
+
 void cSchedulePage::Rename() {
-    const int listed = m_DayTypes.hasFocus() ? m_DayTypes.currentRow() : m_Schedule.SelectedDayType();
-    if (listed < kWeekDays) {
-        m_Services.m_Prompts.ShowFailure(this,
-                                         tr("Choose a special day type: only those have names of your own."));
-        return;
-    }
-    const auto dayType = static_cast<std::int16_t>(listed);
+    const auto number = ChosenSpecialType();
+    if (!number) return;
+    const auto dayType = static_cast<std::int16_t>(*number + kWeekDays - 1);
     const QString name = m_Services.m_Prompts.AskText(this, tr("Name of the day type"),
                                                       ToQString(m_Services.m_DayTypeNames.Name(dayType)));
     if (name.isEmpty()) return;
-    if (!m_Services.m_DayTypeNames.Rename(dayType, FromQString(name))) {
-        m_Services.m_Prompts.ShowFailure(
-            this, tr("The name could not be stored in %1.")
-                      .arg(ToQString(m_Services.m_Ini.FullPath(kDefinitionsIni)).replace('\\', '/')));
+    if (!m_Services.m_DayTypeNames.Rename(dayType, FromQString(name))) ShowNotStored();
+    emit DayTypesChanged();
+}
+
+// One entry for each drawing.
+void cSchedulePage::MakeImageMenu() {
+    m_Images.setObjectName("Menu_DayTypeImages");
+    for (int drawing = 1; drawing <= cDayTypeImages::kDrawings; ++drawing) {
+        const QPixmap image =
+            m_Services.m_DayTypeImages.Drawing(drawing, kDayTypeImageSize, devicePixelRatioF());
+        m_Images.addAction(image, cDayTypeImages::DrawingName(drawing), this,
+                           [this, drawing] { ChooseImage(drawing); });
     }
-    emit DayTypesRenamed();
+}
+
+void cSchedulePage::ChooseImage(int drawing) {
+    const auto number = ChosenSpecialType();
+    if (!number) return;
+    if (!m_Services.m_DayTypeImages.Choose(*number, drawing)) ShowNotStored();
+    emit DayTypesChanged();
+}
+
+void cSchedulePage::ShowNotStored() {
+    m_Services.m_Prompts.ShowFailure(
+        this, tr("The choice could not be stored in %1.")
+                  .arg(ToQString(m_Services.m_Ini.FullPath(kDefinitionsIni)).replace('\\', '/')));
 }
 
 }  // namespace vigrel
