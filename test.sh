@@ -6,17 +6,28 @@ cd "$(dirname "$0")"
 case "${1:-}" in
     --help|-h)
         cat <<'HELP'
-./test.sh [--no-install]
+./test.sh [--lint] [--no-install]
 
 Installs the Debian packages that are missing, then builds and tests:
   the code's format,
   everything with the preset dev, with windows, sound and printing against real counterparts,
   everything but those again with the address and undefined-behaviour sanitizers (preset asan),
   the logic alone, without the toolkit.
+With --lint, clang-tidy reads every source file, which takes five minutes more.
 HELP
         exit 0 ;;
 esac
-[ "${1:-}" = --no-install ] || scripts/install-packages.sh test
+packages=test
+install=yes
+lint=no
+for option in "$@"; do
+    case "$option" in
+        --lint) lint=yes packages=lint ;;
+        --no-install) install=no ;;
+        *) echo "test.sh: unknown option $option; see ./test.sh --help" >&2; exit 2 ;;
+    esac
+done
+[ $install = no ] || scripts/install-packages.sh $packages
 
 echo "== format"
 git ls-files -z '*.h' '*.cpp' | xargs -0 clang-format --dry-run --Werror
@@ -28,6 +39,12 @@ mkdir -p "$CCACHE_DIR"
 echo "== build"
 cmake --preset dev >/dev/null
 cmake --build --preset dev
+
+if [ $lint = yes ]; then
+    echo "== lint"
+    run-clang-tidy -quiet -p build/dev "$PWD/(src|apps|tools)/.*\.cpp\$" >build/lint.log 2>&1 ||
+        { grep -A3 -E 'error:|warning:' build/lint.log; exit 1; }
+fi
 
 echo "== logic without the toolkit"
 cmake --preset dev -B build/logic -DVIGREL_WITH_QT=OFF >/dev/null

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that building needs, when any is missing. With "test" also those for testing, with
-# "package" also those for making and testing the packages of packaging/.
+# "lint" those and the linter, with "package" those for making and testing the packages of packaging/.
 set -euo pipefail
 
 # Building and running a station.
@@ -16,6 +16,8 @@ test_packages=(
     xvfb openbox xdotool x11-utils wmctrl trayer imagemagick
     pulseaudio pulseaudio-utils cups cups-client
 )
+# Looking for mistakes that the compiler does not see.
+lint_packages=(clang-tidy)
 # Making the packages, looking at what they hold, installing them in a bare Debian.
 package_packages=(
     dpkg-dev file binutils
@@ -23,6 +25,7 @@ package_packages=(
 )
 case "${1:-}" in
     test) packages+=("${test_packages[@]}") ;;
+    lint) packages+=("${test_packages[@]}" "${lint_packages[@]}") ;;
     package) packages+=("${package_packages[@]}") ;;
 esac
 

@@ -5,7 +5,7 @@ cd "$(dirname "$0")/.."
 bin=build/release/bin
 folder=$(mktemp -d)
 display=:97
-trap 'kill $(jobs -p) 2>/dev/null; rm -rf "$folder"' EXIT
+trap 'kill $(jobs -p) 2>/dev/null; wait; rm -rf "$folder"' EXIT
 
 Xvfb $display -screen 0 1280x720x24 -nolisten tcp >/dev/null 2>&1 &
 export DISPLAY=$display QT_QPA_PLATFORM=xcb

@@ -15,7 +15,7 @@ constexpr int kKeyF9 = 120;
 }  // namespace
 
 cVigrelReceiverMain::cVigrelReceiverMain(const cReceiverPorts& ports, std::string applicationPath,
-                                         std::string commandLine)
+                                         const std::string& commandLine)
     : m_Ports(ports),
       m_ApplicationPath(std::move(applicationPath)),
       m_CommandLine(ToUpper(commandLine)),

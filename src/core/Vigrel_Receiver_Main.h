@@ -41,7 +41,8 @@ enum class eStartUp {
 class cVigrelReceiverMain {
   public:
     // applicationPath ends in a backslash. commandLine is what stands behind the program's own name.
-    cVigrelReceiverMain(const cReceiverPorts& ports, std::string applicationPath, std::string commandLine);
+    cVigrelReceiverMain(const cReceiverPorts& ports, std::string applicationPath,
+                        const std::string& commandLine);
     cVigrelReceiverMain(const cVigrelReceiverMain&) = delete;
     cVigrelReceiverMain& operator=(const cVigrelReceiverMain&) = delete;
 

@@ -66,7 +66,7 @@ void cCalendar::PaintHeadings(cPaintObject& paintObject) const {
     for (int column = 0; column < kGridColumns; ++column) {
         const std::string heading = Mid(m_Surroundings.GetText(kFirstHeading + column), 1, 3);
         const double x = kGridLeft + column * kCellWidth + (kCellWidth - paintObject.TextWidth(heading)) / 2;
-        paintObject.SetCurrentPosition(x, kGridTop - paintObject.TextHeight("8") - kHeadingRoom / 2);
+        paintObject.SetCurrentPosition(x, kGridTop - paintObject.TextHeight("8") - kHeadingRoom / 2.0);
         paintObject.Print(heading);
     }
 }
@@ -90,8 +90,9 @@ void cCalendar::PaintWeekNumbers(cPaintObject& paintObject) const {
 void cCalendar::PaintDateBox(cCalendarContainer& parent, cPaintObject* paintObject, std::int32_t day) const {
     if (paintObject == nullptr) return;
     const std::int32_t cell = day + m_FirstWeekDayInActualMonth;
-    const double x = cell % 7 * kCellWidth + kGridLeft + kBoxOffset;
-    const double y = cell / 7 * kCellHeight + kGridTop + kBoxOffset;
+    const std::int32_t column = cell % kGridColumns, row = cell / kGridColumns;
+    const double x = column * kCellWidth + kGridLeft + kBoxOffset;
+    const double y = row * kCellHeight + kGridTop + kBoxOffset;
     paintObject->FillBox(x, y, x + kBoxWidth, y + kBoxHeight, paintObject->BackColour());
     PaintBands(*paintObject, day, x, y);
     paintObject->SetCurrentPosition(x, y);

@@ -69,7 +69,7 @@ void cTimeSchedule::RecalculateAndPrepareToPaint(cTimeScheduleContainer& parent,
     m_NumberOfAxisToPaint = m_UseCalendar == False16 ? kWeekDays : active;
     parent.Set_VScroll_Schedule_Max(
         static_cast<std::int16_t>((m_NumberOfAxisToPaint - kVisibleRows) * kScrollStepsPerRow));
-    m_Scale = static_cast<float>(kMinutesOfDay / 24) / 60;
+    m_Scale = static_cast<float>(kMinutesOfDay) / 24 / 60;
     parent.Set_Picture_TimeSchedule_Left(0);
     parent.Set_Picture_TimeSchedule_Top(0);
     parent.Set_Picture_TimeSchedule_Width(parent.Get_VScroll_Schedule_Left());

@@ -88,7 +88,7 @@ DateTime cFieldReader::Date(const std::string& name) {
 
 std::string cFieldReader::String(const std::string& name) {
     const std::size_t from = m_File.Position();
-    const std::string value = m_File.String();
+    std::string value = m_File.String();
     Add(name, from, value);
     return value;
 }

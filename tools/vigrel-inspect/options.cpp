@@ -156,6 +156,7 @@ std::string ToCodePage(const std::string& word) {
 
 cInspectOptions ReadOptions(const std::vector<std::string>& words) {
     std::vector<std::string> converted;
+    converted.reserve(words.size());
     for (const std::string& word : words) converted.push_back(ToCodePage(word));
     return cOptionReader().Read(converted);
 }

@@ -75,7 +75,7 @@ std::string cConnection::ReadReply() {
         if (count <= 0) break;
         m_Received.append(buffer.data(), static_cast<std::size_t>(count));
     }
-    const std::string reply = m_Received.substr(0, kReplySize);
+    std::string reply = m_Received.substr(0, kReplySize);
     m_Received.erase(0, reply.size());
     return reply;
 }

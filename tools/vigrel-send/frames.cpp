@@ -50,6 +50,7 @@ std::vector<std::string> MakeFrames(const cOptions& options, const std::string& 
         seconds.push_back(Payload(options, now));
     }
     std::vector<std::string> frames;
+    frames.reserve(seconds.size());
     for (const std::string& second : seconds)
         frames.push_back(Spoil(MakeFrame(options.sender, second), options.corrupt));
     return frames;

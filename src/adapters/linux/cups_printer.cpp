@@ -32,7 +32,7 @@ class cCupsPrinter : public cPrinter {
         if (job == 0) return Problem();
         LimitWait(*connection, deadline);
         if (SendDocument(*connection, job, bytes)) return {};
-        const PrintProblem problem = Problem();
+        PrintProblem problem = Problem();
         LimitWait(*connection, deadline);
         cupsCancelJob2(connection.get(), m_Queue.c_str(), job, 1);
         return problem;

@@ -60,7 +60,7 @@ class cTcpPrinter : public cPrinter {
     PrintProblem Print(std::string_view bytes, Deadline deadline) override {
         if (!StillConnected()) {
             Close();
-            if (const PrintProblem problem = Connect(deadline); !problem.empty()) return problem;
+            if (PrintProblem problem = Connect(deadline); !problem.empty()) return problem;
         }
         const int error = SendAll(bytes, deadline);
         if (error == 0) return {};

@@ -26,7 +26,7 @@ class cQtDataSocket : public cDataSocket {
     // Most bytes that one turn of the event loop reads, so that timers and windows get their turn in a flood.
     static constexpr qint64 kBytesPerTurn = 4096;
     // A stream without a line end that has grown to more than this is no sender's.
-    static constexpr std::size_t kMaxLine = 1024 * 1024;
+    static constexpr std::size_t kMaxLine = 1'048'576;
 
     // The listener's requests are what Accept takes over; it must outlive this socket.
     explicit cQtDataSocket(cQtListener& listener) : m_Listener(listener) {}

@@ -67,7 +67,7 @@ QLayout* cCalendarPage::MakeMonthBar() {
     large.setPointSizeF(large.pointSizeF() * 1.3);
     large.setBold(true);
     m_Month.setFont(large);
-    const auto make = [this](QToolButton& button, const char* name, const QString& text, const QString& tip) {
+    const auto make = [](QToolButton& button, const char* name, const QString& text, const QString& tip) {
         button.setObjectName(name);
         button.setText(text);
         button.setToolTip(tip);

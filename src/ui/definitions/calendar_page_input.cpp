@@ -182,8 +182,8 @@ void cCalendarPage::PaintFocus(QPainter& painter) {
     const QPoint cell = CellOf(m_Day);
     painter.save();
     painter.setPen(QPen(palette().color(QPalette::Highlight), 1));
-    painter.drawRect(QRectF(cell.x() - kCellWidth / 2 + kBoxOffset - 0.5,
-                            cell.y() - kCellHeight / 2 + kBoxOffset - 0.5, kBoxWidth, kBoxHeight));
+    painter.drawRect(QRectF(cell.x() - kCellWidth / 2.0 + kBoxOffset - 0.5,
+                            cell.y() - kCellHeight / 2.0 + kBoxOffset - 0.5, kBoxWidth, kBoxHeight));
     painter.restore();
 }
 

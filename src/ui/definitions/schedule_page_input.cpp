@@ -153,7 +153,7 @@ void cSchedulePage::NewPeriod() {
 
 int cSchedulePage::RowOf(std::int32_t dayType) const {
     int row = dayType < 0 ? -1 : 0;
-    for (std::int16_t i = 0; i < dayType; ++i) row += m_Schedule.GetActive(i);
+    for (std::int32_t i = 0; i < dayType; ++i) row += m_Schedule.GetActive(static_cast<std::int16_t>(i));
     return row;
 }
 
