@@ -73,8 +73,8 @@ void cCalendarPage::MouseUp(std::int16_t button, std::int16_t shift, QPoint unit
 
 // The last cell of the grid is blank in every month.
 void cCalendarPage::ForgetPointer() {
-    m_Calendar.MouseMove(*this, &m_View.Surface(), 0, 0, kGridRight - kCellWidth / 2,
-                         kGridBottom - kCellHeight / 2);
+    m_Calendar.MouseMove(*this, &m_View.Surface(), 0, 0, kGridRight - kCellWidth / 2.0,
+                         kGridBottom - kCellHeight / 2.0);
 }
 
 bool cCalendarPage::Key(const QKeyEvent& event) {
