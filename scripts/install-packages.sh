@@ -13,7 +13,7 @@ packages=(
 # Checking what lands: formatting, windows under a real window manager, sound, printing.
 test_packages=(
     git ccache clang-format libgtest-dev libbenchmark-dev
-    xvfb openbox xdotool x11-utils wmctrl trayer imagemagick
+    xvfb openbox xdotool x11-utils wmctrl trayer imagemagick dbus-daemon
     pulseaudio pulseaudio-utils cups cups-client
 )
 # Looking for mistakes that the compiler does not see.

@@ -66,6 +66,7 @@ void cVigrelReceiverMain::ConnectEvents() {
     };
     m_Ports.timerKeepAlive.OnTick = [this] { Timer_KeepAlive_Tick(); };
     m_Ports.timerPlay.OnTick = [this] { Timer_Play_Tick(); };
+    m_Ports.trayArea.OnHostGone = [this] { ShowWithoutTray(); };
     cReportList& list = m_Ports.list;
     list.OnRowDoubleClick = [this](RecordId row) { m_Acknowledgement.AckAlarm(row, nullptr); };
     list.OnBeforeDrawRow = [this](RecordId row, cReportList::cFontStyle& style) {
@@ -150,6 +151,15 @@ void cVigrelReceiverMain::HideWhenMinimised() {
     // Hidden where no icon can bring it back, the window would be lost to the operator.
     if (!m_ToldOfMissingTray) m_Log.WriteLog("No notification area: the minimised window is not hidden");
     m_ToldOfMissingTray = true;
+}
+
+// A window that hides is reached by the icon alone.
+void cVigrelReceiverMain::ShowWithoutTray() {
+    cWindow& window = m_Ports.mainWindow;
+    if (window.Visible()) return;
+    m_Log.WriteLog("The notification area is gone: the hidden window is shown");
+    window.SetState(eWindowState::Normal);
+    window.Show();
 }
 
 bool cVigrelReceiverMain::Form_QueryUnload(eCloseReason unloadMode) {

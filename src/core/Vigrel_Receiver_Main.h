@@ -95,6 +95,7 @@ class cVigrelReceiverMain {
     void ListKeyDown(int keyCode, int shift);
     bool PrintEvent(const cVigrelRecieverAlarm& alarm);
     void HideWhenMinimised();
+    void ShowWithoutTray();
 
     cReceiverPorts m_Ports;
     std::string m_ApplicationPath;

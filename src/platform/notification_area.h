@@ -23,6 +23,8 @@ class cNotificationArea {
     std::function<void()> OnFirstClick;
     std::function<void()> OnSecondClick;
     std::function<void()> OnOpen;
+    // The place where the icon shows has gone, and has not come back within some seconds.
+    std::function<void()> OnHostGone;
 };
 
 }  // namespace vigrel

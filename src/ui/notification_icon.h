@@ -7,6 +7,7 @@
 #include <string>
 
 #include "platform/notification_area.h"
+#include "ui/tray_host_watch.h"
 
 namespace vigrel {
 
@@ -37,6 +38,7 @@ class cNotificationIcon : public cNotificationArea {
     std::array<QIcon, 3> m_Images;
     QSystemTrayIcon m_Icon;
     std::string m_ToolTip;
+    cTrayHostWatch m_HostWatch{[this] { return HostAvailable(); }};
     QElapsedTimer m_SinceClick;  // not running before the first click, and after an opening
 };
 

@@ -336,6 +336,30 @@ TEST_F(Running, WithoutATrayHostAMinimisedWindowStaysAndTheLogSaysSoOnce) {
     EXPECT_EQ(std::count(lines.begin(), lines.end(), '\n'), 1);
 }
 
+TEST_F(Running, AHiddenWindowShowsWhenTheTrayHostGoes) {
+    Ini("ShowInTaskBar=0\r\n");
+    Start();
+    const std::size_t before = Log().size();
+    mainWindow.SetState(eWindowState::Minimised);
+    ASSERT_FALSE(mainWindow.m_Visible);
+    trayArea.m_HostAvailable = false;
+    trayArea.OnHostGone();
+    EXPECT_TRUE(mainWindow.m_Visible);
+    EXPECT_EQ(mainWindow.m_State, eWindowState::Normal);
+    EXPECT_NE(Log().find("The notification area is gone: the hidden window is shown\n", before),
+              std::string::npos);
+}
+
+TEST_F(Running, AWindowThatShowsIsLeftAloneWhenTheTrayHostGoes) {
+    Ini("ShowInTaskBar=0\r\n");
+    Start();
+    const std::size_t before = Log().size();
+    mainWindow.SetState(eWindowState::Maximised);
+    trayArea.OnHostGone();
+    EXPECT_EQ(mainWindow.m_State, eWindowState::Maximised);
+    EXPECT_EQ(Log().size(), before);
+}
+
 TEST_F(Running, InTheTaskBarAMinimisedWindowStaysThere) {
     Start();
     mainWindow.SetState(eWindowState::Minimised);

@@ -44,6 +44,7 @@ class NotificationIcon : public ::testing::Test {
         m_Icon.OnFirstClick = [this] { m_Notices += "first "; };
         m_Icon.OnSecondClick = [this] { m_Notices += "second "; };
         m_Icon.OnOpen = [this] { m_Notices += "open "; };
+        m_Icon.OnHostGone = [this] { ++m_Gone; };
     }
     // Whether it shows and has found its place.
     bool Shows() {
@@ -87,7 +88,12 @@ class NotificationIcon : public ::testing::Test {
     cNotificationIcon m_Icon;
     cTrayHost m_Host;
     std::string m_Notices;
+    int m_Gone = 0;  // how often the host was told to be gone
 };
+
+// Milliseconds after which a host that has come or gone is noticed, and after which one that is gone is told
+// of.
+constexpr int kNoticed = 1500, kSettled = kNoticed + cTrayHostWatch::kSettleMilliseconds;
 
 // Colours of the two images.
 constexpr QRgb kFlashRed = 0xD8301F, kRestingBlue = 0x2578C8;
@@ -127,6 +133,31 @@ TEST_F(NotificationIcon, TheIconComesBackWithItsHost) {
     ASSERT_TRUE(next.Start());
     EXPECT_TRUE(WaitUntil([this] { return Shows() && HasColour(kFlashRed); }));
     EXPECT_EQ(Gesture({"click", "1"}), "first ");
+}
+
+TEST_F(NotificationIcon, AHostThatGoesIsToldOfOnceAndSoIsTheNext) {
+    ASSERT_TRUE(m_Host.Start());
+    RunEvents(kNoticed);
+    m_Host.Stop();
+    EXPECT_TRUE(WaitUntil([this] { return m_Gone > 0; }, kSettled));
+    RunEvents(kSettled);
+    EXPECT_EQ(m_Gone, 1);
+    cTrayHost next;
+    ASSERT_TRUE(next.Start());
+    RunEvents(kNoticed);
+    next.Stop();
+    EXPECT_TRUE(WaitUntil([this] { return m_Gone > 1; }, kSettled));
+}
+
+TEST_F(NotificationIcon, AHostThatStartsAnewWasNeverGone) {
+    ASSERT_TRUE(m_Host.Start());
+    RunEvents(kNoticed);
+    m_Host.Stop();
+    RunEvents(kNoticed);
+    cTrayHost next;
+    ASSERT_TRUE(next.Start());
+    RunEvents(kSettled);
+    EXPECT_EQ(m_Gone, 0);
 }
 
 TEST_F(NotificationIcon, AnInvisibleIconDoesNotShow) {
