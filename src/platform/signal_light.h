@@ -7,8 +7,9 @@
 namespace vigrel {
 
 // The operations of the signal light's library. A device is known by the name that the library hands out. A
-// handle is above 0; it belongs to the caller until it is closed. Results that are not stated carry no
-// meaning.
+// handle is above 0; it belongs to the caller until it is closed, and none comes twice. A call with a handle
+// that isn't open throws cFailure; so may every call with an open one, when the light fails. Results that are
+// not stated carry no meaning.
 class cSignalLight {
   public:
     virtual ~cSignalLight() = default;
@@ -18,6 +19,7 @@ class cSignalLight {
     // Fills the buffer with the name, ended by a character of code 0; an empty name beyond the last device.
     virtual void DelcomGetNthDevice(std::int32_t type, std::int32_t index, std::string& buffer) = 0;
     virtual std::int32_t DelcomOpenDevice(std::string_view name, std::int32_t mode) = 0;
+    // Does nothing for a handle that isn't open.
     virtual void DelcomCloseDevice(std::int32_t handle) = 0;
     virtual void DelcomLoadPreScalar(std::int32_t handle, std::uint8_t value) = 0;
     virtual void DelcomLoadLedFreqDuty(std::int32_t handle, std::uint8_t led, std::uint8_t on,

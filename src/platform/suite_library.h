@@ -18,8 +18,9 @@ class cRunningApps {
 class cPrinterPorts {
   public:
     virtual ~cPrinterPorts() = default;
-    // Prints the line as it stands, line end included, on a port counted from 0. Not 0 on success. Every wait
-    // is bounded.
+    // Prints the line as it stands, line end included, on a port counted from 0. Not 0 on success; a port
+    // below 0 fails. Every wait is bounded. Each line stands alone: one that failed is lost, the next is
+    // tried.
     virtual std::int16_t SendPRN(std::string_view line, std::int16_t port) = 0;
 };
 

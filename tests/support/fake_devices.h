@@ -5,6 +5,7 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "common/failure.h"
@@ -31,17 +32,33 @@ class cFakeWaveDevice : public cWaveDevice {
         Note(std::string(command));
         if (m_FailCommands.contains(std::string(command)))
             throw cFailure(eFailure::Device, "the device fails");
-        m_Playing = command == "Play";
+        if (command == "Play") {
+            m_Playing = true;
+            m_EndWaits = false;
+        } else if (command == "Stop" || command == "Prev" || command == "Close") {
+            m_EndWaits = m_EndWaits || m_Playing;
+            m_Playing = false;
+        } else if (command != "Open") {
+            throw cFailure(eFailure::InvalidCall, "no such command");
+        }
     }
-    void SetNotify(bool on) override { Note(on ? "notify on" : "notify off"); }
+    void SetNotify(bool on) override {
+        m_Notify = on;
+        Note(on ? "notify on" : "notify off");
+    }
     void SetWait(bool on) override { Note(on ? "wait on" : "wait off"); }
     void SetShareable(bool on) override { Note(on ? "share on" : "share off"); }
     int Mode() const override { return m_Playing ? Playing : 525; }
 
     // The file has been played to its end.
     void EndPlay() {
+        m_EndWaits = m_EndWaits || m_Playing;
         m_Playing = false;
-        if (OnDone) OnDone();
+        RunEvents();
+    }
+    // The event loop delivers the end of a play that a command has cut.
+    void RunEvents() {
+        if (std::exchange(m_EndWaits, false) && m_Notify && OnDone) OnDone();
     }
     // It has, but nobody is told.
     void EndPlaySilently() { m_Playing = false; }
@@ -55,6 +72,8 @@ class cFakeWaveDevice : public cWaveDevice {
     }
     cTranscript* m_Transcript;
     std::string m_FileName;
+    bool m_Notify = false;
+    bool m_EndWaits = false;  // a play has ended, and nobody was told yet
 };
 
 class cFakeNotificationArea : public cNotificationArea {
@@ -109,12 +128,17 @@ class cFakeSignalLight : public cSignalLight {
         if (m_FailCalls.contains("open")) throw cFailure(eFailure::Device, "the light fails");
         for (const auto& [type, names] : m_Devices) {
             for (const std::string& known : names) {
-                if (known == name) return ++m_LastHandle;
+                if (known != name) continue;
+                m_Open.insert(++m_LastHandle);
+                return m_LastHandle;
             }
         }
         return 0;
     }
-    void DelcomCloseDevice(std::int32_t handle) override { Step("close", handle, ""); }
+    void DelcomCloseDevice(std::int32_t handle) override {
+        if (m_Open.contains(handle)) Step("close", handle, "");
+        m_Open.erase(handle);
+    }
     void DelcomLoadPreScalar(std::int32_t handle, std::uint8_t value) override {
         Step("prescalar", handle, std::to_string(value));
     }
@@ -141,6 +165,7 @@ class cFakeSignalLight : public cSignalLight {
   private:
     void Step(const std::string& call, std::int32_t handle, const std::string& rest) {
         Note(call + " #" + std::to_string(handle) + (rest.empty() ? "" : " " + rest));
+        if (!m_Open.contains(handle)) throw cFailure(eFailure::InvalidCall, "no such handle");
         if (m_FailCalls.contains(call)) throw cFailure(eFailure::Device, "the light fails");
     }
     void Note(const std::string& step) {
@@ -148,6 +173,7 @@ class cFakeSignalLight : public cSignalLight {
     }
     cTranscript* m_Transcript;
     std::int32_t m_LastHandle = 0;
+    std::set<std::int32_t> m_Open;  // handles
 };
 
 class cFakeRunningApps : public cRunningApps {
@@ -173,6 +199,7 @@ class cFakeRunningApps : public cRunningApps {
 class cFakePrinterPorts : public cPrinterPorts {
   public:
     std::int16_t SendPRN(std::string_view line, std::int16_t port) override {
+        if (port < 0) return 0;
         m_Lines.push_back(std::to_string(port) + ":" + std::string(line));
         return m_FailLines.contains(m_Lines.size()) ? std::int16_t{0} : m_Success;
     }

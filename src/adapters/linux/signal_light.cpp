@@ -135,6 +135,8 @@ hid_device* cHidSignalLight::Open(const cLightPlace& light) {
 }
 
 hid_device* cHidSignalLight::OpenNamed(const cLightPlace& light, std::string_view name) {
+    // A light that tells no number has an empty one.
+    if (name.empty()) return nullptr;
     return light.port == name || SerialName(light) == name ? Open(light) : nullptr;
 }
 
