@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <ctime>
+
 #include "e2e/definitions/editor_program.h"
 #include "schedule/schedule_builder.h"
 #include "support/samples.h"
@@ -47,6 +50,47 @@ TEST_P(DefinitionsEditor, AScheduleMadeByMouseIsSavedAndReadAgain) {
     ASSERT_TRUE(ChooseFile("Save as", Path("again.sch")));
     ASSERT_TRUE(HasTitle("again.sch - Vigrel Definitions"));
     EXPECT_EQ(File("again.sch", ExpectedSchedule().size()), ExpectedSchedule());
+    Keys({"ctrl+q"});
+    EXPECT_EQ(WaitForEnd(), 0);
+}
+
+// Tuesday to Thursday of the second week of the month after today's are special type 16.
+std::string ExpectedCalendar() {
+    using namespace std::chrono;
+    const std::time_t now = system_clock::to_time_t(system_clock::now());
+    const std::tm today = *std::localtime(&now);
+    const year_month next = year{today.tm_year + 1900} / (today.tm_mon + 1) + months{1};
+    const sys_days first = next / 1;
+    const int monday = 7 - static_cast<int>(weekday(first).iso_encoding() - 1);
+    const int index = static_cast<int>((first - sys_days(2000y / 1 / 1)).count()) + monday + 1;
+    std::string bytes(29220, '\0');
+    for (int day = index; day < index + 3; ++day) bytes[static_cast<std::size_t>(day) * 2] = 23;
+    return bytes;
+}
+
+TEST_P(DefinitionsEditor, ACalendarPaintedByMouseIsSavedAndReadAgain) {
+    Start(GetParam());
+    Keys({"ctrl+shift+n"});
+    ASSERT_TRUE(HasTitle("Calendar 1 - Vigrel Definitions"));
+    Keys({"Next", "alt+t", "End"});
+    ASSERT_TRUE(FindGrid());
+    Drag({Cell(1, 1), Cell(2, 1), Cell(3, 1)});
+    ASSERT_TRUE(HasTitle("Calendar 1* - Vigrel Definitions"));
+
+    Keys({"ctrl+s"});
+    ASSERT_TRUE(ChooseFile("Save as", Path("made")));
+    ASSERT_TRUE(HasTitle("made.cal - Vigrel Definitions"));
+    EXPECT_TRUE(File("made.cal", 29220) == ExpectedCalendar());
+
+    Keys({"ctrl+w"});
+    ASSERT_TRUE(HasTitle("Vigrel Definitions"));
+    Keys({"ctrl+o"});
+    ASSERT_TRUE(ChooseFile("Open", Path("made.cal")));
+    ASSERT_TRUE(HasTitle("made.cal - Vigrel Definitions"));
+    Keys({"ctrl+shift+s"});
+    ASSERT_TRUE(ChooseFile("Save as", Path("again.cal")));
+    ASSERT_TRUE(HasTitle("again.cal - Vigrel Definitions"));
+    EXPECT_TRUE(File("again.cal", 29220) == ExpectedCalendar());
     Keys({"ctrl+q"});
     EXPECT_EQ(WaitForEnd(), 0);
 }

@@ -12,6 +12,7 @@
 #include <thread>
 
 #include "e2e/windows/operator.h"
+#include "schedule/calendar_geometry.h"
 #include "schedule/schedule_geometry.h"
 
 namespace vigrel::testing {
@@ -127,6 +128,20 @@ bool cEditorProgram::FindAxis() {
 cPixelPlace cEditorProgram::At(int row, int minute) const {
     return {m_Axis.x + minute / kMinutesPerUnit * m_Zoom + m_Zoom / 2,
             m_Axis.y + row * kRowHeight * m_Zoom + m_Zoom * 6};
+}
+
+// The uppermost line of a red band is the only one of its colour; the first row has a Sunday in every month.
+bool cEditorProgram::FindGrid() {
+    return Eventually([&] {
+        const auto found = cScreenPicture().FindRun(0xFFC0C0, 14 * m_Zoom);
+        if (found) m_FirstSunday = *found;
+        return found.has_value();
+    });
+}
+
+cPixelPlace cEditorProgram::Cell(int column, int row) const {
+    return {m_FirstSunday.x + ((column - 6) * kCellWidth + kBoxWidth / 2) * m_Zoom,
+            m_FirstSunday.y + (row * kCellHeight + kBoxHeight / 2) * m_Zoom};
 }
 
 void cEditorProgram::Drag(const std::vector<cPixelPlace>& places) const {

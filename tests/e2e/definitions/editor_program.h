@@ -34,6 +34,10 @@ class cEditorProgram {
     bool FindAxis();
     // The place of a minute in a row of the schedule.
     cPixelPlace At(int row, int minute) const;
+    // Finds the grid of a calendar's month that isn't today's.
+    bool FindGrid();
+    // The place of a cell in that grid.
+    cPixelPlace Cell(int column, int row) const;
     // Presses the left button at the first place and lets it go at the last.
     void Drag(const std::vector<cPixelPlace>& places) const;
     void RightClick(cPixelPlace place) const;
@@ -43,7 +47,7 @@ class cEditorProgram {
     pid_t m_Process = -1;
     int m_Zoom = 1;
     std::string m_Window;  // that has the keyboard
-    cPixelPlace m_Axis;
+    cPixelPlace m_Axis, m_FirstSunday;
 };
 
 }  // namespace vigrel::testing
