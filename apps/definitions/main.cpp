@@ -2,6 +2,7 @@
 
 #include <QCommandLineParser>
 #include <QSettings>
+#include <QTimer>
 
 #include "adapters/linux/application_folder.h"
 #include "adapters/linux/clock.h"
@@ -17,6 +18,7 @@
 namespace vigrel {
 namespace {
 
+constexpr int kPlacingTime = 100;  // milliseconds
 constexpr std::int32_t kFirstHeading = 611, kLastHeading = 617;
 
 QStringList ReadCommandLine(const QCoreApplication& application) {
@@ -79,7 +81,10 @@ int Run(int argc, char** argv) {
         QObject::connect(&window, &cDefinitionsWindow::Closed, &application, &QCoreApplication::quit,
                          Qt::QueuedConnection);
         window.show();
-        for (const QString& path : paths) window.OpenFile(path);
+        // Once the window manager has placed the window, so that a message about a file lies over it.
+        QTimer::singleShot(kPlacingTime, &window, [&] {
+            for (const QString& path : paths) window.OpenFile(path);
+        });
         result = cApplication::exec();
     });
     return result;

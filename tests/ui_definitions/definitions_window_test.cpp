@@ -84,6 +84,7 @@ TEST_F(DefinitionsWindow, AFileThatIsNoneOfThemIsRefusedWithAReason) {
         "failure: /app/missing.sch: the file does not exist\n");
     EXPECT_TRUE(m_Window->Pages().isEmpty());
     EXPECT_TRUE(Recent().isEmpty());
+    EXPECT_EQ(m_Prompts.m_Window, m_Window.get());
 }
 
 TEST_F(DefinitionsWindow, AFileThatIsOpenComesToTheFront) {
@@ -220,6 +221,24 @@ TEST_F(DefinitionsWindow, UndoIsThatOfThePageInFront) {
     Choose(*m_Window, "Menu_Undo");
     EXPECT_TRUE(first.IsDirty());
     EXPECT_FALSE(second.IsDirty());
+}
+
+TEST_F(DefinitionsWindow, KeysTurnThePagesFromEveryField) {
+    Choose(*m_Window, "Menu_NextPage");
+    NewSchedule();
+    cCalendarPage& calendar = NewCalendar();
+    NewSchedule();
+    QApplication::setActiveWindow(m_Window.get());
+    const auto press = [this](Qt::KeyboardModifiers modifiers) {
+        QTest::keyClick(m_Window->focusWidget(),
+                        modifiers & Qt::ShiftModifier ? Qt::Key_Backtab : Qt::Key_Tab, modifiers);
+        return m_Window->CurrentPage()->Title();
+    };
+    EXPECT_EQ(press(Qt::ControlModifier), "Schedule 1");
+    EXPECT_EQ(press(Qt::ControlModifier | Qt::ShiftModifier), "Schedule 2");
+    EXPECT_EQ(press(Qt::ControlModifier | Qt::ShiftModifier), "Calendar 1");
+    Find<QComboBox>(calendar, "Combo_Calendar_Month").setFocus();
+    EXPECT_EQ(press(Qt::ControlModifier), "Schedule 2");
 }
 
 TEST_F(DefinitionsWindow, TheTitleNamesPageAndChange) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QWidget>
 #include <deque>
 
 #include "ui/definitions/prompts.h"
@@ -18,7 +19,10 @@ class cFakePrompts : public cPrompts {
         m_Asked += "yes or no: " + question + "\n";
         return Take(m_YesNoAnswers, false);
     }
-    void ShowFailure(QWidget*, const QString& text) override { m_Asked += "failure: " + text + "\n"; }
+    void ShowFailure(QWidget* owner, const QString& text) override {
+        m_Asked += "failure: " + text + "\n";
+        m_Window = owner->window();
+    }
     QString AskOpenPath(QWidget*, const QString& folder, const QString&) override {
         m_Asked += "open in " + folder + "\n";
         return Take(m_Texts, QString());
@@ -33,6 +37,7 @@ class cFakePrompts : public cPrompts {
     }
 
     QString m_Asked;
+    QWidget* m_Window = nullptr;  // over which the last failure was shown
     std::deque<eSave> m_SaveAnswers;
     std::deque<bool> m_YesNoAnswers;
     std::deque<QString> m_Texts;

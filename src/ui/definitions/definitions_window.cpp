@@ -144,6 +144,8 @@ bool cDefinitionsWindow::OpenFile(const QString& path) {
     }
     const std::string name = FromQString(absolute);
     cFilePage* page = MakeFilePage(absolute);
+    // What it has to tell while it opens is told over this window.
+    page->setParent(this);
     if (!page->Open(name)) {
         delete page;
         return false;
@@ -224,6 +226,11 @@ void cDefinitionsWindow::SchedulesChanged() {
     for (cEditorPage* page : Pages()) {
         if (auto* calendar = qobject_cast<cCalendarPage*>(page)) calendar->SetSchedules(schedules);
     }
+}
+
+void cDefinitionsWindow::TurnPage(int step) {
+    const int pages = m_Tabs.count();
+    if (pages > 0) m_Tabs.setCurrentIndex((m_Tabs.currentIndex() + step + pages) % pages);
 }
 
 void cDefinitionsWindow::SetZoom(double zoom) {

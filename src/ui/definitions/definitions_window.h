@@ -68,6 +68,8 @@ class cDefinitionsWindow : public QMainWindow {
     void CurrentPageChanged();
     void PageStateChanged();
     void SchedulesChanged();
+    // To the next page or the one before, over the ends.
+    void TurnPage(int step);
     void SetZoom(double zoom);
     void ShowAbout();
 

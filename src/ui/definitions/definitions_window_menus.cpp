@@ -104,6 +104,10 @@ void cDefinitionsWindow::MakeViewMenu() {
         m_Zoom = 2;
         group->actions().at(2)->setChecked(true);
     }
+    menu.addSeparator();
+    AddEntry(menu, "NextPage", tr("&Next page"), QKeySequence::NextChild, [this] { TurnPage(1); });
+    AddEntry(menu, "PreviousPage", tr("&Previous page"), QKeySequence::PreviousChild,
+             [this] { TurnPage(-1); });
 }
 
 void cDefinitionsWindow::MakeStationMenu() {
