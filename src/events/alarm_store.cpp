@@ -172,6 +172,11 @@ void cAlarmStore::LoadAlarms(const std::function<void(const AlarmPtr&)>& addAlar
     std::int32_t removed = 0;
     for (const std::string& name : m_Services.files.ListFiles(m_Folder, kMask)) {
         if (!IsNumeric(name.substr(1, 7))) continue;
+        // 9e00009 is numeric too; a file that nobody can have meant as an alarm must not keep the rest away.
+        if (!SkipFailure([&] { ToInt32(Val(name.substr(1, 7))); })) {
+            m_Services.log.WriteLog("Alarms\\" + name + " is no alarm file: its number is out of range");
+            continue;
+        }
         if (!InsertAlarm(ReadAlarm(name), m_Services.settings.m_MaxEvents)) ++removed;
     }
     for (const AlarmPtr& alarm : m_Alarms) addAlarmRow(alarm);

@@ -364,6 +364,15 @@ TEST_F(AlarmStore, ANameWithoutANumberIsLeftAloneForGood) {
     EXPECT_TRUE(files.FileExists(std::string(kApp) + "Alarms\\ABCDEFGH.alm"));
 }
 
+TEST_F(AlarmStore, ANumberOutOfRangeIsLoggedLeftAloneAndKeepsNoOtherAlarmAway) {
+    files.Put(std::string(kApp) + "Alarms\\A9e00009.alm", "not an alarm");
+    PutFile(1, 1);
+    Load();
+    EXPECT_EQ(store.m_Alarms.size(), 1u);
+    EXPECT_EQ(Log(), "Alarms\\A9e00009.alm is no alarm file: its number is out of range\n1 T10041\n");
+    EXPECT_TRUE(files.FileExists(std::string(kApp) + "Alarms\\A9e00009.alm"));
+}
+
 TEST_F(AlarmStore, AForeignNameCaseIsReadAndReplacedUnderItsOwnNumber) {
     const std::string bytes = files.ReadFile(PutFile(77, 1));
     files.RemoveFile(store.FileName(77));
