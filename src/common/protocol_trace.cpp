@@ -73,7 +73,7 @@ void cProtocolTrace::Menu_Save() const {
     const auto line = [&](const std::string& text) { (block += text) += kLineEnd; };
     line(std::string(120, '-'));
     line("DEBUG INFO");
-    line("Saved from Vigrel Alarm Receiver version " + std::string(kVersion) + std::string(6, ' ') +
+    line("Saved from " + std::string(kProductName) + " version " + kVersion + std::string(6, ' ') +
          Time(m_Clock.Now(), "yy-mm-dd hh:nn:ss"));
     line(std::string(80, '-'));
     std::int64_t number = 0;

@@ -45,6 +45,7 @@ struct cSettings {
 };
 
 // The version of the program, as it shows and logs it.
+inline constexpr const char* kProductName = "Vigrel Alarm Receiver";
 inline constexpr const char* kVersion = "3.00.04";
 
 }  // namespace vigrel

@@ -4,11 +4,11 @@
 #include <string_view>
 
 #include "common/failure.h"
+#include "common/settings.h"
 
 namespace vigrel {
 namespace {
 
-constexpr std::string_view kProduct = "Vigrel Alarm Receiver";
 // The notice of the product, under its name.
 constexpr std::string_view kNotice = "Alarm receiver of the Vigrel suite";
 // Kept in every language, so that operators find it wherever they work.
@@ -17,7 +17,7 @@ constexpr std::string_view kNewAlarms = "Nya larm: ";
 constexpr std::int32_t kTipDelay = 1000;
 
 std::string ToolTipText(std::int16_t notObserved) {
-    std::string text(kProduct);
+    std::string text(kProductName);
     text.append("\r\n").append(kNotice).append("\r\n").append(kNewAlarms);
     return text + std::to_string(notObserved);
 }
@@ -33,7 +33,7 @@ cTray::cTray(const cServices& services) : m_Services(services) {
 void cTray::SetUp() {
     if (m_Services.settings.m_ShowInTaskBar) return;
     m_Services.trayArea.SetIcon(cNotificationArea::WindowIcon);
-    m_Services.trayArea.SetToolTip(kProduct);
+    m_Services.trayArea.SetToolTip(kProductName);
     m_Services.trayArea.SetVisible(true);
 }
 

@@ -80,7 +80,8 @@ void cApplication::End(const std::string& failure) {
 
 void cApplication::ShowFailure(const std::string& failure) {
     if (platformName() == "offscreen") return;
-    QMessageBox box(QMessageBox::Critical, applicationDisplayName(), ToQString(failure), QMessageBox::Ok);
+    const QString title = m_MessageTitle.empty() ? applicationDisplayName() : ToQString(m_MessageTitle);
+    QMessageBox box(QMessageBox::Critical, title, ToQString(failure), QMessageBox::Ok);
     box.setObjectName("Vigrel_FailureBox");
     box.setTextFormat(Qt::PlainText);
     box.setInformativeText("The program ends.");

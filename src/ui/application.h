@@ -29,6 +29,9 @@ class cApplication : public QApplication {
     void Guard(const std::function<void()>& step);
     bool notify(QObject* receiver, QEvent* event) override;
 
+    // The title of the message box of a failure; without one it is the program's display name, which would
+    // stand in the titles of all windows too.
+    void SetMessageTitle(const std::string& title) { m_MessageTitle = title; }
     // How long the message box of a failure stands.
     void SetFailureBoxTime(int milliseconds) { m_FailureBoxMilliseconds = milliseconds; }
 
@@ -42,6 +45,7 @@ class cApplication : public QApplication {
     bool ServesFailureBox(QObject* receiver, const QEvent& event) const;
 
     QTranslator m_Translator;
+    std::string m_MessageTitle;
     int m_FailureBoxMilliseconds = kFailureBoxMilliseconds;
     bool m_Failed = false;
     QMessageBox* m_FailureBox = nullptr;

@@ -31,7 +31,7 @@ QWidget* Owner() {
 eMessageAnswer cQtMessageBox::Show(std::string_view text, eMessageIcon icon, eMessageButtons buttons) {
     QMessageBox box(Owner());
     box.setObjectName("Vigrel_MessageBox");
-    box.setWindowTitle(QGuiApplication::applicationDisplayName());
+    box.setWindowTitle(ToQString(m_Title));
     box.setTextFormat(Qt::PlainText);
     box.setText(ToQString(text));
     box.setIcon(IconOf(icon));

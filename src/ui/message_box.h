@@ -1,14 +1,21 @@
 #pragma once
 
+#include <string>
+#include <utility>
+
 #include "platform/windows.h"
 
 namespace vigrel {
 
-// Message boxes of the program, titled with its display name. While one stands, the program's other windows
+// Message boxes of the program, with one title for all. While one stands, the program's other windows
 // don't take input, and sockets and timers go on.
 class cQtMessageBox : public cMessageBox {
   public:
+    explicit cQtMessageBox(std::string title) : m_Title(std::move(title)) {}
     eMessageAnswer Show(std::string_view text, eMessageIcon icon, eMessageButtons buttons) override;
+
+  private:
+    std::string m_Title;
 };
 
 }  // namespace vigrel

@@ -25,7 +25,7 @@ class MessageBox : public ::testing::Test {
         });
         return m_Box.Show("\xC4r det s\xE4kert? <b>1 & 2</b>", icon, buttons);
     }
-    cQtMessageBox m_Box;
+    cQtMessageBox m_Box{"Vigrel Alarm Receiver"};
 };
 
 TEST_F(MessageBox, ShowsItsTextAsItStandsWithItsIcon) {
@@ -34,6 +34,7 @@ TEST_F(MessageBox, ShowsItsTextAsItStandsWithItsIcon) {
         EXPECT_EQ(box.textFormat(), Qt::PlainText);
         EXPECT_EQ(box.icon(), QMessageBox::Critical);
         EXPECT_EQ(box.objectName(), "Vigrel_MessageBox");
+        EXPECT_EQ(box.windowTitle(), "Vigrel Alarm Receiver");
         box.close();
     });
 }
