@@ -54,7 +54,8 @@ int Run(int argc, char** argv) {
     const cFolderHints hints = ReadFolderHints();
     const std::string applicationPath = FindApplicationFolder(hints);
     cLinuxFiles files;
-    FillApplicationFolder(files, applicationPath, FindInstalledFolder(hints.programFolder));
+    application.Guard(
+        [&] { FillApplicationFolder(files, applicationPath, FindInstalledFolder(hints.programFolder)); });
 
     const cSystemClock clock;
     const cLocaleForms forms = cQtLocale().Forms();

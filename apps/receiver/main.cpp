@@ -21,6 +21,7 @@
 #include "adapters/qt/stop_signals.h"
 #include "common/code_page.h"
 #include "common/failure.h"
+#include "common/settings.h"
 #include "core/Vigrel_Receiver_Main.h"
 #include "ui/application.h"
 #include "ui/desktop.h"
@@ -60,11 +61,13 @@ int Run(int argc, char** argv) {
     const std::string commandLine = CommandLine(argc, argv);
     cApplication::ChoosePlatform();
     cApplication application(argc, argv);
+    application.SetMessageTitle(kProductName);
 
     const cFolderHints hints = ReadFolderHints();
     const std::string applicationPath = FindApplicationFolder(hints);
     cLinuxFiles files;
-    FillApplicationFolder(files, applicationPath, FindInstalledFolder(hints.programFolder));
+    application.Guard(
+        [&] { FillApplicationFolder(files, applicationPath, FindInstalledFolder(hints.programFolder)); });
 
     const cSystemClock clock;
     cStandardRandom random;
@@ -78,7 +81,7 @@ int Run(int argc, char** argv) {
     cMainWindow mainWindow(windows);
     cPopupWidgetMaker popups(windows);
     cQtScreen screen;
-    cQtMessageBox messageBox;
+    cQtMessageBox messageBox(kProductName);
     cQtClipboard clipboard;
     cQtWaveDevice waveDevice(NativePath);
     cTonePlayer tone;

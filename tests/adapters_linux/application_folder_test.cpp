@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "adapters/linux/files.h"
+#include "common/failure.h"
 #include "support/temporary_folder.h"
 
 namespace vigrel {
@@ -70,6 +71,21 @@ TEST_F(ApplicationFolder, AFolderInUseIsLeftAlone) {
 TEST_F(ApplicationFolder, WithoutAnInstallationTheFolderIsMadeEmpty) {
     FillApplicationFolder(files, other.Path().string() + "/fresh\\", "");
     EXPECT_TRUE(std::filesystem::is_directory(other.Path() / "fresh"));
+}
+
+TEST_F(ApplicationFolder, AFolderThatCannotBeMadeIsAFailureWithTheFolderAndTheReason) {
+    Put(other, "file", "");
+    const std::string folder = (other.Path() / "file" / "station").string();
+    const auto failure = CatchFailure([&] { FillApplicationFolder(files, folder + "\\", ""); });
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->Number(), eFailure::PathAccess);
+    EXPECT_EQ(std::string(failure->what()),
+              "The application folder " + folder + "/ can't be made: Not a directory");
+}
+
+TEST_F(ApplicationFolder, AFileInPlaceOfTheFolderIsAFailure) {
+    Put(other, "file", "");
+    EXPECT_THROW(FillApplicationFolder(files, (other.Path() / "file").string() + "\\", ""), cFailure);
 }
 
 TEST_F(ApplicationFolder, TheInstallationLiesBesideTheProgramOrUnderItsPrefix) {

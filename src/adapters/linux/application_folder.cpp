@@ -3,8 +3,10 @@
 #include <unistd.h>
 
 #include <array>
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
+#include <system_error>
 
 #include "adapters/linux/files.h"
 #include "common/code_page.h"
@@ -30,16 +32,37 @@ std::string WithBackslash(std::string folder) {
     return folder;
 }
 
+bool IsFolder(const std::string& path) {
+    std::error_code error;
+    return fs::is_directory(NativePath(path), error);
+}
+
 bool IsPortable(const std::string& folder) {
-    const bool marked = fs::is_directory(NativePath(folder + "\\Templates")) ||
-                        cLinuxFiles().FileExists(folder + "\\" + std::string(kIniFile));
+    const bool marked =
+        IsFolder(folder + "\\Templates") || cLinuxFiles().FileExists(folder + "\\" + std::string(kIniFile));
     return marked && access(NativePath(folder).c_str(), W_OK) == 0;
 }
 
 bool IsApplicationFolder(const cFiles& files, const std::string& applicationPath) {
     return files.FileExists(applicationPath + std::string(kIniFile)) ||
-           fs::is_directory(NativePath(applicationPath + "Templates")) ||
+           IsFolder(applicationPath + "Templates") ||
            !files.ListFiles(applicationPath, std::string(kTextFile) + "*").empty();
+}
+
+[[noreturn]] void RefuseFolder(const std::string& applicationPath, const char* what,
+                               const std::error_code& reason) {
+    throw cFailure(eFailure::PathAccess,
+                   Utf8ToCodePage("The application folder " + NativePath(applicationPath) + " can't be " +
+                                  what + ": " + reason.message()));
+}
+
+void MakeApplicationFolder(const std::string& applicationPath) {
+    const std::string native = NativePath(applicationPath);
+    std::error_code error;
+    fs::create_directories(native, error);
+    if (error) RefuseFolder(applicationPath, "made", error);
+    if (access(native.c_str(), R_OK | X_OK) == 0) return;
+    RefuseFolder(applicationPath, "read", std::error_code(errno, std::generic_category()));
 }
 
 // The folders of an installation, relative to its root, with what is copied from each.
@@ -78,14 +101,14 @@ std::string FindInstalledFolder(const std::string& programFolder) {
 
 void FillApplicationFolder(cFiles& files, const std::string& applicationPath,
                            const std::string& installedFolder) {
+    MakeApplicationFolder(applicationPath);
     if (IsApplicationFolder(files, applicationPath)) return;
-    std::error_code error;
-    fs::create_directories(NativePath(applicationPath), error);
     if (installedFolder.empty()) return;
     const std::string source = WithBackslash(installedFolder);
     for (const std::string_view folder : kFolders) {
         const std::string from = source + std::string(folder);
         const std::string to = applicationPath + std::string(folder);
+        std::error_code error;
         if (!folder.empty()) fs::create_directories(NativePath(to), error);
         for (const std::string& name : files.ListFiles(from, "*")) {
             if (files.FileExists(to + name)) continue;

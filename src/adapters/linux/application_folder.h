@@ -26,8 +26,9 @@ std::string FindApplicationFolder(const cFolderHints& hints);
 std::string FindInstalledFolder(const std::string& programFolder);
 
 // Makes the folder with all folders above it, and copies to it each installed file (templates, texts, sounds)
-// that it doesn't hold. Nothing is ever overwritten. Failures are skipped: the start-up tells of what is
-// missing.
+// that it doesn't hold. Nothing is ever overwritten. A file that can't be copied is skipped: the start-up
+// tells of what is missing. Throws cFailure, with the folder and the reason, when there is no folder to start
+// in: it can't be made, or not be read.
 void FillApplicationFolder(cFiles& files, const std::string& applicationPath,
                            const std::string& installedFolder);
 

@@ -37,7 +37,7 @@ void OnScreen(cStation& station) {
 
 // Waits for the box, checks that the program waits for its answer, and gives it.
 int AnswerBox(cStation& station) {
-    const std::string box = FindWindow(station.Process(), "vigrel-receiver");
+    const std::string box = FindWindow(station.Process(), "^Vigrel Alarm Receiver$");
     EXPECT_NE(box, "") << station.StandardError();
     EXPECT_EQ(waitpid(station.Process(), nullptr, WNOHANG), 0);
     Press(box, {"Return"});
@@ -82,6 +82,18 @@ TEST(BoxesAtTheStart, AnImpossibleSettingIsNamedWithItsFileAndEndsWithCode70) {
     EXPECT_NE(error.find("VigrelReceiver.INI: key MaxEvents of section General is \"99999999999\""),
               std::string::npos)
         << error;
+}
+
+TEST(BoxesAtTheStart, AnApplicationFolderThatCannotBeMadeIsNamedWithTheReasonAndEndsWithCode70) {
+    cStation station;
+    OnScreen(station);
+    const std::string folder = (station.Folder() / "VigrelReceiver.INI" / "below a file").string();
+    station.m_Environment["VIGREL_APPLICATION_PATH"] = folder;
+    station.Launch();
+    EXPECT_EQ(AnswerBox(station), 70);
+    const std::string line =
+        "Failure: The application folder " + folder + "/ can't be made: Not a directory\n";
+    EXPECT_TRUE(station.StandardError().ends_with(line)) << station.StandardError();
 }
 
 TEST(BoxesWhileRunning, AFailureInAnEventEndsTheProgramWithABoxALineAndCode70) {
