@@ -5,6 +5,8 @@
 #include <cstdlib>
 #include <ctime>
 #include <memory>
+#include <optional>
+#include <string>
 
 #include "adapters/linux/clock.h"
 #include "adapters/linux/random.h"
@@ -27,6 +29,51 @@ TEST(SystemClock, TellsTheLocalTime) {
                               TimeSerial(local.tm_hour, local.tm_min, local.tm_sec);
     EXPECT_NEAR(before, expected, 2.0 / 86400);
     EXPECT_GE(clock.Now(), before);
+}
+
+// A time zone for a while.
+class cTimeZone {
+  public:
+    explicit cTimeZone(const char* zone) {
+        if (const char* former = std::getenv("TZ")) m_Former = former;
+        setenv("TZ", zone, 1);
+    }
+    ~cTimeZone() {
+        m_Former ? setenv("TZ", m_Former->c_str(), 1) : unsetenv("TZ");
+        tzset();
+    }
+    cTimeZone(const cTimeZone&) = delete;
+    cTimeZone& operator=(const cTimeZone&) = delete;
+
+  private:
+    std::optional<std::string> m_Former;
+};
+
+// Central European time by its rule, so that no file of zones is needed.
+constexpr const char* kCentralEurope = "CET-1CEST,M3.5.0,M10.5.0/3";
+constexpr std::time_t kSpring2026 = 1774746000;  // 2026-03-29 01:00 UTC
+constexpr std::time_t kAutumn2026 = 1792890000;  // 2026-10-25 01:00 UTC
+
+TEST(SystemClock, AnHourIsSkippedWhenSummerTimeBegins) {
+    const cTimeZone zone(kCentralEurope);
+    EXPECT_EQ(LocalDateTime({kSpring2026 - 1, 0}), DateSerial(2026, 3, 29) + TimeSerial(1, 59, 59));
+    EXPECT_EQ(LocalDateTime({kSpring2026, 0}), DateSerial(2026, 3, 29) + TimeSerial(3, 0, 0));
+}
+
+TEST(SystemClock, AnHourIsReadTwiceWhenSummerTimeEnds) {
+    const cTimeZone zone(kCentralEurope);
+    EXPECT_EQ(LocalDateTime({kAutumn2026 - 1, 0}), DateSerial(2026, 10, 25) + TimeSerial(2, 59, 59));
+    EXPECT_EQ(LocalDateTime({kAutumn2026, 0}), DateSerial(2026, 10, 25) + TimeSerial(2, 0, 0));
+}
+
+TEST(SystemClock, FollowsATimeZoneThatIsChangedWhileItRuns) {
+    const cSystemClock clock;
+    const cTimeZone before("UTC0");
+    const DateTime utc = clock.Now();
+    const double steady = clock.Steady();
+    const cTimeZone after("EAST-9");
+    EXPECT_NEAR(clock.Now() - utc, 9.0 / 24, 1.0 / 86400);
+    EXPECT_NEAR(clock.Steady() - steady, 0, 1.0 / 86400);
 }
 
 TEST(SystemClock, TheSteadyClockRuns) {
