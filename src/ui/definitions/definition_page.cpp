@@ -37,6 +37,8 @@ QScrollArea* Scrolled(QWidget* widget) {
     area->setWidget(widget);
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
+    // The keyboard goes to the fields within, which the area follows.
+    area->setFocusPolicy(Qt::NoFocus);
     return area;
 }
 

@@ -21,6 +21,7 @@ cDefinitionsWindow::cDefinitionsWindow(cEditorServices& services)
     setObjectName("Vigrel_Definitions");
     setWindowIcon(QIcon(":/icons/vigrel-definitions.svg"));
     m_Tabs.setObjectName("Tabs_Pages");
+    m_Tabs.setAccessibleName(tr("Open pages"));
     m_Tabs.setTabsClosable(true);
     m_Tabs.setMovable(true);
     m_Tabs.setDocumentMode(true);

@@ -19,6 +19,7 @@ cProfileForm::cProfileForm(cEditorServices& editor, QWidget* parent)
     : QWidget(parent), m_Editor(editor), m_Tabs(new QTabWidget) {
     setObjectName("Form_Profile");
     m_Tabs->setObjectName("Tabs_Profile");
+    m_Tabs->setAccessibleName(tr("Profile"));
     m_Tabs->addTab(MakeGeneral(), tr("General"));
     m_Tabs->addTab(MakeConditions(), tr("Conditions"));
     m_Tabs->addTab(MakeReceivers(), tr("Receivers"));
