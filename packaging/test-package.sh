@@ -10,14 +10,16 @@ packaging/test-package.sh [--no-build] [--keep]
 
 Builds the Debian package and the portable archive, makes a bare Debian 12 in a temporary folder, and there
   installs the package with apt, starts the station as an ordinary user without windows, sends it an alarm, ends it,
+  starts it from its menu entry on a screen, sends, acknowledges, ends the session, and looks that all is back then,
   upgrades, and looks that the user's files are as they were,
   removes the package, and looks that nothing is left,
-  unpacks the archive beside a desktop's own libraries, and starts the station in it.
+  unpacks the archive beside a desktop's own libraries, and does the same with the station in it.
 
   --no-build   takes the packages of the last build
   --keep       leaves the temporary folder there
 
-Needs root, debootstrap, and this machine's apt sources.
+Needs root, debootstrap, this machine's apt sources, and on this machine xvfb, openbox, xdotool, wmctrl,
+imagemagick.
 HELP
 }
 
@@ -44,8 +46,10 @@ archive=$(ls $packages/vigrel-receiver-*-portable-*.tar.gz)
 work=$(mktemp -d)
 root=$work/root
 station=
+screen=()
 leave() {
     [ -z "$station" ] || kill -KILL "$station" 2>/dev/null || true
+    [ ${#screen[@]} -eq 0 ] || kill "${screen[@]}" 2>/dev/null || true
     [ $keep = no ] || { echo "Kept: $root"; return; }
     remove_root "$root" && rm -rf --one-file-system "$work"
 }
@@ -55,11 +59,11 @@ trap leave EXIT
 port=$((20000 + RANDOM % 10000))
 
 # as_user USER COMMAND...
+surroundings=QT_QPA_PLATFORM=offscreen
 as_user() {
     local user=$1
     shift
-    inside "$root" setpriv --reuid "$user" --regid "$user" --init-groups \
-        env HOME="/home/$user" QT_QPA_PLATFORM=offscreen "$@"
+    inside "$root" setpriv --reuid "$user" --regid "$user" --init-groups env HOME="/home/$user" $surroundings "$@"
 }
 
 # start USER PROGRAM: the station, in the background. chroot, setpriv and env become the program: one process.
@@ -124,6 +128,95 @@ use_station() {
     check "the log tells the end" log_says "$folder" "ends with the operating system"
 }
 
+# begin_desktop: a screen with a window manager, of this machine: in the root is nothing but what was installed.
+begin_desktop() {
+    : >"$work/display"
+    Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$work/display" 2>/dev/null &
+    screen=($!)
+    until_true test -s "$work/display"
+    export DISPLAY=:$(cat "$work/display")
+    openbox --sm-disable >/dev/null 2>&1 &
+    screen+=($!)
+    # A window that comes before it would not be seen.
+    until_true wmctrl -m >"$work/manager"
+    surroundings=DISPLAY=$DISPLAY
+}
+end_desktop() {
+    kill "${screen[@]}" 2>/dev/null || true  # the window manager goes with the screen
+    wait "${screen[@]}" 2>/dev/null || true
+    screen=()
+    unset DISPLAY
+    surroundings=QT_QPA_PLATFORM=offscreen
+}
+
+# find_station: the station that runs in the root, whoever started it.
+find_station() {
+    local process
+    for process in $(pgrep -x vigrel-receiver); do
+        [ "$(readlink "/proc/$process/root")" != "$root" ] || station=$process
+    done
+    [ -n "$station" ]
+}
+has_ended() { ! kill -0 "$1" 2>/dev/null; }
+
+# find_window TITLE: its number is in $window.
+find_window() { window=$(xdotool search --onlyvisible --name "$1" | tail -n 1) && [ -n "$window" ]; }
+press() { xdotool windowactivate --sync "$window" key --delay 100 "$@"; }
+geometry() { xdotool getwindowgeometry --shell "$window" | grep -v -e WINDOW -e SCREEN; }
+
+# row_shows COLOUR PICTURE: whether the window has a place of the colour as large as a row; the window as a picture.
+row_shows() {
+    import -window "$window" "$2"
+    [ "$(convert "$2" -fill white +opaque "$1" -fill black -opaque "$1" -format '%[fx:int((1-mean)*w*h)]' info:)" -gt 3000 ]
+}
+
+# use_desktop USER FOLDER PROGRAMS COMMAND...: two days of a user who starts the station by the command, logs out.
+use_desktop() {
+    local user=$1 folder=$2 programs=$3 before alarms
+    local colour="rgb(166,0,30)"  # of an active event of category Fire, in the configuration that is delivered
+    shift 3
+    rm -rf "$folder/Alarms" "$folder/LogFiles"
+    begin_desktop
+    as_user "$user" "$@" >"$work/output" 2>&1 &
+    check "it asks for the language" until_true find_window "^Vigrel - Select Language$"
+    check "the first start makes a configuration" until_true has_configuration "$folder"
+    set_key "$(configuration "$folder")" Port $port
+    press e Return
+    check "it starts in the language chosen" until_true log_says "$folder" "Port $port is open"
+    check "its window shows" until_true find_window "^Vigrel Alarm Receiver [(]"
+    find_station
+    check "an alarm gets the positive reply" as_user "$user" "${programs}vigrel-send" --port $port \
+        --sender PLC1 --t0 "Smoke in room 12" --t2 Fire
+    check "the alarm has its row" until_true row_shows "$colour" "$work/$user-alarm.png"
+    press F9
+    check "F9 acknowledges it" until_true log_says "$folder" "Acknowledged: "
+    xdotool windowsize --sync "$window" 900 500 windowmove --sync "$window" 120 90
+    sleep 1
+    before=$(geometry)
+    kill -TERM "$station"
+    check "the end of the session ends it" until_true has_ended "$station"
+    station=
+    check "the log tells the end" log_says "$folder" "ends with the operating system"
+    end_desktop
+
+    rm -f "$folder"/LogFiles/*
+    begin_desktop
+    as_user "$user" "$@" >"$work/output" 2>&1 &
+    check "the next day it starts without a question" until_true log_says "$folder" "Start-up finished"
+    find_station
+    until_true find_window "^Vigrel Alarm Receiver [(]"
+    check "the alarm is back" log_says "$folder" "1 alarm(s) loaded"
+    check "it has its row" until_true row_shows "$colour" "$work/$user-next-day.png"
+    alarms=("$folder"/Alarms/*.alm)
+    as_user "$user" "${programs}vigrel-inspect" "${alarms[0]#"$root"}" >"$work/alarm" || true
+    check "it is acknowledged" grep -q "observed  *yes" "$work/alarm"
+    check "the window is where it was, as large as it was" [ "$(geometry)" = "$before" ]
+    kill -TERM "$station"
+    check "it ends" until_true has_ended "$station"
+    station=
+    end_desktop
+}
+
 echo "== a bare Debian"
 make_root "$root"
 inside "$root" apt-get update -q >"$work/apt"
@@ -184,6 +277,14 @@ check "it knows its alarm" log_says "$folder" "1 alarm(s) loaded"
 end
 check "the user's files are as they were" [ "$before" = "$(users_files)" ]
 
+echo "== the menu entry, on a screen"
+# Starts menu entries, as the menus of desktops do.
+inside "$root" apt-get install -q -y --no-install-recommends libglib2.0-bin >"$work/apt" 2>&1 || { cat "$work/apt"; exit 1; }
+inside "$root" useradd --create-home watcher
+use_desktop watcher "$root/home/watcher/.local/share/VigrelReceiver" /usr/bin/ \
+    gio launch /usr/share/applications/vigrel-receiver.desktop
+inside "$root" apt-get purge -q -y libglib2.0-bin >"$work/apt" 2>&1
+
 echo "== remove"
 inside "$root" apt-get remove -q -y vigrel-receiver >"$work/apt" 2>&1
 inside "$root" apt-get purge -q -y vigrel-receiver >"$work/apt" 2>&1
@@ -213,6 +314,12 @@ for library in $(cd "$folder" && find lib plugins -name '*.so*'); do
 done
 first_start traveller "$folder" /home/traveller/station/vigrel-receiver
 use_station traveller "$folder" /home/traveller/station/
-check "nothing lies outside the folder" [ ! -e "$root/home/traveller/.local/share/VigrelReceiver" ]
+inside "$root" useradd --create-home visitor
+as_user visitor mkdir /home/visitor/station
+as_user visitor tar xf /tmp/portable.tar.gz --strip-components=1 -C /home/visitor/station
+use_desktop visitor "$root/home/visitor/station" /home/visitor/station/ /home/visitor/station/vigrel-receiver
+for user in traveller visitor; do
+    check "nothing of $user lies outside the folder" [ ! -e "$root/home/$user/.local/share/VigrelReceiver" ]
+done
 
 echo "$checks passed, 0 failed"
