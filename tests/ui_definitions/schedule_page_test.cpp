@@ -1,5 +1,7 @@
+#include <QContextMenuEvent>
 #include <QMenu>
 #include <QScrollBar>
+#include <QWheelEvent>
 
 #include "ui_definitions/editor_bench.h"
 
@@ -212,6 +214,24 @@ TEST_F(SchedulePage, TheTimesCanBeReadDuringADrag) {
     EXPECT_FALSE(start.isEnabled());
 }
 
+TEST_F(SchedulePage, ThePopupMenuOpensWithItsSevenEntries) {
+    auto& menu = Find<QMenu>(m_Page, "Menu_TimeSchedulePopup");
+    QStringList entries;
+    for (const QAction* action : menu.actions()) entries += action->text().remove('&');
+    EXPECT_EQ(entries.join('|'),
+              "Delete the period|Copy the day|Paste into the day||Whole day|Invert the day||Grouped|"
+              "Monday to Friday grouped");
+    Press(View(), At(2, 600), Qt::RightButton);
+    QContextMenuEvent mouse(QContextMenuEvent::Mouse, At(2, 600), View().mapToGlobal(At(2, 600)));
+    QCoreApplication::sendEvent(&View(), &mouse);
+    EXPECT_TRUE(menu.isVisible());
+    menu.hide();
+    // Not in the middle of a drag.
+    Press(View(), At(5, 600));
+    QCoreApplication::sendEvent(&View(), &mouse);
+    EXPECT_FALSE(menu.isVisible());
+}
+
 // --- keyboard
 
 TEST_F(SchedulePage, ANewPageHasTheKeyboard) {
@@ -296,6 +316,17 @@ TEST_F(SchedulePage, SpecialDayTypesAddRowsAndTheScrollBarReachesThem) {
     EXPECT_EQ(m_Page.Schedule().m_NumberOfAxisToPaint, 7);
     EXPECT_FALSE(m_Page.Schedule().GetActive(22));
     EXPECT_FALSE(Find<QCheckBox>(m_Page, "Check_TimeSchedule_UseCalendar").isChecked());
+}
+
+TEST_F(SchedulePage, TheWheelScrollsTheRows) {
+    Find<QCheckBox>(m_Page, "Check_TimeSchedule_UseCalendar").click();
+    auto& list = Find<QListWidget>(m_Page, "List_DayTypes");
+    for (int day = 7; day < 12; ++day) list.item(day)->setCheckState(Qt::Checked);
+    QWheelEvent down(QPointF(50, 50), View().mapToGlobal(QPointF(50, 50)), {}, {0, -120}, Qt::NoButton,
+                     Qt::NoModifier, Qt::NoScrollPhase, false);
+    // The view leaves the wheel to its frame.
+    QCoreApplication::sendEvent(View().parentWidget(), &down);
+    EXPECT_GT(Find<QScrollBar>(m_Page, "VScroll_Schedule").value(), 0);
 }
 
 TEST_F(SchedulePage, ARowChosenByKeysScrollsIntoSight) {
@@ -424,6 +455,17 @@ TEST_F(SchedulePage, TextIsNotThickenedByPaintingAgain) {
     const QImage before = picture();
     for (int i = 0; i < 3; ++i) Move(View(), At(1, 100 * i));
     EXPECT_EQ(picture(), before);
+}
+
+TEST_F(SchedulePage, OnADarkDesktopTheDrawingStaysLight) {
+    const QPalette usual = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(49, 54, 59), QColor(42, 46, 50)));
+    auto& view = Find<QWidget>(NewSchedule(), "Picture_TimeSchedule");
+    QImage image(view.size(), QImage::Format_RGB32);
+    view.render(&image);
+    QApplication::setPalette(usual);
+    EXPECT_EQ(image.pixelColor(2, 2), QColor(240, 240, 240));
+    EXPECT_EQ(view.palette().color(QPalette::WindowText), QColor(Qt::black));
 }
 
 TEST_F(SchedulePage, SpecialDayTypesShowTheirImageInTheRow) {

@@ -109,7 +109,6 @@ void cSchedulePage::ConnectView() {
     view.OnMouseMove = [this](std::int16_t button, std::int16_t shift, QPoint unit) {
         m_Schedule.MouseMove(*this, m_SchedulePaintObject, button, shift, static_cast<float>(unit.x()),
                              static_cast<float>(unit.y()));
-        EnableTimes();
     };
     view.OnPopupMenu = [this](QPoint place) { ShowPopupMenu(place); };
     view.OnKey = [this](const QKeyEvent& event) { return Key(event); };
