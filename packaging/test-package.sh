@@ -3,6 +3,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 source packaging/bare-root.sh
+source packaging/desktop.sh
 
 usage() {
     cat <<'HELP'
@@ -46,7 +47,6 @@ archive=$(ls $packages/vigrel-receiver-*-portable-*.tar.gz)
 work=$(mktemp -d)
 root=$work/root
 station=
-screen=()
 leave() {
     [ -z "$station" ] || kill -KILL "$station" 2>/dev/null || true
     [ ${#screen[@]} -eq 0 ] || kill "${screen[@]}" 2>/dev/null || true
@@ -80,18 +80,6 @@ end() {
     station=
 }
 
-# until_true COMMAND...: up to a minute.
-until_true() {
-    local tries
-    for tries in $(seq 120); do
-        "$@" 2>/dev/null && return
-        sleep 0.5
-    done
-    echo "The station's output:" >&2
-    cat "$work/output" >&2
-    return 1
-}
-
 # first_start USER FOLDER PROGRAM: fills the folder. The question for the language, which follows, can't be answered
 # without a window, so nothing of the station runs yet that could be ended in order.
 first_start() {
@@ -104,7 +92,6 @@ first_start() {
 configuration() { find "$1" -maxdepth 1 -iname VigrelReceiver.ini; }
 has_configuration() { [ -n "$(configuration "$1")" ]; }
 
-log_says() { grep -aqs "$2" "$1"/LogFiles/*.[Ll]og; }
 files_in() { (cd "$1" && find . -type f | sort); }
 
 # set_key INI KEY VALUE: in the file as it is, whose lines end with CR LF.
@@ -128,55 +115,13 @@ use_station() {
     check "the log tells the end" log_says "$folder" "ends with the operating system"
 }
 
-# begin_desktop: a screen with a window manager, of this machine: in the root is nothing but what was installed.
-begin_desktop() {
-    : >"$work/display"
-    Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$work/display" 2>/dev/null &
-    screen=($!)
-    until_true test -s "$work/display"
-    export DISPLAY=:$(cat "$work/display")
-    openbox --sm-disable >/dev/null 2>&1 &
-    screen+=($!)
-    # A window that comes before it would not be seen.
-    until_true wmctrl -m >"$work/manager"
-    surroundings=DISPLAY=$DISPLAY
-}
-end_desktop() {
-    kill "${screen[@]}" 2>/dev/null || true  # the window manager goes with the screen
-    wait "${screen[@]}" 2>/dev/null || true
-    screen=()
-    unset DISPLAY
-    surroundings=QT_QPA_PLATFORM=offscreen
-}
-
-# find_station: the station that runs in the root, whoever started it.
-find_station() {
-    local process
-    for process in $(pgrep -x vigrel-receiver); do
-        [ "$(readlink "/proc/$process/root")" != "$root" ] || station=$process
-    done
-    [ -n "$station" ]
-}
-has_ended() { ! kill -0 "$1" 2>/dev/null; }
-
-# find_window TITLE: its number is in $window.
-find_window() { window=$(xdotool search --onlyvisible --name "$1" | tail -n 1) && [ -n "$window" ]; }
-press() { xdotool windowactivate --sync "$window" key --delay 100 "$@"; }
-geometry() { xdotool getwindowgeometry --shell "$window" | grep -v -e WINDOW -e SCREEN; }
-
-# row_shows COLOUR PICTURE: whether the window has a place of the colour as large as a row; the window as a picture.
-row_shows() {
-    import -window "$window" "$2"
-    [ "$(convert "$2" -fill white +opaque "$1" -fill black -opaque "$1" -format '%[fx:int((1-mean)*w*h)]' info:)" -gt 3000 ]
-}
-
 # use_desktop USER FOLDER PROGRAMS COMMAND...: two days of a user who starts the station by the command, logs out.
 use_desktop() {
     local user=$1 folder=$2 programs=$3 before alarms
-    local colour="rgb(166,0,30)"  # of an active event of category Fire, in the configuration that is delivered
     shift 3
     rm -rf "$folder/Alarms" "$folder/LogFiles"
     begin_desktop
+    surroundings=DISPLAY=$DISPLAY
     as_user "$user" "$@" >"$work/output" 2>&1 &
     check "it asks for the language" until_true find_window "^Vigrel - Select Language$"
     check "the first start makes a configuration" until_true has_configuration "$folder"
@@ -187,7 +132,7 @@ use_desktop() {
     find_station
     check "an alarm gets the positive reply" as_user "$user" "${programs}vigrel-send" --port $port \
         --sender PLC1 --t0 "Smoke in room 12" --t2 Fire
-    check "the alarm has its row" until_true row_shows "$colour" "$work/$user-alarm.png"
+    check "the alarm has its row" until_true row_shows "$fire" "$work/$user-alarm.png"
     press F9
     check "F9 acknowledges it" until_true log_says "$folder" "Acknowledged: "
     xdotool windowsize --sync "$window" 900 500 windowmove --sync "$window" 120 90
@@ -198,15 +143,17 @@ use_desktop() {
     station=
     check "the log tells the end" log_says "$folder" "ends with the operating system"
     end_desktop
+    surroundings=QT_QPA_PLATFORM=offscreen
 
     rm -f "$folder"/LogFiles/*
     begin_desktop
+    surroundings=DISPLAY=$DISPLAY
     as_user "$user" "$@" >"$work/output" 2>&1 &
     check "the next day it starts without a question" until_true log_says "$folder" "Start-up finished"
     find_station
     until_true find_window "^Vigrel Alarm Receiver [(]"
     check "the alarm is back" log_says "$folder" "1 alarm(s) loaded"
-    check "it has its row" until_true row_shows "$colour" "$work/$user-next-day.png"
+    check "it has its row" until_true row_shows "$fire" "$work/$user-next-day.png"
     alarms=("$folder"/Alarms/*.alm)
     as_user "$user" "${programs}vigrel-inspect" "${alarms[0]#"$root"}" >"$work/alarm" || true
     check "it is acknowledged" grep -q "observed  *yes" "$work/alarm"
@@ -215,6 +162,7 @@ use_desktop() {
     check "it ends" until_true has_ended "$station"
     station=
     end_desktop
+    surroundings=QT_QPA_PLATFORM=offscreen
 }
 
 echo "== a bare Debian"
