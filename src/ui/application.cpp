@@ -2,6 +2,7 @@
 
 #include <QLibraryInfo>
 #include <QMessageBox>
+#include <QPalette>
 #include <QSessionManager>
 #include <QTimer>
 #include <QWindow>
@@ -37,6 +38,7 @@ cApplication::cApplication(int& argc, char** argv) : QApplication(argc, argv) {
     if (m_Translator.load(QLocale(), "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         installTranslator(&m_Translator);
     }
+    MakeHintsReadable();
     // The session must not start the program again at the next login; whoever wants that sets it up.
     const auto neverRestart = [](QSessionManager& session) {
         session.setRestartHint(QSessionManager::RestartNever);
@@ -49,6 +51,24 @@ cApplication::cApplication(int& argc, char** argv) : QApplication(argc, argv) {
             if (OnSessionEnds) OnSessionEnds();
         },
         Qt::DirectConnection);
+}
+
+// Desktops with dark colours that don't say how hints look leave them black.
+void cApplication::MakeHintsReadable() {
+    constexpr int kHintAlpha = 160;
+    QColor hint = palette().color(QPalette::Active, QPalette::Text);
+    hint.setAlpha(kHintAlpha);
+    if (palette().color(QPalette::Active, QPalette::PlaceholderText) == hint) return;
+    // This one role only: the others go on following the desktop.
+    QPalette hints;
+    hints.setColor(QPalette::PlaceholderText, hint);
+    setPalette(hints);
+}
+
+bool cApplication::event(QEvent* event) {
+    const bool handled = QApplication::event(event);
+    if (event->type() == QEvent::ApplicationPaletteChange) MakeHintsReadable();
+    return handled;
 }
 
 void cApplication::Guard(const std::function<void()>& step) {

@@ -39,7 +39,11 @@ class cApplication : public QApplication {
     // off.
     std::function<void()> OnSessionEnds;
 
+  protected:
+    bool event(QEvent* event) override;
+
   private:
+    void MakeHintsReadable();
     [[noreturn]] void End(const std::string& failure);
     void ShowFailure(const std::string& failure);
     bool ServesFailureBox(QObject* receiver, const QEvent& event) const;

@@ -2,8 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <QPalette>
 #include <QSessionManager>
 #include <QTimer>
+#include <algorithm>
+#include <cmath>
+#include <utility>
 
 #include "common/failure.h"
 
@@ -59,6 +63,42 @@ TEST(Application, AStepWithoutFailureRuns) {
 
 TEST(Application, GoesOnWithoutWindows) {
     EXPECT_FALSE(QApplication::quitOnLastWindowClosed());
+}
+
+double Luminance(const QColor& colour) {
+    const auto linear = [](double value) {
+        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
+// The contrast of hints, which let their ground shine through, in the colours of the application.
+double HintContrast() {
+    const QColor ground = QApplication::palette().color(QPalette::Base);
+    const QColor hint = QApplication::palette().color(QPalette::PlaceholderText);
+    const auto mix = [&](float above, float below) {
+        return above * hint.alphaF() + below * (1 - hint.alphaF());
+    };
+    const QColor seen = QColor::fromRgbF(mix(hint.redF(), ground.redF()), mix(hint.greenF(), ground.greenF()),
+                                         mix(hint.blueF(), ground.blueF()));
+    const double one = Luminance(ground), other = Luminance(seen);
+    return (std::max(one, other) + 0.05) / (std::min(one, other) + 0.05);
+}
+
+TEST(Application, HintsCanBeReadInEveryDesktopsColours) {
+    const QPalette before = QApplication::palette();
+    EXPECT_GE(HintContrast(), 4.5);
+    for (const auto& [ground, text] : {std::pair{"#1b1e20", "#fcfcfc"}, std::pair{"#ffffff", "#000000"}}) {
+        QPalette desktop = before;
+        desktop.setColor(QPalette::Base, ground);
+        desktop.setColor(QPalette::Text, text);
+        desktop.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 128));
+        QApplication::setPalette(desktop);
+        QCoreApplication::processEvents();
+        EXPECT_GE(HintContrast(), 4.5) << ground;
+    }
+    QApplication::setPalette(before);
 }
 
 // What the environment makes of the platform.

@@ -99,12 +99,6 @@ QWidget* cCalendarPage::MakeToolBox() {
     m_DayType.setObjectName("Combo_Calendar_DayType");
     m_DayType.setMaxVisibleItems(kEntries);
     m_DayType.setPlaceholderText(tr("None chosen"));
-    // The colour that dark desktops leave to chance.
-    QPalette colours = m_DayType.palette();
-    QColor hint = colours.color(QPalette::ButtonText);
-    hint.setAlphaF(0.6F);
-    colours.setColor(QPalette::PlaceholderText, hint);
-    m_DayType.setPalette(colours);
     m_Country.setObjectName("Combo_Calendar_Holidays");
     m_Schedule.setObjectName("Combo_Calendar_TimeSchedule");
     m_ShowTimeAxis.setObjectName("Check_Calendar_ShowTimeAxis");
