@@ -37,6 +37,13 @@ void cLanguageWindow::AddLanguages() {
     m_Combo->setCurrentIndex(m_Selection.Selected());
 }
 
+// The keyboard is in the list from the start, and that is seen.
+void cLanguageWindow::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    m_Combo->setFocus(Qt::TabFocusReason);
+    setAttribute(Qt::WA_KeyboardFocusChange);
+}
+
 void cLanguageWindow::PressOk() {
     m_Selection.Select(m_Combo->currentIndex());
     m_Selection.Confirm();

@@ -19,6 +19,9 @@ class cLanguageWindow : public QDialog {
     // Shows the window until it is closed. Nothing is written unless the operator presses Ok.
     static void Choose(cLanguageSelection& selection);
 
+  protected:
+    void showEvent(QShowEvent* event) override;
+
   private:
     void AddLanguages();
     void PressOk();

@@ -66,6 +66,7 @@ TEST_F(LanguageWindow, CanBeUsedByTheKeyboardAlone) {
     window.show();
     auto* combo = window.findChild<QComboBox*>("Combo_Language");
     EXPECT_TRUE(WaitUntil([&] { return combo->hasFocus(); }));
+    EXPECT_TRUE(window.testAttribute(Qt::WA_KeyboardFocusChange));  // and shows it
     QTest::keyClick(combo, Qt::Key_Up);
     QTest::keyClick(combo, Qt::Key_Return);
     EXPECT_EQ(Language(), "044");
