@@ -1,5 +1,6 @@
 // The alarm receiver: builds the machine's side of every port, and the receiver over them.
 
+#include <QIcon>
 #include <cstdio>
 #include <string>
 
@@ -62,6 +63,8 @@ int Run(int argc, char** argv) {
     cApplication::ChoosePlatform();
     cApplication application(argc, argv);
     application.SetMessageTitle(kProductName);
+    // Of every window, message boxes included.
+    cApplication::setWindowIcon(QIcon(":/icons/vigrel-receiver.svg"));
 
     const cFolderHints hints = ReadFolderHints();
     const std::string applicationPath = FindApplicationFolder(hints);
