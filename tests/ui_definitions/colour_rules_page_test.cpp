@@ -1,6 +1,7 @@
 #include "ui/definitions/colour_rules_page.h"
 
 #include <QAction>
+#include <QHeaderView>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QSpinBox>
@@ -31,6 +32,15 @@ class ColourRulesPage : public PageTest {
 
     std::unique_ptr<cColourRulesPage> m_Page;
 };
+
+TEST_F(ColourRulesPage, TheCaptionsOfThePreviewAreSeenWhole) {
+    QHeaderView& header = *Preview().horizontalHeader();
+    for (int column = 0; column < header.count(); ++column) {
+        const QString caption = Preview().horizontalHeaderItem(column)->text();
+        EXPECT_GE(header.sectionSize(column), header.fontMetrics().horizontalAdvance(caption))
+            << caption.toStdString();
+    }
+}
 
 TEST_F(ColourRulesPage, ARuleIsAddedEditedSavedReopenedAndDeleted) {
     Press(Page(), "Button_Add");

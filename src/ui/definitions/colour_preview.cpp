@@ -48,7 +48,8 @@ cColourPreview::cColourPreview(QWidget* parent)
     m_Table->setAccessibleName(tr("Preview"));
     m_Table->setHorizontalHeaderLabels(
         {tr("Tag"), tr("Rule"), tr("Row"), tr("Every other row"), tr("Flashing")});
-    m_Table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    m_Table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_Table->horizontalHeader()->setStretchLastSection(true);
     m_Table->verticalHeader()->hide();
     m_Table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_Table->setSelectionMode(QAbstractItemView::NoSelection);
