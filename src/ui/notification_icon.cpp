@@ -20,7 +20,7 @@ cNotificationIcon::cNotificationIcon(const QIcon& windowIcon) : m_WindowIcon(win
     m_Icon.setObjectName("TrayArea");
     QObject::connect(&m_Icon, &QSystemTrayIcon::activated, &m_Icon,
                      [this](QSystemTrayIcon::ActivationReason reason) { Activated(reason); });
-    m_HostWatch.OnGone = [this] { Tell(OnHostGone); };
+    m_Host.OnGone = [this] { Tell(OnHostGone); };
     SetIcon(WindowIcon);
 }
 

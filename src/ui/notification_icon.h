@@ -7,7 +7,7 @@
 #include <string>
 
 #include "platform/notification_area.h"
-#include "ui/tray_host_watch.h"
+#include "ui/tray_host.h"
 
 namespace vigrel {
 
@@ -25,7 +25,7 @@ class cNotificationIcon : public cNotificationArea {
     std::string ToolTip() const override { return m_ToolTip; }
     void SetToolTip(std::string_view text) override;
     void SetVisible(bool visible) override { m_Icon.setVisible(visible); }
-    bool HostAvailable() const override { return QSystemTrayIcon::isSystemTrayAvailable(); }
+    bool HostAvailable() const override { return m_Host.Available(); }
 
     // Where the icon shows, in pixels of the screen; empty while it doesn't.
     QRect Place() const { return m_Icon.geometry(); }
@@ -36,9 +36,9 @@ class cNotificationIcon : public cNotificationArea {
 
     QIcon m_WindowIcon;
     std::array<QIcon, 3> m_Images;
+    cTrayHost m_Host;
     QSystemTrayIcon m_Icon;
     std::string m_ToolTip;
-    cTrayHostWatch m_HostWatch{[this] { return HostAvailable(); }};
     QElapsedTimer m_SinceClick;  // not running before the first click, and after an opening
 };
 

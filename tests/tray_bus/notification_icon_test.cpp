@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QThread>
 #include <initializer_list>
 #include <memory>
@@ -15,7 +16,7 @@ namespace vigrel::testing {
 namespace {
 
 // Milliseconds after which a host that is gone is told of.
-constexpr int kSettled = cTrayHostWatch::kSettleMilliseconds + 1000;
+constexpr int kSettled = cTrayHost::kSettleMilliseconds + 1000;
 
 // The toolkit looks for the bus's notification area once in a program, so there is one when a test begins.
 class IconOnTheBus : public ::testing::Test {
@@ -89,6 +90,22 @@ TEST_F(IconOnTheBus, APanelThatStartsAnewWasNeverGone) {
     Tell(&cBusHost::StartPanel);
     RunEvents(kSettled);
     EXPECT_EQ(m_Notices, "");
+}
+
+TEST_F(IconOnTheBus, APanelThatHangsHoldsUpNobody) {
+    // Nobody answers on the bus any more.
+    Tell(&cBusHost::StopPanel);
+    m_Desktop.quit();
+    m_Desktop.wait();
+    QElapsedTimer time;
+    time.start();
+    for (int i = 0; i < 100; ++i) m_Icon->HostAvailable();
+    m_Icon->SetIcon(1);
+    m_Icon->SetToolTip("tip");
+    RunEvents(200);
+    m_Icon->SetVisible(false);
+    EXPECT_LT(time.elapsed(), 1000);
+    m_Desktop.start();
 }
 
 TEST_F(IconOnTheBus, AWatcherThatGoesIsToldOf) {

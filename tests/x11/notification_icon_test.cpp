@@ -19,14 +19,14 @@ namespace vigrel::testing {
 namespace {
 
 // The notification area of a desktop.
-class cTrayHost {
+class cTrayer {
   public:
     bool Start() {
         m_Host.start("trayer", {"--edge", "bottom", "--align", "right", "--widthtype", "request", "--height",
                                 "24", "--SetDockType", "true"});
         return m_Host.waitForStarted() && WaitUntil([] { return QSystemTrayIcon::isSystemTrayAvailable(); });
     }
-    ~cTrayHost() { Stop(); }
+    ~cTrayer() { Stop(); }
     void Stop() {
         if (m_Host.state() == QProcess::NotRunning) return;
         m_Host.kill();
@@ -86,14 +86,14 @@ class NotificationIcon : public ::testing::Test {
     }
 
     cNotificationIcon m_Icon;
-    cTrayHost m_Host;
+    cTrayer m_Host;
     std::string m_Notices;
     int m_Gone = 0;  // how often the host was told to be gone
 };
 
 // Milliseconds after which a host that has come or gone is noticed, and after which one that is gone is told
 // of.
-constexpr int kNoticed = 1500, kSettled = kNoticed + cTrayHostWatch::kSettleMilliseconds;
+constexpr int kNoticed = 1500, kSettled = kNoticed + cTrayHost::kSettleMilliseconds;
 
 // Colours of the two images.
 constexpr QRgb kFlashRed = 0xD8301F, kRestingBlue = 0x2578C8;
@@ -129,7 +129,7 @@ TEST_F(NotificationIcon, TheIconComesBackWithItsHost) {
     m_Host.Stop();
     EXPECT_FALSE(m_Icon.HostAvailable());
     m_Icon.SetIcon(1);
-    cTrayHost next;
+    cTrayer next;
     ASSERT_TRUE(next.Start());
     EXPECT_TRUE(WaitUntil([this] { return Shows() && HasColour(kFlashRed); }));
     EXPECT_EQ(Gesture({"click", "1"}), "first ");
@@ -142,7 +142,7 @@ TEST_F(NotificationIcon, AHostThatGoesIsToldOfOnceAndSoIsTheNext) {
     EXPECT_TRUE(WaitUntil([this] { return m_Gone > 0; }, kSettled));
     RunEvents(kSettled);
     EXPECT_EQ(m_Gone, 1);
-    cTrayHost next;
+    cTrayer next;
     ASSERT_TRUE(next.Start());
     RunEvents(kNoticed);
     next.Stop();
@@ -154,7 +154,7 @@ TEST_F(NotificationIcon, AHostThatStartsAnewWasNeverGone) {
     RunEvents(kNoticed);
     m_Host.Stop();
     RunEvents(kNoticed);
-    cTrayHost next;
+    cTrayer next;
     ASSERT_TRUE(next.Start());
     RunEvents(kSettled);
     EXPECT_EQ(m_Gone, 0);
