@@ -146,21 +146,38 @@ TEST_F(Light, WithoutSyncTheCallIsLeftOut) {
     EXPECT_EQ(Only("sync", Signal("Fire")), "");
 }
 
+// The steps of a light whose four LEDs are programmed alike.
+std::string Programme(const std::string& name, int handle, const std::string& preScalar,
+                      const std::string& freqDuty, const std::string& phase, const std::string& power,
+                      const std::string& control, bool sync) {
+    const std::string of = " #" + std::to_string(handle);
+    std::string steps = "light: open " + name + " 0\nlight: prescalar" + of + " " + preScalar + "\n";
+    for (const char* led : {" 0 ", " 1 ", " 2 ", " 3 "}) {
+        steps += "light: freqduty" + of + led + freqDuty + "\nlight: phase" + of + led + phase + "\n" +
+                 "light: power" + of + led + power + "\nlight: control" + of + led + control + "\n";
+    }
+    return steps + (sync ? "light: sync" + of + "\n" : "") + "light: close" + of + "\n";
+}
+
 TEST_F(Light, EveryStatusHasItsOwnProgramme) {
-    Categories(std::string(kFire) +
-               "USBLED_DeviceName_Inactive=A\r\nUSBLED_Control_Inactive=0/0/0/0\r\n"
-               "USBLED_DeviceName_Acked=B\r\nUSBLED_Control_Acked=1/1/1/1\r\n");
-    const std::string inactive = Signal("Fire", StatusInactive);
-    EXPECT_EQ(Only("open", inactive), "light: open A 0\n");
-    EXPECT_EQ(Only("control", inactive),
-              "light: control #1 0 0\nlight: control #1 1 0\n"
-              "light: control #1 2 0\nlight: control #1 3 0\n");
-    const std::string acked = Signal("Fire", StatusAcked);
-    EXPECT_EQ(Only("open", acked), "light: open B 0\n");
-    EXPECT_EQ(Only("control", acked),
-              "light: control #2 0 1\nlight: control #2 1 1\n"
-              "light: control #2 2 1\nlight: control #2 3 1\n");
-    EXPECT_EQ(Signal("Fire", StatusMessage), "");
+    Categories(
+        "[CategorySpecificSetting_Fire]\r\n"
+        "USBLED_DeviceName_Inactive=A\r\nUSBLED_Control_Inactive=0/0/0/0\r\n"
+        "USBLED_PreScalar_Inactive=11\r\nUSBLED_FreqDuty_Inactive=1,2/1,2/1,2/1,2\r\n"
+        "USBLED_InitialPhaseDelay_Inactive=3/3/3/3\r\nUSBLED_Power_Inactive=4/4/4/4\r\n"
+        "USBLED_DeviceName_Active=B\r\nUSBLED_Control_Active=2/2/2/2\r\nUSBLED_SyncLeds_Active=1\r\n"
+        "USBLED_PreScalar_Active=12\r\nUSBLED_FreqDuty_Active=5,6/5,6/5,6/5,6\r\n"
+        "USBLED_InitialPhaseDelay_Active=7/7/7/7\r\nUSBLED_Power_Active=8/8/8/8\r\n"
+        "USBLED_DeviceName_Acked=C\r\nUSBLED_Control_Acked=1/1/1/1\r\nUSBLED_SyncLeds_Acked=0\r\n"
+        "USBLED_PreScalar_Acked=13\r\nUSBLED_FreqDuty_Acked=9,10/9,10/9,10/9,10\r\n"
+        "USBLED_InitialPhaseDelay_Acked=20/20/20/20\r\nUSBLED_Power_Acked=21/21/21/21\r\n"
+        "USBLED_DeviceName_Message=A\r\nUSBLED_Control_Message=3/3/3/3\r\nUSBLED_SyncLeds_Message=-1\r\n"
+        "USBLED_PreScalar_Message=14\r\nUSBLED_FreqDuty_Message=22,23/22,23/22,23/22,23\r\n"
+        "USBLED_InitialPhaseDelay_Message=24/24/24/24\r\nUSBLED_Power_Message=25/25/25/25\r\n");
+    EXPECT_EQ(Signal("Fire", StatusInactive), Programme("A", 1, "11", "1,2", "3", "4", "0", false));
+    EXPECT_EQ(Signal("Fire", StatusActive), Programme("B", 2, "12", "5,6", "7", "8", "2", true));
+    EXPECT_EQ(Signal("Fire", StatusAcked), Programme("C", 3, "13", "9,10", "20", "21", "1", false));
+    EXPECT_EQ(Signal("Fire", StatusMessage), Programme("A", 4, "14", "22,23", "24", "25", "3", true));
 }
 
 TEST_F(Light, AStatusWithoutNamesCallsNothingAndLeavesTheEntryAlone) {
