@@ -111,6 +111,31 @@ TEST_F(Running, AnEventOpensAPopupPlaysAndPrints) {
     EXPECT_FALSE(waveDevice.m_Playing);
 }
 
+TEST_F(Running, WithoutAFormatNoEventIsPrintedAndNoneIsMissed) {
+    Start();
+    for (const char* second : {"S0||Fan", "S1||Fan", "S2||Fan"}) Send("PLC1", second);
+    EXPECT_TRUE(printerPorts.m_Lines.empty());
+    EXPECT_EQ(Log().find("T10038"), std::string::npos);
+}
+
+TEST_F(Running, WithSoundForActiveEventsAnyOtherLeavesASignalAndItsFileAlone) {
+    Ini("EventSignal=3\r\nEventSoundFile=a.wav\r\nEventSignalOnlyForActive=1\r\n",
+        "[CategorySpecificSetting_Water]\r\nEventSignal=2\r\nEventSoundFile=b.wav\r\n");
+    Start();
+    Send("PLC1", "S1||Fan");
+    timerPlay.Tick();
+    const std::string file = waveDevice.FileName();
+    for (const char* second : {"S0||Fan||Water", "S2||Fan||Water"}) {
+        Send("PLC1", second);
+        timerPlay.Tick();
+        EXPECT_EQ(waveDevice.FileName(), file);
+        EXPECT_EQ(receiver->State().m_SoundState, 4);
+        EXPECT_TRUE(waveDevice.m_Playing);
+    }
+    Send("PLC1", "S1||Fan||Water");
+    EXPECT_NE(waveDevice.FileName(), file);
+}
+
 TEST_F(Running, ADoubleClickAcknowledges) {
     Ini("Columns=StateIcon,Observed\r\n");
     Start();
