@@ -60,6 +60,7 @@ void cEditorProgram::Start(int zoom, const std::vector<std::string>& files) {
         std::vector<std::string> words{VIGREL_DEFINITIONS};
         words.insert(words.end(), files.begin(), files.end());
         std::vector<char*> arguments;
+        arguments.reserve(words.size() + 1);
         for (std::string& word : words) arguments.push_back(word.data());
         arguments.push_back(nullptr);
         execv(arguments[0], arguments.data());
