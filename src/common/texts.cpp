@@ -7,6 +7,15 @@
 #include "common/text.h"
 
 namespace vigrel {
+namespace {
+
+// The number at the beginning: unlike elsewhere, a blank behind its first digit ends it.
+std::int32_t IdOf(const std::string& line) {
+    const std::string id = Trim(GetField(line, 0, "="));
+    return ToInt32(Val(id.substr(0, id.find(' '))));
+}
+
+}  // namespace
 
 bool cTexts::LoadTexts() {
     m_TextIndex.clear();
@@ -20,8 +29,7 @@ bool cTexts::LoadTexts() {
         const std::size_t equals = line.find('=');
         if (equals == std::string::npos) continue;
         const std::string text = line.substr(equals + 1);
-        m_TextIndex.push_back({ToInt32(Val(GetField(line, 0, "="))),
-                               static_cast<std::int32_t>(m_Texts.size()) + 1,
+        m_TextIndex.push_back({IdOf(line), static_cast<std::int32_t>(m_Texts.size()) + 1,
                                static_cast<std::int32_t>(text.size())});
         m_Texts += text;
     }

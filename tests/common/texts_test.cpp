@@ -63,6 +63,7 @@ TEST(LoadTexts, LinesWithoutAnEqualsSignAreIgnored) {
 
 TEST(LoadTexts, IdsAreReadAsNumbersFromTheBeginning) {
     EXPECT_EQ(cStation("  12 x=a\r\n").Loaded(12), "a");
+    EXPECT_EQ(cStation("  12 3=a\r\n").Loaded(12), "a");
     EXPECT_EQ(cStation("2.5=a\r\n").Loaded(2), "a");
     EXPECT_EQ(cStation("; note=1\r\n").Loaded(0), "1");
     EXPECT_EQ(cStation("=bare\r\n").Loaded(0), "bare");
