@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "common/failure.h"
 #include "support/fake_files.h"
 #include "support/fake_windows.h"
 
@@ -52,6 +53,51 @@ TEST_F(FormGeometry, WhatIsSavedComesBack) {
     EXPECT_EQ(other.m_Top, 330.5);
     EXPECT_EQ(other.m_Width, 9000);
     EXPECT_EQ(other.m_Height, 6015);
+}
+
+TEST_F(FormGeometry, GeometryIsStoredInSinglePrecision) {
+    files.PutFolder("C:\\App\\");
+    window.m_Top = 1000 / 3.0;
+    SaveFormGeometry(window, ini);
+    EXPECT_EQ(ini.GetIniString("General", "Vigrel_Receiver_Main.Top", ""), "333.3333");
+}
+
+// A window that keeps a record of what is set, and whose edge of one name can't be.
+class cStubbornWindow : public cFakeWindow {
+  public:
+    explicit cStubbornWindow(std::string stubborn) : m_Stubborn(std::move(stubborn)) {}
+    void SetTop(double twips) override {
+        Note("top");
+        cFakeWindow::SetTop(twips);
+    }
+    void SetLeft(double twips) override {
+        Note("left");
+        cFakeWindow::SetLeft(twips);
+    }
+    void SetHeight(double twips) override {
+        Note("height");
+        cFakeWindow::SetHeight(twips);
+    }
+    void SetWidth(double twips) override {
+        Note("width");
+        cFakeWindow::SetWidth(twips);
+    }
+    std::string m_Set;
+
+  private:
+    void Note(const std::string& edge) {
+        m_Set += edge + " ";
+        if (edge == m_Stubborn) throw cFailure(eFailure::InvalidCall, edge + " can't be set");
+    }
+    std::string m_Stubborn;
+};
+
+TEST_F(FormGeometry, TopLeftHeightAndWidthAreSetInThisOrderAndOneThatCannotBeIsSkipped) {
+    for (const std::string stubborn : {"none", "top", "left", "height", "width"}) {
+        cStubbornWindow other(stubborn);
+        EXPECT_NO_THROW(RestoreFormGeometry(other, ini, screen));
+        EXPECT_EQ(other.m_Set, "top left height width ") << stubborn;
+    }
 }
 
 TEST_F(FormGeometry, AWindowBeyondTheScreenComesBackIntoView) {

@@ -295,6 +295,10 @@ TEST_F(Running, AYesEndsTheStationInItsOrder) {
     Send("PLC1", "S1||c");
     mainWindow.m_Left = 1500;
     transcript.Take();
+    files.m_OnCall = [&](std::string_view operation, std::string_view path) {
+        if (operation == "rename" && path.find("VigrelReceiver.") != std::string_view::npos)
+            transcript.Add("geometry saved");
+    };
     messageBox.m_Answers = {eMessageAnswer::Yes};
     EXPECT_TRUE(mainWindow.CloseWith(eCloseReason::Code));
     std::string steps = transcript.Text();
@@ -304,6 +308,7 @@ TEST_F(Running, AYesEndsTheStationInItsOrder) {
         if (found != std::string::npos) steps = steps.substr(found + step.size());
     };
     next("message box (question, yes/no): T10022\n");
+    next("geometry saved\ngeometry saved\ngeometry saved\ngeometry saved\n");
     next("sound: notify off\nsound: wait on\nsound: Close\n");
     next("tray: invisible\n");
     next("application 8 is 0\n");
