@@ -1,5 +1,6 @@
 #include "ui/report_header.h"
 
+#include <QKeyEvent>
 #include <QScopedValueRollback>
 #include <algorithm>
 #include <utility>
@@ -8,6 +9,7 @@ namespace vigrel {
 namespace {
 
 constexpr int kMaxWidth = 32000;     // pixels; wider columns are a mistake in the configuration
+constexpr int kKeyStep = 20;         // pixels
 constexpr int kMinDraggedWidth = 8;  // a column dragged narrower couldn't be grasped again
 
 }  // namespace
@@ -38,6 +40,34 @@ void cReportHeader::ShowOrder(const cRecordOrder& order) {
     if (order.Columns().empty()) return setSortIndicator(-1, Qt::AscendingOrder);
     const cRecordOrder::cColumn first = order.Columns().front();
     setSortIndicator(first.column, first.ascending ? Qt::AscendingOrder : Qt::DescendingOrder);
+}
+
+bool cReportHeader::HandleKey(const QKeyEvent& event) {
+    // Plus is a shifted key on many keyboards.
+    const bool plus = event.key() == Qt::Key_Plus || event.key() == Qt::Key_Equal;
+    const bool digit = event.key() >= Qt::Key_1 && event.key() <= Qt::Key_9;
+    const Qt::KeyboardModifiers others = plus ? Qt::KeypadModifier | Qt::ShiftModifier : Qt::KeypadModifier;
+    if ((event.modifiers() & ~others) != Qt::ControlModifier) return false;
+    if (digit) ClickShown(event.key() - Qt::Key_1);
+    if (plus) Widen(kKeyStep);
+    if (event.key() == Qt::Key_Minus) Widen(-kKeyStep);
+    return digit || plus || event.key() == Qt::Key_Minus;
+}
+
+void cReportHeader::ClickShown(int number) {
+    for (int place = 0; place < count(); ++place) {
+        const int column = logicalIndex(place);
+        if (isSectionHidden(column) || number-- > 0) continue;
+        if (OnClicked) OnClicked(column);
+        return;
+    }
+}
+
+void cReportHeader::Widen(int pixels) {
+    const int column = sortIndicatorSection();
+    const bool movable = column >= 0 && column < count() && !isSectionHidden(column) &&
+                         sectionResizeMode(column) == Interactive;
+    if (movable) resizeSection(column, std::clamp(sectionSize(column) + pixels, kMinDraggedWidth, kMaxWidth));
 }
 
 void cReportHeader::Resized(int column) {

@@ -18,6 +18,9 @@ class cReportHeader : public QHeaderView {
     void SetResizable(int column, bool resizable);
     // The mark of the sort order at a column.
     void ShowOrder(const cRecordOrder& order);
+    // What the mouse does with the headers: Ctrl+1 to Ctrl+9 click the first to the ninth that shows, Ctrl
+    // with plus or minus drags the edge of the one with the mark of the sort order. False for any other key.
+    bool HandleKey(const QKeyEvent& event);
 
     std::function<void(int column, int width)> OnResized;  // by the operator
     std::function<void(int column)> OnClicked;
@@ -29,6 +32,8 @@ class cReportHeader : public QHeaderView {
 
   private:
     void Resized(int column);
+    void ClickShown(int number);
+    void Widen(int pixels);
 
     bool m_Pressed = false;
     bool m_OwnChange = false;

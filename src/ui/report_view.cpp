@@ -65,6 +65,7 @@ void cReportView::keyPressEvent(QKeyEvent* event) {
     const int shift = ShiftState(event->modifiers());
     if (code != 0 && OnKeyDown) OnKeyDown(code, shift);
     if (IsOwnersKey(code, shift)) return event->accept();
+    if (m_Header->HandleKey(*event)) return event->accept();
     if (ChoosesRow(*event)) {
         event->accept();
         return ChooseRow(currentIndex());

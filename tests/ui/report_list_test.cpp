@@ -211,7 +211,48 @@ TEST_F(cReportListResizeTest, ShowingAndResizingTheWindowChangesNoWidth) {
     EXPECT_TRUE(m_Told.empty());
 }
 
+TEST_F(cReportListResizeTest, CtrlWithPlusAndMinusResizesTheColumnThatSorts) {
+    QTest::keyClick(&View(), Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_TRUE(m_Told.empty());  // none sorts yet
+    QTest::keyClick(&View(), Qt::Key_2, Qt::ControlModifier);
+    QTest::keyClick(&View(), Qt::Key_Plus, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(m_List.ColumnWidth(1), 320);
+    QTest::keyClick(&View(), Qt::Key_Minus, Qt::ControlModifier);
+    QTest::keyClick(&View(), Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ(m_List.ColumnWidth(1), 280);
+    EXPECT_EQ(m_Told, (std::vector<int>{1, 1, 1}));
+    m_List.SetColumnResizable(1, false);
+    QTest::keyClick(&View(), Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_EQ(m_List.ColumnWidth(1), 280);
+}
+
+TEST_F(cReportListResizeTest, AColumnCannotBeMadeUnreachableByKeys) {
+    QTest::keyClick(&View(), Qt::Key_1, Qt::ControlModifier);
+    for (int i = 0; i < 10; ++i) QTest::keyClick(&View(), Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ(m_List.ColumnWidth(0), 8);
+}
+
 // --- sorting by the headers
+
+TEST_F(cReportListTest, CtrlWithADigitSortsByTheColumnThatShowsThereAndTurnsTheOrder) {
+    const RecordId b = Add("b", 1), a = Add("a", 2);
+    m_List.TakeOverRecords();
+    m_List.Rows();
+    QTest::keyClick(&View(), Qt::Key_2, Qt::ControlModifier);
+    EXPECT_EQ(m_List.Rows(), (std::vector<RecordId>{a, b}));
+    QTest::keyClick(&View(), Qt::Key_2, Qt::ControlModifier | Qt::KeypadModifier);
+    EXPECT_EQ(m_List.Rows(), (std::vector<RecordId>{b, a}));
+    m_List.SetColumnWidth(0, 0);
+    QTest::keyClick(&View(), Qt::Key_1, Qt::ControlModifier);  // the text is the first that shows now
+    EXPECT_EQ(m_List.Rows(), (std::vector<RecordId>{a, b}));
+    for (const Qt::Key key : {Qt::Key_2, Qt::Key_9, Qt::Key_0}) {
+        QTest::keyClick(&View(), key, Qt::ControlModifier);  // no such column
+        EXPECT_EQ(m_List.Rows(), (std::vector<RecordId>{a, b}));
+    }
+    m_List.SetColumnSortable(1, false);
+    QTest::keyClick(&View(), Qt::Key_1, Qt::ControlModifier);
+    EXPECT_EQ(m_List.Rows(), (std::vector<RecordId>{a, b}));
+}
 
 TEST_F(cReportListTest, AClickOnAHeaderSortsByItAndASecondClickTurnsTheOrder) {
     const RecordId b = Add("b", 1), a = Add("a", 2);
