@@ -26,7 +26,7 @@ cDebugWindow::cDebugWindow(cOpenWindows& windows, cProtocolTrace& trace, const c
     AddMenu(texts);
     SetUpList();
     SetColumnWidths(settings);
-    resize(720, 400);
+    resize(1000, 420);  // a usual record is seen whole
     m_Trace.OnChange = [this] {
         if (m_SyncScheduled) return;
         m_SyncScheduled = true;
