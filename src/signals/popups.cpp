@@ -1,6 +1,5 @@
 #include "signals/popups.h"
 
-#include <algorithm>
 #include <vector>
 
 #include "common/code_page.h"
@@ -144,7 +143,7 @@ void cPopups::SetColours(cPopupWindow& window, const cVigrelRecieverAlarm& alarm
 
 void cPopups::SetFont(cPopupWindow& window) const {
     window.SetLabelFont(Trim(Setting("FontName", "MS Sans Serif")), Val(Setting("FontSize", "8")));
-    window.SetLabelFontStyle(Val(Setting("FontBold", "0")) != 0, Val(Setting("FontItalic", "0")) != 0);
+    window.SetLabelFontStyle(NumberSetting("FontBold", "0") != 0, NumberSetting("FontItalic", "0") != 0);
 }
 
 void cPopups::SetPlace(cPopupWindow& window, cSize size) const {
@@ -205,12 +204,10 @@ void cPopups::StackBehindChosen(Vigrel_Receiver_Popup& popup) {
 }
 
 Vigrel_Receiver_Popup* cPopups::SelectTopPopup(const Vigrel_Receiver_Popup* excluded) {
+    // With the present time as best stamp a popup whose category isn't listed takes part too, unless its
+    // stamp lies ahead: the clock was set back behind it.
     cBest best;
-    // Stamps begin at the present time: at the latest one there is, since a clock that was set back, as each
-    // autumn, must not put popups from before out of sight.
-    ForEachOther(excluded, [&](const Vigrel_Receiver_Popup& popup) {
-        best.stamp = std::max(best.stamp, popup.m_TimeStamp);
-    });
+    best.stamp = m_Services.clock.Now();
     ForEachOther(excluded, [&](Vigrel_Receiver_Popup& popup) { Consider(popup, best); });
     if (m_Services.settings.m_ViewOnlyOnePopupForm) {
         ForEachOther(excluded, [&](Vigrel_Receiver_Popup& popup) {

@@ -30,8 +30,8 @@ class cPopups {
     // leaves what is done by then: a popup that is loaded but lacks the rest.
     std::int32_t ShowPopup(const AlarmPtr& alarm);
     // The popup that stands first: lowest priority index, then oldest, then the last opened; excluded and
-    // windows of other kinds take no part. It shows and isn't minimised; when only one may show, the others
-    // are hidden. None: nullptr.
+    // windows of other kinds take no part, nor does a popup of an unlisted category whose stamp lies ahead of
+    // the clock. It shows and isn't minimised; when only one may show, the others are hidden. None: nullptr.
     Vigrel_Receiver_Popup* SelectTopPopup(const Vigrel_Receiver_Popup* excluded);
     // Closes all popups one by one, as if each was closed by the program. Does not fail: one that refuses
     // stays.

@@ -128,6 +128,12 @@ TEST_F(cShowPopup, BoldAndItalicAreAnyNumberButZero) {
     EXPECT_EQ(Steps("label font style"), "label font style italic");
 }
 
+TEST_F(cShowPopup, BoldAndItalicAreRoundedAsAllWholeNumbersAre) {
+    Configure("FontBold=0.5\nFontItalic=0.6\n");
+    Show("C");
+    EXPECT_EQ(Steps("label font style"), "label font style italic");
+}
+
 // --- place
 
 TEST_F(cShowPopup, ByDefaultTheWindowKeepsItsPlaceAndIsMovedAwayAroundTheShow) {

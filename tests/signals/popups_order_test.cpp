@@ -143,11 +143,35 @@ TEST_F(cOnePopup, TheExcludedPopupIsNeitherChosenNorHidden) {
     EXPECT_EQ(m_Maker.Visible(), "1 2");
 }
 
-TEST_F(cOnePopup, PopupsFromBeforeTheClockWasSetBackStayInSight) {
+TEST_F(cOnePopup, AStampOfThisVeryMomentIsEarlyEnough) {
+    Show("X");
+    EXPECT_EQ(&m_Popups.SelectTopPopup(nullptr)->m_Window, &m_Maker[1]);
+}
+
+TEST_F(cOnePopup, AnUnlistedPopupFromAheadOfTheClockWaitsUntilTheClockReachesIt) {
     Show("X");
     Show("Y");
     m_Clock.AddSeconds(-3600);
     m_Maker[1].Close();
+    EXPECT_EQ(m_Maker.Visible(), "");
+    EXPECT_EQ(m_Popups.SelectTopPopup(nullptr), nullptr);
+    m_Clock.AddSeconds(3600);
+    m_Popups.SelectTopPopup(nullptr);
+    EXPECT_EQ(m_Maker.Visible(), "2");
+}
+
+TEST_F(cOnePopup, AListedPopupFromAheadOfTheClockStaysInSight) {
+    Show("B");
+    Show("B");
+    m_Clock.AddSeconds(-3600);
+    m_Maker[1].Close();
+    EXPECT_EQ(m_Maker.Visible(), "2");
+}
+
+TEST_F(cOnePopup, BehindAClockSetBackTheNewestUnlistedPopupTakesOver) {
+    Show("X");
+    m_Clock.AddSeconds(-3600);
+    Show("Y");
     EXPECT_EQ(m_Maker.Visible(), "2");
 }
 
