@@ -190,6 +190,30 @@ const cRow kModifiers[] = {
 };
 INSTANTIATE_TEST_SUITE_P(Modifiers, EventText, ::testing::ValuesIn(kModifiers), NameOf);
 
+// The examples of section "Templates" of docs/manual.md.
+TEST(EventText, ExpandsTheExamplesOfTheManual) {
+    cEventTextStation station;
+    station.files.Put("C:\\App\\Vigrel_Texts.046", "838=Active\r\n");
+    station.texts.LoadTexts();
+    station.alarm.m_Alarm.SetCondition(1, "Building A");
+    station.alarm.m_Alarm.SetCondition(2, "Ventilation");
+    EXPECT_EQ(station.Expand("{ACTIVE?ALARM }{INACTIVE?over }[T0]"), "ALARM Fan 3 tripped");
+    EXPECT_EQ(station.Expand("[SENDER::6]!"), "PLC1  !");
+    EXPECT_EQ(station.Expand("[T0:0-4]"), "Fan 3");
+    EXPECT_EQ(station.Expand("[T0:6-999:4]!"), "trip!");
+    EXPECT_EQ(station.Expand("[R:fan:Pump][T0]"), "Pump 3 tripped");
+    EXPECT_EQ(station.Expand("[CF:tripped][T0]"), "Fan 3 ");
+    EXPECT_EQ(station.Expand("[CU:building ][T1]"), "A");
+    EXPECT_EQ(station.Expand("[CU:fan ][CF: trip][T0]"), "3");
+    EXPECT_EQ(station.Expand("[[SENDER]] [OBJECT]"), "[PLC1] Plant");
+    EXPECT_EQ(station.Expand("[STATUS] [STATUS$]"), "1 Active");
+    EXPECT_EQ(station.Expand("[WHAT]"), "[WHAT]");
+    EXPECT_EQ(station.Expand("{ACTIVE?ALARM}{INACTIVE?Over}{ACKED?Acknowledged}: [T2][13][10][T0]"),
+              "ALARM: Ventilation\r\nFan 3 tripped");
+    EXPECT_EQ(station.Expand("[STATUS$::10] [SENDER::12] [T2::12] [T0]"),
+              "Active     PLC1         Ventilation  Fan 3 tripped");
+}
+
 // --- messages
 
 std::string ExpandMessage(std::string_view message) {
