@@ -321,6 +321,27 @@ TEST_F(Running, AYesEndsTheStationInItsOrder) {
     EXPECT_NE(Log().find("T10021\nT10037"), std::string::npos) << Log();
 }
 
+TEST_F(Running, ClosingWithThreePopupsOpenClosesThemAndLeavesTheOtherWindowsUntouched) {
+    Ini("ViewPopupForm=1\r\n");
+    Start();
+    for (const char* text : {"a", "b", "c"}) Send("PLC1", "S1||" + std::string(text));
+    testing::cFakeWindow debugView("Vigrel_Receiver_Debug", &transcript, &windows);
+    debugView.Show();
+    int asked = 0, unloads = 0;
+    mainWindow.OnQueryUnload = [&](eCloseReason) { return ++asked > 0; };
+    mainWindow.OnUnload = [&] {
+        ++unloads;
+        if (unloads == 1) receiver->Form_Unload();
+    };
+    transcript.Take();
+    EXPECT_TRUE(mainWindow.CloseWith(eCloseReason::SessionEnd));
+    EXPECT_EQ(popups.Open(), "");
+    EXPECT_EQ(receiver->State().m_PopupFormCount, 0);
+    EXPECT_EQ(asked, 1);
+    EXPECT_EQ(unloads, 1);
+    EXPECT_EQ(transcript.Text().find("Vigrel_Receiver_Debug: closed"), std::string::npos);
+}
+
 TEST_F(Running, AForbiddenShutdownIsRefusedWithoutAQuestion) {
     Ini("DisableShutdown=1\r\n");
     Start();
