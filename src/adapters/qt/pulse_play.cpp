@@ -106,7 +106,8 @@ bool cPlay::Feed() {
     while (!m_SourceOver) {
         const std::size_t room = pa_stream_writable_size(m_Stream.get());
         if (room == static_cast<std::size_t>(-1)) return false;  // the stream is gone
-        if (room > 0) {
+        // Room for less than a frame is none.
+        if (room >= static_cast<std::size_t>(m_Source.Channels()) * sizeof(float)) {
             if (!Write(room)) return false;
             Moved();
         } else if (!Turn()) {
