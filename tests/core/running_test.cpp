@@ -118,6 +118,15 @@ TEST_F(Running, WithoutAFormatNoEventIsPrintedAndNoneIsMissed) {
     EXPECT_EQ(Log().find("T10038"), std::string::npos);
 }
 
+TEST_F(Running, APrintHasNoExtraTextThoughThePopupHas) {
+    Ini("ViewPopupForm=1\r\nEventPopupFormat=<[EXTRATEXT]>\r\nExtraText=Call\r\n",
+        "[Printer]\r\nFormat=<[EXTRATEXT]>\r\n");
+    Start();
+    Send("PLC1", "S1||Fan");
+    EXPECT_EQ(popups[1].m_LabelText, "<Call>");
+    EXPECT_EQ(printerPorts.m_Lines, std::vector<std::string>{"0:<>\r\n"});
+}
+
 TEST_F(Running, WithSoundForActiveEventsAnyOtherLeavesASignalAndItsFileAlone) {
     Ini("EventSignal=3\r\nEventSoundFile=a.wav\r\nEventSignalOnlyForActive=1\r\n",
         "[CategorySpecificSetting_Water]\r\nEventSignal=2\r\nEventSoundFile=b.wav\r\n");
