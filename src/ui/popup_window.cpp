@@ -249,6 +249,9 @@ cPopupWidgetMaker::cPopupWidgetMaker(cOpenWindows& windows) : m_Windows(windows)
         const QString path = QString(":/icons/popup/%1.svg").arg(i);
         if (QFile::exists(path)) m_Icons[static_cast<std::size_t>(i)] = QIcon(path);
     }
+    // In one size: each popup sends its icon to the window system anew, and there can be a thousand of them.
+    constexpr int kCaptionIcon = 32;
+    m_WindowIcon = QIcon(QIcon(":/icons/vigrel-receiver.svg").pixmap(kCaptionIcon));
 }
 
 cPopupWidgetMaker::~cPopupWidgetMaker() {
@@ -259,6 +262,7 @@ cPopupWidgetMaker::~cPopupWidgetMaker() {
 cPopupWindow& cPopupWidgetMaker::MakePopup() {
     if (m_Stack.Order().empty()) m_Step = 0;
     auto* popup = new cPopupWidget(m_Windows, m_Stack, m_Icons);
+    popup->setWindowIcon(m_WindowIcon);
     m_Windows.Enter(*popup);
     const QPoint place = NextPlace(popup->size());
     popup->SetLeft(ToTwips(place.x()));

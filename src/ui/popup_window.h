@@ -91,6 +91,7 @@ class cPopupWidgetMaker : public cPopupMaker {
 
     cOpenWindows& m_Windows;
     PopupIcons m_Icons;
+    QIcon m_WindowIcon;
     cPopupStack m_Stack;
     int m_Step = 0;
 };

@@ -92,6 +92,13 @@ TEST_F(cPopupWidgetTest, IsAmongTheOpenWindowsFromTheStart) {
     EXPECT_EQ(m_Windows.OpenWindows(), (std::vector<cWindow*>{&first, &second}));
 }
 
+TEST_F(cPopupWidgetTest, BearsTheProgramsIconInOneSizeAlone) {
+    const QIcon icon = Make().windowIcon();
+    EXPECT_EQ(icon.availableSizes(), QList<QSize>{QSize(32, 32)});
+    EXPECT_EQ(icon.pixmap(32).toImage(), QIcon(":/icons/vigrel-receiver.svg").pixmap(32).toImage());
+    EXPECT_NE(icon.pixmap(32).toImage().pixelColor(16, 16).alpha(), 0);
+}
+
 TEST_F(cPopupWidgetTest, TakesItsColours) {
     cPopupWidget& popup = Make();
     EXPECT_EQ(PixelAt(popup, {2, 2}), QColor(240, 240, 240));
