@@ -249,15 +249,17 @@ TEST_F(Running, AtTheChangeOfDateOldLogsAndAlarmsGo) {
     EXPECT_EQ(Log("20260415"), log);
 }
 
-TEST_F(Running, WithoutDayLimitTheChangeOfDateRemovesNoAlarm) {
+TEST_F(Running, WithoutDayLimitTheChangeOfDateRemovesNoAlarmButCleansLogsAndRepaints) {
     Ini("MaxDays=0\r\n");
     Start();
     timerKeepAlive.Tick();
     Send("PLC1", "S1||old");
+    list.AddRecord(nullptr);
     clock.AddSeconds(400.0 * 86400);
     timerKeepAlive.Tick();
     EXPECT_EQ(AlarmFiles().size(), 1u);
     EXPECT_FALSE(files.FileExists("C:\\App\\LogFiles\\20260315.Log"));
+    EXPECT_EQ(list.Rows().size(), 2u);
 }
 
 TEST_F(Running, TheChangeOfDateTakesOverRecordsThoughNothingWasRemoved) {
