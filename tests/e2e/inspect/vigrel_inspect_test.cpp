@@ -4,7 +4,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -133,16 +132,18 @@ TEST_F(VigrelInspect, SaysThatAFolderHoldsNoAlarms) {
     EXPECT_EQ(run.errors, "vigrel-inspect: App: there is no alarm file here, nor in its folder Alarms\n");
 }
 
-TEST_F(VigrelInspect, ExportsAHundredThousandAlarmsInSeconds) {
-    for (int i = 0; i < 100000; ++i) Put("App/Alarms/A" + Digits(i, 7) + ".alm", samples::kAlarm);
-    const auto start = std::chrono::steady_clock::now();
+TEST_F(VigrelInspect, ExportsEveryAlarmOfALargeFolder) {
+    constexpr int kAlarms = 2500;
+    for (int i = 0; i < kAlarms; ++i) Put("App/Alarms/A" + Digits(i, 7) + ".alm", samples::kAlarm);
     const cRun run = Run("App --alarms --csv");
-    const std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;
     EXPECT_EQ(run.exitCode, 0);
-    EXPECT_NE(run.errors.find("100000 files read, 100000 alarms exported, 0 files damaged\n"),
-              std::string::npos);
-    EXPECT_LT(took.count(), 20) << "on a machine that does nothing else it takes about two seconds";
-    RecordProperty("milliseconds", static_cast<int>(took.count() * 1000));
+    std::size_t at = 0;
+    for (int i = 0; i < kAlarms && at != std::string::npos; ++i) {
+        at = run.output.find("\"A" + Digits(i, 7) + ".alm\",", at);
+    }
+    EXPECT_NE(at, std::string::npos) << "an alarm is missing, or out of its order";
+    EXPECT_TRUE(run.errors.ends_with("2500 files read, 2500 alarms exported, 0 files damaged\n"))
+        << run.errors;
 }
 
 }  // namespace
