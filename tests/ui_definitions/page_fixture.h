@@ -5,6 +5,7 @@
 #include <QAbstractItemView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollArea>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
@@ -83,6 +84,27 @@ class PageTest : public ::testing::Test {
         widget->selectAll();
         if (text.isEmpty()) QTest::keyClick(widget, Qt::Key_Delete);
         QTest::keyClicks(widget, text);
+    }
+
+    // The fields of a form that scrolling can't bring into sight whole, or as much of them as fits, but for
+    // a line at the edge.
+    static std::string HiddenFields(QScrollArea& area) {
+        QStringList hidden;
+        for (QWidget* field : area.widget()->findChildren<QWidget*>()) {
+            if (!field->isVisible() || (field->focusPolicy() & Qt::TabFocus) == 0) continue;
+            const QPoint middle = field->mapTo(area.widget(), field->rect().center());
+            area.ensureVisible(middle.x(), middle.y(), field->width() / 2 + 1, field->height() / 2 + 1);
+            const QSize seen = field->visibleRegion().boundingRect().size();
+            const QSize wanted = field->size().boundedTo(area.viewport()->size());
+            if (seen.width() + 2 < wanted.width() || seen.height() + 2 < wanted.height())
+                hidden += QString("%1 shows %2x%3 of %4x%5")
+                              .arg(field->objectName())
+                              .arg(seen.width())
+                              .arg(seen.height())
+                              .arg(wanted.width())
+                              .arg(wanted.height());
+        }
+        return hidden.join('\n').toStdString();
     }
 
     testing::cFakeFiles m_Files;

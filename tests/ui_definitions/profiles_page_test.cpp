@@ -5,7 +5,9 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QSpinBox>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QUndoStack>
 
@@ -225,6 +227,22 @@ TEST_F(ProfilesPage, TheListShowsTheConditions) {
     EXPECT_EQ(Rows(Page()),
               "Night | Fire, *, \xC3\x96"
               "1 | 0012\n");
+}
+
+// As on a small screen at 200 %.
+TEST_F(ProfilesPage, InASmallWindowEveryFieldIsReachedAndTheTabsStayInSight) {
+    Page().resize(560, 320);
+    auto* tabs = Find<QTabWidget>(Page(), "Tabs_Profile");
+    ASSERT_EQ(tabs->count(), 7);
+    for (int tab = 0; tab < tabs->count(); ++tab) {
+        ShowTab(tab);
+        QTest::qWait(1);
+        EXPECT_EQ(tabs->tabBar()->visibleRegion().boundingRect(), tabs->tabBar()->rect()) << tab;
+        auto* area = qobject_cast<QScrollArea*>(tabs->currentWidget());
+        ASSERT_NE(area, nullptr) << tab;
+        EXPECT_GE(area->widget()->height(), area->widget()->minimumSizeHint().height()) << tab;
+        EXPECT_EQ(HiddenFields(*area), "") << tab;
+    }
 }
 
 }  // namespace

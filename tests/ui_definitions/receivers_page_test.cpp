@@ -261,5 +261,22 @@ TEST_F(ReceiversPage, EveryFieldHasANameForAssistiveTools) {
     }
 }
 
+// As on a small screen at 200 %.
+TEST_F(ReceiversPage, InASmallWindowEveryFieldIsReached) {
+    Page().resize(500, 260);
+    QTest::qWait(1);
+    auto* area = Page().findChild<QScrollArea*>();
+    ASSERT_NE(area, nullptr);
+    EXPECT_GE(area->widget()->height(), area->widget()->minimumSizeHint().height());
+    EXPECT_EQ(HiddenFields(*area), "");
+}
+
+TEST_F(ReceiversPage, InAHighWindowASettingStaysOneLine) {
+    Page().resize(1000, 1200);
+    QTest::qWait(1);
+    EXPECT_EQ(Find<QLineEdit>(Page(), "Text_Setting_0")->height(),
+              Find<QLineEdit>(Page(), "Text_ReceiverName")->height());
+}
+
 }  // namespace
 }  // namespace vigrel

@@ -4,7 +4,6 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QScrollArea>
 #include <QSortFilterProxyModel>
 #include <QSplitter>
 #include <QTableView>
@@ -13,6 +12,7 @@
 #include <algorithm>
 
 #include "ui/definitions/note_bar.h"
+#include "ui/definitions/scrolled.h"
 
 namespace vigrel {
 namespace {
@@ -30,16 +30,6 @@ QSortFilterProxyModel* MakeFilter(cDefinitionModel& model, QObject* parent) {
     filter->setDynamicSortFilter(false);
     filter->setSourceModel(&model);
     return filter;
-}
-
-QScrollArea* Scrolled(QWidget* widget) {
-    auto* area = new QScrollArea;
-    area->setWidget(widget);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    // The keyboard goes to the fields within, which the area follows.
-    area->setFocusPolicy(Qt::NoFocus);
-    return area;
 }
 
 }  // namespace

@@ -11,22 +11,37 @@
 #include "ui/definitions/profile_calendar.h"
 #include "ui/definitions/profile_schedule.h"
 #include "ui/definitions/receiver_picker.h"
+#include "ui/definitions/scrolled.h"
 #include "ui/definitions/system_grid.h"
 
 namespace vigrel {
+namespace {
+
+// Where there is little room, a field stands below its label.
+QFormLayout* MakeFields(QWidget* page) {
+    auto* layout = new QFormLayout(page);
+    layout->setRowWrapPolicy(QFormLayout::WrapLongRows);
+    return layout;
+}
+
+}  // namespace
 
 cProfileForm::cProfileForm(cEditorServices& editor, QWidget* parent)
     : QWidget(parent), m_Editor(editor), m_Tabs(new QTabWidget) {
     setObjectName("Form_Profile");
     m_Tabs->setObjectName("Tabs_Profile");
     m_Tabs->setAccessibleName(tr("Profile"));
-    m_Tabs->addTab(MakeGeneral(), tr("General"));
-    m_Tabs->addTab(MakeConditions(), tr("Conditions"));
-    m_Tabs->addTab(MakeReceivers(), tr("Receivers"));
-    m_Tabs->addTab(MakeSchedule(), tr("Schedule"));
-    m_Tabs->addTab(MakeCalendar(), tr("Calendar"));
-    m_Tabs->addTab(MakeExternal(), tr("External"));
-    m_Tabs->addTab(MakeSystems(), tr("Systems"));
+    // Each page scrolls by itself, so that the tabs stay in sight.
+    const auto add = [this](QWidget* page, const QString& caption) {
+        m_Tabs->addTab(Scrolled(page), caption);
+    };
+    add(MakeGeneral(), tr("General"));
+    add(MakeConditions(), tr("Conditions"));
+    add(MakeReceivers(), tr("Receivers"));
+    add(MakeSchedule(), tr("Schedule"));
+    add(MakeCalendar(), tr("Calendar"));
+    add(MakeExternal(), tr("External"));
+    add(MakeSystems(), tr("Systems"));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_Tabs);
@@ -38,7 +53,7 @@ cProfileForm::cProfileForm(cEditorServices& editor, QWidget* parent)
 
 QWidget* cProfileForm::MakeGeneral() {
     auto* page = new QWidget;
-    auto* layout = new QFormLayout(page);
+    auto* layout = MakeFields(page);
     m_Name = m_Binder.Text(
         "Text_ProfileName", tr("Name"), [](const cProfile& profile) { return profile.GetName(); },
         [](cProfile& profile, const std::string& name) { profile.SetName(name); });
@@ -57,6 +72,7 @@ QWidget* cProfileForm::MakeGeneral() {
                                                                &cProfile::m_OffDutyAlarmBehaviour));
     m_File = new QLabel;
     m_File->setObjectName("Label_File");
+    m_File->setWordWrap(true);
     m_File->setTextInteractionFlags(Qt::TextSelectableByMouse);
     layout->addRow(tr("File:"), m_File);
     m_Binder.AddShow([this](const cProfile& profile) { ShowFile(profile); });
@@ -76,7 +92,7 @@ void cProfileForm::ShowFile(const cProfile& profile) {
 
 QWidget* cProfileForm::MakeConditions() {
     auto* page = new QWidget;
-    auto* layout = new QFormLayout(page);
+    auto* layout = MakeFields(page);
     for (std::int16_t i = 0; i < cProfile::kConditions; ++i) {
         const QByteArray objectName = QString("Text_Condition_%1").arg(i).toLatin1();
         layout->addRow(
@@ -150,7 +166,7 @@ QWidget* cProfileForm::MakeCalendar() {
 
 QWidget* cProfileForm::MakeExternal() {
     auto* page = new QWidget;
-    auto* layout = new QFormLayout(page);
+    auto* layout = MakeFields(page);
     layout->addRow(
         "", m_Binder.Flag("Check_UseExternalTag", tr("Use an external &tag"), &cProfile::m_UseExternalTag));
     layout->addRow(tr("Tag &name:"),

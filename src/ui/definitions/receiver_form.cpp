@@ -15,6 +15,8 @@ cReceiverForm::cReceiverForm(const cDefinitionServices& services, QWidget* paren
     setObjectName("Form_Receiver");
     auto* layout = new QFormLayout(this);
     layout->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    // Where there is little room, a field stands below its label.
+    layout->setRowWrapPolicy(QFormLayout::WrapLongRows);
     m_Name = m_Binder.Text("Text_ReceiverName", tr("Name"), &cReceiver::m_ReceiverName);
     layout->addRow(tr("Na&me:"), m_Name);
     layout->addRow("", m_Binder.Flag("Check_Enabled", tr("En&abled: alarms go to this receiver"),
@@ -28,6 +30,7 @@ cReceiverForm::cReceiverForm(const cDefinitionServices& services, QWidget* paren
     layout->addRow(tr("&Parallel numbers:"), numbers);
     layout->addRow(tr("File:"), m_File);
     m_File->setObjectName("Label_File");
+    m_File->setWordWrap(true);
     m_File->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
     AddTypes();

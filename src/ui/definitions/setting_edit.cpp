@@ -50,6 +50,8 @@ cSettingEdit::cSettingEdit(int index, QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(m_Fields);
     layout->addWidget(m_Problem);
+    // One line, however high the form.
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setFocusProxy(m_Text);
     connect(m_Text, &QLineEdit::textEdited, this, [this](const QString& text) { EditText(text); });
     connect(m_Choice, &QComboBox::activated, this, [this](int choice) { EditChoice(choice); });

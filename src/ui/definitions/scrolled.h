@@ -1,0 +1,10 @@
+#pragma once
+
+class QWidget;
+
+namespace vigrel {
+
+// The widget within an area that scrolls as soon as it doesn't fit. The area owns it.
+QWidget* Scrolled(QWidget* widget);
+
+}  // namespace vigrel
