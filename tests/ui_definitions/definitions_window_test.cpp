@@ -303,5 +303,17 @@ TEST_F(DefinitionsWindow, APageWithoutFileOrUndoIsSavedAndClosedLikeTheOthers) {
     EXPECT_TRUE(m_Window->close());
 }
 
+// So that the keys of the page work before the mouse was in it.
+TEST_F(DefinitionsWindow, APageOfTheStationHasTheKeyboardAtOnce) {
+    const auto focused = [this] { return m_Window->focusWidget()->objectName().toStdString(); };
+    m_Window->ShowReceivers();
+    EXPECT_EQ(focused(), "List_Definitions");
+    m_Window->ShowColourRules();
+    EXPECT_EQ(focused(), "List_Rules");
+    m_Window->ShowProfiles();
+    EXPECT_EQ(focused(), "List_Definitions");
+    EXPECT_TRUE(m_Window->CurrentPage()->isAncestorOf(m_Window->focusWidget()));
+}
+
 }  // namespace
 }  // namespace vigrel::testing

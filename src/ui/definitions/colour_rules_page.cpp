@@ -118,6 +118,7 @@ QList<QAction*> cColourRulesPage::EditActions() const {
 }
 
 void cColourRulesPage::MakeTable() {
+    setFocusProxy(m_Table);
     m_Table->setObjectName("List_Rules");
     m_Table->setAccessibleName(tr("Colour rules, tried from the first to the last"));
     m_Table->setHorizontalHeaderLabels(

@@ -106,6 +106,7 @@ QList<QAction*> cDefinitionPage::EditActions() const {
 
 void cDefinitionPage::MakeList() {
     m_List->setObjectName("List_Definitions");
+    setFocusProxy(m_List);
     m_List->setAccessibleName(m_Words.title);
     m_List->setModel(m_Filter);
     m_List->setSelectionBehavior(QAbstractItemView::SelectRows);
