@@ -5,6 +5,7 @@
 #include <chrono>
 #include <ctime>
 
+#include "common/binary.h"
 #include "e2e/definitions/editor_program.h"
 #include "schedule/schedule_builder.h"
 #include "support/samples.h"
@@ -123,6 +124,107 @@ TEST_F(DefinitionsFiles, UnsavedChangesAreAskedForAtTheEnd) {
     Keys({"ctrl+q"});
     EXPECT_EQ(WaitForEnd(), 0);
 }
+
+class DefinitionsOfAStation : public ::testing::TestWithParam<int>, protected cEditorProgram {
+  protected:
+    void ShowPage(const std::string& keys, const std::string& title) {
+        Keys({keys});
+        ASSERT_TRUE(HasTitle(title + " - Vigrel Definitions"));
+    }
+    void SavePage(const std::string& title) {
+        ASSERT_TRUE(HasTitle(title + "* - Vigrel Definitions"));
+        Keys({"ctrl+s"});
+        ASSERT_TRUE(HasTitle(title + " - Vigrel Definitions"));
+    }
+    // From the search field to the list: in a text field the keys delete a word.
+    void DeleteChosen() {
+        Keys({"ctrl+f", "Tab", "ctrl+Delete"});
+        ASSERT_TRUE(EnterDialog("Vigrel Definitions"));
+        Type("y");
+    }
+    void End() {
+        Keys({"ctrl+q"});
+        EXPECT_EQ(WaitForEnd(), 0);
+    }
+};
+
+// A saved receiver without the moment of its save: its identity is in the name of its file.
+std::string ReceiverBytes(const std::string& fileName, const std::string& name, const std::string& numbers) {
+    cBinaryWriter file;
+    file.Int16(5);
+    file.Int16(static_cast<std::int16_t>(std::stoi(fileName.substr(9, 4))));
+    file.Int16(-1);
+    file.Int16(1);  // the printer
+    file.String(name);
+    for (int setting = 0; setting < 4; ++setting) file.Int16(0);
+    file.Zeros(10);
+    file.String(numbers);
+    return file.Bytes();
+}
+
+TEST_P(DefinitionsOfAStation, AReceiverIsMadeSavedReopenedChangedAndDeleted) {
+    Put("ReceiverTypes.txt", "1; PRINTER; Printer\n");
+    StartScaled(GetParam());
+    ShowPage("ctrl+r", "Receivers");
+    Keys({"ctrl+Insert"});
+    Type("Duty");
+    Keys({"alt+t"});
+    Type("Printer");
+    Keys({"alt+p"});
+    Type("12;13");
+    SavePage("Receivers");
+    const std::string name = OnlyFileIn("Receivers");
+    ASSERT_TRUE(name.starts_with("Receiver_")) << name;
+    EXPECT_TRUE(Bytes("Receivers/" + name).starts_with(ReceiverBytes(name, "Duty", "12;13")));
+
+    Keys({"ctrl+w"});
+    ASSERT_TRUE(HasTitle("Vigrel Definitions"));
+    ShowPage("ctrl+r", "Receivers");
+    Keys({"alt+m", "ctrl+a"});
+    Type("Night");
+    SavePage("Receivers");
+    EXPECT_EQ(OnlyFileIn("Receivers"), name);
+    EXPECT_TRUE(Bytes("Receivers/" + name).starts_with(ReceiverBytes(name, "Night", "12;13")));
+
+    DeleteChosen();
+    EXPECT_TRUE(BecomesEmpty("Receivers"));
+    End();
+}
+
+// Where the off duty behaviour stands behind a name of five characters and otherwise empty texts.
+constexpr std::size_t kOffDuty = 187;
+
+TEST_P(DefinitionsOfAStation, AProfileIsMadeSavedReopenedChangedAndDeleted) {
+    StartScaled(GetParam());
+    ShowPage("ctrl+p", "Profiles");
+    Keys({"ctrl+Insert"});
+    Type("Night");
+    Keys({"alt+o", "ctrl+a"});
+    Type("258");
+    SavePage("Profiles");
+    const std::string name = OnlyFileIn("Profiles");
+    ASSERT_TRUE(name.starts_with("Profile_")) << name;
+    const std::string made = Bytes("Profiles/" + name);
+    EXPECT_TRUE(made.starts_with(std::string("\5\0\0\0\xFF\xFF\5\0Night", 13))) << name;
+    EXPECT_EQ(made.substr(kOffDuty, 2), "\2\1");
+
+    Keys({"ctrl+w"});
+    ASSERT_TRUE(HasTitle("Vigrel Definitions"));
+    ShowPage("ctrl+p", "Profiles");
+    Keys({"alt+a"});
+    SavePage("Profiles");
+    EXPECT_EQ(OnlyFileIn("Profiles"), name);
+    const std::string changed = Bytes("Profiles/" + name);
+    EXPECT_TRUE(changed.starts_with(std::string("\5\0\0\0\0\0\5\0Night", 13)));
+    EXPECT_EQ(changed.substr(kOffDuty, 2), "\2\1");
+    EXPECT_EQ(changed.size(), made.size());
+
+    DeleteChosen();
+    EXPECT_TRUE(BecomesEmpty("Profiles"));
+    End();
+}
+
+INSTANTIATE_TEST_SUITE_P(Scale, DefinitionsOfAStation, ::testing::Values(1, 2));
 
 }  // namespace
 }  // namespace vigrel::testing

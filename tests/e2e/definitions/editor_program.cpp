@@ -56,6 +56,7 @@ void cEditorProgram::Start(int zoom, const std::vector<std::string>& files) {
         setenv("VIGREL_APPLICATION_PATH", m_Folder.Path().c_str(), 1);
         setenv("XDG_CONFIG_HOME", Path("config").c_str(), 1);
         setenv("QT_QPA_PLATFORM", "xcb", 1);
+        setenv("QT_SCALE_FACTOR", std::to_string(m_Scale).c_str(), 1);
         setenv("LC_ALL", "C.UTF-8", 1);
         std::vector<std::string> words{VIGREL_DEFINITIONS};
         words.insert(words.end(), files.begin(), files.end());
@@ -67,6 +68,11 @@ void cEditorProgram::Start(int zoom, const std::vector<std::string>& files) {
         _exit(127);
     }
     m_Window = FindWindow(m_Process, kTitle);
+}
+
+void cEditorProgram::StartScaled(int scale) {
+    m_Scale = scale;
+    Start(1);
 }
 
 cEditorProgram::~cEditorProgram() {
@@ -115,6 +121,25 @@ std::string cEditorProgram::File(const std::string& name, std::size_t size) cons
         return std::filesystem::file_size(Path(name), error) == size && !error;
     });
     return Content(Path(name));
+}
+
+std::string cEditorProgram::Bytes(const std::string& name) const {
+    return Content(Path(name));
+}
+
+void cEditorProgram::Put(const std::string& name, const std::string& bytes) const {
+    std::ofstream(Path(name), std::ios::binary) << bytes;
+}
+
+std::string cEditorProgram::OnlyFileIn(const std::string& folder) const {
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(Path(folder)))
+        names.push_back(entry.path().filename().string());
+    return names.size() == 1 ? names.front() : "";
+}
+
+bool cEditorProgram::BecomesEmpty(const std::string& folder) const {
+    return Eventually([&] { return std::filesystem::is_empty(Path(folder)); });
 }
 
 // The uppermost line of an axis is the only long one of its grey.

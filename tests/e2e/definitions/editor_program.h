@@ -16,6 +16,8 @@ class cEditorProgram {
     ~cEditorProgram();
     // Shows units of so many pixels.
     void Start(int zoom, const std::vector<std::string>& files = {});
+    // The same on a screen that shows everything so many times as large.
+    void StartScaled(int scale);
     // Waits for the program's own end; its exit code, -1 when it doesn't end in time.
     int WaitForEnd();
     // Waits until the window has the title.
@@ -29,6 +31,13 @@ class cEditorProgram {
     std::string Path(const std::string& name) const { return (m_Folder.Path() / name).string(); }
     // Waits for a file of that size, and reads it.
     std::string File(const std::string& name, std::size_t size) const;
+
+    std::string Bytes(const std::string& name) const;
+    void Put(const std::string& name, const std::string& bytes) const;
+    // The name of the only file in a folder; empty when there is none or another one.
+    std::string OnlyFileIn(const std::string& folder) const;
+    // Waits until a folder holds no file.
+    bool BecomesEmpty(const std::string& folder) const;
 
     // Finds the axis of the schedule's first row on the screen.
     bool FindAxis();
@@ -45,7 +54,7 @@ class cEditorProgram {
   private:
     cTemporaryFolder m_Folder;
     pid_t m_Process = -1;
-    int m_Zoom = 1;
+    int m_Zoom = 1, m_Scale = 1;
     std::string m_Window;  // that has the keyboard
     cPixelPlace m_Axis, m_FirstSunday;
 };
