@@ -71,13 +71,13 @@ void cReceiver::SetReceiverTypeId(std::int16_t TypeId) {
     m_ReceiverTypeIndex = m_Services.receiverTypes.RowOf(TypeId);
     if (m_ReceiverTypeIndex < 0) {
         m_ReceiverTypeName = "(" + m_Services.texts.GetText(1088) + ": " + Digits(TypeId, 4) + ")";
-        return;
+    } else {
+        const cReceiverType& type =
+            m_Services.receiverTypes.m_ReceiverTypes[static_cast<std::size_t>(m_ReceiverTypeIndex)];
+        m_ReceiverTypeName = type.m_TypeName;
+        m_KeepAliveInterval = 0;
+        SkipFailure([&] { ReadKeepAliveInterval(type); });
     }
-    const cReceiverType& type =
-        m_Services.receiverTypes.m_ReceiverTypes[static_cast<std::size_t>(m_ReceiverTypeIndex)];
-    m_ReceiverTypeName = type.m_TypeName;
-    m_KeepAliveInterval = 0;
-    SkipFailure([&] { ReadKeepAliveInterval(type); });
     m_LastKeepAlive = m_KeepAliveInterval > 0 ? m_Services.clock.Now() : 0;
 }
 

@@ -46,7 +46,8 @@ class cReceiver {
     // partly filled and must not be saved.
     bool LoadFromDisk(std::int16_t DiskIdentity);
     bool SaveToDisk();
-    // Sets the type's name and row too. The supervision starts anew, by the settings held at this moment.
+    // Sets the type's name and row too. The supervision starts anew, by the settings held at this moment; a
+    // type that the table lacks leaves the interval as it was.
     void SetReceiverTypeId(std::int16_t TypeId);
     void RememberOriginalSettings();
 

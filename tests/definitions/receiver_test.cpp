@@ -487,6 +487,19 @@ TEST_F(ReceiverTest, OtherKindsHaveNoKeepAlive) {
     EXPECT_EQ(receiver.m_LastKeepAlive, 0);
 }
 
+TEST_F(ReceiverTest, AnUnknownTypeKeepsTheIntervalAndCountsItFromNow) {
+    cReceiver receiver(m_Services);
+    receiver.SetReceiverTypeId(42);
+    EXPECT_EQ(receiver.m_KeepAliveInterval, 0);
+    EXPECT_EQ(receiver.m_LastKeepAlive, 0);
+    receiver.SaveSetting(1, cVariant::Int16(30));
+    receiver.SetReceiverTypeId(7);
+    m_Clock.AddSeconds(20);
+    receiver.SetReceiverTypeId(42);
+    EXPECT_EQ(receiver.m_KeepAliveInterval, 30);
+    EXPECT_EQ(receiver.m_LastKeepAlive, m_Clock.Now());
+}
+
 TEST_F(ReceiverTest, ALoadWorksOutTheKeepAliveBeforeItTakesTheSettings) {
     cReceiver receiver(m_Services);
     receiver.SaveSetting(1, cVariant::Int16(15));
