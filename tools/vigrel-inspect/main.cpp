@@ -2,9 +2,9 @@
 
 #include <unistd.h>
 
-#include <chrono>
 #include <cstdio>
 
+#include "adapters/linux/clock.h"
 #include "adapters/linux/files.h"
 #include "common/code_page.h"
 #include "common/failure.h"
@@ -12,6 +12,7 @@
 #include "vigrel-inspect/alarm_export.h"
 #include "vigrel-inspect/options.h"
 #include "vigrel-inspect/print.h"
+#include "vigrel-inspect/progress.h"
 
 namespace vigrel {
 namespace {
@@ -31,32 +32,13 @@ void Print(const std::string& utf8) {
     }
 }
 
-// One line on standard error that keeps up with the work: rewritten in place on a terminal, seldom and line
-// by line elsewhere.
-class cProgress {
-  public:
-    void Show(std::size_t done, std::size_t all) {
-        const auto now = std::chrono::steady_clock::now();
-        if (now - m_Last < (m_Terminal ? std::chrono::milliseconds(100) : std::chrono::milliseconds(1000)))
-            return;
-        m_Last = now;
-        std::fprintf(stderr, "%s%zu of %zu files read%s", m_Terminal ? "\r" : "", done, all,
-                     m_Terminal ? "" : "\n");
-        std::fflush(stderr);
-    }
-    void Finish(const cExportResult& result) const {
-        std::fprintf(stderr, "%s%zu files read, %zu alarms exported, %zu files damaged\n",
-                     m_Terminal ? "\r" : "", result.files, result.alarms, result.damaged);
-    }
-
-  private:
-    bool m_Terminal = isatty(STDERR_FILENO) != 0;
-    std::chrono::steady_clock::time_point m_Last = std::chrono::steady_clock::now();
-};
-
 int Export(const cInspectOptions& options) {
     const cLinuxFiles files;
-    cProgress progress;
+    const cSystemClock clock;
+    cProgress progress(clock, isatty(STDERR_FILENO) != 0, [](const std::string& text) {
+        std::fputs(text.c_str(), stderr);
+        std::fflush(stderr);
+    });
     const auto show = [&](std::size_t done, std::size_t all) {
         if (!options.quiet) progress.Show(done, all);
     };
