@@ -80,6 +80,24 @@ TEST_F(ColourRulesPage, TypedTagsShowTheColoursOfTheFirstRuleThatMatches) {
     EXPECT_EQ(Preview().item(0, 1)->text().toStdString(), "none");
 }
 
+TEST_F(ColourRulesPage, RulesThatAreHardToReadAreNamedWithTheirLeastContrast) {
+    Put("ColourRules.txt", kContent);
+    auto* label = Find<QLabel>(Page(), "Label_HardToRead");
+    EXPECT_FALSE(label->isVisible());
+    // Grey on white is hard to read only where the ground is darker: flashing.
+    Press(Page(), "Button_Add");
+    Rules().item(1, 3)->setText("110,110,110");
+    EXPECT_TRUE(label->isVisible());
+    EXPECT_EQ(label->text().toStdString(),
+              "Hard to read, by rule and least contrast (4.5 is readable): 2 (3.0)");
+    Rules().item(0, 3)->setText("10,20,30");
+    EXPECT_EQ(label->text().toStdString(),
+              "Hard to read, by rule and least contrast (4.5 is readable): 1 (1.0), 2 (3.0)");
+    Rules().item(0, 3)->setText("255,255,255");
+    Rules().item(1, 3)->setText("0,0,0");
+    EXPECT_FALSE(label->isVisible());
+}
+
 TEST_F(ColourRulesPage, AWrongFieldIsToldAndKeepsItsValue) {
     Put("ColourRules.txt", kContent);
     Rules().item(0, 1)->setText("300");

@@ -3,10 +3,13 @@
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHeaderView>
+#include <QLabel>
 #include <QPlainTextEdit>
 #include <QSpinBox>
 #include <QTableWidget>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <cmath>
 
 #include "adapters/qt/qt_text.h"
 #include "categories/colour_rules.h"
@@ -38,7 +41,8 @@ cColourPreview::cColourPreview(QWidget* parent)
       m_Tags(new QPlainTextEdit),
       m_Category(NumberBox("Number_Preview_Category")),
       m_Area(NumberBox("Number_Preview_Area")),
-      m_Table(new QTableWidget(0, 5)) {
+      m_Table(new QTableWidget(0, 5)),
+      m_HardToRead(new QLabel) {
     setObjectName("Preview_Colours");
     m_Tags->setObjectName("Text_Preview_Tags");
     m_Tags->setAccessibleName(tr("Tags to try"));
@@ -63,6 +67,9 @@ cColourPreview::cColourPreview(QWidget* parent)
     auto* inside = new QVBoxLayout(box);
     inside->addLayout(fields, 1);
     inside->addWidget(m_Table, 2);
+    m_HardToRead->setObjectName("Label_HardToRead");
+    m_HardToRead->setWordWrap(true);
+    inside->addWidget(m_HardToRead);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(box);
@@ -80,6 +87,25 @@ void cColourPreview::Refresh() {
     const QStringList tags = m_Tags->toPlainText().split('\n', Qt::SkipEmptyParts);
     m_Table->setRowCount(static_cast<int>(tags.size()));
     for (int row = 0; row < m_Table->rowCount(); ++row) ShowTag(row, tags[row]);
+    ShowReadability();
+}
+
+// Of all rules, since the one that nobody tried is the one that an operator can't read at night.
+void cColourPreview::ShowReadability() {
+    QStringList rules;
+    for (std::size_t i = 0; i < m_Rules.size(); ++i) {
+        const cUserColor& rule = m_Rules[i];
+        const double contrast = std::min({Contrast(rule.m_ForeColor, rule.m_BackColor),
+                                          Contrast(rule.m_ForeColor, rule.m_BackColorFade),
+                                          Contrast(rule.m_ForeColor, rule.m_BackColorFlash)});
+        if (contrast >= kReadableContrast) continue;
+        // Cut, not rounded: 4.46 is not the 4.5 that is asked for.
+        rules += tr("%1 (%2)").arg(i + 1).arg(std::floor(contrast * 10) / 10, 0, 'f', 1);
+    }
+    m_HardToRead->setText(tr("Hard to read, by rule and least contrast (%1 is readable): %2")
+                              .arg(kReadableContrast, 0, 'f', 1)
+                              .arg(rules.join(", ")));
+    m_HardToRead->setVisible(!rules.isEmpty());
 }
 
 void cColourPreview::ShowTag(int row, const QString& tag) {

@@ -5,6 +5,7 @@
 
 #include "categories/cUserColor.h"
 
+class QLabel;
 class QPlainTextEdit;
 class QSpinBox;
 class QTableWidget;
@@ -12,7 +13,7 @@ class QTableWidget;
 namespace vigrel {
 
 // Shows what colour rules make of tags that the user types: which rule matches each, and its colours in a
-// row, in every other row, and flashing.
+// row, in every other row, and flashing. Names the rules whose text is hard to read on its ground.
 class cColourPreview : public QWidget {
     Q_OBJECT
   public:
@@ -24,11 +25,13 @@ class cColourPreview : public QWidget {
   private:
     void Refresh();
     void ShowTag(int row, const QString& tag);
+    void ShowReadability();
 
     std::vector<cUserColor> m_Rules;
     QPlainTextEdit* m_Tags;
     QSpinBox *m_Category, *m_Area;
     QTableWidget* m_Table;
+    QLabel* m_HardToRead;
 };
 
 }  // namespace vigrel
