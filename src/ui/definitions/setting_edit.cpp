@@ -1,6 +1,7 @@
 #include "ui/definitions/setting_edit.h"
 
 #include <QComboBox>
+#include <QEvent>
 #include <QLabel>
 #include <QStackedLayout>
 #include <QVBoxLayout>
@@ -41,7 +42,6 @@ cSettingEdit::cSettingEdit(int index, QWidget* parent)
     m_Choice->setObjectName(QString("Combo_Setting_%1").arg(index));
     m_Choice->addItems({"", tr("Yes"), tr("No")});
     m_Problem->setObjectName(QString("Label_Setting_%1_Problem").arg(index));
-    m_Problem->setStyleSheet("color: #b00000");
     m_Problem->setWordWrap(true);
     m_Problem->hide();
     m_Fields->addWidget(m_Text);
@@ -53,6 +53,7 @@ cSettingEdit::cSettingEdit(int index, QWidget* parent)
     // One line, however high the form.
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setFocusProxy(m_Text);
+    ColourProblem();
     connect(m_Text, &QLineEdit::textEdited, this, [this](const QString& text) { EditText(text); });
     connect(m_Choice, &QComboBox::activated, this, [this](int choice) { EditChoice(choice); });
 }
@@ -87,6 +88,19 @@ void cSettingEdit::EditChoice(int choice) {
 void cSettingEdit::ShowProblem(const QString& problem) {
     m_Problem->setText(problem);
     m_Problem->setVisible(!problem.isEmpty());
+}
+
+// A red that is readable on the desktop's ground, be it light or dark.
+void cSettingEdit::ColourProblem() {
+    const bool dark = palette().color(QPalette::Window).lightness() < 128;
+    QPalette colours = m_Problem->palette();
+    colours.setColor(QPalette::WindowText, dark ? QColor(255, 150, 150) : QColor(176, 0, 0));
+    m_Problem->setPalette(colours);
+}
+
+void cSettingEdit::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) ColourProblem();
 }
 
 QString cSettingEdit::Problem() const {

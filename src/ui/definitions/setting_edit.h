@@ -25,11 +25,15 @@ class cSettingEdit : public QWidget {
     QString Problem() const;
     std::function<void(const cVariant&)> OnEdited;
 
+  protected:
+    void changeEvent(QEvent* event) override;
+
   private:
     static QString Hint(eVariantType type);
     void EditText(const QString& text);
     void EditChoice(int choice);
     void ShowProblem(const QString& problem);
+    void ColourProblem();
 
     eVariantType m_Type = eVariantType::String;
     cTextEdit* m_Text;
