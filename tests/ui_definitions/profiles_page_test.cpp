@@ -2,6 +2,7 @@
 
 #include <QAbstractItemView>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
@@ -11,6 +12,7 @@
 #include <QTabWidget>
 #include <QUndoStack>
 
+#include "ui/definitions/calendar_page.h"
 #include "ui/definitions/profile_schedule.h"
 #include "ui_definitions/page_fixture.h"
 
@@ -48,6 +50,13 @@ class ProfilesPage : public PageTest {
         QMenu* menu = Find<QPushButton>(Page(), button)->menu();
         emit menu->aboutToShow();
         return menu->actions();
+    }
+    // Gives one day of a calendar another type, by mouse.
+    static void MarkADay(cCalendarPage& calendar) {
+        calendar.ShowMonth(2026, 6);
+        Find<QComboBox>(calendar, "Combo_Calendar_DayType")->setCurrentIndex(8);
+        auto* view = Find<QWidget>(calendar, "Picture_Calendar");
+        QTest::mouseClick(view, Qt::LeftButton, {}, QPoint(50, 32));
     }
     cProfile& Shown() { return m_Station.Profiles().At(static_cast<std::size_t>(Page().Chosen())); }
     cProfileSchedule& Schedule() { return *Page().findChild<cProfileSchedule*>(); }
@@ -214,6 +223,30 @@ TEST_F(ProfilesPage, AnotherProfileHasAScheduleOfItsOwn) {
     EXPECT_EQ(Shown().m_TimeSchedule->m_UseCalendar, True16);
     EXPECT_TRUE(Find<QCheckBox>(Page(), "Check_TimeSchedule_UseCalendar")->isChecked());
     EXPECT_FALSE(Page().UndoStack()->canUndo());
+}
+
+TEST_F(ProfilesPage, AnotherCalendarIsOpenedOnlyWhenTheChangedOneIsSavedOrGivenUp) {
+    using eSave = cPrompts::eSave;
+    const std::string empty(29220, '\0');
+    std::string other = empty;
+    other[0] = 9;
+    Put("Calendar.cal", empty);
+    Put("Other.cal", other);
+    ShowTab(4);
+    cCalendarPage& calendar = *Page().findChild<cCalendarPage*>();
+    for (const eSave answer : {eSave::Cancel, eSave::Save, eSave::Discard}) {
+        const bool saved = answer == eSave::Save;
+        Put("Calendar.cal", empty);
+        ASSERT_TRUE(calendar.Open(Path("Calendar.cal")));
+        MarkADay(calendar);
+        ASSERT_TRUE(calendar.IsDirty());
+        m_Prompts.m_Texts = {"C:/App/Other.cal"};
+        m_Prompts.m_SaveAnswers = {answer};
+        Press(Page(), "Button_OpenCalendar");
+        EXPECT_EQ(OnDisk("Calendar.cal") != empty, saved);
+        EXPECT_EQ(calendar.IsDirty(), answer == eSave::Cancel);
+        EXPECT_EQ(LabelOf(Page(), "Label_Calendar").ends_with("Other.cal"), answer != eSave::Cancel);
+    }
 }
 
 TEST_F(ProfilesPage, AVersion4FileIsToldAsBroughtUp) {

@@ -52,18 +52,21 @@ void cProfileCalendar::Choose() {
     const QString path = m_Services.m_Prompts.AskOpenPath(
         this, ToQString(m_Services.m_Ini.ApplicationPath()).replace('\\', '/'),
         tr("Calendars (*.cal);;All files (*)"));
-    if (path.isEmpty()) return;
-    if (m_Page->IsDirty() &&
-        m_Services.m_Prompts.AskToSave(this, m_Page->Title()) != cPrompts::eSave::Discard &&
-        !m_Page->Save()) {
-        return;
-    }
+    if (path.isEmpty() || !MayLeave()) return;
     if (!FitsCodePage(path)) {
         m_Services.m_Prompts.ShowFailure(this,
                                          tr("%1 has characters that file names here can't have.").arg(path));
         return;
     }
     m_Page->Open(FromQString(path));
+}
+
+// Whether the shown calendar's changes are saved or given up.
+bool cProfileCalendar::MayLeave() {
+    if (!m_Page->IsDirty()) return true;
+    const cPrompts::eSave answer = m_Services.m_Prompts.AskToSave(this, m_Page->Title());
+    if (answer == cPrompts::eSave::Save) return m_Page->Save();
+    return answer == cPrompts::eSave::Discard;
 }
 
 void cProfileCalendar::Remember(const QString& path) {

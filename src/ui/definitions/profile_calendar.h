@@ -26,6 +26,7 @@ class cProfileCalendar : public QWidget {
   private:
     void OpenRemembered();
     void Choose();
+    bool MayLeave();
     void Remember(const QString& path);
 
     cEditorServices& m_Services;
