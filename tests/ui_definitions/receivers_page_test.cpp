@@ -1,6 +1,7 @@
 #include "ui/definitions/receivers_page.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -269,6 +270,17 @@ TEST_F(ReceiversPage, InASmallWindowEveryFieldIsReached) {
     ASSERT_NE(area, nullptr);
     EXPECT_GE(area->widget()->height(), area->widget()->minimumSizeHint().height());
     EXPECT_EQ(HiddenFields(*area), "");
+}
+
+TEST_F(ReceiversPage, TheFieldThatGetsTheKeyboardComesIntoSight) {
+    Page().resize(500, 200);
+    QApplication::setActiveWindow(&Page());
+    QTest::qWait(1);
+    for (const char* name : {"Text_ParallellNumbers", "Text_ReceiverName", "Text_Setting_3"}) {
+        auto* field = Find<QLineEdit>(Page(), name);
+        field->setFocus(Qt::ShortcutFocusReason);
+        EXPECT_GE(field->visibleRegion().boundingRect().height() + 2, field->height()) << name;
+    }
 }
 
 TEST_F(ReceiversPage, InAHighWindowASettingStaysOneLine) {

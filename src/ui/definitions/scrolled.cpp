@@ -1,5 +1,6 @@
 #include "ui/definitions/scrolled.h"
 
+#include <QApplication>
 #include <QScrollArea>
 
 namespace vigrel {
@@ -9,8 +10,12 @@ QWidget* Scrolled(QWidget* widget) {
     area->setWidget(widget);
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
-    // The keyboard goes to the fields within, which the area follows.
+    // The keyboard goes to the fields within. The area by itself follows the tab key only, not the keys of
+    // labels.
     area->setFocusPolicy(Qt::NoFocus);
+    QObject::connect(qApp, &QApplication::focusChanged, area, [area](QWidget*, QWidget* field) {
+        if (field != nullptr && area->widget()->isAncestorOf(field)) area->ensureWidgetVisible(field);
+    });
     // As the surface of what it lies on, not as that of a list.
     area->viewport()->setAutoFillBackground(false);
     widget->setAutoFillBackground(false);
