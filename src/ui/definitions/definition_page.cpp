@@ -118,7 +118,11 @@ void cDefinitionPage::MakeList() {
     m_List->setWordWrap(false);
     m_List->verticalHeader()->hide();
     m_List->horizontalHeader()->setHighlightSections(false);
-    m_List->horizontalHeader()->setSectionResizeMode(cDefinitionModel::Name, QHeaderView::Stretch);
+    QHeaderView& header = *m_List->horizontalHeader();
+    header.setSectionResizeMode(QHeaderView::Stretch);
+    header.setSectionResizeMode(cDefinitionModel::Number, QHeaderView::ResizeToContents);
+    // Numbers have four digits: the rows in sight tell the width.
+    header.setResizeContentsPrecision(0);
     connect(m_List->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this] { ShowChosen(); });
 }
