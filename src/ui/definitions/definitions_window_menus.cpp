@@ -5,6 +5,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include "adapters/qt/qt_text.h"
@@ -161,7 +162,8 @@ QWidget* cDefinitionsWindow::MakeStartPage() {
 }
 
 void cDefinitionsWindow::RestoreWindow() {
-    resize(980, 600);
+    // At twice the size a small screen hasn't the room.
+    resize(QSize(980, 600).boundedTo(screen()->availableSize()));
     restoreGeometry(m_Services.m_Settings.value("Geometry").toByteArray());
 }
 
