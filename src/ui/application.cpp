@@ -59,8 +59,8 @@ void cApplication::MakeHintsReadable() {
     QColor hint = palette().color(QPalette::Active, QPalette::Text);
     hint.setAlpha(kHintAlpha);
     if (palette().color(QPalette::Active, QPalette::PlaceholderText) == hint) return;
-    // This one role only: the others go on following the desktop.
-    QPalette hints;
+    // This role and what was set before: the others go on following the desktop.
+    QPalette hints = palette();
     hints.setColor(QPalette::PlaceholderText, hint);
     setPalette(hints);
 }

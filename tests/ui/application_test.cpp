@@ -86,6 +86,15 @@ double HintContrast() {
     return (std::max(one, other) + 0.05) / (std::min(one, other) + 0.05);
 }
 
+// What is set stands against the desktop's next change.
+TEST(Application, OfTheDesktopsColoursOnlyTheHintsAreSet) {
+    const QPalette palette = QApplication::palette();
+    EXPECT_TRUE(palette.isBrushSet(QPalette::Active, QPalette::PlaceholderText));
+    for (const auto role : {QPalette::Window, QPalette::WindowText, QPalette::Base, QPalette::Text}) {
+        EXPECT_FALSE(palette.isBrushSet(QPalette::Active, role)) << role;
+    }
+}
+
 TEST(Application, HintsCanBeReadInEveryDesktopsColours) {
     const QPalette before = QApplication::palette();
     EXPECT_GE(HintContrast(), 4.5);
