@@ -93,6 +93,15 @@ TEST_F(ProfileTest, AVersion4FileIsRead) {
     EXPECT_EQ(profile.m_FileDateTimeStamp, 0);
 }
 
+TEST_F(ProfileTest, ALoadGivesAScheduleOfItsOwnInPlaceOfTheOldOne) {
+    cProfile profile(m_Services);
+    Load(profile, kProfileVersion5);
+    const cTimeSchedule* before = profile.m_TimeSchedule.get();
+    Load(profile, kProfileVersion5);
+    EXPECT_NE(profile.m_TimeSchedule.get(), before);
+    ExpectNight(profile);
+}
+
 TEST_F(ProfileTest, AVersion4FileIsRewrittenAsVersion5ByteByByte) {
     cProfile profile(m_Services);
     profile.m_OffDutyAlarmBehaviour = 2;
