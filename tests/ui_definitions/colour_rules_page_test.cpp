@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QSpinBox>
+#include <QStyle>
 #include <QTableWidget>
 #include <QUndoStack>
 
@@ -40,6 +41,20 @@ TEST_F(ColourRulesPage, TheCaptionsOfThePreviewAreSeenWhole) {
         EXPECT_GE(header.sectionSize(column), header.fontMetrics().horizontalAdvance(caption))
             << caption.toStdString();
     }
+}
+
+TEST_F(ColourRulesPage, TheLongestColourIsSeenWholeBesideItsSample) {
+    Put("ColourRules.txt", "* | * | * | 255,255,255 | 255,255,255 | 0\r\n");
+    QFont large = Rules().font();
+    large.setPixelSize(24);
+    Rules().setFont(large);
+    QTest::qWait(1);
+    const QFontMetrics metrics = Rules().fontMetrics();
+    // The sample is as wide as an icon.
+    const int wanted =
+        metrics.horizontalAdvance("255,255,255") + Rules().style()->pixelMetric(QStyle::PM_SmallIconSize);
+    EXPECT_GE(Rules().columnWidth(3), wanted);
+    EXPECT_GE(Rules().columnWidth(4), wanted);
 }
 
 TEST_F(ColourRulesPage, ARuleIsAddedEditedSavedReopenedAndDeleted) {

@@ -134,6 +134,9 @@ void cColourRulesPage::MakeTable() {
         m_Table->horizontalHeaderItem(column)->setToolTip(tr(tips[column]));
     }
     m_Table->horizontalHeader()->setSectionResizeMode(Tag, QHeaderView::Stretch);
+    for (const int column : {ForeColor, BackColor}) {
+        m_Table->horizontalHeader()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+    }
     m_Table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_Table->setTabKeyNavigation(false);
     connect(m_Table, &QTableWidget::itemChanged, this,
