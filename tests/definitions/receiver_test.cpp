@@ -70,16 +70,6 @@ TEST_F(ReceiverTest, AVersion3FileIsReadWithEmptyNumbersAndEnabled) {
     EXPECT_FALSE(receiver.HasChangedSinceLastLoadFromDisk());
 }
 
-TEST_F(ReceiverTest, AVersion3LoadTakesNumbersAndDisabledAwayFromAnObjectThatHadThem) {
-    m_Files.Put(ReceiverPath("0007"), kReceiverVersion3);
-    cReceiver receiver(m_Services);
-    receiver.m_Enabled = False16;
-    receiver.m_ParallellNumbers = "17";
-    EXPECT_TRUE(receiver.LoadFromDisk(7));
-    EXPECT_EQ(receiver.m_Enabled, True16);
-    EXPECT_EQ(receiver.m_ParallellNumbers, "");
-}
-
 TEST_F(ReceiverTest, AVersion3FileIsRewrittenAsVersion5ByteByByte) {
     Loaded(kReceiverVersion3);
     EXPECT_EQ(m_Files.ReadFile(ReceiverPath("0007")), Bytes("05 00 (version)"
