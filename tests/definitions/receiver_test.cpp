@@ -54,6 +54,16 @@ TEST_F(ReceiverTest, TheFrozenSamplesAreTheBytesWrittenByHand) {
     EXPECT_EQ(testing::Sample("receiver_version_5.dat"), kReceiverVersion5);
 }
 
+TEST_F(ReceiverTest, AVersion3FileEnablesTheObjectThatLoadsItAndEmptiesItsNumbers) {
+    m_Files.Put(ReceiverPath("0007"), kReceiverVersion3);
+    cReceiver receiver(m_Services);
+    receiver.m_Enabled = False16;
+    receiver.m_ParallellNumbers = "12;13";
+    ASSERT_TRUE(receiver.LoadFromDisk(7));
+    EXPECT_EQ(receiver.m_Enabled, True16);
+    EXPECT_EQ(receiver.m_ParallellNumbers, "");
+}
+
 TEST_F(ReceiverTest, AVersion3FileIsReadWithEmptyNumbersAndEnabled) {
     const cReceiver receiver = Loaded(kReceiverVersion3);
     EXPECT_EQ(receiver.m_DiskIdentity, 7);
