@@ -95,8 +95,8 @@ TEST(ScheduleFile, WithAFlippedBitItIsRefusedOrReadAsWhatItSays) {
         LoadScheduleFile(files, kPath, schedule);
         EXPECT_EQ(Saved(schedule), damaged) << bit;
     }
-    // Flags and counts, 70 values, have no other sound pattern. Most bits of rows and minutes carry them out of
-    // their range.
+    // Flags and counts, 70 values, have no other sound pattern. Most bits of rows and minutes carry them out
+    // of their range.
     EXPECT_GE(refused, 70 * 16);
     EXPECT_LT(refused, static_cast<int>(whole.size()) * 8);
 }
