@@ -50,10 +50,7 @@ class IconOnTheBus : public ::testing::Test {
         return answer;
     }
     void Tell(void (cBusHost::*step)()) {
-        Ask([&] {
-            (m_Host->*step)();
-            return true;
-        });
+        QMetaObject::invokeMethod(m_Host, step, Qt::BlockingQueuedConnection);
     }
     // The notices that gestures bring which follow each other at once.
     std::string Gesture(std::initializer_list<const char*> gestures) {
