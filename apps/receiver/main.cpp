@@ -1,8 +1,10 @@
 // The alarm receiver: builds the machine's side of every port, and the receiver over them.
 
 #include <QIcon>
+#include <QTimer>
 #include <cstdio>
 #include <string>
+#include <string_view>
 
 #include "adapters/linux/application_folder.h"
 #include "adapters/linux/clock.h"
@@ -37,6 +39,13 @@ namespace {
 
 constexpr int kKeepAliveInterval = 10000;  // milliseconds
 constexpr int kPlayInterval = 500;         // milliseconds
+
+constexpr const char* kHelp =
+    "vigrel-receiver [/SWITCH]...\n\n"
+    "Starts the station. Its files stand in the folder that VIGREL_APPLICATION_PATH names, otherwise beside "
+    "the\n"
+    "program or in ~/.local/share/VigrelReceiver; a station without a display needs Language= in its\n"
+    "VigrelReceiver.INI. The switches are told by the manual page vigrel-receiver(1).\n";
 
 // What stands behind the program's own name, as one text.
 std::string CommandLine(int argc, char** argv) {
@@ -112,7 +121,11 @@ int Run(int argc, char** argv) {
                                  applicationPath, commandLine);
     ConnectWindow(mainWindow, receiver);
     cStopSignals stopSignals;
-    stopSignals.OnStop = [&] { mainWindow.EndSession(); };
+    bool loaded = false, stopped = false;
+    stopSignals.OnStop = [&] {
+        stopped = true;
+        loaded ? mainWindow.EndSession() : application.RefuseDialogs();
+    };
     application.OnSessionEnds = stopSignals.OnStop;
 
     eStartUp started = eStartUp::NoLanguage;
@@ -120,8 +133,11 @@ int Run(int argc, char** argv) {
         started = receiver.Form_Load();
         if (started == eStartUp::Running) mainWindow.Show();
     });
-    // The operator has been told why.
-    if (started != eStartUp::Running) return 1;
+    loaded = true;
+    application.AllowDialogs();
+    // Who stopped it knows; otherwise the operator has been told why.
+    if (started != eStartUp::Running) return stopped ? 0 : 1;
+    if (stopped) QTimer::singleShot(0, &mainWindow, [&] { mainWindow.EndSession(); });
     return cApplication::exec();
 }
 
@@ -129,5 +145,9 @@ int Run(int argc, char** argv) {
 }  // namespace vigrel
 
 int main(int argc, char** argv) {
+    if (argc == 2 && std::string_view(argv[1]) == "--help") {
+        std::fputs(vigrel::kHelp, stdout);
+        return 0;
+    }
     return vigrel::Run(argc, argv);
 }

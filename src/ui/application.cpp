@@ -1,5 +1,6 @@
 #include "ui/application.h"
 
+#include <QDialog>
 #include <QLibraryInfo>
 #include <QMessageBox>
 #include <QPalette>
@@ -51,6 +52,17 @@ cApplication::cApplication(int& argc, char** argv) : QApplication(argc, argv) {
             if (OnSessionEnds) OnSessionEnds();
         },
         Qt::DirectConnection);
+}
+
+// One dialog can follow another.
+void cApplication::RefuseDialogs() {
+    constexpr int kAgainMilliseconds = 50;
+    const auto refuse = [] {
+        if (auto* dialog = qobject_cast<QDialog*>(activeModalWidget())) dialog->reject();
+    };
+    refuse();
+    m_RefuseTimer.callOnTimeout(refuse);
+    m_RefuseTimer.start(kAgainMilliseconds);
 }
 
 // Desktops with dark colours that don't say how hints look leave them black.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QTimer>
 #include <QTranslator>
 #include <functional>
 #include <string>
@@ -29,6 +30,12 @@ class cApplication : public QApplication {
     void Guard(const std::function<void()>& step);
     bool notify(QObject* receiver, QEvent* event) override;
 
+    // Closes what asks the operator for an answer, now and from now on, as if it had been refused: the
+    // program is to stop.
+    void RefuseDialogs();
+    // Dialogs are asked again.
+    void AllowDialogs() { m_RefuseTimer.stop(); }
+
     // The title of the message box of a failure; without one it is the program's display name, which would
     // stand in the titles of all windows too.
     void SetMessageTitle(const std::string& title) { m_MessageTitle = title; }
@@ -49,6 +56,7 @@ class cApplication : public QApplication {
     bool ServesFailureBox(QObject* receiver, const QEvent& event) const;
 
     QTranslator m_Translator;
+    QTimer m_RefuseTimer;
     std::string m_MessageTitle;
     int m_FailureBoxMilliseconds = kFailureBoxMilliseconds;
     bool m_Failed = false;

@@ -47,6 +47,9 @@ cMainWindow::cMainWindow(cOpenWindows& windows)
     AddEntry(*file, "Menu_StopSound", "&St\xE4ng av ljudsignal", OnMenuStopSound);
     AddEntry(*file, "Menu_StopLight", "&St\xE4ng av ljussignal", OnMenuStopLight);
     AddEntry(*file, "Menu_AckAll", "&Kvittera alla", OnMenuAckAll);
+    // Told here, acted on by the list.
+    Entry("Menu_AckAll").setShortcut(Qt::Key_F9);
+    Entry("Menu_AckAll").setShortcutContext(Qt::WidgetShortcut);
     AddEntry(*file, "Menu_AckAll_AndClosePopups", "Kvittera alla och st\xE4ng alla &popupf\xF6nster",
              OnMenuAckAllAndClosePopups);
     file->addSeparator()->setObjectName("Menu_Del1");

@@ -68,7 +68,10 @@ void cReportView::keyPressEvent(QKeyEvent* event) {
     if (m_Header->HandleKey(*event)) return event->accept();
     if (ChoosesRow(*event)) {
         event->accept();
-        return ChooseRow(currentIndex());
+        // The row that the keyboard stands on is not a choice: an arrival takes the selection away, and may
+        // have brought the list in front of what the operator is typing in.
+        if (selectionModel()->isRowSelected(currentIndex().row())) ChooseRow(currentIndex());
+        return;
     }
     QTableView::keyPressEvent(event);
 }

@@ -42,6 +42,18 @@ class MainWindow : public ::testing::Test {
     bool m_Allow = true;
 };
 
+TEST_F(MainWindow, TheKeyThatAcknowledgesAllIsToldInTheMenuAndLeftToTheList) {
+    EXPECT_EQ(Entry("Menu_AckAll")->shortcut(), QKeySequence(Qt::Key_F9));
+    EXPECT_EQ(Entry("Menu_AckAll")->shortcutContext(), Qt::WidgetShortcut);
+    int keys = 0, entries = 0;
+    m_Window.List().OnKeyDown = [&](int keyCode, int) { keys += keyCode == 120; };
+    m_Window.OnMenuAckAll = [&] { ++entries; };
+    m_Window.show();
+    QTest::keyClick(m_Window.findChild<QTableView*>("ListView_Alarms"), Qt::Key_F9);
+    EXPECT_EQ(keys, 1);
+    EXPECT_EQ(entries, 0);
+}
+
 TEST_F(MainWindow, ItsElementsCarryTheirNames) {
     EXPECT_EQ(m_Window.objectName(), "Vigrel_Receiver_Main");
     EXPECT_NE(m_Window.findChild<QTableView*>("ListView_Alarms"), nullptr);

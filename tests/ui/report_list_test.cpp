@@ -365,6 +365,15 @@ TEST_F(cReportListKeyTest, EnterWithoutACurrentRowDoesNothing) {
     EXPECT_TRUE(m_Chosen.empty());
 }
 
+TEST_F(cReportListKeyTest, EnterOnARowThatAnArrivalDeselectedDoesNothing) {
+    View().setCurrentIndex(Cell(3, 1));
+    m_List.ClearSelection();
+    ASSERT_TRUE(m_List.SelectedRows().empty());
+    QTest::keyClick(&View(), Qt::Key_Return);
+    QTest::keyClick(&View(), Qt::Key_Space);
+    EXPECT_TRUE(m_Chosen.empty());
+}
+
 TEST_F(cReportListKeyTest, EnterOnARowWhoseRecordHasJustGoneDoesNothing) {
     View().setCurrentIndex(Cell(3, 1));
     m_List.RemoveRecord(m_Records[3]);

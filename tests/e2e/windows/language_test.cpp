@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 #include <signal.h>
 
+#include <chrono>
 #include <fstream>
+#include <thread>
 
 #include "e2e/station.h"
 #include "e2e/windows/operator.h"
@@ -68,6 +70,30 @@ TEST(FirstStart, WithoutAChoiceTheProgramEndsWithoutAWord) {
     EXPECT_EQ(station.WaitForEnd(), 1);
     EXPECT_EQ(station.StandardError().find("Failure"), std::string::npos) << station.StandardError();
     EXPECT_TRUE(station.Log().empty());
+}
+
+TEST(FirstStart, HelpIsPrintedAndNothingStarted) {
+    cStation station;
+    station.Launch({"--help"});
+    EXPECT_EQ(station.WaitForEnd(), 0);
+    EXPECT_FALSE(std::filesystem::exists(station.Folder() / "Alarms"));
+    EXPECT_FALSE(std::filesystem::exists(station.Folder() / "LogFiles"));
+}
+
+TEST(FirstStart, AStopSignalEndsAProgramThatStillAsksForItsLanguage) {
+    for (const char* platform : {"xcb", "offscreen"}) {
+        cStation station;
+        PutDeliveredTexts(station);
+        station.m_Environment = {{"QT_QPA_PLATFORM", platform}, {"LC_ALL", "C.UTF-8"}};
+        station.Launch();
+        if (std::string(platform) == "xcb") {
+            EXPECT_NE(FindWindow(station.Process(), "Vigrel - Select Language"), "");
+        } else {
+            std::this_thread::sleep_for(std::chrono::seconds(1));  // an unseen window can't be waited for
+        }
+        EXPECT_EQ(station.Stop(SIGTERM), 0) << platform;
+        EXPECT_TRUE(station.Log().empty()) << platform;
+    }
 }
 
 }  // namespace
