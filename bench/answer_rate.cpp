@@ -3,7 +3,10 @@
 // the folder, reply. Both are measured in turns by the same sender on the same disk; the ratio is what
 // counts.
 //
-//   answer_rate [rounds] [alarms a round]
+//   answer_rate [rounds] [alarms a round] [MaxEvents]
+//
+// Each alarm removes another one where MaxEvents is reached, which the bare loop does not do; 0, the default,
+// keeps all.
 
 #include <arpa/inet.h>
 #include <fcntl.h>
@@ -128,11 +131,13 @@ double Median(std::vector<double> values) {
 int main(int argc, char** argv) {
     const int rounds = argc > 1 ? std::atoi(argv[1]) : 5;
     const int alarms = argc > 2 ? std::atoi(argv[2]) : 2000;
+    const std::string maxEvents = argc > 3 ? argv[3] : "0";
     cStation station;
     station.Configure(
         "[General]\r\nColumns=StateIcon,DateTime,StateText,t2,t0,t1,t3,Observed\r\nBackColor_Active=255,230,"
         "230\r\n"
-        "ForeColor_Active=120,0,0\r\nIcon_Active=2,3\r\nMaxEvents=1000\r\n");
+        "ForeColor_Active=120,0,0\r\nIcon_Active=2,3\r\nMaxEvents=" +
+        maxEvents + "\r\n");
     if (const char* platform = std::getenv("QT_QPA_PLATFORM"))
         station.m_Environment["QT_QPA_PLATFORM"] = platform;
     if (!station.Start()) {

@@ -5,6 +5,7 @@
 #include <malloc.h>
 
 #include <QApplication>
+#include <QWindow>
 #include <string>
 
 #include "support/qt_wait.h"
@@ -28,6 +29,11 @@ class cList {
         SortBy(kColumns - 1);
         m_List.View().resize(1000, 600);
         m_List.View().show();
+        // What is not on the screen yet is not painted.
+        testing::WaitUntil([this] {
+            const QWindow* window = m_List.View().windowHandle();
+            return window != nullptr && window->isExposed();
+        });
         const std::size_t before = mallinfo2().uordblks;
         for (auto row = state.range(0); row > 0; --row) Add();
         m_List.TakeOverRecords();
