@@ -7,13 +7,13 @@
 #include <cstdio>
 #include <vector>
 
-#include "adapters/linux/clock.h"
-#include "adapters/linux/files.h"
-#include "adapters/linux/random.h"
-#include "adapters/qt/cQtLocale.h"
+#include "adapters/linux/linux_files.h"
+#include "adapters/linux/standard_random.h"
+#include "adapters/linux/system_clock.h"
+#include "adapters/qt/qt_locale.h"
 #include "definitions/station_definitions.h"
+#include "editor_ui/window/definitions_window.h"
 #include "support/temporary_folder.h"
-#include "ui/definitions/definitions_window.h"
 
 namespace vigrel {
 namespace {

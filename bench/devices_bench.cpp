@@ -5,9 +5,9 @@
 #include <deque>
 #include <string>
 
-#include "adapters/linux/clock.h"
-#include "adapters/linux/files.h"
-#include "adapters/linux/printer_ports.h"
+#include "adapters/linux/linux_files.h"
+#include "adapters/linux/linux_printer_ports.h"
+#include "adapters/linux/system_clock.h"
 #include "signals/tray.h"
 #include "support/fake_devices.h"
 #include "support/fake_station.h"

@@ -6,10 +6,10 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "receiver_ui/popups/popup_widget.h"
 #include "signals/popups.h"
 #include "support/popup_station.h"
 #include "support/qt_wait.h"
-#include "ui/popup_window.h"
 
 namespace {
 

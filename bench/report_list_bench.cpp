@@ -8,8 +8,8 @@
 #include <QWindow>
 #include <string>
 
+#include "receiver_ui/list/qt_report_list.h"
 #include "support/qt_wait.h"
-#include "ui/report_list.h"
 
 namespace {
 

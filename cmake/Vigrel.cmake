@@ -14,10 +14,11 @@ if(VIGREL_FUZZ)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
-# vigrel_library(name [DEPENDS lib...]): every *.cpp of the calling folder as the static library vigrel_<name>.
+# vigrel_library(name [FOLDER folder] [DEPENDS lib...]): every *.cpp of the calling folder, or of a folder in it, as the
+# static library vigrel_<name>.
 function(vigrel_library name)
-  cmake_parse_arguments(arg "" "" "DEPENDS" ${ARGN})
-  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  cmake_parse_arguments(arg "" "FOLDER" "DEPENDS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${arg_FOLDER}/*.cpp)
   if(sources)
     add_library(vigrel_${name} STATIC ${sources})
     target_link_libraries(vigrel_${name} PUBLIC vigrel_flags ${arg_DEPENDS})

@@ -1,7 +1,7 @@
 // Input: the content of a definition file, read as a receiver and as a profile.
 
-#include "definitions/cProfile.h"
-#include "definitions/cReceiver.h"
+#include "definitions/profile.h"
+#include "definitions/receiver.h"
 #include "fuzz/fuzz_target.h"
 #include "support/fake_clock.h"
 #include "support/fake_files.h"

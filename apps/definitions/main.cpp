@@ -5,15 +5,15 @@
 #include <QTimer>
 
 #include "adapters/linux/application_folder.h"
-#include "adapters/linux/clock.h"
-#include "adapters/linux/files.h"
-#include "adapters/linux/random.h"
-#include "adapters/qt/cQtLocale.h"
+#include "adapters/linux/linux_files.h"
+#include "adapters/linux/standard_random.h"
+#include "adapters/linux/system_clock.h"
+#include "adapters/qt/qt_locale.h"
 #include "common/ini.h"
 #include "common/texts.h"
 #include "definitions/station_definitions.h"
-#include "ui/application.h"
-#include "ui/definitions/definitions_window.h"
+#include "editor_ui/window/definitions_window.h"
+#include "windows/application.h"
 
 namespace vigrel {
 namespace {

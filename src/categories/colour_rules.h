@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "categories/cUserColor.h"
+#include "categories/user_color.h"
 #include "common/line_problem.h"
 #include "platform/files.h"
 

@@ -4,7 +4,7 @@
 #include <iterator>
 #include <limits>
 
-#include "categories/cCategorySpecificSetting.h"
+#include "categories/category_specific_setting.h"
 #include "common/text.h"
 #include "events/alarm_list_view.h"
 

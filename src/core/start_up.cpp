@@ -5,9 +5,9 @@
 #include "common/failure.h"
 #include "common/file_procedures.h"
 #include "common/window_procedures.h"
-#include "core/Vigrel_Receiver_Main.h"
 #include "core/form_geometry.h"
 #include "core/read_settings.h"
+#include "core/vigrel_receiver_main.h"
 
 namespace vigrel {
 namespace {

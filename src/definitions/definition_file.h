@@ -10,7 +10,7 @@
 #include "common/ini.h"
 #include "common/log.h"
 #include "common/texts.h"
-#include "definitions/cReceiverTypes.h"
+#include "definitions/receiver_types.h"
 #include "platform/clock.h"
 #include "platform/files.h"
 #include "platform/random.h"

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "definitions/cProfile.h"
-#include "definitions/cReceiver.h"
 #include "definitions/definition_file.h"
+#include "definitions/profile.h"
+#include "definitions/receiver.h"
 
 namespace vigrel {
 

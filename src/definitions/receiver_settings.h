@@ -4,7 +4,7 @@
 #include <string>
 
 #include "common/ini.h"
-#include "definitions/cReceiver.h"
+#include "definitions/receiver.h"
 
 namespace vigrel {
 

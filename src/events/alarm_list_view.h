@@ -5,12 +5,12 @@
 #include <string>
 #include <string_view>
 
-#include "categories/cCategorySpecificSetting.h"
+#include "categories/category_specific_setting.h"
 #include "common/ini.h"
 #include "common/receiver_state.h"
 #include "common/settings.h"
 #include "common/texts.h"
-#include "events/cVigrelRecieverAlarm.h"
+#include "events/vigrel_reciever_alarm.h"
 #include "platform/locale.h"
 #include "platform/report_list.h"
 #include "platform/windows.h"

@@ -10,7 +10,7 @@
 #include "common/receiver_state.h"
 #include "common/settings.h"
 #include "common/texts.h"
-#include "events/cVigrelRecieverAlarm.h"
+#include "events/vigrel_reciever_alarm.h"
 #include "platform/files.h"
 #include "platform/random.h"
 #include "platform/report_list.h"

@@ -6,7 +6,7 @@
 
 #include "common/log.h"
 #include "common/texts.h"
-#include "events/cVigrelRecieverAlarm.h"
+#include "events/vigrel_reciever_alarm.h"
 #include "link/sender_table.h"
 
 namespace vigrel {

@@ -10,7 +10,7 @@
 #include "common/log.h"
 #include "common/settings.h"
 #include "common/texts.h"
-#include "events/cVigrelRecieverAlarm.h"
+#include "events/vigrel_reciever_alarm.h"
 #include "platform/locale.h"
 #include "platform/windows.h"
 

@@ -1,7 +1,7 @@
 #include "common/dates.h"
 #include "common/numbers.h"
 #include "common/text.h"
-#include "schedule/cCalendar.h"
+#include "schedule/calendar.h"
 #include "schedule/calendar_geometry.h"
 
 namespace vigrel {

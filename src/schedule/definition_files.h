@@ -5,8 +5,8 @@
 #include <string_view>
 
 #include "platform/files.h"
-#include "schedule/cCalendar.h"
-#include "schedule/cTimeSchedule.h"
+#include "schedule/calendar.h"
+#include "schedule/time_schedule.h"
 
 namespace vigrel {
 

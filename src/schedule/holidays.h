@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-#include "schedule/cHolidayLabel.h"
 #include "schedule/calendar_days.h"
+#include "schedule/holiday_label.h"
 
 namespace vigrel {
 

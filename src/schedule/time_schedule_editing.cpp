@@ -4,8 +4,8 @@
 
 #include "common/numbers.h"
 #include "common/text.h"
-#include "schedule/cTimeSchedule.h"
 #include "schedule/schedule_geometry.h"
+#include "schedule/time_schedule.h"
 
 namespace vigrel {
 namespace {

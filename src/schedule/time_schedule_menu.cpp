@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <array>
 
-#include "schedule/cTimeSchedule.h"
+#include "schedule/time_schedule.h"
 
 namespace vigrel {
 

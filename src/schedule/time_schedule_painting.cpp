@@ -1,6 +1,6 @@
 #include "common/numbers.h"
-#include "schedule/cTimeSchedule.h"
 #include "schedule/schedule_geometry.h"
+#include "schedule/time_schedule.h"
 
 namespace vigrel {
 namespace {

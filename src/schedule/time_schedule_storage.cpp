@@ -2,7 +2,7 @@
 
 #include "common/numbers.h"
 #include "common/text.h"
-#include "schedule/cTimeSchedule.h"
+#include "schedule/time_schedule.h"
 
 namespace vigrel {
 namespace {

@@ -1,7 +1,7 @@
 #include "signals/conditional_forms.h"
 
 #include "common/code_page.h"
-#include "events/cAlarm.h"
+#include "events/alarm.h"
 #include "signals/text_scan.h"
 
 namespace vigrel {

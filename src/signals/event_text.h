@@ -6,7 +6,7 @@
 #include "common/ini.h"
 #include "common/settings.h"
 #include "common/texts.h"
-#include "events/cVigrelRecieverAlarm.h"
+#include "events/vigrel_reciever_alarm.h"
 #include "platform/locale.h"
 
 namespace vigrel {

@@ -4,11 +4,11 @@
 #include <functional>
 #include <string_view>
 
-#include "categories/cCategorySpecificSetting.h"
+#include "categories/category_specific_setting.h"
 #include "common/log.h"
 #include "common/receiver_state.h"
 #include "common/texts.h"
-#include "events/cVigrelRecieverAlarm.h"
+#include "events/vigrel_reciever_alarm.h"
 #include "platform/signal_light.h"
 #include "platform/windows.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "categories/cCategorySpecificSetting.h"
+#include "categories/category_specific_setting.h"
 #include "common/log.h"
 #include "common/receiver_state.h"
 #include "common/settings.h"

@@ -6,7 +6,7 @@
 
 #include "common/receiver_state.h"
 #include "common/settings.h"
-#include "events/cVigrelRecieverAlarm.h"
+#include "events/vigrel_reciever_alarm.h"
 #include "platform/notification_area.h"
 #include "platform/report_list.h"
 #include "platform/timer.h"

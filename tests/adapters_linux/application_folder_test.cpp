@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "adapters/linux/files.h"
+#include "adapters/linux/linux_files.h"
 #include "common/failure.h"
 #include "support/temporary_folder.h"
 

@@ -1,4 +1,4 @@
-#include "adapters/linux/files.h"
+#include "adapters/linux/linux_files.h"
 
 #include "contract/files_contract.h"
 #include "support/temporary_folder.h"

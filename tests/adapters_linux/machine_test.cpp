@@ -8,10 +8,10 @@
 #include <optional>
 #include <string>
 
-#include "adapters/linux/clock.h"
-#include "adapters/linux/random.h"
-#include "adapters/linux/running_apps.h"
-#include "adapters/linux/single_instance.h"
+#include "adapters/linux/folder_lock.h"
+#include "adapters/linux/local_running_apps.h"
+#include "adapters/linux/standard_random.h"
+#include "adapters/linux/system_clock.h"
 #include "common/dates.h"
 #include "support/temporary_folder.h"
 

@@ -1,4 +1,4 @@
-#include "adapters/linux/printer_ports.h"
+#include "adapters/linux/linux_printer_ports.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -10,7 +10,7 @@
 #include <fstream>
 #include <iterator>
 
-#include "adapters/linux/clock.h"
+#include "adapters/linux/system_clock.h"
 #include "support/fake_files.h"
 #include "support/tcp_sink.h"
 #include "support/temporary_folder.h"

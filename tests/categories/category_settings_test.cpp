@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "categories/cCategorySpecificSetting.h"
+#include "categories/category_specific_setting.h"
 #include "common/failure.h"
 #include "support/fake_files.h"
 

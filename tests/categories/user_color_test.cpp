@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "categories/cUserColor.h"
+#include "categories/user_color.h"
 #include "common/failure.h"
 
 namespace vigrel {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "common/failure.h"
-#include "events/cVigrelRecieverAlarm.h"
+#include "events/vigrel_reciever_alarm.h"
 #include "support/fake_receiver.h"
 
 namespace vigrel {

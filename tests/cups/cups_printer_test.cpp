@@ -4,8 +4,8 @@
 #include <functional>
 #include <iterator>
 
-#include "adapters/linux/clock.h"
-#include "adapters/linux/printer_ports.h"
+#include "adapters/linux/linux_printer_ports.h"
+#include "adapters/linux/system_clock.h"
 #include "support/child_process.h"
 #include "support/fake_files.h"
 #include "support/tcp_sink.h"

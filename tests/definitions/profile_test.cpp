@@ -1,4 +1,4 @@
-#include "definitions/cProfile.h"
+#include "definitions/profile.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "definitions/cReceiver.h"
+#include "definitions/receiver.h"
 
 #include "common/dates.h"
 #include "common/failure.h"

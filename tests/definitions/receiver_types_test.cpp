@@ -1,4 +1,4 @@
-#include "definitions/cReceiverTypes.h"
+#include "definitions/receiver_types.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "definitions/cVariant.h"
+#include "definitions/variant.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "common/failure.h"
-#include "events/cVigrelRecieverAlarm.h"
+#include "events/vigrel_reciever_alarm.h"
 #include "support/fake_clock.h"
 
 namespace vigrel {

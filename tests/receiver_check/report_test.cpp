@@ -1,6 +1,6 @@
 // Reports as a whole, the command line, and the delivered configuration.
 
-#include "adapters/linux/files.h"
+#include "adapters/linux/linux_files.h"
 #include "common/code_page.h"
 #include "common/failure.h"
 #include "inspect/alarm_samples.h"

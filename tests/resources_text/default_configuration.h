@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "categories/cCategorySpecificSetting.h"
+#include "categories/category_specific_setting.h"
 #include "common/ini.h"
 #include "common/text.h"
 #include "core/setting_keys.h"

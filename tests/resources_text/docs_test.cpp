@@ -10,7 +10,7 @@
 #include "common/dates.h"
 #include "common/text.h"
 #include "core/setting_keys.h"
-#include "events/cVigrelRecieverAlarm.h"
+#include "events/vigrel_reciever_alarm.h"
 #include "link/frame.h"
 #include "resources_text/doc_pages.h"
 #include "resources_text/text_ids.h"

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "common/dates.h"
-#include "schedule/cCalendar.h"
+#include "schedule/calendar.h"
 #include "schedule/fakes.h"
 #include "schedule/schedule_builder.h"
 #include "support/fake_clock.h"

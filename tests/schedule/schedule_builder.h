@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "common/binary.h"
-#include "schedule/cTimeSchedule.h"
+#include "schedule/time_schedule.h"
 
 namespace vigrel::testing {
 

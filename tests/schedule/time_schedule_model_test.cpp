@@ -3,8 +3,8 @@
 #include <functional>
 
 #include "common/failure.h"
-#include "schedule/cTimeSchedule.h"
 #include "schedule/schedule_builder.h"
+#include "schedule/time_schedule.h"
 
 namespace vigrel {
 namespace {

@@ -3,8 +3,8 @@
 #include <cstdlib>
 #include <fstream>
 
-#include "adapters/linux/clock.h"
-#include "adapters/linux/signal_light.h"
+#include "adapters/linux/hid_signal_light.h"
+#include "adapters/linux/system_clock.h"
 #include "support/temporary_folder.h"
 
 namespace vigrel::testing {

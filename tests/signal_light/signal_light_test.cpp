@@ -1,4 +1,4 @@
-#include "adapters/linux/signal_light.h"
+#include "adapters/linux/hid_signal_light.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 #include <fstream>
 #include <iterator>
 
-#include "adapters/linux/clock.h"
+#include "adapters/linux/system_clock.h"
 #include "common/failure.h"
 #include "signals/light.h"
 #include "support/fake_station.h"

@@ -8,8 +8,8 @@
 #include <fstream>
 #include <string>
 
-#include "adapters/linux/files.h"
-#include "adapters/qt/cQtWaveDevice.h"
+#include "adapters/linux/linux_files.h"
+#include "adapters/qt/qt_wave_device.h"
 #include "sound/sound_server.h"
 #include "support/qt_wait.h"
 #include "support/temporary_folder.h"

@@ -1,5 +1,5 @@
-#include "adapters/qt/cQtTimer.h"
-#include "adapters/qt/cTonePlayer.h"
+#include "adapters/qt/qt_timer.h"
+#include "adapters/qt/tone_player.h"
 #include "signals/sound.h"
 #include "sound/sound_fixture.h"
 #include "support/fake_station.h"

@@ -1,4 +1,4 @@
-#include "adapters/qt/cQtWaveDevice.h"
+#include "adapters/qt/qt_wave_device.h"
 
 #include <QThread>
 #include <atomic>

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "common/text.h"
-#include "core/Vigrel_Receiver_Main.h"
+#include "core/vigrel_receiver_main.h"
 #include "support/fake_clock.h"
 #include "support/fake_devices.h"
 #include "support/fake_files.h"

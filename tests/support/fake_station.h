@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "categories/cCategorySpecificSetting.h"
+#include "categories/category_specific_setting.h"
 #include "common/dates.h"
 #include "common/ini.h"
 #include "common/log.h"

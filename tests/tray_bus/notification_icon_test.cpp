@@ -1,4 +1,4 @@
-#include "ui/notification_icon.h"
+#include "receiver_ui/tray/notification_icon.h"
 
 #include <gtest/gtest.h>
 

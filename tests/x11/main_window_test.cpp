@@ -1,4 +1,4 @@
-#include "ui/main_window.h"
+#include "receiver_ui/main/main_window.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "ui/notification_icon.h"
+#include "receiver_ui/tray/notification_icon.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@
 #include <memory>
 #include <utility>
 
-#include "adapters/qt/cQtTimer.h"
+#include "adapters/qt/qt_timer.h"
 #include "signals/tray.h"
 #include "support/fake_station.h"
 #include "support/qt_wait.h"

@@ -1,6 +1,6 @@
 #include "contract/popup_contract.h"
 
-#include "ui/popup_rig.h"
+#include "receiver_ui/popup_rig.h"
 
 namespace vigrel::testing {
 namespace {

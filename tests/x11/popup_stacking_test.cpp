@@ -4,10 +4,10 @@
 #include <QPointer>
 #include <QWindow>
 
+#include "receiver_ui/popups/popup_widget.h"
 #include "signals/popups.h"
 #include "support/popup_station.h"
 #include "support/qt_wait.h"
-#include "ui/popup_window.h"
 #include "x11/x_screen.h"
 
 namespace vigrel::testing {

@@ -1,5 +1,5 @@
 #include "categories/colour_rules.h"
-#include "definitions/cReceiverTypes.h"
+#include "definitions/receiver_types.h"
 #include "receiver-check/checks.h"
 
 namespace vigrel {

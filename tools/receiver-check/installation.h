@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "categories/cCategorySpecificSetting.h"
+#include "categories/category_specific_setting.h"
 #include "common/failure.h"
 #include "common/ini.h"
 #include "receiver-check/finding.h"

@@ -2,7 +2,7 @@
 
 #include <cstdio>
 
-#include "adapters/linux/files.h"
+#include "adapters/linux/linux_files.h"
 #include "common/failure.h"
 #include "receiver-check/check.h"
 #include "receiver-check/options.h"

@@ -10,7 +10,7 @@
 #include <cstring>
 #include <filesystem>
 
-#include "adapters/linux/files.h"
+#include "adapters/linux/linux_files.h"
 #include "common/code_page.h"
 
 namespace vigrel {

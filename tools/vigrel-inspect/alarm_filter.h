@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "events/cVigrelRecieverAlarm.h"
+#include "events/vigrel_reciever_alarm.h"
 
 namespace vigrel {
 

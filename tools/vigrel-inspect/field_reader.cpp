@@ -2,7 +2,7 @@
 
 #include "common/dates.h"
 #include "common/failure.h"
-#include "definitions/cVariant.h"
+#include "definitions/variant.h"
 
 namespace vigrel {
 namespace {

@@ -4,8 +4,8 @@
 
 #include <cstdio>
 
-#include "adapters/linux/clock.h"
-#include "adapters/linux/files.h"
+#include "adapters/linux/linux_files.h"
+#include "adapters/linux/system_clock.h"
 #include "common/code_page.h"
 #include "common/failure.h"
 #include "common/file_procedures.h"

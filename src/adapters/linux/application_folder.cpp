@@ -8,7 +8,7 @@
 #include <filesystem>
 #include <system_error>
 
-#include "adapters/linux/files.h"
+#include "adapters/linux/linux_files.h"
 #include "common/code_page.h"
 #include "common/failure.h"
 #include "common/file_procedures.h"

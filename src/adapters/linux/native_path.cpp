@@ -6,7 +6,7 @@
 #include <memory>
 #include <optional>
 
-#include "adapters/linux/files.h"
+#include "adapters/linux/linux_files.h"
 #include "common/code_page.h"
 #include "common/text.h"
 

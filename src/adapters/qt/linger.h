@@ -1,6 +1,6 @@
 #pragma once
 
-#include "adapters/qt/cQtDataSocket.h"
+#include "adapters/qt/qt_data_socket.h"
 
 namespace vigrel {
 

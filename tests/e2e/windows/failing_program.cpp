@@ -3,7 +3,7 @@
 #include <QTimer>
 
 #include "common/failure.h"
-#include "ui/application.h"
+#include "windows/application.h"
 
 int main(int argc, char** argv) {
     vigrel::cApplication application(argc, argv);

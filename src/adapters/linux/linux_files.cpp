@@ -1,0 +1,203 @@
+#include "adapters/linux/linux_files.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <memory>
+
+#include "common/code_page.h"
+#include "common/failure.h"
+
+namespace vigrel {
+namespace {
+
+eFailure FailureNumber(int error) {
+    switch (error) {
+        case ENOENT:
+            return eFailure::FileNotFound;
+        case EEXIST:
+            return eFailure::FileExists;
+        case ENOSPC:
+        case EDQUOT:
+        case EFBIG:
+            return eFailure::DiskFull;
+        case EACCES:
+        case EPERM:
+        case EROFS:
+            return eFailure::PermissionDenied;
+        case ENOTDIR:
+        case EISDIR:
+            return eFailure::PathAccess;
+        default:
+            return eFailure::InputOutput;
+    }
+}
+
+[[noreturn]] void Fail(std::string_view path) {
+    const int error = errno;
+    throw cFailure(FailureNumber(error), std::string(path) + ": " + std::strerror(error));
+}
+
+class cDescriptor {
+  public:
+    cDescriptor(std::string_view path, int flags) : m_Path(path) {
+        m_Descriptor = open(NativePath(path).c_str(), flags | O_CLOEXEC, 0666);
+        if (m_Descriptor < 0) Fail(path);
+    }
+    ~cDescriptor() {
+        if (m_Descriptor >= 0) close(m_Descriptor);
+    }
+    cDescriptor(const cDescriptor&) = delete;
+    cDescriptor& operator=(const cDescriptor&) = delete;
+
+    void Write(std::string_view bytes) {
+        while (!bytes.empty()) {
+            const ssize_t written = write(m_Descriptor, bytes.data(), bytes.size());
+            if (written < 0 && errno == EINTR) continue;
+            if (written < 0) Fail(m_Path);
+            bytes.remove_prefix(static_cast<std::size_t>(written));
+        }
+    }
+    std::string ReadAll() {
+        std::string content;
+        std::array<char, 65536> buffer;
+        while (true) {
+            const ssize_t count = read(m_Descriptor, buffer.data(), buffer.size());
+            if (count < 0 && errno == EINTR) continue;
+            if (count < 0) Fail(m_Path);
+            if (count == 0) return content;
+            content.append(buffer.data(), static_cast<std::size_t>(count));
+        }
+    }
+    void Sync() {
+        if (fsync(m_Descriptor) != 0) Fail(m_Path);
+    }
+    void SyncFileSystem() {
+        if (syncfs(m_Descriptor) != 0) Fail(m_Path);
+    }
+    // Some file systems report a full disk only here.
+    void Close() {
+        const int descriptor = m_Descriptor;
+        m_Descriptor = -1;
+        if (close(descriptor) != 0 && errno != EINTR) Fail(m_Path);
+    }
+
+  private:
+    std::string m_Path;
+    int m_Descriptor = -1;
+};
+
+// Whether a name fits a mask of "?" and "*"; both in upper case. "*" tries the shortest run first and comes
+// back.
+bool FitsMask(std::string_view name, std::string_view mask) {
+    std::size_t n = 0;
+    std::size_t m = 0;
+    std::size_t star = std::string_view::npos;
+    std::size_t resume = 0;
+    while (n < name.size()) {
+        if (m < mask.size() && mask[m] == '*') {
+            star = m++;
+            resume = n;
+        } else if (m < mask.size() && (mask[m] == '?' || mask[m] == name[n])) {
+            ++n;
+            ++m;
+        } else if (star != std::string_view::npos) {
+            m = star + 1;
+            n = ++resume;
+        } else {
+            return false;
+        }
+    }
+    return mask.find_first_not_of('*', m) == std::string_view::npos;
+}
+
+bool IsRegular(const std::string& folder, const dirent& entry) {
+    if (entry.d_type == DT_REG) return true;
+    if (entry.d_type != DT_UNKNOWN && entry.d_type != DT_LNK) return false;
+    struct stat status {};
+    return stat((folder + "/" + entry.d_name).c_str(), &status) == 0 && S_ISREG(status.st_mode);
+}
+
+}  // namespace
+
+bool cLinuxFiles::FileExists(std::string_view path) const {
+    struct stat status {};
+    return stat(NativePath(path).c_str(), &status) == 0 && S_ISREG(status.st_mode);
+}
+
+std::string cLinuxFiles::ReadFile(std::string_view path) const {
+    cDescriptor file(path, O_RDONLY);
+    return file.ReadAll();
+}
+
+std::vector<std::string> cLinuxFiles::ListFiles(std::string_view folder, std::string_view mask) const {
+    std::vector<std::string> names;
+    const std::string native = NativePath(folder);
+    const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(native.empty() ? "." : native.c_str()),
+                                                     closedir);
+    if (!stream) return names;
+    const std::string wanted = ToUpper(mask);
+    while (const dirent* entry = readdir(stream.get())) {
+        if (entry->d_name[0] == '.') continue;
+        std::string name = Utf8ToCodePage(entry->d_name);
+        if (FitsMask(ToUpper(name), wanted) && IsRegular(native, *entry)) names.push_back(std::move(name));
+    }
+    return names;
+}
+
+cFileReader::cStamp cLinuxFiles::Stamp(std::string_view path) const {
+    struct stat status {};
+    if (stat(NativePath(path).c_str(), &status) != 0) return {};
+    return {static_cast<std::int64_t>(status.st_dev), static_cast<std::int64_t>(status.st_ino),
+            status.st_size,
+            static_cast<std::int64_t>(status.st_mtim.tv_sec) * 1'000'000'000 + status.st_mtim.tv_nsec};
+}
+
+void cLinuxFiles::WriteFile(std::string_view path, std::string_view bytes, bool sync) {
+    cDescriptor file(path, O_WRONLY | O_CREAT | O_TRUNC);
+    file.Write(bytes);
+    if (sync) file.Sync();
+    file.Close();
+}
+
+void cLinuxFiles::AppendFile(std::string_view path, std::string_view bytes) {
+    cDescriptor file(path, O_WRONLY | O_CREAT | O_APPEND);
+    file.Write(bytes);
+    file.Close();
+}
+
+void cLinuxFiles::RemoveFile(std::string_view path) {
+    if (unlink(NativePath(path).c_str()) != 0) Fail(path);
+}
+
+void cLinuxFiles::RenameFile(std::string_view from, std::string_view to) {
+    if (rename(NativePath(from).c_str(), NativePath(to).c_str()) != 0) Fail(to);
+}
+
+void cLinuxFiles::SyncFolder(std::string_view folder) {
+    cDescriptor descriptor(folder, O_RDONLY | O_DIRECTORY);
+    descriptor.Sync();
+}
+
+void cLinuxFiles::SyncFileSystem(std::string_view folder) {
+    cDescriptor descriptor(folder, O_RDONLY | O_DIRECTORY);
+    descriptor.SyncFileSystem();
+}
+
+void cLinuxFiles::MakeFolder(std::string_view path) {
+    if (mkdir(NativePath(path).c_str(), 0777) != 0) Fail(path);
+}
+
+void cLinuxFiles::SetNormalAttributes(std::string_view path) {
+    const std::string native = NativePath(path);
+    struct stat status {};
+    if (stat(native.c_str(), &status) != 0 || chmod(native.c_str(), status.st_mode | S_IWUSR) != 0)
+        Fail(path);
+}
+
+}  // namespace vigrel

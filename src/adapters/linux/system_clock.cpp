@@ -1,0 +1,28 @@
+#include "adapters/linux/system_clock.h"
+
+#include "common/dates.h"
+
+namespace vigrel {
+
+DateTime LocalDateTime(const timespec& now) {
+    // The station runs for months: a time zone that is changed meanwhile is taken over.
+    tzset();
+    tm local{};
+    localtime_r(&now.tv_sec, &local);
+    return DateSerial(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday) +
+           TimeSerial(local.tm_hour, local.tm_min, local.tm_sec) + static_cast<double>(now.tv_nsec) / 86400e9;
+}
+
+DateTime cSystemClock::Now() const {
+    timespec now{};
+    clock_gettime(CLOCK_REALTIME, &now);
+    return LocalDateTime(now);
+}
+
+double cSystemClock::Steady() const {
+    timespec now{};
+    clock_gettime(CLOCK_BOOTTIME, &now);
+    return (static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9) / 86400;
+}
+
+}  // namespace vigrel

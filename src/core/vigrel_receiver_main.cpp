@@ -1,0 +1,187 @@
+#include "core/vigrel_receiver_main.h"
+
+#include "common/code_page.h"
+#include "common/dates.h"
+#include "common/failure.h"
+#include "common/file_procedures.h"
+#include "core/form_geometry.h"
+
+namespace vigrel {
+namespace {
+
+constexpr int kKeyEscape = 27;
+constexpr int kKeyF9 = 120;
+
+}  // namespace
+
+cVigrelReceiverMain::cVigrelReceiverMain(const cReceiverPorts& ports, std::string applicationPath,
+                                         const std::string& commandLine)
+    : m_Ports(ports),
+      m_ApplicationPath(std::move(applicationPath)),
+      m_CommandLine(ToUpper(commandLine)),
+      m_Forms(ports.locale.Forms()),
+      m_Ini(ports.files, m_ApplicationPath),
+      m_Texts(ports.files, m_Ini),
+      m_Log(ports.files, ports.clock, m_Texts, m_ApplicationPath),
+      m_View({ports.list, m_Ini, m_Texts, m_Settings, m_State, m_Categories, m_Forms, ports.screen,
+              ports.clipboard}),
+      m_Store({ports.files, ports.clock, ports.random, ports.list, m_Log, m_Texts, m_Settings, m_State},
+              m_ApplicationPath),
+      m_Acknowledgement({m_Store, m_View, ports.list, m_Log, m_Texts, m_Settings, m_State}),
+      m_EventText(m_Settings, m_Texts, m_Ini, m_Forms),
+      m_Popups(
+          {m_Settings, m_State, m_Ini, m_Texts, m_Log, ports.clock, ports.screen, ports.windows, ports.popups,
+           [this](const cVigrelRecieverAlarm& alarm, std::string_view format, std::string_view extraText) {
+               return m_EventText.ExpandEventText(alarm, format, extraText);
+           },
+           [this](const AlarmPtr& alarm) { m_Acknowledgement.AckAlarm(0, alarm); }}),
+      m_Sound({ports.waveDevice, ports.timerPlay, ports.beeper, m_State, m_Settings, m_Texts, m_Log}),
+      m_Light({ports.signalLight, ports.menus, m_Categories, m_State, m_Texts, m_Log}),
+      m_Tray({ports.trayArea, ports.timerPlay, ports.list, ports.mainWindow, m_Store.m_Alarms, m_State,
+              m_Settings}),
+      m_Printing(ports.printerPorts, m_Settings),
+      m_Intake({m_View,
+                m_Store,
+                ports.mainWindow,
+                m_Log,
+                m_Texts,
+                m_Settings,
+                {[this](const AlarmPtr& alarm) { m_Popups.ShowPopup(alarm); },
+                 [this](const cCategorySpecificSetting& setting) { m_Sound.StartSignal(setting); },
+                 [this](const cVigrelRecieverAlarm& alarm) { return PrintEvent(alarm); },
+                 [this](const cVigrelRecieverAlarm& alarm) { m_Light.SignalUsbLight(alarm); }}}),
+      m_Senders({ports.files, ports.clock, m_Ini, m_Texts, m_Log, m_Settings, m_Forms, ports.messageBox,
+                 [this](const AlarmPtr& alarm) { m_Intake.ProcessAlarm(alarm); }}),
+      m_Decoder({ports.clock, m_Log, m_Texts, m_Senders,
+                 [this](const AlarmPtr& alarm) { m_Intake.ProcessAlarm(alarm); },
+                 [this](std::string_view reply) { m_Link.SendReply(reply); }}),
+      m_Link(ports.winsockConnect, ports.winsockData, m_State) {
+    ConnectEvents();
+}
+
+void cVigrelReceiverMain::ConnectEvents() {
+    m_Link.ProcessRecord = [this](const std::string& line) { m_Decoder.ProcessRecord(line); };
+    m_Link.WriteTrace = [this](std::string_view text, std::int16_t kind) {
+        m_Ports.otherWindows.WriteTrace(text, kind);
+    };
+    m_Ports.timerKeepAlive.OnTick = [this] { Timer_KeepAlive_Tick(); };
+    m_Ports.timerPlay.OnTick = [this] { Timer_Play_Tick(); };
+    m_Ports.trayArea.OnHostGone = [this] { ShowWithoutTray(); };
+    cReportList& list = m_Ports.list;
+    list.OnRowDoubleClick = [this](RecordId row) { m_Acknowledgement.AckAlarm(row, nullptr); };
+    list.OnBeforeDrawRow = [this](RecordId row, cReportList::cFontStyle& style) {
+        m_View.BeforeDrawRow(row, style);
+    };
+    list.OnRowHeight = [this] { return m_View.RowHeight(); };
+    list.OnColumnWidthChanged = [this](int column) { m_View.ColumnWidthChanged(column); };
+    list.OnKeyDown = [this](int keyCode, int shift) { ListKeyDown(keyCode, shift); };
+    list.OnFocusChange = [this] { m_View.FocusChange(); };
+}
+
+void cVigrelReceiverMain::ListKeyDown(int keyCode, int shift) {
+    if (keyCode == kKeyEscape) m_Ports.list.ClearSelection();
+    if (keyCode == kKeyF9) Menu_AckAll();
+    m_View.HandleListShortcut(keyCode, shift);
+}
+
+bool cVigrelReceiverMain::PrintEvent(const cVigrelRecieverAlarm& alarm) {
+    return m_Printing.PrintEventText(m_EventText.ExpandEventText(alarm, m_Settings.m_PrinterFormat, ""));
+}
+
+void cVigrelReceiverMain::Timer_KeepAlive_Tick() {
+    m_Senders.Tick();
+    DailyHousekeeping();
+    m_Store.RetryUnsaved();
+}
+
+void cVigrelReceiverMain::DailyHousekeeping() {
+    const DateTime today = DateOf(m_Ports.clock.Now());
+    // The start has just done it.
+    if (m_LastHousekeepingDate == 0) m_LastHousekeepingDate = today;
+    if (m_LastHousekeepingDate == today) return;
+    m_Log.CleanLogFiles(kLogMask, m_Settings.m_KeepForDays);
+    const std::int32_t removed = m_Store.SweepOldAlarms();
+    m_Ports.list.TakeOverRecords();
+    if (removed > 0) m_Log.WriteLog(std::to_string(removed) + " " + m_Texts.GetText(10036));
+    m_LastHousekeepingDate = today;
+}
+
+void cVigrelReceiverMain::Timer_Play_Tick() {
+    if (m_Sound.TickSound()) m_Tray.TickTray();
+}
+
+void cVigrelReceiverMain::Menu_File() {
+    m_Ports.menus.SetEnabled("Menu_StopSound", m_State.m_SoundState != 0);
+    m_Ports.menus.SetEnabled("Menu_AckAll_AndClosePopups", m_State.m_PopupFormCount > 0);
+}
+
+void cVigrelReceiverMain::Menu_AckAll_AndClosePopups() {
+    m_Acknowledgement.Menu_AckAll_AndClosePopups([this] { m_Popups.ClosePopups(); });
+}
+
+// --- window rules
+
+void cVigrelReceiverMain::Form_Activate() {
+    if (m_SplashShown) {
+        m_Ports.otherWindows.UnloadAboutBox();
+        return;
+    }
+    if (HasSwitch("/MINIMIZE")) m_Ports.mainWindow.SetState(eWindowState::Minimised);
+    ShowAbout();
+}
+
+void cVigrelReceiverMain::Form_Resize() {
+    cWindow& window = m_Ports.mainWindow;
+    if (m_Settings.m_PreventMinimize) {
+        if (window.State() == eWindowState::Minimised) {
+            if (m_LastWindowState == eWindowState::Minimised) m_LastWindowState = eWindowState::Normal;
+            window.SetState(m_LastWindowState);
+        } else {
+            m_LastWindowState = window.State();
+        }
+    }
+    if (window.State() == eWindowState::Minimised && !m_Settings.m_ShowInTaskBar) HideWhenMinimised();
+}
+
+void cVigrelReceiverMain::HideWhenMinimised() {
+    if (m_Ports.trayArea.HostAvailable()) {
+        m_Ports.mainWindow.Hide();
+        return;
+    }
+    // Hidden where no icon can bring it back, the window would be lost to the operator.
+    if (!m_ToldOfMissingTray) m_Log.WriteLog("No notification area: the minimised window is not hidden");
+    m_ToldOfMissingTray = true;
+}
+
+// A window that hides is reached by the icon alone.
+void cVigrelReceiverMain::ShowWithoutTray() {
+    cWindow& window = m_Ports.mainWindow;
+    if (window.Visible()) return;
+    m_Log.WriteLog("The notification area is gone: the hidden window is shown");
+    window.SetState(eWindowState::Normal);
+    window.Show();
+}
+
+bool cVigrelReceiverMain::Form_QueryUnload(eCloseReason unloadMode) {
+    const bool sessionEnds = unloadMode == eCloseReason::SessionEnd;
+    if (!sessionEnds) {
+        if (m_Settings.m_DisableShutdown) return false;
+        if (m_Ports.messageBox.Show(m_Texts.GetText(10022), eMessageIcon::Question, eMessageButtons::YesNo) ==
+            eMessageAnswer::No) {
+            return false;
+        }
+    }
+    m_Log.WriteLog(m_Texts.GetText(sessionEnds ? 10020 : 10021));
+    return true;
+}
+
+void cVigrelReceiverMain::Form_Unload() {
+    SaveFormGeometry(m_Ports.mainWindow, m_Ini);
+    m_Sound.Shutdown();
+    m_Ports.trayArea.SetVisible(false);
+    m_Ports.runningApps.SetRunningApps(kApplication, 0);
+    m_Light.Menu_StopLight();
+    if (m_State.m_PopupFormCount > 0) m_Popups.ClosePopups();
+}
+
+}  // namespace vigrel

@@ -1,0 +1,131 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+#include "categories/category_specific_setting.h"
+#include "common/ini.h"
+#include "common/log.h"
+#include "common/receiver_state.h"
+#include "common/settings.h"
+#include "common/texts.h"
+#include "core/receiver_ports.h"
+#include "events/acknowledgement.h"
+#include "events/alarm_list_view.h"
+#include "events/alarm_store.h"
+#include "link/alarm_intake.h"
+#include "link/record_decoder.h"
+#include "link/sender_table.h"
+#include "link/server_link.h"
+#include "signals/event_text.h"
+#include "signals/light.h"
+#include "signals/popups.h"
+#include "signals/printing.h"
+#include "signals/sound.h"
+#include "signals/tray.h"
+
+namespace vigrel {
+
+// How Form_Load ended.
+enum class eStartUp {
+    Running,     // everything else happens in answer to events
+    NoLanguage,  // ended without a word, since there are none
+    SecondInstance,
+    NoSuiteLibrary,
+    PortTaken,
+};
+
+// The receiver: its main window's events, and through them everything that it does. The name is that of its
+// window.
+class cVigrelReceiverMain {
+  public:
+    // applicationPath ends in a backslash. commandLine is what stands behind the program's own name.
+    cVigrelReceiverMain(const cReceiverPorts& ports, std::string applicationPath,
+                        const std::string& commandLine);
+    cVigrelReceiverMain(const cVigrelReceiverMain&) = delete;
+    cVigrelReceiverMain& operator=(const cVigrelReceiverMain&) = delete;
+
+    // --- the window's events
+    // Starts the receiver. Ended in any other way than Running, the operator has been told and the program is
+    // to end without more ado. A failure that has no answer of its own is thrown as cFailure.
+    eStartUp Form_Load();
+    void Form_Activate();
+    void Form_Resize();
+    // Whether the close may go on.
+    bool Form_QueryUnload(eCloseReason unloadMode);
+    void Form_Unload();
+
+    // --- the menus
+    void Menu_File();
+    void Menu_StopSound() { m_Sound.Menu_StopSound(); }
+    void Menu_StopLight() { m_Light.Menu_StopLight(); }
+    void Menu_AckAll() { m_Acknowledgement.Menu_AckAll(); }
+    void Menu_AckAll_AndClosePopups();
+
+    const cSettings& Settings() const { return m_Settings; }
+    const cReceiverState& State() const { return m_State; }
+    // For windows of the receiver that show texts or write logs of their own.
+    const cTexts& Texts() const { return m_Texts; }
+    cIni& Ini() { return m_Ini; }
+
+  private:
+    static constexpr std::int32_t kApplication = 8;  // this program's number among the suite's
+
+    bool HasSwitch(std::string_view name) const;
+    void ConnectEvents();
+
+    // The steps of the start, in their order.
+    void PrepareFolders();
+    bool LoadLanguage();
+    void ReadCategories(std::int16_t devices);
+    void SetCaptions();
+    bool IsOnlyInstance();
+    bool ReachSuiteLibrary();
+    void SetTitle();
+    void SetListFont();
+    void ApplyWindowSwitches();
+    void PlaceWindow();
+    void ShowAbout();
+    bool OpenPort();
+
+    void Timer_KeepAlive_Tick();
+    void Timer_Play_Tick();
+    void DailyHousekeeping();
+    void ListKeyDown(int keyCode, int shift);
+    bool PrintEvent(const cVigrelRecieverAlarm& alarm);
+    void HideWhenMinimised();
+    void ShowWithoutTray();
+
+    cReceiverPorts m_Ports;
+    std::string m_ApplicationPath;
+    std::string m_CommandLine;  // in upper case
+
+    cSettings m_Settings;
+    cReceiverState m_State;
+    cLocaleForms m_Forms;
+    cIni m_Ini;
+    cTexts m_Texts;
+    cLog m_Log;
+    cCategorySettings m_Categories;
+    cAlarmListView m_View;
+    cAlarmStore m_Store;
+    cAcknowledgement m_Acknowledgement;
+    cEventText m_EventText;
+    cPopups m_Popups;
+    cSound m_Sound;
+    cLight m_Light;
+    cTray m_Tray;
+    cPrinting m_Printing;
+    cAlarmIntake m_Intake;
+    cSenderTable m_Senders;
+    cRecordDecoder m_Decoder;
+    cServerLink m_Link;
+
+    bool m_SplashShown = false;
+    eWindowState m_LastWindowState = eWindowState::Normal;
+    DateTime m_LastHousekeepingDate = 0;
+    bool m_ToldOfMissingTray = false;
+};
+
+}  // namespace vigrel

@@ -1,0 +1,190 @@
+#include <QKeyEvent>
+#include <QPainter>
+#include <algorithm>
+
+#include "adapters/qt/qt_text.h"
+#include "common/dates.h"
+#include "editor_ui/calendar/calendar_page.h"
+#include "schedule/calendar_geometry.h"
+
+namespace vigrel {
+
+void cCalendarPage::MakeActions() {
+    m_Actions = {
+        MakeAction("HolidaysOfYear", tr("Give the year's &holidays the chosen day type"), tr("Ctrl+H"),
+                   [this] { TakeSelectedType(false); }),
+        MakeAction("HolidaysOfAllYears", tr("Give &all years' holidays the chosen day type"), {},
+                   [this] { TakeSelectedType(true); }),
+        nullptr,
+        MakeAction("ClearYear", tr("&Clear the year"), {}, [this] { ClearYear(); }),
+    };
+}
+
+QAction* cCalendarPage::MakeAction(const char* name, const QString& text, const QKeySequence& keys,
+                                   const std::function<void()>& chosen) {
+    auto* action = new QAction(text, this);
+    action->setObjectName(QString("Menu_Calendar_") + name);
+    action->setShortcut(keys);
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    connect(action, &QAction::triggered, this, chosen);
+    addAction(action);
+    return action;
+}
+
+QList<QAction*> cCalendarPage::EditActions() const {
+    return m_Actions;
+}
+
+void cCalendarPage::ConnectView() {
+    m_View.setAccessibleName(tr("Month"));
+    m_View.setAccessibleDescription(tr("Arrow keys choose a day, Space paints the day type"));
+    m_View.OnPaint = [this](QPainter& painter) {
+        m_Calendar.Paint(*this, &m_View.Surface());
+        PaintFocus(painter);
+    };
+    m_View.OnMouseDown = [this](auto... event) { MouseDown(event...); };
+    m_View.OnMouseUp = [this](auto... event) { MouseUp(event...); };
+    m_View.OnMouseMove = [this](std::int16_t button, std::int16_t shift, QPoint unit) {
+        m_Calendar.MouseMove(*this, &m_View.Surface(), button, shift, static_cast<float>(unit.x()),
+                             static_cast<float>(unit.y()));
+    };
+    m_View.OnKey = [this](const QKeyEvent& event) { return Key(event); };
+}
+
+// A stroke is one step of undo. It is the left button's.
+void cCalendarPage::MouseDown(std::int16_t button, std::int16_t shift, QPoint unit) {
+    if (button != 1 || m_Painting) return;
+    if (!Get_Combo_Calendar_DayType_SelectedItem()) emit Message(tr("Choose a day type to paint."));
+    m_Painting = true;
+    m_Day = DayAt(unit).value_or(m_Day);
+    BeginEdit();
+    m_Calendar.MouseDown(*this, &m_View.Surface(), button, shift, static_cast<float>(unit.x()),
+                         static_cast<float>(unit.y()));
+}
+
+void cCalendarPage::MouseUp(std::int16_t button, std::int16_t shift, QPoint unit) {
+    if (button != 1 || !m_Painting) return;
+    m_Painting = false;
+    m_Calendar.MouseUp(*this, &m_View.Surface(), button, shift, static_cast<float>(unit.x()),
+                       static_cast<float>(unit.y()));
+    EndEdit(tr("painting days"));
+    ForgetPointer();
+}
+
+// The last cell of the grid is blank in every month.
+void cCalendarPage::ForgetPointer() {
+    m_Calendar.MouseMove(*this, &m_View.Surface(), 0, 0, kGridRight - kCellWidth / 2.0,
+                         kGridBottom - kCellHeight / 2.0);
+}
+
+bool cCalendarPage::Key(const QKeyEvent& event) {
+    if (m_Painting) return true;
+    switch (event.key()) {
+        case Qt::Key_Left:
+            MoveDay(-1);
+            return true;
+        case Qt::Key_Right:
+            MoveDay(1);
+            return true;
+        case Qt::Key_Up:
+            MoveDay(-kGridColumns);
+            return true;
+        case Qt::Key_Down:
+            MoveDay(kGridColumns);
+            return true;
+        case Qt::Key_PageUp:
+            MoveMonth(-1);
+            return true;
+        case Qt::Key_PageDown:
+            MoveMonth(1);
+            return true;
+        case Qt::Key_Home:
+            ShowToday();
+            return true;
+        case Qt::Key_Space:
+            PaintChosenDay();
+            return true;
+        default:
+            return false;
+    }
+}
+
+// Over the month's ends into its neighbours.
+void cCalendarPage::MoveDay(int days) {
+    const std::int32_t index = m_Calendar.m_ActualMonthOffset + m_Day + days;
+    if (index < 0 || index >= kCalendarDays) return;
+    const cDateParts date = SplitDateTime(index + kFirstCalendarDay);
+    m_Day = date.day - 1;
+    if (date.month != m_Calendar.m_SelectedMonth) ShowMonth(date.year, date.month);
+    const QPoint cell = CellOf(m_Day);
+    m_Calendar.MouseMove(*this, &m_View.Surface(), 0, 0, static_cast<float>(cell.x()),
+                         static_cast<float>(cell.y()));
+    emit Message(m_View.toolTip());
+    m_View.update();
+}
+
+// The middle of a day's cell.
+QPoint cCalendarPage::CellOf(int day) const {
+    const int cell = day + m_Calendar.m_FirstWeekDayInActualMonth;
+    return {kGridLeft + cell % kGridColumns * kCellWidth + kCellWidth / 2,
+            kGridTop + cell / kGridColumns * kCellHeight + kCellHeight / 2};
+}
+
+// The day of the month whose cell that is.
+std::optional<int> cCalendarPage::DayAt(QPoint unit) const {
+    if (unit.x() < kGridLeft || unit.x() >= kGridRight || unit.y() < kGridTop) return std::nullopt;
+    const int cell = (unit.y() - kGridTop) / kCellHeight * kGridColumns + (unit.x() - kGridLeft) / kCellWidth;
+    const int day = cell - m_Calendar.m_FirstWeekDayInActualMonth;
+    if (day < 0 || day >= m_Calendar.m_DaysInActualMonth) return std::nullopt;
+    return day;
+}
+
+void cCalendarPage::PaintChosenDay() {
+    const QPoint cell = CellOf(m_Day);
+    MouseDown(1, 0, cell);
+    MouseUp(1, 0, cell);
+}
+
+// Of the days that are marked in the month, not of those that only have a name.
+void cCalendarPage::TakeSelectedType(bool allYears) {
+    if (m_DayType.currentIndex() < 0 || m_Country.currentIndex() <= 0) {
+        emit Message(tr("Choose a day type to paint and the country of the holidays."));
+        return;
+    }
+    int count = 0;
+    Edit(tr("painting holidays"), [&] {
+        for (const cHolidayLabel& label : m_Holidays.m_HolidayLabels) {
+            if (label.m_ViewInCalendar == False16 || (!allYears && !IsShownYear(label.m_Day))) continue;
+            m_Calendar.SetDayType(label.m_Day, static_cast<std::int16_t>(m_DayType.currentIndex()));
+            ++count;
+        }
+    });
+    m_View.update();
+    emit Message(tr("Painted holidays: %1 (%2)").arg(count).arg(m_DayType.currentText()));
+}
+
+void cCalendarPage::ClearYear() {
+    Edit(tr("clearing a year"), [&] {
+        for (std::int32_t i = 0; i < kCalendarDays; ++i) {
+            if (IsShownYear(i)) m_Calendar.SetDayType(i, 0);
+        }
+    });
+    m_View.update();
+}
+
+bool cCalendarPage::IsShownYear(std::int32_t day) const {
+    return SplitDateTime(day + kFirstCalendarDay).year == m_Calendar.m_SelectedYear;
+}
+
+// Shows the keyboard's day.
+void cCalendarPage::PaintFocus(QPainter& painter) {
+    if (!m_View.hasFocus()) return;
+    const QPoint cell = CellOf(m_Day);
+    painter.save();
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 1));
+    painter.drawRect(QRectF(cell.x() - kCellWidth / 2.0 + kBoxOffset - 0.5,
+                            cell.y() - kCellHeight / 2.0 + kBoxOffset - 0.5, kBoxWidth, kBoxHeight));
+    painter.restore();
+}
+
+}  // namespace vigrel

@@ -1,0 +1,62 @@
+#include "editor_ui/pages/note_bar.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "adapters/qt/qt_text.h"
+
+namespace vigrel {
+
+cNoteBar::cNoteBar(QWidget* parent) : QFrame(parent), m_Summary(new QLabel), m_Lines(new QPlainTextEdit) {
+    setObjectName("Bar_Notes");
+    setFrameShape(QFrame::StyledPanel);
+    m_Summary->setObjectName("Label_Notes");
+    m_Summary->setWordWrap(true);
+    m_Lines->setObjectName("Text_Notes");
+    m_Lines->setAccessibleName(tr("What happened to files"));
+    m_Lines->setReadOnly(true);
+    m_Lines->setTabChangesFocus(true);
+    m_Lines->setMaximumHeight(fontMetrics().lineSpacing() * 8);
+    m_Lines->hide();
+    auto* details = new QPushButton(tr("Details"));
+    details->setObjectName("Button_Notes_Details");
+    details->setCheckable(true);
+    auto* close = new QPushButton(tr("Close"));
+    close->setObjectName("Button_Notes_Close");
+    auto* line = new QHBoxLayout;
+    line->addWidget(m_Summary, 1);
+    line->addWidget(details);
+    line->addWidget(close);
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(line);
+    layout->addWidget(m_Lines);
+    connect(details, &QPushButton::toggled, m_Lines, &QWidget::setVisible);
+    connect(close, &QPushButton::clicked, this, &QWidget::hide);
+    hide();
+}
+
+void cNoteBar::Show(const std::vector<cDefinitionNote>& notes) {
+    using eKind = cDefinitionNote::eKind;
+    const auto count = [&](eKind kind) {
+        return std::count_if(notes.begin(), notes.end(),
+                             [kind](const auto& note) { return note.kind == kind; });
+    };
+    QStringList summary;
+    if (const auto upgraded = count(eKind::Upgraded); upgraded > 0) {
+        summary += tr("Files brought up to a new version: %1.").arg(upgraded);
+    }
+    if (const auto failed = count(eKind::Failed); failed > 0) {
+        summary += tr("What could not be read: %1.").arg(failed);
+    }
+    QStringList lines;
+    for (const cDefinitionNote& note : notes) lines += ToQString(note.line);
+    m_Summary->setText(summary.join(' '));
+    m_Lines->setPlainText(lines.join('\n'));
+    setVisible(!summary.isEmpty());
+}
+
+}  // namespace vigrel

@@ -1,0 +1,69 @@
+#include "editor_ui/pages/prompts.h"
+
+#include <QCoreApplication>
+#include <QFileDialog>
+#include <QGuiApplication>
+#include <QInputDialog>
+#include <QMessageBox>
+
+namespace vigrel {
+namespace {
+
+QString Tr(const char* text) {
+    return QCoreApplication::translate("cDialogPrompts", text);
+}
+
+QMessageBox::StandardButton Ask(QWidget* owner, QMessageBox::Icon icon, const QString& text,
+                                QMessageBox::StandardButtons buttons) {
+    QMessageBox box(icon, QGuiApplication::applicationDisplayName(), text, buttons, owner);
+    box.setObjectName("MessageBox_Definitions");
+    // A name can hold what looks like markup.
+    box.setTextFormat(Qt::PlainText);
+    return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+}  // namespace
+
+cPrompts::eSave cDialogPrompts::AskToSave(QWidget* owner, const QString& title) {
+    switch (Ask(owner, QMessageBox::Warning, Tr("%1 has changes. Save them?").arg(title),
+                QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel)) {
+        case QMessageBox::Save:
+            return eSave::Save;
+        case QMessageBox::Discard:
+            return eSave::Discard;
+        default:
+            return eSave::Cancel;
+    }
+}
+
+bool cDialogPrompts::AskYesNo(QWidget* owner, const QString& question) {
+    return Ask(owner, QMessageBox::Question, question, QMessageBox::Yes | QMessageBox::No) ==
+           QMessageBox::Yes;
+}
+
+void cDialogPrompts::ShowFailure(QWidget* owner, const QString& text) {
+    Ask(owner, QMessageBox::Warning, text, QMessageBox::Ok);
+}
+
+QString cDialogPrompts::AskOpenPath(QWidget* owner, const QString& folder, const QString& filter) {
+    return QFileDialog::getOpenFileName(owner, Tr("Open"), folder, filter);
+}
+
+// The dialog asks before an existing file is replaced, for the name with its suffix.
+QString cDialogPrompts::AskSavePath(QWidget* owner, const QString& path, const QString& filter,
+                                    const QString& suffix) {
+    QFileDialog dialog(owner, Tr("Save as"), path, filter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(suffix);
+    dialog.selectFile(path);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+QString cDialogPrompts::AskText(QWidget* owner, const QString& label, const QString& text) {
+    bool accepted = false;
+    const QString answer = QInputDialog::getText(owner, QGuiApplication::applicationDisplayName(), label,
+                                                 QLineEdit::Normal, text, &accepted);
+    return accepted ? answer.trimmed() : QString();
+}
+
+}  // namespace vigrel

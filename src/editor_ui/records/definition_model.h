@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QAbstractTableModel>
+#include <vector>
+
+#include "editor_ui/records/definition_source.h"
+
+namespace vigrel {
+
+// The definitions of a source as rows: name, details, number of the file. A name with unsaved changes is bold
+// and marked with "*"; one that is not enabled is grey. Rows are the positions of the source.
+class cDefinitionModel : public QAbstractTableModel {
+    Q_OBJECT
+  public:
+    enum eColumn { Name, Details, Number, Columns };
+    // The text of a cell without marks, for sorting and searching.
+    static constexpr int PlainTextRole = Qt::UserRole;
+
+    // The source must outlive the model.
+    explicit cDefinitionModel(cDefinitionSource& source, QObject* parent = nullptr);
+    void SetDetailsCaption(const QString& caption) { m_Details = caption; }
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+    // The same operations as those of the source, with the rows following.
+    int Add(const QString& wishedName);
+    int AddCopy(int row);
+    bool Remove(int row);
+    bool Revert(int row);
+    bool Save(int row);
+    // The definition of a row has changed.
+    void Refresh(int row);
+    // The source was loaded anew.
+    void Reset();
+
+    // To compare a definition with its file takes a while, so it is done once after each change.
+    bool HasChanges(int row) const { return m_Changed[static_cast<std::size_t>(row)]; }
+    bool HasChanges() const;
+
+  private:
+    QString PlainText(const QModelIndex& index) const;
+    void CompareAll();
+    int EndAdding(std::size_t position);
+
+    cDefinitionSource& m_Source;
+    QString m_Details;
+    std::vector<bool> m_Changed;  // by row
+};
+
+}  // namespace vigrel

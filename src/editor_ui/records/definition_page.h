@@ -1,0 +1,106 @@
+#pragma once
+
+#include <QAction>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "editor_ui/pages/editor_page.h"
+#include "editor_ui/pages/editor_services.h"
+#include "editor_ui/records/definition_model.h"
+
+class QLabel;
+class QLineEdit;
+class QSortFilterProxyModel;
+class QTableView;
+
+namespace vigrel {
+
+class cNoteBar;
+
+// What a page says of its kind of definitions.
+struct cPageWords {
+    QString title;           // "Receivers"
+    QString path;            // the folder, for the tab's tip
+    QString newName;         // "New receiver"
+    QString details;         // caption of the second column
+    QString deleteQuestion;  // with "%1" for the name
+};
+
+// The form that a page edits a definition with.
+struct cPageForm {
+    QWidget* widget;
+    std::function<void(int position)> show;  // below 0: none
+    std::function<QString()> problem;        // why the shown one can't be saved as the form stands
+    std::function<void()> focusName;
+    // More that the user should know before one is deleted; may be missing.
+    std::function<QString(int position)> deleteWarning;
+};
+
+// A list of definitions with search, and a form for the chosen one. Changes stay in the definitions, also
+// when another is chosen, until they are saved or reverted.
+class cDefinitionPage : public cEditorPage {
+    Q_OBJECT
+  public:
+    // What happened to files since the last call.
+    using TakeNotes = std::function<std::vector<cDefinitionNote>()>;
+    // The services must outlive the page.
+    cDefinitionPage(cEditorServices& services, std::unique_ptr<cDefinitionSource> source, TakeNotes takeNotes,
+                    QWidget* parent);
+    ~cDefinitionPage() override;
+
+    QString Title() const override { return m_Words.title; }
+    QString Path() const override { return m_Words.path; }
+    bool IsDirty() const override { return m_Model.HasChanges(); }
+    // Saves every changed definition; false, with the one chosen that can't be saved, when changes remain.
+    bool Save() override;
+    QList<QAction*> EditActions() const override;
+
+    // The position in the source of the chosen definition, -1 for none.
+    int Chosen() const;
+    void Choose(int position);
+
+  protected:
+    // Fills the page; to be called once, by the deriving page's constructor.
+    void SetUp(cPageWords words, cPageForm form);
+    // The form has changed the chosen definition.
+    void NoteEdit();
+    void ShowChosen();
+
+  private:
+    QAction* MakeAction(const char* objectName, const QString& text, const QString& tip,
+                        const QKeySequence& keys, void (cDefinitionPage::*press)());
+    void MakeActions();
+    void MakeList();
+    QWidget* MakeListPanel();
+    QWidget* MakeButtons();
+    void New();
+    void Copy();
+    void Delete();
+    void SaveChosen();
+    void Revert();
+    void Find();
+    bool SavePosition(int position);
+    QString NameAt(int position) const;
+    QString ProblemAt(int position) const;
+    void TellFailure(const QString& text);
+    void Sort();
+    void Changed();
+    void UpdateActions();
+    void ShowCount();
+
+    cEditorServices& m_Services;
+    std::unique_ptr<cDefinitionSource> m_Source;
+    TakeNotes m_TakeNotes;
+    cDefinitionModel m_Model;
+    cPageWords m_Words;
+    cPageForm m_Form{};
+    QSortFilterProxyModel* m_Filter;
+    cNoteBar* m_Notes;
+    QLineEdit* m_Search;
+    QTableView* m_List;
+    QLabel* m_Count;
+    QAction *m_New = nullptr, *m_Copy = nullptr, *m_Delete = nullptr, *m_Save = nullptr, *m_Revert = nullptr;
+};
+
+}  // namespace vigrel

@@ -1,0 +1,100 @@
+#pragma once
+
+#include <QCheckBox>
+#include <QPlainTextEdit>
+#include <QSignalBlocker>
+#include <QSpinBox>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "adapters/qt/qt_text.h"
+#include "common/binary.h"
+#include "editor_ui/pages/text_edit.h"
+
+namespace vigrel {
+
+// Ties the widgets of a form to the fields of one definition at a time. A field is written when the user
+// edits its widget and at no other time, so that what a form can't show exactly stays as it is.
+template <class Definition>
+class cFieldBinder {
+  public:
+    template <class T>
+    using Get = std::function<T(const Definition&)>;
+    template <class T>
+    using Set = std::function<void(Definition&, const T&)>;
+
+    // The widgets are made without a parent: a layout takes them.
+    cTextEdit* Text(const char* objectName, const QString& name, Get<std::string> get, Set<std::string> set) {
+        auto* widget = Named(new cTextEdit, objectName, name);
+        QObject::connect(widget, &QLineEdit::textEdited, widget,
+                         [this, set](const QString& text) { Edit(set, FromQString(text)); });
+        m_Shows.push_back([widget, get](const Definition& shown) { widget->setText(ToQString(get(shown))); });
+        return widget;
+    }
+    cTextEdit* Text(const char* objectName, const QString& name, std::string Definition::*field) {
+        return Text(
+            objectName, name, [field](const Definition& shown) { return shown.*field; },
+            [field](Definition& shown, const std::string& text) { shown.*field = text; });
+    }
+    QCheckBox* Flag(const char* objectName, const QString& caption, Get<std::int16_t> get,
+                    Set<std::int16_t> set) {
+        auto* widget = Named(new QCheckBox(caption), objectName, caption);
+        QObject::connect(widget, &QCheckBox::clicked, widget,
+                         [this, set](bool on) { Edit(set, on ? True16 : False16); });
+        m_Shows.push_back(
+            [widget, get](const Definition& shown) { widget->setChecked(get(shown) != False16); });
+        return widget;
+    }
+    QCheckBox* Flag(const char* objectName, const QString& caption, Boolean16 Definition::*field) {
+        return Flag(
+            objectName, caption, [field](const Definition& shown) { return shown.*field; },
+            [field](Definition& shown, const std::int16_t& on) { shown.*field = on; });
+    }
+    QSpinBox* Number(const char* objectName, const QString& name, std::int16_t Definition::*field) {
+        auto* widget = Named(new QSpinBox, objectName, name);
+        widget->setRange(-32768, 32767);
+        QObject::connect(widget, &QSpinBox::valueChanged, widget, [this, field](int value) {
+            Edit<std::int16_t>(
+                [field](Definition& shown, const std::int16_t& number) { shown.*field = number; },
+                static_cast<std::int16_t>(value));
+        });
+        m_Shows.push_back([widget, field](const Definition& shown) {
+            const QSignalBlocker quiet(widget);
+            widget->setValue(shown.*field);
+        });
+        return widget;
+    }
+    // Anything else that a form shows of its definition.
+    void AddShow(std::function<void(const Definition&)> show) { m_Shows.push_back(std::move(show)); }
+
+    // The definition must outlive its showing; nullptr ends it and leaves the widgets as they are.
+    void Show(Definition* definition) {
+        m_Shown = definition;
+        if (m_Shown == nullptr) return;
+        for (const auto& show : m_Shows) show(*m_Shown);
+    }
+    Definition* Shown() const { return m_Shown; }
+
+    // Changes the shown definition and tells of it.
+    template <class T>
+    void Edit(const Set<T>& set, const T& value) {
+        if (m_Shown == nullptr) return;
+        set(*m_Shown, value);
+        if (OnEdited) OnEdited();
+    }
+    std::function<void()> OnEdited;
+
+  private:
+    template <class Widget>
+    static Widget* Named(Widget* widget, const char* objectName, const QString& name) {
+        widget->setObjectName(objectName);
+        widget->setAccessibleName(name);
+        return widget;
+    }
+
+    Definition* m_Shown = nullptr;
+    std::vector<std::function<void(const Definition&)>> m_Shows;
+};
+
+}  // namespace vigrel

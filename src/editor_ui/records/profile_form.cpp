@@ -1,0 +1,235 @@
+#include "editor_ui/records/profile_form.h"
+
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include "common/date_text.h"
+#include "common/file_procedures.h"
+#include "editor_ui/pages/scrolled.h"
+#include "editor_ui/records/profile_calendar.h"
+#include "editor_ui/records/profile_schedule.h"
+#include "editor_ui/records/receiver_picker.h"
+#include "editor_ui/records/system_grid.h"
+
+namespace vigrel {
+namespace {
+
+// Where there is little room, a field stands below its label.
+QFormLayout* MakeFields(QWidget* page) {
+    auto* layout = new QFormLayout(page);
+    layout->setRowWrapPolicy(QFormLayout::WrapLongRows);
+    return layout;
+}
+
+}  // namespace
+
+cProfileForm::cProfileForm(cEditorServices& editor, QWidget* parent)
+    : QWidget(parent), m_Editor(editor), m_Tabs(new QTabWidget) {
+    setObjectName("Form_Profile");
+    m_Tabs->setObjectName("Tabs_Profile");
+    m_Tabs->setAccessibleName(tr("Profile"));
+    // Each page scrolls by itself, so that the tabs stay in sight.
+    const auto add = [this](QWidget* page, const QString& caption) {
+        m_Tabs->addTab(Scrolled(page), caption);
+    };
+    add(MakeGeneral(), tr("General"));
+    add(MakeConditions(), tr("Conditions"));
+    add(MakeReceivers(), tr("Receivers"));
+    add(MakeSchedule(), tr("Schedule"));
+    add(MakeCalendar(), tr("Calendar"));
+    add(MakeExternal(), tr("External"));
+    add(MakeSystems(), tr("Systems"));
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_Tabs);
+    m_Binder.OnEdited = [this] {
+        if (OnEdited) OnEdited();
+    };
+    Show(nullptr);
+}
+
+QWidget* cProfileForm::MakeGeneral() {
+    auto* page = new QWidget;
+    auto* layout = MakeFields(page);
+    m_Name = m_Binder.Text(
+        "Text_ProfileName", tr("Name"), [](const cProfile& profile) { return profile.GetName(); },
+        [](cProfile& profile, const std::string& name) { profile.SetName(name); });
+    layout->addRow(tr("Na&me:"), m_Name);
+    layout->addRow(
+        "", m_Binder.Flag("Check_Enabled", tr("En&abled: the profile takes part"), &cProfile::m_Enabled));
+    for (std::int16_t i = 0; i < cProfile::kStates; ++i) {
+        const QByteArray objectName = QString("Check_State_%1").arg(i).toLatin1();
+        layout->addRow(i == 0 ? tr("States:") : QString(),
+                       m_Binder.Flag(
+                           objectName.constData(), tr("State %1").arg(i),
+                           [i](const cProfile& profile) { return profile.GetState(i); },
+                           [i](cProfile& profile, const std::int16_t& on) { profile.SetState(i, on); }));
+    }
+    layout->addRow(tr("&Off duty behaviour:"), m_Binder.Number("Number_OffDuty", tr("Off duty behaviour"),
+                                                               &cProfile::m_OffDutyAlarmBehaviour));
+    m_File = new QLabel;
+    m_File->setObjectName("Label_File");
+    m_File->setWordWrap(true);
+    m_File->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    layout->addRow(tr("File:"), m_File);
+    m_Binder.AddShow([this](const cProfile& profile) { ShowFile(profile); });
+    return page;
+}
+
+void cProfileForm::ShowFile(const cProfile& profile) {
+    if (profile.m_DiskIdentity < 0) {
+        m_File->setText(tr("not saved yet"));
+        return;
+    }
+    const QString name = ToQString(SplitPath(profile.CreateFileName(profile.m_DiskIdentity)).name);
+    const bool dated = profile.m_FileDateTimeStamp != 0;
+    m_File->setText(dated ? tr("%1, saved %2").arg(name, ToQString(DateTimeText(profile.m_FileDateTimeStamp)))
+                          : name);
+}
+
+QWidget* cProfileForm::MakeConditions() {
+    auto* page = new QWidget;
+    auto* layout = MakeFields(page);
+    for (std::int16_t i = 0; i < cProfile::kConditions; ++i) {
+        const QByteArray objectName = QString("Text_Condition_%1").arg(i).toLatin1();
+        layout->addRow(
+            tr("Condition &%1:").arg(i),
+            m_Binder.Text(
+                objectName.constData(), tr("Condition %1").arg(i),
+                [i](const cProfile& profile) { return profile.GetCondition(i); },
+                [i](cProfile& profile, const std::string& text) { profile.SetCondition(i, text); }));
+    }
+    return page;
+}
+
+cReceiverPicker* cProfileForm::MakePicker(const char* objectName, const QString& name,
+                                          std::string cProfile::*field) {
+    auto* picker = new cReceiverPicker(objectName, name, m_Editor.m_Station.Receivers());
+    picker->OnEdited = [this, field](const std::string& text) {
+        m_Binder.Edit<std::string>([field](cProfile& shown, const std::string& set) { shown.*field = set; },
+                                   text);
+    };
+    m_Binder.AddShow([picker, field](const cProfile& shown) { picker->Show(shown.*field); });
+    return picker;
+}
+
+QWidget* cProfileForm::MakeReceivers() {
+    auto* page = new QWidget;
+    auto* layout = new QVBoxLayout(page);
+    const auto add = [layout](const QString& title, cReceiverPicker* picker) {
+        auto* box = new QGroupBox(title);
+        auto* inside = new QVBoxLayout(box);
+        inside->addWidget(picker);
+        layout->addWidget(box);
+    };
+    add(tr("Parallel: all at once"),
+        MakePicker("Parallel", tr("Parallel receivers"), &cProfile::m_ParallellReceivers));
+    add(tr("Sequential: one after the other"),
+        MakePicker("Sequential", tr("Sequential receivers"), &cProfile::m_SequentialReceivers));
+    return page;
+}
+
+QWidget* cProfileForm::MakeSchedule() {
+    auto* page = new QWidget;
+    auto* layout = new QVBoxLayout(page);
+    layout->addWidget(
+        m_Binder.Flag("Check_UseTimeSchedule", tr("&Use this time schedule"), &cProfile::m_UseTimeSchedule));
+    m_Schedule = new cProfileSchedule(m_Editor);
+    layout->addWidget(m_Schedule, 1);
+    m_Schedule->OnEdited = [this](const std::string& periods) {
+        m_Binder.Edit<std::string>(
+            [](cProfile& shown, const std::string& text) { shown.m_TimeSchedule->ExtractPeriodArray(text); },
+            periods);
+    };
+    m_Schedule->OnViewDayType = [this](bool on) {
+        m_Binder.Edit<std::int16_t>(
+            [](cProfile& shown, const std::int16_t& view) { shown.m_TimeSchedule_ViewDayType = view; },
+            on ? True16 : False16);
+    };
+    m_Binder.AddShow([this](const cProfile& shown) { m_Schedule->Show(shown); });
+    return page;
+}
+
+QWidget* cProfileForm::MakeCalendar() {
+    m_Calendar = new cProfileCalendar(m_Editor, *m_Schedule);
+    m_Calendar->OnViewTimeAxis = [this](bool on) {
+        m_Binder.Edit<std::int16_t>(
+            [](cProfile& shown, const std::int16_t& view) { shown.m_Calendar_ViewTimeAxis = view; },
+            on ? True16 : False16);
+    };
+    m_Binder.AddShow([this](const cProfile& shown) { m_Calendar->Show(shown); });
+    return m_Calendar;
+}
+
+QWidget* cProfileForm::MakeExternal() {
+    auto* page = new QWidget;
+    auto* layout = MakeFields(page);
+    layout->addRow(
+        "", m_Binder.Flag("Check_UseExternalTag", tr("Use an external &tag"), &cProfile::m_UseExternalTag));
+    layout->addRow(tr("Tag &name:"),
+                   m_Binder.Text("Text_ExternalTagName", tr("Tag name"), &cProfile::m_ExternalTagName));
+    layout->addRow("", m_Binder.Flag("Check_IgnoreExternalTag", tr("&Ignore this tag in other profiles"),
+                                     &cProfile::m_IgnoreExternalTagInOtherProfiles));
+    layout->addRow("", m_Binder.Flag("Check_UseExternalFile", tr("Use an external &file"),
+                                     &cProfile::m_UseExternalFile));
+    layout->addRow(tr("File &path:"),
+                   m_Binder.Text("Text_ExternalFileName", tr("File path"), &cProfile::m_ExternalFileName));
+    layout->addRow(tr("Te&xt in the file:"), m_Binder.Text("Text_ExternalFileText", tr("Text in the file"),
+                                                           &cProfile::m_ExternalFileText));
+    return page;
+}
+
+QWidget* cProfileForm::MakeSystems() {
+    auto* page = new QWidget;
+    auto* layout = new QVBoxLayout(page);
+    layout->addWidget(m_Binder.Flag("Check_ScanSpecificSystems", tr("&Only alarms of these systems:"),
+                                    &cProfile::m_ScanSpecificSystems));
+    auto* grid = new cSystemGrid;
+    layout->addWidget(grid);
+    layout->addStretch(1);
+    grid->OnEdited = [this](std::int16_t index, bool on) {
+        m_Binder.Edit<std::int16_t>(
+            [index](cProfile& shown, const std::int16_t& status) { shown.SetSystem(index, status); },
+            on ? True16 : False16);
+    };
+    m_Binder.AddShow([grid](const cProfile& shown) { grid->Show(shown); });
+    return page;
+}
+
+void cProfileForm::Show(cProfile* profile) {
+    m_Binder.Show(profile);
+    setEnabled(profile != nullptr);
+}
+
+QString cProfileForm::Problem() const {
+    return {};
+}
+
+void cProfileForm::FocusName() {
+    m_Tabs->setCurrentIndex(0);
+    m_Name->setFocus();
+    m_Name->selectAll();
+}
+
+QUndoStack* cProfileForm::UndoStack() {
+    return m_Schedule->UndoStack();
+}
+
+cCalendarPage& cProfileForm::Calendar() {
+    return m_Calendar->Page();
+}
+
+void cProfileForm::SetZoom(double zoom) {
+    m_Schedule->SetZoom(zoom);
+    m_Calendar->Page().SetZoom(zoom);
+}
+
+void cProfileForm::RefreshDayTypes() {
+    m_Schedule->RefreshDayTypes();
+    m_Calendar->Page().RefreshDayTypes();
+}
+
+}  // namespace vigrel

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "editor_ui/records/definition_page.h"
+
+namespace vigrel {
+
+class cProfileForm;
+
+// The profiles of the station.
+class cProfilesPage : public cDefinitionPage {
+    Q_OBJECT
+  public:
+    // Reads the profiles anew. The services must outlive the page, and no other page of the station's
+    // profiles may be in use.
+    explicit cProfilesPage(cEditorServices& services, QWidget* parent = nullptr);
+
+    // The calendar that the form shows belongs to the page.
+    bool IsDirty() const override;
+    bool Save() override;
+    // Of the shown profile's schedule.
+    QUndoStack* UndoStack() override;
+    void SetZoom(double zoom) override;
+    void RefreshDayTypes() override;
+
+  protected:
+    // Receivers may have been renamed on their page meanwhile.
+    void showEvent(QShowEvent* event) override;
+
+  private:
+    cStationDefinitions& m_Station;
+    cProfileForm* m_Form;
+};
+
+}  // namespace vigrel

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QWidget>
+#include <array>
+#include <functional>
+
+#include "definitions/receiver.h"
+#include "editor_ui/records/field_binder.h"
+
+class QComboBox;
+class QFormLayout;
+class QLabel;
+
+namespace vigrel {
+
+class cSettingEdit;
+
+// Every field of a receiver. Settings are labelled as the receiver's type calls them.
+class cReceiverForm : public QWidget {
+    Q_OBJECT
+  public:
+    explicit cReceiverForm(const cDefinitionServices& services, QWidget* parent = nullptr);
+
+    // The receiver must outlive its showing; nullptr shows nothing.
+    void Show(cReceiver* receiver);
+    // Why the receiver can't be saved as the form stands; empty when it can.
+    QString Problem() const;
+    void FocusName();
+
+    // After each change of the receiver by the user.
+    std::function<void()> OnEdited;
+
+  private:
+    void AddTypes();
+    void AddSettings(QFormLayout& layout);
+    void ShowType(const cReceiver& receiver);
+    void ShowSettings(const cReceiver& receiver);
+    void ShowFile(const cReceiver& receiver);
+    void ChooseType(int row);
+
+    const cDefinitionServices& m_Services;
+    cFieldBinder<cReceiver> m_Binder;
+    cTextEdit* m_Name;
+    QComboBox* m_Type;
+    QLabel* m_File;
+    std::array<QLabel*, cReceiver::kSettings> m_SettingLabels{};
+    std::array<cSettingEdit*, cReceiver::kSettings> m_Settings{};
+};
+
+}  // namespace vigrel

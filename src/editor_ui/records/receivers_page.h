@@ -1,0 +1,24 @@
+#pragma once
+
+#include "editor_ui/records/definition_page.h"
+
+namespace vigrel {
+
+class cReceiverForm;
+
+// The receivers of the station.
+class cReceiversPage : public cDefinitionPage {
+    Q_OBJECT
+  public:
+    // Reads the receivers anew. The services must outlive the page, and no other page of the station's
+    // receivers may be in use.
+    explicit cReceiversPage(cEditorServices& services, QWidget* parent = nullptr);
+
+  private:
+    QString DeleteWarning(int position) const;
+
+    cStationDefinitions& m_Station;
+    cReceiverForm* m_Form;
+};
+
+}  // namespace vigrel

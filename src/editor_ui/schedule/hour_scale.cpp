@@ -1,0 +1,36 @@
+#include "editor_ui/schedule/hour_scale.h"
+
+#include <QPainter>
+#include <cmath>
+
+#include "schedule/schedule_geometry.h"
+
+namespace vigrel {
+namespace {
+
+constexpr int kHoursBetweenLabels = 3;
+
+}  // namespace
+
+cHourScale::cHourScale(QWidget* parent) : QWidget(parent) {
+    setObjectName("Picture_TimeSchedule_Hours");
+    setFixedHeight(fontMetrics().height());
+}
+
+void cHourScale::Follow(double zoom, int viewLeft) {
+    m_Zoom = zoom;
+    m_ViewLeft = viewLeft;
+    update();
+}
+
+void cHourScale::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    for (int hour = 0; hour <= 24; hour += kHoursBetweenLabels) {
+        const QString label = QString("%1").arg(hour, 2, 10, QChar('0'));
+        const double x = m_ViewLeft + (kAxisLeft + kUnitsPerHour * hour + 0.5) * m_Zoom;
+        const int width = fontMetrics().horizontalAdvance(label);
+        painter.drawText(static_cast<int>(std::lround(x - width / 2.0)), fontMetrics().ascent(), label);
+    }
+}
+
+}  // namespace vigrel

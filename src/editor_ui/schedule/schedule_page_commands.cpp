@@ -1,0 +1,152 @@
+#include <utility>
+
+#include "adapters/qt/qt_text.h"
+#include "editor_ui/schedule/schedule_page.h"
+
+namespace vigrel {
+
+void cSchedulePage::MakeActions() {
+    m_Copy = MakeAction("Copy", tr("&Copy the day"), QKeySequence::Copy, &cSchedulePage::Copy);
+    m_Paste = MakeAction("Paste", tr("&Paste into the day"), QKeySequence::Paste, &cSchedulePage::Paste);
+    m_Delete = MakeAction("Delete", tr("&Delete the period"), QKeySequence::Delete, &cSchedulePage::Delete);
+    m_WholeDay = MakeAction("WholeDay", tr("&Whole day"), tr("Ctrl+D"), &cSchedulePage::WholeDay);
+    m_Invert = MakeAction("Invert", tr("&Invert the day"), tr("Ctrl+I"), &cSchedulePage::Invert);
+    m_Grouped = MakeAction("Grouped", tr("&Grouped"), tr("Ctrl+G"), &cSchedulePage::Group);
+    m_GroupedMonFri = MakeAction("Grouped_MonFri", tr("Monday to &Friday grouped"), tr("Ctrl+Shift+G"),
+                                 &cSchedulePage::GroupMonFri);
+    m_Rename = MakeAction("Rename", tr("&Rename the day type..."), {}, &cSchedulePage::Rename);
+    m_Grouped->setCheckable(true);
+    m_GroupedMonFri->setCheckable(true);
+    m_Popup.setObjectName("Menu_TimeSchedulePopup");
+    m_Popup.addActions({m_Delete, m_Copy, m_Paste});
+    m_Popup.addSeparator();
+    m_Popup.addActions({m_WholeDay, m_Invert});
+    m_Popup.addSeparator();
+    m_Popup.addActions({m_Grouped, m_GroupedMonFri});
+}
+
+// The keys work while the focus is in the page.
+QAction* cSchedulePage::MakeAction(const char* name, const QString& text, const QKeySequence& keys,
+                                   void (cSchedulePage::*chosen)()) {
+    auto* action = new QAction(text, this);
+    action->setObjectName(QString("Menu_TimeSchedulePopup_") + name);
+    action->setShortcut(keys);
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    connect(action, &QAction::triggered, this, chosen);
+    addAction(action);
+    return action;
+}
+
+QList<QAction*> cSchedulePage::EditActions() const {
+    return {m_Copy,  m_Paste,   m_Delete,        nullptr, m_WholeDay, m_Invert,
+            nullptr, m_Grouped, m_GroupedMonFri, nullptr, m_Rename,   m_Images.menuAction()};
+}
+
+// An entry can leave no day selected; the fields then have nothing to speak of.
+void cSchedulePage::Run(const QString& name, Operation operation) {
+    if (m_Schedule.IsDragging()) return;
+    Edit(name, [&] { (m_Schedule.*operation)(*this, m_SchedulePaintObject); });
+    if (m_Schedule.SelectedDayType() < 0) m_Schedule.ClearSelection(*this);
+    m_Frame.View().update();
+    Refresh();
+}
+
+void cSchedulePage::Delete() {
+    const int row = RowOf(m_Schedule.SelectedDayType());
+    Run(tr("deleting a period"), &cTimeSchedule::Delete);
+    // The keyboard goes on where it was.
+    if (m_Frame.View().hasFocus()) ChooseRowAgain(row);
+}
+void cSchedulePage::Copy() {
+    m_Schedule.Copy();
+    Refresh();
+}
+void cSchedulePage::Paste() {
+    Run(tr("pasting a day"), &cTimeSchedule::Paste);
+}
+void cSchedulePage::WholeDay() {
+    const int row = RowOf(m_Schedule.SelectedDayType());
+    Run(tr("the whole day"), &cTimeSchedule::SetTimeFrom00to24);
+    if (m_Frame.View().hasFocus()) ChooseRowAgain(row);
+}
+void cSchedulePage::Invert() {
+    Run(tr("inverting a day"), &cTimeSchedule::InvertTimeSchedule);
+}
+void cSchedulePage::Group() {
+    Run(tr("grouping a day"), &cTimeSchedule::Group);
+}
+
+// The entry has checked itself already; the schedule asks for the state before.
+void cSchedulePage::GroupMonFri() {
+    m_Schedule.PreparePopupMenu(*this);
+    Run(tr("grouping Monday to Friday"), &cTimeSchedule::GroupMonFri);
+}
+
+void cSchedulePage::TakeTimes() {
+    if (m_Start.isModified() || m_Stop.isModified()) {
+        Run(tr("typing times"), &cTimeSchedule::ExtractTimeFromTextboxes);
+    }
+}
+
+void cSchedulePage::TakeUseCalendar(bool use) {
+    Edit(tr("special day types"), [&] {
+        m_Schedule.m_UseCalendar = use ? True16 : False16;
+        Recalculate();
+    });
+}
+
+void cSchedulePage::TakeDayType(const QListWidgetItem& item) {
+    const auto dayType = static_cast<std::int16_t>(m_DayTypes.row(&item));
+    const bool active = item.checkState() == Qt::Checked;
+    if (m_Schedule.GetActive(dayType) == active) return;
+    Edit(active ? tr("adding a row") : tr("removing a row"), [&] {
+        m_Schedule.SetActive(dayType, active ? True16 : False16);
+        m_Schedule.ClearSelection(*this);
+        Recalculate();
+    });
+}
+
+std::optional<int> cSchedulePage::ChosenSpecialType() {
+    const int dayType = m_DayTypes.hasFocus() ? m_DayTypes.currentRow() : m_Schedule.SelectedDayType();
+    if (dayType >= kWeekDays) return dayType - kWeekDays + 1;
+    m_Services.m_Prompts.ShowFailure(
+        this, tr("Choose a special day type: only those have names and images of your own."));
+    return std::nullopt;
+}
+
+void cSchedulePage::Rename() {
+    const auto number = ChosenSpecialType();
+    if (!number) return;
+    const auto dayType = static_cast<std::int16_t>(*number + kWeekDays - 1);
+    const QString name = m_Services.m_Prompts.AskText(this, tr("Name of the day type"),
+                                                      ToQString(m_Services.m_DayTypeNames.Name(dayType)));
+    if (name.isEmpty()) return;
+    if (!m_Services.m_DayTypeNames.Rename(dayType, FromQString(name))) ShowNotStored();
+    emit DayTypesChanged();
+}
+
+// One entry for each drawing.
+void cSchedulePage::MakeImageMenu() {
+    m_Images.setObjectName("Menu_DayTypeImages");
+    for (int drawing = 1; drawing <= cDayTypeImages::kDrawings; ++drawing) {
+        const QPixmap image =
+            m_Services.m_DayTypeImages.Drawing(drawing, kDayTypeImageSize, devicePixelRatioF());
+        m_Images.addAction(image, cDayTypeImages::DrawingName(drawing), this,
+                           [this, drawing] { ChooseImage(drawing); });
+    }
+}
+
+void cSchedulePage::ChooseImage(int drawing) {
+    const auto number = ChosenSpecialType();
+    if (!number) return;
+    if (!m_Services.m_DayTypeImages.Choose(*number, drawing)) ShowNotStored();
+    emit DayTypesChanged();
+}
+
+void cSchedulePage::ShowNotStored() {
+    m_Services.m_Prompts.ShowFailure(
+        this, tr("The choice could not be stored in %1.")
+                  .arg(ToQString(m_Services.m_Ini.FullPath(kDefinitionsIni)).replace('\\', '/')));
+}
+
+}  // namespace vigrel

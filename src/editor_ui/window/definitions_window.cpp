@@ -1,0 +1,243 @@
+#include "editor_ui/window/definitions_window.h"
+
+#include <QCloseEvent>
+#include <QDir>
+#include <QFileInfo>
+#include <QMenu>
+#include <QStatusBar>
+#include <QTabBar>
+
+#include "adapters/qt/qt_text.h"
+#include "common/failure.h"
+#include "editor_ui/colours/colour_rules_page.h"
+#include "editor_ui/records/profiles_page.h"
+#include "editor_ui/records/receivers_page.h"
+#include "schedule/definition_files.h"
+
+namespace vigrel {
+
+cDefinitionsWindow::cDefinitionsWindow(cEditorServices& services)
+    : m_Services(services), m_Recent(services.m_Settings) {
+    setObjectName("Vigrel_Definitions");
+    setWindowIcon(QIcon(":/icons/vigrel-definitions.svg"));
+    m_Tabs.setObjectName("Tabs_Pages");
+    m_Tabs.setAccessibleName(tr("Open pages"));
+    m_Tabs.setTabsClosable(true);
+    m_Tabs.setMovable(true);
+    m_Tabs.setDocumentMode(true);
+    connect(&m_Tabs, &QTabWidget::currentChanged, this, &cDefinitionsWindow::CurrentPageChanged);
+    connect(&m_Tabs, &QTabWidget::tabCloseRequested, this, [this](int index) { ClosePage(index); });
+    MakeFileMenu();
+    MakeEditMenu();
+    MakeViewMenu();
+    MakeStationMenu();
+    MakeHelpMenu();
+    m_Centre.addWidget(MakeStartPage());
+    m_Centre.addWidget(&m_Tabs);
+    setCentralWidget(&m_Centre);
+    statusBar();
+    RestoreWindow();
+    CurrentPageChanged();
+}
+
+// The pages go first: they speak of the window's undo group and of each other.
+cDefinitionsWindow::~cDefinitionsWindow() {
+    m_Tabs.disconnect(this);
+    for (cEditorPage* page : Pages()) {
+        if (auto* calendar = qobject_cast<cCalendarPage*>(page)) calendar->SetSchedules({});
+    }
+    qDeleteAll(Pages());
+}
+
+cEditorPage* cDefinitionsWindow::CurrentPage() const {
+    return qobject_cast<cEditorPage*>(m_Tabs.currentWidget());
+}
+
+QList<cEditorPage*> cDefinitionsWindow::Pages() const {
+    QList<cEditorPage*> pages;
+    for (int i = 0; i < m_Tabs.count(); ++i) pages.append(qobject_cast<cEditorPage*>(m_Tabs.widget(i)));
+    return pages;
+}
+
+void cDefinitionsWindow::AddPage(cEditorPage* page) {
+    page->SetZoom(m_Zoom);
+    if (page->UndoStack() != nullptr) m_UndoGroup.addStack(page->UndoStack());
+    connect(page, &cEditorPage::StateChanged, this, &cDefinitionsWindow::PageStateChanged);
+    ListenTo(page);
+    // A profile's page holds those of its schedule and calendar.
+    for (cEditorPage* part : page->findChildren<cEditorPage*>()) ListenTo(part);
+    m_Tabs.setCurrentIndex(m_Tabs.addTab(page, QString()));
+    // A page that says where its keys work has the keyboard at once.
+    if (page->focusProxy() != nullptr) page->setFocus();
+    PageStateChanged();
+}
+
+void cDefinitionsWindow::ListenTo(cEditorPage* page) {
+    connect(page, &cEditorPage::Message, this,
+            [this](const QString& text) { statusBar()->showMessage(text, 10000); });
+    connect(page, &cEditorPage::FileUsed, this, [this](const QString& path) { m_Recent.Add(path); });
+    connect(page, &cEditorPage::DayTypesChanged, this, [this] {
+        for (cEditorPage* each : Pages()) each->RefreshDayTypes();
+    });
+}
+
+void cDefinitionsWindow::NewSchedule() {
+    AddPage(new cSchedulePage(m_Services, tr("Schedule %1").arg(++m_NewSchedules)));
+}
+
+void cDefinitionsWindow::NewCalendar() {
+    AddPage(new cCalendarPage(m_Services, tr("Calendar %1").arg(++m_NewCalendars)));
+}
+
+void cDefinitionsWindow::Open() {
+    const QString path = m_Services.m_Prompts.AskOpenPath(
+        this, ToQString(m_Services.m_Ini.ApplicationPath()).replace('\\', '/'),
+        tr("Schedules, calendars, colour rules (*.sch *.cal ColourRules.txt);;All files (*)"));
+    if (!path.isEmpty()) OpenFile(path);
+}
+
+template <class Page>
+void cDefinitionsWindow::ShowPage() {
+    for (cEditorPage* page : Pages()) {
+        if (qobject_cast<Page*>(page) == nullptr) continue;
+        m_Tabs.setCurrentWidget(page);
+        return;
+    }
+    AddPage(new Page(m_Services));
+}
+
+void cDefinitionsWindow::ShowReceivers() {
+    ShowPage<cReceiversPage>();
+}
+
+void cDefinitionsWindow::ShowProfiles() {
+    ShowPage<cProfilesPage>();
+}
+
+void cDefinitionsWindow::ShowColourRules() {
+    OpenFile(ToQString(m_Services.m_Ini.FullPath(kColourRulesFile)).replace('\\', '/'));
+}
+
+// The kind of a file's page, by the file's name and size.
+cFilePage* cDefinitionsWindow::MakeFilePage(const QString& path) {
+    if (QFileInfo(path).fileName().compare(ToQString(kColourRulesFile), Qt::CaseInsensitive) == 0) {
+        return new cColourRulesPage(m_Services);
+    }
+    const auto size =
+        static_cast<std::size_t>(std::max<std::int64_t>(m_Services.m_Files.Stamp(FromQString(path)).size, 0));
+    if (KindOfDefinition(size) == eDefinitionKind::Calendar || path.endsWith(".cal", Qt::CaseInsensitive)) {
+        return new cCalendarPage(m_Services, {});
+    }
+    return new cSchedulePage(m_Services, {});
+}
+
+bool cDefinitionsWindow::OpenFile(const QString& path) {
+    const QString absolute = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    for (cEditorPage* page : Pages()) {
+        if (page->Path() != absolute) continue;
+        m_Tabs.setCurrentWidget(page);
+        return true;
+    }
+    if (!FitsCodePage(absolute)) {
+        m_Services.m_Prompts.ShowFailure(
+            this, tr("%1 has characters that file names here can't have.").arg(absolute));
+        return false;
+    }
+    const std::string name = FromQString(absolute);
+    cFilePage* page = MakeFilePage(absolute);
+    // What it has to tell while it opens is told over this window.
+    page->setParent(this);
+    if (!page->Open(name)) {
+        delete page;
+        return false;
+    }
+    m_Recent.Add(page->Path());
+    AddPage(page);
+    return true;
+}
+
+void cDefinitionsWindow::OpenRecent(const QString& path) {
+    if (!OpenFile(path)) m_Recent.Remove(path);
+}
+
+bool cDefinitionsWindow::MayClose(cEditorPage& page) {
+    page.FinishTyping();
+    if (!page.IsDirty()) return true;
+    m_Tabs.setCurrentWidget(&page);
+    switch (m_Services.m_Prompts.AskToSave(this, page.Title())) {
+        case cPrompts::eSave::Save:
+            return page.Save();
+        case cPrompts::eSave::Discard:
+            return true;
+        default:
+            return false;
+    }
+}
+
+bool cDefinitionsWindow::ClosePage(int index) {
+    auto* page = qobject_cast<cEditorPage*>(m_Tabs.widget(index));
+    if (page == nullptr || !MayClose(*page)) return false;
+    m_Tabs.removeTab(index);
+    // The calendars let go of a schedule before it ends.
+    SchedulesChanged();
+    page->deleteLater();
+    return true;
+}
+
+void cDefinitionsWindow::closeEvent(QCloseEvent* event) {
+    for (cEditorPage* page : Pages()) {
+        if (MayClose(*page)) continue;
+        event->ignore();
+        return;
+    }
+    m_Services.m_Settings.setValue("Geometry", saveGeometry());
+    event->accept();
+    emit Closed();
+}
+
+void cDefinitionsWindow::CurrentPageChanged() {
+    m_Centre.setCurrentIndex(m_Tabs.count() == 0 ? 0 : 1);
+    cEditorPage* page = CurrentPage();
+    m_UndoGroup.setActiveStack(page == nullptr ? nullptr : page->UndoStack());
+    FillEditMenu();
+    PageStateChanged();
+}
+
+void cDefinitionsWindow::PageStateChanged() {
+    for (int i = 0; i < m_Tabs.count(); ++i) {
+        const auto* page = qobject_cast<cEditorPage*>(m_Tabs.widget(i));
+        m_Tabs.setTabText(i, QString(page->Title()).replace('&', "&&") + (page->IsDirty() ? " *" : ""));
+        m_Tabs.setTabToolTip(i, page->Path());
+    }
+    const cEditorPage* page = CurrentPage();
+    m_Save->setEnabled(page != nullptr);
+    m_SaveAs->setEnabled(page != nullptr && page->HasSaveAs());
+    m_Close->setEnabled(page != nullptr);
+    const QString program = tr("Vigrel Definitions");
+    setWindowTitle(page == nullptr ? program : QString("%1[*] - %2").arg(page->Title(), program));
+    setWindowModified(page != nullptr && page->IsDirty());
+    SchedulesChanged();
+}
+
+void cDefinitionsWindow::SchedulesChanged() {
+    QList<cSchedulePage*> schedules;
+    for (cEditorPage* page : Pages()) {
+        if (auto* schedule = qobject_cast<cSchedulePage*>(page)) schedules.append(schedule);
+    }
+    for (cEditorPage* page : Pages()) {
+        if (auto* calendar = qobject_cast<cCalendarPage*>(page)) calendar->SetSchedules(schedules);
+    }
+}
+
+void cDefinitionsWindow::TurnPage(int step) {
+    const int pages = m_Tabs.count();
+    if (pages > 0) m_Tabs.setCurrentIndex((m_Tabs.currentIndex() + step + pages) % pages);
+}
+
+void cDefinitionsWindow::SetZoom(double zoom) {
+    m_Zoom = zoom;
+    m_Services.m_Settings.setValue("Zoom", zoom);
+    for (cEditorPage* page : Pages()) page->SetZoom(zoom);
+}
+
+}  // namespace vigrel

@@ -1,0 +1,170 @@
+#include <QActionGroup>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include "adapters/qt/qt_text.h"
+#include "editor_ui/window/definitions_window.h"
+
+namespace vigrel {
+namespace {
+
+constexpr int kZooms[] = {100, 150, 200, 300};  // percent
+
+}  // namespace
+
+QAction* cDefinitionsWindow::AddEntry(QMenu& menu, const char* name, const QString& text,
+                                      const QKeySequence& keys, const std::function<void()>& chosen) {
+    auto* action = new QAction(text, this);
+    action->setObjectName(QString("Menu_") + name);
+    action->setShortcut(keys);
+    connect(action, &QAction::triggered, this, chosen);
+    menu.addAction(action);
+    return action;
+}
+
+void cDefinitionsWindow::MakeFileMenu() {
+    QMenu& menu = *menuBar()->addMenu(tr("&File"));
+    AddEntry(menu, "NewSchedule", tr("&New schedule"), QKeySequence::New, [this] { NewSchedule(); });
+    AddEntry(menu, "NewCalendar", tr("New &calendar"), tr("Ctrl+Shift+N"), [this] { NewCalendar(); });
+    AddEntry(menu, "Open", tr("&Open..."), QKeySequence::Open, [this] { Open(); });
+    m_RecentMenu = menu.addMenu(tr("Open &recent"));
+    m_RecentMenu->setObjectName("Menu_Recent");
+    connect(m_RecentMenu, &QMenu::aboutToShow, this, &cDefinitionsWindow::FillRecentMenu);
+    menu.addSeparator();
+    m_Save = AddEntry(menu, "Save", tr("&Save"), QKeySequence::Save, [this] {
+        CurrentPage()->FinishTyping();
+        CurrentPage()->Save();
+    });
+    m_SaveAs = AddEntry(menu, "SaveAs", tr("Save &as..."), tr("Ctrl+Shift+S"), [this] {
+        CurrentPage()->FinishTyping();
+        CurrentPage()->SaveAs();
+    });
+    m_Close =
+        AddEntry(menu, "Close", tr("&Close"), tr("Ctrl+W"), [this] { ClosePage(m_Tabs.currentIndex()); });
+    menu.addSeparator();
+    AddEntry(menu, "Exit", tr("E&xit"), tr("Ctrl+Q"), [this] { close(); });
+}
+
+void cDefinitionsWindow::FillRecentMenu() {
+    m_RecentMenu->clear();
+    for (const QString& path : m_Recent.Paths()) {
+        m_RecentMenu->addAction(QString(path).replace('&', "&&"), this, [this, path] { OpenRecent(path); });
+    }
+    if (m_RecentMenu->isEmpty()) m_RecentMenu->addAction(tr("None yet"))->setEnabled(false);
+}
+
+void cDefinitionsWindow::MakeEditMenu() {
+    m_EditMenu = menuBar()->addMenu(tr("&Edit"));
+    m_Undo = m_UndoGroup.createUndoAction(this, tr("&Undo"));
+    m_Redo = m_UndoGroup.createRedoAction(this, tr("&Redo"));
+    m_Undo->setObjectName("Menu_Undo");
+    m_Redo->setObjectName("Menu_Redo");
+    m_Undo->setShortcut(QKeySequence::Undo);
+    m_Redo->setShortcuts({QKeySequence(tr("Ctrl+Y")), QKeySequence(tr("Ctrl+Shift+Z"))});
+    FillEditMenu();
+}
+
+// The page in front brings its own entries.
+void cDefinitionsWindow::FillEditMenu() {
+    for (QAction* action : m_EditMenu->actions()) m_EditMenu->removeAction(action);
+    m_EditMenu->addActions({m_Undo, m_Redo});
+    m_EditMenu->addSeparator();
+    const cEditorPage* page = CurrentPage();
+    const QList<QAction*> actions = page == nullptr ? QList<QAction*>() : page->EditActions();
+    for (QAction* action : actions) {
+        if (action == nullptr) {
+            m_EditMenu->addSeparator();
+        } else {
+            m_EditMenu->addAction(action);
+        }
+    }
+}
+
+void cDefinitionsWindow::MakeViewMenu() {
+    QMenu& menu = *menuBar()->addMenu(tr("&View"));
+    auto* group = new QActionGroup(this);
+    m_Zoom = m_Services.m_Settings.value("Zoom", m_Zoom).toDouble();
+    int number = 0;
+    for (const int percent : kZooms) {
+        const QKeySequence keys(QString("Ctrl+%1").arg(++number));
+        QAction* action = AddEntry(menu, "Zoom", tr("%1 %").arg(percent), keys,
+                                   [this, percent] { SetZoom(percent / 100.0); });
+        action->setObjectName(QString("Menu_Zoom_%1").arg(percent));
+        action->setCheckable(true);
+        action->setChecked(qFuzzyCompare(m_Zoom, percent / 100.0));
+        group->addAction(action);
+    }
+    // A stored value that is none of them would leave the drawing unusable.
+    if (group->checkedAction() == nullptr) {
+        m_Zoom = 2;
+        group->actions().at(2)->setChecked(true);
+    }
+    menu.addSeparator();
+    AddEntry(menu, "NextPage", tr("&Next page"), QKeySequence::NextChild, [this] { TurnPage(1); });
+    AddEntry(menu, "PreviousPage", tr("&Previous page"), QKeySequence::PreviousChild,
+             [this] { TurnPage(-1); });
+}
+
+void cDefinitionsWindow::MakeStationMenu() {
+    QMenu& menu = *menuBar()->addMenu(tr("&Station"));
+    AddEntry(menu, "Receivers", tr("&Receivers"), tr("Ctrl+R"), [this] { ShowReceivers(); });
+    AddEntry(menu, "Profiles", tr("&Profiles"), tr("Ctrl+P"), [this] { ShowProfiles(); });
+    AddEntry(menu, "ColourRules", tr("&Colour rules"), tr("Ctrl+L"), [this] { ShowColourRules(); });
+}
+
+void cDefinitionsWindow::MakeHelpMenu() {
+    QMenu& menu = *menuBar()->addMenu(tr("&Help"));
+    AddEntry(menu, "About", tr("&About"), {}, [this] { ShowAbout(); });
+}
+
+void cDefinitionsWindow::ShowAbout() {
+    QMessageBox::about(
+        this, tr("About"),
+        tr("%1 %2\n\nSchedules, calendars, receivers, profiles and colour rules of the alarm "
+           "receiver.\nApplication folder: %3")
+            .arg(QGuiApplication::applicationDisplayName(), QGuiApplication::applicationVersion(),
+                 ToQString(m_Services.m_Ini.ApplicationPath()).replace('\\', '/')));
+}
+
+// What stands in the window while nothing is open.
+QWidget* cDefinitionsWindow::MakeStartPage() {
+    auto* page = new QWidget;
+    auto* layout = new QVBoxLayout(page);
+    layout->addStretch(1);
+    auto* title = new QLabel(tr("What do you want to edit?"));
+    QFont font = title->font();
+    font.setPointSizeF(font.pointSizeF() * 1.4);
+    title->setFont(font);
+    layout->addWidget(title, 0, Qt::AlignHCenter);
+    const auto add = [this, layout](const char* name, const QString& text,
+                                    void (cDefinitionsWindow::*chosen)()) {
+        auto* button = new QPushButton(text);
+        button->setObjectName(name);
+        button->setMinimumWidth(240);
+        connect(button, &QPushButton::clicked, this, chosen);
+        layout->addWidget(button, 0, Qt::AlignHCenter);
+    };
+    add("Button_NewSchedule", tr("New &schedule"), &cDefinitionsWindow::NewSchedule);
+    add("Button_NewCalendar", tr("New c&alendar"), &cDefinitionsWindow::NewCalendar);
+    add("Button_Open", tr("&Open..."), &cDefinitionsWindow::Open);
+    layout->addSpacing(12);
+    add("Button_Receivers", tr("&Receivers of the station"), &cDefinitionsWindow::ShowReceivers);
+    add("Button_Profiles", tr("&Profiles of the station"), &cDefinitionsWindow::ShowProfiles);
+    add("Button_ColourRules", tr("&Colour rules of the station"), &cDefinitionsWindow::ShowColourRules);
+    layout->addStretch(2);
+    return page;
+}
+
+void cDefinitionsWindow::RestoreWindow() {
+    // At twice the size a small screen hasn't the room.
+    resize(QSize(980, 600).boundedTo(screen()->availableSize()));
+    restoreGeometry(m_Services.m_Settings.value("Geometry").toByteArray());
+}
+
+}  // namespace vigrel

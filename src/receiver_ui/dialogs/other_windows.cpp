@@ -1,0 +1,37 @@
+#include "receiver_ui/dialogs/other_windows.h"
+
+#include "adapters/qt/qt_timer.h"
+#include "common/failure.h"
+#include "common/language_selection.h"
+#include "receiver_ui/dialogs/language_window.h"
+
+namespace vigrel {
+
+void cQtOtherWindows::ShowLanguageWindow() {
+    cLanguageSelection selection(m_Services.files, m_Ini, m_Services.locale);
+    cLanguageWindow::Choose(selection);
+}
+
+void cQtOtherWindows::ShowDebugWindow(const cTexts& texts, cReceiverState& state) {
+    m_Trace = std::make_unique<cProtocolTrace>(state, m_Services.clock, m_Services.files, m_ApplicationPath);
+    m_Debug = std::make_unique<cDebugWindow>(m_Services.windows, *m_Trace, texts, m_Services.settings);
+    m_Debug->Show();
+}
+
+void cQtOtherWindows::WriteTrace(std::string_view text, std::int16_t kind) {
+    if (m_Trace) m_Trace->WriteTrace(text, kind);
+}
+
+void cQtOtherWindows::ShowAboutBox(const cTexts& texts) {
+    m_About = std::make_unique<cAboutWindow>(m_Services.windows, m_Services.screen, texts,
+                                             std::make_unique<cQtTimer>(cAboutBox::kTickInterval));
+    m_About->Show();
+    // The start goes on behind it, so it is painted now.
+    m_About->repaint();
+}
+
+void cQtOtherWindows::UnloadAboutBox() {
+    if (m_About) SkipFailure([&] { m_About->Close(); });
+}
+
+}  // namespace vigrel

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "common/ini.h"
+#include "common/protocol_trace.h"
+#include "core/receiver_ports.h"
+#include "platform/setting_store.h"
+#include "receiver_ui/dialogs/about_window.h"
+#include "receiver_ui/dialogs/debug_window.h"
+#include "windows/open_windows.h"
+
+namespace vigrel {
+
+// The receiver's further windows on the screen.
+class cQtOtherWindows : public cOtherWindows {
+  public:
+    struct cServices {
+        cFiles& files;
+        const cClock& clock;
+        const cLocale& locale;
+        const cScreen& screen;
+        const cSettingStore& settings;
+        cOpenWindows& windows;
+    };
+    cQtOtherWindows(const cServices& services, const std::string& applicationPath)
+        : m_Services(services), m_ApplicationPath(applicationPath), m_Ini(services.files, applicationPath) {}
+    void ShowLanguageWindow() override;
+    void ShowDebugWindow(const cTexts& texts, cReceiverState& state) override;
+    void WriteTrace(std::string_view text, std::int16_t kind) override;
+    void ShowAboutBox(const cTexts& texts) override;
+    void UnloadAboutBox() override;
+
+  private:
+    cServices m_Services;
+    std::string m_ApplicationPath;
+    cIni m_Ini;
+    std::unique_ptr<cProtocolTrace> m_Trace;
+    std::unique_ptr<cDebugWindow> m_Debug;
+    std::unique_ptr<cAboutWindow> m_About;
+};
+
+}  // namespace vigrel

@@ -1,0 +1,143 @@
+#include "windows/application.h"
+
+#include <QDialog>
+#include <QLibraryInfo>
+#include <QMessageBox>
+#include <QPalette>
+#include <QSessionManager>
+#include <QTimer>
+#include <QWindow>
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+
+#include "adapters/qt/qt_text.h"
+#include "common/code_page.h"
+
+namespace vigrel {
+namespace {
+
+bool IsSet(const char* variable) {
+    return !qEnvironmentVariableIsEmpty(variable);
+}
+
+}  // namespace
+
+void cApplication::ChoosePlatform() {
+    if (IsSet("QT_QPA_PLATFORM")) return;
+    if (IsSet("DISPLAY")) {
+        qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+    } else if (!IsSet("WAYLAND_DISPLAY")) {
+        std::fputs("No display (DISPLAY, WAYLAND_DISPLAY): the program runs without windows.\n", stderr);
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+}
+
+cApplication::cApplication(int& argc, char** argv) : QApplication(argc, argv) {
+    // The main window can be hidden while the last popup is closed.
+    setQuitOnLastWindowClosed(false);
+    if (m_Translator.load(QLocale(), "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        installTranslator(&m_Translator);
+    }
+    MakeHintsReadable();
+    // The session must not start the program again at the next login; whoever wants that sets it up.
+    const auto neverRestart = [](QSessionManager& session) {
+        session.setRestartHint(QSessionManager::RestartNever);
+    };
+    connect(this, &QGuiApplication::saveStateRequest, this, neverRestart, Qt::DirectConnection);
+    connect(
+        this, &QGuiApplication::commitDataRequest, this,
+        [this, neverRestart](QSessionManager& session) {
+            neverRestart(session);
+            if (OnSessionEnds) OnSessionEnds();
+        },
+        Qt::DirectConnection);
+}
+
+// One dialog can follow another.
+void cApplication::RefuseDialogs() {
+    constexpr int kAgainMilliseconds = 50;
+    const auto refuse = [] {
+        if (auto* dialog = qobject_cast<QDialog*>(activeModalWidget())) dialog->reject();
+    };
+    refuse();
+    m_RefuseTimer.callOnTimeout(refuse);
+    m_RefuseTimer.start(kAgainMilliseconds);
+}
+
+// Desktops with dark colours that don't say how hints look leave them black.
+void cApplication::MakeHintsReadable() {
+    constexpr int kHintAlpha = 160;
+    QColor hint = palette().color(QPalette::Active, QPalette::Text);
+    hint.setAlpha(kHintAlpha);
+    if (palette().color(QPalette::Active, QPalette::PlaceholderText) == hint) return;
+    // This role and what was set before: the others go on following the desktop.
+    QPalette hints = palette();
+    hints.setColor(QPalette::PlaceholderText, hint);
+    setPalette(hints);
+}
+
+bool cApplication::event(QEvent* event) {
+    const bool handled = QApplication::event(event);
+    if (event->type() == QEvent::ApplicationPaletteChange) MakeHintsReadable();
+    return handled;
+}
+
+void cApplication::Guard(const std::function<void()>& step) {
+    try {
+        step();
+    } catch (const std::exception& failure) {
+        End(failure.what());
+    }
+}
+
+bool cApplication::notify(QObject* receiver, QEvent* event) {
+    if (m_Failed && !ServesFailureBox(receiver, *event)) return true;
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const std::exception& failure) {
+        End(failure.what());
+    }
+}
+
+void cApplication::End(const std::string& failure) {
+    const std::string line = "Failure: " + CodePageToUtf8(failure) + "\n";
+    std::fputs(line.c_str(), stderr);
+    // A failure while one is shown leaves it at that.
+    if (!m_Failed) ShowFailure(failure);
+    std::fflush(nullptr);
+    // Nothing of the program may run any more, destructors included: its state is not to be trusted.
+    std::_Exit(kFailureExitCode);
+}
+
+void cApplication::ShowFailure(const std::string& failure) {
+    if (platformName() == "offscreen") return;
+    const QString title = m_MessageTitle.empty() ? applicationDisplayName() : ToQString(m_MessageTitle);
+    QMessageBox box(QMessageBox::Critical, title, ToQString(failure), QMessageBox::Ok);
+    box.setObjectName("Vigrel_FailureBox");
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText("The program ends.");
+    box.setWindowFlag(Qt::WindowStaysOnTopHint);
+    auto* closer = new QTimer(&box);
+    connect(closer, &QTimer::timeout, &box, &QDialog::reject);
+    closer->start(m_FailureBoxMilliseconds);
+    m_FailureBox = &box;
+    m_Failed = true;
+    box.exec();
+}
+
+// Whether an event may still be delivered: what concerns the box, and the toolkit's own affairs. Nothing of
+// the program runs while its failure is shown.
+bool cApplication::ServesFailureBox(QObject* receiver, const QEvent& event) const {
+    for (const QObject* object = receiver; object != nullptr; object = object->parent()) {
+        if (object == m_FailureBox || object == m_FailureBox->windowHandle()) return true;
+    }
+    const QByteArray kind = receiver->metaObject()->className();
+    const bool wakes = event.type() == QEvent::Timer || event.type() == QEvent::SockAct;
+    const bool ours =
+        receiver->isWidgetType() || receiver->isWindowType() || kind.startsWith("vigrel::") ||
+        (wakes && (kind == "QTimer" || kind == "QSingleShotTimer" || kind == "QSocketNotifier"));
+    return !ours || receiver == this;
+}
+
+}  // namespace vigrel

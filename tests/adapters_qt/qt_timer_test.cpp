@@ -1,0 +1,70 @@
+#include "adapters/qt/qt_timer.h"
+
+#include <gtest/gtest.h>
+
+#include <QThread>
+
+#include "support/qt_wait.h"
+
+namespace vigrel::testing {
+namespace {
+
+TEST(cQtTimer, TicksAgainAndAgain) {
+    cQtTimer timer(10);
+    int ticks = 0;
+    timer.OnTick = [&] { ++ticks; };
+    EXPECT_TRUE(timer.Enabled());
+    EXPECT_TRUE(WaitUntil([&] { return ticks >= 3; }));
+}
+
+TEST(cQtTimer, ADisabledTimerDoesNotTick) {
+    cQtTimer timer(5, false);
+    int ticks = 0;
+    timer.OnTick = [&] { ++ticks; };
+    RunEvents(50);
+    EXPECT_EQ(ticks, 0);
+    EXPECT_FALSE(timer.Enabled());
+}
+
+TEST(cQtTimer, DisablingAndEnablingStartsAFullInterval) {
+    cQtTimer timer(200);
+    int ticks = 0;
+    timer.OnTick = [&] { ++ticks; };
+    RunEvents(120);
+    timer.SetEnabled(false);
+    timer.SetEnabled(true);
+    RunEvents(120);
+    EXPECT_EQ(ticks, 0);
+    EXPECT_TRUE(WaitUntil([&] { return ticks == 1; }));
+}
+
+TEST(cQtTimer, EnablingAnEnabledTimerDoesNotDelayItsTick) {
+    cQtTimer timer(100);
+    int ticks = 0;
+    timer.OnTick = [&] { ++ticks; };
+    QElapsedTimer elapsed;
+    for (elapsed.start(); elapsed.elapsed() < 250;) {
+        timer.SetEnabled(true);
+        RunEvents(10);
+    }
+    EXPECT_GE(ticks, 1);
+}
+
+TEST(cQtTimer, TicksThatCameDueWhileTheLoopWasBusyArriveAsOne) {
+    cQtTimer timer(20);
+    int ticks = 0;
+    timer.OnTick = [&] { ++ticks; };
+    QThread::msleep(110);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(ticks, 1);
+}
+
+TEST(cQtTimer, ItsIntervalCanBeReadAndSet) {
+    cQtTimer timer(500);
+    EXPECT_EQ(timer.Interval(), 500);
+    timer.SetInterval(10000);
+    EXPECT_EQ(timer.Interval(), 10000);
+}
+
+}  // namespace
+}  // namespace vigrel::testing

@@ -1,0 +1,281 @@
+#include "editor_ui/editor_bench.h"
+#include "schedule/calendar_geometry.h"
+
+namespace vigrel::testing {
+namespace {
+
+class CalendarPage : public ::testing::Test, protected cEditorBench {
+  protected:
+    QWidget& View() { return Find<QWidget>(m_Page, "Picture_Calendar"); }
+    QComboBox& Combo(const char* name) { return Find<QComboBox>(m_Page, name); }
+    QString Month() { return Find<QLabel>(m_Page, "Text_Calendar_Month").text(); }
+    std::int16_t Value(int year, int month, int day) {
+        return m_Page.Calendar().GetDayType(CalendarIndex(DateSerial(year, month, day)));
+    }
+    static QPoint Cell(int column, int row) { return {30 + 40 * column + 20, 20 + 25 * row + 12}; }
+    void Key(Qt::Key key) {
+        QApplication::setActiveWindow(m_Window.get());
+        View().setFocus();
+        QTest::keyClick(&View(), key);
+    }
+    QColor Pixel(int x, int y) {
+        QImage image(View().size(), QImage::Format_RGB32);
+        View().render(&image);
+        return image.pixelColor(x, y);
+    }
+
+    cCalendarPage& m_Page = NewCalendar();
+};
+
+TEST_F(CalendarPage, ANewCalendarShowsTheMonthOfToday) {
+    EXPECT_EQ(Month(), "March 2026");
+    EXPECT_FALSE(m_Page.IsDirty());
+    EXPECT_EQ(m_Page.Title(), "Calendar 1");
+}
+
+TEST_F(CalendarPage, ADragPaintsTheChosenTypeInOneStepOfUndo) {
+    m_Page.ShowMonth(2026, 6);
+    Combo("Combo_Calendar_DayType").setCurrentIndex(8);
+    Drag(View(), {Cell(0, 0), Cell(1, 0), Cell(2, 0)});
+    for (int day = 1; day <= 4; ++day) EXPECT_EQ(Value(2026, 6, day), day < 4 ? 8 : 0);
+    EXPECT_EQ(m_Page.UndoStack()->count(), 1);
+    Choose(*m_Window, "Menu_Undo");
+    EXPECT_EQ(Value(2026, 6, 1), 0);
+    Choose(*m_Window, "Menu_Redo");
+    EXPECT_EQ(Value(2026, 6, 3), 8);
+    Combo("Combo_Calendar_DayType").setCurrentIndex(0);
+    Drag(View(), {Cell(1, 0), Cell(2, 0)});
+    EXPECT_EQ(Value(2026, 6, 1), 8);
+    EXPECT_EQ(Value(2026, 6, 2), 0);
+    EXPECT_EQ(Value(2026, 6, 3), 0);
+}
+
+TEST_F(CalendarPage, WithoutAChosenTypeAPressPaintsNothing) {
+    m_Page.ShowMonth(2026, 6);
+    Drag(View(), {Cell(0, 0), Cell(1, 0)});
+    EXPECT_FALSE(m_Page.IsDirty());
+    EXPECT_EQ(Value(2026, 6, 1), 0);
+}
+
+TEST_F(CalendarPage, OnlyTheLeftButtonPaints) {
+    m_Page.ShowMonth(2026, 6);
+    Combo("Combo_Calendar_DayType").setCurrentIndex(8);
+    Press(View(), Cell(0, 0), Qt::RightButton);
+    Move(View(), Cell(1, 0));
+    EXPECT_EQ(Value(2026, 6, 1), 0);
+    EXPECT_EQ(Value(2026, 6, 2), 0);
+}
+
+TEST_F(CalendarPage, TheToolTipNamesDayTypeAndHoliday) {
+    Combo("Combo_Calendar_Holidays").setCurrentIndex(Combo("Combo_Calendar_Holidays").findText("Sweden"));
+    emit Combo("Combo_Calendar_Holidays").activated(0);
+    m_Page.ShowMonth(2026, 6);
+    Combo("Combo_Calendar_DayType").setCurrentIndex(9);
+    Drag(View(), {Cell(5, 0)});
+    Move(View(), Cell(4, 0));
+    Move(View(), Cell(5, 0));
+    EXPECT_EQ(View().toolTip(), "Special day type 2 (Sveriges nationaldag)");
+    EXPECT_EQ(m_Ini.GetIniString("Calendar", "Holidays", "", "VigrelDefinitions.INI"), "SE");
+}
+
+TEST_F(CalendarPage, TheToolTipIsNeverThatOfTheMonthBefore) {
+    m_Page.ShowMonth(2026, 6);
+    Combo("Combo_Calendar_DayType").setCurrentIndex(9);
+    Drag(View(), {Cell(5, 0)});
+    Move(View(), Cell(5, 0));
+    EXPECT_EQ(View().toolTip(), "Special day type 2");
+    m_Page.ShowMonth(2026, 9);
+    EXPECT_EQ(View().toolTip(), "");
+    m_Page.ShowMonth(2026, 6);
+    Move(View(), Cell(5, 0));
+    EXPECT_EQ(View().toolTip(), "Special day type 2");
+}
+
+TEST_F(CalendarPage, TheFirstDayHasItsToolTipWhenThePointerComesFirst) {
+    Combo("Combo_Calendar_Holidays").setCurrentIndex(Combo("Combo_Calendar_Holidays").findText("Germany"));
+    emit Combo("Combo_Calendar_Holidays").activated(0);
+    m_Page.ShowMonth(2026, 1);
+    Move(View(), Cell(3, 0));
+    EXPECT_EQ(View().toolTip(), " (Neujahr)");
+}
+
+TEST_F(CalendarPage, AClickedDayHasItsNewTypeInTheToolTip) {
+    m_Page.ShowMonth(2026, 6);
+    Combo("Combo_Calendar_DayType").setCurrentIndex(8);
+    Move(View(), Cell(2, 1));
+    Press(View(), Cell(2, 1));
+    Release(View(), Cell(2, 1));
+    Move(View(), Cell(2, 1));
+    EXPECT_EQ(View().toolTip(), "Special day type 1");
+}
+
+TEST_F(CalendarPage, TheChosenCountryIsThatOfTheNextCalendar) {
+    m_Ini.PutIniString("Calendar", "Holidays", "DK", "VigrelDefinitions.INI");
+    EXPECT_EQ(Find<QComboBox>(NewCalendar(), "Combo_Calendar_Holidays").currentText(), "Denmark");
+    m_Ini.PutIniString("Calendar", "Holidays", "", "VigrelDefinitions.INI");
+    EXPECT_EQ(Find<QComboBox>(NewCalendar(), "Combo_Calendar_Holidays").currentText(), "None");
+}
+
+TEST_F(CalendarPage, MonthsAreTurnedUpToTheEndsOfTheCalendar) {
+    auto& previous = Find<QToolButton>(m_Page, "Button_Calendar_Previous");
+    auto& next = Find<QToolButton>(m_Page, "Button_Calendar_Next");
+    next.click();
+    EXPECT_EQ(Month(), "April 2026");
+    for (int i = 0; i < 4; ++i) previous.click();
+    EXPECT_EQ(Month(), "December 2025");
+    Find<QSpinBox>(m_Page, "Spin_Calendar_Year").setValue(2039);
+    EXPECT_EQ(Month(), "December 2039");
+    EXPECT_FALSE(next.isEnabled());
+    Combo("Combo_Calendar_Month").setCurrentIndex(0);
+    Find<QSpinBox>(m_Page, "Spin_Calendar_Year").setValue(2000);
+    EXPECT_EQ(Month(), "January 2000");
+    EXPECT_FALSE(previous.isEnabled());
+    EXPECT_TRUE(next.isEnabled());
+    Key(Qt::Key_PageUp);
+    EXPECT_EQ(Month(), "January 2000");
+    Find<QToolButton>(m_Page, "Button_Calendar_Today").click();
+    EXPECT_EQ(Month(), "March 2026");
+}
+
+TEST_F(CalendarPage, KeysChooseADayAcrossMonthsAndPaintIt) {
+    Combo("Combo_Calendar_DayType").setCurrentIndex(7);
+    Key(Qt::Key_Space);
+    EXPECT_EQ(Value(2026, 3, 15), 7);
+    Key(Qt::Key_Right);
+    Key(Qt::Key_Down);
+    Key(Qt::Key_Space);
+    EXPECT_EQ(Value(2026, 3, 23), 7);
+    Key(Qt::Key_Down);
+    Key(Qt::Key_Down);
+    EXPECT_EQ(Month(), "April 2026");
+    Key(Qt::Key_Space);
+    EXPECT_EQ(Value(2026, 4, 6), 7);
+    Key(Qt::Key_PageDown);
+    Key(Qt::Key_Space);
+    EXPECT_EQ(Value(2026, 5, 6), 7);
+    Key(Qt::Key_Home);
+    EXPECT_EQ(Month(), "March 2026");
+    Key(Qt::Key_Left);
+    Key(Qt::Key_Up);
+    Key(Qt::Key_Space);
+    EXPECT_EQ(Value(2026, 3, 7), 7);
+    EXPECT_EQ(m_Page.UndoStack()->count(), 5);
+}
+
+TEST_F(CalendarPage, KeysGoOnFromTheDayThatWasClicked) {
+    m_Page.ShowMonth(2026, 6);
+    Combo("Combo_Calendar_DayType").setCurrentIndex(7);
+    Drag(View(), {Cell(2, 1)});
+    Drag(View(), {QPoint(5, 5)});
+    Key(Qt::Key_Right);
+    Key(Qt::Key_Space);
+    EXPECT_EQ(Value(2026, 6, 11), 7);
+}
+
+TEST_F(CalendarPage, KeysStopAtTheEndsOfTheCalendar) {
+    m_Page.ShowMonth(2000, 1);
+    for (int i = 0; i < 20; ++i) Key(Qt::Key_Left);
+    Combo("Combo_Calendar_DayType").setCurrentIndex(7);
+    Key(Qt::Key_Space);
+    EXPECT_EQ(Value(2000, 1, 1), 7);
+    EXPECT_EQ(Month(), "January 2000");
+}
+
+TEST_F(CalendarPage, TheYearsHolidaysTakeTheChosenType) {
+    Combo("Combo_Calendar_Holidays").setCurrentIndex(Combo("Combo_Calendar_Holidays").findText("Sweden"));
+    emit Combo("Combo_Calendar_Holidays").activated(0);
+    Combo("Combo_Calendar_DayType").setCurrentIndex(7);
+    m_Page.ShowMonth(2026, 5);
+    Choose(m_Page, "Menu_Calendar_HolidaysOfYear");
+    EXPECT_EQ(Value(2026, 1, 6), 7);
+    EXPECT_EQ(Value(2026, 5, 14), 7);
+    EXPECT_EQ(Value(2026, 12, 24), 0);
+    EXPECT_EQ(Value(2027, 1, 6), 0);
+    Choose(m_Page, "Menu_Calendar_HolidaysOfAllYears");
+    EXPECT_EQ(Value(2027, 1, 6), 7);
+    EXPECT_EQ(Value(2000, 1, 1), 7);
+    Choose(m_Page, "Menu_Calendar_ClearYear");
+    EXPECT_EQ(Value(2026, 1, 6), 0);
+    EXPECT_EQ(Value(2027, 1, 6), 7);
+    EXPECT_EQ(m_Page.UndoStack()->count(), 3);
+    Choose(*m_Window, "Menu_Undo");
+    EXPECT_EQ(Value(2026, 1, 6), 7);
+}
+
+TEST_F(CalendarPage, WithoutACountryOrATypeNoHolidayIsPainted) {
+    Combo("Combo_Calendar_Holidays").setCurrentIndex(0);
+    emit Combo("Combo_Calendar_Holidays").activated(0);
+    Combo("Combo_Calendar_DayType").setCurrentIndex(7);
+    Choose(m_Page, "Menu_Calendar_HolidaysOfYear");
+    EXPECT_FALSE(m_Page.IsDirty());
+}
+
+TEST_F(CalendarPage, TheTimeAxisIsThatOfTheChosenSchedule) {
+    cSchedulePage& schedule = NewSchedule();
+    m_Page.ShowMonth(2026, 6);
+    auto& combo = Combo("Combo_Calendar_TimeSchedule");
+    auto& check = Find<QCheckBox>(m_Page, "Check_Calendar_ShowTimeAxis");
+    EXPECT_EQ(combo.count(), 2);
+    EXPECT_FALSE(check.isEnabled());
+    combo.setCurrentIndex(1);
+    EXPECT_EQ(combo.currentText(), "Schedule 1");
+    check.click();
+    // Monday the 1st: 07:00 is 10.8 units from the box's left.
+    EXPECT_EQ(Pixel(32 + 20, 22 + 17), QColor(0, 240, 0));
+    EXPECT_EQ(Pixel(32 + 5, 22 + 17), QColor(220, 220, 220));
+    // An edit of the schedule is seen at once.
+    auto& view = Find<QWidget>(schedule, "Picture_TimeSchedule");
+    Drag(view, {At(0, 420), At(0, 0)});
+    EXPECT_EQ(Pixel(32 + 5, 22 + 17), QColor(0, 240, 0));
+}
+
+TEST_F(CalendarPage, AClosedScheduleIsLetGo) {
+    NewSchedule();
+    Combo("Combo_Calendar_TimeSchedule").setCurrentIndex(1);
+    ASSERT_NE(m_Page.Calendar().m_AssociatedTimeSchedule, nullptr);
+    Choose(*m_Window, "Menu_Close");
+    EXPECT_EQ(m_Page.Calendar().m_AssociatedTimeSchedule, nullptr);
+    EXPECT_EQ(Combo("Combo_Calendar_TimeSchedule").count(), 1);
+    EXPECT_FALSE(Find<QCheckBox>(m_Page, "Check_Calendar_ShowTimeAxis").isEnabled());
+}
+
+TEST_F(CalendarPage, TheChosenScheduleStaysWhenAnotherIsOpenedOrRenamed) {
+    cSchedulePage& schedule = NewSchedule();
+    Combo("Combo_Calendar_TimeSchedule").setCurrentIndex(1);
+    NewSchedule();
+    EXPECT_EQ(Combo("Combo_Calendar_TimeSchedule").currentText(), "Schedule 1");
+    EXPECT_EQ(m_Page.Calendar().m_AssociatedTimeSchedule, &schedule.Schedule());
+    m_Prompts.m_Texts = {"/app/Office.sch"};
+    EXPECT_TRUE(schedule.SaveAs());
+    EXPECT_EQ(Combo("Combo_Calendar_TimeSchedule").currentText(), "Office.sch");
+}
+
+TEST_F(CalendarPage, BandsAndBoxesStandWhereTheyShould) {
+    // Sunday 15 March 2026 is today: green over red, in the third row.
+    EXPECT_EQ(Pixel(30 + 6 * 40 + 2 + 13, 20 + 2 * 25 + 2 + 21), QColor(0, 192, 0));
+    EXPECT_EQ(Pixel(30 + 6 * 40 + 2 + 13, 20 + 25 + 2 + 21), QColor(255, 129, 129));
+    EXPECT_EQ(Pixel(30 + 40, 100), QColor(0, 0, 0));
+    EXPECT_EQ(Pixel(31 + 40, 100), QColor(255, 255, 255));
+}
+
+TEST_F(CalendarPage, ADaysNumberAndItsShortNameFitIntoItsBox) {
+    const cPaintSurface& surface = dynamic_cast<cDrawingView&>(View()).Surface();
+    for (const char* name : {"Wed", "Mon", "tors", "Do", "ma"}) {
+        EXPECT_LE(surface.TextWidth("28") + surface.TextWidth(name), kBoxWidth) << name;
+    }
+}
+
+TEST_F(CalendarPage, TheListOfDayTypesFollowsANewName) {
+    cSchedulePage& schedule = NewSchedule();
+    Find<QCheckBox>(schedule, "Check_TimeSchedule_UseCalendar").click();
+    Find<QListWidget>(schedule, "List_DayTypes").item(22)->setCheckState(Qt::Checked);
+    Drag(Find<QWidget>(schedule, "Picture_TimeSchedule"), {QPoint(150, 7 * 25 + 10)});
+    Combo("Combo_Calendar_DayType").setCurrentIndex(3);
+    m_Prompts.m_Texts = {QString::fromUtf8("Årsmöte")};
+    Choose(schedule, "Menu_TimeSchedulePopup_Rename");
+    EXPECT_EQ(Combo("Combo_Calendar_DayType").itemText(23), QString::fromUtf8("Årsmöte"));
+    EXPECT_EQ(Combo("Combo_Calendar_DayType").currentIndex(), 3);
+}
+
+}  // namespace
+}  // namespace vigrel::testing

@@ -1,0 +1,162 @@
+#include "editor_ui/colours/colour_rules_page.h"
+
+#include <QAction>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QSpinBox>
+#include <QStyle>
+#include <QTableWidget>
+#include <QUndoStack>
+
+#include "editor_ui/page_fixture.h"
+
+namespace vigrel {
+namespace {
+
+const char* const kContent = "# rules\r\nP* | 5;7-9 | * | 255,255,255 | 10,20,30 | 15\r\n";
+
+class ColourRulesPage : public PageTest {
+  protected:
+    cColourRulesPage& Page() {
+        if (!m_Page) {
+            m_Page = std::make_unique<cColourRulesPage>(m_Services);
+            EXPECT_TRUE(m_Page->Open(Path("ColourRules.txt")));
+            m_Page->resize(900, 500);
+            m_Page->show();
+        }
+        return *m_Page;
+    }
+    QTableWidget& Rules() { return *Find<QTableWidget>(Page(), "List_Rules"); }
+    QTableWidget& Preview() { return *Find<QTableWidget>(Page(), "List_Preview"); }
+    QColor Background(int row, int column) { return Preview().item(row, column)->background().color(); }
+
+    std::unique_ptr<cColourRulesPage> m_Page;
+};
+
+TEST_F(ColourRulesPage, TheCaptionsOfThePreviewAreSeenWhole) {
+    QHeaderView& header = *Preview().horizontalHeader();
+    for (int column = 0; column < header.count(); ++column) {
+        const QString caption = Preview().horizontalHeaderItem(column)->text();
+        EXPECT_GE(header.sectionSize(column), header.fontMetrics().horizontalAdvance(caption))
+            << caption.toStdString();
+    }
+}
+
+TEST_F(ColourRulesPage, TheLongestColourIsSeenWholeBesideItsSample) {
+    Put("ColourRules.txt", "* | * | * | 255,255,255 | 255,255,255 | 0\r\n");
+    QFont large = Rules().font();
+    large.setPixelSize(24);
+    Rules().setFont(large);
+    QTest::qWait(1);
+    const QFontMetrics metrics = Rules().fontMetrics();
+    // The sample is as wide as an icon.
+    const int wanted =
+        metrics.horizontalAdvance("255,255,255") + Rules().style()->pixelMetric(QStyle::PM_SmallIconSize);
+    EXPECT_GE(Rules().columnWidth(3), wanted);
+    EXPECT_GE(Rules().columnWidth(4), wanted);
+}
+
+TEST_F(ColourRulesPage, ARuleIsAddedEditedSavedReopenedAndDeleted) {
+    Press(Page(), "Button_Add");
+    Rules().item(0, 0)->setText("P*");
+    Rules().item(0, 1)->setText("5;7-9");
+    Rules().item(0, 3)->setText("255,255,255");
+    Rules().item(0, 4)->setText("10,20,30");
+    EXPECT_TRUE(Page().IsDirty());
+    EXPECT_TRUE(Page().Save());
+    EXPECT_EQ(OnDisk("ColourRules.txt"), "P* | 5;7-9 | * | 255,255,255 | 10,20,30 | 15\r\n");
+    m_Page.reset();
+    ASSERT_EQ(Rules().rowCount(), 1);
+    EXPECT_EQ(Rules().item(0, 1)->text().toStdString(), "5;7-9");
+    Press(Page(), "Button_Remove");
+    EXPECT_TRUE(Page().Save());
+    EXPECT_EQ(OnDisk("ColourRules.txt"), "");
+}
+
+TEST_F(ColourRulesPage, TypedTagsShowTheColoursOfTheFirstRuleThatMatches) {
+    Put("ColourRules.txt", kContent);
+    auto* tags = Find<QPlainTextEdit>(Page(), "Text_Preview_Tags");
+    tags->setFocus();
+    QTest::keyClicks(tags, "Pump");
+    QTest::keyClick(tags, Qt::Key_Return);
+    QTest::keyClicks(tags, "Fan");
+    EXPECT_EQ(Preview().rowCount(), 2);
+    EXPECT_EQ(Preview().item(0, 1)->text().toStdString(), "none");
+    Find<QSpinBox>(Page(), "Number_Preview_Category")->setValue(8);
+    EXPECT_EQ(Preview().item(0, 1)->text().toStdString(), "1");
+    EXPECT_EQ(Background(0, 2), QColor(10, 20, 30));
+    EXPECT_EQ(Background(0, 3), QColor(0, 5, 15));
+    EXPECT_EQ(Background(0, 4), QColor(0, 0, 0));
+    EXPECT_EQ(Preview().item(0, 2)->foreground().color(), QColor(255, 255, 255));
+    EXPECT_EQ(Preview().item(1, 1)->text().toStdString(), "none");
+    Rules().item(0, 0)->setText("F*");
+    EXPECT_EQ(Preview().item(1, 1)->text().toStdString(), "1");
+    EXPECT_EQ(Preview().item(0, 1)->text().toStdString(), "none");
+}
+
+TEST_F(ColourRulesPage, RulesThatAreHardToReadAreNamedWithTheirLeastContrast) {
+    Put("ColourRules.txt", kContent);
+    auto* label = Find<QLabel>(Page(), "Label_HardToRead");
+    EXPECT_FALSE(label->isVisible());
+    // Grey on white is hard to read only where the ground is darker: flashing.
+    Press(Page(), "Button_Add");
+    Rules().item(1, 3)->setText("110,110,110");
+    EXPECT_TRUE(label->isVisible());
+    EXPECT_EQ(label->text().toStdString(),
+              "Hard to read, by rule and least contrast (4.5 is readable): 2 (3.0)");
+    Rules().item(0, 3)->setText("10,20,30");
+    EXPECT_EQ(label->text().toStdString(),
+              "Hard to read, by rule and least contrast (4.5 is readable): 1 (1.0), 2 (3.0)");
+    Rules().item(0, 3)->setText("255,255,255");
+    Rules().item(1, 3)->setText("0,0,0");
+    EXPECT_FALSE(label->isVisible());
+}
+
+TEST_F(ColourRulesPage, AWrongFieldIsToldAndKeepsItsValue) {
+    Put("ColourRules.txt", kContent);
+    Rules().item(0, 1)->setText("300");
+    EXPECT_EQ(Asked(), "failure: categories: \"300\" is not a number from 0 to 255\n");
+    EXPECT_EQ(Rules().item(0, 1)->text().toStdString(), "5;7-9");
+    Rules().item(0, 5)->setText("dark");
+    EXPECT_EQ(Rules().item(0, 5)->text().toStdString(), "15");
+    EXPECT_FALSE(Page().IsDirty());
+}
+
+TEST_F(ColourRulesPage, RulesAreMovedAndStepsUndone) {
+    Put("ColourRules.txt", "A | 1 | 1 | 0,0,0 | 1,1,1 | 0\r\nB | 2 | 2 | 0,0,0 | 1,1,1 | 0\r\n");
+    Rules().setCurrentCell(0, 0);
+    Press(Page(), "Button_Down");
+    EXPECT_EQ(Rules().item(0, 0)->text().toStdString(), "B");
+    EXPECT_EQ(Rules().currentRow(), 1);
+    Press(Page(), "Button_Up");
+    Press(Page(), "Button_Remove");
+    EXPECT_EQ(Rules().rowCount(), 1);
+    Page().UndoStack()->undo();
+    EXPECT_EQ(Rules().item(0, 0)->text().toStdString(), "A");
+    EXPECT_EQ(Rules().item(1, 0)->text().toStdString(), "B");
+}
+
+TEST_F(ColourRulesPage, LinesThatWereNotUnderstoodAreToldAndStayInTheFile) {
+    const std::string content = std::string(kContent) + "nonsense\r\n";
+    Put("ColourRules.txt", content);
+    EXPECT_EQ(Find<QLabel>(Page(), "Label_Problems")->text().toStdString(),
+              "Some lines were not understood. They stay in the file:\nColourRules.txt, line 3: a rule has "
+              "six fields "
+              "(tag | categories | areas | text colour | background | fade), this line has 1");
+    Rules().item(0, 5)->setText("16");
+    EXPECT_TRUE(Page().Save());
+    EXPECT_EQ(OnDisk("ColourRules.txt"),
+              "# rules\r\nP* | 5;7-9 | * | 255,255,255 | 10,20,30 | 16\r\nnonsense\r\n");
+}
+
+TEST_F(ColourRulesPage, AFileThatCantBeReadIsNotOpened) {
+    Put("ColourRules.txt", kContent);
+    m_Files.SetUnreadable(Path("ColourRules.txt"), true);
+    cColourRulesPage page(m_Services);
+    EXPECT_FALSE(page.Open(Path("ColourRules.txt")));
+    EXPECT_NE(Asked(), "");
+}
+
+}  // namespace
+}  // namespace vigrel

@@ -1,0 +1,319 @@
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QStatusBar>
+
+#include "editor_ui/editor_bench.h"
+#include "support/samples.h"
+
+namespace vigrel::testing {
+namespace {
+
+class DefinitionsWindow : public ::testing::Test, protected cEditorBench {
+  protected:
+    // A change of the page in front.
+    static void Change(cSchedulePage& page) {
+        Drag(Find<QWidget>(page, "Picture_TimeSchedule"), {At(6, 600), At(6, 700)});
+    }
+    QStringList Recent() const { return m_Settings.value("RecentFiles").toStringList(); }
+    QString Tab(int index) { return Find<QTabWidget>(*m_Window, "Tabs_Pages").tabText(index); }
+    bool CloseTab() {
+        const auto before = m_Window->Pages().size();
+        Choose(*m_Window, "Menu_Close");
+        return m_Window->Pages().size() < before;
+    }
+};
+
+TEST_F(DefinitionsWindow, StartsWithNothingOpenAndOffersWhatCanBeDone) {
+    EXPECT_TRUE(m_Window->Pages().isEmpty());
+    EXPECT_TRUE(Find<QPushButton>(*m_Window, "Button_NewSchedule").isVisible());
+    EXPECT_FALSE(Find<QAction>(*m_Window, "Menu_Save").isEnabled());
+    Find<QPushButton>(*m_Window, "Button_NewCalendar").click();
+    EXPECT_EQ(m_Window->Pages().size(), 1);
+    EXPECT_FALSE(Find<QPushButton>(*m_Window, "Button_NewSchedule").isVisible());
+}
+
+TEST_F(DefinitionsWindow, AScheduleIsSavedUnderANameAndReadAgain) {
+    cSchedulePage& page = NewSchedule();
+    Change(page);
+    const std::string saved = Saved(page.Schedule());
+    EXPECT_EQ(Tab(0), "Schedule 1 *");
+    m_Prompts.m_Texts = {"/app/Office.sch"};
+    Choose(*m_Window, "Menu_Save");
+    EXPECT_EQ(m_Prompts.m_Asked, "save as /app/Schedule 1.sch (sch)\n");
+    EXPECT_EQ(m_Files.ReadFile("/app/Office.sch"), saved);
+    EXPECT_EQ(Tab(0), "Office.sch");
+    EXPECT_FALSE(page.IsDirty());
+    ASSERT_TRUE(CloseTab());
+    m_Prompts.m_Texts = {"/app/Office.sch"};
+    Choose(*m_Window, "Menu_Open");
+    ASSERT_EQ(m_Window->Pages().size(), 1);
+    EXPECT_EQ(Saved(dynamic_cast<cSchedulePage&>(*m_Window->CurrentPage()).Schedule()), saved);
+    EXPECT_FALSE(m_Window->CurrentPage()->IsDirty());
+}
+
+TEST_F(DefinitionsWindow, ACalendarIsTheFileOf29220Bytes) {
+    cCalendarPage& page = NewCalendar();
+    page.ShowMonth(2000, 1);
+    Find<QComboBox>(page, "Combo_Calendar_DayType").setCurrentIndex(9);
+    Drag(Find<QWidget>(page, "Picture_Calendar"), {QPoint(30 + 5 * 40 + 20, 32)});
+    m_Prompts.m_Texts = {"/app/Site.cal"};
+    Choose(*m_Window, "Menu_Save");
+    EXPECT_EQ(m_Files.ReadFile("/app/Site.cal"), "\x09" + std::string(29219, '\0'));
+}
+
+TEST_F(DefinitionsWindow, FilesOfBothKindsAreToldApart) {
+    m_Files.Put("/app/a.dat", Sample("schedule.dat"));
+    m_Files.Put("/app/b.dat", Sample("calendar.dat"));
+    EXPECT_TRUE(m_Window->OpenFile("/app/a.dat"));
+    EXPECT_TRUE(m_Window->OpenFile("/app/b.dat"));
+    EXPECT_NE(dynamic_cast<cSchedulePage*>(m_Window->Pages()[0]), nullptr);
+    EXPECT_NE(dynamic_cast<cCalendarPage*>(m_Window->Pages()[1]), nullptr);
+}
+
+TEST_F(DefinitionsWindow, AFileThatIsNoneOfThemIsRefusedWithAReason) {
+    m_Files.Put("/app/letter.txt", "Dear operator");
+    m_Files.Put("/app/short.cal", "abc");
+    EXPECT_FALSE(m_Window->OpenFile("/app/letter.txt"));
+    EXPECT_FALSE(m_Window->OpenFile("/app/short.cal"));
+    EXPECT_FALSE(m_Window->OpenFile("/app/missing.sch"));
+    EXPECT_EQ(
+        m_Prompts.m_Asked,
+        "failure: /app/letter.txt is not a time schedule: it has 13 bytes, and a schedule at least 186.\n"
+        "failure: /app/short.cal is not a calendar: it has 3 bytes in place of 29220.\n"
+        "failure: /app/missing.sch: the file does not exist\n");
+    EXPECT_TRUE(m_Window->Pages().isEmpty());
+    EXPECT_TRUE(Recent().isEmpty());
+    EXPECT_EQ(m_Prompts.m_Window, m_Window.get());
+}
+
+TEST_F(DefinitionsWindow, AFileThatIsOpenComesToTheFront) {
+    m_Files.Put("/app/a.sch", Sample("schedule.dat"));
+    m_Window->OpenFile("/app/a.sch");
+    NewCalendar();
+    EXPECT_TRUE(m_Window->OpenFile("/app/x/../a.sch"));
+    EXPECT_EQ(m_Window->Pages().size(), 2);
+    EXPECT_EQ(m_Window->CurrentPage(), m_Window->Pages()[0]);
+}
+
+TEST_F(DefinitionsWindow, ANameThatTheCodePageLacksIsRefused) {
+    cSchedulePage& page = NewSchedule();
+    m_Prompts.m_Texts = {QString::fromUtf8("/app/日本.sch")};
+    EXPECT_FALSE(page.SaveAs());
+    EXPECT_TRUE(m_Prompts.m_Asked.contains("characters that file names here can't have"));
+    EXPECT_FALSE(m_Window->OpenFile(QString::fromUtf8("/app/日本.sch")));
+}
+
+TEST_F(DefinitionsWindow, AFailedSaveTellsWhyAndKeepsTheChanges) {
+    m_Files.Put("/app/a.sch", Sample("schedule.dat"));
+    m_Window->OpenFile("/app/a.sch");
+    auto& page = dynamic_cast<cSchedulePage&>(*m_Window->CurrentPage());
+    Change(page);
+    m_Files.m_DiskFull = true;
+    EXPECT_FALSE(page.Save());
+    EXPECT_TRUE(m_Prompts.m_Asked.startsWith("failure: The file was not saved.\n"));
+    EXPECT_TRUE(m_Prompts.m_Asked.contains("the disk is full"));
+    EXPECT_TRUE(page.IsDirty());
+    EXPECT_EQ(m_Files.ReadFile("/app/a.sch"), Sample("schedule.dat"));
+}
+
+TEST_F(DefinitionsWindow, AFileThatSomebodyElseChangedIsReplacedOnlyAfterAsking) {
+    m_Files.Put("/app/a.sch", Sample("schedule.dat"));
+    m_Window->OpenFile("/app/a.sch");
+    auto& page = dynamic_cast<cSchedulePage&>(*m_Window->CurrentPage());
+    Change(page);
+    m_Files.WriteFile("/app/a.sch", "another's", false);
+    EXPECT_FALSE(page.Save());
+    EXPECT_EQ(m_Prompts.m_Asked,
+              "yes or no: /app/a.sch was changed by somebody else since it was opened. Replace it?\n");
+    EXPECT_EQ(m_Files.ReadFile("/app/a.sch"), "another's");
+    m_Prompts.m_YesNoAnswers = {true};
+    EXPECT_TRUE(page.Save());
+    EXPECT_EQ(m_Files.ReadFile("/app/a.sch"), Saved(page.Schedule()));
+    Choose(*m_Window, "Menu_Undo");
+    EXPECT_TRUE(page.Save());
+}
+
+TEST_F(DefinitionsWindow, ClosingAsksForEachPageWithChanges) {
+    NewSchedule();
+    Change(NewSchedule());
+    NewCalendar();
+    EXPECT_FALSE(m_Window->close());
+    EXPECT_EQ(m_Prompts.m_Asked, "save Schedule 2\n");
+    EXPECT_EQ(m_Window->CurrentPage()->Title(), "Schedule 2");
+    m_Prompts.m_SaveAnswers = {cPrompts::eSave::Save};
+    // The name is refused: cancelled.
+    EXPECT_FALSE(m_Window->close());
+    m_Prompts.m_SaveAnswers = {cPrompts::eSave::Discard};
+    bool closed = false;
+    QObject::connect(m_Window.get(), &cDefinitionsWindow::Closed, [&] { closed = true; });
+    EXPECT_TRUE(m_Window->close());
+    EXPECT_TRUE(closed);
+    EXPECT_TRUE(m_Files.AllPaths().empty());
+}
+
+TEST_F(DefinitionsWindow, ClosingATabAsksToo) {
+    Change(NewSchedule());
+    EXPECT_FALSE(CloseTab());
+    m_Prompts.m_SaveAnswers = {cPrompts::eSave::Save};
+    m_Prompts.m_Texts = {"/app/Kept.sch"};
+    EXPECT_TRUE(CloseTab());
+    EXPECT_TRUE(m_Files.FileExists("/app/Kept.sch"));
+}
+
+TEST_F(DefinitionsWindow, RecentFilesAreTheNewestTen) {
+    for (int i = 0; i < 12; ++i) {
+        const std::string path = "/app/" + std::to_string(i) + ".sch";
+        m_Files.Put(path, Sample("schedule.dat"));
+        m_Window->OpenFile(ToQString(path));
+    }
+    m_Prompts.m_Texts = {"/app/new.sch"};
+    m_Window->CurrentPage()->SaveAs();
+    ASSERT_EQ(Recent().size(), 10);
+    EXPECT_EQ(Recent().first(), "/app/new.sch");
+    EXPECT_EQ(Recent().last(), "/app/3.sch");
+}
+
+TEST_F(DefinitionsWindow, TheRecentMenuOpensAndForgetsWhatIsGone) {
+    m_Files.Put("/app/a.sch", Sample("schedule.dat"));
+    m_Window->OpenFile("/app/a.sch");
+    ASSERT_TRUE(CloseTab());
+    auto& menu = Find<QMenu>(*m_Window, "Menu_Recent");
+    emit menu.aboutToShow();
+    ASSERT_EQ(menu.actions().size(), 1);
+    menu.actions().first()->trigger();
+    EXPECT_EQ(m_Window->Pages().size(), 1);
+    ASSERT_TRUE(CloseTab());
+    m_Files.RemoveFile("/app/a.sch");
+    emit menu.aboutToShow();
+    menu.actions().first()->trigger();
+    EXPECT_TRUE(m_Prompts.m_Asked.contains("does not exist"));
+    EXPECT_TRUE(Recent().isEmpty());
+    emit menu.aboutToShow();
+    EXPECT_FALSE(menu.actions().first()->isEnabled());
+}
+
+TEST_F(DefinitionsWindow, TheEditMenuIsThatOfThePageInFront) {
+    const auto entries = [this] {
+        QStringList names;
+        for (QAction* menu : m_Window->menuBar()->actions()) {
+            if (menu->text() != "&Edit") continue;
+            for (QAction* action : menu->menu()->actions()) names.append(action->objectName());
+        }
+        return names;
+    };
+    cSchedulePage& schedule = NewSchedule();
+    EXPECT_TRUE(entries().contains("Menu_TimeSchedulePopup_Invert"));
+    NewCalendar();
+    EXPECT_FALSE(entries().contains("Menu_TimeSchedulePopup_Invert"));
+    EXPECT_TRUE(entries().contains("Menu_Calendar_ClearYear"));
+    Find<QTabWidget>(*m_Window, "Tabs_Pages").setCurrentWidget(&schedule);
+    EXPECT_TRUE(entries().contains("Menu_TimeSchedulePopup_Invert"));
+    EXPECT_TRUE(entries().startsWith("Menu_Undo"));
+}
+
+TEST_F(DefinitionsWindow, UndoIsThatOfThePageInFront) {
+    cSchedulePage& first = NewSchedule();
+    Change(first);
+    cSchedulePage& second = NewSchedule();
+    EXPECT_FALSE(Find<QAction>(*m_Window, "Menu_Undo").isEnabled());
+    Change(second);
+    Choose(*m_Window, "Menu_Undo");
+    EXPECT_TRUE(first.IsDirty());
+    EXPECT_FALSE(second.IsDirty());
+}
+
+TEST_F(DefinitionsWindow, KeysTurnThePagesFromEveryField) {
+    Choose(*m_Window, "Menu_NextPage");
+    NewSchedule();
+    cCalendarPage& calendar = NewCalendar();
+    NewSchedule();
+    QApplication::setActiveWindow(m_Window.get());
+    const auto press = [this](Qt::KeyboardModifiers modifiers) {
+        QTest::keyClick(m_Window->focusWidget(),
+                        modifiers & Qt::ShiftModifier ? Qt::Key_Backtab : Qt::Key_Tab, modifiers);
+        return m_Window->CurrentPage()->Title();
+    };
+    EXPECT_EQ(press(Qt::ControlModifier), "Schedule 1");
+    EXPECT_EQ(press(Qt::ControlModifier | Qt::ShiftModifier), "Schedule 2");
+    EXPECT_EQ(press(Qt::ControlModifier | Qt::ShiftModifier), "Calendar 1");
+    Find<QComboBox>(calendar, "Combo_Calendar_Month").setFocus();
+    EXPECT_EQ(press(Qt::ControlModifier), "Schedule 2");
+}
+
+TEST_F(DefinitionsWindow, TheTitleNamesPageAndChange) {
+    EXPECT_EQ(m_Window->windowTitle(), "Vigrel Definitions");
+    cSchedulePage& page = NewSchedule();
+    EXPECT_EQ(m_Window->windowTitle(), "Schedule 1[*] - Vigrel Definitions");
+    EXPECT_FALSE(m_Window->isWindowModified());
+    Change(page);
+    EXPECT_TRUE(m_Window->isWindowModified());
+}
+
+TEST_F(DefinitionsWindow, TheZoomIsRemembered) {
+    cSchedulePage& page = NewSchedule();
+    Choose(*m_Window, "Menu_Zoom_300");
+    EXPECT_EQ(Find<QWidget>(page, "Picture_TimeSchedule").height(), 3 * 179);
+    const cDefinitionsWindow another(m_Services);
+    EXPECT_TRUE(another.findChild<QAction*>("Menu_Zoom_300")->isChecked());
+    m_Settings.setValue("Zoom", -5);
+    const cDefinitionsWindow damaged(m_Services);
+    EXPECT_TRUE(damaged.findChild<QAction*>("Menu_Zoom_200")->isChecked());
+}
+
+// A page of another kind finds its place without the window knowing it.
+class cOtherPage : public cEditorPage {
+  public:
+    using cEditorPage::cEditorPage;
+    QString Title() const override { return "Receivers"; }
+    bool IsDirty() const override { return m_Dirty; }
+    bool Save() override {
+        m_Dirty = false;
+        emit StateChanged();
+        return true;
+    }
+    bool m_Dirty = true;
+};
+
+TEST_F(DefinitionsWindow, APageInsideAnotherIsHeardAsWell) {
+    cCalendarPage& calendar = NewCalendar();
+    auto* page = new cOtherPage;
+    auto* part = new cSchedulePage(m_Services, "Part", page);
+    m_Window->AddPage(page);
+    emit part->Message("There is no gap.");
+    EXPECT_EQ(m_Window->statusBar()->currentMessage(), "There is no gap.");
+    m_Services.m_DayTypeNames.Rename(22, "Lucia");
+    emit part->DayTypesChanged();
+    EXPECT_EQ(Find<QComboBox>(calendar, "Combo_Calendar_DayType").itemText(23), "Lucia");
+    m_Files.Put("/app/Part.sch", Sample("schedule.dat"));
+    part->Open("/app/Part.sch");
+    EXPECT_EQ(Recent().first(), "/app/Part.sch");
+    page->m_Dirty = false;
+}
+
+TEST_F(DefinitionsWindow, APageWithoutFileOrUndoIsSavedAndClosedLikeTheOthers) {
+    auto* page = new cOtherPage;
+    m_Window->AddPage(page);
+    EXPECT_EQ(Tab(0), "Receivers *");
+    EXPECT_TRUE(Find<QAction>(*m_Window, "Menu_Save").isEnabled());
+    EXPECT_FALSE(Find<QAction>(*m_Window, "Menu_SaveAs").isEnabled());
+    EXPECT_FALSE(m_Window->close());
+    Choose(*m_Window, "Menu_Save");
+    EXPECT_EQ(Tab(0), "Receivers");
+    EXPECT_TRUE(m_Window->close());
+}
+
+// So that the keys of the page work before the mouse was in it.
+TEST_F(DefinitionsWindow, APageOfTheStationHasTheKeyboardAtOnce) {
+    const auto focused = [this] { return m_Window->focusWidget()->objectName().toStdString(); };
+    m_Window->ShowReceivers();
+    EXPECT_EQ(focused(), "List_Definitions");
+    m_Window->ShowColourRules();
+    EXPECT_EQ(focused(), "List_Rules");
+    m_Window->ShowProfiles();
+    EXPECT_EQ(focused(), "List_Definitions");
+    EXPECT_TRUE(m_Window->CurrentPage()->isAncestorOf(m_Window->focusWidget()));
+}
+
+}  // namespace
+}  // namespace vigrel::testing

@@ -1,0 +1,282 @@
+#include "editor_ui/records/profiles_page.h"
+
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QListWidget>
+#include <QMenu>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QSpinBox>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QUndoStack>
+
+#include "editor_ui/calendar/calendar_page.h"
+#include "editor_ui/page_fixture.h"
+#include "editor_ui/records/profile_schedule.h"
+
+namespace vigrel {
+namespace {
+
+class ProfilesPage : public PageTest {
+  protected:
+    ProfilesPage() {
+        PutSample("Profiles\\Profile_0012.dat", "profile_version_5.dat");
+        PutSample("Receivers\\Receiver_0007.dat", "receiver_version_5.dat");
+        PutSample("Receivers\\Receiver_0042.dat", "receiver_version_4.dat");
+    }
+    cProfilesPage& Page() {
+        if (!m_Page) {
+            m_Page = std::make_unique<cProfilesPage>(m_Services);
+            m_Page->resize(1000, 700);
+            m_Page->show();
+        }
+        return *m_Page;
+    }
+    void Reopen() {
+        m_Page.reset();
+        Page();
+    }
+    void ShowTab(int tab) { Find<QTabWidget>(Page(), "Tabs_Profile")->setCurrentIndex(tab); }
+    std::string Items(const char* list) {
+        QStringList items;
+        const auto* widget = Find<QListWidget>(Page(), list);
+        for (int row = 0; row < widget->count(); ++row) items += widget->item(row)->text();
+        return items.join('\n').toStdString();
+    }
+    // What the menu of an Add button offers.
+    QList<QAction*> Offers(const char* button) {
+        QMenu* menu = Find<QPushButton>(Page(), button)->menu();
+        emit menu->aboutToShow();
+        return menu->actions();
+    }
+    // Gives one day of a calendar another type, by mouse.
+    static void MarkADay(cCalendarPage& calendar) {
+        calendar.ShowMonth(2026, 6);
+        Find<QComboBox>(calendar, "Combo_Calendar_DayType")->setCurrentIndex(8);
+        auto* view = Find<QWidget>(calendar, "Picture_Calendar");
+        QTest::mouseClick(view, Qt::LeftButton, {}, QPoint(50, 32));
+    }
+    cProfile& Shown() { return m_Station.Profiles().At(static_cast<std::size_t>(Page().Chosen())); }
+    cProfileSchedule& Schedule() { return *Page().findChild<cProfileSchedule*>(); }
+
+    std::unique_ptr<cProfilesPage> m_Page;
+};
+
+TEST_F(ProfilesPage, AProfileIsMadeEditedSavedReopenedAndDeleted) {
+    m_Random.m_Values = {0};
+    Press(Page(), "Button_New");
+    QTest::keyClicks(Page().focusWidget(), "Day");
+    ShowTab(1);
+    Type(Page(), "Text_Condition_2", "Fire");
+    EXPECT_TRUE(Page().IsDirty());
+    Press(Page(), "Button_Save");
+    EXPECT_FALSE(Page().IsDirty());
+    EXPECT_EQ(Asked(), "");
+
+    Reopen();
+    ASSERT_EQ(m_Station.Profiles().Count(), 2u);
+    Page().Choose(0);
+    EXPECT_EQ(Shown().GetName(), "Day");
+    EXPECT_EQ(Shown().GetCondition(2), "Fire");
+    std::int16_t start = 0;
+    std::int16_t stop = 0;
+    ASSERT_TRUE(Shown().m_TimeSchedule->GetNextTimePeriod(0, start, stop, nullptr));
+    EXPECT_EQ(stop, 960);
+
+    m_Prompts.m_YesNoAnswers = {true};
+    Press(Page(), "Button_Delete");
+    EXPECT_EQ(Asked(), "yes or no: Delete the profile \"Day\" and its file?\n");
+    EXPECT_FALSE(m_Files.FileExists(Path("Profiles\\Profile_0001.dat")));
+    EXPECT_EQ(m_Station.Profiles().Count(), 1u);
+}
+
+TEST_F(ProfilesPage, EveryFieldIsWrittenWhereItIsReadFrom) {
+    ShowTab(0);
+    Type(Page(), "Text_ProfileName", "Day");
+    Press(Page(), "Check_Enabled");
+    Press(Page(), "Check_State_0");
+    Press(Page(), "Check_State_1");
+    Find<QSpinBox>(Page(), "Number_OffDuty")->setValue(9);
+    ShowTab(1);
+    for (int i = 0; i < 6; ++i) {
+        Type(Page(), QString("Text_Condition_%1").arg(i).toLatin1().constData(), QString("c%1").arg(i));
+    }
+    ShowTab(3);
+    Press(Page(), "Check_UseTimeSchedule");
+    Press(Page(), "Check_TimeSchedule_ViewDayType");
+    ShowTab(4);
+    Press(Page(), "Check_UseExternalTag");
+    Type(Page(), "Text_ExternalTagName", "tag");
+    Press(Page(), "Check_IgnoreExternalTag");
+    Press(Page(), "Check_UseExternalFile");
+    Type(Page(), "Text_ExternalFileName", "file");
+    Type(Page(), "Text_ExternalFileText", "text");
+    ShowTab(5);
+    Press(Page(), "Check_ScanSpecificSystems");
+    Press(Page(), "Check_System_0");
+    Press(Page(), "Check_System_62");
+    EXPECT_TRUE(Page().Save());
+
+    Reopen();
+    const cProfile& profile = Shown();
+    EXPECT_EQ(profile.GetName(), "Day");
+    EXPECT_EQ(profile.m_Enabled, False16);
+    EXPECT_EQ(profile.GetState(0), False16);
+    EXPECT_EQ(profile.GetState(1), True16);
+    EXPECT_EQ(profile.GetState(2), 2);
+    EXPECT_EQ(profile.m_OffDutyAlarmBehaviour, 9);
+    for (std::int16_t i = 0; i < 6; ++i) EXPECT_EQ(profile.GetCondition(i), "c" + std::to_string(i));
+    EXPECT_EQ(profile.m_UseTimeSchedule, False16);
+    EXPECT_EQ(profile.m_TimeSchedule_ViewDayType, False16);
+    EXPECT_EQ(profile.m_UseExternalTag, False16);
+    EXPECT_EQ(profile.m_ExternalTagName, "tag");
+    EXPECT_EQ(profile.m_IgnoreExternalTagInOtherProfiles, True16);
+    EXPECT_EQ(profile.m_UseExternalFile, True16);
+    EXPECT_EQ(profile.m_ExternalFileName, "file");
+    EXPECT_EQ(profile.m_ExternalFileText, "text");
+    EXPECT_EQ(profile.m_ScanSpecificSystems, False16);
+    EXPECT_EQ(profile.GetSystem(0), False16);
+    EXPECT_EQ(profile.GetSystem(62), True16);
+    EXPECT_EQ(profile.GetSystem(63), 3);
+    EXPECT_TRUE(Find<QCheckBox>(Page(), "Check_System_62")->isChecked());
+    EXPECT_EQ(Find<QSpinBox>(Page(), "Number_OffDuty")->value(), 9);
+}
+
+TEST_F(ProfilesPage, ShowingAProfileChangesNothing) {
+    for (int tab = 0; tab < 6; ++tab) ShowTab(tab);
+    EXPECT_FALSE(Page().IsDirty());
+    EXPECT_FALSE(Shown().HasChangedSinceLastLoadFromDisk());
+}
+
+TEST_F(ProfilesPage, AllSystemsAreSetOrClearedAtOnce) {
+    ShowTab(5);
+    Press(Page(), "Button_Systems_All");
+    for (std::int16_t i = 0; i < 64; ++i) EXPECT_NE(Shown().GetSystem(i), 0) << i;
+    EXPECT_EQ(Shown().GetSystem(63), 3);
+    Press(Page(), "Button_Systems_None");
+    for (std::int16_t i = 0; i < 64; ++i) EXPECT_EQ(Shown().GetSystem(i), 0) << i;
+}
+
+TEST_F(ProfilesPage, ReceiversAreShownByNameAndMissingOnesStay) {
+    ShowTab(2);
+    EXPECT_EQ(Items("List_Parallel"), "\xC3\x96st (0007)\n(missing receiver 0008)");
+    EXPECT_EQ(Items("List_Sequential"), "(missing receiver 0009)");
+    EXPECT_FALSE(Page().IsDirty());
+    Shown().m_SequentialReceivers = "9;a b";
+    Page().Choose(0);
+    EXPECT_EQ(Items("List_Sequential"), "(missing receiver 0009)\n(not a receiver: a b)");
+}
+
+TEST_F(ProfilesPage, ReceiversAreAddedFromTheListOfReceiversRemovedAndPutInOrder) {
+    ShowTab(2);
+    const QList<QAction*> offers = Offers("Button_Parallel_Add");
+    ASSERT_EQ(offers.size(), 1);
+    EXPECT_EQ(offers[0]->text().toStdString(), "Nord (0042)");
+    offers[0]->trigger();
+    EXPECT_EQ(Shown().m_ParallellReceivers, "7;8;42");
+    Press(Page(), "Button_Parallel_Up");
+    EXPECT_EQ(Shown().m_ParallellReceivers, "7;42;8");
+    Press(Page(), "Button_Parallel_Down");
+    EXPECT_EQ(Shown().m_ParallellReceivers, "7;8;42");
+    Find<QListWidget>(Page(), "List_Parallel")->setCurrentRow(1);
+    Press(Page(), "Button_Parallel_Remove");
+    EXPECT_EQ(Shown().m_ParallellReceivers, "7;42");
+    EXPECT_EQ(Shown().m_SequentialReceivers, "9");
+    const QList<QAction*> none = Offers("Button_Parallel_Add");
+    ASSERT_EQ(none.size(), 1);
+    EXPECT_FALSE(none[0]->isEnabled());
+}
+
+TEST_F(ProfilesPage, AReceiverRenamedMeanwhileIsShownByItsNewName) {
+    Page().hide();
+    m_Station.Receivers().At(0).m_ReceiverName = "East";
+    Page().show();
+    EXPECT_EQ(Items("List_Parallel"), "East (0007)\n(missing receiver 0008)");
+}
+
+TEST_F(ProfilesPage, TheScheduleIsEditedInTheProfile) {
+    ShowTab(3);
+    const std::string before = [&] {
+        std::string text;
+        Shown().m_TimeSchedule->ComposePeriodArray(text);
+        return text;
+    }();
+    Press(Page(), "Check_TimeSchedule_UseCalendar");
+    EXPECT_EQ(Shown().m_TimeSchedule->m_UseCalendar, False16);
+    EXPECT_TRUE(Page().IsDirty());
+    ASSERT_NE(Page().UndoStack(), nullptr);
+    Page().UndoStack()->undo();
+    std::string after;
+    Shown().m_TimeSchedule->ComposePeriodArray(after);
+    EXPECT_EQ(after, before);
+    EXPECT_FALSE(Page().IsDirty());
+}
+
+TEST_F(ProfilesPage, AnotherProfileHasAScheduleOfItsOwn) {
+    Press(Page(), "Button_Copy");
+    ShowTab(3);
+    Press(Page(), "Check_TimeSchedule_UseCalendar");
+    EXPECT_EQ(Shown().m_TimeSchedule->m_UseCalendar, False16);
+    Page().Choose(0);
+    EXPECT_EQ(Shown().m_TimeSchedule->m_UseCalendar, True16);
+    EXPECT_TRUE(Find<QCheckBox>(Page(), "Check_TimeSchedule_UseCalendar")->isChecked());
+    EXPECT_FALSE(Page().UndoStack()->canUndo());
+}
+
+TEST_F(ProfilesPage, AnotherCalendarIsOpenedOnlyWhenTheChangedOneIsSavedOrGivenUp) {
+    using eSave = cPrompts::eSave;
+    const std::string empty(29220, '\0');
+    std::string other = empty;
+    other[0] = 9;
+    Put("Calendar.cal", empty);
+    Put("Other.cal", other);
+    ShowTab(4);
+    cCalendarPage& calendar = *Page().findChild<cCalendarPage*>();
+    for (const eSave answer : {eSave::Cancel, eSave::Save, eSave::Discard}) {
+        const bool saved = answer == eSave::Save;
+        Put("Calendar.cal", empty);
+        ASSERT_TRUE(calendar.Open(Path("Calendar.cal")));
+        MarkADay(calendar);
+        ASSERT_TRUE(calendar.IsDirty());
+        m_Prompts.m_Texts = {"C:/App/Other.cal"};
+        m_Prompts.m_SaveAnswers = {answer};
+        Press(Page(), "Button_OpenCalendar");
+        EXPECT_EQ(OnDisk("Calendar.cal") != empty, saved);
+        EXPECT_EQ(calendar.IsDirty(), answer == eSave::Cancel);
+        EXPECT_EQ(LabelOf(Page(), "Label_Calendar").ends_with("Other.cal"), answer != eSave::Cancel);
+    }
+}
+
+TEST_F(ProfilesPage, AVersion4FileIsToldAsBroughtUp) {
+    PutSample("Profiles\\Profile_0012.dat", "profile_version_4.dat");
+    // The profile and one of the receivers.
+    EXPECT_EQ(LabelOf(Page(), "Label_Notes"), "Files brought up to a new version: 2.");
+    EXPECT_EQ(OnDisk("Profiles\\Profile_0012.dat")[0], 5);
+}
+
+TEST_F(ProfilesPage, TheListShowsTheConditions) {
+    EXPECT_EQ(Rows(Page()),
+              "Night | Fire, *, \xC3\x96"
+              "1 | 0012\n");
+}
+
+// As on a small screen at 200 %.
+TEST_F(ProfilesPage, InASmallWindowEveryFieldIsReachedAndTheTabsStayInSight) {
+    Page().resize(560, 320);
+    auto* tabs = Find<QTabWidget>(Page(), "Tabs_Profile");
+    ASSERT_EQ(tabs->count(), 7);
+    for (int tab = 0; tab < tabs->count(); ++tab) {
+        ShowTab(tab);
+        QTest::qWait(1);
+        EXPECT_EQ(tabs->tabBar()->visibleRegion().boundingRect(), tabs->tabBar()->rect()) << tab;
+        auto* area = qobject_cast<QScrollArea*>(tabs->currentWidget());
+        ASSERT_NE(area, nullptr) << tab;
+        EXPECT_GE(area->widget()->height(), area->widget()->minimumSizeHint().height()) << tab;
+        EXPECT_EQ(HiddenFields(*area), "") << tab;
+    }
+}
+
+}  // namespace
+}  // namespace vigrel

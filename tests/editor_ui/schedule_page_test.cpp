@@ -1,0 +1,479 @@
+#include <QContextMenuEvent>
+#include <QMenu>
+#include <QScrollBar>
+#include <QWheelEvent>
+
+#include "editor_ui/editor_bench.h"
+
+namespace vigrel::testing {
+namespace {
+
+constexpr auto kShift = Qt::ShiftModifier, kCtrl = Qt::ControlModifier;
+
+class SchedulePage : public ::testing::Test, protected cEditorBench {
+  protected:
+    QWidget& View() { return Find<QWidget>(m_Page, "Picture_TimeSchedule"); }
+    QString Text(const char* field) { return Find<QLineEdit>(m_Page, field).text(); }
+    std::string Day(std::int16_t dayType) { return Periods(m_Page.Schedule(), dayType); }
+    void Entry(const char* name) { Choose(m_Page, (std::string("Menu_TimeSchedulePopup_") + name).c_str()); }
+    QAction& Action(const char* name) {
+        return Find<QAction>(m_Page, (std::string("Menu_TimeSchedulePopup_") + name).c_str());
+    }
+    void Click(int row, int minute) { Drag(View(), {At(row, minute)}); }
+    // Entries' keys work while the focus is in the page.
+    void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QApplication::setActiveWindow(m_Window.get());
+        View().setFocus();
+        QTest::keyClick(&View(), key, modifiers);
+    }
+    void Type(const char* field, const char* text) {
+        auto& edit = Find<QLineEdit>(m_Page, field);
+        edit.selectAll();
+        QTest::keyClicks(&edit, text);
+        QTest::keyClick(&edit, Qt::Key_Return);
+    }
+    QColor Pixel(int x, int y, qreal scale = 1) {
+        QImage image(View().size() * scale, QImage::Format_RGB32);
+        image.setDevicePixelRatio(scale);
+        View().render(&image);
+        return image.pixelColor(x, y);
+    }
+
+    cSchedulePage& m_Page = NewSchedule();
+};
+
+TEST_F(SchedulePage, ANewScheduleIsAWorkingWeekAndNotDirty) {
+    cTimeSchedule expected;
+    expected.SetDefaultPeriod();
+    for (std::int16_t day = 0; day < 23; ++day) EXPECT_EQ(Day(day), Periods(expected, day));
+    EXPECT_FALSE(m_Page.IsDirty());
+    EXPECT_EQ(m_Page.Title(), "Schedule 1");
+}
+
+TEST_F(SchedulePage, ADragMakesAPeriodInOneStepOfUndo) {
+    Drag(View(), {At(5, 600), At(5, 640), At(5, 700)});
+    EXPECT_EQ(Day(5), "600-700");
+    EXPECT_EQ(Text("Text_Schedule_Period_Start"), "10:00");
+    EXPECT_EQ(Text("Text_Schedule_Period_Stop"), "11:40");
+    EXPECT_TRUE(m_Page.IsDirty());
+    EXPECT_EQ(m_Page.UndoStack()->count(), 1);
+    Choose(*m_Window, "Menu_Undo");
+    EXPECT_EQ(Day(5), "");
+    EXPECT_FALSE(m_Page.IsDirty());
+    EXPECT_EQ(Text("Text_Schedule_Period_Start"), "");
+    Choose(*m_Window, "Menu_Redo");
+    EXPECT_EQ(Day(5), "600-700");
+}
+
+TEST_F(SchedulePage, AClickThatChangesNothingIsNoStepOfUndo) {
+    Click(0, 600);
+    EXPECT_EQ(m_Page.UndoStack()->count(), 0);
+    EXPECT_EQ(Text("Text_Schedule_Period_Start"), "07:00");
+}
+
+TEST_F(SchedulePage, ADragOnAGroupedDayChangesTheGroup) {
+    Drag(View(), {At(1, 960), At(1, 1020)});
+    for (std::int16_t day = 0; day < 5; ++day) EXPECT_EQ(Day(day), "420-1020");
+    Choose(*m_Window, "Menu_Undo");
+    for (std::int16_t day = 0; day < 5; ++day) EXPECT_EQ(Day(day), "420-960");
+}
+
+TEST_F(SchedulePage, UndoInTheMiddleOfADragEndsTheDrag) {
+    Drag(View(), {At(5, 600), At(5, 700)});
+    Press(View(), At(5, 700));
+    Move(View(), At(5, 900));
+    Choose(*m_Window, "Menu_Undo");
+    EXPECT_FALSE(m_Page.Schedule().IsDragging());
+    Move(View(), At(5, 1000));
+    Release(View(), At(5, 1000));
+    EXPECT_EQ(Day(5), "");
+    EXPECT_FALSE(m_Page.IsDirty());
+}
+
+TEST_F(SchedulePage, EntriesWorkOnTheSelectedDay) {
+    Click(0, 600);
+    Entry("Copy");
+    Click(6, 600);
+    Entry("Paste");
+    EXPECT_EQ(Day(6), "420-960");
+    EXPECT_TRUE(IsGrouped(m_Page.Schedule(), 6));
+    Entry("Invert");
+    EXPECT_EQ(Day(6), "0-420 960-1440");
+    EXPECT_EQ(Day(0), "0-420 960-1440");
+    Entry("Grouped");
+    EXPECT_FALSE(IsGrouped(m_Page.Schedule(), 6));
+    Entry("WholeDay");
+    EXPECT_EQ(Day(6), "0-1440");
+    EXPECT_FALSE(Action("WholeDay").isEnabled());
+    EXPECT_EQ(m_Page.UndoStack()->count(), 4);
+    while (m_Page.UndoStack()->canUndo()) Choose(*m_Window, "Menu_Undo");
+    EXPECT_EQ(Day(6), "");
+}
+
+TEST_F(SchedulePage, DeleteRemovesTheSelectedPeriodAndClearsTheFields) {
+    Click(0, 600);
+    Entry("Delete");
+    EXPECT_EQ(Day(0), "");
+    EXPECT_EQ(Day(1), "420-960");
+    EXPECT_EQ(Text("Text_Schedule_Period_Start"), "");
+    EXPECT_FALSE(Find<QLineEdit>(m_Page, "Text_Schedule_Period_Start").isEnabled());
+}
+
+TEST_F(SchedulePage, MondayToFridayIsUngroupedThenGroupedAgain) {
+    EXPECT_TRUE(Action("Grouped_MonFri").isChecked());
+    Entry("Grouped_MonFri");
+    EXPECT_FALSE(IsGrouped(m_Page.Schedule(), 0));
+    EXPECT_FALSE(Action("Grouped_MonFri").isChecked());
+    Entry("Grouped_MonFri");
+    for (int day = 0; day < 23; ++day) EXPECT_EQ(IsGrouped(m_Page.Schedule(), day), day < 5);
+    EXPECT_TRUE(Action("Grouped_MonFri").isChecked());
+}
+
+TEST_F(SchedulePage, EntriesThatNeedADayAreDisabledWithoutOne) {
+    for (const char* name : {"Copy", "Paste", "Delete", "WholeDay", "Invert", "Grouped"}) {
+        EXPECT_FALSE(Action(name).isEnabled()) << name;
+    }
+    Press(View(), At(2, 600), Qt::RightButton);
+    for (const char* name : {"Copy", "Delete", "WholeDay", "Invert", "Grouped"}) {
+        EXPECT_TRUE(Action(name).isEnabled()) << name;
+    }
+    EXPECT_FALSE(Action("Paste").isEnabled());
+    EXPECT_TRUE(Action("Grouped").isChecked());
+}
+
+TEST_F(SchedulePage, TypedTimesAreTakenOverAndNormalised) {
+    Click(0, 600);
+    Type("Text_Schedule_Period_Start", "8");
+    EXPECT_EQ(Day(0), "480-960");
+    Type("Text_Schedule_Period_Stop", "1630");
+    EXPECT_EQ(Text("Text_Schedule_Period_Stop"), "16:30");
+    EXPECT_EQ(Day(4), "480-990");
+    Type("Text_Schedule_Period_Stop", "7");
+    EXPECT_EQ(Text("Text_Schedule_Period_Start"), "07:00");
+    EXPECT_EQ(Text("Text_Schedule_Period_Stop"), "08:00");
+    EXPECT_EQ(m_Page.UndoStack()->count(), 3);
+}
+
+TEST_F(SchedulePage, AStartBehindTheOldStopWaitsForTheNewStop) {
+    QApplication::setActiveWindow(m_Window.get());
+    Click(5, 600);
+    Drag(View(), {At(5, 480), At(5, 540)});
+    auto& start = Find<QLineEdit>(m_Page, "Text_Schedule_Period_Start");
+    auto& stop = Find<QLineEdit>(m_Page, "Text_Schedule_Period_Stop");
+    start.setFocus();
+    start.selectAll();
+    QTest::keyClicks(&start, "18");
+    QTest::keyClick(&start, Qt::Key_Tab);
+    ASSERT_TRUE(stop.hasFocus());
+    EXPECT_EQ(Day(5), "480-540");
+    Type("Text_Schedule_Period_Stop", "20");
+    EXPECT_EQ(Day(5), "1080-1200");
+    EXPECT_EQ(start.text(), "18:00");
+    // Leaving both by the mouse takes over, too.
+    start.setFocus();
+    start.selectAll();
+    QTest::keyClicks(&start, "19");
+    View().setFocus();
+    EXPECT_EQ(Day(5), "1140-1200");
+}
+
+TEST_F(SchedulePage, ATimeThatIsStillBeingTypedIsSavedWithTheRest) {
+    QApplication::setActiveWindow(m_Window.get());
+    Click(0, 600);
+    auto& stop = Find<QLineEdit>(m_Page, "Text_Schedule_Period_Stop");
+    stop.setFocus();
+    stop.selectAll();
+    QTest::keyClicks(&stop, "1730");
+    m_Prompts.m_Texts = {"/app/Office.sch"};
+    Choose(*m_Window, "Menu_Save");
+    EXPECT_EQ(m_Files.ReadFile("/app/Office.sch"), Saved(m_Page.Schedule()));
+    EXPECT_EQ(Day(0), "420-1050");
+    EXPECT_FALSE(m_Page.IsDirty());
+    stop.selectAll();
+    QTest::keyClicks(&stop, "18");
+    Choose(*m_Window, "Menu_Close");
+    EXPECT_TRUE(m_Prompts.m_Asked.endsWith("save Office.sch\n"));
+    EXPECT_EQ(Day(0), "420-1080");
+}
+
+TEST_F(SchedulePage, TheTimeUnderThePointerIsShown) {
+    Move(View(), At(3, 765));
+    EXPECT_EQ(Find<QLabel>(m_Page, "Text_Schedule_Time").text(), "12:45");
+}
+
+TEST_F(SchedulePage, TheTimesCanBeReadDuringADrag) {
+    auto& start = Find<QLineEdit>(m_Page, "Text_Schedule_Period_Start");
+    EXPECT_FALSE(start.isEnabled());
+    Press(View(), At(5, 600));
+    Move(View(), At(5, 700));
+    EXPECT_TRUE(start.isEnabled());
+    EXPECT_EQ(start.text(), "10:00");
+    Release(View(), At(5, 700));
+    EXPECT_TRUE(start.isEnabled());
+    Click(6, 600);
+    EXPECT_FALSE(start.isEnabled());
+}
+
+TEST_F(SchedulePage, ThePopupMenuOpensWithItsSevenEntries) {
+    auto& menu = Find<QMenu>(m_Page, "Menu_TimeSchedulePopup");
+    QStringList entries;
+    for (const QAction* action : menu.actions()) entries += action->text().remove('&');
+    EXPECT_EQ(entries.join('|'),
+              "Delete the period|Copy the day|Paste into the day||Whole day|Invert the day||Grouped|"
+              "Monday to Friday grouped");
+    Press(View(), At(2, 600), Qt::RightButton);
+    QContextMenuEvent mouse(QContextMenuEvent::Mouse, At(2, 600), View().mapToGlobal(At(2, 600)));
+    QCoreApplication::sendEvent(&View(), &mouse);
+    EXPECT_TRUE(menu.isVisible());
+    menu.hide();
+    // Not in the middle of a drag.
+    Press(View(), At(5, 600));
+    QCoreApplication::sendEvent(&View(), &mouse);
+    EXPECT_FALSE(menu.isVisible());
+}
+
+// --- keyboard
+
+TEST_F(SchedulePage, ANewPageHasTheKeyboard) {
+    EXPECT_EQ(m_Window->focusWidget(), &View());
+    cCalendarPage& calendar = NewCalendar();
+    EXPECT_EQ(m_Window->focusWidget(), &Find<QWidget>(calendar, "Picture_Calendar"));
+}
+
+TEST_F(SchedulePage, ArrowKeysChooseRowsAndPeriods) {
+    Key(Qt::Key_Down);
+    EXPECT_EQ(m_Page.Schedule().SelectedDayType(), 0);
+    EXPECT_EQ(Text("Text_Schedule_Period_Start"), "07:00");
+    Entry("Invert");
+    Key(Qt::Key_Down);
+    EXPECT_EQ(m_Page.Schedule().SelectedDayType(), 1);
+    EXPECT_EQ(Text("Text_Schedule_Period_Start"), "00:00");
+    Key(Qt::Key_Right);
+    EXPECT_EQ(Text("Text_Schedule_Period_Start"), "16:00");
+    Key(Qt::Key_Right);
+    EXPECT_EQ(Text("Text_Schedule_Period_Start"), "16:00");
+    Key(Qt::Key_Left);
+    EXPECT_EQ(Text("Text_Schedule_Period_Stop"), "07:00");
+    for (int i = 0; i < 9; ++i) Key(Qt::Key_Down);
+    EXPECT_EQ(m_Page.Schedule().SelectedDayType(), 6);
+    for (int i = 0; i < 9; ++i) Key(Qt::Key_Up);
+    EXPECT_EQ(m_Page.Schedule().SelectedDayType(), 0);
+}
+
+TEST_F(SchedulePage, InsertMakesAPeriodAndArrowsMoveItsEnds) {
+    for (int i = 0; i < 6; ++i) Key(Qt::Key_Down);
+    ASSERT_EQ(m_Page.Schedule().SelectedDayType(), 5);
+    Key(Qt::Key_Insert);
+    EXPECT_EQ(Day(5), "480-540");
+    Key(Qt::Key_Right, kShift);
+    EXPECT_EQ(Day(5), "480-545");
+    Key(Qt::Key_Left, kCtrl);
+    EXPECT_EQ(Day(5), "475-545");
+    Key(Qt::Key_Insert);
+    EXPECT_EQ(Day(5), "475-545 600-660");
+    Key(Qt::Key_Delete);
+    EXPECT_EQ(Day(5), "475-545");
+    EXPECT_EQ(m_Page.UndoStack()->count(), 5);
+}
+
+TEST_F(SchedulePage, InsertInAFullDayChangesNothing) {
+    Click(5, 600);
+    Entry("WholeDay");
+    Click(5, 600);
+    Key(Qt::Key_Insert);
+    EXPECT_EQ(Day(5), "0-1440");
+}
+
+TEST_F(SchedulePage, ReturnGoesToTheStartField) {
+    QApplication::setActiveWindow(m_Window.get());
+    Click(0, 600);
+    Key(Qt::Key_Return);
+    EXPECT_TRUE(Find<QLineEdit>(m_Page, "Text_Schedule_Period_Start").hasFocus());
+}
+
+// --- rows
+
+TEST_F(SchedulePage, SpecialDayTypesAddRowsAndTheScrollBarReachesThem) {
+    auto& list = Find<QListWidget>(m_Page, "List_DayTypes");
+    auto& scroll = Find<QScrollBar>(m_Page, "VScroll_Schedule");
+    EXPECT_TRUE(list.item(7)->isHidden());
+    EXPECT_FALSE(scroll.isEnabled());
+    Find<QCheckBox>(m_Page, "Check_TimeSchedule_UseCalendar").click();
+    EXPECT_FALSE(list.item(7)->isHidden());
+    list.item(9)->setCheckState(Qt::Checked);
+    list.item(22)->setCheckState(Qt::Checked);
+    EXPECT_EQ(m_Page.Schedule().m_NumberOfAxisToPaint, 9);
+    EXPECT_EQ(scroll.maximum(), 8);
+    EXPECT_EQ(View().height(), 9 * 25 + 4);
+    const int top = View().y();
+    scroll.setValue(8);
+    EXPECT_EQ(View().y(), top - 50);
+    Drag(View(), {At(8, 600), At(8, 700)});
+    EXPECT_EQ(Day(22), "600-700");
+    list.item(9)->setCheckState(Qt::Unchecked);
+    EXPECT_EQ(m_Page.Schedule().m_NumberOfAxisToPaint, 8);
+    while (m_Page.UndoStack()->canUndo()) Choose(*m_Window, "Menu_Undo");
+    EXPECT_EQ(m_Page.Schedule().m_NumberOfAxisToPaint, 7);
+    EXPECT_FALSE(m_Page.Schedule().GetActive(22));
+    EXPECT_FALSE(Find<QCheckBox>(m_Page, "Check_TimeSchedule_UseCalendar").isChecked());
+}
+
+TEST_F(SchedulePage, TheWheelScrollsTheRows) {
+    Find<QCheckBox>(m_Page, "Check_TimeSchedule_UseCalendar").click();
+    auto& list = Find<QListWidget>(m_Page, "List_DayTypes");
+    for (int day = 7; day < 12; ++day) list.item(day)->setCheckState(Qt::Checked);
+    QWheelEvent down(QPointF(50, 50), View().mapToGlobal(QPointF(50, 50)), {}, {0, -120}, Qt::NoButton,
+                     Qt::NoModifier, Qt::NoScrollPhase, false);
+    // The view leaves the wheel to its frame.
+    QCoreApplication::sendEvent(View().parentWidget(), &down);
+    EXPECT_GT(Find<QScrollBar>(m_Page, "VScroll_Schedule").value(), 0);
+}
+
+TEST_F(SchedulePage, ARowChosenByKeysScrollsIntoSight) {
+    Find<QCheckBox>(m_Page, "Check_TimeSchedule_UseCalendar").click();
+    auto& list = Find<QListWidget>(m_Page, "List_DayTypes");
+    for (int day = 7; day < 12; ++day) list.item(day)->setCheckState(Qt::Checked);
+    auto& scroll = Find<QScrollBar>(m_Page, "VScroll_Schedule");
+    for (int i = 0; i < 12; ++i) Key(Qt::Key_Down);
+    EXPECT_EQ(m_Page.Schedule().SelectedDayType(), 11);
+    EXPECT_EQ(scroll.value(), 20);
+    for (int i = 0; i < 11; ++i) Key(Qt::Key_Up);
+    EXPECT_EQ(scroll.value(), 0);
+}
+
+TEST_F(SchedulePage, ASpecialDayTypeGetsANameOfTheInstallation) {
+    auto& list = Find<QListWidget>(m_Page, "List_DayTypes");
+    EXPECT_EQ(list.item(7)->text(), "Special day type 1");
+    Find<QCheckBox>(m_Page, "Check_TimeSchedule_UseCalendar").click();
+    list.item(7)->setCheckState(Qt::Checked);
+    Click(6, 600);
+    Entry("Rename");
+    EXPECT_TRUE(m_Prompts.m_Asked.startsWith("failure: Choose a special day type"));
+    Drag(View(), {QPoint(150, 7 * 25 + 10)});
+    m_Prompts.m_Texts = {"Lucia"};
+    Entry("Rename");
+    EXPECT_TRUE(m_Prompts.m_Asked.endsWith("Name of the day type: Special day type 1\n"));
+    EXPECT_EQ(list.item(7)->text(), "Lucia");
+    EXPECT_EQ(m_Files.ReadFile("/app/VigrelDefinitions.INI"), "[DayTypes]\r\n7=Lucia\r\n");
+}
+
+TEST_F(SchedulePage, ASpecialDayTypeGetsOneOfTheDrawings) {
+    cCalendarPage& calendar = NewCalendar();
+    Find<QTabWidget>(*m_Window, "Tabs_Pages").setCurrentWidget(&m_Page);
+    Find<QCheckBox>(m_Page, "Check_TimeSchedule_UseCalendar").click();
+    auto& list = Find<QListWidget>(m_Page, "List_DayTypes");
+    list.item(7)->setCheckState(Qt::Checked);
+    auto& menu = Find<QMenu>(m_Page, "Menu_DayTypeImages");
+    ASSERT_EQ(menu.actions().size(), 23);
+    Click(6, 600);
+    menu.actions()[2]->trigger();
+    EXPECT_TRUE(m_Prompts.m_Asked.startsWith("failure: Choose a special day type"));
+    Drag(View(), {QPoint(150, 7 * 25 + 10)});
+    menu.actions()[2]->trigger();
+    EXPECT_EQ(m_Files.ReadFile("/app/VigrelDefinitions.INI"), "[DayTypeImages]\r\n7=3\r\n");
+    // The fir tree is green where the star was brown, in the row and in both lists.
+    EXPECT_EQ(Pixel(20, 7 * 25 + 12), QColor("#2f8a3c"));
+    const auto middle = [](const QIcon& icon) {
+        return icon.pixmap(16, 16).toImage().scaled(16, 16).pixelColor(8, 8);
+    };
+    const auto& combo = Find<QComboBox>(calendar, "Combo_Calendar_DayType");
+    EXPECT_EQ(middle(list.item(7)->icon()), QColor("#2f8a3c"));
+    EXPECT_EQ(middle(combo.itemIcon(8)), QColor("#2f8a3c"));
+    // The next start knows it; a number that is no drawing counts as no choice.
+    EXPECT_EQ(cDayTypeImages(m_Ini).DrawingOf(1), 3);
+    m_Ini.PutIniString("DayTypeImages", "7", "24", "VigrelDefinitions.INI");
+    EXPECT_EQ(cDayTypeImages(m_Ini).DrawingOf(1), 1);
+}
+
+TEST_F(SchedulePage, AnImageThatCannotBeStoredIsTold) {
+    Find<QCheckBox>(m_Page, "Check_TimeSchedule_UseCalendar").click();
+    Find<QListWidget>(m_Page, "List_DayTypes").item(7)->setCheckState(Qt::Checked);
+    Drag(View(), {QPoint(150, 7 * 25 + 10)});
+    m_Files.m_DiskFull = true;
+    Find<QMenu>(m_Page, "Menu_DayTypeImages").actions()[3]->trigger();
+    EXPECT_EQ(m_Prompts.m_Asked, "failure: The choice could not be stored in /app/VigrelDefinitions.INI.\n");
+}
+
+// --- drawing
+
+TEST_F(SchedulePage, AUnitIsAPixelAt100PercentAndTwoAt200) {
+    EXPECT_EQ(View().height(), 179);
+    // The left end of Monday's period, 420 minutes: unit 30 + 84.
+    EXPECT_EQ(Pixel(113, 4), QColor(220, 220, 220));
+    EXPECT_EQ(Pixel(114, 4), QColor(0, 0, 0));
+    EXPECT_EQ(Pixel(115, 4), QColor(0, 240, 0));
+    EXPECT_EQ(Pixel(115, 18), QColor(0, 142, 0));
+    EXPECT_EQ(Pixel(222, 18), QColor(0, 0, 0));
+    Choose(*m_Window, "Menu_Zoom_200");
+    EXPECT_EQ(View().height(), 358);
+    EXPECT_EQ(Pixel(227, 9), QColor(220, 220, 220));
+    EXPECT_EQ(Pixel(228, 8), QColor(0, 0, 0));
+    EXPECT_EQ(Pixel(229, 37), QColor(0, 0, 0));
+    EXPECT_EQ(Pixel(230, 8), QColor(0, 240, 0));
+    EXPECT_EQ(Pixel(230, 9), QColor(0, 240, 0));
+    EXPECT_EQ(Pixel(230, 10), QColor(0, 233, 0));
+}
+
+TEST_F(SchedulePage, OnAScreenOfDoubleDensityAUnitIsTwoOfItsPixels) {
+    EXPECT_EQ(Pixel(227, 9, 2), QColor(220, 220, 220));
+    EXPECT_EQ(Pixel(228, 8, 2), QColor(0, 0, 0));
+    EXPECT_EQ(Pixel(229, 37, 2), QColor(0, 0, 0));
+    EXPECT_EQ(Pixel(230, 9, 2), QColor(0, 240, 0));
+    EXPECT_EQ(Pixel(230, 10, 2), QColor(0, 233, 0));
+    EXPECT_EQ(Pixel(635, 8, 2), QColor(255, 255, 255));
+}
+
+TEST_F(SchedulePage, AtOneAndAHalfTheLinesOfABarLeaveNoGap) {
+    Choose(*m_Window, "Menu_Zoom_150");
+    for (int y = 6; y < 28; ++y) EXPECT_EQ(Pixel(200, y).red(), 0) << y;
+}
+
+TEST_F(SchedulePage, TheMouseSpeaksOfUnitsAtEverySize) {
+    for (const int percent : {150, 200, 300}) {
+        Choose(*m_Window, QString("Menu_Zoom_%1").arg(percent).toLatin1());
+        const auto zoomed = [percent](QPoint unit) { return unit * percent / 100.0 + QPoint(1, 1); };
+        Drag(View(), {zoomed(At(5, 600)), zoomed(At(5, 700))});
+        EXPECT_EQ(Day(5), "600-700") << percent;
+        Choose(*m_Window, "Menu_Undo");
+    }
+}
+
+TEST_F(SchedulePage, TheSelectedPeriodIsDrawnLighter) {
+    Click(0, 600);
+    EXPECT_EQ(Pixel(150, 18), QColor(64, 206, 64));
+    Click(3, 1200);
+    EXPECT_EQ(Pixel(150, 18), QColor(0, 142, 0));
+}
+
+TEST_F(SchedulePage, TextIsNotThickenedByPaintingAgain) {
+    Find<QCheckBox>(m_Page, "Check_TimeSchedule_ViewDayType").click();
+    const auto picture = [&] {
+        QImage image(View().size(), QImage::Format_RGB32);
+        View().render(&image);
+        return image;
+    };
+    const QImage before = picture();
+    for (int i = 0; i < 3; ++i) Move(View(), At(1, 100 * i));
+    EXPECT_EQ(picture(), before);
+}
+
+TEST_F(SchedulePage, OnADarkDesktopTheDrawingStaysLight) {
+    const QPalette usual = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(49, 54, 59), QColor(42, 46, 50)));
+    auto& view = Find<QWidget>(NewSchedule(), "Picture_TimeSchedule");
+    QImage image(view.size(), QImage::Format_RGB32);
+    view.render(&image);
+    QApplication::setPalette(usual);
+    EXPECT_EQ(image.pixelColor(2, 2), QColor(240, 240, 240));
+    EXPECT_EQ(view.palette().color(QPalette::WindowText), QColor(Qt::black));
+}
+
+TEST_F(SchedulePage, SpecialDayTypesShowTheirImageInTheRow) {
+    Find<QCheckBox>(m_Page, "Check_TimeSchedule_UseCalendar").click();
+    Find<QListWidget>(m_Page, "List_DayTypes").item(7)->setCheckState(Qt::Checked);
+    // The star of the first one, left of the axis.
+    EXPECT_EQ(Pixel(20, 7 * 25 + 12), QColor("#b86a00"));
+}
+
+}  // namespace
+}  // namespace vigrel::testing

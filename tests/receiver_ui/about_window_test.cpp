@@ -1,0 +1,87 @@
+#include "receiver_ui/dialogs/about_window.h"
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+#include <memory>
+
+#include "common/ini.h"
+#include "support/fake_files.h"
+#include "support/fake_timer.h"
+#include "support/qt_wait.h"
+#include "windows/desktop.h"
+
+namespace vigrel::testing {
+namespace {
+
+class cAboutWindowTest : public ::testing::Test {
+  protected:
+    cAboutWindow& Open() {
+        auto timer = std::make_unique<cFakeTimer>(cAboutBox::kTickInterval);
+        m_Timer = timer.get();
+        m_Window = std::make_unique<cAboutWindow>(m_Windows, m_Screen, m_Texts, std::move(timer));
+        m_Window->Show();
+        QCoreApplication::processEvents();
+        return *m_Window;
+    }
+
+    cFakeFiles m_Files;
+    cIni m_Ini{m_Files, "C:\\App\\"};
+    cTexts m_Texts{m_Files, m_Ini};
+    cQtScreen m_Screen;
+    cOpenWindows m_Windows;
+    cFakeTimer* m_Timer = nullptr;
+    std::unique_ptr<cAboutWindow> m_Window;
+};
+
+TEST_F(cAboutWindowTest, ShowsItsLabelWhole) {
+    const cAboutWindow& window = Open();
+    EXPECT_EQ(window.Name(), "Vigrel_Receiver_About");
+    EXPECT_EQ(window.windowTitle(), "Vigrel - Larmmottagare");
+    const auto* label = window.findChild<QLabel*>("Label");
+    EXPECT_EQ(label->text(),
+              "*** Invalid Text (10000)\n\n*** Invalid Text (13) 3.00.04\n\n"
+              "*** Invalid Text (14) Kelmora AB");
+    EXPECT_GE(label->width(), label->sizeHint().width());
+    EXPECT_GE(label->height(), label->sizeHint().height());
+}
+
+TEST_F(cAboutWindowTest, StandsInTheMiddleOfTheScreen) {
+    const cAboutWindow& window = Open();
+    EXPECT_NEAR(window.Left() + window.Width() / 2, m_Screen.Width() / 2, 4 * kTwipsPerPixel);
+    EXPECT_NEAR(window.Top() + window.Height() / 2, m_Screen.Height() / 2, 4 * kTwipsPerPixel);
+}
+
+TEST_F(cAboutWindowTest, ClosesByItselfAtTheTwentyFirstTick) {
+    const cAboutWindow& window = Open();
+    for (int i = 0; i < 20; ++i) m_Timer->Tick();
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(m_Windows.OpenWindows().size(), 1u);
+    m_Timer->Tick();
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_TRUE(m_Windows.OpenWindows().empty());
+    EXPECT_FALSE(m_Timer->Enabled());
+}
+
+TEST_F(cAboutWindowTest, ClosedByHandItsTimerStops) {
+    cAboutWindow& window = Open();
+    window.close();
+    EXPECT_FALSE(m_Timer->Enabled());
+    EXPECT_TRUE(m_Windows.OpenWindows().empty());
+}
+
+TEST_F(cAboutWindowTest, EscapeClosesIt) {
+    cAboutWindow& window = Open();
+    QTest::keyClick(&window, Qt::Key_A);
+    EXPECT_TRUE(window.isVisible());
+    QTest::keyClick(&window, Qt::Key_Escape);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_FALSE(m_Timer->Enabled());
+}
+
+TEST_F(cAboutWindowTest, TakesNoKeyboard) {
+    EXPECT_TRUE(Open().testAttribute(Qt::WA_ShowWithoutActivating));
+}
+
+}  // namespace
+}  // namespace vigrel::testing

@@ -1,0 +1,524 @@
+#include "receiver_ui/popups/popup_widget.h"
+
+#include <gtest/gtest.h>
+
+#include <QtTest/qtestspontaneevent.h>
+#include <QAccessible>
+#include <QApplication>
+#include <QFontInfo>
+#include <QScreen>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+
+#include "common/code_page.h"
+#include "contract/popup_contract.h"
+#include "receiver_ui/popup_rig.h"
+#include "signals/popups.h"
+#include "support/popup_station.h"
+#include "support/qt_wait.h"
+
+namespace vigrel::testing {
+namespace {
+
+INSTANTIATE_TYPED_TEST_SUITE_P(Qt, PopupContract, cPopupWidgetRig);
+
+// --- text
+
+TEST(PopupText, EveryKindOfLineEndIsOneAndTabsStay) {
+    EXPECT_EQ(PopupText("a\r\nb\rc\nd\te"), QString("a\nb\nc\nd\te"));
+}
+
+TEST(PopupText, TheWholeCodePageShows) {
+    for (int code = 0; code < 256; ++code) {
+        const char character = static_cast<char>(code);
+        const QString shown = PopupText(std::string_view(&character, 1));
+        ASSERT_EQ(shown.size(), 1) << code;
+        const bool control = code < 0x20 || code == 0x7F;
+        if (!control) {
+            EXPECT_EQ(shown[0].unicode(), ToUnicode(character)) << code;
+        }
+        if (control && code != '\t' && code != '\n' && code != '\r') {
+            EXPECT_EQ(shown[0].unicode() & 0xFF00, 0x2400) << code;
+        }
+    }
+    EXPECT_EQ(PopupText("\x80 \xE5\xE4\xF6 \x9F"), QString::fromUtf8("€ åäö Ÿ"));
+}
+
+// --- one window
+
+class cPopupWidgetTest : public ::testing::Test {
+  protected:
+    cPopupWidget& Make() { return dynamic_cast<cPopupWidget&>(m_Maker.MakePopup()); }
+    cPopupWidget& MakeShown() {
+        cPopupWidget& popup = Make();
+        popup.Show();
+        m_Maker.Stack().Apply();
+        return popup;
+    }
+    static QPlainTextEdit& Label(cPopupWidget& popup) {
+        return *popup.findChild<QPlainTextEdit*>("Label_Alarm");
+    }
+    static cPopupPicture& Picture(cPopupWidget& popup, int number) {
+        return *static_cast<cPopupPicture*>(
+            popup.findChild<QAbstractButton*>(QString("Picture_Alarm_%1").arg(number)));
+    }
+    static QColor PixelAt(QWidget& widget, QPoint place) { return widget.grab().toImage().pixelColor(place); }
+
+    cOpenWindows m_Windows;
+    cPopupWidgetMaker m_Maker{m_Windows};
+};
+
+TEST_F(cPopupWidgetTest, HasTheDesignGeometryAndShowsNoPicture) {
+    cPopupWidget& popup = Make();
+    EXPECT_EQ(popup.Name(), "Vigrel_Receiver_Popup");
+    EXPECT_EQ(popup.objectName(), "Vigrel_Receiver_Popup");
+    EXPECT_NEAR(popup.InnerWidth(), 6768, 15);
+    EXPECT_NEAR(popup.InnerHeight(), 1260, 15);
+    EXPECT_EQ(Label(popup).geometry(), QRect(48, 0, 401, 78));
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_EQ(popup.PictureLeft(i), 90);
+        EXPECT_EQ(popup.PictureWidth(i), 384);
+        EXPECT_EQ(Picture(popup, i).geometry(), QRect(6, 14, 32, 32));
+        EXPECT_TRUE(Picture(popup, i).isHidden());
+    }
+    EXPECT_THROW(popup.SetPictureVisible(4, true), cFailure);
+    EXPECT_THROW(popup.PictureLeft(-1), cFailure);
+}
+
+TEST_F(cPopupWidgetTest, IsAmongTheOpenWindowsFromTheStart) {
+    cPopupWidget& first = Make();
+    cPopupWidget& second = Make();
+    EXPECT_EQ(m_Windows.OpenWindows(), (std::vector<cWindow*>{&first, &second}));
+}
+
+TEST_F(cPopupWidgetTest, BearsTheProgramsIconInOneSizeAlone) {
+    const QIcon icon = Make().windowIcon();
+    EXPECT_EQ(icon.availableSizes(), QList<QSize>{QSize(32, 32)});
+    EXPECT_EQ(icon.pixmap(32).toImage(), QIcon(":/icons/vigrel-receiver.svg").pixmap(32).toImage());
+    EXPECT_NE(icon.pixmap(32).toImage().pixelColor(16, 16).alpha(), 0);
+}
+
+TEST_F(cPopupWidgetTest, TakesItsColours) {
+    cPopupWidget& popup = Make();
+    EXPECT_EQ(PixelAt(popup, {2, 2}), QColor(240, 240, 240));
+    popup.SetBackColour(0x0000FF);
+    popup.SetLabelBackColour(0x00FF00);
+    popup.SetPictureBackColour(2, 0xFF0000);
+    popup.SetPictureVisible(2, true);
+    EXPECT_EQ(PixelAt(popup, {2, 2}), QColor(255, 0, 0));
+    EXPECT_EQ(PixelAt(popup, {300, 60}), QColor(0, 255, 0));
+    EXPECT_EQ(PixelAt(popup, {7, 15}), QColor(0, 0, 255));
+    EXPECT_EQ(Label(popup).verticalScrollBar()->palette().color(QPalette::Window),
+              QApplication::palette().color(QPalette::Window));
+    popup.SetForeColour(0x010203);
+    popup.SetLabelForeColour(0x010203);
+    EXPECT_EQ(popup.palette().color(QPalette::WindowText), QColor(3, 2, 1));
+    EXPECT_EQ(Label(popup).palette().color(QPalette::Text), QColor(3, 2, 1));
+}
+
+TEST_F(cPopupWidgetTest, TextIsNeverTakenAsMarkup) {
+    cPopupWidget& popup = Make();
+    popup.SetLabelText("<b>a</b> & b\r\nc");
+    EXPECT_EQ(Label(popup).toPlainText(), "<b>a</b> & b\nc");
+}
+
+TEST_F(cPopupWidgetTest, AShortTextNeedsNoScrollBarAndALongOneGetsIt) {
+    cPopupWidget& popup = MakeShown();
+    popup.SetLabelFont("MS Sans Serif", 8);
+    popup.SetLabelText("Short");
+    EXPECT_EQ(Label(popup).verticalScrollBar()->maximum(), 0);
+    popup.SetLabelText(std::string(3000, 'x'));
+    EXPECT_GT(Label(popup).verticalScrollBar()->maximum(), 0);
+    EXPECT_EQ(Label(popup).horizontalScrollBar()->maximum(), 0);
+}
+
+TEST_F(cPopupWidgetTest, TheLabelTakesItsFont) {
+    cPopupWidget& popup = Make();
+    popup.SetLabelFontStyle(true, true);
+    popup.SetLabelFont("MS Sans Serif", 9.5);
+    const QFont font = Label(popup).font();
+    EXPECT_EQ(font.families().first(), "MS Sans Serif");
+    EXPECT_EQ(font.pointSizeF(), 9.5);
+    EXPECT_TRUE(font.bold());
+    EXPECT_TRUE(font.italic());
+    EXPECT_FALSE(QFontInfo(font).family().contains("Serif"));
+    popup.SetLabelFontStyle(false, false);
+    EXPECT_FALSE(Label(popup).font().bold());
+    EXPECT_EQ(Label(popup).font().pointSizeF(), 9.5);
+}
+
+TEST_F(cPopupWidgetTest, AFontSizeThatNobodyCanReadIsRaised) {
+    cPopupWidget& popup = Make();
+    popup.SetLabelFont("MS Sans Serif", 0);
+    EXPECT_EQ(Label(popup).font().pointSizeF(), 5);
+    popup.SetLabelFont("MS Sans Serif", -8);
+    EXPECT_EQ(Label(popup).font().pointSizeF(), 5);
+}
+
+TEST_F(cPopupWidgetTest, TheLabelGoesWhereItIsPutAndRefusesNegativeSizes) {
+    cPopupWidget& popup = Make();
+    popup.SetLabelTop(150);
+    popup.SetLabelLeft(300);
+    popup.SetLabelWidth(1500);
+    popup.SetLabelHeight(600);
+    EXPECT_EQ(Label(popup).geometry(), QRect(20, 10, 100, 40));
+    EXPECT_THROW(popup.SetLabelWidth(-1), cFailure);
+    EXPECT_THROW(popup.SetLabelHeight(-1), cFailure);
+    EXPECT_EQ(Label(popup).geometry(), QRect(20, 10, 100, 40));
+}
+
+TEST_F(cPopupWidgetTest, TellsOfItsResizes) {
+    cPopupWidget& popup = Make();
+    int resizes = 0;
+    popup.OnResize = [&] { ++resizes; };
+    popup.Show();
+    m_Maker.Stack().Apply();
+    EXPECT_GT(resizes, 0);
+    resizes = 0;
+    popup.SetWidth(9000);
+    EXPECT_EQ(resizes, 1);
+    EXPECT_EQ(popup.Width(), 9000);
+}
+
+TEST_F(cPopupWidgetTest, StaysLargeEnoughToBeSeen) {
+    cPopupWidget& popup = Make();
+    popup.SetWidth(0);
+    popup.SetHeight(0);
+    EXPECT_EQ(popup.size(), QSize(120, 40));
+}
+
+// --- closing
+
+TEST_F(cPopupWidgetTest, AClickOnThePictureIsTold) {
+    cPopupWidget& popup = MakeShown();
+    popup.SetPictureVisible(1, true);
+    int clicked = -1;
+    popup.OnPictureClick = [&](int picture) { clicked = picture; };
+    QTest::mouseClick(&Picture(popup, 1), Qt::RightButton);
+    EXPECT_EQ(clicked, -1);
+    QTest::mouseClick(&Picture(popup, 1), Qt::LeftButton);
+    EXPECT_EQ(clicked, 1);
+}
+
+TEST_F(cPopupWidgetTest, TheLabelTakesNoClick) {
+    cPopupWidget& popup = MakeShown();
+    popup.OnPictureClick = [](int) { FAIL(); };
+    QTest::mouseClick(Label(popup).viewport(), Qt::LeftButton);
+    EXPECT_TRUE(m_Windows.Holds(popup));
+}
+
+TEST_F(cPopupWidgetTest, ThePictureWorksByKeyboardAndIgnoresAKeyHeldDown) {
+    cPopupWidget& popup = MakeShown();
+    popup.SetPictureVisible(3, true);
+    int clicks = 0;
+    popup.OnPictureClick = [&](int) { ++clicks; };
+    cPopupPicture& picture = Picture(popup, 3);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        QKeyEvent held(QEvent::KeyPress, key, Qt::NoModifier, "\r", true);
+        QCoreApplication::sendEvent(&picture, &held);
+    }
+    EXPECT_EQ(clicks, 0);
+    QTest::keyClick(&picture, Qt::Key_Return);
+    QTest::keyClick(&picture, Qt::Key_Enter);
+    QTest::keyClick(&picture, Qt::Key_Space);
+    EXPECT_EQ(clicks, 3);
+    QTest::keyClick(&picture, Qt::Key_Escape);
+    EXPECT_EQ(clicks, 3);
+}
+
+TEST_F(cPopupWidgetTest, TheKeyboardReachesTheTextFirstAndThenThePicture) {
+    cPopupWidget& popup = MakeShown();
+    popup.SetPictureVisible(0, true);
+    popup.activateWindow();
+    ASSERT_TRUE(WaitUntil([&] { return popup.isActiveWindow(); }));
+    EXPECT_EQ(popup.focusWidget(), &Label(popup));
+    QTest::keyClick(popup.focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(popup.focusWidget(), &Picture(popup, 0));
+}
+
+TEST_F(cPopupWidgetTest, AssistiveToolsFindAButtonWithAName) {
+    cPopupWidget& popup = MakeShown();
+    popup.SetPictureVisible(1, true);
+    QAccessibleInterface* picture = QAccessible::queryAccessibleInterface(&Picture(popup, 1));
+    ASSERT_NE(picture, nullptr);
+    EXPECT_EQ(picture->role(), QAccessible::Button);
+    EXPECT_EQ(picture->text(QAccessible::Name), "Active, close");
+    popup.SetLabelText("Pump 1");
+    QAccessibleInterface* label = QAccessible::queryAccessibleInterface(&Label(popup));
+    ASSERT_NE(label, nullptr);
+    EXPECT_EQ(label->text(QAccessible::Name), "Alarm");
+    ASSERT_NE(label->textInterface(), nullptr);
+    EXPECT_EQ(label->textInterface()->text(0, label->textInterface()->characterCount()), "Pump 1");
+}
+
+// The reasons that the close query is given, in order.
+class cCloseReasons {
+  public:
+    explicit cCloseReasons(cPopupWidget& popup) {
+        popup.OnQueryUnload = [this](eCloseReason reason) {
+            m_Text += std::to_string(static_cast<int>(reason)) + " ";
+            return m_Allow;
+        };
+        popup.OnUnload = [this] { m_Text += "unload "; };
+    }
+    std::string m_Text;
+    bool m_Allow = true;
+};
+
+// Whether the popup let itself be closed.
+bool CloseByWindowManager(cPopupWidget& popup) {
+    QCloseEvent event;
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    qApp->notify(&popup, &event);
+    return event.isAccepted();
+}
+
+TEST_F(cPopupWidgetTest, AClosedPopupIsGoneAtTheNextTurnOfTheLoop) {
+    cPopupWidget& popup = MakeShown();
+    const QPointer<QWidget> widget(&popup);
+    const cCloseReasons reasons(popup);
+    popup.OnUnload = [&] { EXPECT_TRUE(m_Windows.Holds(popup)); };
+    popup.Close();
+    EXPECT_EQ(reasons.m_Text, "1 ");
+    EXPECT_TRUE(m_Windows.OpenWindows().empty());
+    EXPECT_FALSE(popup.isVisible());
+    EXPECT_TRUE(WaitUntil([&] { return widget.isNull(); }));
+}
+
+TEST_F(cPopupWidgetTest, ACloseByTheWindowManagerHasReason0) {
+    cPopupWidget& popup = MakeShown();
+    const cCloseReasons reasons(popup);
+    EXPECT_TRUE(CloseByWindowManager(popup));
+    EXPECT_EQ(reasons.m_Text, "0 unload ");
+}
+
+TEST_F(cPopupWidgetTest, ACloseByTheEndOfTheDesktopSessionHasReason2) {
+    cPopupWidget& popup = MakeShown();
+    const cCloseReasons reasons(popup);
+    QApplication::closeAllWindows();
+    EXPECT_EQ(reasons.m_Text, "2 unload ");
+}
+
+TEST_F(cPopupWidgetTest, AltF4ClosesAsTheWindowsOwnControlDoes) {
+    cPopupWidget& popup = MakeShown();
+    const cCloseReasons reasons(popup);
+    QTest::keyClick(&Label(popup), Qt::Key_F4);
+    EXPECT_EQ(reasons.m_Text, "");
+    QTest::keyClick(&Label(popup), Qt::Key_F4, Qt::AltModifier);
+    EXPECT_EQ(reasons.m_Text, "0 unload ");
+    EXPECT_FALSE(popup.isVisible());
+}
+
+TEST_F(cPopupWidgetTest, ARefusedCloseLeavesThePopup) {
+    cPopupWidget& popup = MakeShown();
+    cCloseReasons reasons(popup);
+    reasons.m_Allow = false;
+    EXPECT_THROW(popup.Close(), cFailure);
+    EXPECT_FALSE(CloseByWindowManager(popup));
+    EXPECT_EQ(reasons.m_Text, "1 0 ");
+    EXPECT_TRUE(popup.isVisible());
+    EXPECT_TRUE(m_Windows.Holds(popup));
+}
+
+TEST_F(cPopupWidgetTest, AHiddenPopupCloses) {
+    cPopupWidget& popup = Make();
+    const cCloseReasons reasons(popup);
+    popup.Close();
+    EXPECT_EQ(reasons.m_Text, "1 unload ");
+    EXPECT_TRUE(m_Windows.OpenWindows().empty());
+}
+
+// --- what reaches the screen
+
+// Notes how often a widget is shown, and the area over which it was seen.
+class cScreenNotes : public QObject {
+  public:
+    explicit cScreenNotes(QWidget& widget) : m_Widget(widget) { widget.installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Show) ++m_Shows;
+        if (m_Widget.isVisible()) m_Seen |= m_Widget.frameGeometry();
+        return false;
+    }
+    int m_Shows = 0;
+    QRect m_Seen;
+
+  private:
+    QWidget& m_Widget;
+};
+
+TEST_F(cPopupWidgetTest, APopupThatWasElsewhereForAMomentIsNeverSeenThere) {
+    cPopupWidget& popup = Make();
+    const cScreenNotes notes(popup);
+    popup.SetLeft(288000);
+    popup.SetTop(230400);
+    popup.Show();
+    EXPECT_TRUE(popup.Visible());
+    EXPECT_FALSE(popup.isVisible());
+    popup.SetLeft(1500);
+    popup.SetTop(3000);
+    EXPECT_EQ(popup.Left(), 1500);
+    EXPECT_EQ(popup.Top(), 3000);
+    ASSERT_TRUE(WaitUntil([&] { return popup.isVisible(); }));
+    RunEvents(30);
+    EXPECT_EQ(notes.m_Shows, 1);
+    EXPECT_EQ(popup.pos(), QPoint(100, 200));
+    const QRect place = popup.frameGeometry().adjusted(-2, -2, 2, 2);
+    EXPECT_TRUE(place.contains(notes.m_Seen));
+}
+
+TEST_F(cPopupWidgetTest, APopupThatWasShownForAMomentIsNeverSeen) {
+    cPopupWidget& popup = Make();
+    const cScreenNotes notes(popup);
+    popup.Show();
+    popup.Hide();
+    RunEvents(30);
+    EXPECT_EQ(notes.m_Shows, 0);
+    EXPECT_FALSE(popup.Visible());
+}
+
+TEST_F(cPopupWidgetTest, HideAndShowKeepPlaceAndSize) {
+    cPopupWidget& popup = MakeShown();
+    popup.SetLeft(3000);
+    popup.SetTop(1500);
+    popup.SetWidth(7500);
+    m_Maker.Stack().Apply();
+    popup.Hide();
+    m_Maker.Stack().Apply();
+    EXPECT_FALSE(popup.isVisible());
+    popup.Show();
+    m_Maker.Stack().Apply();
+    EXPECT_EQ(popup.Left(), 3000);
+    EXPECT_EQ(popup.Top(), 1500);
+    EXPECT_EQ(popup.Width(), 7500);
+}
+
+TEST_F(cPopupWidgetTest, APlaceOnNoScreenIsBroughtBack) {
+    cPopupWidget& popup = Make();
+    popup.SetLeft(300000);
+    popup.SetTop(300);
+    popup.Show();
+    m_Maker.Stack().Apply();
+    EXPECT_TRUE(QGuiApplication::primaryScreen()->geometry().contains(popup.frameGeometry().center()));
+}
+
+TEST_F(cPopupWidgetTest, NewPopupsStandOnAStairThatStaysOnTheScreen) {
+    const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+    double last = 0;
+    int fresh = 0;
+    for (int i = 0; i < 60; ++i) {
+        cPopupWidget& popup = Make();
+        EXPECT_TRUE(
+            room.contains(QRect(QPoint(ToPixels(popup.Left()), ToPixels(popup.Top())), popup.size())));
+        if (popup.Left() < last) ++fresh;
+        last = popup.Left();
+    }
+    EXPECT_GE(fresh, 1);
+}
+
+TEST_F(cPopupWidgetTest, TopmostIsAskedOfTheWindowSystem) {
+    cPopupWidget& popup = Make();
+    popup.SetTopMost(true);
+    popup.Show();
+    m_Maker.Stack().Apply();
+    EXPECT_TRUE(popup.windowHandle()->flags() & Qt::WindowStaysOnTopHint);
+    const WId id = popup.windowHandle()->winId();
+    popup.SetTopMost(false);
+    EXPECT_FALSE(popup.windowHandle()->flags() & Qt::WindowStaysOnTopHint);
+    EXPECT_EQ(popup.windowHandle()->winId(), id);
+    EXPECT_TRUE(popup.testAttribute(Qt::WA_ShowWithoutActivating));
+}
+
+// --- the whole
+
+class cPopupScreen : public ::testing::Test, protected cPopupStation {
+  protected:
+    cPopupWidget& Show(const std::string& category, std::int16_t status = StatusActive) {
+        m_Clock.AddSeconds(1);
+        m_Popups.ShowPopup(Alarm(category, status));
+        m_Maker.Stack().Apply();
+        auto* popup = dynamic_cast<cPopupWidget*>(m_Windows.OpenWindows().back());
+        m_Shown.emplace_back(popup);
+        return *popup;
+    }
+    // The numbers of the popups that show, the uppermost first.
+    std::string Stacked() {
+        m_Maker.Stack().Apply();
+        std::string text;
+        for (const cPopupWidget* popup : m_Maker.Stack().Order()) {
+            for (std::size_t i = 0; i < m_Shown.size(); ++i) {
+                if (m_Shown[i] == popup && popup->isVisible()) text += std::to_string(i + 1);
+            }
+        }
+        return text;
+    }
+
+    cOpenWindows m_Windows;
+    cPopupWidgetMaker m_Maker{m_Windows};
+    cPopups m_Popups{Services(m_Windows, m_Maker)};
+    std::vector<QPointer<cPopupWidget>> m_Shown;
+};
+
+TEST_F(cPopupScreen, AnAlarmShowsWithItsTextPictureAndPlace) {
+    Configure("X_Size=500\nY_Size=120\nWindowPosition=STATIC\nX_Start=30\nY_Start=40\nFontSize=11\n");
+    m_Setting = Setting("BackColor_Active=255,0,0\nForeColor_Active=255,255,255\nEventPopupFormat=F\n");
+    cPopupWidget& popup = Show("C");
+    EXPECT_EQ(popup.windowTitle(), "Title (Plant)");
+    EXPECT_EQ(popup.findChild<QPlainTextEdit*>("Label_Alarm")->toPlainText(), "Alarm 1/F/");
+    EXPECT_TRUE(popup.findChild<QWidget*>("Picture_Alarm_1")->isVisible());
+    EXPECT_FALSE(popup.findChild<QWidget*>("Picture_Alarm_0")->isVisible());
+    EXPECT_EQ(popup.pos(), QPoint(30, 40));
+    EXPECT_EQ(popup.Width(), 7500);
+    EXPECT_EQ(popup.Height(), 1800);
+    EXPECT_EQ(popup.frameGeometry().size(), QSize(500, 120));
+    const QRect label = popup.findChild<QWidget*>("Label_Alarm")->geometry();
+    EXPECT_EQ(label.topLeft(), QPoint(45, 7));
+    EXPECT_NEAR(label.right(), popup.width(), 2);
+    EXPECT_NEAR(label.bottom(), popup.height(), 2);
+}
+
+TEST_F(cPopupScreen, SixPopupsStandInTheirOrder) {
+    m_Settings.m_PopupFormTopMostCategory = "A,B";
+    for (const char* category : {"X", "B", "A", "B", "A", "Y"}) Show(category);
+    EXPECT_EQ(Stacked(), "536421");
+}
+
+TEST_F(cPopupScreen, OneOfSixShowsAndTheNextComesWithEachClick) {
+    m_Settings.m_PopupFormTopMostCategory = "A,B";
+    m_Settings.m_ViewOnlyOnePopupForm = true;
+    m_Settings.m_AckEventWhenPopupFormIsClosed = true;
+    for (const char* category : {"X", "B", "A", "B", "A", "Y"}) Show(category);
+    std::string seen;
+    while (m_State.m_PopupFormCount > 0) {
+        const std::string shown = Stacked();
+        ASSERT_EQ(shown.size(), 1u);
+        seen += shown;
+        const auto index = static_cast<std::size_t>(shown[0] - '1');
+        QTest::mouseClick(m_Shown[index]->findChild<QWidget*>("Picture_Alarm_1"), Qt::LeftButton);
+    }
+    EXPECT_EQ(seen, "352416");
+    EXPECT_EQ(m_Transcript.Text(),
+              "acknowledge Alarm 3\nacknowledge Alarm 5\nacknowledge Alarm 2\n"
+              "acknowledge Alarm 4\nacknowledge Alarm 1\nacknowledge Alarm 6\n");
+}
+
+TEST_F(cPopupScreen, AllAreClosedAtOnce) {
+    for (int i = 0; i < 6; ++i) Show("C");
+    m_Popups.ClosePopups();
+    EXPECT_EQ(m_State.m_PopupFormCount, 0);
+    EXPECT_TRUE(m_Windows.OpenWindows().empty());
+    EXPECT_EQ(Stacked(), "");
+    EXPECT_TRUE(WaitUntil([&] { return m_Shown[5].isNull(); }));
+}
+
+TEST_F(cPopupScreen, AMinimisedPopupComesBackWhenItIsNext) {
+    cPopupWidget& first = Show("C");
+    cPopupWidget& second = Show("C");
+    first.showMinimized();
+    EXPECT_EQ(first.State(), eWindowState::Minimised);
+    second.Close();
+    EXPECT_EQ(first.State(), eWindowState::Normal);
+}
+
+}  // namespace
+}  // namespace vigrel::testing

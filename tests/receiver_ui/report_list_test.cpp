@@ -1,0 +1,650 @@
+#include "receiver_ui/list/qt_report_list.h"
+
+#include <gtest/gtest.h>
+
+#include <QMenu>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+#include <random>
+
+#include "adapters/qt/qt_text.h"
+#include "contract/report_list_contract.h"
+#include "support/fake_report_list.h"
+#include "support/qt_wait.h"
+#include "windows/colours.h"
+
+namespace vigrel::testing {
+namespace {
+
+class cQtReportListRig {
+  public:
+    cReportList& List() { return m_List; }
+
+  private:
+    cIconStrip m_Icons;
+    cQtReportList m_List{nullptr, m_Icons};
+};
+
+INSTANTIATE_TYPED_TEST_SUITE_P(Qt, ReportListContract, cQtReportListRig);
+
+// A list of three columns (an icon, a text, the hidden time stamp) that shows 20 rows or so.
+class cReportListTest : public ::testing::Test {
+  protected:
+    cReportListTest() {
+        m_List.AddColumn("State", 50);
+        m_List.AddColumn("Text", 300);
+        m_List.AddColumn("CreatedTimeStamp", 0);
+        m_List.OnRowHeight = [] { return 21; };
+        m_List.SetFont("Arial", 12);
+        m_List.View().resize(600, 450);
+        m_List.View().show();
+        m_List.View().activateWindow();
+        m_List.View().setFocus();
+        EXPECT_TRUE(WaitUntil([this] { return m_List.View().hasFocus(); }));
+    }
+    RecordId Add(const std::string& text, double created) {
+        const RecordId record = m_List.AddRecord(nullptr);
+        for (int i = 0; i < 3; ++i) m_List.AddItem(record);
+        m_List.SetItemValue(record, 0, std::string("1"));
+        m_List.SetItemIcon(record, 0, 999);  // a number without picture
+        m_List.SetItemValue(record, 1, text);
+        m_List.SetItemCaption(record, 1, text);
+        m_List.SetItemColours(record, 1, 0xFFFFFF, 0x0000FF);  // white on red
+        m_List.SetItemValue(record, 2, created);
+        return record;
+    }
+    // What the intake does with each alarm.
+    RecordId Arrive(const std::string& text, double created) {
+        const RecordId record = Add(text, created);
+        m_List.TakeOverRecords();
+        m_List.SelectAndShow(record);
+        m_List.ClearSelection();
+        return record;
+    }
+    void Fill(int count) {
+        m_List.ClearSortOrder();
+        m_List.AddSortColumn(2, true);
+        for (int i = 0; i < count; ++i) m_Records.push_back(Add("alarm " + std::to_string(i), i));
+        m_List.TakeOverRecords();
+        m_List.Rows();
+    }
+    QTableView& View() { return m_List.View(); }
+    QModelIndex Cell(int row, int column) { return View().model()->index(row, column); }
+    QPoint Middle(int row, int column) { return View().visualRect(Cell(row, column)).center(); }
+    QString Text(int row, int column) { return Cell(row, column).data().toString(); }
+    void ClickHeader(int column) {
+        QHeaderView* header = View().horizontalHeader();
+        const QPoint middle(header->sectionViewportPosition(column) + header->sectionSize(column) / 2,
+                            header->height() / 2);
+        QTest::mouseClick(header->viewport(), Qt::LeftButton, Qt::NoModifier, middle);
+    }
+
+    cIconStrip m_Icons;
+    cQtReportList m_List{nullptr, m_Icons};
+    std::vector<RecordId> m_Records;
+};
+
+// --- flush
+
+TEST_F(cReportListTest, ABurstOfArrivalsIsPaintedOnceAndStandsWithinTheFlushTime) {
+    Fill(1);
+    RunEvents(cQtReportList::kFlushMilliseconds + 10);
+    QSignalSpy inserted(View().model(), &QAbstractItemModel::rowsInserted);
+    for (int i = 0; i < 500; ++i) Arrive("burst", 1000 + i);
+    EXPECT_EQ(View().model()->rowCount(), 1);
+    EXPECT_TRUE(WaitUntil([&] { return View().model()->rowCount() == 501; }, 200));
+    EXPECT_EQ(inserted.count(), 1);
+}
+
+TEST_F(cReportListTest, ALoneArrivalShowsAtTheNextTurnOfTheLoop) {
+    Fill(1);
+    RunEvents(cQtReportList::kFlushMilliseconds + 10);
+    Arrive("lone", 1000);
+    QCoreApplication::processEvents();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(View().model()->rowCount(), 2);
+}
+
+TEST_F(cReportListTest, AnArrivalIsScrolledIntoView) {
+    Fill(200);
+    RunEvents(60);
+    EXPECT_EQ(View().verticalScrollBar()->value(), 0);
+    Arrive("last", 1000);
+    RunEvents(100);
+    EXPECT_TRUE(View().viewport()->rect().contains(View().visualRect(Cell(200, 1))));
+    EXPECT_TRUE(m_List.SelectedRows().empty());
+}
+
+TEST_F(cReportListTest, ScrollingToAnArrivalLeavesTheColumnsWhereTheyAre) {
+    m_List.SetColumnWidth(1, 2000);
+    Fill(200);
+    RunEvents(60);
+    View().horizontalScrollBar()->setValue(300);
+    Arrive("last", 1000);
+    RunEvents(100);
+    EXPECT_EQ(View().horizontalScrollBar()->value(), 300);
+}
+
+TEST_F(cReportListTest, TheNewestRowStandsOnTopOfADescendingList) {
+    Fill(50);
+    m_List.ClearSortOrder();
+    m_List.AddSortColumn(2, false);
+    const RecordId newest = Arrive("newest", 1000);
+    EXPECT_EQ(m_List.Rows().front(), newest);
+    EXPECT_EQ(Text(0, 1), "newest");
+}
+
+// --- columns
+
+TEST_F(cReportListTest, AColumnOfWidth0DoesNotShow) {
+    QHeaderView* header = View().horizontalHeader();
+    EXPECT_TRUE(header->isSectionHidden(2));
+    EXPECT_EQ(header->length(), 350);
+    m_List.SetColumnWidth(2, 40);
+    EXPECT_FALSE(header->isSectionHidden(2));
+    m_List.SetColumnWidth(2, 0);
+    EXPECT_TRUE(header->isSectionHidden(2));
+}
+
+TEST_F(cReportListTest, HeadersCarryTheColumnsCaptionsAndPlacement) {
+    m_List.AddColumn("\xC5tg\xE4rd", 80);
+    m_List.SetColumnPlacement(3, 1, 1);
+    QAbstractItemModel* model = View().model();
+    EXPECT_EQ(model->headerData(3, Qt::Horizontal, Qt::DisplayRole).toString(), QString::fromUtf8("Åtgärd"));
+    const auto alignment = [&](int column) {
+        return model->headerData(column, Qt::Horizontal, Qt::TextAlignmentRole).value<Qt::Alignment>();
+    };
+    EXPECT_TRUE(alignment(3).testFlag(Qt::AlignHCenter));
+    EXPECT_TRUE(alignment(1).testFlag(Qt::AlignLeft));
+}
+
+class cReportListResizeTest : public cReportListTest {
+  protected:
+    cReportListResizeTest() {
+        m_List.OnColumnWidthChanged = [this](int column) { m_Told.push_back(column); };
+    }
+    // Takes hold of the right edge of a column and moves it in steps of ten pixels.
+    void Drag(int column, int steps) {
+        QHeaderView* header = View().horizontalHeader();
+        QWidget* viewport = header->viewport();
+        QPoint edge(header->sectionViewportPosition(column) + header->sectionSize(column) - 1,
+                    header->height() / 2);
+        QTest::mouseMove(viewport, edge);
+        QTest::mousePress(viewport, Qt::LeftButton, Qt::NoModifier, edge);
+        for (int i = 0; i < std::abs(steps); ++i) {
+            edge.rx() += steps > 0 ? 10 : -10;
+            QMouseEvent move(QEvent::MouseMove, edge, viewport->mapToGlobal(edge), Qt::NoButton,
+                             Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(viewport, &move);
+        }
+        EXPECT_TRUE(m_Told.empty()) << "told before the mouse was let go";
+        QTest::mouseRelease(viewport, Qt::LeftButton, Qt::NoModifier, edge);
+    }
+    std::vector<int> m_Told;
+};
+
+TEST_F(cReportListResizeTest, ADraggedWidthIsToldOnceWhenTheMouseIsLetGo) {
+    Drag(1, 5);
+    EXPECT_EQ(m_Told, std::vector<int>{1});
+    EXPECT_EQ(m_List.ColumnWidth(1), 350);
+}
+
+TEST_F(cReportListResizeTest, AColumnCannotBeDraggedOutOfReach) {
+    Drag(0, -20);
+    EXPECT_GE(m_List.ColumnWidth(0), 8);
+}
+
+TEST_F(cReportListResizeTest, AFixedColumnDoesNotFollowTheMouse) {
+    m_List.SetColumnResizable(1, false);
+    Drag(1, 5);
+    EXPECT_TRUE(m_Told.empty());
+    EXPECT_EQ(m_List.ColumnWidth(1), 300);
+}
+
+TEST_F(cReportListResizeTest, ShowingAndResizingTheWindowChangesNoWidth) {
+    View().resize(900, 500);
+    RunEvents(20);
+    View().hide();
+    View().show();
+    RunEvents(20);
+    EXPECT_TRUE(m_Told.empty());
+}
+
+TEST_F(cReportListResizeTest, CtrlWithPlusAndMinusResizesTheColumnThatSorts) {
+    QTest::keyClick(&View(), Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_TRUE(m_Told.empty());  // none sorts yet
+    QTest::keyClick(&View(), Qt::Key_2, Qt::ControlModifier);
+    QTest::keyClick(&View(), Qt::Key_Plus, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(m_List.ColumnWidth(1), 320);
+    QTest::keyClick(&View(), Qt::Key_Minus, Qt::ControlModifier);
+    QTest::keyClick(&View(), Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ(m_List.ColumnWidth(1), 280);
+    EXPECT_EQ(m_Told, (std::vector<int>{1, 1, 1}));
+    m_List.SetColumnResizable(1, false);
+    QTest::keyClick(&View(), Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_EQ(m_List.ColumnWidth(1), 280);
+}
+
+TEST_F(cReportListResizeTest, AColumnCannotBeMadeUnreachableByKeys) {
+    QTest::keyClick(&View(), Qt::Key_1, Qt::ControlModifier);
+    for (int i = 0; i < 10; ++i) QTest::keyClick(&View(), Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ(m_List.ColumnWidth(0), 8);
+}
+
+// --- sorting by the headers
+
+TEST_F(cReportListTest, CtrlWithADigitSortsByTheColumnThatShowsThereAndTurnsTheOrder) {
+    const RecordId b = Add("b", 1), a = Add("a", 2);
+    m_List.TakeOverRecords();
+    m_List.Rows();
+    QTest::keyClick(&View(), Qt::Key_2, Qt::ControlModifier);
+    EXPECT_EQ(m_List.Rows(), (std::vector<RecordId>{a, b}));
+    QTest::keyClick(&View(), Qt::Key_2, Qt::ControlModifier | Qt::KeypadModifier);
+    EXPECT_EQ(m_List.Rows(), (std::vector<RecordId>{b, a}));
+    m_List.SetColumnWidth(0, 0);
+    QTest::keyClick(&View(), Qt::Key_1, Qt::ControlModifier);  // the text is the first that shows now
+    EXPECT_EQ(m_List.Rows(), (std::vector<RecordId>{a, b}));
+    for (const Qt::Key key : {Qt::Key_2, Qt::Key_9, Qt::Key_0}) {
+        QTest::keyClick(&View(), key, Qt::ControlModifier);  // no such column
+        EXPECT_EQ(m_List.Rows(), (std::vector<RecordId>{a, b}));
+    }
+    m_List.SetColumnSortable(1, false);
+    QTest::keyClick(&View(), Qt::Key_1, Qt::ControlModifier);
+    EXPECT_EQ(m_List.Rows(), (std::vector<RecordId>{a, b}));
+}
+
+TEST_F(cReportListTest, AClickOnAHeaderSortsByItAndASecondClickTurnsTheOrder) {
+    const RecordId b = Add("b", 1), a = Add("a", 2);
+    m_List.TakeOverRecords();
+    m_List.Rows();
+    ClickHeader(1);
+    EXPECT_EQ(m_List.Rows(), (std::vector<RecordId>{a, b}));
+    EXPECT_TRUE(View().horizontalHeader()->isSortIndicatorShown());
+    EXPECT_EQ(View().horizontalHeader()->sortIndicatorSection(), 1);
+    EXPECT_EQ(View().horizontalHeader()->sortIndicatorOrder(), Qt::AscendingOrder);
+    ClickHeader(1);
+    EXPECT_EQ(m_List.Rows(), (std::vector<RecordId>{b, a}));
+    EXPECT_EQ(View().horizontalHeader()->sortIndicatorOrder(), Qt::DescendingOrder);
+}
+
+TEST_F(cReportListTest, TheOperatorsOrderSurvivesNewAlarms) {
+    Fill(3);
+    ClickHeader(1);
+    const RecordId first = Arrive("aaa", 1000);
+    EXPECT_EQ(m_List.Rows().front(), first);
+    EXPECT_EQ(View().horizontalHeader()->sortIndicatorSection(), 1);
+}
+
+TEST_F(cReportListTest, AListThatIsNotSortableIgnoresClicks) {
+    Fill(3);
+    for (int column = 0; column < 3; ++column) m_List.SetColumnSortable(column, false);
+    const auto rows = m_List.Rows();
+    ClickHeader(1);
+    ClickHeader(1);
+    EXPECT_EQ(m_List.Rows(), rows);
+    EXPECT_NE(View().horizontalHeader()->sortIndicatorSection(), 1);
+    EXPECT_FALSE(View().horizontalHeader()->sectionsClickable());
+}
+
+TEST_F(cReportListTest, AColumnThatIsNotSortableLeavesOrderAndMarkAlone) {
+    Fill(3);
+    m_List.SetColumnSortable(0, false);
+    ClickHeader(1);
+    const auto rows = m_List.Rows();
+    ClickHeader(0);
+    EXPECT_EQ(m_List.Rows(), rows);
+    EXPECT_EQ(View().horizontalHeader()->sortIndicatorSection(), 1);
+}
+
+TEST_F(cReportListTest, SortingByAClickTakesNothingOver) {
+    Fill(2);
+    Add("not taken over", 5);
+    ClickHeader(1);
+    EXPECT_EQ(m_List.Rows().size(), 2u);
+}
+
+// --- keys
+
+class cReportListKeyTest : public cReportListTest {
+  protected:
+    cReportListKeyTest() {
+        m_List.OnKeyDown = [this](int code, int shift) {
+            const bool shiftKey = code >= 16 && code <= 18;
+            if (!shiftKey) m_Keys.emplace_back(code, shift);
+        };
+        m_List.OnRowDoubleClick = [this](RecordId record) { m_Chosen.push_back(record); };
+        Fill(5);
+    }
+    using Keys = std::vector<std::pair<int, int>>;
+    Keys m_Keys;
+    std::vector<RecordId> m_Chosen;
+};
+
+TEST_F(cReportListKeyTest, KeysComeAsVirtualKeyCodesWithTheirShiftState) {
+    QTest::keyClick(&View(), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&View(), Qt::Key_C, Qt::ControlModifier);
+    QTest::keyClick(&View(), Qt::Key_Escape);
+    QTest::keyClick(&View(), Qt::Key_F9, Qt::ShiftModifier);
+    QTest::keyClick(&View(), Qt::Key_Down, Qt::AltModifier | Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(m_Keys, (Keys{{65, 2}, {67, 2}, {27, 0}, {120, 1}, {40, 7}}));
+}
+
+TEST_F(cReportListKeyTest, TheOwnersKeysHaveNoEffectOfTheToolkits) {
+    QTest::keyClick(&View(), Qt::Key_A, Qt::ControlModifier);
+    EXPECT_TRUE(m_List.SelectedRows().empty());
+    m_List.SelectAllRows();
+    QTest::keyClick(&View(), Qt::Key_Escape);
+    EXPECT_EQ(m_List.SelectedRows().size(), 5u);
+}
+
+TEST_F(cReportListKeyTest, TheArrowKeysMoveTheCurrentRow) {
+    View().setCurrentIndex(Cell(1, 1));
+    QTest::keyClick(&View(), Qt::Key_Down);
+    EXPECT_EQ(View().currentIndex().row(), 2);
+    EXPECT_EQ(m_List.SelectedRows(), std::vector<RecordId>{m_Records[2]});
+}
+
+TEST_F(cReportListKeyTest, EnterAndSpaceChooseTheCurrentRow) {
+    View().setCurrentIndex(Cell(3, 1));
+    QTest::keyClick(&View(), Qt::Key_Return);
+    QTest::keyClick(&View(), Qt::Key_Enter, Qt::KeypadModifier);
+    QTest::keyClick(&View(), Qt::Key_Space);
+    EXPECT_EQ(m_Chosen, std::vector<RecordId>(3, m_Records[3]));
+}
+
+TEST_F(cReportListKeyTest, AHeldEnterChoosesOnce) {
+    View().setCurrentIndex(Cell(3, 1));
+    QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+    QCoreApplication::sendEvent(&View(), &repeat);
+    EXPECT_TRUE(m_Chosen.empty());
+}
+
+TEST_F(cReportListKeyTest, EnterWithoutACurrentRowDoesNothing) {
+    QTest::keyClick(&View(), Qt::Key_Return);
+    EXPECT_TRUE(m_Chosen.empty());
+}
+
+TEST_F(cReportListKeyTest, EnterOnARowThatAnArrivalDeselectedDoesNothing) {
+    View().setCurrentIndex(Cell(3, 1));
+    m_List.ClearSelection();
+    ASSERT_TRUE(m_List.SelectedRows().empty());
+    QTest::keyClick(&View(), Qt::Key_Return);
+    QTest::keyClick(&View(), Qt::Key_Space);
+    EXPECT_TRUE(m_Chosen.empty());
+}
+
+TEST_F(cReportListKeyTest, EnterOnARowWhoseRecordHasJustGoneDoesNothing) {
+    View().setCurrentIndex(Cell(3, 1));
+    m_List.RemoveRecord(m_Records[3]);
+    QTest::keyClick(&View(), Qt::Key_Return);
+    EXPECT_TRUE(m_Chosen.empty());
+}
+
+// --- mouse
+
+TEST_F(cReportListKeyTest, ADoubleClickChoosesItsRow) {
+    QTest::mouseClick(View().viewport(), Qt::LeftButton, Qt::NoModifier, Middle(2, 1));
+    QTest::mouseDClick(View().viewport(), Qt::LeftButton, Qt::NoModifier, Middle(2, 1));
+    EXPECT_EQ(m_Chosen, std::vector<RecordId>{m_Records[2]});
+}
+
+TEST_F(cReportListKeyTest, ADoubleClickWithAnotherButtonChoosesNothing) {
+    QTest::mouseDClick(View().viewport(), Qt::RightButton, Qt::NoModifier, Middle(2, 1));
+    EXPECT_TRUE(m_Chosen.empty());
+}
+
+TEST_F(cReportListKeyTest, ARowThatSlipsUnderThePointerBetweenTheClicksIsNotChosen) {
+    const QPoint pointer = Middle(2, 1);
+    QTest::mouseClick(View().viewport(), Qt::LeftButton, Qt::NoModifier, pointer);
+    Add("in front", -1);
+    m_List.TakeOverRecords();
+    m_List.Rows();
+    QTest::mouseDClick(View().viewport(), Qt::LeftButton, Qt::NoModifier, pointer);
+    EXPECT_TRUE(m_Chosen.empty());
+}
+
+TEST_F(cReportListKeyTest, AClickSelectsTheWholeRow) {
+    QTest::mouseClick(View().viewport(), Qt::LeftButton, Qt::NoModifier, Middle(1, 1));
+    QTest::mouseClick(View().viewport(), Qt::LeftButton, Qt::ControlModifier, Middle(3, 0));
+    EXPECT_EQ(m_List.SelectedRows(), (std::vector<RecordId>{m_Records[1], m_Records[3]}));
+}
+
+// --- focus
+
+TEST_F(cReportListTest, LosingTheFocusIsTold) {
+    int told = 0;
+    m_List.OnFocusChange = [&] { ++told; };
+    QWidget other;
+    other.show();
+    QFocusEvent away(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+    QCoreApplication::sendEvent(&View(), &away);
+    EXPECT_EQ(told, 1);
+}
+
+TEST_F(cReportListTest, AMenuOfTheWindowDoesNotCountAsLosingTheFocus) {
+    int told = 0;
+    m_List.OnFocusChange = [&] { ++told; };
+    for (const Qt::FocusReason reason : {Qt::PopupFocusReason, Qt::MenuBarFocusReason}) {
+        QFocusEvent away(QEvent::FocusOut, reason);
+        QCoreApplication::sendEvent(&View(), &away);
+    }
+    EXPECT_EQ(told, 0);
+}
+
+// --- look
+
+TEST_F(cReportListTest, TheRowHeightIsAskedForWhenTheFontChanges) {
+    Fill(2);
+    EXPECT_EQ(View().visualRect(Cell(0, 1)).height(), 21);
+    m_List.OnRowHeight = [] { return 37; };
+    m_List.SetFont("Arial", 24);
+    EXPECT_EQ(View().visualRect(Cell(1, 1)).height(), 37);
+    EXPECT_EQ(View().horizontalHeader()->font().pointSizeF(), 24);
+}
+
+class cReportListPictureTest : public cReportListTest {
+  protected:
+    // The cell as it stands on the screen.
+    QImage Picture(int row, int column) {
+        RunEvents(60);
+        return View().viewport()->grab(View().visualRect(Cell(row, column))).toImage();
+    }
+    // How many pixels of the picture have about that colour.
+    static int Count(const QImage& image, QColor colour) {
+        int count = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                const QColor pixel = image.pixelColor(x, y);
+                count += std::abs(pixel.red() - colour.red()) + std::abs(pixel.green() - colour.green()) +
+                             std::abs(pixel.blue() - colour.blue()) <
+                         12;
+            }
+        }
+        return count;
+    }
+};
+
+TEST_F(cReportListPictureTest, AColouredCellIsDrawnInItsColours) {
+    Fill(2);
+    const QImage cell = Picture(0, 1);
+    EXPECT_GT(Count(cell, Qt::red), cell.width() * cell.height() / 2);
+    EXPECT_GT(Count(cell, Qt::white), 20);
+}
+
+TEST_F(cReportListPictureTest, ACellWithoutCaptionAndColoursShowsTheListsOwnColourAlone) {
+    Fill(2);
+    m_List.SetItemIcon(m_Records[1], 0, -1);
+    const QImage cell = Picture(1, 0);
+    EXPECT_EQ(Count(cell, View().palette().color(QPalette::Base)), cell.width() * (cell.height() - 1));
+}
+
+TEST_F(cReportListPictureTest, ACellWithIconShowsItsPicture) {
+    Fill(2);
+    m_List.SetItemIcon(m_Records[1], 0, 2);
+    m_List.Redraw();
+    EXPECT_NE(Picture(1, 0), Picture(0, 0));
+}
+
+TEST_F(cReportListPictureTest, ASelectedRowIsFramedOnEveryColour) {
+    Fill(2);
+    const QImage plain = Picture(1, 1);
+    m_List.SelectAndShow(m_Records[1]);
+    const QImage selected = Picture(1, 1);
+    EXPECT_GT(Count(selected, Qt::black), 2 * plain.width() - 10);
+    EXPECT_LT(Count(plain, Qt::black), plain.width());
+}
+
+TEST_F(cReportListPictureTest, TheRowOfTheKeysIsMarked) {
+    Fill(3);
+    const QImage plain = Picture(1, 1);
+    View().selectionModel()->setCurrentIndex(Cell(1, 1), QItemSelectionModel::NoUpdate);
+    EXPECT_NE(Picture(1, 1), plain);
+}
+
+TEST_F(cReportListPictureTest, BoldRowsAreDrawnBold) {
+    Fill(2);
+    const int plain = Count(Picture(1, 1), Qt::white);
+    std::vector<RecordId> asked;
+    m_List.OnBeforeDrawRow = [&](RecordId record, cReportList::cFontStyle& style) {
+        asked.push_back(record);
+        style.bold = record == m_Records[1];
+    };
+    m_List.Redraw();
+    EXPECT_GT(Count(Picture(1, 1), Qt::white), plain * 5 / 4);
+    EXPECT_NE(std::find(asked.begin(), asked.end(), m_Records[1]), asked.end());
+}
+
+TEST_F(cReportListPictureTest, TheListsOwnStyleIsWhereARowStartsFrom) {
+    Fill(1);
+    m_List.SetFontStyle(true, true);
+    bool bold = false, italic = false;
+    m_List.OnBeforeDrawRow = [&](RecordId, cReportList::cFontStyle& style) {
+        bold = style.bold;
+        italic = style.italic;
+    };
+    Picture(0, 1);
+    EXPECT_TRUE(bold);
+    EXPECT_TRUE(italic);
+}
+
+TEST_F(cReportListPictureTest, AnEmptyListShowsItsText) {
+    RunEvents(60);
+    const QImage blank = View().viewport()->grab().toImage();
+    m_List.SetEmptyText("(nothing to show)");
+    RunEvents(60);
+    EXPECT_NE(View().viewport()->grab().toImage(), blank);
+    Fill(1);
+    m_List.RemoveAllRecords();
+    RunEvents(60);
+    EXPECT_NE(View().viewport()->grab().toImage(), blank);
+}
+
+TEST_F(cReportListPictureTest, ARowOfARemovedRecordCanStillBePainted) {
+    Fill(3);
+    m_List.OnBeforeDrawRow = [&](RecordId record, cReportList::cFontStyle&) { m_List.RecordTag(record); };
+    m_List.RemoveRecord(m_Records[1]);
+    EXPECT_NO_THROW(View().viewport()->grab());
+    m_List.RemoveAllRecords();
+    EXPECT_NO_THROW(View().viewport()->grab());
+}
+
+TEST(LayoutCell, TheIconStandsInFrontOfTheText) {
+    const cCellLayout layout = LayoutCell(QRect(100, 50, 80, 21), 16, true, false);
+    EXPECT_EQ(layout.icon, QRect(104, 52, 16, 16));
+    EXPECT_EQ(layout.text, QRect(124, 50, 52, 21));
+}
+TEST(LayoutCell, AnIconAloneIsCentredInACentredColumn) {
+    const cCellLayout layout = LayoutCell(QRect(0, 0, 80, 20), 16, false, true);
+    EXPECT_EQ(layout.icon, QRect(32, 2, 16, 16));
+    EXPECT_TRUE(layout.text.isEmpty());
+}
+TEST(LayoutCell, WithoutIconTheTextHasTheCell) {
+    EXPECT_EQ(LayoutCell(QRect(0, 0, 80, 20), 0, true, false).text, QRect(4, 0, 72, 20));
+}
+TEST(ColourFromNumber, RedIsInTheLowByte) {
+    EXPECT_EQ(ColourFromNumber(0x0000FF), QColor(255, 0, 0));
+    EXPECT_EQ(ColourFromNumber(0x14C896), QColor(0x96, 0xC8, 0x14));
+}
+
+// --- assistive tools
+
+TEST_F(cReportListTest, ACellWithoutCaptionIsReadByItsValue) {
+    Fill(1);
+    EXPECT_EQ(Cell(0, 0).data(Qt::AccessibleTextRole).toString(), "1");
+    EXPECT_EQ(Cell(0, 1).data(Qt::AccessibleTextRole).toString(), "alarm 0");
+    EXPECT_EQ(Cell(0, 0).data(Qt::DisplayRole).toString(), "");
+}
+
+// --- against the fake
+
+// The list and the fake do the same at random; their answers never differ.
+TEST(ReportListAtRandom, AnswersAsTheFakeDoes) {
+    std::mt19937 random(20260315);
+    const auto dice = [&](int sides) { return static_cast<int>(random() % static_cast<unsigned>(sides)); };
+    const cIconStrip icons;
+    cQtReportList real(nullptr, icons);
+    cFakeReportList fake;
+    std::vector<RecordId> alive;
+    const auto both = [&](auto&& step) {
+        step(static_cast<cReportList&>(real));
+        step(static_cast<cReportList&>(fake));
+    };
+    both([](cReportList& list) { list.AddColumn("a", 10), list.AddColumn("b", 10); });
+    for (int step = 0; step < 4000; ++step) {
+        const RecordId some =
+            alive.empty() ? 0 : alive[static_cast<std::size_t>(dice(static_cast<int>(alive.size())))];
+        const int value = dice(30), column = dice(2);
+        switch (alive.empty() ? 0 : dice(12)) {
+            case 0:
+            case 1:
+            case 2:
+                alive.push_back(fake.AddRecord(nullptr));
+                ASSERT_EQ(real.AddRecord(nullptr), alive.back());
+                both([&](cReportList& list) {
+                    list.AddItem(alive.back()), list.AddItem(alive.back());
+                    list.SetItemValue(alive.back(), 0, static_cast<double>(value));
+                    list.SetItemValue(alive.back(), 1, std::string(1, static_cast<char>('a' + value % 5)));
+                });
+                break;
+            case 3:
+                both([&](cReportList& list) { list.RemoveRecord(some); });
+                std::erase(alive, some);
+                break;
+            case 4:
+                both([&](cReportList& list) { list.SetItemValue(some, column, static_cast<double>(value)); });
+                break;
+            case 5:
+                both([&](cReportList& list) { list.SelectAndShow(some); });
+                break;
+            case 6:
+                if (dice(10) == 0) both([](cReportList& list) { list.SelectAllRows(); });
+                break;
+            case 7:
+                if (dice(5) == 0) both([](cReportList& list) { list.ClearSelection(); });
+                break;
+            case 8:
+                if (dice(10) != 0) break;
+                both([&](cReportList& list) {
+                    list.ClearSortOrder();
+                    list.AddSortColumn(column, value % 2 == 0);
+                    list.TakeOverRecords();
+                });
+                break;
+            case 9:
+                if (dice(300) != 0) break;
+                both([](cReportList& list) { list.RemoveAllRecords(); });
+                alive.clear();
+                break;
+            default:
+                both([](cReportList& list) { list.TakeOverRecords(); });
+        }
+        if (dice(4) != 0) continue;
+        ASSERT_EQ(real.Rows(), fake.Rows()) << "at step " << step;
+        ASSERT_EQ(real.SelectedRows(), fake.SelectedRows()) << "at step " << step;
+    }
+    EXPECT_GT(alive.size(), 10u);
+}
+
+}  // namespace
+}  // namespace vigrel::testing
