@@ -10,7 +10,7 @@ class CalendarPage : public ::testing::Test, protected cEditorBench {
     QComboBox& Combo(const char* name) { return Find<QComboBox>(m_Page, name); }
     QString Month() { return Find<QLabel>(m_Page, "Text_Calendar_Month").text(); }
     std::int16_t Value(int year, int month, int day) {
-        return m_Page.Calendar().GetDayType(CalendarIndex(DateSerial(year, month, day)));
+        return m_Page.Editor().Calendar().GetDayType(CalendarIndex(DateSerial(year, month, day)));
     }
     static QPoint Cell(int column, int row) { return {30 + 40 * column + 20, 20 + 25 * row + 12}; }
     void Key(Qt::Key key) {
@@ -34,7 +34,7 @@ TEST_F(CalendarPage, ANewCalendarShowsTheMonthOfToday) {
 }
 
 TEST_F(CalendarPage, ADragPaintsTheChosenTypeInOneStepOfUndo) {
-    m_Page.ShowMonth(2026, 6);
+    m_Page.Editor().ShowMonth(2026, 6);
     Combo("Combo_Calendar_DayType").setCurrentIndex(8);
     Drag(View(), {Cell(0, 0), Cell(1, 0), Cell(2, 0)});
     for (int day = 1; day <= 4; ++day) EXPECT_EQ(Value(2026, 6, day), day < 4 ? 8 : 0);
@@ -51,14 +51,14 @@ TEST_F(CalendarPage, ADragPaintsTheChosenTypeInOneStepOfUndo) {
 }
 
 TEST_F(CalendarPage, WithoutAChosenTypeAPressPaintsNothing) {
-    m_Page.ShowMonth(2026, 6);
+    m_Page.Editor().ShowMonth(2026, 6);
     Drag(View(), {Cell(0, 0), Cell(1, 0)});
     EXPECT_FALSE(m_Page.IsDirty());
     EXPECT_EQ(Value(2026, 6, 1), 0);
 }
 
 TEST_F(CalendarPage, OnlyTheLeftButtonPaints) {
-    m_Page.ShowMonth(2026, 6);
+    m_Page.Editor().ShowMonth(2026, 6);
     Combo("Combo_Calendar_DayType").setCurrentIndex(8);
     Press(View(), Cell(0, 0), Qt::RightButton);
     Move(View(), Cell(1, 0));
@@ -69,7 +69,7 @@ TEST_F(CalendarPage, OnlyTheLeftButtonPaints) {
 TEST_F(CalendarPage, TheToolTipNamesDayTypeAndHoliday) {
     Combo("Combo_Calendar_Holidays").setCurrentIndex(Combo("Combo_Calendar_Holidays").findText("Sweden"));
     emit Combo("Combo_Calendar_Holidays").activated(0);
-    m_Page.ShowMonth(2026, 6);
+    m_Page.Editor().ShowMonth(2026, 6);
     Combo("Combo_Calendar_DayType").setCurrentIndex(9);
     Drag(View(), {Cell(5, 0)});
     Move(View(), Cell(4, 0));
@@ -79,14 +79,14 @@ TEST_F(CalendarPage, TheToolTipNamesDayTypeAndHoliday) {
 }
 
 TEST_F(CalendarPage, TheToolTipIsNeverThatOfTheMonthBefore) {
-    m_Page.ShowMonth(2026, 6);
+    m_Page.Editor().ShowMonth(2026, 6);
     Combo("Combo_Calendar_DayType").setCurrentIndex(9);
     Drag(View(), {Cell(5, 0)});
     Move(View(), Cell(5, 0));
     EXPECT_EQ(View().toolTip(), "Special day type 2");
-    m_Page.ShowMonth(2026, 9);
+    m_Page.Editor().ShowMonth(2026, 9);
     EXPECT_EQ(View().toolTip(), "");
-    m_Page.ShowMonth(2026, 6);
+    m_Page.Editor().ShowMonth(2026, 6);
     Move(View(), Cell(5, 0));
     EXPECT_EQ(View().toolTip(), "Special day type 2");
 }
@@ -94,13 +94,13 @@ TEST_F(CalendarPage, TheToolTipIsNeverThatOfTheMonthBefore) {
 TEST_F(CalendarPage, TheFirstDayHasItsToolTipWhenThePointerComesFirst) {
     Combo("Combo_Calendar_Holidays").setCurrentIndex(Combo("Combo_Calendar_Holidays").findText("Germany"));
     emit Combo("Combo_Calendar_Holidays").activated(0);
-    m_Page.ShowMonth(2026, 1);
+    m_Page.Editor().ShowMonth(2026, 1);
     Move(View(), Cell(3, 0));
     EXPECT_EQ(View().toolTip(), " (Neujahr)");
 }
 
 TEST_F(CalendarPage, AClickedDayHasItsNewTypeInTheToolTip) {
-    m_Page.ShowMonth(2026, 6);
+    m_Page.Editor().ShowMonth(2026, 6);
     Combo("Combo_Calendar_DayType").setCurrentIndex(8);
     Move(View(), Cell(2, 1));
     Press(View(), Cell(2, 1));
@@ -163,7 +163,7 @@ TEST_F(CalendarPage, KeysChooseADayAcrossMonthsAndPaintIt) {
 }
 
 TEST_F(CalendarPage, KeysGoOnFromTheDayThatWasClicked) {
-    m_Page.ShowMonth(2026, 6);
+    m_Page.Editor().ShowMonth(2026, 6);
     Combo("Combo_Calendar_DayType").setCurrentIndex(7);
     Drag(View(), {Cell(2, 1)});
     Drag(View(), {QPoint(5, 5)});
@@ -173,7 +173,7 @@ TEST_F(CalendarPage, KeysGoOnFromTheDayThatWasClicked) {
 }
 
 TEST_F(CalendarPage, KeysStopAtTheEndsOfTheCalendar) {
-    m_Page.ShowMonth(2000, 1);
+    m_Page.Editor().ShowMonth(2000, 1);
     for (int i = 0; i < 20; ++i) Key(Qt::Key_Left);
     Combo("Combo_Calendar_DayType").setCurrentIndex(7);
     Key(Qt::Key_Space);
@@ -185,7 +185,7 @@ TEST_F(CalendarPage, TheYearsHolidaysTakeTheChosenType) {
     Combo("Combo_Calendar_Holidays").setCurrentIndex(Combo("Combo_Calendar_Holidays").findText("Sweden"));
     emit Combo("Combo_Calendar_Holidays").activated(0);
     Combo("Combo_Calendar_DayType").setCurrentIndex(7);
-    m_Page.ShowMonth(2026, 5);
+    m_Page.Editor().ShowMonth(2026, 5);
     Choose(m_Page, "Menu_Calendar_HolidaysOfYear");
     EXPECT_EQ(Value(2026, 1, 6), 7);
     EXPECT_EQ(Value(2026, 5, 14), 7);
@@ -212,7 +212,7 @@ TEST_F(CalendarPage, WithoutACountryOrATypeNoHolidayIsPainted) {
 
 TEST_F(CalendarPage, TheTimeAxisIsThatOfTheChosenSchedule) {
     cSchedulePage& schedule = NewSchedule();
-    m_Page.ShowMonth(2026, 6);
+    m_Page.Editor().ShowMonth(2026, 6);
     auto& combo = Combo("Combo_Calendar_TimeSchedule");
     auto& check = Find<QCheckBox>(m_Page, "Check_Calendar_ShowTimeAxis");
     EXPECT_EQ(combo.count(), 2);
@@ -232,9 +232,9 @@ TEST_F(CalendarPage, TheTimeAxisIsThatOfTheChosenSchedule) {
 TEST_F(CalendarPage, AClosedScheduleIsLetGo) {
     NewSchedule();
     Combo("Combo_Calendar_TimeSchedule").setCurrentIndex(1);
-    ASSERT_NE(m_Page.Calendar().m_AssociatedTimeSchedule, nullptr);
+    ASSERT_NE(m_Page.Editor().Calendar().m_AssociatedTimeSchedule, nullptr);
     Choose(*m_Window, "Menu_Close");
-    EXPECT_EQ(m_Page.Calendar().m_AssociatedTimeSchedule, nullptr);
+    EXPECT_EQ(m_Page.Editor().Calendar().m_AssociatedTimeSchedule, nullptr);
     EXPECT_EQ(Combo("Combo_Calendar_TimeSchedule").count(), 1);
     EXPECT_FALSE(Find<QCheckBox>(m_Page, "Check_Calendar_ShowTimeAxis").isEnabled());
 }
@@ -244,7 +244,7 @@ TEST_F(CalendarPage, TheChosenScheduleStaysWhenAnotherIsOpenedOrRenamed) {
     Combo("Combo_Calendar_TimeSchedule").setCurrentIndex(1);
     NewSchedule();
     EXPECT_EQ(Combo("Combo_Calendar_TimeSchedule").currentText(), "Schedule 1");
-    EXPECT_EQ(m_Page.Calendar().m_AssociatedTimeSchedule, &schedule.Schedule());
+    EXPECT_EQ(m_Page.Editor().Calendar().m_AssociatedTimeSchedule, &schedule.Schedule());
     m_Prompts.m_Texts = {"/app/Office.sch"};
     EXPECT_TRUE(schedule.SaveAs());
     EXPECT_EQ(Combo("Combo_Calendar_TimeSchedule").currentText(), "Office.sch");

@@ -54,7 +54,7 @@ TEST_F(DefinitionsWindow, AScheduleIsSavedUnderANameAndReadAgain) {
 
 TEST_F(DefinitionsWindow, ACalendarIsTheFileOf29220Bytes) {
     cCalendarPage& page = NewCalendar();
-    page.ShowMonth(2000, 1);
+    page.Editor().ShowMonth(2000, 1);
     Find<QComboBox>(page, "Combo_Calendar_DayType").setCurrentIndex(9);
     Drag(Find<QWidget>(page, "Picture_Calendar"), {QPoint(30 + 5 * 40 + 20, 32)});
     m_Prompts.m_Texts = {"/app/Site.cal"};
@@ -275,20 +275,23 @@ class cOtherPage : public cEditorPage {
     bool m_Dirty = true;
 };
 
-TEST_F(DefinitionsWindow, APageInsideAnotherIsHeardAsWell) {
+TEST_F(DefinitionsWindow, TheEditorsInsideAProfileAreHeardAsWell) {
     cCalendarPage& calendar = NewCalendar();
-    auto* page = new cOtherPage;
-    auto* part = new cSchedulePage(m_Services, "Part", page);
-    m_Window->AddPage(page);
-    emit part->Message("There is no gap.");
+    m_Files.Put("/app/Profiles/Profile_0012.dat", Sample("profile_version_5.dat"));
+    m_Window->ShowProfiles();
+    cEditorPage& profiles = *m_Window->CurrentPage();
+    auto* schedule = profiles.findChild<cScheduleEditor*>();
+    ASSERT_NE(schedule, nullptr);
+    emit schedule->Message("There is no gap.");
     EXPECT_EQ(m_Window->statusBar()->currentMessage(), "There is no gap.");
     m_Services.m_DayTypeNames.Rename(22, "Lucia");
-    emit part->DayTypesChanged();
+    emit schedule->DayTypesChanged();
     EXPECT_EQ(Find<QComboBox>(calendar, "Combo_Calendar_DayType").itemText(23), "Lucia");
-    m_Files.Put("/app/Part.sch", Sample("schedule.dat"));
-    part->Open("/app/Part.sch");
-    EXPECT_EQ(Recent().first(), "/app/Part.sch");
-    page->m_Dirty = false;
+    m_Files.Put("/app/Site.cal", Sample("calendar.dat"));
+    auto* document = profiles.findChild<cFileDocument*>();
+    ASSERT_NE(document, nullptr);
+    EXPECT_TRUE(document->Open("/app/Site.cal"));
+    EXPECT_EQ(Recent().first(), "/app/Site.cal");
 }
 
 TEST_F(DefinitionsWindow, APageWithoutFileOrUndoIsSavedAndClosedLikeTheOthers) {

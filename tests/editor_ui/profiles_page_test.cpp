@@ -12,9 +12,9 @@
 #include <QTabWidget>
 #include <QUndoStack>
 
-#include "editor_ui/calendar/calendar_page.h"
+#include "editor_ui/calendar/calendar_editor.h"
 #include "editor_ui/page_fixture.h"
-#include "editor_ui/records/profile_schedule.h"
+#include "editor_ui/pages/file_document.h"
 
 namespace vigrel {
 namespace {
@@ -52,14 +52,13 @@ class ProfilesPage : public PageTest {
         return menu->actions();
     }
     // Gives one day of a calendar another type, by mouse.
-    static void MarkADay(cCalendarPage& calendar) {
+    static void MarkADay(cCalendarEditor& calendar) {
         calendar.ShowMonth(2026, 6);
         Find<QComboBox>(calendar, "Combo_Calendar_DayType")->setCurrentIndex(8);
         auto* view = Find<QWidget>(calendar, "Picture_Calendar");
         QTest::mouseClick(view, Qt::LeftButton, {}, QPoint(50, 32));
     }
     cProfile& Shown() { return m_Station.Profiles().At(static_cast<std::size_t>(Page().Chosen())); }
-    cProfileSchedule& Schedule() { return *Page().findChild<cProfileSchedule*>(); }
 
     std::unique_ptr<cProfilesPage> m_Page;
 };
@@ -233,12 +232,13 @@ TEST_F(ProfilesPage, AnotherCalendarIsOpenedOnlyWhenTheChangedOneIsSavedOrGivenU
     Put("Calendar.cal", empty);
     Put("Other.cal", other);
     ShowTab(4);
-    cCalendarPage& calendar = *Page().findChild<cCalendarPage*>();
+    cCalendarEditor& editor = *Page().findChild<cCalendarEditor*>();
+    cFileDocument& calendar = *Page().findChild<cFileDocument*>();
     for (const eSave answer : {eSave::Cancel, eSave::Save, eSave::Discard}) {
         const bool saved = answer == eSave::Save;
         Put("Calendar.cal", empty);
         ASSERT_TRUE(calendar.Open(Path("Calendar.cal")));
-        MarkADay(calendar);
+        MarkADay(editor);
         ASSERT_TRUE(calendar.IsDirty());
         m_Prompts.m_Texts = {"C:/App/Other.cal"};
         m_Prompts.m_SaveAnswers = {answer};

@@ -1,103 +1,28 @@
 #pragma once
 
-#include <QAction>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QPointer>
-#include <QSpinBox>
-#include <QToolButton>
-
-#include "editor_ui/drawing/drawing_view.h"
+#include "editor_ui/calendar/calendar_editor.h"
 #include "editor_ui/pages/file_page.h"
-#include "editor_ui/schedule/schedule_page.h"
-#include "schedule/calendar.h"
-#include "schedule/holidays.h"
 
 namespace vigrel {
 
+// How a calendar lies in a file.
+cFileForm CalendarFileForm(const QString& newName, cCalendarEditor& editor);
+
 // A calendar in a file of its own.
-class cCalendarPage : public cFilePage, private cCalendarContainer {
+class cCalendarPage : public cFilePage {
     Q_OBJECT
   public:
     // A new, empty calendar.
-    cCalendarPage(cEditorServices& services, const QString& newName, QWidget* parent = nullptr);
+    cCalendarPage(cEditorServices& services, const QString& newName, QWidget* parent = nullptr)
+        : cCalendarPage(services, newName, new cCalendarEditor(services), parent) {}
 
-    const cCalendar& Calendar() const { return m_Calendar; }
-    void ShowMonth(int year, int month);
-    // The schedules whose periods the day boxes can show; the chosen one stays while it is among them.
-    void SetSchedules(const QList<cSchedulePage*>& pages);
-    // One of them; any other page chooses none.
-    void ChooseSchedule(const cSchedulePage* page);
-    // Whether the day boxes show the periods.
-    QCheckBox& ShowTimeAxis() { return m_ShowTimeAxis; }
-
-    QList<QAction*> EditActions() const override;
-    void SetZoom(double zoom) override;
-    void RefreshDayTypes() override;
-
-  protected:
-    void ReadFile(const std::string& path) override;
-    void WriteFile(const std::string& path) override;
-    QString FileFilter() const override;
-    QString Suffix() const override { return "cal"; }
-    std::string State() const override;
-    void Restore(const std::string& state) override;
+    cCalendarEditor& Editor() { return m_Editor; }
 
   private:
-    // --- cCalendarContainer
-    const cDayNames& DayNames() const override { return m_Services.m_DayTypeNames.DayNames(); }
-    double Get_ImageList_ImageHeight() const override { return kDayTypeImageSize; }
-    double Get_ImageList_ImageWidth() const override { return kDayTypeImageSize; }
-    void Draw_ImageList_ListImages(DeviceContext context, std::int16_t image, double x, double y) override;
-    std::optional<std::string> Get_Combo_Calendar_DayType_SelectedItem() const override;
-    std::int16_t Get_Combo_Calendar_DayType_SelectedItem_Index() const override;
-    std::string Get_Combo_Calendar_DayType_ComboItems(std::int16_t number) const override;
-    void Set_Text_Calendar_Month(std::string_view text) override;
+    cCalendarPage(cEditorServices& services, const QString& newName, cCalendarEditor* editor,
+                  QWidget* parent);
 
-    void MakeActions();
-    QAction* MakeAction(const char* name, const QString& text, const QKeySequence& keys,
-                        const std::function<void()>& chosen);
-    void MakeLayout();
-    QLayout* MakeMonthBar();
-    QWidget* MakeToolBox();
-    void FillDayTypes();
-    void FillCountries();
-    void ConnectView();
-    void ConnectChoices();
-
-    void MouseDown(std::int16_t button, std::int16_t shift, QPoint unit);
-    void MouseUp(std::int16_t button, std::int16_t shift, QPoint unit);
-    bool Key(const QKeyEvent& event);
-    void MoveDay(int days);
-    void PaintChosenDay();
-    // The pointer counts as over no day until it moves, so that no tip of before stays.
-    void ForgetPointer();
-    QPoint CellOf(int day) const;
-    std::optional<int> DayAt(QPoint unit) const;
-
-    void MoveMonth(int months);
-    void ShowToday();
-    void ShowChosenMonth();
-    void TakeCountry();
-    void TakeSchedule();
-    void TakeSelectedType(bool allYears);
-    void ClearYear();
-    bool IsShownYear(std::int32_t day) const;
-    void PaintFocus(QPainter& painter);
-
-    cHolidays m_Holidays;
-    cCalendar m_Calendar;
-    cDrawingView m_View;
-    QLabel m_Month;
-    QToolButton m_Previous, m_Next, m_Today;
-    QSpinBox m_Year;
-    QComboBox m_MonthNames, m_DayType, m_Country, m_Schedule;
-    QCheckBox m_ShowTimeAxis;
-    QList<QPointer<cSchedulePage>> m_SchedulePages;  // in the order of the list, behind its first entry
-    QList<QAction*> m_Actions;
-    int m_Day = 0;  // the keyboard's day in the month, from 0
-    bool m_Painting = false;
+    cCalendarEditor& m_Editor;
 };
 
 }  // namespace vigrel

@@ -1,63 +1,23 @@
 #pragma once
 
-#include <vector>
-
 #include "categories/colour_rules.h"
-#include "common/line_problem.h"
 #include "editor_ui/pages/file_page.h"
-
-class QAction;
-class QLabel;
-class QTableWidget;
-class QTableWidgetItem;
 
 namespace vigrel {
 
-class cColourPreview;
+class cColourRulesEditor;
 
-// The list of colour rules, with a preview. A field that is wrong is told and keeps its value, so that the
-// list can always be saved.
+// The list of colour rules of a station.
 class cColourRulesPage : public cFilePage {
     Q_OBJECT
   public:
     explicit cColourRulesPage(cEditorServices& services, QWidget* parent = nullptr);
 
-    QList<QAction*> EditActions() const override;
     // The station has one list.
     bool HasSaveAs() const override { return false; }
 
-  protected:
-    void ReadFile(const std::string& path) override;
-    void WriteFile(const std::string& path) override;
-    QString FileFilter() const override;
-    QString Suffix() const override { return "txt"; }
-    std::string State() const override;
-    void Restore(const std::string& state) override;
-
   private:
-    QAction* MakeAction(const char* objectName, const QString& text, const QString& keys,
-                        void (cColourRulesPage::*press)());
-    void MakeTable();
-    QWidget* MakeTablePanel();
-    void Fill();
-    void FillRow(int row);
-    void TakeItem(const QTableWidgetItem& item);
-    void ShowProblems(const std::vector<cLineProblem>& problems);
-    void UpdateActions();
-    void Add();
-    void Remove();
-    void MoveUp() { Move(-1); }
-    void MoveDown() { Move(1); }
-    void Move(int by);
-    void ChooseColour();
-    void Change(const QString& step, const std::function<void()>& change, int row);
-
-    cColourRules m_Rules;
-    QTableWidget* m_Table;
-    QLabel* m_Problems;
-    cColourPreview* m_Preview;
-    QList<QAction*> m_Actions;
-    QAction *m_Remove = nullptr, *m_Up = nullptr, *m_Down = nullptr, *m_Choose = nullptr;
+    cColourRulesPage(cEditorServices& services, cColourRulesEditor* editor, QWidget* parent);
 };
 
 }  // namespace vigrel

@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "adapters/qt/qt_text.h"
+#include "editor_ui/calendar/calendar_page.h"
 
 namespace vigrel {
 namespace {
@@ -15,10 +16,11 @@ constexpr std::string_view kUsualName = "Calendar.cal";
 
 }  // namespace
 
-cProfileCalendar::cProfileCalendar(cEditorServices& services, cSchedulePage& schedule, QWidget* parent)
+cProfileCalendar::cProfileCalendar(cEditorServices& services, const cTimeSchedule& schedule, QWidget* parent)
     : QWidget(parent),
       m_Services(services),
-      m_Page(new cCalendarPage(services, tr("Calendar"))),
+      m_Editor(new cCalendarEditor(services)),
+      m_Document(services, CalendarFileForm(tr("Calendar"), *m_Editor), this),
       m_Path(new QLabel) {
     auto* open = new QPushButton(tr("Another calendar..."));
     open->setObjectName("Button_OpenCalendar");
@@ -29,14 +31,15 @@ cProfileCalendar::cProfileCalendar(cEditorServices& services, cSchedulePage& sch
     bar->addWidget(open);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(bar);
-    layout->addWidget(m_Page, 1);
+    layout->addWidget(m_Editor, 1);
     connect(open, &QPushButton::clicked, this, [this] { Choose(); });
-    connect(m_Page, &cEditorPage::FileUsed, this, [this](const QString& path) { Remember(path); });
-    connect(&m_Page->ShowTimeAxis(), &QCheckBox::clicked, this, [this](bool on) {
+    connect(&m_Document, &cFileDocument::FileUsed, this, [this](const QString& path) { Remember(path); });
+    connect(&m_Editor->ShowTimeAxis(), &QCheckBox::clicked, this, [this](bool on) {
         if (OnViewTimeAxis) OnViewTimeAxis(on);
     });
-    m_Page->SetSchedules({&schedule});
-    m_Page->ChooseSchedule(&schedule);
+    connect(m_Editor, &cContentEditor::Edited, &m_Document, &cFileDocument::NoteChange);
+    m_Editor->SetSchedules({{tr("This profile"), &schedule}});
+    m_Editor->ChooseSchedule(&schedule);
     OpenRemembered();
 }
 
@@ -45,7 +48,7 @@ void cProfileCalendar::OpenRemembered() {
     if (path.empty()) path = m_Services.m_Ini.FullPath(kUsualName);
     m_Path->setText(tr("A new calendar"));
     // One that was taken away since is no failure to be told.
-    if (m_Services.m_Files.FileExists(path)) m_Page->Open(path);
+    if (m_Services.m_Files.FileExists(path)) m_Document.Open(path);
 }
 
 void cProfileCalendar::Choose() {
@@ -58,14 +61,14 @@ void cProfileCalendar::Choose() {
                                          tr("%1 has characters that file names here can't have.").arg(path));
         return;
     }
-    m_Page->Open(FromQString(path));
+    m_Document.Open(FromQString(path));
 }
 
 // Whether the shown calendar's changes are saved or given up.
 bool cProfileCalendar::MayLeave() {
-    if (!m_Page->IsDirty()) return true;
-    const cPrompts::eSave answer = m_Services.m_Prompts.AskToSave(this, m_Page->Title());
-    if (answer == cPrompts::eSave::Save) return m_Page->Save();
+    if (!m_Document.IsDirty()) return true;
+    const cPrompts::eSave answer = m_Services.m_Prompts.AskToSave(this, m_Document.Title());
+    if (answer == cPrompts::eSave::Save) return m_Document.Save();
     return answer == cPrompts::eSave::Discard;
 }
 
@@ -75,7 +78,7 @@ void cProfileCalendar::Remember(const QString& path) {
 }
 
 void cProfileCalendar::Show(const cProfile& profile) {
-    m_Page->ShowTimeAxis().setChecked(profile.m_Calendar_ViewTimeAxis != 0);
+    m_Editor->ShowTimeAxis().setChecked(profile.m_Calendar_ViewTimeAxis != 0);
 }
 
 }  // namespace vigrel

@@ -4,7 +4,8 @@
 #include <functional>
 
 #include "definitions/profile.h"
-#include "editor_ui/calendar/calendar_page.h"
+#include "editor_ui/calendar/calendar_editor.h"
+#include "editor_ui/pages/file_document.h"
 
 class QLabel;
 
@@ -16,10 +17,11 @@ class cProfileCalendar : public QWidget {
     Q_OBJECT
   public:
     // What is handed in must outlive the widget.
-    cProfileCalendar(cEditorServices& services, cSchedulePage& schedule, QWidget* parent = nullptr);
+    cProfileCalendar(cEditorServices& services, const cTimeSchedule& schedule, QWidget* parent = nullptr);
 
     void Show(const cProfile& profile);
-    cCalendarPage& Page() { return *m_Page; }
+    cCalendarEditor& Editor() { return *m_Editor; }
+    cFileDocument& Document() { return m_Document; }
     // The day boxes are to show the periods, or not.
     std::function<void(bool on)> OnViewTimeAxis;
 
@@ -30,7 +32,8 @@ class cProfileCalendar : public QWidget {
     void Remember(const QString& path);
 
     cEditorServices& m_Services;
-    cCalendarPage* m_Page;
+    cCalendarEditor* m_Editor;
+    cFileDocument m_Document;
     QLabel* m_Path;
 };
 

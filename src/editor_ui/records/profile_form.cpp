@@ -9,10 +9,11 @@
 #include "common/date_text.h"
 #include "common/file_procedures.h"
 #include "editor_ui/pages/scrolled.h"
+#include "editor_ui/pages/step_command.h"
 #include "editor_ui/records/profile_calendar.h"
-#include "editor_ui/records/profile_schedule.h"
 #include "editor_ui/records/receiver_picker.h"
 #include "editor_ui/records/system_grid.h"
+#include "editor_ui/schedule/schedule_editor.h"
 
 namespace vigrel {
 namespace {
@@ -49,6 +50,11 @@ cProfileForm::cProfileForm(cEditorServices& editor, QWidget* parent)
         if (OnEdited) OnEdited();
     };
     Show(nullptr);
+}
+
+// The stack tells of its end when there is no schedule any more.
+cProfileForm::~cProfileForm() {
+    m_UndoStack.disconnect(this);
 }
 
 QWidget* cProfileForm::MakeGeneral() {
@@ -137,24 +143,43 @@ QWidget* cProfileForm::MakeSchedule() {
     auto* layout = new QVBoxLayout(page);
     layout->addWidget(
         m_Binder.Flag("Check_UseTimeSchedule", tr("&Use this time schedule"), &cProfile::m_UseTimeSchedule));
-    m_Schedule = new cProfileSchedule(m_Editor);
+    m_Schedule = new cScheduleEditor(m_Editor);
     layout->addWidget(m_Schedule, 1);
-    m_Schedule->OnEdited = [this](const std::string& periods) {
-        m_Binder.Edit<std::string>(
-            [](cProfile& shown, const std::string& text) { shown.m_TimeSchedule->ExtractPeriodArray(text); },
-            periods);
-    };
-    m_Schedule->OnViewDayType = [this](bool on) {
+    connect(m_Schedule, &cContentEditor::Edited, this,
+            [this](const cEditStep& step) { m_UndoStack.push(new cStepCommand(step, *m_Schedule)); });
+    connect(&m_UndoStack, &QUndoStack::indexChanged, this, [this] { TakeSchedule(); });
+    connect(&m_Schedule->ViewDayType(), &QCheckBox::clicked, this, [this](bool on) {
         m_Binder.Edit<std::int16_t>(
             [](cProfile& shown, const std::int16_t& view) { shown.m_TimeSchedule_ViewDayType = view; },
             on ? True16 : False16);
-    };
-    m_Binder.AddShow([this](const cProfile& shown) { m_Schedule->Show(shown); });
+    });
+    m_Binder.AddShow([this](const cProfile& shown) { ShowSchedule(shown); });
     return page;
 }
 
+// The editor shows a copy of the profile's schedule; its steps can't be undone beyond this.
+void cProfileForm::ShowSchedule(const cProfile& profile) {
+    std::string periods;
+    if (profile.m_TimeSchedule) profile.m_TimeSchedule->ComposePeriodArray(periods);
+    m_Showing = true;
+    if (periods != m_Schedule->State()) {
+        m_Schedule->Restore(periods);
+        m_UndoStack.clear();
+    }
+    m_Showing = false;
+    m_Schedule->ViewDayType().setChecked(profile.m_TimeSchedule_ViewDayType != 0);
+}
+
+void cProfileForm::TakeSchedule() {
+    if (m_Showing) return;
+    m_Binder.Edit<std::string>(
+        [](cProfile& shown, const std::string& text) { shown.m_TimeSchedule->ExtractPeriodArray(text); },
+        m_Schedule->State());
+    m_Calendar->Editor().RefreshSchedules();
+}
+
 QWidget* cProfileForm::MakeCalendar() {
-    m_Calendar = new cProfileCalendar(m_Editor, *m_Schedule);
+    m_Calendar = new cProfileCalendar(m_Editor, m_Schedule->Schedule());
     m_Calendar->OnViewTimeAxis = [this](bool on) {
         m_Binder.Edit<std::int16_t>(
             [](cProfile& shown, const std::int16_t& view) { shown.m_Calendar_ViewTimeAxis = view; },
@@ -214,22 +239,16 @@ void cProfileForm::FocusName() {
     m_Name->selectAll();
 }
 
-QUndoStack* cProfileForm::UndoStack() {
-    return m_Schedule->UndoStack();
-}
-
-cCalendarPage& cProfileForm::Calendar() {
-    return m_Calendar->Page();
+QList<cContentEditor*> cProfileForm::Editors() const {
+    return {m_Schedule, &m_Calendar->Editor()};
 }
 
 void cProfileForm::SetZoom(double zoom) {
-    m_Schedule->SetZoom(zoom);
-    m_Calendar->Page().SetZoom(zoom);
+    for (cContentEditor* editor : Editors()) editor->SetZoom(zoom);
 }
 
 void cProfileForm::RefreshDayTypes() {
-    m_Schedule->RefreshDayTypes();
-    m_Calendar->Page().RefreshDayTypes();
+    for (cContentEditor* editor : Editors()) editor->RefreshDayTypes();
 }
 
 }  // namespace vigrel

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QUndoStack>
 #include <QWidget>
 #include <functional>
 
@@ -9,14 +10,13 @@
 
 class QLabel;
 class QTabWidget;
-class QUndoStack;
 
 namespace vigrel {
 
-class cCalendarPage;
+class cContentEditor;
 class cProfileCalendar;
-class cProfileSchedule;
 class cReceiverPicker;
+class cScheduleEditor;
 class cSystemGrid;
 
 // Every field of a profile, in tabs. Parallel and sequential receivers are chosen from the receivers of the
@@ -26,15 +26,18 @@ class cProfileForm : public QWidget {
   public:
     // The services must outlive the form.
     explicit cProfileForm(cEditorServices& editor, QWidget* parent = nullptr);
+    ~cProfileForm() override;
 
     // The profile must outlive its showing; nullptr shows nothing.
     void Show(cProfile* profile);
     // Why the profile can't be saved as the form stands; empty when it can.
     QString Problem() const;
     void FocusName();
-    QUndoStack* UndoStack();
-    // The station's calendar, which the form shows with the profile's schedule.
-    cCalendarPage& Calendar();
+    // Of the shown profile's schedule.
+    QUndoStack* UndoStack() { return &m_UndoStack; }
+    // The schedule, and the station's calendar that the form shows with it.
+    QList<cContentEditor*> Editors() const;
+    cProfileCalendar& Calendar() { return *m_Calendar; }
     void SetZoom(double zoom);
     void RefreshDayTypes();
 
@@ -51,14 +54,18 @@ class cProfileForm : public QWidget {
     QWidget* MakeSystems();
     cReceiverPicker* MakePicker(const char* objectName, const QString& name, std::string cProfile::*field);
     void ShowFile(const cProfile& profile);
+    void ShowSchedule(const cProfile& profile);
+    void TakeSchedule();
 
     cEditorServices& m_Editor;
     cFieldBinder<cProfile> m_Binder;
     cTextEdit* m_Name = nullptr;
     QLabel* m_File = nullptr;
     QTabWidget* m_Tabs;
-    cProfileSchedule* m_Schedule = nullptr;
+    cScheduleEditor* m_Schedule = nullptr;
     cProfileCalendar* m_Calendar = nullptr;
+    QUndoStack m_UndoStack;
+    bool m_Showing = false;
 };
 
 }  // namespace vigrel

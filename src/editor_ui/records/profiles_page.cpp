@@ -1,6 +1,7 @@
 #include "editor_ui/records/profiles_page.h"
 
-#include "editor_ui/calendar/calendar_page.h"
+#include "editor_ui/pages/content_editor.h"
+#include "editor_ui/records/profile_calendar.h"
 #include "editor_ui/records/profile_form.h"
 
 namespace vigrel {
@@ -29,7 +30,14 @@ cProfilesPage::cProfilesPage(cEditorServices& services, QWidget* parent)
       m_Form(new cProfileForm(services)) {
     setObjectName("Page_Profiles");
     m_Form->OnEdited = [this] { NoteEdit(); };
-    connect(&m_Form->Calendar(), &cEditorPage::StateChanged, this, &cEditorPage::StateChanged);
+    cFileDocument& calendar = m_Form->Calendar().Document();
+    connect(&calendar, &cFileDocument::StateChanged, this, &cEditorPage::StateChanged);
+    connect(&calendar, &cFileDocument::FileUsed, this, &cEditorPage::FileUsed);
+    connect(&calendar, &cFileDocument::Message, this, &cEditorPage::Message);
+    for (cContentEditor* editor : m_Form->Editors()) {
+        connect(editor, &cContentEditor::Message, this, &cEditorPage::Message);
+        connect(editor, &cContentEditor::DayTypesChanged, this, &cEditorPage::DayTypesChanged);
+    }
     cPageForm form;
     form.widget = m_Form;
     form.show = [this](int position) {
@@ -43,12 +51,12 @@ cProfilesPage::cProfilesPage(cEditorServices& services, QWidget* parent)
 }
 
 bool cProfilesPage::IsDirty() const {
-    return cDefinitionPage::IsDirty() || m_Form->Calendar().IsDirty();
+    return cDefinitionPage::IsDirty() || m_Form->Calendar().Document().IsDirty();
 }
 
 bool cProfilesPage::Save() {
     if (!cDefinitionPage::Save()) return false;
-    return !m_Form->Calendar().IsDirty() || m_Form->Calendar().Save();
+    return !m_Form->Calendar().Document().IsDirty() || m_Form->Calendar().Document().Save();
 }
 
 QUndoStack* cProfilesPage::UndoStack() {

@@ -44,7 +44,7 @@ cDefinitionsWindow::cDefinitionsWindow(cEditorServices& services)
 cDefinitionsWindow::~cDefinitionsWindow() {
     m_Tabs.disconnect(this);
     for (cEditorPage* page : Pages()) {
-        if (auto* calendar = qobject_cast<cCalendarPage*>(page)) calendar->SetSchedules({});
+        if (auto* calendar = qobject_cast<cCalendarPage*>(page)) calendar->Editor().SetSchedules({});
     }
     qDeleteAll(Pages());
 }
@@ -64,8 +64,6 @@ void cDefinitionsWindow::AddPage(cEditorPage* page) {
     if (page->UndoStack() != nullptr) m_UndoGroup.addStack(page->UndoStack());
     connect(page, &cEditorPage::StateChanged, this, &cDefinitionsWindow::PageStateChanged);
     ListenTo(page);
-    // A profile's page holds those of its schedule and calendar.
-    for (cEditorPage* part : page->findChildren<cEditorPage*>()) ListenTo(part);
     m_Tabs.setCurrentIndex(m_Tabs.addTab(page, QString()));
     // A page that says where its keys work has the keyboard at once.
     if (page->focusProxy() != nullptr) page->setFocus();
@@ -75,6 +73,11 @@ void cDefinitionsWindow::AddPage(cEditorPage* page) {
 void cDefinitionsWindow::ListenTo(cEditorPage* page) {
     connect(page, &cEditorPage::Message, this,
             [this](const QString& text) { statusBar()->showMessage(text, 10000); });
+    connect(page, &cEditorPage::ContentChanged, this, [this] {
+        for (cEditorPage* each : Pages()) {
+            if (auto* calendar = qobject_cast<cCalendarPage*>(each)) calendar->Editor().RefreshSchedules();
+        }
+    });
     connect(page, &cEditorPage::FileUsed, this, [this](const QString& path) { m_Recent.Add(path); });
     connect(page, &cEditorPage::DayTypesChanged, this, [this] {
         for (cEditorPage* each : Pages()) each->RefreshDayTypes();
@@ -220,12 +223,14 @@ void cDefinitionsWindow::PageStateChanged() {
 }
 
 void cDefinitionsWindow::SchedulesChanged() {
-    QList<cSchedulePage*> schedules;
+    QList<cNamedSchedule> schedules;
     for (cEditorPage* page : Pages()) {
-        if (auto* schedule = qobject_cast<cSchedulePage*>(page)) schedules.append(schedule);
+        if (auto* schedule = qobject_cast<cSchedulePage*>(page)) {
+            schedules.append({schedule->Title(), &schedule->Schedule()});
+        }
     }
     for (cEditorPage* page : Pages()) {
-        if (auto* calendar = qobject_cast<cCalendarPage*>(page)) calendar->SetSchedules(schedules);
+        if (auto* calendar = qobject_cast<cCalendarPage*>(page)) calendar->Editor().SetSchedules(schedules);
     }
 }
 

@@ -1,20 +1,20 @@
 #include <utility>
 
 #include "adapters/qt/qt_text.h"
-#include "editor_ui/schedule/schedule_page.h"
+#include "editor_ui/schedule/schedule_editor.h"
 
 namespace vigrel {
 
-void cSchedulePage::MakeActions() {
-    m_Copy = MakeAction("Copy", tr("&Copy the day"), QKeySequence::Copy, &cSchedulePage::Copy);
-    m_Paste = MakeAction("Paste", tr("&Paste into the day"), QKeySequence::Paste, &cSchedulePage::Paste);
-    m_Delete = MakeAction("Delete", tr("&Delete the period"), QKeySequence::Delete, &cSchedulePage::Delete);
-    m_WholeDay = MakeAction("WholeDay", tr("&Whole day"), tr("Ctrl+D"), &cSchedulePage::WholeDay);
-    m_Invert = MakeAction("Invert", tr("&Invert the day"), tr("Ctrl+I"), &cSchedulePage::Invert);
-    m_Grouped = MakeAction("Grouped", tr("&Grouped"), tr("Ctrl+G"), &cSchedulePage::Group);
+void cScheduleEditor::MakeActions() {
+    m_Copy = MakeAction("Copy", tr("&Copy the day"), QKeySequence::Copy, &cScheduleEditor::Copy);
+    m_Paste = MakeAction("Paste", tr("&Paste into the day"), QKeySequence::Paste, &cScheduleEditor::Paste);
+    m_Delete = MakeAction("Delete", tr("&Delete the period"), QKeySequence::Delete, &cScheduleEditor::Delete);
+    m_WholeDay = MakeAction("WholeDay", tr("&Whole day"), tr("Ctrl+D"), &cScheduleEditor::WholeDay);
+    m_Invert = MakeAction("Invert", tr("&Invert the day"), tr("Ctrl+I"), &cScheduleEditor::Invert);
+    m_Grouped = MakeAction("Grouped", tr("&Grouped"), tr("Ctrl+G"), &cScheduleEditor::Group);
     m_GroupedMonFri = MakeAction("Grouped_MonFri", tr("Monday to &Friday grouped"), tr("Ctrl+Shift+G"),
-                                 &cSchedulePage::GroupMonFri);
-    m_Rename = MakeAction("Rename", tr("&Rename the day type..."), {}, &cSchedulePage::Rename);
+                                 &cScheduleEditor::GroupMonFri);
+    m_Rename = MakeAction("Rename", tr("&Rename the day type..."), {}, &cScheduleEditor::Rename);
     m_Grouped->setCheckable(true);
     m_GroupedMonFri->setCheckable(true);
     m_Popup.setObjectName("Menu_TimeSchedulePopup");
@@ -26,8 +26,8 @@ void cSchedulePage::MakeActions() {
 }
 
 // The keys work while the focus is in the page.
-QAction* cSchedulePage::MakeAction(const char* name, const QString& text, const QKeySequence& keys,
-                                   void (cSchedulePage::*chosen)()) {
+QAction* cScheduleEditor::MakeAction(const char* name, const QString& text, const QKeySequence& keys,
+                                     void (cScheduleEditor::*chosen)()) {
     auto* action = new QAction(text, this);
     action->setObjectName(QString("Menu_TimeSchedulePopup_") + name);
     action->setShortcut(keys);
@@ -37,13 +37,13 @@ QAction* cSchedulePage::MakeAction(const char* name, const QString& text, const 
     return action;
 }
 
-QList<QAction*> cSchedulePage::EditActions() const {
+QList<QAction*> cScheduleEditor::EditActions() const {
     return {m_Copy,  m_Paste,   m_Delete,        nullptr, m_WholeDay, m_Invert,
             nullptr, m_Grouped, m_GroupedMonFri, nullptr, m_Rename,   m_Images.menuAction()};
 }
 
 // An entry can leave no day selected; the fields then have nothing to speak of.
-void cSchedulePage::Run(const QString& name, Operation operation) {
+void cScheduleEditor::Run(const QString& name, Operation operation) {
     if (m_Schedule.IsDragging()) return;
     Edit(name, [&] { (m_Schedule.*operation)(*this, m_SchedulePaintObject); });
     if (m_Schedule.SelectedDayType() < 0) m_Schedule.ClearSelection(*this);
@@ -51,51 +51,51 @@ void cSchedulePage::Run(const QString& name, Operation operation) {
     Refresh();
 }
 
-void cSchedulePage::Delete() {
+void cScheduleEditor::Delete() {
     const int row = RowOf(m_Schedule.SelectedDayType());
     Run(tr("deleting a period"), &cTimeSchedule::Delete);
     // The keyboard goes on where it was.
     if (m_Frame.View().hasFocus()) ChooseRowAgain(row);
 }
-void cSchedulePage::Copy() {
+void cScheduleEditor::Copy() {
     m_Schedule.Copy();
     Refresh();
 }
-void cSchedulePage::Paste() {
+void cScheduleEditor::Paste() {
     Run(tr("pasting a day"), &cTimeSchedule::Paste);
 }
-void cSchedulePage::WholeDay() {
+void cScheduleEditor::WholeDay() {
     const int row = RowOf(m_Schedule.SelectedDayType());
     Run(tr("the whole day"), &cTimeSchedule::SetTimeFrom00to24);
     if (m_Frame.View().hasFocus()) ChooseRowAgain(row);
 }
-void cSchedulePage::Invert() {
+void cScheduleEditor::Invert() {
     Run(tr("inverting a day"), &cTimeSchedule::InvertTimeSchedule);
 }
-void cSchedulePage::Group() {
+void cScheduleEditor::Group() {
     Run(tr("grouping a day"), &cTimeSchedule::Group);
 }
 
 // The entry has checked itself already; the schedule asks for the state before.
-void cSchedulePage::GroupMonFri() {
+void cScheduleEditor::GroupMonFri() {
     m_Schedule.PreparePopupMenu(*this);
     Run(tr("grouping Monday to Friday"), &cTimeSchedule::GroupMonFri);
 }
 
-void cSchedulePage::TakeTimes() {
+void cScheduleEditor::TakeTimes() {
     if (m_Start.isModified() || m_Stop.isModified()) {
         Run(tr("typing times"), &cTimeSchedule::ExtractTimeFromTextboxes);
     }
 }
 
-void cSchedulePage::TakeUseCalendar(bool use) {
+void cScheduleEditor::TakeUseCalendar(bool use) {
     Edit(tr("special day types"), [&] {
         m_Schedule.m_UseCalendar = use ? True16 : False16;
         Recalculate();
     });
 }
 
-void cSchedulePage::TakeDayType(const QListWidgetItem& item) {
+void cScheduleEditor::TakeDayType(const QListWidgetItem& item) {
     const auto dayType = static_cast<std::int16_t>(m_DayTypes.row(&item));
     const bool active = item.checkState() == Qt::Checked;
     if (m_Schedule.GetActive(dayType) == active) return;
@@ -106,7 +106,7 @@ void cSchedulePage::TakeDayType(const QListWidgetItem& item) {
     });
 }
 
-std::optional<int> cSchedulePage::ChosenSpecialType() {
+std::optional<int> cScheduleEditor::ChosenSpecialType() {
     const int dayType = m_DayTypes.hasFocus() ? m_DayTypes.currentRow() : m_Schedule.SelectedDayType();
     if (dayType >= kWeekDays) return dayType - kWeekDays + 1;
     m_Services.m_Prompts.ShowFailure(
@@ -114,7 +114,7 @@ std::optional<int> cSchedulePage::ChosenSpecialType() {
     return std::nullopt;
 }
 
-void cSchedulePage::Rename() {
+void cScheduleEditor::Rename() {
     const auto number = ChosenSpecialType();
     if (!number) return;
     const auto dayType = static_cast<std::int16_t>(*number + kWeekDays - 1);
@@ -126,7 +126,7 @@ void cSchedulePage::Rename() {
 }
 
 // One entry for each drawing.
-void cSchedulePage::MakeImageMenu() {
+void cScheduleEditor::MakeImageMenu() {
     m_Images.setObjectName("Menu_DayTypeImages");
     for (int drawing = 1; drawing <= cDayTypeImages::kDrawings; ++drawing) {
         const QPixmap image =
@@ -136,14 +136,14 @@ void cSchedulePage::MakeImageMenu() {
     }
 }
 
-void cSchedulePage::ChooseImage(int drawing) {
+void cScheduleEditor::ChooseImage(int drawing) {
     const auto number = ChosenSpecialType();
     if (!number) return;
     if (!m_Services.m_DayTypeImages.Choose(*number, drawing)) ShowNotStored();
     emit DayTypesChanged();
 }
 
-void cSchedulePage::ShowNotStored() {
+void cScheduleEditor::ShowNotStored() {
     m_Services.m_Prompts.ShowFailure(
         this, tr("The choice could not be stored in %1.")
                   .arg(ToQString(m_Services.m_Ini.FullPath(kDefinitionsIni)).replace('\\', '/')));

@@ -5,7 +5,7 @@
 #include "adapters/qt/qt_text.h"
 #include "common/numbers.h"
 #include "common/text.h"
-#include "editor_ui/schedule/schedule_page.h"
+#include "editor_ui/schedule/schedule_editor.h"
 #include "schedule/schedule_geometry.h"
 
 namespace vigrel {
@@ -28,7 +28,7 @@ float YOf(int row) {
 
 }  // namespace
 
-void cSchedulePage::MouseDown(std::int16_t button, std::int16_t shift, QPoint unit) {
+void cScheduleEditor::MouseDown(std::int16_t button, std::int16_t shift, QPoint unit) {
     if (m_Schedule.IsDragging()) return;
     BeginEdit();
     m_Schedule.MouseDown(*this, m_SchedulePaintObject, button, shift, static_cast<float>(unit.x()),
@@ -37,7 +37,7 @@ void cSchedulePage::MouseDown(std::int16_t button, std::int16_t shift, QPoint un
     Refresh();
 }
 
-void cSchedulePage::MouseUp(std::int16_t button, std::int16_t shift, QPoint unit) {
+void cScheduleEditor::MouseUp(std::int16_t button, std::int16_t shift, QPoint unit) {
     if (!m_Schedule.IsDragging() || button != 1) return;
     m_Schedule.MouseUp(*this, m_SchedulePaintObject, button, shift, static_cast<float>(unit.x()),
                        static_cast<float>(unit.y()));
@@ -46,11 +46,11 @@ void cSchedulePage::MouseUp(std::int16_t button, std::int16_t shift, QPoint unit
     Refresh();
 }
 
-void cSchedulePage::ShowPopupMenu(QPoint place) {
+void cScheduleEditor::ShowPopupMenu(QPoint place) {
     if (!m_Schedule.IsDragging()) m_Popup.popup(place);
 }
 
-bool cSchedulePage::Key(const QKeyEvent& event) {
+bool cScheduleEditor::Key(const QKeyEvent& event) {
     if (m_Schedule.IsDragging()) return true;
     const bool shift = event.modifiers() & Qt::ShiftModifier, ctrl = event.modifiers() & Qt::ControlModifier;
     const int side = event.key() == Qt::Key_Left ? -1 : 1;
@@ -81,7 +81,7 @@ bool cSchedulePage::Key(const QKeyEvent& event) {
 }
 
 // A click, so that the schedule selects as it does by mouse.
-void cSchedulePage::Choose(int row, int minute) {
+void cScheduleEditor::Choose(int row, int minute) {
     BeginEdit();
     m_Schedule.MouseDown(*this, m_SchedulePaintObject, 1, 0, XOf(minute), YOf(row));
     m_Schedule.MouseUp(*this, m_SchedulePaintObject, 1, 0, XOf(minute), YOf(row));
@@ -91,21 +91,21 @@ void cSchedulePage::Choose(int row, int minute) {
     Refresh();
 }
 
-void cSchedulePage::ChooseRow(int step) {
+void cScheduleEditor::ChooseRow(int step) {
     const int rows = m_Schedule.m_NumberOfAxisToPaint;
     const int row = std::clamp(RowOf(m_Schedule.SelectedDayType()) + step, 0, rows - 1);
     ChooseRowAgain(row);
 }
 
 // Selects a row and its first period, if any.
-void cSchedulePage::ChooseRowAgain(int row) {
+void cScheduleEditor::ChooseRowAgain(int row) {
     const int dayType = DayTypeOfRow(row);
     if (dayType < 0) return;
     const PeriodList periods = PeriodsOf(dayType);
     Choose(row, periods.empty() ? 0 : Middle(*periods.front()));
 }
 
-void cSchedulePage::ChoosePeriod(int step) {
+void cScheduleEditor::ChoosePeriod(int step) {
     const int dayType = m_Schedule.SelectedDayType();
     if (dayType < 0) return ChooseRow(1);
     const PeriodList periods = PeriodsOf(dayType);
@@ -117,7 +117,7 @@ void cSchedulePage::ChoosePeriod(int step) {
     Choose(RowOf(dayType), Middle(*periods[next]));
 }
 
-void cSchedulePage::MoveEnd(QLineEdit& field, int minutes) {
+void cScheduleEditor::MoveEnd(QLineEdit& field, int minutes) {
     if (!m_Schedule.SelectedPeriod()) return;
     const int moved =
         std::clamp(TimeTextToMinutes(FromQString(field.text())) + minutes, 0, int{kMinutesOfDay});
@@ -126,7 +126,7 @@ void cSchedulePage::MoveEnd(QLineEdit& field, int minutes) {
 }
 
 // An hour in the first gap that has room for it, from the morning on, else from midnight on.
-void cSchedulePage::NewPeriod() {
+void cScheduleEditor::NewPeriod() {
     const int dayType = m_Schedule.SelectedDayType();
     if (dayType < 0) return;
     const PeriodList periods = PeriodsOf(dayType);
@@ -151,13 +151,13 @@ void cSchedulePage::NewPeriod() {
     emit Message(tr("The day has no gap for another period."));
 }
 
-int cSchedulePage::RowOf(std::int32_t dayType) const {
+int cScheduleEditor::RowOf(std::int32_t dayType) const {
     int row = dayType < 0 ? -1 : 0;
     for (std::int32_t i = 0; i < dayType; ++i) row += m_Schedule.GetActive(static_cast<std::int16_t>(i));
     return row;
 }
 
-int cSchedulePage::DayTypeOfRow(int row) const {
+int cScheduleEditor::DayTypeOfRow(int row) const {
     for (std::int16_t i = 0; i < kDayTypes && row >= 0; ++i) {
         if (m_Schedule.GetActive(i) && row-- == 0) return i;
     }
@@ -165,7 +165,7 @@ int cSchedulePage::DayTypeOfRow(int row) const {
 }
 
 // In the order of time, which the schedule's own list need not have.
-PeriodList cSchedulePage::PeriodsOf(std::int32_t dayType) const {
+PeriodList cScheduleEditor::PeriodsOf(std::int32_t dayType) const {
     PeriodList periods;
     std::int16_t start = 0, stop = 0;
     PeriodPtr period;
@@ -178,7 +178,7 @@ PeriodList cSchedulePage::PeriodsOf(std::int32_t dayType) const {
 }
 
 // Shows the keyboard's row.
-void cSchedulePage::PaintFocus(QPainter& painter) {
+void cScheduleEditor::PaintFocus(QPainter& painter) {
     const int row = RowOf(m_Schedule.SelectedDayType());
     if (row < 0 || !m_Frame.View().hasFocus()) return;
     painter.save();

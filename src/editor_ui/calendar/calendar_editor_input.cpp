@@ -4,12 +4,12 @@
 
 #include "adapters/qt/qt_text.h"
 #include "common/dates.h"
-#include "editor_ui/calendar/calendar_page.h"
+#include "editor_ui/calendar/calendar_editor.h"
 #include "schedule/calendar_geometry.h"
 
 namespace vigrel {
 
-void cCalendarPage::MakeActions() {
+void cCalendarEditor::MakeActions() {
     m_Actions = {
         MakeAction("HolidaysOfYear", tr("Give the year's &holidays the chosen day type"), tr("Ctrl+H"),
                    [this] { TakeSelectedType(false); }),
@@ -20,8 +20,8 @@ void cCalendarPage::MakeActions() {
     };
 }
 
-QAction* cCalendarPage::MakeAction(const char* name, const QString& text, const QKeySequence& keys,
-                                   const std::function<void()>& chosen) {
+QAction* cCalendarEditor::MakeAction(const char* name, const QString& text, const QKeySequence& keys,
+                                     const std::function<void()>& chosen) {
     auto* action = new QAction(text, this);
     action->setObjectName(QString("Menu_Calendar_") + name);
     action->setShortcut(keys);
@@ -31,11 +31,11 @@ QAction* cCalendarPage::MakeAction(const char* name, const QString& text, const 
     return action;
 }
 
-QList<QAction*> cCalendarPage::EditActions() const {
+QList<QAction*> cCalendarEditor::EditActions() const {
     return m_Actions;
 }
 
-void cCalendarPage::ConnectView() {
+void cCalendarEditor::ConnectView() {
     m_View.setAccessibleName(tr("Month"));
     m_View.setAccessibleDescription(tr("Arrow keys choose a day, Space paints the day type"));
     m_View.OnPaint = [this](QPainter& painter) {
@@ -52,7 +52,7 @@ void cCalendarPage::ConnectView() {
 }
 
 // A stroke is one step of undo. It is the left button's.
-void cCalendarPage::MouseDown(std::int16_t button, std::int16_t shift, QPoint unit) {
+void cCalendarEditor::MouseDown(std::int16_t button, std::int16_t shift, QPoint unit) {
     if (button != 1 || m_Painting) return;
     if (!Get_Combo_Calendar_DayType_SelectedItem()) emit Message(tr("Choose a day type to paint."));
     m_Painting = true;
@@ -62,7 +62,7 @@ void cCalendarPage::MouseDown(std::int16_t button, std::int16_t shift, QPoint un
                          static_cast<float>(unit.y()));
 }
 
-void cCalendarPage::MouseUp(std::int16_t button, std::int16_t shift, QPoint unit) {
+void cCalendarEditor::MouseUp(std::int16_t button, std::int16_t shift, QPoint unit) {
     if (button != 1 || !m_Painting) return;
     m_Painting = false;
     m_Calendar.MouseUp(*this, &m_View.Surface(), button, shift, static_cast<float>(unit.x()),
@@ -72,12 +72,12 @@ void cCalendarPage::MouseUp(std::int16_t button, std::int16_t shift, QPoint unit
 }
 
 // The last cell of the grid is blank in every month.
-void cCalendarPage::ForgetPointer() {
+void cCalendarEditor::ForgetPointer() {
     m_Calendar.MouseMove(*this, &m_View.Surface(), 0, 0, kGridRight - kCellWidth / 2.0,
                          kGridBottom - kCellHeight / 2.0);
 }
 
-bool cCalendarPage::Key(const QKeyEvent& event) {
+bool cCalendarEditor::Key(const QKeyEvent& event) {
     if (m_Painting) return true;
     switch (event.key()) {
         case Qt::Key_Left:
@@ -110,7 +110,7 @@ bool cCalendarPage::Key(const QKeyEvent& event) {
 }
 
 // Over the month's ends into its neighbours.
-void cCalendarPage::MoveDay(int days) {
+void cCalendarEditor::MoveDay(int days) {
     const std::int32_t index = m_Calendar.m_ActualMonthOffset + m_Day + days;
     if (index < 0 || index >= kCalendarDays) return;
     const cDateParts date = SplitDateTime(index + kFirstCalendarDay);
@@ -124,14 +124,14 @@ void cCalendarPage::MoveDay(int days) {
 }
 
 // The middle of a day's cell.
-QPoint cCalendarPage::CellOf(int day) const {
+QPoint cCalendarEditor::CellOf(int day) const {
     const int cell = day + m_Calendar.m_FirstWeekDayInActualMonth;
     return {kGridLeft + cell % kGridColumns * kCellWidth + kCellWidth / 2,
             kGridTop + cell / kGridColumns * kCellHeight + kCellHeight / 2};
 }
 
 // The day of the month whose cell that is.
-std::optional<int> cCalendarPage::DayAt(QPoint unit) const {
+std::optional<int> cCalendarEditor::DayAt(QPoint unit) const {
     if (unit.x() < kGridLeft || unit.x() >= kGridRight || unit.y() < kGridTop) return std::nullopt;
     const int cell = (unit.y() - kGridTop) / kCellHeight * kGridColumns + (unit.x() - kGridLeft) / kCellWidth;
     const int day = cell - m_Calendar.m_FirstWeekDayInActualMonth;
@@ -139,14 +139,14 @@ std::optional<int> cCalendarPage::DayAt(QPoint unit) const {
     return day;
 }
 
-void cCalendarPage::PaintChosenDay() {
+void cCalendarEditor::PaintChosenDay() {
     const QPoint cell = CellOf(m_Day);
     MouseDown(1, 0, cell);
     MouseUp(1, 0, cell);
 }
 
 // Of the days that are marked in the month, not of those that only have a name.
-void cCalendarPage::TakeSelectedType(bool allYears) {
+void cCalendarEditor::TakeSelectedType(bool allYears) {
     if (m_DayType.currentIndex() < 0 || m_Country.currentIndex() <= 0) {
         emit Message(tr("Choose a day type to paint and the country of the holidays."));
         return;
@@ -163,7 +163,7 @@ void cCalendarPage::TakeSelectedType(bool allYears) {
     emit Message(tr("Painted holidays: %1 (%2)").arg(count).arg(m_DayType.currentText()));
 }
 
-void cCalendarPage::ClearYear() {
+void cCalendarEditor::ClearYear() {
     Edit(tr("clearing a year"), [&] {
         for (std::int32_t i = 0; i < kCalendarDays; ++i) {
             if (IsShownYear(i)) m_Calendar.SetDayType(i, 0);
@@ -172,12 +172,12 @@ void cCalendarPage::ClearYear() {
     m_View.update();
 }
 
-bool cCalendarPage::IsShownYear(std::int32_t day) const {
+bool cCalendarEditor::IsShownYear(std::int32_t day) const {
     return SplitDateTime(day + kFirstCalendarDay).year == m_Calendar.m_SelectedYear;
 }
 
 // Shows the keyboard's day.
-void cCalendarPage::PaintFocus(QPainter& painter) {
+void cCalendarEditor::PaintFocus(QPainter& painter) {
     if (!m_View.hasFocus()) return;
     const QPoint cell = CellOf(m_Day);
     painter.save();

@@ -1,0 +1,284 @@
+#include "editor_ui/calendar/calendar_editor.h"
+
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+#include <cmath>
+
+#include "adapters/qt/qt_text.h"
+#include "common/dates.h"
+#include "common/failure.h"
+#include "schedule/calendar_geometry.h"
+#include "schedule/definition_files.h"
+#include "schedule/public_holidays.h"
+
+namespace vigrel {
+namespace {
+
+constexpr std::string_view kIniSection = "Calendar";
+constexpr std::string_view kIniHolidays = "Holidays";
+constexpr std::int16_t kEntries = kDayTypes + 1;
+// A day's number of two digits and a short name of three letters stand side by side in a box of 37 units.
+constexpr int kFontSize = 10;
+
+}  // namespace
+
+cCalendarEditor::cCalendarEditor(cEditorServices& services, QWidget* parent)
+    : cContentEditor(parent),
+      m_Services(services),
+      m_Calendar({services.m_Files, services.m_Clock, services.m_Forms, m_Holidays, services.GetText}),
+      m_View("Picture_Calendar", this),
+      m_ShowTimeAxis(tr("Show the day's &periods")) {
+    setObjectName("Editor_Calendar");
+    setFocusProxy(&m_View);
+    MakeActions();
+    MakeLayout();
+    FillDayTypes();
+    FillCountries();
+    SetSchedules({});
+    ConnectView();
+    ConnectChoices();
+    SetZoom(1);
+    TakeCountry();
+    ShowToday();
+}
+
+void cCalendarEditor::MakeLayout() {
+    m_View.Surface().SetFontSize(kFontSize);
+    auto* drawing = new QVBoxLayout;
+    drawing->addLayout(MakeMonthBar());
+    drawing->addWidget(&m_View);
+    auto* hint = new QLabel(tr("Choose a day type and paint it over the days with the left mouse button."));
+    hint->setWordWrap(true);
+    drawing->addWidget(hint);
+    drawing->addStretch(1);
+    auto* tools = new QVBoxLayout;
+    tools->addWidget(MakeToolBox());
+    tools->addStretch(1);
+    auto* layout = new QHBoxLayout(this);
+    layout->addLayout(drawing);
+    layout->addLayout(tools, 1);
+}
+
+QLayout* cCalendarEditor::MakeMonthBar() {
+    m_Month.setObjectName("Text_Calendar_Month");
+    QFont large = font();
+    large.setPointSizeF(large.pointSizeF() * 1.3);
+    large.setBold(true);
+    m_Month.setFont(large);
+    const auto make = [](QToolButton& button, const char* name, const QString& text, const QString& tip) {
+        button.setObjectName(name);
+        button.setText(text);
+        button.setToolTip(tip);
+        button.setAccessibleName(tip);
+    };
+    make(m_Previous, "Button_Calendar_Previous", QStringLiteral("◀"), tr("Previous month (Page Up)"));
+    make(m_Next, "Button_Calendar_Next", QStringLiteral("▶"), tr("Next month (Page Down)"));
+    make(m_Today, "Button_Calendar_Today", tr("To&day"), tr("The month of today (Home)"));
+    m_Year.setObjectName("Spin_Calendar_Year");
+    m_Year.setAccessibleName(tr("Year"));
+    m_Year.setRange(kFirstCalendarYear, kLastCalendarYear);
+    m_MonthNames.setObjectName("Combo_Calendar_Month");
+    m_MonthNames.setAccessibleName(tr("Month"));
+    for (const std::string& name : m_Services.m_Forms.monthNames) m_MonthNames.addItem(ToQString(name));
+    auto* bar = new QHBoxLayout;
+    bar->addWidget(&m_Previous);
+    bar->addWidget(&m_Month, 1, Qt::AlignCenter);
+    bar->addWidget(&m_MonthNames);
+    bar->addWidget(&m_Year);
+    bar->addWidget(&m_Today);
+    bar->addWidget(&m_Next);
+    return bar;
+}
+
+QWidget* cCalendarEditor::MakeToolBox() {
+    auto* box = new QGroupBox(tr("Calendar"));
+    auto* form = new QFormLayout(box);
+    form->setRowWrapPolicy(QFormLayout::WrapAllRows);
+    m_DayType.setObjectName("Combo_Calendar_DayType");
+    m_DayType.setMaxVisibleItems(kEntries);
+    m_DayType.setPlaceholderText(tr("None chosen"));
+    m_Country.setObjectName("Combo_Calendar_Holidays");
+    m_Schedule.setObjectName("Combo_Calendar_TimeSchedule");
+    m_ShowTimeAxis.setObjectName("Check_Calendar_ShowTimeAxis");
+    form->addRow(tr("Day &type to paint"), &m_DayType);
+    form->addRow(tr("&Holidays"), &m_Country);
+    form->addRow(tr("Time &schedule"), &m_Schedule);
+    form->addRow(&m_ShowTimeAxis);
+    return box;
+}
+
+void cCalendarEditor::FillDayTypes() {
+    const int current = m_DayType.currentIndex();
+    m_DayType.clear();
+    for (std::int16_t number = 1; number <= kEntries; ++number) {
+        const int image = number - 1 - kWeekDays;
+        m_DayType.addItem(m_Services.m_DayTypeImages.Icon(image, devicePixelRatioF()),
+                          ToQString(m_Services.m_DayTypeNames.Entry(number)));
+    }
+    m_DayType.setCurrentIndex(current);
+}
+
+void cCalendarEditor::RefreshDayTypes() {
+    FillDayTypes();
+    m_View.update();
+}
+
+void cCalendarEditor::FillCountries() {
+    m_Country.addItem(tr("None"), QString());
+    for (const cHolidayCountry& country : HolidayCountries()) {
+        m_Country.addItem(ToQString(country.name), ToQString(country.code));
+    }
+    const std::string chosen = m_Services.m_Ini.GetIniString(kIniSection, kIniHolidays, "?", kDefinitionsIni);
+    // Nothing chosen yet: the desktop's country, when its holidays are known.
+    const QString code =
+        chosen == "?" ? QLocale::territoryToCode(QLocale::system().territory()) : ToQString(chosen);
+    m_Country.setCurrentIndex(std::max(m_Country.findData(code), 0));
+}
+
+void cCalendarEditor::ConnectChoices() {
+    connect(&m_Previous, &QToolButton::clicked, this, [this] { MoveMonth(-1); });
+    connect(&m_Next, &QToolButton::clicked, this, [this] { MoveMonth(1); });
+    connect(&m_Today, &QToolButton::clicked, this, &cCalendarEditor::ShowToday);
+    connect(&m_Year, &QSpinBox::valueChanged, this, &cCalendarEditor::ShowChosenMonth);
+    connect(&m_MonthNames, &QComboBox::currentIndexChanged, this, &cCalendarEditor::ShowChosenMonth);
+    connect(&m_Country, &QComboBox::activated, this, [this] {
+        m_Services.m_Ini.PutIniString(kIniSection, kIniHolidays,
+                                      FromQString(m_Country.currentData().toString()), kDefinitionsIni);
+        TakeCountry();
+    });
+    connect(&m_Schedule, &QComboBox::currentIndexChanged, this, &cCalendarEditor::TakeSchedule);
+    connect(&m_ShowTimeAxis, &QCheckBox::toggled, this, [this](bool show) {
+        m_Calendar.m_ShowTimeAxis = show ? True16 : False16;
+        m_View.update();
+    });
+}
+
+void cCalendarEditor::TakeCountry() {
+    m_Holidays = PublicHolidays(FromQString(m_Country.currentData().toString()));
+    m_View.update();
+}
+
+// --- time axis
+
+void cCalendarEditor::SetSchedules(const QList<cNamedSchedule>& schedules) {
+    const QSignalBlocker blocker(m_Schedule);
+    const cTimeSchedule* chosen = m_Calendar.m_AssociatedTimeSchedule;
+    m_Schedules = schedules;
+    m_Schedule.clear();
+    m_Schedule.addItem(tr("None"));
+    for (const cNamedSchedule& each : m_Schedules) m_Schedule.addItem(each.name);
+    ChooseSchedule(chosen);
+    TakeSchedule();
+}
+
+void cCalendarEditor::ChooseSchedule(const cTimeSchedule* schedule) {
+    int index = 0;
+    for (int i = 0; i < m_Schedules.size(); ++i) {
+        if (m_Schedules[i].schedule == schedule) index = i + 1;
+    }
+    m_Schedule.setCurrentIndex(index);
+}
+
+void cCalendarEditor::TakeSchedule() {
+    const int index = m_Schedule.currentIndex() - 1;
+    m_Calendar.m_AssociatedTimeSchedule = m_Schedules.value(index, {{}, nullptr}).schedule;
+    m_ShowTimeAxis.setEnabled(m_Calendar.m_AssociatedTimeSchedule != nullptr);
+    m_View.update();
+}
+
+// --- month
+
+void cCalendarEditor::ShowMonth(int year, int month) {
+    const QSignalBlocker noYear(m_Year), noMonth(m_MonthNames);
+    m_Year.setValue(year);
+    m_MonthNames.setCurrentIndex(month - 1);
+    m_Calendar.m_SelectedYear = year;
+    m_Calendar.m_SelectedMonth = month;
+    m_Calendar.RecalculateAndPrepareToPaint(*this, &m_View.Surface());
+    m_Previous.setEnabled(year > kFirstCalendarYear || month > 1);
+    m_Next.setEnabled(year < kLastCalendarYear || month < 12);
+    m_Day = std::min(m_Day, m_Calendar.m_DaysInActualMonth - 1);
+    ForgetPointer();
+    // The month's name is among what the calendar tells while it paints.
+    m_Calendar.Paint(*this, &m_View.Surface());
+}
+
+void cCalendarEditor::ShowChosenMonth() {
+    ShowMonth(m_Year.value(), m_MonthNames.currentIndex() + 1);
+}
+
+// Outside the calendar's years the nearest month that it has.
+void cCalendarEditor::ShowToday() {
+    const cDateParts today = SplitDateTime(m_Services.m_Clock.Now());
+    m_Day = today.day - 1;
+    if (today.year < kFirstCalendarYear) return ShowMonth(kFirstCalendarYear, 1);
+    if (today.year > kLastCalendarYear) return ShowMonth(kLastCalendarYear, 12);
+    ShowMonth(today.year, today.month);
+}
+
+void cCalendarEditor::MoveMonth(int months) {
+    const int month = m_Calendar.m_SelectedYear * 12 + m_Calendar.m_SelectedMonth - 1 + months;
+    if (month / 12 < kFirstCalendarYear || month / 12 > kLastCalendarYear) return;
+    ShowMonth(month / 12, month % 12 + 1);
+}
+
+// --- content
+
+void cCalendarEditor::ReadFile(const std::string& path) {
+    LoadCalendarFile(m_Services.m_Files, path, m_Calendar);
+    m_View.update();
+}
+
+void cCalendarEditor::WriteFile(const std::string& path) {
+    m_Calendar.SaveToDisk(path);
+}
+
+std::string cCalendarEditor::State() const {
+    cBinaryWriter state;
+    for (std::int32_t i = 0; i < kCalendarDays; ++i) state.Int16(m_Calendar.GetDayType(i));
+    return state.Bytes();
+}
+
+void cCalendarEditor::Restore(const std::string& state) {
+    m_Painting = false;
+    m_Calendar.MouseUp(*this, &m_View.Surface(), 1, 0, 0, 0);
+    cBinaryReader reader(state);
+    for (std::int32_t i = 0; i < kCalendarDays; ++i) m_Calendar.SetDayType(i, reader.Int16());
+    m_View.update();
+}
+
+void cCalendarEditor::SetZoom(double zoom) {
+    m_View.Surface().SetZoom(zoom);
+    m_View.setFixedSize(static_cast<int>(std::lround((kGridRight + 8) * zoom)),
+                        static_cast<int>(std::lround((kGridBottom + 6) * zoom)));
+}
+
+// --- container
+
+void cCalendarEditor::Draw_ImageList_ListImages(DeviceContext context, std::int16_t image, double x,
+                                                double y) {
+    cPaintSurface& surface = m_View.Surface();
+    if (context != surface.GetDeviceContext()) return;
+    surface.DrawImage(
+        [&](int size, qreal scale) { return m_Services.m_DayTypeImages.Image(image, size, scale); }, x, y,
+        kDayTypeImageSize);
+}
+
+std::optional<std::string> cCalendarEditor::Get_Combo_Calendar_DayType_SelectedItem() const {
+    if (m_DayType.currentIndex() < 0) return std::nullopt;
+    return FromQString(m_DayType.currentText());
+}
+std::int16_t cCalendarEditor::Get_Combo_Calendar_DayType_SelectedItem_Index() const {
+    return static_cast<std::int16_t>(m_DayType.currentIndex() + 1);
+}
+std::string cCalendarEditor::Get_Combo_Calendar_DayType_ComboItems(std::int16_t number) const {
+    return m_Services.m_DayTypeNames.Entry(number);
+}
+void cCalendarEditor::Set_Text_Calendar_Month(std::string_view text) {
+    m_Month.setText(ToQString(text));
+}
+
+}  // namespace vigrel

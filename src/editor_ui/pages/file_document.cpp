@@ -1,0 +1,101 @@
+#include "editor_ui/pages/file_document.h"
+
+#include <QDir>
+#include <QWidget>
+#include <utility>
+
+#include "adapters/qt/qt_text.h"
+#include "common/failure.h"
+#include "common/file_procedures.h"
+
+namespace vigrel {
+namespace {
+
+// With the separators of this system, as the operator knows them.
+QString ShownPath(const std::string& path) {
+    return QDir::fromNativeSeparators(ToQString(path)).replace('\\', '/');
+}
+
+}  // namespace
+
+cFileDocument::cFileDocument(cEditorServices& services, cFileForm form, QWidget* owner)
+    : QObject(owner),
+      m_Services(services),
+      m_Form(std::move(form)),
+      m_Owner(owner),
+      m_StateInFile(m_Form.state()) {}
+
+QString cFileDocument::Title() const {
+    return m_Path.empty() ? m_Form.newName : ToQString(SplitPath(m_Path).name);
+}
+
+QString cFileDocument::Path() const {
+    return ShownPath(m_Path);
+}
+
+void cFileDocument::NoteChange() {
+    const bool dirty = m_Form.state() != m_StateInFile;
+    if (dirty == std::exchange(m_Dirty, dirty)) return;
+    emit StateChanged();
+}
+
+// The file holds what the editor shows.
+void cFileDocument::Take(const std::string& path) {
+    m_Path = path;
+    m_Stamp = m_Services.m_Files.Stamp(path);
+    m_StateInFile = m_Form.state();
+    m_Dirty = false;
+    emit StateChanged();
+    emit FileUsed(Path());
+}
+
+bool cFileDocument::Open(const std::string& path) {
+    if (const auto failure = CatchFailure([&] { m_Form.read(path); })) {
+        m_Services.m_Prompts.ShowFailure(m_Owner, ShownPath(failure->what()));
+        return false;
+    }
+    Take(path);
+    return true;
+}
+
+bool cFileDocument::Save() {
+    if (m_Path.empty()) return SaveAs();
+    return MayReplace(m_Path) && WriteTo(m_Path);
+}
+
+// Another program, or another window, may have written the file meanwhile.
+bool cFileDocument::MayReplace(const std::string& path) {
+    const cFileReader::cStamp now = m_Services.m_Files.Stamp(path);
+    if (now.size < 0 || now == m_Stamp) return true;
+    return m_Services.m_Prompts.AskYesNo(
+        m_Owner, tr("%1 was changed by somebody else since it was opened. Replace it?").arg(ShownPath(path)));
+}
+
+bool cFileDocument::SaveAs() {
+    const QString suggestion =
+        m_Path.empty()
+            ? ShownPath(m_Services.m_Ini.FullPath(FromQString(m_Form.newName))) + "." + m_Form.suffix
+            : Path();
+    const QString chosen =
+        m_Services.m_Prompts.AskSavePath(m_Owner, suggestion, m_Form.filter, m_Form.suffix);
+    if (chosen.isEmpty()) return false;
+    if (!FitsCodePage(chosen)) {
+        m_Services.m_Prompts.ShowFailure(
+            m_Owner, tr("%1 has characters that file names here can't have.").arg(chosen));
+        return false;
+    }
+    return WriteTo(FromQString(chosen));
+}
+
+bool cFileDocument::WriteTo(const std::string& path) {
+    if (const auto failure = CatchFailure([&] { m_Form.write(path); })) {
+        m_Services.m_Prompts.ShowFailure(m_Owner,
+                                         tr("The file was not saved.\n%1").arg(ShownPath(failure->what())));
+        return false;
+    }
+    Take(path);
+    emit Message(tr("Saved %1").arg(Path()));
+    return true;
+}
+
+}  // namespace vigrel

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <functional>
+#include <string>
+
+#include "editor_ui/pages/editor_services.h"
+#include "platform/files.h"
+
+class QWidget;
+
+namespace vigrel {
+
+// How the content of an editor lies in a file.
+struct cFileForm {
+    QString newName;         // of a content that has no file yet
+    QString filter, suffix;  // for the dialogs
+    // To and from the editor; they may throw cFailure, and a failed read leaves the content alone.
+    std::function<void(const std::string&path)> read, write;
+    // The content as a text.
+    std::function<std::string()> state;
+};
+
+// The file behind an editor: opened, saved, and whether it holds what the editor shows. What goes wrong is
+// told over the owner's window.
+class cFileDocument : public QObject {
+    Q_OBJECT
+  public:
+    // The services must outlive the document.
+    cFileDocument(cEditorServices& services, cFileForm form, QWidget* owner);
+
+    QString Title() const;  // the file's name
+    QString Path() const;   // empty for none
+    bool IsDirty() const { return m_Dirty; }
+    // The content has changed, or has come to be what it was.
+    void NoteChange();
+
+    // Each is false, after telling why, when the file can't be read or written, and when the user refuses.
+    bool Open(const std::string& path);
+    bool Save();
+    bool SaveAs();
+
+  signals:
+    // Title, path or dirty state have changed.
+    void StateChanged();
+    // A file was opened or saved.
+    void FileUsed(const QString& path);
+    void Message(const QString& text);
+
+  private:
+    bool MayReplace(const std::string& path);
+    bool WriteTo(const std::string& path);
+    void Take(const std::string& path);
+
+    cEditorServices& m_Services;
+    cFileForm m_Form;
+    QWidget* m_Owner;
+    std::string m_Path;
+    cFileReader::cStamp m_Stamp;  // of the file as it was read or written last
+    std::string m_StateInFile;
+    bool m_Dirty = false;
+};
+
+}  // namespace vigrel

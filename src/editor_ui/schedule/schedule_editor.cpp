@@ -1,0 +1,229 @@
+#include "editor_ui/schedule/schedule_editor.h"
+
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+#include "adapters/qt/qt_text.h"
+#include "schedule/definition_files.h"
+
+namespace vigrel {
+namespace {
+
+constexpr int kTimeLength = 8;  // characters that a time can be typed in
+
+}  // namespace
+
+cScheduleEditor::cScheduleEditor(cEditorServices& services, QWidget* parent)
+    : cContentEditor(parent),
+      m_Services(services),
+      m_Hours(this),
+      m_Frame(this),
+      m_ViewDayType(tr("Day &names in the rows")),
+      m_UseCalendar(tr("&Special day types")),
+      m_Popup(this),
+      m_Images(tr("I&mage of the day type"), this) {
+    setObjectName("Editor_Schedule");
+    setFocusProxy(&m_Frame.View());
+    m_Schedule.SetDefaultPeriod();
+    MakeActions();
+    MakeImageMenu();
+    MakeLayout();
+    ConnectView();
+    SetZoom(1);
+    FillDayTypes();
+}
+
+void cScheduleEditor::MakeLayout() {
+    auto* tools = new QVBoxLayout;
+    tools->addWidget(MakePeriodBox());
+    tools->addWidget(MakeDayTypeBox(), 1);
+    auto* hint =
+        new QLabel(tr("Drag in a row to make a period, drag its ends to change it. The right mouse "
+                      "button opens the menu."));
+    hint->setWordWrap(true);
+    auto* drawing = new QVBoxLayout;
+    drawing->setSpacing(2);
+    drawing->addWidget(&m_Hours);
+    drawing->addWidget(&m_Frame);
+    drawing->addWidget(hint);
+    drawing->addStretch(1);
+    auto* layout = new QHBoxLayout(this);
+    layout->addLayout(drawing);
+    layout->addLayout(tools, 1);
+}
+
+QWidget* cScheduleEditor::MakePeriodBox() {
+    auto* box = new QGroupBox(tr("Selected period"));
+    auto* form = new QFormLayout(box);
+    m_Start.setObjectName("Text_Schedule_Period_Start");
+    m_Stop.setObjectName("Text_Schedule_Period_Stop");
+    m_Time.setObjectName("Text_Schedule_Time");
+    m_Time.setAccessibleName(tr("Time under the pointer"));
+    for (QLineEdit* field : {&m_Start, &m_Stop}) {
+        field->setMaxLength(kTimeLength);
+        field->setMaximumWidth(field->fontMetrics().averageCharWidth() * 3 * kTimeLength);
+        field->setToolTip(tr("A time of day, such as 8, 0830 or 16:30"));
+        // On the way from one field to the other half of what is meant stands there, and the schedule would
+        // swap a start that lies behind the old stop.
+        const QLineEdit* other = field == &m_Start ? &m_Stop : &m_Start;
+        connect(field, &QLineEdit::editingFinished, this, [this, other] {
+            if (!other->hasFocus()) TakeTimes();
+        });
+    }
+    form->addRow(tr("S&tart"), &m_Start);
+    form->addRow(tr("Sto&p"), &m_Stop);
+    form->addRow(tr("Pointer at"), &m_Time);
+    return box;
+}
+
+QWidget* cScheduleEditor::MakeDayTypeBox() {
+    auto* box = new QGroupBox(tr("Rows"));
+    auto* layout = new QVBoxLayout(box);
+    m_ViewDayType.setObjectName("Check_TimeSchedule_ViewDayType");
+    m_UseCalendar.setObjectName("Check_TimeSchedule_UseCalendar");
+    m_UseCalendar.setToolTip(tr("Rows for the day types that a calendar gives to dates"));
+    m_DayTypes.setObjectName("List_DayTypes");
+    m_DayTypes.setAccessibleName(tr("Day types in use"));
+    layout->addWidget(&m_ViewDayType);
+    layout->addWidget(&m_UseCalendar);
+    layout->addWidget(&m_DayTypes, 1);
+    connect(&m_ViewDayType, &QCheckBox::toggled, this, [this] { m_Frame.View().update(); });
+    connect(&m_UseCalendar, &QCheckBox::clicked, this, &cScheduleEditor::TakeUseCalendar);
+    connect(&m_DayTypes, &QListWidget::itemChanged, this,
+            [this](const QListWidgetItem* item) { TakeDayType(*item); });
+    m_DayTypes.addActions({m_Rename, m_Images.menuAction()});
+    m_DayTypes.setContextMenuPolicy(Qt::ActionsContextMenu);
+    return box;
+}
+
+void cScheduleEditor::ConnectView() {
+    cDrawingView& view = m_Frame.View();
+    view.OnPaint = [this](QPainter& painter) {
+        m_Schedule.Paint(*this, &m_Frame.View().Surface());
+        PaintFocus(painter);
+    };
+    view.OnMouseDown = [this](auto... event) { MouseDown(event...); };
+    view.OnMouseUp = [this](auto... event) { MouseUp(event...); };
+    view.OnMouseMove = [this](std::int16_t button, std::int16_t shift, QPoint unit) {
+        m_Schedule.MouseMove(*this, m_SchedulePaintObject, button, shift, static_cast<float>(unit.x()),
+                             static_cast<float>(unit.y()));
+    };
+    view.OnPopupMenu = [this](QPoint place) { ShowPopupMenu(place); };
+    view.OnKey = [this](const QKeyEvent& event) { return Key(event); };
+}
+
+// --- content
+
+void cScheduleEditor::ReadFile(const std::string& path) {
+    LoadScheduleFile(m_Services.m_Files, path, m_Schedule);
+    m_Schedule.ClearSelection(*this);
+    Recalculate();
+}
+
+void cScheduleEditor::WriteFile(const std::string& path) {
+    SaveScheduleFile(m_Services.m_Files, path, m_Schedule);
+}
+
+std::string cScheduleEditor::State() const {
+    std::string state;
+    m_Schedule.ComposePeriodArray(state);
+    return state;
+}
+
+void cScheduleEditor::Restore(const std::string& state) {
+    // A drag that is under way has lost its period.
+    m_Schedule.MouseUp(*this, m_SchedulePaintObject, 1, 0, 0, 0);
+    m_Schedule.ExtractPeriodArray(state);
+    m_Schedule.ClearSelection(*this);
+    Recalculate();
+}
+
+void cScheduleEditor::SetZoom(double zoom) {
+    m_Frame.SetZoom(zoom);
+    m_Hours.Follow(zoom, m_Frame.frameWidth());
+    Recalculate();
+}
+
+void cScheduleEditor::Recalculate() {
+    m_Schedule.RecalculateAndPrepareToPaint(*this, m_SchedulePaintObject, &m_Frame.View().Surface());
+    m_Frame.View().update();
+    Refresh();
+}
+
+void cScheduleEditor::RefreshDayTypes() {
+    FillDayTypes();
+    m_Frame.View().update();
+}
+
+void cScheduleEditor::FillDayTypes() {
+    const QSignalBlocker blocker(m_DayTypes);
+    const int current = m_DayTypes.currentRow();
+    m_DayTypes.clear();
+    for (std::int16_t dayType = 0; dayType < kDayTypes; ++dayType) {
+        auto* item = new QListWidgetItem(ToQString(m_Services.m_DayTypeNames.Name(dayType)), &m_DayTypes);
+        item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
+        if (dayType >= kWeekDays) {
+            item->setIcon(m_Services.m_DayTypeImages.Icon(dayType - kWeekDays + 1, devicePixelRatioF()));
+        }
+    }
+    m_DayTypes.setCurrentRow(current);
+    Refresh();
+}
+
+void cScheduleEditor::Refresh() {
+    const QSignalBlocker blocker(m_DayTypes);
+    m_UseCalendar.setChecked(m_Schedule.m_UseCalendar != False16);
+    for (std::int16_t dayType = 0; dayType < kDayTypes && dayType < m_DayTypes.count(); ++dayType) {
+        QListWidgetItem* item = m_DayTypes.item(dayType);
+        item->setCheckState(m_Schedule.GetActive(dayType) ? Qt::Checked : Qt::Unchecked);
+        item->setHidden(dayType >= kWeekDays && m_Schedule.m_UseCalendar == False16);
+    }
+    const bool hasDay = m_Schedule.SelectedDayType() >= 0;
+    for (QAction* action : {m_Copy, m_WholeDay, m_Invert, m_Grouped}) action->setEnabled(hasDay);
+    EnableTimes();
+    m_Schedule.PreparePopupMenu(*this);
+}
+
+// What a drag shows is to be read well, though nothing is typed then.
+void cScheduleEditor::EnableTimes() {
+    const bool shown = m_Schedule.SelectedPeriod() != nullptr || m_Schedule.IsDragging();
+    for (QLineEdit* field : {&m_Start, &m_Stop}) field->setEnabled(shown);
+}
+
+// --- container
+
+void cScheduleEditor::Draw_ImageList_ListImages(DeviceContext context, std::int16_t image, double x,
+                                                double y) {
+    cPaintSurface& surface = m_Frame.View().Surface();
+    if (context != surface.GetDeviceContext()) return;
+    surface.DrawImage(
+        [&](int size, qreal scale) { return m_Services.m_DayTypeImages.Image(image, size, scale); }, x, y,
+        kDayTypeImageSize);
+}
+
+bool cScheduleEditor::Get_Menu_TimeSchedulePopup_Grouped_MonFri_Checked() const {
+    return m_GroupedMonFri->isChecked();
+}
+void cScheduleEditor::Set_Menu_TimeSchedulePopup_Grouped_MonFri_Checked(bool checked) {
+    m_GroupedMonFri->setChecked(checked);
+}
+std::string cScheduleEditor::Get_Text_Schedule_Period_Start() const {
+    return FromQString(m_Start.text());
+}
+std::string cScheduleEditor::Get_Text_Schedule_Period_Stop() const {
+    return FromQString(m_Stop.text());
+}
+void cScheduleEditor::Set_Text_Schedule_Period_Start(std::string_view text) {
+    m_Start.setText(ToQString(text));
+}
+void cScheduleEditor::Set_Text_Schedule_Period_Stop(std::string_view text) {
+    m_Stop.setText(ToQString(text));
+}
+void cScheduleEditor::Set_Text_Schedule_Time(std::string_view text) {
+    m_Time.setText(ToQString(text));
+}
+
+}  // namespace vigrel

@@ -1,0 +1,132 @@
+#pragma once
+
+#include <QAction>
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+
+#include "editor_ui/pages/content_editor.h"
+#include "editor_ui/pages/editor_services.h"
+#include "editor_ui/schedule/hour_scale.h"
+#include "editor_ui/schedule/schedule_frame.h"
+#include "schedule/time_schedule.h"
+
+namespace vigrel {
+
+// A time schedule, drawn and edited by mouse, keys and menu.
+class cScheduleEditor : public cContentEditor, private cTimeScheduleContainer {
+    Q_OBJECT
+  public:
+    // A new schedule: Monday to Friday from 07:00 to 16:00.
+    explicit cScheduleEditor(cEditorServices& services, QWidget* parent = nullptr);
+
+    const cTimeSchedule& Schedule() const { return m_Schedule; }
+    // The file of docs/formats/schedule.md; both may throw cFailure.
+    void ReadFile(const std::string& path);
+    void WriteFile(const std::string& path);
+    std::string State() const override;
+    void Restore(const std::string& state) override;
+    // Whether the rows show the names of their days.
+    QCheckBox& ViewDayType() { return m_ViewDayType; }
+    QList<QAction*> EditActions() const override;
+    void SetZoom(double zoom) override;
+    void RefreshDayTypes() override;
+
+  private:
+    // --- cTimeScheduleContainer
+    const cDayNames& DayNames() const override { return m_Services.m_DayTypeNames.DayNames(); }
+    double Get_ImageList_ImageHeight() const override { return kDayTypeImageSize; }
+    double Get_ImageList_ImageWidth() const override { return kDayTypeImageSize; }
+    void Draw_ImageList_ListImages(DeviceContext context, std::int16_t image, double x, double y) override;
+    bool Get_Check_TimeSchedule_ViewDayType() const override { return m_ViewDayType.isChecked(); }
+    bool Get_Menu_TimeSchedulePopup_Grouped_MonFri_Checked() const override;
+    double Get_Picture_TimeSchedule_Frame_ScaleHeight() const override { return m_Frame.ScaleHeight(); }
+    double Get_Picture_TimeSchedule_Frame_ScaleWidth() const override { return m_Frame.ScaleWidth(); }
+    std::string Get_Text_Schedule_Period_Start() const override;
+    std::string Get_Text_Schedule_Period_Stop() const override;
+    double Get_VScroll_Schedule_Left() const override { return m_Frame.ScrollLeft(); }
+    double Get_VScroll_Schedule_Width() const override { return m_Frame.ScrollWidth(); }
+    void Set_Menu_TimeSchedulePopup_Delete_Enabled(bool enabled) override { m_Delete->setEnabled(enabled); }
+    void Set_Menu_TimeSchedulePopup_Grouped_Checked(bool checked) override { m_Grouped->setChecked(checked); }
+    void Set_Menu_TimeSchedulePopup_Grouped_MonFri_Checked(bool checked) override;
+    void Set_Menu_TimeSchedulePopup_Paste_Enabled(bool enabled) override { m_Paste->setEnabled(enabled); }
+    void Set_Picture_TimeSchedule_Height(double height) override { m_Frame.SetViewHeight(height); }
+    void Set_Picture_TimeSchedule_Left(double left) override { m_Frame.SetViewLeft(left); }
+    void Set_Picture_TimeSchedule_Top(double top) override { m_Frame.SetViewTop(top); }
+    void Set_Picture_TimeSchedule_Width(double width) override { m_Frame.SetViewWidth(width); }
+    void Set_Text_Schedule_Period_Start(std::string_view text) override;
+    void Set_Text_Schedule_Period_Stop(std::string_view text) override;
+    void Set_Text_Schedule_Time(std::string_view text) override;
+    void Set_VScroll_Schedule_Height(double height) override { m_Frame.SetScrollHeight(height); }
+    void Set_VScroll_Schedule_Left(double left) override { m_Frame.SetScrollLeft(left); }
+    void Set_VScroll_Schedule_Max(std::int16_t max) override { m_Frame.SetScrollMax(max); }
+    void Set_VScroll_Schedule_Top(double top) override { m_Frame.SetScrollTop(top); }
+
+    void MakeActions();
+    QAction* MakeAction(const char* name, const QString& text, const QKeySequence& keys,
+                        void (cScheduleEditor::*chosen)());
+    void MakeImageMenu();
+    void MakeLayout();
+    QWidget* MakePeriodBox();
+    QWidget* MakeDayTypeBox();
+    void ConnectView();
+    void FillDayTypes();
+
+    // --- commands
+    using Operation = void (cTimeSchedule::*)(cTimeScheduleContainer&, cPaintObject*);
+    void Run(const QString& name, Operation operation);
+    void Delete();
+    void Copy();
+    void Paste();
+    void WholeDay();
+    void Invert();
+    void Group();
+    void GroupMonFri();
+    void Rename();
+    void ChooseImage(int drawing);
+    // The day type of the list's current entry, else the selected row's, as the number of a special type.
+    // None for another one; the operator has been told.
+    std::optional<int> ChosenSpecialType();
+    void ShowNotStored();
+    void TakeTimes();
+    void TakeDayType(const QListWidgetItem& item);
+    void TakeUseCalendar(bool use);
+
+    // --- mouse and keys
+    void MouseDown(std::int16_t button, std::int16_t shift, QPoint unit);
+    void MouseUp(std::int16_t button, std::int16_t shift, QPoint unit);
+    bool Key(const QKeyEvent& event);
+    void ShowPopupMenu(QPoint place);
+    void Choose(int row, int minute);
+    void ChooseRow(int step);
+    void ChooseRowAgain(int row);
+    void ChoosePeriod(int step);
+    void MoveEnd(QLineEdit& field, int minutes);
+    void NewPeriod();
+    int RowOf(std::int32_t dayType) const;
+    int DayTypeOfRow(int row) const;
+    PeriodList PeriodsOf(std::int32_t dayType) const;
+
+    void Recalculate();
+    void PaintFocus(QPainter& painter);
+    // After anything that can change what is selected.
+    void Refresh();
+    void EnableTimes();
+
+    cEditorServices& m_Services;
+    cTimeSchedule m_Schedule;
+    cPaintObject* m_SchedulePaintObject = nullptr;
+    cHourScale m_Hours;
+    cScheduleFrame m_Frame;
+    QLineEdit m_Start, m_Stop;
+    QLabel m_Time;
+    QCheckBox m_ViewDayType, m_UseCalendar;
+    QListWidget m_DayTypes;
+    QMenu m_Popup, m_Images;
+    QAction *m_Delete = nullptr, *m_Copy = nullptr, *m_Paste = nullptr, *m_WholeDay = nullptr,
+            *m_Invert = nullptr, *m_Grouped = nullptr, *m_GroupedMonFri = nullptr, *m_Rename = nullptr;
+};
+
+}  // namespace vigrel
