@@ -22,6 +22,14 @@ void cLog::WriteLog(std::string_view text) {
     });
 }
 
+// The write protection is taken away only where it stands in the way: whoever may remove a file need not be
+// the one who may change it.
+void cLog::RemoveLog(const std::string& path) {
+    if (SkipFailure([&] { m_Files.RemoveFile(path); })) return;
+    SkipFailure([&] { m_Files.SetNormalAttributes(path); });
+    m_Files.RemoveFile(path);
+}
+
 void cLog::CleanLogFiles(std::string_view mask, std::int16_t keepForDays) {
     for (const std::string& found : m_Files.ListFiles(m_Folder, mask)) {
         const std::string name = ToUpper(found);
@@ -32,8 +40,7 @@ void cLog::CleanLogFiles(std::string_view mask, std::int16_t keepForDays) {
                            (now.day - Val(Mid(stem, 7, 2)));
         if (age <= keepForDays) continue;
         const std::string path = m_Folder + stem + ".LOG";
-        m_Files.SetNormalAttributes(path);
-        m_Files.RemoveFile(path);
+        RemoveLog(path);
         WriteLog(m_Texts.GetText(141) + " " + path + ")");
     }
 }

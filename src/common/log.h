@@ -23,6 +23,8 @@ class cLog {
     void CleanLogFiles(std::string_view mask, std::int16_t keepForDays);
 
   private:
+    void RemoveLog(const std::string& path);
+
     cFiles& m_Files;
     const cClock& m_Clock;
     const cTexts& m_Texts;
