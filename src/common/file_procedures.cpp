@@ -1,5 +1,6 @@
 #include "common/file_procedures.h"
 
+#include <functional>
 #include <utility>
 
 #include "common/failure.h"
@@ -10,6 +11,21 @@ namespace {
 
 std::string TemporaryName(std::string_view path) {
     return std::string(path) + std::string(kTemporaryMask.substr(1));
+}
+
+// What prepare does to the temporary stays with the file.
+void Replace(cFiles& files, std::string_view path, std::string_view bytes,
+             const std::function<void(const std::string& temporary)>& prepare) {
+    const std::string temporary = TemporaryName(path);
+    try {
+        files.WriteFile(temporary, bytes, true);
+        prepare(temporary);
+        files.RenameFile(temporary, path);
+    } catch (const cFailure&) {
+        SkipFailure([&] { files.RemoveFile(temporary); });
+        throw;
+    }
+    files.SyncFolder(SplitPath(path).folder);
 }
 
 }  // namespace
@@ -62,15 +78,13 @@ void CopyMissingFiles(cFiles& files, std::string_view sourceFolder, std::string_
 }
 
 void ReplaceFile(cFiles& files, std::string_view path, std::string_view bytes) {
-    const std::string temporary = TemporaryName(path);
-    try {
-        files.WriteFile(temporary, bytes, true);
-        files.RenameFile(temporary, path);
-    } catch (const cFailure&) {
-        SkipFailure([&] { files.RemoveFile(temporary); });
-        throw;
-    }
-    files.SyncFolder(SplitPath(path).folder);
+    const std::string target = files.LinkTarget(path);
+    Replace(files, target, bytes,
+            [&](const std::string& temporary) { files.CopyAttributes(target, temporary); });
+}
+
+void ReplaceOwnFile(cFiles& files, std::string_view path, std::string_view bytes) {
+    Replace(files, path, bytes, [](const std::string&) {});
 }
 
 bool cReplaceBatch::Add(std::string_view path, std::string_view bytes) {

@@ -48,7 +48,13 @@ cPathParts SplitPath(std::string_view path);
 // Replaces a file as a whole: written to a temporary beside it, synced, renamed over it, and the folder
 // synced. When the call returns the new content survives a crash; a crash before that leaves the old file or
 // the new one, whole. On failure cFailure is thrown and the temporary is gone.
+//
+// The file is one that people set up: a link that they made leads to it still, and it keeps its mode and
+// owner as far as the system lets us.
 void ReplaceFile(cFiles& files, std::string_view path, std::string_view bytes);
+// The same for a file that the program alone names and makes: there is nothing to keep, and nothing to look
+// for.
+void ReplaceOwnFile(cFiles& files, std::string_view path, std::string_view bytes);
 
 // Replaces many files of one folder with a single wait for the disk in place of two for each. The same holds
 // for each file as with ReplaceFile, and for all of them once Commit has returned.

@@ -61,7 +61,7 @@ std::string cAlarmStore::Bytes(cVigrelRecieverAlarm& alarm) {
 bool cAlarmStore::TrySave(cVigrelRecieverAlarm& alarm) {
     return SkipFailure([&] {
         const std::string bytes = Bytes(alarm);
-        ReplaceFile(m_Services.files, FileName(alarm.m_FileId), bytes);
+        ReplaceOwnFile(m_Services.files, FileName(alarm.m_FileId), bytes);
     });
 }
 

@@ -37,8 +37,10 @@ class cFileReader {
 
 class cFiles : public cFileReader {
   public:
-    // Creates the file or replaces its content. With sync the bytes are on the disk before the call returns.
+    // Makes the file anew, in place of a file or a link of that name: nothing that stood there is written
+    // through. With sync the bytes are on the disk before the call returns.
     virtual void WriteFile(std::string_view path, std::string_view bytes, bool sync) = 0;
+    // Creates the file when it is missing. A link of that name is a failure.
     virtual void AppendFile(std::string_view path, std::string_view bytes) = 0;
     virtual void RemoveFile(std::string_view path) = 0;
     // Replaces an existing target in one step: at any moment the target is the old file or the new one,
@@ -51,6 +53,12 @@ class cFiles : public cFileReader {
     virtual void MakeFolder(std::string_view path) = 0;  // a failure when it exists already
     // Takes a write protection away from a file.
     virtual void SetNormalAttributes(std::string_view path) = 0;
+    // The path of the file that a name leads to by links; the path itself when it is no link. A link that
+    // somebody planted who has no say over the folder is a failure (PermissionDenied).
+    virtual std::string LinkTarget(std::string_view path) const = 0;
+    // Gives a file the mode and owner of another, as far as the system lets us and never opening it to more
+    // users than the other; nothing when the other does not exist. Does not fail.
+    virtual void CopyAttributes(std::string_view from, std::string_view to) = 0;
 };
 
 }  // namespace vigrel

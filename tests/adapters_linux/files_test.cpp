@@ -21,7 +21,7 @@ INSTANTIATE_TYPED_TEST_SUITE_P(Linux, FilesContract, cLinuxFilesRig);
 TEST(LinuxFiles, AFullDeviceIsAFailureOfItsOwn) {
     cLinuxFiles files;
     try {
-        files.WriteFile("/dev/full", "x", false);
+        files.AppendFile("/dev/full", "x");
         FAIL() << "no failure";
     } catch (const cFailure& failure) {
         EXPECT_EQ(failure.Number(), eFailure::DiskFull);

@@ -28,6 +28,8 @@ class cFakeFiles : public cFiles {
     void SyncFileSystem(std::string_view folder) override;
     void MakeFolder(std::string_view path) override;
     void SetNormalAttributes(std::string_view path) override;
+    std::string LinkTarget(std::string_view path) const override { return std::string(path); }
+    void CopyAttributes(std::string_view, std::string_view) override {}
 
     // --- for tests
     // Puts a durable file in place, with its folders.

@@ -33,6 +33,8 @@ class cReadOnlyFiles : public cFiles {
     void SyncFileSystem(std::string_view folder) override { Refuse(folder); }
     void MakeFolder(std::string_view path) override { Refuse(path); }
     void SetNormalAttributes(std::string_view path) override { Refuse(path); }
+    std::string LinkTarget(std::string_view path) const override { Refuse(path); }
+    void CopyAttributes(std::string_view, std::string_view to) override { Refuse(to); }
 
   private:
     [[noreturn]] static void Refuse(std::string_view path) {

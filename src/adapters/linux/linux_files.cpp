@@ -43,10 +43,28 @@ eFailure FailureNumber(int error) {
     throw cFailure(FailureNumber(error), std::string(path) + ": " + std::strerror(error));
 }
 
+// Far above every file of the system; nothing larger is taken into memory.
+constexpr off_t kLargestFile = 64 << 20;
+
+// Why a file must not be read, whatever its rights: what waits for a partner, has no end or fills the memory
+// would take the program with it.
+const char* WhyNoFile(const struct stat& status) {
+    if (!S_ISREG(status.st_mode)) return "no ordinary file";
+    return status.st_size > kLargestFile ? "larger than 64 MB" : nullptr;
+}
+
+[[noreturn]] void FailAsNoFile(std::string_view path, const char* reason) {
+    throw cFailure(eFailure::PathAccess, std::string(path) + ": " + reason);
+}
+
+// Nothing that is opened may make the program wait.
+constexpr int kNeverWait = O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
+// As the umask allows.
+constexpr mode_t kFileMode = 0666, kFolderMode = 0777;
+
 class cDescriptor {
   public:
-    cDescriptor(std::string_view path, int flags) : m_Path(path) {
-        m_Descriptor = open(NativePath(path).c_str(), flags | O_CLOEXEC, 0666);
+    cDescriptor(std::string_view path, int descriptor) : m_Path(path), m_Descriptor(descriptor) {
         if (m_Descriptor < 0) Fail(path);
     }
     ~cDescriptor() {
@@ -72,6 +90,8 @@ class cDescriptor {
             if (count < 0) Fail(m_Path);
             if (count == 0) return content;
             content.append(buffer.data(), static_cast<std::size_t>(count));
+            // Somebody can make it grow, or put another in its place, after it was looked at.
+            if (content.size() > kLargestFile) FailAsNoFile(m_Path, "larger than 64 MB");
         }
     }
     void Sync() {
@@ -91,6 +111,32 @@ class cDescriptor {
     std::string m_Path;
     int m_Descriptor = -1;
 };
+
+cDescriptor Open(std::string_view path, int flags) {
+    return {path, open(NativePath(path).c_str(), flags | kNeverWait, kFileMode)};
+}
+
+// Only what WriteFile makes anew is taken away.
+void ClearName(const std::string& native, std::string_view path) {
+    struct stat status {};
+    if (lstat(native.c_str(), &status) != 0) return;
+    if (!S_ISREG(status.st_mode) && !S_ISLNK(status.st_mode)) FailAsNoFile(path, WhyNoFile(status));
+    if (unlink(native.c_str()) != 0) Fail(path);
+}
+
+// A file that nobody else has made, so that nobody else holds it open or has chosen where it lies.
+cDescriptor OpenNew(std::string_view path) {
+    const std::string native = NativePath(path);
+    const auto open = [&] {
+        return ::open(native.c_str(), O_WRONLY | O_CREAT | O_EXCL | kNeverWait, kFileMode);
+    };
+    int descriptor = open();
+    if (descriptor < 0 && errno == EEXIST) {
+        ClearName(native, path);
+        descriptor = open();
+    }
+    return {path, descriptor};
+}
 
 // Whether a name fits a mask of "?" and "*"; both in upper case. "*" tries the shortest run first and comes
 // back.
@@ -131,8 +177,12 @@ bool cLinuxFiles::FileExists(std::string_view path) const {
 }
 
 std::string cLinuxFiles::ReadFile(std::string_view path) const {
-    cDescriptor file(path, O_RDONLY);
-    return file.ReadAll();
+    struct stat status {};
+    const std::string native = NativePath(path);
+    if (stat(native.c_str(), &status) != 0) Fail(path);
+    // Before it is opened: that alone can set off a device.
+    if (const char* reason = WhyNoFile(status)) FailAsNoFile(path, reason);
+    return cDescriptor(path, open(native.c_str(), O_RDONLY | kNeverWait)).ReadAll();
 }
 
 std::vector<std::string> cLinuxFiles::ListFiles(std::string_view folder, std::string_view mask) const {
@@ -159,14 +209,14 @@ cFileReader::cStamp cLinuxFiles::Stamp(std::string_view path) const {
 }
 
 void cLinuxFiles::WriteFile(std::string_view path, std::string_view bytes, bool sync) {
-    cDescriptor file(path, O_WRONLY | O_CREAT | O_TRUNC);
+    cDescriptor file = OpenNew(path);
     file.Write(bytes);
     if (sync) file.Sync();
     file.Close();
 }
 
 void cLinuxFiles::AppendFile(std::string_view path, std::string_view bytes) {
-    cDescriptor file(path, O_WRONLY | O_CREAT | O_APPEND);
+    cDescriptor file = Open(path, O_WRONLY | O_CREAT | O_APPEND | O_NOFOLLOW);
     file.Write(bytes);
     file.Close();
 }
@@ -180,17 +230,15 @@ void cLinuxFiles::RenameFile(std::string_view from, std::string_view to) {
 }
 
 void cLinuxFiles::SyncFolder(std::string_view folder) {
-    cDescriptor descriptor(folder, O_RDONLY | O_DIRECTORY);
-    descriptor.Sync();
+    Open(folder, O_RDONLY | O_DIRECTORY).Sync();
 }
 
 void cLinuxFiles::SyncFileSystem(std::string_view folder) {
-    cDescriptor descriptor(folder, O_RDONLY | O_DIRECTORY);
-    descriptor.SyncFileSystem();
+    Open(folder, O_RDONLY | O_DIRECTORY).SyncFileSystem();
 }
 
 void cLinuxFiles::MakeFolder(std::string_view path) {
-    if (mkdir(NativePath(path).c_str(), 0777) != 0) Fail(path);
+    if (mkdir(NativePath(path).c_str(), kFolderMode) != 0) Fail(path);
 }
 
 void cLinuxFiles::SetNormalAttributes(std::string_view path) {

@@ -21,6 +21,8 @@ class cLinuxFiles : public cFiles {
     void SyncFileSystem(std::string_view folder) override;
     void MakeFolder(std::string_view path) override;
     void SetNormalAttributes(std::string_view path) override;
+    std::string LinkTarget(std::string_view path) const override;
+    void CopyAttributes(std::string_view from, std::string_view to) override;
 };
 
 // The path as the operating system knows it: separators mapped, and every part that exists under another case

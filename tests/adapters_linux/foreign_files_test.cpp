@@ -1,0 +1,154 @@
+// Files that somebody else put where the system's own would be.
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
+
+#include "adapters/linux/linux_files.h"
+#include "common/failure.h"
+#include "common/file_procedures.h"
+#include "support/temporary_folder.h"
+
+namespace vigrel::testing {
+namespace {
+
+namespace fs = std::filesystem;
+
+class ForeignFiles : public ::testing::Test {
+  protected:
+    std::string Path(const std::string& name) const { return m_Folder.Folder() + name; }
+    fs::path Native(const std::string& name) const { return m_Folder.Path() / name; }
+    void Put(const std::string& name, const std::string& content) {
+        m_Files.WriteFile(Path(name), content, false);
+    }
+    std::string Content(const std::string& name) const { return m_Files.ReadFile(Path(name)); }
+    struct stat Status(const std::string& name) const {
+        struct stat status {};
+        EXPECT_EQ(lstat(Native(name).c_str(), &status), 0) << name;
+        return status;
+    }
+    std::string WhyNotRead(const std::string& path) const {
+        const auto failure = CatchFailure([&] { m_Files.ReadFile(path); });
+        if (!failure) return "read";
+        EXPECT_EQ(failure->Number(), eFailure::PathAccess);
+        return failure->what();
+    }
+    cTemporaryFolder m_Folder;
+    cLinuxFiles m_Files;
+};
+
+TEST_F(ForeignFiles, WhatIsNoOrdinaryFileIsNotReadAndNotWaitedFor) {
+    ASSERT_EQ(mkfifo(Native("pipe").c_str(), 0666), 0);
+    fs::create_directory(Native("folder"));
+    fs::create_symlink("/dev/zero", Native("device"));
+    for (const char* name : {"pipe", "folder", "device"}) {
+        EXPECT_EQ(WhyNotRead(Path(name)), Path(name) + ": no ordinary file");
+    }
+}
+
+TEST_F(ForeignFiles, AFileLargerThanAnyOfTheSystemIsNotRead) {
+    Put("large", "");
+    constexpr off_t kMost = 64 << 20;
+    ASSERT_EQ(truncate(Native("large").c_str(), off_t{40} << 30), 0);
+    EXPECT_EQ(WhyNotRead(Path("large")), Path("large") + ": larger than 64 MB");
+    ASSERT_EQ(truncate(Native("large").c_str(), kMost), 0);
+    EXPECT_EQ(Content("large").size(), std::size_t{kMost});
+}
+
+// Such as files of the kernel, whose size says nothing.
+TEST_F(ForeignFiles, AFileThatHasNoEndIsNotReadWhateverItsSizeSays) {
+    const auto endless = [] {
+        struct stat status {};
+        return stat("/proc/self/pagemap", &status) == 0 && S_ISREG(status.st_mode) && status.st_size == 0;
+    };
+    ASSERT_TRUE(endless());
+    EXPECT_EQ(WhyNotRead("/proc/self/pagemap"), "/proc/self/pagemap: larger than 64 MB");
+}
+
+TEST_F(ForeignFiles, APipeIsNeitherWrittenNorWaitedFor) {
+    ASSERT_EQ(mkfifo(Native("pipe").c_str(), 0666), 0);
+    EXPECT_THROW(m_Files.AppendFile(Path("pipe"), "x"), cFailure);
+    EXPECT_THROW(m_Files.WriteFile(Path("pipe"), "x", true), cFailure);
+    EXPECT_TRUE(fs::is_fifo(Native("pipe")));
+}
+
+TEST_F(ForeignFiles, APlantedLinkIsNotWrittenThrough) {
+    Put("secret", "mine");
+    fs::create_symlink("secret", Native("20260315.Log"));
+    EXPECT_THROW(m_Files.AppendFile(Path("20260315.Log"), "line"), cFailure);
+    fs::create_symlink("secret", Native("A0000001.alm.$~"));
+    ReplaceOwnFile(m_Files, Path("A0000001.alm"), "alarm");
+    EXPECT_EQ(Content("A0000001.alm"), "alarm");
+    EXPECT_FALSE(fs::is_symlink(Native("A0000001.alm")));
+    EXPECT_EQ(Content("secret"), "mine");
+}
+
+TEST_F(ForeignFiles, ATemporaryThatSomebodyHoldsOpenIsNotUsed) {
+    Put("a.$~", "");
+    const int held = open(Native("a.$~").c_str(), O_RDWR);
+    ReplaceOwnFile(m_Files, Path("a"), "new");
+    EXPECT_EQ(write(held, "changed", 7), 7);
+    close(held);
+    EXPECT_EQ(Content("a"), "new");
+}
+
+TEST_F(ForeignFiles, AReplacedLinkLeadsToItsFileStill) {
+    fs::create_directory(Native("etc"));
+    Put("etc\\shared.ini", "old");
+    fs::create_symlink("etc/shared.ini", Native("second.ini"));
+    fs::create_symlink("second.ini", Native("VigrelReceiver.INI"));
+    ReplaceFile(m_Files, Path("vigrelreceiver.ini"), "new");
+    EXPECT_TRUE(fs::is_symlink(Native("VigrelReceiver.INI")));
+    EXPECT_TRUE(fs::is_symlink(Native("second.ini")));
+    EXPECT_FALSE(fs::is_symlink(Native("etc/shared.ini")));
+    EXPECT_EQ(Content("etc\\shared.ini"), "new");
+    EXPECT_EQ(m_Files.ListFiles(Path("etc"), "*").size(), 1u);
+}
+
+TEST_F(ForeignFiles, ALinkWhoseFileIsGoneGetsItBack) {
+    fs::create_symlink("gone.ini", Native("a.ini"));
+    ReplaceFile(m_Files, Path("a.ini"), "new");
+    EXPECT_TRUE(fs::is_symlink(Native("a.ini")));
+    EXPECT_EQ(Content("gone.ini"), "new");
+}
+
+TEST_F(ForeignFiles, LinksInACircleAreAFailure) {
+    fs::create_symlink("b", Native("a"));
+    fs::create_symlink("a", Native("b"));
+    EXPECT_THROW(ReplaceFile(m_Files, Path("a"), "new"), cFailure);
+}
+
+TEST_F(ForeignFiles, AReplacedFileKeepsItsModeAndOwner) {
+    for (const mode_t mode : {0600u, 0640u, 0664u, 0644u, 0400u}) {
+        Put("a.ini", "old");
+        // Only a privileged user can give a file away; any other one keeps his own.
+        static_cast<void>(!chown(Native("a.ini").c_str(), 4711, 4712));
+        chmod(Native("a.ini").c_str(), mode);
+        const struct stat before = Status("a.ini");
+        ReplaceFile(m_Files, Path("a.ini"), "new");
+        const struct stat after = Status("a.ini");
+        EXPECT_EQ(Content("a.ini"), "new");
+        EXPECT_EQ(after.st_mode & 07777, mode);
+        EXPECT_EQ(after.st_uid, before.st_uid);
+        EXPECT_EQ(after.st_gid, before.st_gid);
+    }
+}
+
+TEST_F(ForeignFiles, ALinkThatAnotherUserMadeIsNotFollowed) {
+    Put("other.ini", "old");
+    fs::create_symlink("other.ini", Native("a.ini"));
+    const bool planted = lchown(Native("a.ini").c_str(), 4711, 4711) == 0;
+    const auto failure = CatchFailure([&] { ReplaceFile(m_Files, Path("a.ini"), "new"); });
+    EXPECT_EQ(failure.has_value(), planted);
+    EXPECT_EQ(Content("other.ini"), planted ? "old" : "new");
+    // Whoever owns the folder may put links into it.
+    if (planted) chown(m_Folder.Path().c_str(), 4711, 4711);
+    ReplaceFile(m_Files, Path("a.ini"), "newer");
+    EXPECT_EQ(Content("other.ini"), "newer");
+}
+
+}  // namespace
+}  // namespace vigrel::testing
