@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "schedule/public_holidays.h"
-
 namespace vigrel {
 namespace {
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -55,6 +56,14 @@ constexpr cHolidayRule FromEaster(int days, std::string_view name) {
 constexpr cHolidayRule OnOrFrom(int weekday, int month, int day, std::string_view name) {
     return {cHolidayRule::eKind::WeekdayOnOrFrom, month, day, weekday, name};
 }
+
+struct cHolidayCountry {
+    std::string_view code;  // of ISO 3166; a part of a country has a suffix
+    std::string_view name;  // in English, plain letters
+};
+
+// The countries whose holidays are known.
+std::span<const cHolidayCountry> HolidayCountries();
 
 // The rules of a country; none for an unknown code.
 std::vector<cHolidayRule> HolidayRules(std::string_view code);

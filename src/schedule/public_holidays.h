@@ -1,20 +1,11 @@
 #pragma once
 
-#include <span>
 #include <string_view>
 
 #include "platform/clock.h"
 #include "schedule/holidays.h"
 
 namespace vigrel {
-
-struct cHolidayCountry {
-    std::string_view code;  // of ISO 3166; a part of a country has a suffix
-    std::string_view name;  // in English, plain letters
-};
-
-// The countries whose holidays are known.
-std::span<const cHolidayCountry> HolidayCountries();
 
 // The holidays of a country for every year of the calendar, by the laws of their time; none for another code.
 // Public holidays are marked in the month grid. Eves and other days on which most people are free, or which

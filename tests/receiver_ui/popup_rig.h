@@ -14,8 +14,8 @@ class cPopupWidgetRig {
     std::vector<const cPopupWindow*> Order() {
         m_Maker.Stack().Apply();
         std::vector<const cPopupWindow*> order;
-        for (const cPopupWidget* popup : m_Maker.Stack().Order()) {
-            if (popup->isVisible()) order.push_back(popup);
+        for (const cStackedPopup* popup : m_Maker.Stack().Order()) {
+            if (popup->OnScreen()) order.push_back(dynamic_cast<const cPopupWindow*>(popup));
         }
         return order;
     }

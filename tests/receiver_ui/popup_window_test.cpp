@@ -445,9 +445,9 @@ class cPopupScreen : public ::testing::Test, protected cPopupStation {
     std::string Stacked() {
         m_Maker.Stack().Apply();
         std::string text;
-        for (const cPopupWidget* popup : m_Maker.Stack().Order()) {
+        for (const cStackedPopup* popup : m_Maker.Stack().Order()) {
             for (std::size_t i = 0; i < m_Shown.size(); ++i) {
-                if (m_Shown[i] == popup && popup->isVisible()) text += std::to_string(i + 1);
+                if (m_Shown[i] == popup && popup->OnScreen()) text += std::to_string(i + 1);
             }
         }
         return text;

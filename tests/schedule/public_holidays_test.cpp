@@ -1,4 +1,5 @@
 #include "schedule/public_holidays.h"
+#include "schedule/holiday_rules.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "common/failure.h"
-#include "popups_fixture.h"
+#include "signals/popups_fixture.h"
 
 namespace vigrel::testing {
 namespace {

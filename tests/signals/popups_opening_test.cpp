@@ -2,7 +2,7 @@
 
 #include "common/failure.h"
 #include "common/text.h"
-#include "popups_fixture.h"
+#include "signals/popups_fixture.h"
 
 namespace vigrel::testing {
 namespace {

@@ -4,7 +4,7 @@
 #include "common/numbers.h"
 #include "common/text.h"
 #include "receiver-check/checks.h"
-#include "vigrel-inspect/inspection.h"
+#include "vigrel-inspect/inspect.h"
 
 namespace vigrel {
 namespace {

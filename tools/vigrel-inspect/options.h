@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "vigrel-inspect/alarm_filter.h"
-#include "vigrel-inspect/inspection.h"
+#include "vigrel-inspect/inspect.h"
 
 namespace vigrel {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "adapters/qt/qt_data_socket.h"
+#include "adapters/qt/accepted_socket.h"
 
 namespace vigrel {
 

@@ -1,6 +1,5 @@
 #include "adapters/qt/qt_data_socket.h"
 
-#include <QNetworkProxy>
 #include <utility>
 
 #include "adapters/qt/linger.h"
@@ -9,15 +8,6 @@
 #include "common/failure.h"
 
 namespace vigrel {
-
-SocketPtr MakeSocket(qintptr descriptor) {
-    SocketPtr socket(new QTcpSocket);
-    socket->setProxy(QNetworkProxy::NoProxy);
-    socket->setReadBufferSize(cQtDataSocket::kBytesPerTurn);
-    if (!socket->setSocketDescriptor(descriptor)) return nullptr;
-    socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
-    return socket;
-}
 
 cQtDataSocket::~cQtDataSocket() {
     if (m_Socket) m_Socket->disconnect();

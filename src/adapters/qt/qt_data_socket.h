@@ -1,30 +1,17 @@
 #pragma once
 
-#include <QTcpSocket>
 #include <cstddef>
-#include <memory>
 #include <string>
 
+#include "adapters/qt/accepted_socket.h"
 #include "platform/sockets.h"
 
 namespace vigrel {
-
-// Deleted from the event loop: a connection is often given up inside one of its own events.
-struct cDeleteLater {
-    void operator()(QObject* object) const { object->deleteLater(); }
-};
-using SocketPtr = std::unique_ptr<QTcpSocket, cDeleteLater>;
-
-// A connection over an accepted descriptor, set up for short lines and prompt replies. Nothing when the
-// descriptor is no good any more.
-SocketPtr MakeSocket(qintptr descriptor);
 
 class cQtListener;
 
 class cQtDataSocket : public cDataSocket {
   public:
-    // Most bytes that one turn of the event loop reads, so that timers and windows get their turn in a flood.
-    static constexpr qint64 kBytesPerTurn = 4096;
     // A stream without a line end that has grown to more than this is no sender's.
     static constexpr std::size_t kMaxLine = 1'048'576;
 

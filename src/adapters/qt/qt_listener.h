@@ -5,7 +5,7 @@
 #include <map>
 #include <memory>
 
-#include "adapters/qt/qt_data_socket.h"
+#include "adapters/qt/accepted_socket.h"
 #include "platform/sockets.h"
 
 namespace vigrel {

@@ -12,6 +12,7 @@
 #include "common/failure.h"
 #include "schedule/calendar_geometry.h"
 #include "schedule/definition_files.h"
+#include "schedule/holiday_rules.h"
 #include "schedule/public_holidays.h"
 
 namespace vigrel {

@@ -5,7 +5,15 @@
 
 namespace vigrel {
 
-class cPopupWidget;
+// What the stack needs of a popup.
+class cStackedPopup {
+  public:
+    virtual ~cStackedPopup() = default;
+    virtual bool OnScreen() const = 0;
+    virtual void RaiseOnScreen() = 0;
+    // Brings place and visibility to the screen. Whether the visibility changed.
+    virtual bool ReachScreen() = 0;
+};
 
 // The stacking order of the popups, as the program wishes it, and its way to the screen.
 //
@@ -18,23 +26,23 @@ class cPopupWidget;
 class cPopupStack {
   public:
     // On top of all.
-    void Raise(cPopupWidget& popup);
-    void PlaceBehind(cPopupWidget& popup, const cPopupWidget& other);
-    void Remove(const cPopupWidget& popup);
+    void Raise(cStackedPopup& popup);
+    void PlaceBehind(cStackedPopup& popup, const cStackedPopup& other);
+    void Remove(const cStackedPopup& popup);
 
     // Something of a popup is to reach the screen.
     void Schedule();
     void Apply();
 
     // All popups, the uppermost first.
-    const std::vector<cPopupWidget*>& Order() const { return m_Order; }
+    const std::vector<cStackedPopup*>& Order() const { return m_Order; }
 
   private:
-    std::vector<cPopupWidget*> VisibleOrder() const;
+    std::vector<cStackedPopup*> VisibleOrder() const;
 
-    std::vector<cPopupWidget*> m_Order;
-    std::vector<cPopupWidget*> m_OnScreen;  // the visible ones, as they were last brought in order
-    QObject m_Context;                      // ends what is scheduled when the stack ends
+    std::vector<cStackedPopup*> m_Order;
+    std::vector<cStackedPopup*> m_OnScreen;  // the visible ones, as they were last brought in order
+    QObject m_Context;                       // ends what is scheduled when the stack ends
     bool m_Scheduled = false;
 };
 

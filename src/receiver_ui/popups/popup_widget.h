@@ -23,7 +23,7 @@ QString PopupText(std::string_view text);
 
 // A popup on the screen. It never takes the keyboard from what the operator is doing. Text that doesn't fit
 // can be scrolled, selected and copied.
-class cPopupWidget : public cWidgetWindow<cPopupWindow> {
+class cPopupWidget : public cWidgetWindow<cPopupWindow>, public cStackedPopup {
   public:
     cPopupWidget(cOpenWindows& windows, cPopupStack& stack, const PopupIcons& icons);
     ~cPopupWidget() override { m_Stack.Remove(*this); }
@@ -56,8 +56,10 @@ class cPopupWidget : public cWidgetWindow<cPopupWindow> {
     double PictureWidth(int picture) const override;
     void PlaceBehind(cPopupWindow& other) override;
 
-    // --- for the stack: brings place and visibility to the screen. Whether the visibility changed.
-    bool ReachScreen();
+    // --- cStackedPopup
+    bool OnScreen() const override { return isVisible(); }
+    void RaiseOnScreen() override { raise(); }
+    bool ReachScreen() override;
 
   protected:
     void Closed() override;

@@ -1,4 +1,4 @@
-#include "vigrel-inspect/inspection.h"
+#include "vigrel-inspect/inspect.h"
 
 #include <array>
 
