@@ -1,7 +1,5 @@
 #include "architecture/include_rules.h"
 
-#include <algorithm>
-#include <fstream>
 #include <optional>
 #include <sstream>
 
@@ -23,6 +21,8 @@ constexpr std::string_view kStandard =
     "typeinfo unordered_map unordered_set utility valarray variant vector version "
     "cassert cctype cerrno cfenv cfloat cinttypes climits clocale cmath csetjmp csignal cstdarg cstddef "
     "cstdint cstdio cstdlib cstring ctime cuchar cwchar cwctype ";
+
+constexpr const char* kEverything = "*";
 
 // The rows "| folder | words |" between the two marks.
 Table ReadTable(std::string_view page, const std::string& name) {
@@ -46,35 +46,20 @@ Table ReadTable(std::string_view page, const std::string& name) {
     return table;
 }
 
-struct cInclude {
-    std::string header;
-    bool angled = false;
-};
-
-std::vector<cInclude> IncludesOf(const std::filesystem::path& file) {
-    std::vector<cInclude> includes;
-    std::ifstream content(file);
-    for (std::string line; std::getline(content, line);) {
-        line.erase(std::remove(line.begin(), line.end(), ' '), line.end());
-        if (!line.starts_with("#include") || line.size() < 10) continue;
-        const bool angled = line[8] == '<';
-        includes.push_back({line.substr(9, line.find(angled ? '>' : '"', 9) - 9), angled});
-    }
-    return includes;
-}
-
 class cChecker {
   public:
-    explicit cChecker(const cIncludeRules& rules) : m_Rules(rules) {}
+    cChecker(const cIncludeRules& rules, const cSourceTree& tree) : m_Rules(rules), m_Tree(tree) {}
 
     void Check(const std::string& file, const cInclude& include) {
-        const auto from = FolderOf(file);
+        const auto from = FolderOf(m_Rules.edges, file);
         if (!from) return Complain(file + ": its folder has no row");
-        if (include.angled) return CheckOutside(*from, file, include.header);
-        const auto to = FolderOf(include.header);
+        if (include.angled) return CheckOutside(file, include.header);
+        const auto header = m_Tree.Resolve(include.header);
+        const auto to = header ? FolderOf(m_Rules.edges, *header) : std::nullopt;
         if (!to) return Complain(file + ": \"" + include.header + "\" lies in no folder of the table");
         if (*to == *from) return;
-        if (!m_Rules.edges.at(*from).contains(*to)) {
+        const auto& allowed = m_Rules.edges.at(*from);
+        if (!allowed.contains(*to) && !allowed.contains(kEverything)) {
             return Complain(file + ": " + *from + " may not include " + *to);
         }
         m_Used.insert(*from + " -> " + *to);
@@ -88,34 +73,36 @@ class cChecker {
 
   private:
     // The longest folder of the table that the path lies in.
-    std::optional<std::string> FolderOf(const std::string& path) const {
+    static std::optional<std::string> FolderOf(const Table& table, const std::string& path) {
         std::optional<std::string> found;
-        for (const auto& [folder, allowed] : m_Rules.edges) {
+        for (const auto& [folder, allowed] : table) {
             if (path.starts_with(folder + "/") && (!found || folder.size() > found->size())) found = folder;
         }
         return found;
     }
-    void CheckOutside(const std::string& from, const std::string& file, const std::string& header) {
+    void CheckOutside(const std::string& file, const std::string& header) {
         if (kStandard.find(" " + header + " ") != std::string_view::npos) return;
         const std::string kind = header.starts_with('Q') ? "Qt" : "machine";
-        const auto row = m_Rules.outside.find(from);
-        for (const std::string& entry : {kind, header}) {
-            if (row == m_Rules.outside.end() || !row->second.contains(entry)) continue;
-            m_Used.insert(from + " -> " + entry);
+        const auto from = FolderOf(m_Rules.outside, file);
+        for (const std::string& entry : {header, kind}) {
+            if (!from || !m_Rules.outside.at(*from).contains(entry)) continue;
+            m_Used.insert(*from + " -> " + entry);
             return;
         }
-        Complain(file + ": " + from + " may not include <" + header + ">");
+        Complain(file + ": <" + header + "> is not allowed here");
     }
     void ComplainOfUnused(const Table& table) {
         for (const auto& [from, allowed] : table) {
             for (const std::string& to : allowed) {
-                if (!m_Used.contains(from + " -> " + to)) Complain("nothing uses " + from + " -> " + to);
+                if (to != kEverything && !m_Used.contains(from + " -> " + to))
+                    Complain("nothing uses " + from + " -> " + to);
             }
         }
     }
     void Complain(const std::string& text) { m_Complaints.push_back(text); }
 
     const cIncludeRules& m_Rules;
+    const cSourceTree& m_Tree;
     std::set<std::string> m_Used;
     std::vector<std::string> m_Complaints;
 };
@@ -126,16 +113,10 @@ cIncludeRules ReadIncludeRules(std::string_view page) {
     return {ReadTable(page, "edges"), ReadTable(page, "outside")};
 }
 
-std::vector<std::string> CheckIncludes(const std::filesystem::path& sources, const cIncludeRules& rules) {
-    std::set<std::string> files;
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(sources)) {
-        const std::string extension = entry.path().extension().string();
-        if (extension != ".h" && extension != ".cpp") continue;
-        files.insert(std::filesystem::relative(entry.path(), sources).generic_string());
-    }
-    cChecker checker(rules);
-    for (const std::string& file : files) {
-        for (const cInclude& include : IncludesOf(sources / file)) checker.Check(file, include);
+std::vector<std::string> CheckIncludes(const cSourceTree& tree, const cIncludeRules& rules) {
+    cChecker checker(rules, tree);
+    for (const std::string& file : tree.Files()) {
+        for (const cInclude& include : tree.IncludesOf(file)) checker.Check(file, include);
     }
     return checker.Complaints();
 }

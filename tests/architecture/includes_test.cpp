@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "architecture/include_rules.h"
+#include "architecture/unit_cycles.h"
 #include "support/temporary_folder.h"
 
 namespace vigrel {
@@ -11,6 +12,8 @@ namespace {
 
 using testing::CheckIncludes;
 using testing::cIncludeRules;
+using testing::cSourceTree;
+using testing::FindUnitCycles;
 using testing::ReadIncludeRules;
 
 using Complaints = std::vector<std::string>;
@@ -20,18 +23,21 @@ TEST(Includes, AreThoseThatTheArchitectureAllows) {
     const std::string page{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
     const cIncludeRules rules = ReadIncludeRules(page);
     ASSERT_GE(rules.edges.size(), 12u) << "no table in " << VIGREL_ARCHITECTURE;
-    EXPECT_EQ(CheckIncludes(VIGREL_SOURCE_DIR, rules), Complaints{});
+    EXPECT_EQ(CheckIncludes(cSourceTree(VIGREL_PROJECT_DIR), rules), Complaints{});
 }
 
 // A small tree of sources of its own.
 class IncludeRules : public ::testing::Test {
   protected:
+    // In src, unless the path says otherwise.
     void Put(const std::string& path, const std::string& content) {
-        const std::filesystem::path file = folder.Path() / path;
+        const bool elsewhere = path.starts_with("tests/") || path.starts_with("tools/");
+        const std::filesystem::path file = folder.Path() / (elsewhere ? "" : "src") / path;
         std::filesystem::create_directories(file.parent_path());
         std::ofstream(file) << content;
     }
-    Complaints Check() const { return CheckIncludes(folder.Path(), rules); }
+    cSourceTree Tree() const { return cSourceTree(folder.Path()); }
+    Complaints Check() const { return CheckIncludes(Tree(), rules); }
 
     testing::cTemporaryFolder folder;
     cIncludeRules rules{{{"logic", {}}, {"ui", {"logic"}}, {"ui/deep", {"ui"}}}, {{"ui", {"Qt"}}}};
@@ -49,12 +55,14 @@ TEST_F(IncludeRules, TablesAreReadBetweenTheirMarks) {
 TEST_F(IncludeRules, WhatIsAllowedAndUsedPasses) {
     Put("logic/a.h", "#include <string>\n#include <cstdint>\n");
     Put("logic/a.cpp", "#include \"logic/a.h\"\n");
+    Put("ui/b.h", "#include <vector>\n");
     Put("ui/b.cpp", "#include <QWidget>\n#include \"logic/a.h\"\n");
     Put("ui/deep/c.cpp", "  #  include \"ui/b.h\"\n");
     EXPECT_EQ(Check(), Complaints{});
 }
 
 TEST_F(IncludeRules, AForbiddenFolderIsNamed) {
+    Put("ui/b.h", "#include <vector>\n");
     Put("ui/b.cpp", "#include <QWidget>\n#include \"logic/a.h\"\n");
     Put("ui/deep/c.cpp", "#include \"ui/b.h\"\n#include \"logic/a.h\"\n");
     Put("logic/a.h", "#include \"ui/b.h\"\n");
@@ -63,24 +71,27 @@ TEST_F(IncludeRules, AForbiddenFolderIsNamed) {
 }
 
 TEST_F(IncludeRules, AHeaderFromOutsideIsNamed) {
+    Put("ui/b.h", "#include <vector>\n");
     Put("ui/b.cpp", "#include <QWidget>\n#include \"logic/a.h\"\n#include <unistd.h>\n");
     Put("ui/deep/c.cpp", "#include \"ui/b.h\"\n");
     Put("logic/a.h", "#include <QString>\n#include <string.h>\n");
-    EXPECT_EQ(Check(), (Complaints{"logic/a.h: logic may not include <QString>",
-                                   "logic/a.h: logic may not include <string.h>",
-                                   "ui/b.cpp: ui may not include <unistd.h>"}));
+    EXPECT_EQ(Check(), (Complaints{"logic/a.h: <QString> is not allowed here",
+                                   "logic/a.h: <string.h> is not allowed here",
+                                   "ui/b.cpp: <unistd.h> is not allowed here"}));
 }
 
 TEST_F(IncludeRules, ASingleHeaderCanBeAllowed) {
     rules.outside["logic"] = {"unistd.h"};
     Put("logic/a.h", "#include <unistd.h>\n#include <fcntl.h>\n");
+    Put("ui/b.h", "#include <vector>\n");
     Put("ui/b.cpp", "#include <QWidget>\n#include \"logic/a.h\"\n");
     Put("ui/deep/c.cpp", "#include \"ui/b.h\"\n");
-    EXPECT_EQ(Check(), (Complaints{"logic/a.h: logic may not include <fcntl.h>"}));
+    EXPECT_EQ(Check(), (Complaints{"logic/a.h: <fcntl.h> is not allowed here"}));
 }
 
 TEST_F(IncludeRules, AnEntryThatNothingUsesIsNamed) {
     Put("logic/a.h", "#include <string>\n");
+    Put("ui/b.h", "#include <vector>\n");
     Put("ui/deep/c.cpp", "#include \"ui/b.h\"\n");
     EXPECT_EQ(Check(), (Complaints{"nothing uses ui -> logic", "nothing uses ui -> Qt"}));
 }
@@ -92,6 +103,38 @@ TEST_F(IncludeRules, AFolderWithoutARowIsNamed) {
     EXPECT_EQ(Check(), (Complaints{"logic/a.h: \"new/b.h\" lies in no folder of the table",
                                    "logic/a.h: \"a.h\" lies in no folder of the table",
                                    "new/b.h: its folder has no row"}));
+}
+
+TEST_F(IncludeRules, ProgramsAndTestsHaveRowsToo) {
+    rules = {{{"logic", {}}, {"tests/logic", {"logic"}}, {"tests", {"*"}}, {"tools/tool", {}}}, {}};
+    Put("logic/a.h", "#include <string>\n");
+    Put("tests/logic/a_test.cpp", "#include \"logic/fixture.h\"\n#include \"logic/a.h\"\n");
+    Put("tests/logic/fixture.h", "#include \"tool/t.h\"\n");
+    Put("tests/whole/b_test.cpp", "#include \"tool/t.h\"\n");
+    Put("tools/tool/t.h", "#include \"logic/a.h\"\n");
+    EXPECT_EQ(Check(), (Complaints{"tests/logic/fixture.h: tests/logic may not include tools/tool",
+                                   "tools/tool/t.h: tools/tool may not include logic"}));
+}
+
+using UnitCycles = IncludeRules;
+
+TEST(Units, IncludeNoneThatIncludesThem) {
+    EXPECT_EQ(FindUnitCycles(cSourceTree(VIGREL_PROJECT_DIR)), Complaints{});
+}
+
+TEST_F(UnitCycles, AUnitThatReachesItselfIsNamedWithItsPartners) {
+    Put("logic/a.h", "#include \"logic/b.h\"\n");
+    Put("logic/b.h", "class a;\n");
+    Put("logic/b.cpp", "#include \"logic/b.h\"\n#include \"logic/c.h\"\n");
+    Put("logic/c.h", "#include \"logic/a.h\"\n#include \"logic/d.h\"\n");
+    Put("logic/d.h", "#include <string>\n");
+    EXPECT_EQ(FindUnitCycles(Tree()), (Complaints{"logic/a <-> logic/b <-> logic/c"}));
+}
+
+TEST_F(UnitCycles, AHeaderAndItsSourceAreOne) {
+    Put("logic/a.h", "#include <string>\n");
+    Put("logic/a.cpp", "#include \"logic/a.h\"\n");
+    EXPECT_EQ(FindUnitCycles(Tree()), Complaints{});
 }
 
 }  // namespace
