@@ -1,7 +1,7 @@
 // Input: the content of any binary file, read as every kind.
 
-#include "fuzz/fuzz_target.h"
 #include "vigrel-inspect/inspect.h"
+#include "fuzz/fuzz_target.h"
 #include "vigrel-inspect/print.h"
 
 namespace {
