@@ -2,7 +2,6 @@
 
 #include <QDialog>
 #include <QLibraryInfo>
-#include <QMessageBox>
 #include <QPalette>
 #include <QSessionManager>
 #include <QTimer>
@@ -13,6 +12,7 @@
 
 #include "adapters/qt/qt_text.h"
 #include "common/code_page.h"
+#include "windows/plain_text.h"
 
 namespace vigrel {
 namespace {
@@ -93,6 +93,7 @@ void cApplication::Guard(const std::function<void()>& step) {
 
 bool cApplication::notify(QObject* receiver, QEvent* event) {
     if (m_Failed && !ServesFailureBox(receiver, *event)) return true;
+    KeepPlain(receiver, *event);
     try {
         return QApplication::notify(receiver, event);
     } catch (const std::exception& failure) {
@@ -113,9 +114,8 @@ void cApplication::End(const std::string& failure) {
 void cApplication::ShowFailure(const std::string& failure) {
     if (platformName() == "offscreen") return;
     const QString title = m_MessageTitle.empty() ? applicationDisplayName() : ToQString(m_MessageTitle);
-    QMessageBox box(QMessageBox::Critical, title, ToQString(failure), QMessageBox::Ok);
+    cPlainMessageBox box(QMessageBox::Critical, title, ToQString(failure), QMessageBox::Ok);
     box.setObjectName("Vigrel_FailureBox");
-    box.setTextFormat(Qt::PlainText);
     box.setInformativeText("The program ends.");
     box.setWindowFlag(Qt::WindowStaysOnTopHint);
     auto* closer = new QTimer(&box);

@@ -1,9 +1,9 @@
 #include "windows/qt_message_box.h"
 
 #include <QApplication>
-#include <QMessageBox>
 
 #include "adapters/qt/qt_text.h"
+#include "windows/plain_text.h"
 
 namespace vigrel {
 namespace {
@@ -29,10 +29,9 @@ QWidget* Owner() {
 }  // namespace
 
 eMessageAnswer cQtMessageBox::Show(std::string_view text, eMessageIcon icon, eMessageButtons buttons) {
-    QMessageBox box(Owner());
+    cPlainMessageBox box(Owner());
     box.setObjectName("Vigrel_MessageBox");
     box.setWindowTitle(ToQString(m_Title));
-    box.setTextFormat(Qt::PlainText);
     box.setText(ToQString(text));
     box.setIcon(IconOf(icon));
     box.setWindowModality(Qt::ApplicationModal);

@@ -14,6 +14,7 @@
 #include "schedule/definition_files.h"
 #include "schedule/holiday_rules.h"
 #include "schedule/public_holidays.h"
+#include "windows/plain_text.h"
 
 namespace vigrel {
 namespace {
@@ -51,7 +52,8 @@ void cCalendarEditor::MakeLayout() {
     auto* drawing = new QVBoxLayout;
     drawing->addLayout(MakeMonthBar());
     drawing->addWidget(&m_View);
-    auto* hint = new QLabel(tr("Choose a day type and paint it over the days with the left mouse button."));
+    auto* hint =
+        new cPlainLabel(tr("Choose a day type and paint it over the days with the left mouse button."));
     hint->setWordWrap(true);
     drawing->addWidget(hint);
     drawing->addStretch(1);

@@ -3,7 +3,6 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLabel>
 #include <QSpinBox>
 #include <QToolButton>
 
@@ -12,6 +11,7 @@
 #include "editor_ui/pages/editor_services.h"
 #include "schedule/calendar.h"
 #include "schedule/holidays.h"
+#include "windows/plain_text.h"
 
 namespace vigrel {
 
@@ -94,7 +94,7 @@ class cCalendarEditor : public cContentEditor, private cCalendarContainer {
     cHolidays m_Holidays;
     cCalendar m_Calendar;
     cDrawingView m_View;
-    QLabel m_Month;
+    cPlainLabel m_Month;
     QToolButton m_Previous, m_Next, m_Today;
     QSpinBox m_Year;
     QComboBox m_MonthNames, m_DayType, m_Country, m_Schedule;

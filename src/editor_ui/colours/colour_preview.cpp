@@ -3,7 +3,6 @@
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHeaderView>
-#include <QLabel>
 #include <QPlainTextEdit>
 #include <QSpinBox>
 #include <QTableWidget>
@@ -14,6 +13,7 @@
 #include "adapters/qt/qt_text.h"
 #include "categories/colour_rules.h"
 #include "windows/colours.h"
+#include "windows/plain_text.h"
 
 namespace vigrel {
 namespace {
@@ -42,7 +42,7 @@ cColourPreview::cColourPreview(QWidget* parent)
       m_Category(NumberBox("Number_Preview_Category")),
       m_Area(NumberBox("Number_Preview_Area")),
       m_Table(new QTableWidget(0, 5)),
-      m_HardToRead(new QLabel) {
+      m_HardToRead(new cPlainLabel) {
     setObjectName("Preview_Colours");
     m_Tags->setObjectName("Text_Preview_Tags");
     m_Tags->setAccessibleName(tr("Tags to try"));

@@ -4,7 +4,6 @@
 #include <QColorDialog>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QLabel>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QTableWidget>
@@ -16,6 +15,7 @@
 #include "common/numbers.h"
 #include "editor_ui/colours/colour_preview.h"
 #include "windows/colours.h"
+#include "windows/plain_text.h"
 
 namespace vigrel {
 namespace {
@@ -78,7 +78,7 @@ cColourRulesEditor::cColourRulesEditor(cEditorServices& services, QWidget* paren
     : cContentEditor(parent),
       m_Services(services),
       m_Table(new QTableWidget(0, Columns)),
-      m_Problems(new QLabel),
+      m_Problems(new cPlainLabel),
       m_Preview(new cColourPreview) {
     setObjectName("Editor_ColourRules");
     m_Actions = {

@@ -1,17 +1,18 @@
 #include "editor_ui/pages/note_bar.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <algorithm>
 
 #include "adapters/qt/qt_text.h"
+#include "windows/plain_text.h"
 
 namespace vigrel {
 
-cNoteBar::cNoteBar(QWidget* parent) : QFrame(parent), m_Summary(new QLabel), m_Lines(new QPlainTextEdit) {
+cNoteBar::cNoteBar(QWidget* parent)
+    : QFrame(parent), m_Summary(new cPlainLabel), m_Lines(new QPlainTextEdit) {
     setObjectName("Bar_Notes");
     setFrameShape(QFrame::StyledPanel);
     m_Summary->setObjectName("Label_Notes");

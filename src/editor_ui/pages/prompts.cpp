@@ -4,7 +4,8 @@
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QInputDialog>
-#include <QMessageBox>
+
+#include "windows/plain_text.h"
 
 namespace vigrel {
 namespace {
@@ -15,10 +16,8 @@ QString Tr(const char* text) {
 
 QMessageBox::StandardButton Ask(QWidget* owner, QMessageBox::Icon icon, const QString& text,
                                 QMessageBox::StandardButtons buttons) {
-    QMessageBox box(icon, QGuiApplication::applicationDisplayName(), text, buttons, owner);
+    cPlainMessageBox box(icon, QGuiApplication::applicationDisplayName(), text, buttons, owner);
     box.setObjectName("MessageBox_Definitions");
-    // A name can hold what looks like markup.
-    box.setTextFormat(Qt::PlainText);
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 

@@ -2,7 +2,6 @@
 
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QLabel>
 #include <QLineEdit>
 #include <QSortFilterProxyModel>
 #include <QSplitter>
@@ -13,6 +12,7 @@
 
 #include "editor_ui/pages/note_bar.h"
 #include "editor_ui/pages/scrolled.h"
+#include "windows/plain_text.h"
 
 namespace vigrel {
 namespace {
@@ -45,7 +45,7 @@ cDefinitionPage::cDefinitionPage(cEditorServices& services, std::unique_ptr<cDef
       m_Notes(new cNoteBar),
       m_Search(new QLineEdit),
       m_List(new QTableView),
-      m_Count(new QLabel) {}
+      m_Count(new cPlainLabel) {}
 
 cDefinitionPage::~cDefinitionPage() = default;
 

@@ -1,12 +1,12 @@
 #include "editor_ui/records/profile_calendar.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 #include "adapters/qt/qt_text.h"
 #include "editor_ui/calendar/calendar_page.h"
+#include "windows/plain_text.h"
 
 namespace vigrel {
 namespace {
@@ -21,7 +21,7 @@ cProfileCalendar::cProfileCalendar(cEditorServices& services, const cTimeSchedul
       m_Services(services),
       m_Editor(new cCalendarEditor(services)),
       m_Document(services, CalendarFileForm(tr("Calendar"), *m_Editor), this),
-      m_Path(new QLabel) {
+      m_Path(new cPlainLabel) {
     auto* open = new QPushButton(tr("Another calendar..."));
     open->setObjectName("Button_OpenCalendar");
     m_Path->setObjectName("Label_Calendar");

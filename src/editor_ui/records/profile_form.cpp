@@ -2,7 +2,6 @@
 
 #include <QFormLayout>
 #include <QGroupBox>
-#include <QLabel>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -14,6 +13,7 @@
 #include "editor_ui/records/receiver_picker.h"
 #include "editor_ui/records/system_grid.h"
 #include "editor_ui/schedule/schedule_editor.h"
+#include "windows/plain_text.h"
 
 namespace vigrel {
 namespace {
@@ -76,7 +76,7 @@ QWidget* cProfileForm::MakeGeneral() {
     }
     layout->addRow(tr("&Off duty behaviour:"), m_Binder.Number("Number_OffDuty", tr("Off duty behaviour"),
                                                                &cProfile::m_OffDutyAlarmBehaviour));
-    m_File = new QLabel;
+    m_File = new cPlainLabel;
     m_File->setObjectName("Label_File");
     m_File->setWordWrap(true);
     m_File->setTextInteractionFlags(Qt::TextSelectableByMouse);

@@ -2,16 +2,16 @@
 
 #include <QComboBox>
 #include <QFormLayout>
-#include <QLabel>
 
 #include "common/date_text.h"
 #include "common/file_procedures.h"
 #include "editor_ui/records/setting_edit.h"
+#include "windows/plain_text.h"
 
 namespace vigrel {
 
 cReceiverForm::cReceiverForm(const cDefinitionServices& services, QWidget* parent)
-    : QWidget(parent), m_Services(services), m_Type(new QComboBox), m_File(new QLabel) {
+    : QWidget(parent), m_Services(services), m_Type(new QComboBox), m_File(new cPlainLabel) {
     setObjectName("Form_Receiver");
     auto* layout = new QFormLayout(this);
     layout->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
@@ -53,7 +53,7 @@ void cReceiverForm::AddTypes() {
 void cReceiverForm::AddSettings(QFormLayout& layout) {
     for (std::int16_t i = 0; i < cReceiver::kSettings; ++i) {
         const auto index = static_cast<std::size_t>(i);
-        m_SettingLabels[index] = new QLabel;
+        m_SettingLabels[index] = new cPlainLabel;
         m_SettingLabels[index]->setObjectName(QString("Label_Setting_%1").arg(i));
         m_Settings[index] = new cSettingEdit(i);
         m_SettingLabels[index]->setBuddy(m_Settings[index]);

@@ -2,13 +2,13 @@
 
 #include <QComboBox>
 #include <QEvent>
-#include <QLabel>
 #include <QStackedLayout>
 #include <QVBoxLayout>
 
 #include "adapters/qt/qt_text.h"
 #include "common/failure.h"
 #include "editor_ui/pages/text_edit.h"
+#include "windows/plain_text.h"
 
 namespace vigrel {
 
@@ -37,7 +37,7 @@ cSettingEdit::cSettingEdit(int index, QWidget* parent)
       m_Text(new cTextEdit),
       m_Choice(new QComboBox),
       m_Fields(new QStackedLayout),
-      m_Problem(new QLabel) {
+      m_Problem(new cPlainLabel) {
     m_Text->setObjectName(QString("Text_Setting_%1").arg(index));
     m_Choice->setObjectName(QString("Combo_Setting_%1").arg(index));
     m_Choice->addItems({"", tr("Yes"), tr("No")});

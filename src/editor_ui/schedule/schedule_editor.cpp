@@ -8,6 +8,7 @@
 
 #include "adapters/qt/qt_text.h"
 #include "schedule/definition_files.h"
+#include "windows/plain_text.h"
 
 namespace vigrel {
 namespace {
@@ -41,8 +42,8 @@ void cScheduleEditor::MakeLayout() {
     tools->addWidget(MakePeriodBox());
     tools->addWidget(MakeDayTypeBox(), 1);
     auto* hint =
-        new QLabel(tr("Drag in a row to make a period, drag its ends to change it. The right mouse "
-                      "button opens the menu."));
+        new cPlainLabel(tr("Drag in a row to make a period, drag its ends to change it. The right mouse "
+                           "button opens the menu."));
     hint->setWordWrap(true);
     auto* drawing = new QVBoxLayout;
     drawing->setSpacing(2);

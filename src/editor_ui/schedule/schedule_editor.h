@@ -2,7 +2,6 @@
 
 #include <QAction>
 #include <QCheckBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
@@ -12,6 +11,7 @@
 #include "editor_ui/schedule/hour_scale.h"
 #include "editor_ui/schedule/schedule_frame.h"
 #include "schedule/time_schedule.h"
+#include "windows/plain_text.h"
 
 namespace vigrel {
 
@@ -121,7 +121,7 @@ class cScheduleEditor : public cContentEditor, private cTimeScheduleContainer {
     cHourScale m_Hours;
     cScheduleFrame m_Frame;
     QLineEdit m_Start, m_Stop;
-    QLabel m_Time;
+    cPlainLabel m_Time;
     QCheckBox m_ViewDayType, m_UseCalendar;
     QListWidget m_DayTypes;
     QMenu m_Popup, m_Images;

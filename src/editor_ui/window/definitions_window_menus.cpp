@@ -1,15 +1,14 @@
 #include <QActionGroup>
 #include <QGuiApplication>
-#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
 
 #include "adapters/qt/qt_text.h"
 #include "editor_ui/window/definitions_window.h"
+#include "windows/plain_text.h"
 
 namespace vigrel {
 namespace {
@@ -124,12 +123,16 @@ void cDefinitionsWindow::MakeHelpMenu() {
 }
 
 void cDefinitionsWindow::ShowAbout() {
-    QMessageBox::about(
-        this, tr("About"),
+    cPlainMessageBox box(
+        QMessageBox::NoIcon, tr("About"),
         tr("%1 %2\n\nSchedules, calendars, receivers, profiles and colour rules of the alarm "
            "receiver.\nApplication folder: %3")
             .arg(QGuiApplication::applicationDisplayName(), QGuiApplication::applicationVersion(),
-                 ToQString(m_Services.m_Ini.ApplicationPath()).replace('\\', '/')));
+                 ToQString(m_Services.m_Ini.ApplicationPath()).replace('\\', '/')),
+        QMessageBox::Ok, this);
+    constexpr int kIconSize = 64;
+    box.setIconPixmap(QGuiApplication::windowIcon().pixmap(kIconSize));
+    box.exec();
 }
 
 // What stands in the window while nothing is open.
@@ -137,7 +140,7 @@ QWidget* cDefinitionsWindow::MakeStartPage() {
     auto* page = new QWidget;
     auto* layout = new QVBoxLayout(page);
     layout->addStretch(1);
-    auto* title = new QLabel(tr("What do you want to edit?"));
+    auto* title = new cPlainLabel(tr("What do you want to edit?"));
     QFont font = title->font();
     font.setPointSizeF(font.pointSizeF() * 1.4);
     title->setFont(font);

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 
 #include "common/window_procedures.h"
+#include "windows/plain_text.h"
 
 namespace vigrel {
 
@@ -17,11 +18,10 @@ cAboutWindow::cAboutWindow(cOpenWindows& windows, const cScreen& screen, const c
     cAboutWindow::SetCaption("Vigrel - Larmmottagare");
 
     constexpr int kIconSize = 64, kMargin = 20, kLabelWidth = 260;
-    auto* icon = new QLabel(this);
+    auto* icon = new cPlainLabel(this);
     icon->setPixmap(QIcon(":/icons/vigrel-receiver.svg").pixmap(kIconSize));
-    auto* label = new QLabel(this);
+    auto* label = new cPlainLabel(this);
     label->setObjectName("Label");
-    label->setTextFormat(Qt::PlainText);
     label->setText(ToQString(AboutText(texts)).replace("\r\n", "\n"));
     label->setAccessibleName(label->text());
     label->setMinimumWidth(kLabelWidth);  // room for the caption too

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QLabel>
 #include <memory>
 
 #include "common/about_box.h"

@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "adapters/qt/qt_text.h"
+#include "windows/plain_text.h"
 
 namespace vigrel {
 namespace {
@@ -34,7 +35,7 @@ void cNotificationIcon::SetIcon(int image) {
 
 void cNotificationIcon::SetToolTip(std::string_view text) {
     m_ToolTip = text;
-    m_Icon.setToolTip(ToQString(text).remove('\r'));
+    SetPlainToolTip(m_Icon, ToQString(text).remove('\r'));
 }
 
 void cNotificationIcon::Activated(QSystemTrayIcon::ActivationReason reason) {
