@@ -33,6 +33,10 @@ constexpr std::int64_t kEpoch = 25569;       // 1970-01-01 as a day count from 1
 constexpr std::int64_t kFirstDay = -657434;  // 0100-01-01
 constexpr std::int64_t kLastDay = 2958465;   // 9999-12-31
 
+// In seconds: a whole second that was made of a day and a time of day can lie this far below itself, as the
+// sum keeps 52 bits; in the year 9999 one step of it is 0.04 ms. Clocks keep away from it (platform/clock.h).
+constexpr double kTraceOfSum = 1e-4;
+
 }  // namespace
 
 cDateParts SplitDateTime(DateTime value) {
@@ -41,7 +45,7 @@ cDateParts SplitDateTime(DateTime value) {
         throw outside;
     const double whole = std::trunc(value);
     auto days = static_cast<std::int64_t>(whole);
-    auto seconds = static_cast<std::int64_t>(std::llround(std::fabs(value - whole) * 86400));
+    auto seconds = static_cast<std::int64_t>(std::fabs(value - whole) * 86400 + kTraceOfSum);
     if (seconds == 86400) {
         seconds = 0;
         if (++days > kLastDay) throw outside;

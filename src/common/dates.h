@@ -19,7 +19,9 @@ struct cDateParts {
     int dayOfYear = 364;  // 1 January is 1
 };
 
-// To the nearest second. A value outside the years 100 to 9999, or no number, throws cFailure (Overflow).
+// Cut to the second, as every clock shows time: what is half a second old is not told as the second to come,
+// nor an evening's last moment as tomorrow. A whole second reads as that second however it was made. A value
+// outside the years 100 to 9999, or no number, throws cFailure (Overflow).
 cDateParts SplitDateTime(DateTime value);
 
 // Midnight of a day. Months and days out of range carry; a year of 0 to 99 means 2000 to 2029 and 1930 to

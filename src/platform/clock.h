@@ -9,7 +9,8 @@ using DateTime = double;
 class cClock {
   public:
     virtual ~cClock() = default;
-    // Local date and time now, with sub-second resolution. Does not fail.
+    // Local date and time now, with sub-second resolution; the last 0.2 ms of a second read as one moment, so
+    // that none is taken for the second to come (SplitDateTime). Does not fail.
     virtual DateTime Now() const = 0;
     // Days on a clock that nobody sets and that runs on while the machine sleeps; only differences mean
     // anything.

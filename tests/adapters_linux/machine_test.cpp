@@ -66,6 +66,17 @@ TEST(SystemClock, AnHourIsReadTwiceWhenSummerTimeEnds) {
     EXPECT_EQ(LocalDateTime({kAutumn2026, 0}), DateSerial(2026, 10, 25) + TimeSerial(2, 0, 0));
 }
 
+TEST(SystemClock, NoMomentOfASecondReadsAsTheNextOne) {
+    const cTimeZone zone(kCentralEurope);
+    for (const std::time_t second :
+         {std::time_t{0}, kSpring2026 - 1, kAutumn2026, std::time_t{253402200000}}) {
+        const int shown = static_cast<int>(second % 60);
+        for (const long part : {0L, 1L, 500'000'000L, 999'799'999L, 999'900'001L, 999'999'999L}) {
+            EXPECT_EQ(SplitDateTime(LocalDateTime({second, part})).second, shown) << second << " " << part;
+        }
+    }
+}
+
 TEST(SystemClock, FollowsATimeZoneThatIsChangedWhileItRuns) {
     const cSystemClock clock;
     const cTimeZone before("UTC0");

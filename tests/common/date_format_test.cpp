@@ -247,15 +247,15 @@ TEST(FormatDateTime, BeforeTheFirstDayTheTimeStillCountsForward) {
     EXPECT_EQ(Format("yyyy-mm-dd", -657434), "0100-01-01");
 }
 
-TEST(FormatDateTime, ATimeIsRoundedToTheNearestSecond) {
+TEST(FormatDateTime, ATimeIsCutToTheSecondThatHasCome) {
     const auto at = [](double second) { return DateSerial(2026, 12, 31) + (86399 + second) / 86400; };
     EXPECT_EQ(Format("yyyy-mm-dd hh\\:nn\\:ss", at(0.4)), "2026-12-31 23:59:59");
-    EXPECT_EQ(Format("yyyy-mm-dd hh\\:nn\\:ss", at(0.7)), "2027-01-01 00:00:00");
-    EXPECT_EQ(Format("yyyy-mm-dd hh\\:nn\\:ss", -1.999999), "1899-12-30 00:00:00");
+    EXPECT_EQ(Format("yyyy-mm-dd hh\\:nn\\:ss", at(0.7)), "2026-12-31 23:59:59");
+    EXPECT_EQ(Format("yyyy-mm-dd hh\\:nn\\:ss", -1.999999), "1899-12-29 23:59:59");
 }
 
 TEST(FormatDateTime, ValuesOutsideTheYears100To9999AreAnOverflow) {
-    for (const double value : {-657435.0, 2958466.0, 2958465.9999999, 1e300, std::nan("")}) {
+    for (const double value : {-657435.0, 2958466.0, 2958465.9999999995, 1e300, std::nan("")}) {
         EXPECT_THROW(Format("yyyy", value), cFailure) << value;
     }
 }

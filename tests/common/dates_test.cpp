@@ -117,18 +117,37 @@ TEST(SplitDateTime, EverySecondOfADayReadsBack) {
     }
 }
 
-TEST(SplitDateTime, RoundsToTheNearestSecondIntoTheNextDay) {
-    EXPECT_EQ(Text(SplitDateTime(46096 + 86399.4 / 86400)), "2026 3 15 23 59 59");
-    EXPECT_EQ(Text(SplitDateTime(46096 + 86399.7 / 86400)), "2026 3 16 0 0 0");
+TEST(SplitDateTime, CutsToTheSecondThatHasCome) {
+    for (const double fraction : {0.0, 0.4, 0.5, 0.7, 0.999, 0.9998}) {
+        EXPECT_EQ(Text(SplitDateTime(46096 + (86399 + fraction) / 86400)), "2026 3 15 23 59 59") << fraction;
+        EXPECT_EQ(Text(SplitDateTime(46096 + (45015 + fraction) / 86400)), "2026 3 15 12 30 15") << fraction;
+    }
+}
+
+// A whole second that was made by arithmetic can lie a trace below itself.
+TEST(SplitDateTime, EveryWholeSecondOfFarDaysReadsBackHoweverItWasMade) {
+    for (const double day : {-657434.0, -1.0, 0.0, 1.0, 36526.0, 46096.0, 2958465.0}) {
+        const double sign = day < 0 ? -1 : 1;
+        for (int second = 0; second < 86400; ++second) {
+            const double time = TimeSerial(second / 3600, second / 60 % 60, second % 60);
+            const double sum = second / 3600 / 24.0 + second / 60 % 60 / 1440.0 + second % 60 / 86400.0;
+            for (const double made :
+                 {day + sign * time, day + sign * sum, std::nextafter(day + sign * time, 0.0)}) {
+                const cDateParts parts = SplitDateTime(made);
+                ASSERT_EQ(parts.hour * 3600 + parts.minute * 60 + parts.second, second) << day;
+            }
+        }
+    }
 }
 
 TEST(SplitDateTime, TheFractionCountsForwardBeforeDayZero) {
     EXPECT_EQ(Text(SplitDateTime(-1.25)), "1899 12 29 6 0 0");
-    EXPECT_EQ(Text(SplitDateTime(-1.9999999)), "1899 12 30 0 0 0");
+    EXPECT_EQ(Text(SplitDateTime(-1.9999999)), "1899 12 29 23 59 59");
+    EXPECT_EQ(Text(SplitDateTime(-1.9999999999)), "1899 12 30 0 0 0");
 }
 
 TEST(SplitDateTime, OutsideTheYears100To9999IsAnOverflow) {
-    for (const double value : {-657435.0, 2958466.0, 2958465.9999999, HUGE_VAL, -HUGE_VAL, std::nan("")}) {
+    for (const double value : {-657435.0, 2958466.0, 2958465.9999999995, HUGE_VAL, -HUGE_VAL, std::nan("")}) {
         EXPECT_THROW(SplitDateTime(value), cFailure) << value;
     }
     EXPECT_EQ(Text(SplitDateTime(-657434.5)), "100 1 1 12 0 0");

@@ -1,8 +1,13 @@
 #include "adapters/linux/system_clock.h"
 
+#include <algorithm>
+
 #include "common/dates.h"
 
 namespace vigrel {
+
+// A date-time nearer than this to the next second can't be told from it.
+constexpr long kLastNanosecond = 999'800'000;
 
 DateTime LocalDateTime(const timespec& now) {
     // The station runs for months: a time zone that is changed meanwhile is taken over.
@@ -10,7 +15,8 @@ DateTime LocalDateTime(const timespec& now) {
     tm local{};
     localtime_r(&now.tv_sec, &local);
     return DateSerial(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday) +
-           TimeSerial(local.tm_hour, local.tm_min, local.tm_sec) + static_cast<double>(now.tv_nsec) / 86400e9;
+           TimeSerial(local.tm_hour, local.tm_min, local.tm_sec) +
+           static_cast<double>(std::min(now.tv_nsec, kLastNanosecond)) / 86400e9;
 }
 
 DateTime cSystemClock::Now() const {
