@@ -81,6 +81,11 @@ DateTime DateOf(DateTime value) {
     return std::trunc(value);
 }
 
+bool Earlier(DateTime a, DateTime b) {
+    if (std::isnan(a)) return false;
+    return std::isnan(b) || a < b;
+}
+
 int WeekOfYear(DateTime value, int firstDayOfWeek, eFirstWeek firstWeekOfYear) {
     const auto beginOfWeek = [firstDayOfWeek](DateTime day) {
         return day - (SplitDateTime(day).weekday - firstDayOfWeek + 7) % 7;

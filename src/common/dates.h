@@ -32,6 +32,11 @@ DateTime TimeSerial(int hour, int minute, int second);
 // The whole day of a date-time.
 DateTime DateOf(DateTime value);
 
+// The order of date-times, in which every value has a place: files may hold any 64 bits, and a comparison
+// that knows no answer would take sorted rows and stores apart. What is no number comes behind all that is
+// one, the infinities included; so it is never the oldest, and no limit by age or count takes it for that.
+bool Earlier(DateTime a, DateTime b);
+
 // The number of the week that a date lies in. Days of the week count 1 Sunday to 7 Saturday. The last days of
 // a year can belong to week 1 of the next, and the first ones to the last week of the year before, unless the
 // first week is that of 1 January.

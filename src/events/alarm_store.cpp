@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "common/dates.h"
 #include "common/failure.h"
 #include "common/file_procedures.h"
 #include "common/numbers.h"
@@ -127,8 +128,8 @@ std::size_t cAlarmStore::FindPlace(const cVigrelRecieverAlarm& alarm) const {
     auto mid = static_cast<std::size_t>(RoundEven(static_cast<double>(count) / 2));
     while (true) {
         const DateTime other = m_Alarms[mid]->m_CreatedTime;
-        if (alarm.m_CreatedTime == other) return mid + 1;
-        const bool earlier = alarm.m_CreatedTime < other;
+        const bool earlier = Earlier(alarm.m_CreatedTime, other);
+        if (!earlier && !Earlier(other, alarm.m_CreatedTime)) return mid + 1;
         std::size_t& bound = earlier ? high : low;
         if (bound == mid) return earlier ? high : low + 1;
         bound = mid;

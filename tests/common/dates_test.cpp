@@ -4,6 +4,8 @@
 
 #include <climits>
 #include <cmath>
+#include <limits>
+#include <vector>
 
 #include "common/failure.h"
 
@@ -144,6 +146,21 @@ TEST(SplitDateTime, TheFractionCountsForwardBeforeDayZero) {
     EXPECT_EQ(Text(SplitDateTime(-1.25)), "1899 12 29 6 0 0");
     EXPECT_EQ(Text(SplitDateTime(-1.9999999)), "1899 12 29 23 59 59");
     EXPECT_EQ(Text(SplitDateTime(-1.9999999999)), "1899 12 30 0 0 0");
+}
+
+TEST(Earlier, IsAStrictWeakOrderOfAllValues) {
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
+    const std::vector<std::vector<double>> order{{-kInfinity}, {-1e300},    {-1},
+                                                 {-0.0, 0.0},  {5e-324},    {46096.5},
+                                                 {1e300},      {kInfinity}, {kNone, -kNone}};
+    for (std::size_t i = 0; i < order.size(); ++i) {
+        for (std::size_t j = 0; j < order.size(); ++j) {
+            for (const double a : order[i]) {
+                for (const double b : order[j]) EXPECT_EQ(Earlier(a, b), i < j) << a << " " << b;
+            }
+        }
+    }
 }
 
 TEST(SplitDateTime, OutsideTheYears100To9999IsAnOverflow) {

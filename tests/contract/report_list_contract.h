@@ -2,7 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <limits>
 #include <memory>
+#include <numeric>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -172,6 +176,62 @@ TYPED_TEST_P(ReportListContract, DateTimesSortByNumber) {
     EXPECT_EQ(this->TakenOver(), (std::vector<RecordId>{ten, nine, minus}));
 }
 
+TYPED_TEST_P(ReportListContract, EveryNumberHasAPlaceInBothDirections) {
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
+    const std::vector<double> values{-kInfinity, -1e300, 0, 5e-324, 46096.5, kInfinity, kNone};
+    std::vector<std::size_t> arrival(values.size());
+    std::iota(arrival.begin(), arrival.end(), std::size_t{0});
+    std::mt19937 random(1);
+    for (int round = 0; round < 200; ++round) {
+        TypeParam rig;
+        cReportList& list = rig.List();
+        list.AddColumn("time", 100);
+        list.AddSortColumn(0, round % 2 == 0);
+        std::shuffle(arrival.begin(), arrival.end(), random);
+        std::vector<RecordId> expected(values.size());
+        for (const std::size_t i : arrival) {
+            expected[i] = list.AddRecord(nullptr);
+            list.AddItem(expected[i]);
+            list.SetItemValue(expected[i], 0, values[i]);
+            list.TakeOverRecords();
+            list.Rows();
+        }
+        if (round % 2 != 0) std::reverse(expected.begin(), expected.end());
+        ASSERT_EQ(list.Rows(), expected);
+    }
+}
+
+TYPED_TEST_P(ReportListContract, RowsOfAnyValueGoWithTheirRecords) {
+    constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
+    std::mt19937 random(2);
+    for (int round = 0; round < 200; ++round) {
+        TypeParam rig;
+        cReportList& list = rig.List();
+        list.AddColumn("time", 100);
+        list.AddSortColumn(0, true);
+        std::vector<RecordId> records;
+        for (int i = 0; i < 12; ++i) {
+            records.push_back(list.AddRecord(nullptr));
+            list.AddItem(records.back());
+            list.SetItemValue(records.back(), 0,
+                              random() % 3 == 0 ? kNone : static_cast<double>(random() % 5));
+            list.TakeOverRecords();
+            list.Rows();
+        }
+        std::shuffle(records.begin(), records.end(), random);
+        while (!records.empty()) {
+            list.RemoveRecord(records.back());
+            records.pop_back();
+            std::vector<RecordId> rows = list.Rows();
+            std::vector<RecordId> left = records;
+            std::sort(rows.begin(), rows.end());
+            std::sort(left.begin(), left.end());
+            ASSERT_EQ(rows, left);
+        }
+    }
+}
+
 TYPED_TEST_P(ReportListContract, TextsSortByTheUpperCasedCodePage) {
     this->AddColumns(1);
     const RecordId b = this->AddText("B"), a = this->AddText("a"), c = this->AddText("c"),
@@ -300,6 +360,20 @@ TYPED_TEST_P(ReportListContract, AnArrivalLeavesNoSelection) {
     EXPECT_TRUE(this->List().SelectedRows().empty());
 }
 
+TYPED_TEST_P(ReportListContract, AnOrderOfMoreColumnsDropsTheSelectionOfARowThatIsGone) {
+    this->AddColumns(3);
+    this->SortBy(0, true);
+    std::vector<RecordId> records;
+    for (int i = 0; i < 20; ++i) records.push_back(this->Add({"same", std::to_string(i % 7), "same"}));
+    this->TakenOver();
+    this->List().SelectAllRows();
+    for (int i = 0; i < 20; i += 2) this->List().RemoveRecord(records[static_cast<std::size_t>(i)]);
+    for (int column = 1; column < 3; ++column) this->List().AddSortColumn(column, column == 2);
+    this->List().TakeOverRecords();
+    EXPECT_EQ(this->List().SelectedRows().size(), 10u);
+    EXPECT_EQ(this->List().SelectedRows(), this->List().Rows());
+}
+
 TYPED_TEST_P(ReportListContract, TheSelectionFollowsItsRowsThroughChanges) {
     this->AddColumns(1);
     const RecordId a = this->AddText("a"), b = this->AddText("b"), c = this->AddText("c");
@@ -331,12 +405,14 @@ REGISTER_TYPED_TEST_SUITE_P(
     IdsAreNeverUsedTwice, ANewItemHasAnEmptyTextAsItsValue, RecordsGetRowsWhenTheListTakesThemOver,
     OnlyRecordsAddedBeforeTheTakeOverGetRows, ARemovedRecordTakesItsRowWithIt,
     ARecordCanGoBetweenTakeOverAndTheNextLook, AllRecordsCanGoAtOnce, WithoutSortOrderRowsStandByAge,
-    DateTimesSortByNumber, TextsSortByTheUpperCasedCodePage, NumbersStandInFrontOfTexts,
+    DateTimesSortByNumber, EveryNumberHasAPlaceInBothDirections, RowsOfAnyValueGoWithTheirRecords,
+    TextsSortByTheUpperCasedCodePage, NumbersStandInFrontOfTexts,
     EqualValuesStandByAgeAndADescendingOrderIsTheReverse, ASecondSortColumnDecidesBetweenEqualsOfTheFirst,
     ARecordWithoutTheSortedItemSortsAsAnEmptyText, ANewSortOrderHoldsFromTheNextTakeOver,
     AChangedValueMovesTheRowAtTheNextTakeOver, ARecordWhoseValueChangedCanBeRemoved,
     NewRecordsFindTheirPlaceAmongTheRows, SelectedRowsComeInDisplayOrder, ARecordWithoutRowIsNotSelected,
     ARowCanBeSelectedRightAfterTheTakeOver, AnArrivalLeavesNoSelection,
-    TheSelectionFollowsItsRowsThroughChanges, TheFontSizeReadsBack);
+    AnOrderOfMoreColumnsDropsTheSelectionOfARowThatIsGone, TheSelectionFollowsItsRowsThroughChanges,
+    TheFontSizeReadsBack);
 
 }  // namespace vigrel::testing

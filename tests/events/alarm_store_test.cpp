@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <limits>
+#include <random>
+#include <utility>
 
 #include "common/dates.h"
 #include "common/failure.h"
@@ -48,6 +51,38 @@ class AlarmStore : public ::testing::Test, public cFakeStation {
         return order;
     }
 };
+
+// What an alarm's time can be: all that eight bytes can hold, in the order in which alarms stand.
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
+
+TEST_F(AlarmStore, EveryTimeHasItsPlaceWhateverComesFirst) {
+    settings.m_MaxDays = 0;
+    std::vector<std::pair<double, std::string>> alarms{{-kInfinity, "a"}, {-1e300, "b"}, {46000, "c"},
+                                                       {kInfinity, "d"},  {kNone, "e"},  {-kNone, "f"}};
+    std::mt19937 randomOrder(1);
+    for (int round = 0; round < 300; ++round) {
+        std::shuffle(alarms.begin(), alarms.end(), randomOrder);
+        store.m_Alarms.clear();
+        for (const auto& [created, sender] : alarms) store.InsertAlarm(At(created, sender), 0);
+        // Both of the last two are no number, and so equal.
+        ASSERT_EQ(Senders().substr(0, 4), "abcd") << "round " << round;
+        ASSERT_EQ(Senders().size(), 6u);
+    }
+}
+
+TEST_F(AlarmStore, AnAlarmWhoseTimeIsNoNumberIsKeptAndKeepsNoOldOneAlive) {
+    settings.m_MaxDays = 30;
+    PutFile(1, kNone, "N");
+    PutFile(2, 29, "B");
+    PutFile(3, 28, "A");
+    Load();
+    EXPECT_EQ(Senders(), "BAN");
+    clock.AddSeconds(5 * 86400);
+    EXPECT_EQ(store.SweepOldAlarms(), 2);
+    EXPECT_EQ(Senders(), "N");
+    EXPECT_EQ(AlarmFiles().size(), 1u);
+}
 
 TEST_F(AlarmStore, AFileNameHasSevenDigits) {
     EXPECT_EQ(store.FileName(42917), std::string(kApp) + "Alarms\\A0042917.alm");

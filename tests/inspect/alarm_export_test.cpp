@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "common/dates.h"
 #include "common/failure.h"
 #include "inspect/alarm_samples.h"
@@ -76,6 +78,19 @@ TEST_F(AlarmExport, TheOldestAlarmComesFirst) {
     Put("0000003", 200);
     EXPECT_EQ(Names(), "231");
     EXPECT_EQ(m_Progress, "1/3 2/3 3/3 ");
+}
+
+TEST_F(AlarmExport, EveryTimeHasItsPlaceAndOneThatIsNoDateIsTold) {
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    Put("0000001", std::numeric_limits<double>::quiet_NaN());
+    Put("0000002", kInfinity);
+    Put("0000003", 46000);
+    Put("0000004", -kInfinity);
+    EXPECT_EQ(Names(), "4321");
+    const cExportResult result = Export();
+    EXPECT_EQ(result.damaged, 3u);
+    EXPECT_NE(result.table.find("the time of arrival is no date of the years 100 to 9999\"\r\n"),
+              std::string::npos);
 }
 
 TEST_F(AlarmExport, QuotesAreDoubledAndLineEndsStayInsideTheirCell) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "common/code_page.h"
+#include "common/dates.h"
 #include "common/failure.h"
 
 namespace vigrel::testing {
@@ -20,7 +21,8 @@ auto& Element(Container& container, int index, const char* what) {
 int CompareValues(const ItemValue& a, const ItemValue& b) {
     if (a.index() != b.index()) return std::holds_alternative<double>(a) ? -1 : 1;
     if (const double* number = std::get_if<double>(&a)) {
-        return *number < std::get<double>(b) ? -1 : *number > std::get<double>(b) ? 1 : 0;
+        const double other = std::get<double>(b);
+        return Earlier(*number, other) ? -1 : Earlier(other, *number) ? 1 : 0;
     }
     return ToUpper(std::get<std::string>(a)).compare(ToUpper(std::get<std::string>(b)));
 }

@@ -1,12 +1,12 @@
 #include "vigrel-inspect/alarm_export.h"
 
 #include <algorithm>
-#include <cmath>
 #include <initializer_list>
 #include <vector>
 
 #include "common/code_page.h"
 #include "common/date_text.h"
+#include "common/dates.h"
 #include "common/failure.h"
 #include "common/ini.h"
 #include "common/numbers.h"
@@ -92,6 +92,8 @@ std::string ReadAlarm(const cFileReader& files, const std::string& path, cVigrel
             problem = std::to_string(content.size() - file.Position()) + " bytes lie behind the alarm";
         } else if (StateName(alarm.m_Alarm.m_Status).empty()) {
             problem = "the status is not in 0 to 3";
+        } else if (CatchFailure([&] { SplitDateTime(alarm.m_CreatedTime); })) {
+            problem = "the time of arrival is no date of the years 100 to 9999";
         }
     });
     return failure ? failure->what() : problem;
@@ -133,14 +135,12 @@ cExportResult ExportAlarms(const cFileReader& files, const std::string& alarmFol
         const std::string problem = ReadAlarm(files, alarmFolder + name, alarm);
         result.damaged += problem.empty() ? 0 : 1;
         if (!problem.empty() || wish.filter.Wants(alarm)) {
-            // What is no number would leave the order undefined.
-            const DateTime created = std::isnan(alarm.m_CreatedTime) ? 0 : alarm.m_CreatedTime;
-            rows.push_back({created, RowLine(name, alarm, problem, wish.exact)});
+            rows.push_back({alarm.m_CreatedTime, RowLine(name, alarm, problem, wish.exact)});
         }
         onProgress(++result.files, names.size());
     }
     std::stable_sort(rows.begin(), rows.end(),
-                     [](const cRow& a, const cRow& b) { return a.created < b.created; });
+                     [](const cRow& a, const cRow& b) { return Earlier(a.created, b.created); });
     result.alarms = rows.size();
     result.table = kHeader;
     for (const cRow& row : rows) result.table += row.line;

@@ -263,15 +263,15 @@ void cQtReportList::Flush() {
 void cQtReportList::FlushSelection() {
     if (std::exchange(m_Deselect, false)) m_View->clearSelection();
     const auto rowOf = [this](RecordId id) {
-        return m_Records.HasRow(id) ? m_Model.ReportRows().RowOf(m_Records.Get(id)) : -1;
+        return m_Records.HasRow(id) ? m_Model.ReportRows().RowOf(m_Records.Get(id)) : std::nullopt;
     };
     for (const RecordId id : std::exchange(m_ToSelect, {})) {
-        if (const int row = rowOf(id); row >= 0) {
-            m_View->selectionModel()->select(m_Model.index(row, 0),
+        if (const auto row = rowOf(id)) {
+            m_View->selectionModel()->select(m_Model.index(*row, 0),
                                              QItemSelectionModel::Select | QItemSelectionModel::Rows);
         }
     }
-    if (const int row = rowOf(std::exchange(m_ToShow, 0)); row >= 0) m_View->ShowRow(row);
+    if (const auto row = rowOf(std::exchange(m_ToShow, 0))) m_View->ShowRow(*row);
 }
 
 }  // namespace vigrel

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "common/code_page.h"
+#include "common/dates.h"
 
 namespace vigrel {
 namespace {
@@ -12,7 +13,7 @@ int Compare(const ItemValue& a, const ItemValue& b) {
     if (a.index() != b.index()) return std::holds_alternative<double>(a) ? -1 : 1;
     if (const double* number = std::get_if<double>(&a)) {
         const double other = *std::get_if<double>(&b);
-        return *number < other ? -1 : *number > other ? 1 : 0;
+        return Earlier(*number, other) ? -1 : Earlier(other, *number) ? 1 : 0;
     }
     return std::get_if<std::string>(&a)->compare(*std::get_if<std::string>(&b));
 }

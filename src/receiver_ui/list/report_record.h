@@ -22,8 +22,9 @@ struct cReportItem {
 using SortKey = std::vector<ItemValue>;
 
 struct cReportRecord {
-    // Of its way to a row: New until the list takes it over, then Taken until the rows are recomputed.
-    enum eStage : std::uint8_t { New, Taken, Placed };
+    // Of its way to a row: New until the list takes it over, then Taken until the rows are recomputed. Gone:
+    // its row was taken away again.
+    enum eStage : std::uint8_t { New, Taken, Placed, Gone };
 
     RecordId id = 0;  // grows with the record's age
     std::shared_ptr<void> tag;

@@ -26,13 +26,14 @@ std::vector<cRun> RunsOf(const std::vector<int>& rows) {
 
 }  // namespace
 
-int cReportRows::RowOf(const cReportRecord& record) const {
-    if (record.stage != cReportRecord::Placed) return -1;
+std::optional<int> cReportRows::RowOf(const cReportRecord& record) const {
+    if (record.stage != cReportRecord::Placed) return std::nullopt;
     const auto before = [this](const cReportRecord* a, const cReportRecord* b) {
         return m_Order.Before(*a, *b);
     };
     const auto found = std::lower_bound(m_Rows.begin(), m_Rows.end(), &record, before);
-    return found != m_Rows.end() && *found == &record ? static_cast<int>(found - m_Rows.begin()) : -1;
+    if (found == m_Rows.end() || *found != &record) return std::nullopt;
+    return static_cast<int>(found - m_Rows.begin());
 }
 
 // Gives the records their keys, and sorts them among themselves.
@@ -46,13 +47,23 @@ void cReportRows::Place(Records& records) {
               [this](const cReportRecord* a, const cReportRecord* b) { return m_Order.Before(*a, *b); });
 }
 
+std::vector<int> cReportRows::GiveUpRows(const Records& gone, const Records& moved) const {
+    std::vector<int> rows;
+    for (const Records* records : {&gone, &moved}) {
+        for (const cReportRecord* record : *records) {
+            if (const auto row = RowOf(*record)) rows.push_back(*row);
+        }
+    }
+    // A row that is given up is looked for no more: its key may not fit the order that comes next.
+    for (cReportRecord* record : gone) record->stage = cReportRecord::Gone;
+    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
 void cReportRows::Apply(const cRecordChanges& changes) {
     if (changes.everything) return Resort(changes, cRecordOrder(m_Order));
     // Rows are found by the keys under which they were placed, so before anything gets a new key.
-    std::vector<int> rows;
-    for (const cReportRecord* record : changes.gone) rows.push_back(RowOf(*record));
-    for (const cReportRecord* record : changes.moved) rows.push_back(RowOf(*record));
-    std::sort(rows.begin(), rows.end());
+    const std::vector<int> rows = GiveUpRows(changes.gone, changes.moved);
     Records records = changes.added;
     records.insert(records.end(), changes.moved.begin(), changes.moved.end());
     Place(records);
@@ -64,9 +75,12 @@ void cReportRows::Apply(const cRecordChanges& changes) {
 
 void cReportRows::Resort(const cRecordChanges& changes, const cRecordOrder& order) {
     Records records;
-    if (!changes.everything) {
-        std::copy_if(m_Rows.begin(), m_Rows.end(), std::back_inserter(records),
-                     [](const cReportRecord* record) { return !record->removed; });
+    for (cReportRecord* record : m_Rows) {
+        if (record->removed) {
+            record->stage = cReportRecord::Gone;
+        } else {
+            records.push_back(record);
+        }
     }
     records.insert(records.end(), changes.added.begin(), changes.added.end());
     m_Observer.beforeReset();

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <deque>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "receiver_ui/list/report_records.h"
@@ -29,8 +30,8 @@ class cReportRows {
 
     int Count() const { return static_cast<int>(m_Rows.size()); }
     const cReportRecord& operator[](int row) const { return *m_Rows[static_cast<std::size_t>(row)]; }
-    // -1 for a record without row.
-    int RowOf(const cReportRecord& record) const;
+    // Nothing for a record without row.
+    std::optional<int> RowOf(const cReportRecord& record) const;
     const cRecordOrder& Order() const { return m_Order; }
 
     void Apply(const cRecordChanges& changes);
@@ -40,6 +41,8 @@ class cReportRows {
   private:
     using Records = std::vector<cReportRecord*>;
     void Place(Records& records);
+    // The rows of both, in ascending order. Those that are gone have none from now on.
+    std::vector<int> GiveUpRows(const Records& gone, const Records& moved) const;
     // One reset: the rows of these numbers, in ascending order, go, and the sorted records come in.
     void Merge(const std::vector<int>& rows, const Records& records);
     void RemoveRows(const std::vector<int>& rows);

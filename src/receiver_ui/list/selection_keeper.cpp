@@ -31,15 +31,17 @@ void cSelectionKeeper::Remember() {
 
 void cSelectionKeeper::Restore() {
     m_View.selectionModel()->select(Selection(), QItemSelectionModel::Select);
-    const int current = m_Current == nullptr ? -1 : m_Model.ReportRows().RowOf(*m_Current);
-    if (current < 0) return;
-    m_View.selectionModel()->setCurrentIndex(m_Model.index(current, 0), QItemSelectionModel::NoUpdate);
+    if (m_Current == nullptr) return;
+    if (const auto row = m_Model.ReportRows().RowOf(*m_Current)) {
+        m_View.selectionModel()->setCurrentIndex(m_Model.index(*row, 0), QItemSelectionModel::NoUpdate);
+    }
 }
 
 QItemSelection cSelectionKeeper::Selection() const {
     std::vector<int> rows;
-    for (const cReportRecord* record : m_Selected) rows.push_back(m_Model.ReportRows().RowOf(*record));
-    std::erase(rows, -1);  // rows that are gone
+    for (const cReportRecord* record : m_Selected) {
+        if (const auto row = m_Model.ReportRows().RowOf(*record)) rows.push_back(*row);
+    }
     std::sort(rows.begin(), rows.end());
     QItemSelection selection;
     for (std::size_t i = 0; i < rows.size();) {
