@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QMenu>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -336,6 +338,17 @@ TEST_F(cReportListKeyTest, TheOwnersKeysHaveNoEffectOfTheToolkits) {
     m_List.SelectAllRows();
     QTest::keyClick(&View(), Qt::Key_Escape);
     EXPECT_EQ(m_List.SelectedRows().size(), 5u);
+}
+
+TEST_F(cReportListKeyTest, NoOtherKeyCopies) {
+    QGuiApplication::clipboard()->setText("before");
+    View().setCurrentIndex(Cell(1, 1));
+    m_List.SelectAllRows();
+    QTest::keyClick(&View(), Qt::Key_Insert, Qt::ControlModifier);
+    QKeyEvent copyKey(QEvent::KeyPress, Qt::Key_Copy, Qt::NoModifier);
+    QCoreApplication::sendEvent(&View(), &copyKey);
+    QTest::keyClick(&View(), Qt::Key_C, Qt::ControlModifier);  // the owner's, which here does nothing
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "before");
 }
 
 TEST_F(cReportListKeyTest, TheArrowKeysMoveTheCurrentRow) {

@@ -73,6 +73,8 @@ void cReportView::keyPressEvent(QKeyEvent* event) {
         if (selectionModel()->isRowSelected(currentIndex().row())) ChooseRow(currentIndex());
         return;
     }
+    // The toolkit would copy one cell; what a row is copied as is the owner's to say.
+    if (event->matches(QKeySequence::Copy)) return event->accept();
     QTableView::keyPressEvent(event);
 }
 
