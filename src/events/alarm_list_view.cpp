@@ -214,7 +214,10 @@ void cAlarmListView::CopyRowsToClipboard() {
     for (const RecordId row : m_Services.list.SelectedRows()) {
         std::string line;
         const int items = m_Services.list.ItemCount(row);
-        for (int i = 0; i < items; ++i) line += CopyText(m_Services.list.GetItemValue(row, i)) + "\t";
+        for (int i = 0; i < items; ++i) {
+            SkipFailure([&] { line += CopyText(m_Services.list.GetItemValue(row, i)); });
+            line += '\t';
+        }
         text += line;
         if (!text.empty()) text += "\r\n";
     }

@@ -94,6 +94,7 @@ class cAlarmListView {
     void FocusChange() { m_Services.list.ClearSelection(); }
     // Ctrl+A and Ctrl+C, by key code and shift state.
     void HandleListShortcut(int keyCode, int shift);
+    // A cell whose value has no text, such as a date out of range, is copied empty.
     void CopyRowsToClipboard();
 
   private:

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "common/failure.h"
 #include "support/fake_station.h"
 
@@ -266,6 +268,21 @@ TEST_F(AlarmListView, ControlAAndControlCActWithControlAlone) {
     EXPECT_EQ(clipboard.m_Text, "before");
     view.HandleListShortcut(67, 2);
     EXPECT_EQ(clipboard.m_Text, "1\ta\t2026-03-15 12:30:15\t\r\n1\tb\t2026-03-15 12:30:16\t\r\n");
+}
+
+TEST_F(AlarmListView, ARowWhoseDateCannotBeToldIsCopiedAsFarAsItGoes) {
+    Start("[General]\r\nColumns=StateIcon,DateTime,t0\r\n");
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    for (const double created : {1e300, kInfinity, -kInfinity, std::numeric_limits<double>::quiet_NaN()}) {
+        list.RemoveAllRecords();
+        const AlarmPtr damaged = MakeAlarm("damaged");
+        damaged->m_CreatedTime = created;
+        view.AddAlarmRow(damaged);
+        view.ShowNewAlarm(*damaged);
+        list.Select(damaged->m_Record);
+        view.CopyRowsToClipboard();
+        EXPECT_EQ(clipboard.m_Text, "1\t\tdamaged\t\t\r\n") << created;
+    }
 }
 
 TEST_F(AlarmListView, CopyingNothingLeavesTheClipboardEmpty) {
