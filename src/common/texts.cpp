@@ -2,17 +2,22 @@
 
 #include <algorithm>
 
+#include "common/failure.h"
 #include "common/file_procedures.h"
+#include "common/line_problem.h"
 #include "common/numbers.h"
 #include "common/text.h"
 
 namespace vigrel {
 namespace {
 
+constexpr std::string_view kBlanks = " \t";
+
 // The number at the beginning: unlike elsewhere, a blank behind its first digit ends it.
 std::int32_t IdOf(const std::string& line) {
-    const std::string id = Trim(GetField(line, 0, "="));
-    return ToInt32(Val(id.substr(0, id.find(' '))));
+    const std::string id = GetField(line, 0, "=");
+    const std::size_t first = std::min(id.find_first_not_of(kBlanks), id.size());
+    return ToInt32(Val(id.substr(first, id.find_first_of(kBlanks, first) - first)));
 }
 
 }  // namespace
@@ -24,16 +29,21 @@ bool cTexts::LoadTexts() {
     const std::string path = m_Ini.FullPath(kTextFile) + language;
     if (!FileExists(m_Files, path)) return false;
     cLineReader lines(m_Files.ReadFile(path));
-    while (!SafeEof(lines)) {
+    for (std::size_t number = 1; !SafeEof(lines); ++number) {
         const std::string line = lines.ReadLine();
-        const std::size_t equals = line.find('=');
-        if (equals == std::string::npos) continue;
-        const std::string text = line.substr(equals + 1);
-        m_TextIndex.push_back({IdOf(line), static_cast<std::int32_t>(m_Texts.size()) + 1,
-                               static_cast<std::int32_t>(text.size())});
-        m_Texts += text;
+        const auto failure = CatchFailure([&] { TakeLine(line); });
+        if (failure) throw cFailure(failure->Number(), LineProblemText(path, {number, failure->what()}));
     }
     return true;
+}
+
+void cTexts::TakeLine(const std::string& line) {
+    const std::size_t equals = line.find('=');
+    if (equals == std::string::npos) return;
+    const std::string text = line.substr(equals + 1);
+    m_TextIndex.push_back(
+        {IdOf(line), static_cast<std::int32_t>(m_Texts.size()) + 1, static_cast<std::int32_t>(text.size())});
+    m_Texts += text;
 }
 
 std::string cTexts::GetText(std::int32_t id) const {

@@ -18,13 +18,15 @@ class cTexts {
     cTexts(const cFileReader& files, const cIni& ini) : m_Files(files), m_Ini(ini) {}
 
     // Reads the file of the language that the settings name. False when no language is set or its file is
-    // missing.
+    // missing. A line whose id doesn't fit 32 bits throws cFailure that names file and line.
     bool LoadTexts();
     // The text of an id; never empty: an id that no line has, and an id without text, give a text that says
     // so.
     std::string GetText(std::int32_t id) const;
 
   private:
+    void TakeLine(const std::string& line);
+
     struct cRow {
         std::int32_t id, start, length;
     };

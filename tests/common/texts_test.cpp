@@ -69,6 +69,13 @@ TEST(LoadTexts, IdsAreReadAsNumbersFromTheBeginning) {
     EXPECT_EQ(cStation("=bare\r\n").Loaded(0), "bare");
 }
 
+TEST(LoadTexts, ATabEndsANumberAsABlankDoes) {
+    cStation station("12\t9=tab\r\n13 9=blank\r\n\t 14\t=around\r\n");
+    EXPECT_EQ(station.Loaded(12), "tab");
+    EXPECT_EQ(station.Loaded(13), "blank");
+    EXPECT_EQ(station.Loaded(14), "around");
+}
+
 TEST(LoadTexts, SixtyFourAndSixtyFiveEntriesAreAllRead) {
     for (const int count : {64, 65, 1000}) {
         std::string content;
@@ -104,8 +111,13 @@ TEST(LoadTexts, AReadFailureReachesTheCaller) {
     EXPECT_THROW(station.texts.LoadTexts(), cFailure);
 }
 
-TEST(LoadTexts, AnIdBeyond32BitsIsAnOverflow) {
-    EXPECT_THROW(cStation("9999999999=a\r\n").texts.LoadTexts(), cFailure);
+TEST(LoadTexts, AnIdBeyond32BitsIsAnOverflowThatNamesFileAndLine) {
+    cStation station("1=a\r\n\r\n99999999999=x\r\n");
+    const auto failure = CatchFailure([&] { station.texts.LoadTexts(); });
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->Number(), eFailure::Overflow);
+    EXPECT_STREQ(failure->what(),
+                 "C:\\App\\Vigrel_Texts.046, line 3: the number 99999999999 does not fit 32 bits");
 }
 
 }  // namespace
