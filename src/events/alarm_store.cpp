@@ -39,11 +39,16 @@ void cAlarmStore::DeleteAlarmFile(const cVigrelRecieverAlarm& alarm) {
     SkipFailure([&] { m_Services.files.RemoveFile(FileName(alarm.m_FileId)); });
 }
 
+void cAlarmStore::GiveUp(cVigrelRecieverAlarm& alarm) {
+    DeleteAlarmFile(alarm);
+    alarm.m_Removed = true;
+    RemoveRow(alarm);
+}
+
 void cAlarmStore::RemoveOldest() {
     const AlarmPtr oldest = m_Alarms.front();
-    DeleteAlarmFile(*oldest);
     m_Alarms.pop_front();
-    RemoveRow(*oldest);
+    GiveUp(*oldest);
 }
 
 void cAlarmStore::DrawFileId(cVigrelRecieverAlarm& alarm) {
@@ -67,6 +72,8 @@ bool cAlarmStore::TrySave(cVigrelRecieverAlarm& alarm) {
 }
 
 void cAlarmStore::SaveAlarm(const AlarmPtr& alarm) {
+    // Its number may be another alarm's by now.
+    if (alarm->m_Removed) return;
     if (m_Collecting) {
         m_Collected.push_back(alarm);
         return;
@@ -139,8 +146,7 @@ std::size_t cAlarmStore::FindPlace(const cVigrelRecieverAlarm& alarm) const {
 
 bool cAlarmStore::InsertAlarm(const AlarmPtr& alarm, std::int32_t maxEvents) {
     if (IsTooOld(*alarm)) {
-        DeleteAlarmFile(*alarm);
-        RemoveRow(*alarm);
+        GiveUp(*alarm);
         return false;
     }
     m_Alarms.insert(m_Alarms.begin() + static_cast<std::ptrdiff_t>(FindPlace(*alarm)), alarm);
@@ -168,6 +174,7 @@ AlarmPtr cAlarmStore::ReadAlarm(const std::string& name) {
 void cAlarmStore::LoadAlarms(const std::function<void(const AlarmPtr&)>& addAlarmRow) {
     m_Services.list.SetVisible(false);
     m_Services.list.RemoveAllRecords();
+    for (const AlarmPtr& replaced : m_Alarms) replaced->m_Removed = true;
     m_Alarms.clear();
     RemoveTemporaries(m_Services.files, m_Folder);
     std::int32_t removed = 0;

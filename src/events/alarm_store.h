@@ -41,7 +41,8 @@ class cAlarmStore {
     // order. Throws cFailure when a file can't be read.
     void LoadAlarms(const std::function<void(const AlarmPtr&)>& addAlarmRow);
     // Writes the alarm's file as a whole, under a free number when it has none; when the call returns it
-    // survives a crash. Never fails: a file that can't be written is tried again by RetryUnsaved.
+    // survives a crash. Never fails: a file that can't be written is tried again by RetryUnsaved. An alarm
+    // that the store has removed is not written.
     void SaveAlarm(const AlarmPtr& alarm);
     // What the steps save is collected and written at the end with one wait for the disk.
     void SaveTogether(const std::function<void()>& steps);
@@ -60,6 +61,7 @@ class cAlarmStore {
     bool IsTooOld(const cVigrelRecieverAlarm& alarm) const;
     std::size_t FindPlace(const cVigrelRecieverAlarm& alarm) const;
     void RemoveRow(cVigrelRecieverAlarm& alarm);
+    void GiveUp(cVigrelRecieverAlarm& alarm);
     void RemoveOldest();
     void DrawFileId(cVigrelRecieverAlarm& alarm);
     std::string Bytes(cVigrelRecieverAlarm& alarm);

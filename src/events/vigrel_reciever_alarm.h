@@ -24,6 +24,9 @@ class cVigrelRecieverAlarm {
     RecordId m_Record = 0;      // the list record that shows the alarm; 0 while it has none; not stored
     // The settings of its category; shared with other alarms, not owned, not stored.
     const cCategorySpecificSetting* m_CategorySpecificSetting = nullptr;
+    // The store has given it up: it has no file any more, and a popup that still shows it brings none back.
+    // Not stored.
+    bool m_Removed = false;
 
     // The alarm as log lines show it: "Active - t0 (t1/t2/t3/t4)". The state word is never translated.
     std::string SysLogText() const;

@@ -54,6 +54,15 @@ TEST_F(Running, AFullDiskKeepsTheStationReceivingAndItRecovers) {
     EXPECT_EQ(AlarmFiles().size(), 2u);
 }
 
+TEST_F(Running, ClosedPopupsBringBackNoFileThatTheLimitTookAway) {
+    Ini("Columns=StateIcon,t0\r\nMaxEvents=1\r\nViewPopupForm=1\r\nAckEventWhenPopupFormIsClosed=1\r\n");
+    Start();
+    for (const char* text : {"one", "two", "three"}) Send("PLC1", std::string("S1||") + text);
+    for (int popup = 1; popup <= 3; ++popup) popups[popup].CloseWith(eCloseReason::Control);
+    EXPECT_EQ(AlarmFiles().size(), 1u);
+    EXPECT_EQ(list.Rows().size(), 1u);
+}
+
 TEST_F(Running, TheTraceGoesToTheDebugWindowInDebugMode) {
     Start("/debug");
     Send("PLC1", "S0");

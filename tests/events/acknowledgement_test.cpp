@@ -50,6 +50,45 @@ TEST_F(Acknowledgement, OfARowSetsTheAlarmObservedWithIconFileLogAndSilence) {
     EXPECT_EQ(read.m_Observed, True16);
 }
 
+TEST_F(Acknowledgement, OfAnAlarmThatTheLimitsRemovedBringsNoFileBack) {
+    settings.m_MaxEvents = 1;
+    const std::vector<AlarmPtr> alarms{Take(MakeAlarm("a")), Take(MakeAlarm("b")), Take(MakeAlarm("c"))};
+    for (const AlarmPtr& alarm : alarms) acknowledgement.AckAlarm(0, alarm);
+    EXPECT_EQ(AlarmFiles().size(), 1u);
+    store.RetryUnsaved();
+    EXPECT_EQ(AlarmFiles().size(), 1u);
+    EXPECT_EQ(Log(), "T10039 Active - a (///)\nT10039 Active - b (///)\nT10039 Active - c (///)\n");
+}
+
+TEST_F(Acknowledgement, OfARemovedAlarmLeavesTheFileOfItsNumbersNextOwnerAlone) {
+    settings.m_MaxEvents = 1;
+    random.m_Values = {0.25, 0.5, 0.25};
+    const AlarmPtr removed = Take(MakeAlarm("removed"));
+    Take(MakeAlarm("between"));
+    const AlarmPtr owner = Take(MakeAlarm("owner"));
+    ASSERT_EQ(owner->m_FileId, removed->m_FileId);
+    const std::string before = files.ReadFile(store.FileName(owner->m_FileId));
+    acknowledgement.AckAlarm(0, removed);
+    EXPECT_EQ(files.ReadFile(store.FileName(owner->m_FileId)), before);
+}
+
+TEST_F(Acknowledgement, OfAnAlarmThatWasTooOldOnArrivalBringsNoFileBack) {
+    settings.m_MaxDays = 30;
+    const AlarmPtr alarm = MakeAlarm("old");
+    alarm->m_CreatedTime -= 31;
+    Take(alarm);
+    acknowledgement.AckAlarm(0, alarm);
+    EXPECT_TRUE(AlarmFiles().empty());
+}
+
+TEST_F(Acknowledgement, OfAnAlarmThatALoadReplacedLeavesItsFileAlone) {
+    const AlarmPtr replaced = Take(MakeAlarm("replaced"));
+    store.LoadAlarms([this](const AlarmPtr& alarm) { view.AddAlarmRow(alarm); });
+    const std::string before = files.ReadFile(store.FileName(replaced->m_FileId));
+    acknowledgement.AckAlarm(0, replaced);
+    EXPECT_EQ(files.ReadFile(store.FileName(replaced->m_FileId)), before);
+}
+
 TEST_F(Acknowledgement, TheAlarmArgumentIsPreferredToTheRow) {
     const AlarmPtr first = Take(MakeAlarm("first"));
     const AlarmPtr second = Take(MakeAlarm("second"));
