@@ -16,7 +16,7 @@ Installs the Debian packages that are missing, builds, and starts a station that
 
 The station's application folder (configuration, stored alarms, logs) is the one that the environment variable
 VIGREL_APPLICATION_PATH names, or VigrelReceiver in your data folder. On first use it is filled with a configuration
-to begin with, in the language of your locale. The station listens on port 12412 (key Port of section TCPIP).
+to begin with, in the language of your locale (or of VIGREL_LANGUAGE, such as 046). The station listens on port 12412 (key Port of section TCPIP).
 
 Switches of the receiver, such as /DEBUG, /TOPMOST, /MAXIMIZE, /MINIMIZE, are passed on.
 
@@ -43,7 +43,6 @@ done
 cmake --build --preset release
 [ $build_only = no ] || exit 0
 
-share=build/release/share/vigrel-receiver
 folder=${VIGREL_APPLICATION_PATH:-${XDG_DATA_HOME:-$HOME/.local/share}/VigrelReceiver}
 export VIGREL_APPLICATION_PATH=$folder
 
@@ -53,25 +52,7 @@ if [ $headless = no ] && [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ];
 fi
 [ $headless = no ] || export QT_QPA_PLATFORM=offscreen
 
-# The language of the user's locale, when there is a text file for it. Without a window nobody could choose one.
-language() {
-    case "${LC_ALL:-${LC_MESSAGES:-${LANG:-}}}" in
-        sv*) echo 046 ;; da*) echo 045 ;; nb*|nn*|no*) echo 047 ;; fi*) echo 358 ;; de*) echo 049 ;; en*) echo 044 ;;
-        *) [ $headless = no ] || echo 044 ;;
-    esac
-}
-mkdir -p "$folder"
-if ! ls "$folder" | grep -qi '^vigrelreceiver\.ini$'; then
-    cp -rn "$share/." "$folder/"
-    number=$(language)
-    if [ -n "$number" ] && [ -f "$folder/Vigrel_Texts.$number" ]; then
-        LC_ALL=C awk -v number="$number" '
-            /^[Ll]anguage=/ { next }
-            { print }
-            !done && /^\[General\]/ { printf "Language=%s\r\n", number; done = 1 }
-        ' "$folder/Templates/VigrelReceiver.oni" >"$folder/VigrelReceiver.INI"
-    fi
-fi
-
+# Ready to receive without a question, where the locale names a language that there is.
+export VIGREL_LANGUAGE=${VIGREL_LANGUAGE:-locale}
 echo "Application folder: $folder"
 exec build/release/bin/vigrel-receiver "${switches[@]}"

@@ -80,8 +80,8 @@ end() {
     station=
 }
 
-# first_start USER FOLDER PROGRAM: fills the folder. The question for the language, which follows, can't be answered
-# without a window, so nothing of the station runs yet that could be ended in order.
+# first_start USER FOLDER PROGRAM: fills the folder. The start goes on behind that, on a port that this machine may use
+# already, so it isn't waited for.
 first_start() {
     start "$1" "$3"
     check "the first start makes a configuration" until_true has_configuration "$2"

@@ -71,7 +71,7 @@ instead() {
 port=$((20000 + RANDOM % 10000))
 cp -r build/release/share/vigrel-receiver/. "$folder"
 LC_ALL=C sed -e "s/^Language=.*/Language=044\r/; s/^Port=.*/Port=$port\r/" \
-    "$folder/Templates/VigrelReceiver.oni" >"$folder/VigrelReceiver.INI"
+    "$folder/Templates/VigrelReceiver.044" >"$folder/VigrelReceiver.INI"
 sed "s|/usr/bin/|$programs/|" packaging/vigrel-receiver.service >"$units/vigrel-receiver.service"
 printf '[Unit]\nBindsTo=graphical-session.target\n' >"$units/desktop.target"
 

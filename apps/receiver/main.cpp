@@ -1,6 +1,7 @@
 // The alarm receiver: builds the machine's side of every port, and the receiver over them.
 
 #include <QIcon>
+#include <QScreen>
 #include <QTimer>
 #include <cstdio>
 #include <string>
@@ -25,6 +26,7 @@
 #include "common/code_page.h"
 #include "common/failure.h"
 #include "common/settings.h"
+#include "core/first_start.h"
 #include "core/vigrel_receiver_main.h"
 #include "receiver_ui/dialogs/other_windows.h"
 #include "receiver_ui/main/main_window.h"
@@ -44,14 +46,25 @@ constexpr const char* kHelp =
     "vigrel-receiver [/SWITCH]...\n\n"
     "Starts the station. Its files stand in the folder that VIGREL_APPLICATION_PATH names, otherwise beside "
     "the\n"
-    "program or in ~/.local/share/VigrelReceiver; a station without a display needs Language= in its\n"
-    "VigrelReceiver.INI. The switches are told by the manual page vigrel-receiver(1).\n";
+    "program or in ~/.local/share/VigrelReceiver; a first start without a display takes the language of\n"
+    "VIGREL_LANGUAGE or of the locale. The switches are told by the manual page vigrel-receiver(1).\n";
 
 // What stands behind the program's own name, as one text.
 std::string CommandLine(int argc, char** argv) {
     std::string line;
     for (int i = 1; i < argc; ++i) line += (i > 1 ? " " : "") + std::string(argv[i]);
     return line;
+}
+
+cFirstStartHints FirstStartHints() {
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    const bool canAsk = QGuiApplication::platformName() != "offscreen";
+    return {qEnvironmentVariable("VIGREL_LANGUAGE").toStdString(),
+            canAsk,
+            screen.left(),
+            screen.top(),
+            screen.width(),
+            screen.height()};
 }
 
 void ConnectWindow(cMainWindow& window, cVigrelReceiverMain& receiver) {
@@ -81,9 +94,13 @@ int Run(int argc, char** argv) {
     application.Guard(
         [&] { FillApplicationFolder(files, applicationPath, FindInstalledFolder(hints.programFolder)); });
 
+    const cQtLocale locale;
+    cIni ini(files, applicationPath);
+    cFirstStart firstStart(files, ini, locale, FirstStartHints());
+    firstStart.Prepare();
+
     const cSystemClock clock;
     cStandardRandom random;
-    const cQtLocale locale;
     cFolderLock singleInstance(applicationPath);
     cQtListener winsockConnect;
     cQtDataSocket winsockData(winsockConnect);
@@ -106,12 +123,12 @@ int Run(int argc, char** argv) {
     cNotificationIcon trayArea;
     cHidSignalLight signalLight(clock);
     cLocalRunningApps runningApps;
-    const cIni printerIni(files, applicationPath);
-    cLinuxPrinterPorts printerPorts(printerIni, clock, [](const std::string& text) {
+    cLinuxPrinterPorts printerPorts(ini, clock, [](const std::string& text) {
         std::fprintf(stderr, "vigrel-receiver: %s\n", CodePageToUtf8(text).c_str());
     });
     const cQtSettingStore settingStore;
     cQtOtherWindows otherWindows({files, clock, locale, screen, settingStore, windows}, applicationPath);
+    otherWindows.OnLanguageChosen = [&] { firstStart.FollowChoice(); };
 
     cVigrelReceiverMain receiver({files,          clock,       random,         locale,      singleInstance,
                                   winsockConnect, winsockData, timerKeepAlive, timerPlay,   mainWindow.List(),

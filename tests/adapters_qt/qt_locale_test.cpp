@@ -98,6 +98,11 @@ TEST(cQtLocale, NamesOfLanguageAndCountry) {
     EXPECT_EQ(swedish.NativeLanguageName(), "svenska");
     EXPECT_EQ(swedish.EnglishCountryName(), "Sweden");
 }
+TEST(cQtLocale, TheLanguageHasOneNameInAllItsCountries) {
+    for (const QLocale::Territory country : {QLocale::Germany, QLocale::Austria, QLocale::Switzerland}) {
+        EXPECT_EQ(cQtLocale(QLocale(QLocale::German, country)).NativeLanguageName(), "Deutsch");
+    }
+}
 TEST(cQtLocale, AMachineWithoutALocaleHasNoNames) {
     const cQtLocale none(QLocale::c());
     EXPECT_EQ(none.EnglishLanguageName(), "");

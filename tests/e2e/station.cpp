@@ -97,7 +97,7 @@ cStation::~cStation() {
 
 void cStation::WriteConfiguration() const {
     const std::filesystem::path ini = Folder() / "VigrelReceiver.INI";
-    if (std::filesystem::exists(ini)) return;
+    if (m_MakesConfiguration || std::filesystem::exists(ini)) return;
     std::string content = m_Configuration;
     const std::string own = "Language=046\r\n";
     const std::size_t general = content.find("[General]\r\n");

@@ -57,6 +57,7 @@ class cStation {
     std::string StandardError() const;
 
     int m_Port;
+    bool m_MakesConfiguration = false;  // the program itself; the port is the usual one then
     std::map<std::string, std::string> m_Environment{{"QT_QPA_PLATFORM", "offscreen"}};
 
   private:

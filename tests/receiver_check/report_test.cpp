@@ -97,7 +97,7 @@ TEST_F(CheckReportTest, TheDeliveredConfigurationHasRemarksAtMost) {
             m_Files.Put(kApp + folder + name, delivered.ReadFile(share + "\\" + folder + name));
         }
     }
-    const cFindings findings = Check(delivered.ReadFile(share + "\\Templates\\VigrelReceiver.oni"));
+    const cFindings findings = Check(delivered.ReadFile(share + "\\Templates\\VigrelReceiver.044"));
     EXPECT_EQ(Lines(findings), "remark language-not-set [General] Language");
 }
 

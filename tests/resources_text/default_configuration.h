@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <map>
 #include <optional>
 #include <string>
@@ -35,11 +36,15 @@ inline std::optional<cLine> KeyLine(const std::string& line, const std::string& 
     return cLine{section, entry.substr(0, equals), entry.substr(equals + 1), commented};
 }
 
-// The delivered template in place of a station's configuration.
+// The delivered languages: the numbers of text files and templates.
+inline constexpr std::array<const char*, 6> kDeliveredLanguages{"044", "045", "046", "047", "049", "358"};
+
+// The delivered template of a language in place of a station's configuration.
 class DefaultConfiguration : public ::testing::Test {
   protected:
+    virtual std::string Language() const { return "044"; }
     void SetUp() override {
-        m_Content = vigrel::testing::ReadShareFile("Templates/VigrelReceiver.oni");
+        m_Content = ReadShareFile("Templates/VigrelReceiver." + Language());
         m_Files.Put(kPath, m_Content);
         m_Categories.ReadDefault(m_Ini);
         m_Categories.ReadCategories(m_Files, m_Ini);
@@ -79,6 +84,12 @@ class DefaultConfiguration : public ::testing::Test {
     cCategorySettings m_Categories;
     std::vector<cLine> m_Lines;
     std::map<std::string, std::string> m_Remarks;  // by section
+};
+
+// The same for each language in turn.
+class EveryTemplate : public DefaultConfiguration, public ::testing::WithParamInterface<const char*> {
+  protected:
+    std::string Language() const override { return GetParam(); }
 };
 
 }  // namespace vigrel::testing

@@ -54,13 +54,15 @@ bool Parses(const std::string& value, const cSettingKey& key) {
     return false;
 }
 
-TEST_F(DefaultConfiguration, HasEveryKeySetOrCommentedOut) {
+INSTANTIATE_TEST_SUITE_P(Languages, EveryTemplate, ::testing::ValuesIn(kDeliveredLanguages));
+
+TEST_P(EveryTemplate, HasEveryKeySetOrCommentedOut) {
     for (const cSettingKey& key : SettingKeys()) {
         EXPECT_TRUE(HasLine(key.section, key.name)) << "[" << key.section << "] " << key.name;
     }
 }
 
-TEST_F(DefaultConfiguration, HasNoKeyThatNobodyReads) {
+TEST_P(EveryTemplate, HasNoKeyThatNobodyReads) {
     const std::set<std::string> free{"Senders", "CategoryTranslations", "PrinterPorts"};
     for (const cLine& line : m_Lines) {
         if (free.contains(line.section)) continue;
@@ -69,7 +71,7 @@ TEST_F(DefaultConfiguration, HasNoKeyThatNobodyReads) {
 }
 
 // Remarks tell "Key (default VALUE)" or, for keys with the same default, "Key, Key (default VALUE)".
-TEST_F(DefaultConfiguration, TellsTheDefaultOfEveryKey) {
+TEST_P(EveryTemplate, TellsTheDefaultOfEveryKey) {
     const std::string columns = m_Content.substr(m_Content.find("; Columns. Each has"));
     for (const cSettingKey& key : SettingKeys()) {
         const bool column = key.name.starts_with("Column") && key.section != "General";
@@ -83,7 +85,7 @@ TEST_F(DefaultConfiguration, TellsTheDefaultOfEveryKey) {
     }
 }
 
-TEST_F(DefaultConfiguration, EveryValueParsesAlsoTheOnesCommentedOut) {
+TEST_P(EveryTemplate, EveryValueParsesAlsoTheOnesCommentedOut) {
     for (const cLine& line : m_Lines) {
         const cSettingKey* key = Known(line);
         if (key != nullptr) {
@@ -92,11 +94,11 @@ TEST_F(DefaultConfiguration, EveryValueParsesAlsoTheOnesCommentedOut) {
     }
 }
 
-TEST_F(DefaultConfiguration, NoValueIsLongerThanCanBeRead) {
+TEST_P(EveryTemplate, NoValueIsLongerThanCanBeRead) {
     for (const cLine& line : m_Lines) EXPECT_LT(line.value.size(), 2048u) << line.key;
 }
 
-TEST_F(DefaultConfiguration, NoSectionOrKeyStandsTwice) {
+TEST_P(EveryTemplate, NoSectionOrKeyStandsTwice) {
     std::set<std::string> seen;
     for (const cLine& line : m_Lines) {
         if (!line.commented) {
@@ -107,7 +109,7 @@ TEST_F(DefaultConfiguration, NoSectionOrKeyStandsTwice) {
     EXPECT_EQ(std::set<std::string>(sections.begin(), sections.end()).size(), sections.size());
 }
 
-TEST_F(DefaultConfiguration, OnlyCommentsSectionsKeysAndEmptyLines) {
+TEST_P(EveryTemplate, OnlyCommentsSectionsKeysAndEmptyLines) {
     for (const std::string& line : SplitLines(m_Content)) {
         const bool fits = line.empty() || line[0] == ';' || (line[0] == '[' && line.ends_with("]")) ||
                           (line[0] != ' ' && line.find('=') != std::string::npos);
@@ -115,14 +117,14 @@ TEST_F(DefaultConfiguration, OnlyCommentsSectionsKeysAndEmptyLines) {
     }
 }
 
-TEST_F(DefaultConfiguration, EverySectionNameFitsTheBufferTheyAreReadInto) {
+TEST_P(EveryTemplate, EverySectionNameFitsTheBufferTheyAreReadInto) {
     const cIniEntries small = ReadIniEntries(m_Files, "", 8192, kPath);
     const cIniEntries large = ReadIniEntries(m_Files, "", 1u << 20, kPath);
     EXPECT_EQ(small.entries, large.entries);
     EXPECT_LT(large.characters, 8192 / 4) << "leave room for the installer's own categories";
 }
 
-TEST_F(DefaultConfiguration, NoSenderIsSetAndTheExamplesAreReadWhenUncommented) {
+TEST_P(EveryTemplate, NoSenderIsSetAndTheExamplesAreReadWhenUncommented) {
     EXPECT_TRUE(ReadIniEntries(m_Files, "Senders", 4096, kPath).entries.empty());
     std::vector<std::string> examples;
     for (const cLine& line : m_Lines) {
@@ -140,11 +142,11 @@ TEST_F(DefaultConfiguration, NoSenderIsSetAndTheExamplesAreReadWhenUncommented) 
     EXPECT_FALSE(examples.empty());
 }
 
-TEST_F(DefaultConfiguration, AsksForTheLanguageAtTheFirstStart) {
+TEST_P(EveryTemplate, AsksForTheLanguageAtTheFirstStart) {
     EXPECT_EQ(m_Ini.GetIniString("General", "Language", "missing"), "");
 }
 
-TEST_F(DefaultConfiguration, WhatTheProgramWritesReplacesALineInPlace) {
+TEST_P(EveryTemplate, WhatTheProgramWritesReplacesALineInPlace) {
     const std::size_t lines = SplitLines(m_Content).size();
     for (const std::string key :
          {"Language", "CountryFilter", "Vigrel_Receiver_Main.Top", "Vigrel_Receiver_Main.Left",

@@ -10,14 +10,14 @@ namespace {
 
 using namespace vigrel::testing;
 
-// What the delivered templates make of an event, in English.
-class DefaultTemplates : public DefaultConfiguration {
+// What the delivered templates make of an event.
+class DefaultTemplates : public EveryTemplate {
   protected:
     void SetUp() override {
         DefaultConfiguration::SetUp();
-        m_Files.Put("C:\\App\\Vigrel_Texts.044", vigrel::testing::ReadShareFile("Vigrel_Texts.044"));
+        m_Files.Put("C:\\App\\Vigrel_Texts." + Language(), ReadShareFile("Vigrel_Texts." + Language()));
         ReadSettings(m_Ini, m_Settings, [] {});
-        m_Ini.PutIniString("General", "Language", "044");
+        m_Ini.PutIniString("General", "Language", Language());
         ASSERT_TRUE(m_Texts.LoadTexts());
     }
     std::string Expand(std::int16_t status, const std::string& text, const std::string& extraText) {
@@ -38,21 +38,26 @@ class DefaultTemplates : public DefaultConfiguration {
     cEventText m_EventText{m_Settings, m_Texts, m_Ini, m_Forms};
 };
 
-TEST_F(DefaultTemplates, APopupTellsStateCategoryTimeSenderTextsAndInstruction) {
+INSTANTIATE_TEST_SUITE_P(Languages, DefaultTemplates, ::testing::ValuesIn(kDeliveredLanguages));
+
+TEST_P(DefaultTemplates, APopupTellsCategoryAndStateFirstThenTextsTimeSenderAndInstruction) {
     const std::string& format = m_Categories.m_DefaultCategorySetting.m_EventPopupFormat;
     EXPECT_EQ(Expand(1, format, "Call 112"),
-              "ALARM: Fire   2024-03-05 13:45:10   PLC1\r\nSmoke in room 12\r\nBuilding A  \r\nCall 112");
-    EXPECT_TRUE(Expand(0, format, "").starts_with("No longer active: Fire"));
-    EXPECT_TRUE(Expand(2, format, "").starts_with("Acknowledged: Fire"));
+              "Fire - " + m_Texts.GetText(838) +
+                  "\r\nSmoke in room 12\r\nBuilding A  \r\n2024-03-05 13:45:10  PLC1\r\nCall 112");
+    EXPECT_TRUE(Expand(0, format, "").starts_with("Fire - " + m_Texts.GetText(837)));
+    EXPECT_TRUE(Expand(2, format, "").starts_with("Fire - " + m_Texts.GetText(839)));
 }
 
-TEST_F(DefaultTemplates, TheExampleOfAPrintedLineFitsALine) {
+TEST_P(DefaultTemplates, TheExampleOfAPrintedLineFitsALine) {
     const auto example = std::find_if(m_Lines.begin(), m_Lines.end(), [](const cLine& line) {
         return line.section == "Printer" && line.key == "Format" && line.commented;
     });
     ASSERT_NE(example, m_Lines.end());
+    std::string state = m_Texts.GetText(838);
+    state.resize(11, ' ');
     EXPECT_EQ(Expand(1, example->value, ""),
-              "ALARM 2024-03-05 13:45:10 PLC1         Fire         Smoke in room 12");
+              "2024-03-05 13:45:10 " + state + " PLC1       Fire         Smoke in room 12");
 }
 
 }  // namespace

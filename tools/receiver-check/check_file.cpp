@@ -160,12 +160,13 @@ void CheckFile(const cInstallation& installation, cFindings& findings) {
     }
     const cFileReader& files = installation.Files();
     if (!installation.IsConfigured()) {
-        if (files.FileExists(installation.Path() + "Templates\\VigrelReceiver.oni")) {
-            findings.Remark("no-configuration", cInstallation::WholeFile(),
-                            "is missing; the start makes it of Templates\\VigrelReceiver.oni");
-        } else {
+        // The folder's own template, or the delivered one of a language.
+        if (files.ListFiles(installation.Path() + "Templates\\", "VigrelReceiver.???").empty()) {
             findings.Error("no-configuration", cInstallation::WholeFile(),
                            "is missing, and so is Templates\\VigrelReceiver.oni: the list has no columns");
+        } else {
+            findings.Remark("no-configuration", cInstallation::WholeFile(),
+                            "is missing; the start makes it of a template in folder Templates");
         }
         return;
     }

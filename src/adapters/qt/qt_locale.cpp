@@ -158,7 +158,8 @@ std::string cQtLocale::EnglishLanguageName() const {
     return FromQString(QLocale::languageToString(m_Locale.language()));
 }
 std::string cQtLocale::NativeLanguageName() const {
-    return FromQString(m_Locale.nativeLanguageName());
+    // Of the language, not of the country's form of it: a station in Austria has the German texts.
+    return FromQString(QLocale(m_Locale.language()).nativeLanguageName());
 }
 std::string cQtLocale::EnglishCountryName() const {
     if (m_Locale.territory() == QLocale::AnyTerritory) return {};

@@ -10,6 +10,7 @@ namespace vigrel {
 void cQtOtherWindows::ShowLanguageWindow() {
     cLanguageSelection selection(m_Services.files, m_Ini, m_Services.locale);
     cLanguageWindow::Choose(selection);
+    if (OnLanguageChosen) OnLanguageChosen();
 }
 
 void cQtOtherWindows::ShowDebugWindow(const cTexts& texts, cReceiverState& state) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -31,6 +32,9 @@ class cQtOtherWindows : public cOtherWindows {
     void WriteTrace(std::string_view text, std::int16_t kind) override;
     void ShowAboutBox(const cTexts& texts) override;
     void UnloadAboutBox() override;
+
+    // The language window was closed; what was chosen stands in the settings.
+    std::function<void()> OnLanguageChosen;
 
   private:
     cServices m_Services;

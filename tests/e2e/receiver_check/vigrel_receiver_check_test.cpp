@@ -44,7 +44,7 @@ class VigrelReceiverCheck : public ::testing::Test {
     // Replaces a text of the configuration, which is the delivered one at first.
     void Configure(const std::string& old, const std::string& text) {
         const fs::path ini = m_App / "VigrelReceiver.INI";
-        std::string content = ReadAll(fs::exists(ini) ? ini : m_App / "Templates" / "VigrelReceiver.oni");
+        std::string content = ReadAll(fs::exists(ini) ? ini : m_App / "Templates" / "VigrelReceiver.044");
         const std::size_t place = content.find("\n" + old);
         content.replace(place == std::string::npos ? content.find(old) : place + 1, old.size(), text);
         std::ofstream(ini, std::ios::binary) << content;

@@ -4,7 +4,10 @@
 #include <signal.h>
 
 #include <chrono>
+#include <filesystem>
 #include <fstream>
+#include <map>
+#include <string>
 #include <thread>
 
 #include "e2e/station.h"
@@ -57,6 +60,49 @@ TEST(FirstStart, TheLanguageIsChosenByKeyboardAndTheStationRunsInItAtOnce) {
     EXPECT_NE(FindWindow(station.Process(), DeliveredText("047", 10000)), "");
     EXPECT_EQ(station.Stop(SIGTERM), 0);
     EXPECT_EQ(station.Log().back(), DeliveredText("047", 10020));
+}
+
+// A folder that holds nothing: the program fills it. Its port can be in use, so the start may end early.
+class cFreshStation : public cStation {
+  public:
+    explicit cFreshStation(const std::map<std::string, std::string>& environment) {
+        for (const auto& entry : std::filesystem::directory_iterator(Folder())) {
+            std::filesystem::remove_all(entry.path());
+        }
+        m_Environment = environment;
+        m_MakesConfiguration = true;
+        Launch();
+    }
+};
+
+TEST(FirstStart, WithoutAScreenTemplateTextsAndConfigurationAreInTheLanguageOfTheLocale) {
+    cFreshStation station({{"QT_QPA_PLATFORM", "offscreen"}, {"LC_ALL", "sv_SE.UTF-8"}});
+    EXPECT_TRUE(station.WaitForLog(DeliveredText("046", 10040))) << station.StandardError();
+    const std::string ini = ReadAll(station.Folder() / "VigrelReceiver.ini");
+    EXPECT_NE(ini.find("Language=046\r\n"), std::string::npos);
+    EXPECT_NE(ini.find("ColumnText=Larm\r\n"), std::string::npos);
+    EXPECT_EQ(ReadAll(station.Folder() / "Templates" / "VigrelReceiver.oni"),
+              ReadAll(station.Folder() / "Templates" / "VigrelReceiver.046"));
+}
+
+TEST(FirstStart, TheChoiceOfAnotherLanguageBringsItsConfiguration) {
+    cFreshStation station({{"QT_QPA_PLATFORM", "xcb"}, {"LC_ALL", "sv_SE.UTF-8"}});
+    const std::string window = FindWindow(station.Process(), "Vigrel - Select Language");
+    ASSERT_NE(window, "") << station.StandardError();
+    Press(window, {"n", "Return"});
+    EXPECT_TRUE(station.WaitForLog(DeliveredText("047", 10040))) << station.StandardError();
+    const std::string ini = ReadAll(station.Folder() / "VigrelReceiver.ini");
+    EXPECT_NE(ini.find("Language=047\r\n"), std::string::npos);
+    EXPECT_NE(ini.find("ColumnText=Hendelsesdato\r\n"), std::string::npos);
+    EXPECT_NE(ini.find("CountryFilter=Sweden\r\n"), std::string::npos);
+    EXPECT_EQ(ReadAll(station.Folder() / "Templates" / "VigrelReceiver.oni"),
+              ReadAll(station.Folder() / "Templates" / "VigrelReceiver.047"));
+}
+
+TEST(FirstStart, AWishedLanguageIsNotAskedFor) {
+    cFreshStation station(
+        {{"QT_QPA_PLATFORM", "xcb"}, {"LC_ALL", "sv_SE.UTF-8"}, {"VIGREL_LANGUAGE", "358"}});
+    EXPECT_TRUE(station.WaitForLog(DeliveredText("358", 10040))) << station.StandardError();
 }
 
 TEST(FirstStart, WithoutAChoiceTheProgramEndsWithoutAWord) {

@@ -1,0 +1,110 @@
+#include "core/first_start.h"
+
+#include <array>
+
+#include "common/failure.h"
+#include "common/file_procedures.h"
+#include "common/language_selection.h"
+#include "common/numbers.h"
+#include "common/text.h"
+#include "common/texts.h"
+
+namespace vigrel {
+namespace {
+
+constexpr std::string_view kEnglish = "044";
+constexpr std::string_view kTemplate = "Templates\\VigrelReceiver.";
+constexpr int kTwipsPerPixel = 15;
+
+// The columns that grow with the window, with their shares of what the others leave, in percent: the alarm's
+// own text first.
+struct cShare {
+    std::string_view column;
+    int percent;
+};
+constexpr std::array<cShare, 3> kShares{{{"t0", 50}, {"t1", 20}, {"t4", 30}}};
+
+int ColumnWidth(const cIni& ini, std::string_view column) {
+    return static_cast<int>(Val(ini.GetIniString(column, "ColumnWidth", "100")));
+}
+
+int WidthOfAllColumns(const cIni& ini) {
+    const std::string columns = ini.GetIniString("General", "Columns", "");
+    int width = 0;
+    for (std::int16_t i = 0; !GetField(columns, i, ",").empty(); ++i) {
+        width += ColumnWidth(ini, GetField(columns, i, ","));
+    }
+    return width;
+}
+
+}  // namespace
+
+// The same rule by which the language window marks one.
+std::string cFirstStart::UsersLanguage() const {
+    cLanguageSelection selection(m_Files, m_Ini, m_Locale);
+    selection.Load();
+    if (selection.Selected() < 0) return {};
+    return Digits(selection.Languages()[static_cast<std::size_t>(selection.Selected())].number, 3);
+}
+
+// Empty where the operator is to be asked.
+std::string cFirstStart::DecidedLanguage(const std::string& users) const {
+    if (!m_Hints.language.empty()) {
+        const std::string texts = std::string(kTextFile) + m_Hints.language;
+        if (m_Files.FileExists(m_Ini.FullPath(texts))) return m_Hints.language;
+        if (!users.empty()) return users;
+    }
+    if (m_Hints.canAsk) return {};
+    return users.empty() ? std::string(kEnglish) : users;
+}
+
+void cFirstStart::Prepare() {
+    const std::string own = m_Ini.FullPath(std::string(kTemplate) + "oni");
+    if (m_Files.FileExists(m_Ini.FullPath(kIniFile)) || m_Files.FileExists(own)) return;
+    const std::string users = UsersLanguage();
+    const std::string decided = DecidedLanguage(users);
+    const std::string wanted = decided.empty() ? users : decided;
+    if (!Place(wanted) && !Place(std::string(kEnglish))) return;
+    if (!decided.empty()) m_Ini.PutIniString("General", "Language", decided);
+}
+
+void cFirstStart::FollowChoice() {
+    const std::string chosen = m_Ini.GetIniString("General", "Language", "");
+    if (m_Placed.empty() || chosen.empty() || chosen == m_Placed) return;
+    const std::string country = m_Ini.GetIniString("General", "CountryFilter", "");
+    if (!Place(chosen)) return;
+    m_Ini.PutIniString("General", "Language", chosen);
+    m_Ini.PutIniString("General", "CountryFilter", country);
+}
+
+bool cFirstStart::Place(const std::string& language) {
+    const bool placed = SkipFailure([&] {
+        const std::string bytes = m_Files.ReadFile(m_Ini.FullPath(std::string(kTemplate) + language));
+        ReplaceFile(m_Files, m_Ini.FullPath(std::string(kTemplate) + "oni"), bytes);
+        ReplaceFile(m_Files, m_Ini.FullPath("VigrelReceiver.ini"), bytes);
+    });
+    if (!placed) return false;
+    m_Placed = language;
+    FitToScreen();
+    return true;
+}
+
+void cFirstStart::FitToScreen() {
+    if (m_Hints.width <= 0 || m_Hints.height <= 0) return;
+    const auto put = [&](std::string_view key, int pixels) {
+        m_Ini.PutIniString("General", "Vigrel_Receiver_Main." + std::string(key),
+                           std::to_string(pixels * kTwipsPerPixel));
+    };
+    put("Top", m_Hints.top);
+    put("Left", m_Hints.left);
+    put("Height", m_Hints.height);
+    put("Width", m_Hints.width);
+    const int free = m_Hints.width - kBesideColumns - WidthOfAllColumns(m_Ini);
+    if (free <= 0) return;
+    for (const cShare& share : kShares) {
+        const int width = ColumnWidth(m_Ini, share.column) + free * share.percent / 100;
+        m_Ini.PutIniString(share.column, "ColumnWidth", std::to_string(width));
+    }
+}
+
+}  // namespace vigrel

@@ -1,0 +1,162 @@
+#include "core/first_start.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <tuple>
+
+#include "core/read_settings.h"
+#include "support/fake_files.h"
+#include "support/fake_locale.h"
+
+namespace vigrel {
+namespace {
+
+using testing::cFakeFiles;
+using testing::cFakeLocale;
+
+const std::string kFolder = "C:\\App\\";
+
+class FirstStart : public ::testing::Test {
+  protected:
+    FirstStart() {
+        for (const auto& [number, name, caption] : {std::tuple{"044", "English", "Alarm"},
+                                                    {"046", "svenska", "Larm"},
+                                                    {"049", "Deutsch", "Alarm"}}) {
+            m_Files.Put(kFolder + "Vigrel_Texts." + number, "0=" + std::string(name) + "\r\n");
+            m_Files.Put(
+                kFolder + "Templates\\VigrelReceiver." + number,
+                "; " + std::string(name) +
+                    "\r\n[General]\r\nLanguage=\r\nColumns=StateIcon,t0,t4\r\n[StateIcon]\r\nColumnWidth=40"
+                    "\r\n[t0]\r\nColumnText=" +
+                    caption + "\r\nColumnWidth=200\r\n[t4]\r\nColumnWidth=100\r\n");
+        }
+    }
+    cFirstStart& Start(const cFirstStartHints& hints) {
+        m_Start.emplace(m_Files, m_Ini, m_Locale, hints);
+        m_Start->Prepare();
+        return *m_Start;
+    }
+    std::string Setting(std::string_view section, std::string_view key) const {
+        return m_Ini.GetIniString(section, key, "(none)");
+    }
+    std::string Template() const { return m_Files.ReadFile(kFolder + "Templates\\VigrelReceiver.oni"); }
+    // What the language window does.
+    void Choose(std::string_view language) {
+        m_Ini.PutIniString("General", "Language", language);
+        m_Ini.PutIniString("General", "CountryFilter", "Sweden");
+    }
+
+    cFakeFiles m_Files;
+    cFakeLocale m_Locale;  // Swedish
+    cIni m_Ini{m_Files, kFolder};
+    std::optional<cFirstStart> m_Start;
+};
+
+TEST_F(FirstStart, TemplateAndConfigurationAreInTheUsersLanguageAndTheLanguageIsAskedFor) {
+    Start({});
+    EXPECT_EQ(Template(), m_Files.ReadFile(kFolder + "Templates\\VigrelReceiver.046"));
+    EXPECT_EQ(m_Files.ReadFile(kFolder + "VigrelReceiver.ini"), Template());
+    EXPECT_EQ(Setting("General", "Language"), "");
+}
+
+TEST_F(FirstStart, AnUnknownLocaleGetsEnglish) {
+    m_Locale.m_EnglishLanguageName = m_Locale.m_NativeLanguageName = "";
+    Start({});
+    EXPECT_TRUE(Template().starts_with("; English"));
+    EXPECT_EQ(Setting("General", "Language"), "");
+}
+
+TEST_F(FirstStart, WithoutAScreenTheUsersLanguageIsTaken) {
+    Start({"", false});
+    EXPECT_EQ(Setting("General", "Language"), "046");
+}
+
+TEST_F(FirstStart, WithoutAScreenAndAKnownLocaleItIsEnglish) {
+    m_Locale.m_EnglishLanguageName = m_Locale.m_NativeLanguageName = "";
+    Start({"", false});
+    EXPECT_EQ(Setting("General", "Language"), "044");
+}
+
+TEST_F(FirstStart, AWishedLanguageIsNotAskedFor) {
+    Start({"049"});
+    EXPECT_TRUE(Template().starts_with("; Deutsch"));
+    EXPECT_EQ(Setting("General", "Language"), "049");
+}
+
+TEST_F(FirstStart, TheWishForTheLocalesLanguageIsFulfilledOrAskedFor) {
+    Start({"locale"});
+    EXPECT_EQ(Setting("General", "Language"), "046");
+    m_Files.RemoveFile(kFolder + "VigrelReceiver.ini");
+    m_Files.RemoveFile(kFolder + "Templates\\VigrelReceiver.oni");
+    m_Locale.m_EnglishLanguageName = m_Locale.m_NativeLanguageName = "";
+    Start({"locale"});
+    EXPECT_EQ(Setting("General", "Language"), "");
+}
+
+TEST_F(FirstStart, AnotherChoiceReplacesTemplateAndConfiguration) {
+    cFirstStart& start = Start({"", true, 0, 0, 800, 600});
+    Choose("049");
+    start.FollowChoice();
+    EXPECT_TRUE(Template().starts_with("; Deutsch"));
+    EXPECT_EQ(Setting("t0", "ColumnText"), "Alarm");
+    EXPECT_EQ(Setting("General", "Language"), "049");
+    EXPECT_EQ(Setting("General", "CountryFilter"), "Sweden");
+    EXPECT_EQ(Setting("General", "Vigrel_Receiver_Main.Width"), "12000");
+}
+
+TEST_F(FirstStart, AConfigurationOfAnEarlierStartStaysAtAnotherChoice) {
+    Start({});
+    m_Ini.PutIniString("General", "Object", "Plant");
+    cFirstStart& next = Start({});
+    Choose("049");
+    next.FollowChoice();
+    EXPECT_EQ(Setting("t0", "ColumnText"), "Larm");
+    EXPECT_EQ(Setting("General", "Object"), "Plant");
+    EXPECT_EQ(Setting("General", "Language"), "049");
+}
+
+TEST_F(FirstStart, AFolderWithAConfigurationOrATemplateOfItsOwnIsLeftAlone) {
+    m_Files.Put(kFolder + "Templates\\VigrelReceiver.oni", "mine");
+    Start({"046"});
+    EXPECT_EQ(Template(), "mine");
+    EXPECT_FALSE(m_Files.FileExists(kFolder + "VigrelReceiver.INI"));
+    m_Files.RemoveFile(kFolder + "Templates\\VigrelReceiver.oni");
+    m_Files.Put(kFolder + "VigrelReceiver.INI", "[General]\r\n");
+    const int calls = m_Files.m_Calls;
+    Start({"046", false, 0, 0, 800, 600});
+    EXPECT_EQ(m_Files.m_Calls, calls);
+}
+
+TEST_F(FirstStart, WithoutTemplatesNothingIsMade) {
+    cFakeFiles empty;
+    empty.PutFolder(kFolder);
+    cIni ini(empty, kFolder);
+    cFirstStart start(empty, ini, m_Locale, {"046", false, 0, 0, 800, 600});
+    start.Prepare();
+    EXPECT_TRUE(empty.AllPaths().empty());
+}
+
+TEST_F(FirstStart, TheWindowTakesWhatTheScreenOffers) {
+    Start({"", true, 10, 20, 800, 560});
+    EXPECT_EQ(Setting("General", "Vigrel_Receiver_Main.Left"), "150");
+    EXPECT_EQ(Setting("General", "Vigrel_Receiver_Main.Top"), "300");
+    EXPECT_EQ(Setting("General", "Vigrel_Receiver_Main.Width"), "12000");
+    EXPECT_EQ(Setting("General", "Vigrel_Receiver_Main.Height"), "8400");
+}
+
+TEST_F(FirstStart, ColumnsGetWhatTheWindowLeavesTheAlarmsTextMostOfAll) {
+    Start({"", true, 0, 0, 40 + 200 + 100 + 28 + 1000, 600});
+    EXPECT_EQ(Setting("StateIcon", "ColumnWidth"), "40");
+    EXPECT_EQ(Setting("t0", "ColumnWidth"), "700");
+    EXPECT_EQ(Setting("t4", "ColumnWidth"), "400");
+}
+
+TEST_F(FirstStart, ColumnsKeepTheirWidthOnASmallScreen) {
+    Start({"", true, 0, 0, 300, 200});
+    EXPECT_EQ(Setting("t0", "ColumnWidth"), "200");
+    EXPECT_EQ(Setting("t4", "ColumnWidth"), "100");
+}
+
+}  // namespace
+}  // namespace vigrel
