@@ -90,13 +90,21 @@ class cTimeSchedule {
     // Nothing is selected any more, as in a new schedule; the time fields are cleared. For content that came
     // from elsewhere.
     void ClearSelection(cTimeScheduleContainer& parent);
+    // Selects a day type, and one of its periods or none, without a click: nothing else changes. A period
+    // that isn't in the day's list counts as none. The time fields show the period.
+    void Select(cTimeScheduleContainer& parent, std::int32_t dayType, const PeriodPtr& period);
     bool IsDragging() const { return m_DragMode != eDragMode::None; }
-
-  private:
-    enum class eDragMode : std::int16_t { None = 0, Start = 1, Stop = 2, New = 3 };
+    bool IsGrouped(std::int16_t dayType) const { return m_Grouped[DayTypeIndex(dayType)]; }
+    // What lies at a position of the view; none outside the axis.
     struct cPosition {
         std::int32_t minute, row;
     };
+    std::optional<cPosition> PositionAt(float x, float y) const;
+    // None for a row that has no day type.
+    std::optional<std::int32_t> DayTypeOfRow(std::int32_t row) const;
+
+  private:
+    enum class eDragMode : std::int16_t { None = 0, Start = 1, Stop = 2, New = 3 };
 
     std::vector<std::int16_t> Values() const;
     void ReadPeriods(std::int16_t dayType, cBinaryReader& file);
@@ -111,7 +119,6 @@ class cTimeSchedule {
     bool IsMondayToFridayGrouped() const;
 
     std::optional<cPosition> PositionToMinute(cTimeScheduleContainer& parent, float x, float y) const;
-    std::optional<std::int32_t> DayTypeOfRow(std::int32_t row) const;
     void SelectPeriodAt(std::int32_t minute);
     void BeginDrag(cPaintObject* paintObject, std::int32_t minute);
     bool GrabPeriod(const PeriodPtr& period, std::int32_t minute);

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <utility>
@@ -35,15 +36,20 @@ void SetPointer(cPaintObject* paintObject, eMousePointer pointer) {
 
 }  // namespace
 
-std::optional<cTimeSchedule::cPosition> cTimeSchedule::PositionToMinute(cTimeScheduleContainer& parent,
-                                                                        float x, float y) const {
+std::optional<cTimeSchedule::cPosition> cTimeSchedule::PositionAt(float x, float y) const {
     if (!(y < static_cast<float>(m_NumberOfAxisToPaint) * kRowHeight) || y <= kBarTop) return std::nullopt;
     if (x < kAxisLeft || !(x < kAxisWidth / m_Scale + kAxisLeft + m_Scale)) return std::nullopt;
     const auto minute =
         std::min<std::int32_t>(ToInt32((x - kAxisLeft) * kMinutesPerUnit / m_Scale), kMinutesOfDay);
-    parent.Set_Text_Schedule_Time(TimeText(minute));
     // Rounded: a row takes in what lies up to half a row above its bar.
     return cPosition{minute, ToInt32((y - kBarTop) / kRowHeight)};
+}
+
+std::optional<cTimeSchedule::cPosition> cTimeSchedule::PositionToMinute(cTimeScheduleContainer& parent,
+                                                                        float x, float y) const {
+    const auto position = PositionAt(x, y);
+    if (position) parent.Set_Text_Schedule_Time(TimeText(position->minute));
+    return position;
 }
 
 std::optional<std::int32_t> cTimeSchedule::DayTypeOfRow(std::int32_t row) const {
@@ -78,6 +84,17 @@ void cTimeSchedule::ClearSelection(cTimeScheduleContainer& parent) {
     m_SelectedDayType = -1;
     m_SelectedPeriod = nullptr;
     ClearTimes(parent);
+}
+
+void cTimeSchedule::Select(cTimeScheduleContainer& parent, std::int32_t dayType, const PeriodPtr& period) {
+    const PeriodList& periods = Periods(dayType);
+    const bool known = period && std::find(periods.begin(), periods.end(), period) != periods.end();
+    m_SelectedDayType = dayType;
+    m_SelectedPeriod = known ? period : nullptr;
+    if (!known) return ClearTimes(parent);
+    m_EditStart = period->m_StartMinute;
+    m_EditStop = period->m_StopMinute;
+    ShowTimes(parent, m_EditStart, m_EditStop);
 }
 
 // Both ends of a period belong to it here. In free space the edit times become those of the gap, as far as

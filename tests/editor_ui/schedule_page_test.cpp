@@ -291,6 +291,182 @@ TEST_F(SchedulePage, ReturnGoesToTheStartField) {
     EXPECT_TRUE(Find<QLineEdit>(m_Page, "Text_Schedule_Period_Start").hasFocus());
 }
 
+// --- what is chosen
+
+TEST_F(SchedulePage, TheMenuSpeaksOfThePeriodUnderThePointer) {
+    Drag(View(), {At(0, 1100), At(0, 1200)});
+    Click(0, 1150);
+    Press(View(), At(0, 600), Qt::RightButton);
+    EXPECT_EQ(Text("Text_Schedule_Period_Start"), "07:00");
+    Entry("Delete");
+    EXPECT_EQ(Day(0), "1100-1200");
+}
+
+TEST_F(SchedulePage, WithNoPeriodUnderThePointerNothingCanBeDeleted) {
+    Click(0, 600);
+    Press(View(), At(1, 1200), Qt::RightButton);
+    EXPECT_EQ(m_Page.Schedule().SelectedDayType(), 1);
+    EXPECT_FALSE(Action("Delete").isEnabled());
+    EXPECT_TRUE(Action("Copy").isEnabled());
+    Entry("Delete");
+    EXPECT_EQ(Day(0), "420-960");
+    EXPECT_TRUE(IsGrouped(m_Page.Schedule(), 1));
+    EXPECT_EQ(m_Page.UndoStack()->count(), 0);
+}
+
+TEST_F(SchedulePage, ARightPressOnANameChoosesItsDayAndBesideTheRowsNone) {
+    Press(View(), QPoint(10, 3 * 25 + 10), Qt::RightButton);
+    EXPECT_EQ(m_Page.Schedule().SelectedDayType(), 3);
+    EXPECT_FALSE(Action("Delete").isEnabled());
+    Click(0, 600);
+    Press(View(), QPoint(322, 10), Qt::RightButton);
+    EXPECT_EQ(m_Page.Schedule().SelectedDayType(), -1);
+    EXPECT_FALSE(Action("Copy").isEnabled());
+}
+
+TEST_F(SchedulePage, TheTimeFieldsShowWhatIsThereOrNothing) {
+    const auto shown = [this] {
+        const auto& start = Find<QLineEdit>(m_Page, "Text_Schedule_Period_Start");
+        return (start.text() + "-" + Text("Text_Schedule_Period_Stop") + (start.isEnabled() ? "" : " off"))
+            .toStdString();
+    };
+    Click(0, 600);
+    Entry("Invert");
+    EXPECT_EQ(shown(), "- off");
+    Click(0, 200);
+    EXPECT_EQ(shown(), "00:00-07:00");
+    Choose(*m_Window, "Menu_Undo");
+    EXPECT_EQ(shown(), "- off");
+    Drag(View(), {At(5, 600), At(5, 660)});
+    Entry("Copy");
+    Click(6, 700);
+    Drag(View(), {At(6, 300), At(6, 400)});
+    EXPECT_EQ(shown(), "05:00-06:40");
+    Entry("Paste");
+    EXPECT_EQ(shown(), "- off");
+    Click(6, 630);
+    EXPECT_EQ(shown(), "10:00-11:00");
+    // The day joins the group and takes over its periods.
+    Entry("Grouped");
+    EXPECT_EQ(Day(6), "420-960");
+    EXPECT_EQ(shown(), "- off");
+    // A period that swallows the chosen one becomes the chosen one.
+    Drag(View(), {At(5, 900), At(5, 630)});
+    EXPECT_EQ(shown(), "10:00-15:00");
+}
+
+TEST_F(SchedulePage, ItIsToldWhichDaysChangeTogether) {
+    const auto& chosen = Find<QLabel>(m_Page, "Label_Schedule_Chosen");
+    EXPECT_EQ(chosen.text(), "No day chosen");
+    Click(1, 600);
+    EXPECT_EQ(chosen.text(), "Tuesday, changed together with Monday, Wednesday, Thursday, Friday");
+    Press(View(), At(2, 600), Qt::RightButton);
+    EXPECT_EQ(chosen.text(), "Wednesday, changed together with Monday, Tuesday, Thursday, Friday");
+    EXPECT_EQ(Text("Text_Schedule_Period_Start"), "07:00");
+    Click(6, 600);
+    EXPECT_EQ(chosen.text(), "Sunday");
+}
+
+TEST_F(SchedulePage, ATimeThatIsNoneIsRefusedWithAReasonAndStaysAsTyped) {
+    Click(0, 600);
+    Type("Text_Schedule_Period_Stop", "25:30");
+    const auto& problem = Find<QLabel>(m_Page, "Label_Schedule_Problem");
+    EXPECT_EQ(problem.text(), "Stop: \"25:30\" lies behind 24:00.");
+    EXPECT_EQ(Day(0), "420-960");
+    EXPECT_EQ(Text("Text_Schedule_Period_Stop"), "25:30");
+    // It counts as a change and stands in the way of saving.
+    EXPECT_TRUE(m_Page.IsDirty());
+    QApplication::setActiveWindow(m_Window.get());
+    View().setFocus();
+    EXPECT_FALSE(m_Page.Save());
+    EXPECT_EQ(m_Prompts.m_Asked,
+              "failure: Schedule 1 can't be saved.\n\nStop: \"25:30\" lies behind 24:00.\n");
+    EXPECT_TRUE(Find<QLineEdit>(m_Page, "Text_Schedule_Period_Stop").hasFocus());
+    Type("Text_Schedule_Period_Stop", "1630");
+    EXPECT_EQ(problem.text(), "");
+    EXPECT_EQ(Day(0), "420-990");
+}
+
+TEST_F(SchedulePage, KeysThatMoveAnEndTakeNothingHalfTyped) {
+    Click(0, 600);
+    Type("Text_Schedule_Period_Stop", "25:30");
+    Key(Qt::Key_Right, kCtrl);
+    EXPECT_EQ(Day(0), "425-960");
+    EXPECT_EQ(Find<QLabel>(m_Page, "Label_Schedule_Problem").text(), "");
+}
+
+TEST_F(SchedulePage, UndoInATimeFieldTakesBackTheTypingThenTheStep) {
+    QApplication::setActiveWindow(m_Window.get());
+    Click(0, 600);
+    Type("Text_Schedule_Period_Stop", "1730");
+    ASSERT_EQ(Day(0), "420-1050");
+    auto& stop = Find<QLineEdit>(m_Page, "Text_Schedule_Period_Stop");
+    stop.setFocus();
+    stop.selectAll();
+    QTest::keyClicks(&stop, "18");
+    QTest::keyClick(&stop, Qt::Key_Z, kCtrl);
+    EXPECT_EQ(stop.text(), "17:30");
+    EXPECT_EQ(Day(0), "420-1050");
+    QTest::keyClick(&stop, Qt::Key_Z, kCtrl);
+    EXPECT_EQ(Day(0), "420-960");
+    EXPECT_EQ(m_Page.UndoStack()->redoText(), "typing times");
+}
+
+TEST_F(SchedulePage, ChoosingByKeysChangesNothing) {
+    // Tuesday differs from the group that it is in, as files can have it.
+    cContent content;
+    content.Day(0, {{420, 960}}).Day(1, {{600, 700}}).Grouped({0, 1});
+    m_Files.Put("/app/odd.sch", content.Bytes());
+    ASSERT_TRUE(m_Window->OpenFile("/app/odd.sch"));
+    auto& page = dynamic_cast<cSchedulePage&>(*m_Window->CurrentPage());
+    auto& view = Find<QWidget>(page, "Picture_TimeSchedule");
+    QApplication::setActiveWindow(m_Window.get());
+    view.setFocus();
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Left, Qt::Key_Right, Qt::Key_Up}) {
+        QTest::keyClick(&view, key);
+        EXPECT_EQ(Periods(page.Schedule(), 0), "420-960");
+        EXPECT_EQ(Periods(page.Schedule(), 1), "600-700");
+    }
+    EXPECT_EQ(page.UndoStack()->count(), 0);
+    EXPECT_FALSE(page.IsDirty());
+}
+
+TEST_F(SchedulePage, KeysBearAScheduleWithoutRows) {
+    Find<QCheckBox>(m_Page, "Check_TimeSchedule_UseCalendar").click();
+    auto& list = Find<QListWidget>(m_Page, "List_DayTypes");
+    for (int day = 0; day < 7; ++day) list.item(day)->setCheckState(Qt::Unchecked);
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Right, Qt::Key_Insert, Qt::Key_Delete})
+        Key(key);
+    EXPECT_EQ(m_Page.Schedule().SelectedDayType(), -1);
+    EXPECT_EQ(m_Page.UndoStack()->count(), 8);
+}
+
+TEST_F(SchedulePage, ARowThatIsNoLongerShownIsNotChosen) {
+    auto& useCalendar = Find<QCheckBox>(m_Page, "Check_TimeSchedule_UseCalendar");
+    useCalendar.click();
+    Find<QListWidget>(m_Page, "List_DayTypes").item(7)->setCheckState(Qt::Checked);
+    Click(7, 600);
+    ASSERT_EQ(m_Page.Schedule().SelectedDayType(), 7);
+    useCalendar.click();
+    EXPECT_EQ(m_Page.Schedule().SelectedDayType(), -1);
+    for (int i = 0; i < 9; ++i) Key(Qt::Key_Down);
+    EXPECT_EQ(m_Page.Schedule().SelectedDayType(), 6);
+}
+
+TEST_F(SchedulePage, UndoShowsTheRowThatItChanges) {
+    Find<QCheckBox>(m_Page, "Check_TimeSchedule_UseCalendar").click();
+    auto& list = Find<QListWidget>(m_Page, "List_DayTypes");
+    for (int day = 7; day < 20; ++day) list.item(day)->setCheckState(Qt::Checked);
+    auto& scroll = Find<QScrollBar>(m_Page, "VScroll_Schedule");
+    scroll.setValue(scroll.maximum());
+    Drag(View(), {At(19, 600), At(19, 700)});
+    scroll.setValue(0);
+    Click(0, 600);
+    Choose(*m_Window, "Menu_Undo");
+    EXPECT_EQ(scroll.value(), scroll.maximum());
+    EXPECT_EQ(m_Page.Schedule().SelectedDayType(), 19);
+}
+
 // --- rows
 
 TEST_F(SchedulePage, SpecialDayTypesAddRowsAndTheScrollBarReachesThem) {

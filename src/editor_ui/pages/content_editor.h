@@ -27,6 +27,11 @@ class cContentEditor : public QWidget {
     virtual void Restore(const std::string& state) = 0;
     // The editor's entries of the menu Edit; null stands for a separator.
     virtual QList<QAction*> EditActions() const { return {}; }
+    // Why the content can't be saved as it stands: something was typed that can't be taken over. Empty when
+    // it can.
+    virtual QString Problem() const { return {}; }
+    // Brings the keyboard to where the problem is.
+    virtual void FocusProblem() {}
     // Sets the drawing's size, 1 is 100 %.
     virtual void SetZoom(double) {}
     // Names or images of day types have changed.
@@ -35,6 +40,7 @@ class cContentEditor : public QWidget {
   signals:
     // Not for what Restore does.
     void Edited(const vigrel::cEditStep& step);
+    void ProblemChanged();
     // The user has given a day type another name or image.
     void DayTypesChanged();
     void Message(const QString& text);

@@ -12,7 +12,10 @@ constexpr int kUndoSteps = 200;
 }  // namespace
 
 cFilePage::cFilePage(cEditorServices& services, cContentEditor* editor, cFileForm form, QWidget* parent)
-    : cEditorPage(parent), m_Editor(*editor), m_Document(services, std::move(form), this) {
+    : cEditorPage(parent),
+      m_Services(services),
+      m_Editor(*editor),
+      m_Document(services, std::move(form), this) {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(editor);
@@ -20,6 +23,7 @@ cFilePage::cFilePage(cEditorServices& services, cContentEditor* editor, cFileFor
     m_UndoStack.setUndoLimit(kUndoSteps);
     connect(editor, &cContentEditor::Edited, this,
             [this](const cEditStep& step) { m_UndoStack.push(new cStepCommand(step, m_Editor)); });
+    connect(editor, &cContentEditor::ProblemChanged, this, &cEditorPage::StateChanged);
     connect(editor, &cContentEditor::DayTypesChanged, this, &cEditorPage::DayTypesChanged);
     connect(editor, &cContentEditor::Message, this, &cEditorPage::Message);
     connect(&m_UndoStack, &QUndoStack::indexChanged, this, [this] {
@@ -34,6 +38,14 @@ cFilePage::cFilePage(cEditorServices& services, cContentEditor* editor, cFileFor
 // The stack tells of its end when there is no editor any more.
 cFilePage::~cFilePage() {
     m_UndoStack.disconnect(this);
+}
+
+bool cFilePage::MaySave() {
+    const QString problem = m_Editor.Problem();
+    if (problem.isEmpty()) return true;
+    m_Services.m_Prompts.ShowFailure(this, tr("%1 can't be saved.\n\n%2").arg(Title(), problem));
+    m_Editor.FocusProblem();
+    return false;
 }
 
 bool cFilePage::Open(const std::string& path) {

@@ -18,10 +18,11 @@ class cFilePage : public cEditorPage {
 
     QString Title() const override { return m_Document.Title(); }
     QString Path() const override { return m_Document.Path(); }
-    bool IsDirty() const override { return m_Document.IsDirty(); }
-    bool Save() override { return m_Document.Save(); }
+    // What was typed and can't be taken over counts as a change, too.
+    bool IsDirty() const override { return m_Document.IsDirty() || !m_Editor.Problem().isEmpty(); }
+    bool Save() override { return MaySave() && m_Document.Save(); }
     bool HasSaveAs() const override { return true; }
-    bool SaveAs() override { return m_Document.SaveAs(); }
+    bool SaveAs() override { return MaySave() && m_Document.SaveAs(); }
     QUndoStack* UndoStack() override { return &m_UndoStack; }
     QList<QAction*> EditActions() const override { return m_Editor.EditActions(); }
     void SetZoom(double zoom) override { m_Editor.SetZoom(zoom); }
@@ -31,6 +32,9 @@ class cFilePage : public cEditorPage {
     bool Open(const std::string& path);
 
   private:
+    bool MaySave();
+
+    cEditorServices& m_Services;
     cContentEditor& m_Editor;
     QUndoStack m_UndoStack;
     cFileDocument m_Document;

@@ -5,8 +5,10 @@
 #include <QHBoxLayout>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "adapters/qt/qt_text.h"
+#include "editor_ui/pages/undo_keys.h"
 #include "schedule/definition_files.h"
 #include "windows/plain_text.h"
 
@@ -57,8 +59,11 @@ void cScheduleEditor::MakeLayout() {
 }
 
 QWidget* cScheduleEditor::MakePeriodBox() {
-    auto* box = new QGroupBox(tr("Selected period"));
-    auto* form = new QFormLayout(box);
+    m_PeriodBox.setTitle(tr("Selected period"));
+    auto* form = new QFormLayout(&m_PeriodBox);
+    m_Chosen.setObjectName("Label_Schedule_Chosen");
+    m_Chosen.setWordWrap(true);
+    form->addRow(&m_Chosen);
     m_Start.setObjectName("Text_Schedule_Period_Start");
     m_Stop.setObjectName("Text_Schedule_Period_Stop");
     m_Time.setObjectName("Text_Schedule_Time");
@@ -70,14 +75,16 @@ QWidget* cScheduleEditor::MakePeriodBox() {
         // On the way from one field to the other half of what is meant stands there, and the schedule would
         // swap a start that lies behind the old stop.
         const QLineEdit* other = field == &m_Start ? &m_Stop : &m_Start;
+        LeaveUndoToPage(*field, [this] { TakeBackTyping(); });
         connect(field, &QLineEdit::editingFinished, this, [this, other] {
             if (!other->hasFocus()) TakeTimes();
         });
     }
     form->addRow(tr("S&tart"), &m_Start);
     form->addRow(tr("Sto&p"), &m_Stop);
+    form->addRow(&m_Problem);
     form->addRow(tr("Pointer at"), &m_Time);
-    return box;
+    return &m_PeriodBox;
 }
 
 QWidget* cScheduleEditor::MakeDayTypeBox() {
@@ -137,9 +144,30 @@ std::string cScheduleEditor::State() const {
 void cScheduleEditor::Restore(const std::string& state) {
     // A drag that is under way has lost its period.
     m_Schedule.MouseUp(*this, m_SchedulePaintObject, 1, 0, 0, 0);
+    const std::vector<cDay> before = Days();
     m_Schedule.ExtractPeriodArray(state);
     m_Schedule.ClearSelection(*this);
     Recalculate();
+    ShowFirstDifference(before);
+}
+
+std::vector<cScheduleEditor::cDay> cScheduleEditor::Days() const {
+    std::vector<cDay> days;
+    for (std::int16_t dayType = 0; dayType < kDayTypes; ++dayType) {
+        cDay day{m_Schedule.GetActive(dayType), m_Schedule.IsGrouped(dayType), {}};
+        for (const PeriodPtr& period : PeriodsOf(dayType)) {
+            day.periods.emplace_back(period->m_StartMinute, period->m_StopMinute);
+        }
+        days.push_back(std::move(day));
+    }
+    return days;
+}
+
+void cScheduleEditor::ShowFirstDifference(const std::vector<cDay>& before) {
+    const std::vector<cDay> after = Days();
+    const auto changed = std::mismatch(after.begin(), after.end(), before.begin()).first - after.begin();
+    const auto dayType = static_cast<std::int16_t>(changed);
+    if (dayType < kDayTypes && m_Schedule.GetActive(dayType)) Choose(dayType, nullptr);
 }
 
 void cScheduleEditor::SetZoom(double zoom) {
@@ -174,7 +202,49 @@ void cScheduleEditor::FillDayTypes() {
     Refresh();
 }
 
+// The commands can leave a period selected that is no longer in its day, or a day whose row is gone; what is
+// selected is what is seen, and the fields show its times.
+void cScheduleEditor::RefreshSelection() {
+    if (m_Schedule.IsDragging()) return;
+    const std::int32_t dayType = m_Schedule.SelectedDayType();
+    const bool shown = dayType >= 0 && m_Schedule.GetActive(static_cast<std::int16_t>(dayType)) &&
+                       RowOf(dayType) < ShownRows();
+    const PeriodPtr period = m_Schedule.SelectedPeriod();
+    const cTimeSchedulePeriod times = period ? *period : cTimeSchedulePeriod{};
+    const PeriodList periods = shown ? PeriodsOf(dayType) : PeriodList{};
+    const bool known = !period || std::find(periods.begin(), periods.end(), period) != periods.end();
+    const bool same = shown && known && dayType == m_Shown.dayType && period == m_Shown.period &&
+                      times.m_StartMinute == m_Shown.times.m_StartMinute &&
+                      times.m_StopMinute == m_Shown.times.m_StopMinute;
+    // A text that is being typed stays.
+    if (same) return;
+    if (!m_Problem.text().isEmpty()) emit Message(tr("Not taken over: %1").arg(m_Problem.text()));
+    ShowProblem({});
+    if (shown) {
+        m_Schedule.Select(*this, dayType, period);
+    } else {
+        m_Schedule.ClearSelection(*this);
+    }
+    m_Shown = {m_Schedule.SelectedDayType(), m_Schedule.SelectedPeriod(), times};
+}
+
+// Which day the fields speak of, and which others follow it.
+void cScheduleEditor::ShowChosenDay() {
+    const std::int32_t chosen = m_Schedule.SelectedDayType();
+    if (chosen < 0) return m_Chosen.setText(tr("No day chosen"));
+    const QString name = ToQString(m_Services.m_DayTypeNames.Name(static_cast<std::int16_t>(chosen)));
+    QStringList others;
+    for (std::int16_t dayType = 0; dayType < kDayTypes; ++dayType) {
+        if (dayType == chosen || !m_Schedule.IsGrouped(dayType)) continue;
+        others += ToQString(m_Services.m_DayTypeNames.Name(dayType));
+    }
+    const bool grouped = m_Schedule.IsGrouped(static_cast<std::int16_t>(chosen)) && !others.isEmpty();
+    m_Chosen.setText(grouped ? tr("%1, changed together with %2").arg(name, others.join(", ")) : name);
+}
+
 void cScheduleEditor::Refresh() {
+    RefreshSelection();
+    ShowChosenDay();
     const QSignalBlocker blocker(m_DayTypes);
     m_UseCalendar.setChecked(m_Schedule.m_UseCalendar != False16);
     for (std::int16_t dayType = 0; dayType < kDayTypes && dayType < m_DayTypes.count(); ++dayType) {

@@ -2,12 +2,14 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QGroupBox>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 
 #include "editor_ui/pages/content_editor.h"
 #include "editor_ui/pages/editor_services.h"
+#include "editor_ui/pages/problem_label.h"
 #include "editor_ui/schedule/hour_scale.h"
 #include "editor_ui/schedule/schedule_frame.h"
 #include "schedule/time_schedule.h"
@@ -28,6 +30,8 @@ class cScheduleEditor : public cContentEditor, private cTimeScheduleContainer {
     void WriteFile(const std::string& path);
     std::string State() const override;
     void Restore(const std::string& state) override;
+    QString Problem() const override { return m_Problem.text(); }
+    void FocusProblem() override;
     // Whether the rows show the names of their days.
     QCheckBox& ViewDayType() { return m_ViewDayType; }
     QList<QAction*> EditActions() const override;
@@ -48,7 +52,10 @@ class cScheduleEditor : public cContentEditor, private cTimeScheduleContainer {
     std::string Get_Text_Schedule_Period_Stop() const override;
     double Get_VScroll_Schedule_Left() const override { return m_Frame.ScrollLeft(); }
     double Get_VScroll_Schedule_Width() const override { return m_Frame.ScrollWidth(); }
-    void Set_Menu_TimeSchedulePopup_Delete_Enabled(bool enabled) override { m_Delete->setEnabled(enabled); }
+    // The schedule enables the entry with a day selected; it is a period that goes.
+    void Set_Menu_TimeSchedulePopup_Delete_Enabled(bool enabled) override {
+        m_Delete->setEnabled(enabled && m_Schedule.SelectedPeriod() != nullptr);
+    }
     void Set_Menu_TimeSchedulePopup_Grouped_Checked(bool checked) override { m_Grouped->setChecked(checked); }
     void Set_Menu_TimeSchedulePopup_Grouped_MonFri_Checked(bool checked) override;
     void Set_Menu_TimeSchedulePopup_Paste_Enabled(bool enabled) override { m_Paste->setEnabled(enabled); }
@@ -91,6 +98,9 @@ class cScheduleEditor : public cContentEditor, private cTimeScheduleContainer {
     std::optional<int> ChosenSpecialType();
     void ShowNotStored();
     void TakeTimes();
+    void TakeBackTyping();
+    QString FaultOfTimes() const;
+    void ShowProblem(const QString& problem);
     void TakeDayType(const QListWidgetItem& item);
     void TakeUseCalendar(bool use);
 
@@ -99,29 +109,50 @@ class cScheduleEditor : public cContentEditor, private cTimeScheduleContainer {
     void MouseUp(std::int16_t button, std::int16_t shift, QPoint unit);
     bool Key(const QKeyEvent& event);
     void ShowPopupMenu(QPoint place);
-    void Choose(int row, int minute);
+    // What lies under the pointer, for the menu that opens there.
+    void ChooseAt(QPoint unit);
+    void Choose(std::int32_t dayType, const PeriodPtr& period);
     void ChooseRow(int step);
     void ChooseRowAgain(int row);
     void ChoosePeriod(int step);
     void MoveEnd(QLineEdit& field, int minutes);
     void NewPeriod();
     int RowOf(std::int32_t dayType) const;
-    int DayTypeOfRow(int row) const;
+    int ShownRows() const;
     PeriodList PeriodsOf(std::int32_t dayType) const;
 
     void Recalculate();
     void PaintFocus(QPainter& painter);
     // After anything that can change what is selected.
     void Refresh();
+    void RefreshSelection();
+    void ShowChosenDay();
     void EnableTimes();
+    // What undo can change of a day.
+    struct cDay {
+        bool active, grouped;
+        std::vector<std::pair<int, int>> periods;
+        bool operator==(const cDay&) const = default;
+    };
+    std::vector<cDay> Days() const;
+    void ShowFirstDifference(const std::vector<cDay>& before);
 
     cEditorServices& m_Services;
     cTimeSchedule m_Schedule;
     cPaintObject* m_SchedulePaintObject = nullptr;
     cHourScale m_Hours;
     cScheduleFrame m_Frame;
+    QGroupBox m_PeriodBox;
     QLineEdit m_Start, m_Stop;
-    cPlainLabel m_Time;
+    cProblemLabel m_Problem{"Label_Schedule_Problem"};
+    cPlainLabel m_Chosen, m_Time;
+    // What the time fields show, but for what is being typed.
+    struct cShown {
+        std::int32_t dayType = -1;
+        PeriodPtr period;
+        cTimeSchedulePeriod times;
+    };
+    cShown m_Shown;
     QCheckBox m_ViewDayType, m_UseCalendar;
     QListWidget m_DayTypes;
     QMenu m_Popup, m_Images;

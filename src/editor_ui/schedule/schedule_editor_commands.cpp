@@ -2,6 +2,7 @@
 
 #include "adapters/qt/qt_text.h"
 #include "editor_ui/schedule/schedule_editor.h"
+#include "schedule/time_text.h"
 
 namespace vigrel {
 
@@ -46,7 +47,6 @@ QList<QAction*> cScheduleEditor::EditActions() const {
 void cScheduleEditor::Run(const QString& name, Operation operation) {
     if (m_Schedule.IsDragging()) return;
     Edit(name, [&] { (m_Schedule.*operation)(*this, m_SchedulePaintObject); });
-    if (m_Schedule.SelectedDayType() < 0) m_Schedule.ClearSelection(*this);
     m_Frame.View().update();
     Refresh();
 }
@@ -82,10 +82,38 @@ void cScheduleEditor::GroupMonFri() {
     Run(tr("grouping Monday to Friday"), &cTimeSchedule::GroupMonFri);
 }
 
+// What can't be taken over stays as it was typed.
 void cScheduleEditor::TakeTimes() {
-    if (m_Start.isModified() || m_Stop.isModified()) {
-        Run(tr("typing times"), &cTimeSchedule::ExtractTimeFromTextboxes);
+    if (!m_Start.isModified() && !m_Stop.isModified()) return;
+    ShowProblem(FaultOfTimes());
+    if (Problem().isEmpty()) Run(tr("typing times"), &cTimeSchedule::ExtractTimeFromTextboxes);
+}
+
+QString cScheduleEditor::FaultOfTimes() const {
+    for (const QLineEdit* field : {&m_Start, &m_Stop}) {
+        if (const auto fault = FaultOfTimeText(FromQString(field->text()))) {
+            return (field == &m_Start ? tr("Start: %1") : tr("Stop: %1")).arg(ToQString(*fault));
+        }
     }
+    return {};
+}
+
+void cScheduleEditor::ShowProblem(const QString& problem) {
+    if (problem == m_Problem.text()) return;
+    m_Problem.Show(problem);
+    emit ProblemChanged();
+}
+
+void cScheduleEditor::FocusProblem() {
+    QLineEdit& field = FaultOfTimeText(FromQString(m_Start.text())) ? m_Start : m_Stop;
+    field.setFocus();
+    field.selectAll();
+}
+
+// The times as they are in the schedule.
+void cScheduleEditor::TakeBackTyping() {
+    m_Schedule.Select(*this, m_Shown.dayType, m_Shown.period);
+    ShowProblem({});
 }
 
 void cScheduleEditor::TakeUseCalendar(bool use) {

@@ -11,15 +11,13 @@
 namespace vigrel {
 namespace {
 
+constexpr std::int16_t kRightButton = 2;
 constexpr int kNewPeriod = 60;  // minutes
 constexpr int kClearance = 15;  // of a new period from the others, so that it doesn't grab their ends
 constexpr int kFirstHour = 8;   // where a new period is tried first
 
 float XOf(int minute) {
     return kAxisLeft + static_cast<float>(minute) / kMinutesPerUnit;
-}
-int Middle(const cTimeSchedulePeriod& period) {
-    return (period.m_StartMinute + period.m_StopMinute) / 2;
 }
 // The height of a row at which its number can't be mistaken.
 float YOf(int row) {
@@ -33,8 +31,23 @@ void cScheduleEditor::MouseDown(std::int16_t button, std::int16_t shift, QPoint 
     BeginEdit();
     m_Schedule.MouseDown(*this, m_SchedulePaintObject, button, shift, static_cast<float>(unit.x()),
                          static_cast<float>(unit.y()));
+    if (button == kRightButton) ChooseAt(unit);
     m_Frame.View().update();
     Refresh();
+}
+
+// The schedule itself lets a right press choose the day only; a menu that opens over a period speaks of it.
+void cScheduleEditor::ChooseAt(QPoint unit) {
+    const bool overName = unit.x() < kAxisLeft;
+    const auto place = m_Schedule.PositionAt(overName ? kAxisLeft : static_cast<float>(unit.x()),
+                                             static_cast<float>(unit.y()));
+    const auto dayType = place ? m_Schedule.DayTypeOfRow(place->row) : std::nullopt;
+    if (!dayType) return m_Schedule.ClearSelection(*this);
+    const PeriodList periods = overName ? PeriodList{} : PeriodsOf(*dayType);
+    const auto under = std::find_if(periods.begin(), periods.end(), [&](const PeriodPtr& period) {
+        return period->m_StartMinute <= place->minute && place->minute <= period->m_StopMinute;
+    });
+    m_Schedule.Select(*this, *dayType, under == periods.end() ? nullptr : *under);
 }
 
 void cScheduleEditor::MouseUp(std::int16_t button, std::int16_t shift, QPoint unit) {
@@ -80,29 +93,25 @@ bool cScheduleEditor::Key(const QKeyEvent& event) {
     }
 }
 
-// A click, so that the schedule selects as it does by mouse.
-void cScheduleEditor::Choose(int row, int minute) {
-    BeginEdit();
-    m_Schedule.MouseDown(*this, m_SchedulePaintObject, 1, 0, XOf(minute), YOf(row));
-    m_Schedule.MouseUp(*this, m_SchedulePaintObject, 1, 0, XOf(minute), YOf(row));
-    EndEdit(tr("merging periods"));
-    m_Frame.ShowRow(row);
+// Choosing changes nothing, whatever days of a group differ in.
+void cScheduleEditor::Choose(std::int32_t dayType, const PeriodPtr& period) {
+    m_Schedule.Select(*this, dayType, period);
+    m_Frame.ShowRow(RowOf(dayType));
     m_Frame.View().update();
     Refresh();
 }
 
 void cScheduleEditor::ChooseRow(int step) {
-    const int rows = m_Schedule.m_NumberOfAxisToPaint;
-    const int row = std::clamp(RowOf(m_Schedule.SelectedDayType()) + step, 0, rows - 1);
-    ChooseRowAgain(row);
+    if (ShownRows() == 0) return;
+    ChooseRowAgain(std::clamp(RowOf(m_Schedule.SelectedDayType()) + step, 0, ShownRows() - 1));
 }
 
 // Selects a row and its first period, if any.
 void cScheduleEditor::ChooseRowAgain(int row) {
-    const int dayType = DayTypeOfRow(row);
-    if (dayType < 0) return;
-    const PeriodList periods = PeriodsOf(dayType);
-    Choose(row, periods.empty() ? 0 : Middle(*periods.front()));
+    const auto dayType = m_Schedule.DayTypeOfRow(row);
+    if (!dayType || row >= ShownRows()) return;
+    const PeriodList periods = PeriodsOf(*dayType);
+    Choose(*dayType, periods.empty() ? nullptr : periods.front());
 }
 
 void cScheduleEditor::ChoosePeriod(int step) {
@@ -113,12 +122,13 @@ void cScheduleEditor::ChoosePeriod(int step) {
     const auto selected = std::find(periods.begin(), periods.end(), m_Schedule.SelectedPeriod());
     const auto last = static_cast<std::ptrdiff_t>(periods.size()) - 1;
     const std::ptrdiff_t now = selected == periods.end() ? -1 : selected - periods.begin();
-    const auto next = static_cast<std::size_t>(std::clamp<std::ptrdiff_t>(now + step, 0, last));
-    Choose(RowOf(dayType), Middle(*periods[next]));
+    Choose(dayType, periods[static_cast<std::size_t>(std::clamp<std::ptrdiff_t>(now + step, 0, last))]);
 }
 
 void cScheduleEditor::MoveEnd(QLineEdit& field, int minutes) {
     if (!m_Schedule.SelectedPeriod()) return;
+    // The other end stays as the schedule has it, whatever was left half typed.
+    TakeBackTyping();
     const int moved =
         std::clamp(TimeTextToMinutes(FromQString(field.text())) + minutes, 0, int{kMinutesOfDay});
     field.setText(ToQString(Digits(moved / 60, 2) + ":" + Digits(moved % 60, 2)));
@@ -157,11 +167,9 @@ int cScheduleEditor::RowOf(std::int32_t dayType) const {
     return row;
 }
 
-int cScheduleEditor::DayTypeOfRow(int row) const {
-    for (std::int16_t i = 0; i < kDayTypes && row >= 0; ++i) {
-        if (m_Schedule.GetActive(i) && row-- == 0) return i;
-    }
-    return -1;
+// Without special day types there is room for seven rows, whatever is active.
+int cScheduleEditor::ShownRows() const {
+    return std::min(RowOf(kDayTypes), int{m_Schedule.m_NumberOfAxisToPaint});
 }
 
 // In the order of time, which the schedule's own list need not have.
