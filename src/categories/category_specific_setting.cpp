@@ -14,17 +14,21 @@ class cStateKeys {
   public:
     cStateKeys(const cIni& ini, std::string_view section, std::string_view suffix)
         : m_Ini(ini), m_Section(section), m_Suffix(suffix) {}
-    std::string Text(std::string_view prefix, std::string_view defaultValue) const {
-        return m_Ini.GetIniString(m_Section, std::string(prefix) + std::string(m_Suffix), defaultValue);
+    // What another section has, when this one has nothing.
+    std::string Text(std::string_view prefix, std::string_view inherited) const {
+        return m_Ini.GetIniString(m_Section, Key(prefix), inherited);
     }
-    std::string Trimmed(std::string_view prefix, std::string_view defaultValue) const {
-        return Trim(Text(prefix, defaultValue));
+    std::int16_t Int16(std::string_view prefix, std::string_view inherited) const {
+        return ToInt16(Val(Text(prefix, inherited)));
     }
-    std::int16_t Int16(std::string_view prefix, std::string_view defaultValue) const {
-        return ToInt16(Val(Text(prefix, defaultValue)));
+    // The light's keys are not inherited.
+    std::string Own(std::string_view prefix) const {
+        return Trim(cSettingReader(m_Ini, m_Section).Text(Key(prefix)));
     }
 
   private:
+    std::string Key(std::string_view prefix) const { return std::string(prefix) + std::string(m_Suffix); }
+
     const cIni& m_Ini;
     std::string_view m_Section, m_Suffix;
 };
@@ -69,14 +73,14 @@ void cCategorySpecificSetting::GetStateSettings(std::size_t status, std::string_
     SkipFailure([&] { state.fontBold = keys.Int16("FontBold_", std::to_string(parent.fontBold)); });
     SkipFailure([&] { state.fontItalic = keys.Int16("FontItalic_", std::to_string(parent.fontItalic)); });
 
-    state.deviceName = keys.Trimmed("USBLED_DeviceName_", "");
+    state.deviceName = keys.Own("USBLED_DeviceName_");
     if (!state.deviceName.empty()) USBLED_Enabled = true;
-    state.control = keys.Trimmed("USBLED_Control_", "");
-    state.freqDuty = keys.Trimmed("USBLED_FreqDuty_", "50,50/50,50/50,50/50,50");
-    state.initialPhaseDelay = keys.Trimmed("USBLED_InitialPhaseDelay_", "");
-    state.power = keys.Trimmed("USBLED_Power_", "100/100/100/100");
-    SkipFailure([&] { state.preScalar = keys.Int16("USBLED_PreScalar_", "10"); });
-    state.syncLeds = Val(keys.Text("USBLED_SyncLeds_", "0")) != 0 ? True16 : False16;
+    state.control = keys.Own("USBLED_Control_");
+    state.freqDuty = keys.Own("USBLED_FreqDuty_");
+    state.initialPhaseDelay = keys.Own("USBLED_InitialPhaseDelay_");
+    state.power = keys.Own("USBLED_Power_");
+    SkipFailure([&] { state.preScalar = ToInt16(Val(keys.Own("USBLED_PreScalar_"))); });
+    state.syncLeds = Val(keys.Own("USBLED_SyncLeds_")) != 0 ? True16 : False16;
 }
 
 void cCategorySpecificSetting::GetSettings(std::string_view sectionName,
@@ -105,7 +109,7 @@ void cCategorySettings::ReadDefault(const cIni& ini) {
 void cCategorySettings::ReadCategories(const cFileReader& files, const cIni& ini) {
     const cIniEntries sections = ReadIniEntries(files, "", kSectionNamesBuffer, ini.FullPath(kIniFile));
     for (const std::string& section : sections.entries) {
-        if (!EqualsNoCase(section.substr(0, kCategorySectionPrefix.size()), kCategorySectionPrefix)) continue;
+        if (!IsCategorySection(section)) continue;
         cCategorySpecificSetting& setting = m_CategorySettings.emplace_back();
         setting.GetSettings(section, &m_DefaultCategorySetting, ini);
         setting.m_Category = Trim(section.substr(kCategorySectionPrefix.size()));

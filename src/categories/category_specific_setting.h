@@ -9,14 +9,10 @@
 #include "categories/colours.h"
 #include "common/binary.h"
 #include "common/ini.h"
+#include "common/setting_keys.h"
 
 namespace vigrel {
 
-// The suffixes of the keys that are set for each state, by status.
-inline constexpr std::array<std::string_view, 4> kStateSuffixes{"Inactive", "Active", "Acked", "Message"};
-
-// A category's section is named by this and the category, in any case.
-inline constexpr std::string_view kCategorySectionPrefix = "CategorySpecificSetting_";
 // The names of all sections are read into a buffer of this size (ReadIniSection).
 inline constexpr std::size_t kSectionNamesBuffer = 8192;
 

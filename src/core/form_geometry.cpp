@@ -4,6 +4,7 @@
 
 #include "common/failure.h"
 #include "common/numbers.h"
+#include "common/setting_keys.h"
 
 namespace vigrel {
 
@@ -19,13 +20,12 @@ void SaveFormGeometry(const cWindow& form, cIni& ini) {
 }
 
 void RestoreFormGeometry(cWindow& form, const cIni& ini, const cScreen& screen) {
-    const auto stored = [&](std::string_view key, std::string_view defaultValue) {
-        return Val(ini.GetIniString("General", form.Name() + "." + std::string(key), defaultValue));
-    };
-    SkipFailure([&] { form.SetTop(stored("Top", "100")); });
-    SkipFailure([&] { form.SetLeft(stored("Left", "100")); });
-    SkipFailure([&] { form.SetHeight(stored("Height", "5000")); });
-    SkipFailure([&] { form.SetWidth(stored("Width", "8000")); });
+    const cSettingReader general(ini, "General");
+    const auto stored = [&](const std::string& key) { return general.Decimal(form.Name() + "." + key); };
+    SkipFailure([&] { form.SetTop(stored("Top")); });
+    SkipFailure([&] { form.SetLeft(stored("Left")); });
+    SkipFailure([&] { form.SetHeight(stored("Height")); });
+    SkipFailure([&] { form.SetWidth(stored("Width")); });
     SkipFailure([&] {
         if (form.Top() + form.Height() > screen.Height()) form.SetTop(screen.Height() - form.Height());
     });

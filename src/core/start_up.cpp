@@ -4,6 +4,7 @@
 #include "common/code_page.h"
 #include "common/failure.h"
 #include "common/file_procedures.h"
+#include "common/setting_keys.h"
 #include "common/window_procedures.h"
 #include "core/form_geometry.h"
 #include "core/read_settings.h"
@@ -106,7 +107,7 @@ bool cVigrelReceiverMain::ReachSuiteLibrary() {
 
 void cVigrelReceiverMain::SetTitle() {
     m_Ports.mainWindow.SetCaption(m_Texts.GetText(10000) + " (" +
-                                  m_Ini.GetIniString("General", "Object", "none") + ") - Version " +
+                                  cSettingReader(m_Ini, "General").Text("Object") + ") - Version " +
                                   kVersion);
 }
 

@@ -33,13 +33,11 @@ bool IsCentred(std::string_view keyword) {
 }  // namespace
 
 void cAlarmListView::SetUpColumns(cSettings& settings) {
-    const auto flag = [&](std::string_view key, std::string_view defaultValue) {
-        return Val(m_Services.ini.GetIniString("General", key, defaultValue)) == 1;
-    };
-    settings.m_ColumnResizable = flag("ColumnResizable", "1");
-    settings.m_ColumnSortable = flag("ColumnSortable", "1");
-    settings.m_ColumnWidthStore = flag("ColumnWidthStore", "1");
-    const std::string columns = m_Services.ini.GetIniString("General", "Columns", "");
+    const cSettingReader general(m_Services.ini, "General");
+    settings.m_ColumnResizable = general.Flag("ColumnResizable");
+    settings.m_ColumnSortable = general.Flag("ColumnSortable");
+    settings.m_ColumnWidthStore = general.Flag("ColumnWidthStore");
+    const std::string columns = general.Text("Columns");
     for (std::int16_t i = 0;; ++i) {
         const std::string keyword = GetField(columns, i, ",");
         if (keyword.empty()) break;

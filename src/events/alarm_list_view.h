@@ -8,6 +8,7 @@
 #include "categories/category_specific_setting.h"
 #include "common/ini.h"
 #include "common/receiver_state.h"
+#include "common/setting_keys.h"
 #include "common/settings.h"
 #include "common/texts.h"
 #include "events/vigrel_reciever_alarm.h"
@@ -37,20 +38,12 @@ enum class eColumnKind : std::int16_t {
     Observed
 };
 
-inline constexpr std::array<std::string_view, 16> kColumnKeywords{
-    "StateIcon", "StateText", "AlarmDate", "AlarmTime", "AlarmDateTime",
-    "Date",      "Time",      "DateTime",  "t0",        "t1",
-    "t2",        "t3",        "t4",        "t5",        "ExtraText",
-    "Observed"};
-
 // The most columns that can be configured.
 inline constexpr std::size_t kMostColumns = 32;
 
 // The caption and tag of the last column, which nobody sees: it sorts the list by arrival.
 inline constexpr std::string_view kHiddenColumn = "CreatedTimeStamp";
 
-// The image strip has pictures 0 to this.
-inline constexpr int kLastIcon = 47;
 // Icons of column "Observed".
 inline constexpr int kIconNotObserved = 26;
 inline constexpr int kIconObserved = 27;

@@ -36,20 +36,12 @@ cPopups::~cPopups() {
 
 // --- where a popup goes
 
-std::string cPopups::Setting(std::string_view key, std::string_view defaultValue) const {
-    return m_Services.ini.GetIniString("PopupForm", key, defaultValue);
-}
-
-std::int32_t cPopups::NumberSetting(std::string_view key, std::string_view defaultValue) const {
-    return ToInt32(Val(Setting(key, defaultValue)));
-}
-
 cPopups::cSize cPopups::ReadSize() const {
-    return {NumberSetting("X_Size", "-1"), NumberSetting("Y_Size", "-1")};
+    return {Settings().Int32("X_Size"), Settings().Int32("Y_Size")};
 }
 
 void cPopups::NextPlace() {
-    const std::string position = ToUpper(Setting("WindowPosition", "Default"));
+    const std::string position = ToUpper(Settings().Text("WindowPosition"));
     if (position == "STATIC") {
         ToStart();
     } else if (position == "MOVING") {
@@ -61,8 +53,8 @@ void cPopups::NextPlace() {
 }
 
 void cPopups::ToStart() {
-    m_PopupX = NumberSetting("X_Start", "50");
-    m_PopupY = NumberSetting("Y_Start", "50");
+    m_PopupX = Settings().Int32("X_Start");
+    m_PopupY = Settings().Int32("Y_Start");
 }
 
 void cPopups::NextMovingPlace() {
@@ -70,11 +62,11 @@ void cPopups::NextMovingPlace() {
         ToStart();
         m_PopupMovingStarted = true;
     } else {
-        m_PopupX = ToInt32(static_cast<double>(m_PopupX) + NumberSetting("X_Step", "50"));
-        m_PopupY = ToInt32(static_cast<double>(m_PopupY) + NumberSetting("Y_Step", "50"));
+        m_PopupX = ToInt32(static_cast<double>(m_PopupX) + Settings().Int32("X_Step"));
+        m_PopupY = ToInt32(static_cast<double>(m_PopupY) + Settings().Int32("Y_Step"));
     }
     // Only a bound that is passed upward ends a run; one axis takes the other along.
-    if (NumberSetting("X_Stop", "50") < m_PopupX || NumberSetting("Y_Stop", "50") < m_PopupY) ToStart();
+    if (Settings().Int32("X_Stop") < m_PopupX || Settings().Int32("Y_Stop") < m_PopupY) ToStart();
 }
 
 // --- opening
@@ -142,8 +134,8 @@ void cPopups::SetColours(cPopupWindow& window, const cVigrelRecieverAlarm& alarm
 }
 
 void cPopups::SetFont(cPopupWindow& window) const {
-    window.SetLabelFont(Trim(Setting("FontName", "MS Sans Serif")), Val(Setting("FontSize", "8")));
-    window.SetLabelFontStyle(NumberSetting("FontBold", "0") != 0, NumberSetting("FontItalic", "0") != 0);
+    window.SetLabelFont(Trim(Settings().Text("FontName")), Settings().Decimal("FontSize"));
+    window.SetLabelFontStyle(Settings().Int32("FontBold") != 0, Settings().Int32("FontItalic") != 0);
 }
 
 void cPopups::SetPlace(cPopupWindow& window, cSize size) const {

@@ -48,8 +48,7 @@ class cPopups {
         std::int32_t width, height;
     };
 
-    std::string Setting(std::string_view key, std::string_view defaultValue) const;
-    std::int32_t NumberSetting(std::string_view key, std::string_view defaultValue) const;
+    cSettingReader Settings() const { return {m_Services.ini, "PopupForm"}; }
     cSize ReadSize() const;
     void NextPlace();
     void ToStart();

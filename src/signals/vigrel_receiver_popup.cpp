@@ -7,7 +7,7 @@ namespace vigrel {
 
 void Vigrel_Receiver_Popup::Load() {
     m_PriorityIndex = kUnlistedPriority;
-    const std::string object = m_Services.ini.GetIniString("General", "Object", "none");
+    const std::string object = cSettingReader(m_Services.ini, "General").Text("Object");
     m_Window.SetCaption(m_Services.texts.GetText(10000) + " (" + object + ")");
     m_Services.state.m_PopupFormCount = ToInt16(m_Services.state.m_PopupFormCount + 1);
 }

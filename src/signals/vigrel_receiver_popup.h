@@ -8,6 +8,7 @@
 #include "common/ini.h"
 #include "common/log.h"
 #include "common/receiver_state.h"
+#include "common/setting_keys.h"
 #include "common/settings.h"
 #include "common/texts.h"
 #include "events/vigrel_reciever_alarm.h"

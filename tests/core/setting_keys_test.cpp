@@ -1,6 +1,6 @@
 // The table of keys is held to those who read them: it names what they ask for, no more and no less.
 
-#include "core/setting_keys.h"
+#include "common/setting_keys.h"
 
 #include <gtest/gtest.h>
 

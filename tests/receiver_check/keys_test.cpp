@@ -1,6 +1,6 @@
 // Keys that nobody reads, and values that are not read as they are written.
 
-#include "core/setting_keys.h"
+#include "common/setting_keys.h"
 #include "receiver-check/names.h"
 #include "receiver_check/checked_station.h"
 

@@ -12,8 +12,8 @@
 
 #include "categories/category_specific_setting.h"
 #include "common/ini.h"
+#include "common/setting_keys.h"
 #include "common/text.h"
-#include "core/setting_keys.h"
 #include "resources_text/share_files.h"
 #include "support/fake_files.h"
 

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "common/setting_keys.h"
 #include "common/text.h"
-#include "core/setting_keys.h"
 
 namespace vigrel::testing {
 

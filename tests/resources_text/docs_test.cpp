@@ -8,8 +8,8 @@
 
 #include "common/binary.h"
 #include "common/dates.h"
+#include "common/setting_keys.h"
 #include "common/text.h"
-#include "core/setting_keys.h"
 #include "events/vigrel_reciever_alarm.h"
 #include "link/frame.h"
 #include "resources_text/doc_pages.h"

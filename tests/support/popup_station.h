@@ -35,9 +35,9 @@ class cPopupStation {
     // Category settings from lines of a section.
     static cCategorySpecificSetting Setting(const std::string& lines) {
         cFakeFiles files;
-        files.Put("C:\\App\\VigrelReceiver.INI", "[C]\n" + lines);
+        files.Put("C:\\App\\VigrelReceiver.INI", "[CategorySpecificSetting_C]\n" + lines);
         cCategorySpecificSetting setting;
-        setting.GetSettings("C", nullptr, cIni(files, "C:\\App\\"));
+        setting.GetSettings("CategorySpecificSetting_C", nullptr, cIni(files, "C:\\App\\"));
         return setting;
     }
     // Alarms are numbered from 1 in their text.

@@ -4,8 +4,8 @@
 #include "common/code_page.h"
 #include "common/failure.h"
 #include "common/numbers.h"
+#include "common/setting_keys.h"
 #include "common/text.h"
-#include "core/setting_keys.h"
 #include "receiver-check/checks.h"
 #include "receiver-check/names.h"
 

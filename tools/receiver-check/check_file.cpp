@@ -1,7 +1,7 @@
 #include <algorithm>
 
+#include "common/setting_keys.h"
 #include "common/text.h"
-#include "core/setting_keys.h"
 #include "receiver-check/checks.h"
 
 namespace vigrel {

@@ -2,8 +2,8 @@
 #include <array>
 
 #include "common/code_page.h"
+#include "common/setting_keys.h"
 #include "common/text.h"
-#include "core/setting_keys.h"
 #include "events/alarm_list_view.h"
 #include "receiver-check/checks.h"
 #include "receiver-check/names.h"

@@ -1,8 +1,8 @@
 #include <algorithm>
 
 #include "common/dates.h"
+#include "common/setting_keys.h"
 #include "common/text.h"
-#include "core/setting_keys.h"
 #include "events/alarm_list_view.h"
 #include "receiver-check/checks.h"
 #include "receiver-check/names.h"

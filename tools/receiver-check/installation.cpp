@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "common/numbers.h"
-#include "core/setting_keys.h"
+#include "common/setting_keys.h"
 
 namespace vigrel {
 

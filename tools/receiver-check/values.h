@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/setting_keys.h"
+#include "common/setting_keys.h"
 #include "receiver-check/finding.h"
 
 namespace vigrel {

@@ -1,12 +1,12 @@
-#include "core/setting_keys.h"
+#include "common/setting_keys.h"
 
 #include <algorithm>
 #include <iterator>
 #include <limits>
 
-#include "categories/category_specific_setting.h"
+#include "common/failure.h"
+#include "common/numbers.h"
 #include "common/text.h"
-#include "events/alarm_list_view.h"
 
 namespace vigrel {
 namespace {
@@ -155,6 +155,19 @@ const cSettingKey* FindSettingKey(std::string_view section, std::string_view nam
         return EqualsNoCase(key.name, name) && (category || EqualsNoCase(key.section, section));
     });
     return found == keys.end() ? nullptr : &*found;
+}
+
+std::string cSettingReader::Text(std::string_view key) const {
+    const cSettingKey* known = FindSettingKey(m_Section, key);
+    if (known == nullptr) {
+        throw cFailure(eFailure::InvalidCall,
+                       "no key " + std::string(key) + " is known in section " + m_Section);
+    }
+    return m_Ini.GetIniString(m_Section, key, known->defaultValue);
+}
+
+double cSettingReader::Decimal(std::string_view key) const {
+    return Val(Text(key));
 }
 
 bool IsCategorySection(std::string_view section) {
