@@ -100,6 +100,10 @@ std::vector<std::int16_t> DefinitionIdentities(const cDefinitionServices& servic
     return identities;
 }
 
+void RemoveDefinitionTemporaries(const cDefinitionServices& services, const cDefinitionKind& kind) {
+    RemoveTemporaries(services.files, SplitPath(services.ini.FullPath(kind.folderAndStem)).folder);
+}
+
 cLoadResult LoadDefinition(const cDefinitionServices& services, const cDefinitionKind& kind,
                            std::int16_t diskIdentity, std::int16_t& objectIdentity,
                            const std::function<void(cBinaryReader&, std::int16_t)>& readRecord) {

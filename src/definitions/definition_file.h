@@ -63,6 +63,9 @@ std::string DefinitionFileName(const cDefinitionServices& services, const cDefin
 std::vector<std::int16_t> DefinitionIdentities(const cDefinitionServices& services,
                                                const cDefinitionKind& kind);
 
+// Takes away what a crash left of a save in the folder of a kind.
+void RemoveDefinitionTemporaries(const cDefinitionServices& services, const cDefinitionKind& kind);
+
 struct cLoadResult {
     bool loaded = false;
     bool outdated = false;  // the file is of an older version and is to be saved again

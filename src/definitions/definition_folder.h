@@ -40,10 +40,11 @@ class cDefinitionFolder {
     explicit cDefinitionFolder(const cDefinitionServices& services) : m_Services(services) {}
 
     // Replaces all by what the folder holds, in the order of the identities. A file that can't be loaded is
-    // left out, and out of reach of everything here.
+    // left out, and out of reach of everything here. What a crash left of a save is taken away.
     void Load() {
         m_Definitions.clear();
         m_Unreadable.clear();
+        RemoveDefinitionTemporaries(m_Services, Definition::kKind);
         for (const std::int16_t identity : DefinitionIdentities(m_Services, Definition::kKind)) {
             auto definition = std::make_unique<Definition>(m_Services);
             if (definition->LoadFromDisk(identity)) {

@@ -32,6 +32,18 @@ TEST_F(DefinitionFolder, LoadsWhatCanBeReadInTheOrderOfTheIdentities) {
     EXPECT_FALSE(m_Receivers.HasChanges());
 }
 
+TEST_F(DefinitionFolder, WhatACrashLeftOfASaveGoesAtTheNextLoad) {
+    cProfileFolder profiles(m_Services);
+    const std::string profile = profiles.At(profiles.Add("Day")).CreateFileName(5);
+    m_Files.Put(profile + ".$~", "x");
+    m_Receivers.Load();
+    profiles.Load();
+    EXPECT_FALSE(m_Files.FileExists(ReceiverPath("0007") + ".$~"));
+    EXPECT_FALSE(m_Files.FileExists(profile + ".$~"));
+    EXPECT_TRUE(m_Files.FileExists(ReceiverPath("00x1")));
+    EXPECT_TRUE(m_Files.FileExists(ReceiverPath("0007")));
+}
+
 TEST_F(DefinitionFolder, UpgradesAndFailuresAreTold) {
     m_Receivers.Load();
     ASSERT_EQ(m_Notes.size(), 2u);
