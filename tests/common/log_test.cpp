@@ -52,6 +52,15 @@ TEST(WriteLog, AppendsOneLineForEachCall) {
     EXPECT_EQ(station.Today(), "12:30:15 one\r\n03:04:05 two\r\nlines\r\n03:04:05 \r\n");
 }
 
+TEST(WriteLog, TheLastMomentOfADayIsThatDays) {
+    cStation station;
+    station.clock.Set(2026, 3, 15, 23, 59, 59);
+    station.clock.AddSeconds(0.9);
+    station.log.WriteLog("late");
+    EXPECT_EQ(station.Today(), "23:59:59 late\r\n");
+    EXPECT_EQ(station.files.AllPaths()[0], kLogs + "20260315.Log");
+}
+
 TEST(WriteLog, EachDayHasItsFile) {
     cStation station;
     station.log.WriteLog("a");

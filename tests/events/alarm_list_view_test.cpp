@@ -270,6 +270,13 @@ TEST_F(AlarmListView, ControlAAndControlCActWithControlAlone) {
     EXPECT_EQ(clipboard.m_Text, "1\ta\t2026-03-15 12:30:15\t\r\n1\tb\t2026-03-15 12:30:16\t\r\n");
 }
 
+TEST_F(AlarmListView, AnArrivalInTheLastMomentOfADayHasThatDaysDate) {
+    Start("[General]\r\nColumns=StateIcon,DateTime,t0\r\n");
+    clock.Set(2026, 3, 15, 23, 59, 59);
+    clock.AddSeconds(0.9);
+    EXPECT_EQ(Value(Take(MakeAlarm()), 1), "2026-03-15 23:59:59");
+}
+
 TEST_F(AlarmListView, ARowWhoseDateCannotBeToldIsCopiedAsFarAsItGoes) {
     Start("[General]\r\nColumns=StateIcon,DateTime,t0\r\n");
     constexpr double kInfinity = std::numeric_limits<double>::infinity();
