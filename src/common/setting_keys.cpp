@@ -69,6 +69,7 @@ constexpr cRow kRows[] = {
     {"Printer", "Format", Text, ""},
     {"PrinterPorts", "1", Text, ""},
     {"TCPIP", "Port", Int32, "12412", 1, 65535},
+    {"TCPIP", "Address", Text, ""},
     {"PopupForm", "X_Size", Int32, "-1", kInt32Low, kInt32High},
     {"PopupForm", "Y_Size", Int32, "-1", kInt32Low, kInt32High},
     {"PopupForm", "WindowPosition", Text, "Default"},

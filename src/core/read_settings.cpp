@@ -56,4 +56,8 @@ std::int32_t ReadPort(const cIni& ini) {
     return cSettingReader(ini, "TCPIP").Int32("Port");
 }
 
+std::string ReadAddress(const cIni& ini) {
+    return Trim(cSettingReader(ini, "TCPIP").Text("Address"));
+}
+
 }  // namespace vigrel

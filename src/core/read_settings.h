@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <string>
 
 #include "common/ini.h"
 #include "common/settings.h"
@@ -13,7 +14,8 @@ namespace vigrel {
 // file, key and value. fontRead is called as soon as the list's font is known.
 void ReadSettings(const cIni& ini, cSettings& settings, const std::function<void()>& fontRead);
 
-// The listening port.
+// The listening port, and the number of the address that it is opened at; empty: at all of them.
 std::int32_t ReadPort(const cIni& ini);
+std::string ReadAddress(const cIni& ini);
 
 }  // namespace vigrel

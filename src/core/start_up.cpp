@@ -143,13 +143,14 @@ void cVigrelReceiverMain::ShowAbout() {
 
 bool cVigrelReceiverMain::OpenPort() {
     const std::int32_t port = ReadPort(m_Ini);
-    if (!SkipFailure([&] { m_Link.Listen(port); })) {
-        m_Ports.messageBox.Show(
-            m_Texts.GetText(10015) + " (" + std::to_string(port) + ") " + m_Texts.GetText(10016),
-            eMessageIcon::Warning, eMessageButtons::Ok);
+    const std::string address = ReadAddress(m_Ini);
+    const std::string name = (address.empty() ? "" : address + " ") + std::to_string(port);
+    if (!SkipFailure([&] { m_Link.Listen(address, port); })) {
+        m_Ports.messageBox.Show(m_Texts.GetText(10015) + " (" + name + ") " + m_Texts.GetText(10016),
+                                eMessageIcon::Warning, eMessageButtons::Ok);
         return false;
     }
-    m_Log.WriteLog(m_Texts.GetText(10017) + " " + std::to_string(port) + " " + m_Texts.GetText(10018));
+    m_Log.WriteLog(m_Texts.GetText(10017) + " " + name + " " + m_Texts.GetText(10018));
     return true;
 }
 

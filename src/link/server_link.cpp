@@ -13,7 +13,8 @@ cServerLink::cServerLink(cListener& connect, cDataSocket& data, const cReceiverS
     m_WinsockData.OnError = [this] { m_WinsockData.Close(); };
 }
 
-void cServerLink::Listen(std::int32_t port) {
+void cServerLink::Listen(std::string_view address, std::int32_t port) {
+    m_WinsockConnect.SetLocalAddress(address);
     m_WinsockConnect.SetLocalPort(port);
     m_WinsockConnect.Listen();
 }
@@ -22,8 +23,11 @@ void cServerLink::Trace(std::string_view text, std::int16_t kind) const {
     if (m_State.m_DebugMode && WriteTrace) WriteTrace(text, kind);
 }
 
-// The last to arrive wins: a sender that lost its connection without a word must get in again.
+// The last to arrive wins: a sender that lost its connection without a word must get in again. What the one
+// before had delivered by then comes first, as it came first: a sender that leaves in haste, or is thrown
+// out, loses none of it.
 void cServerLink::ConnectionRequest(std::int32_t requestId) {
+    m_WinsockData.DeliverArrived();
     if (m_WinsockData.State() != 0) m_WinsockData.Close();
     m_ReceiveBuffer.clear();
     m_WinsockData.Accept(requestId);

@@ -20,8 +20,8 @@ class cServerLink {
 
     cServerLink(cListener& connect, cDataSocket& data, const cReceiverState& state);
 
-    // Throws cFailure when the port can't be opened.
-    void Listen(std::int32_t port);
+    // The address is a number; empty: all of the machine's. Throws cFailure when the port can't be opened.
+    void Listen(std::string_view address, std::int32_t port);
     // Sends one reply. Never fails: a peer that is gone gets none.
     void SendReply(std::string_view text);
 

@@ -12,8 +12,10 @@ namespace vigrel {
 class cListener {
   public:
     virtual ~cListener() = default;
+    // Number of one of the machine's addresses; empty, as without a call, for all of them, IPv4 and IPv6.
+    virtual void SetLocalAddress(std::string_view address) = 0;
     virtual void SetLocalPort(std::int32_t port) = 0;
-    // Listens on every local address, IPv4 and IPv6. Throws cFailure when the port can't be opened.
+    // Throws cFailure when the port can't be opened at the address.
     virtual void Listen() = 0;
 
     std::function<void(std::int32_t requestId)> OnConnectionRequest;
@@ -30,6 +32,9 @@ class cDataSocket {
     virtual void Close() = 0;
     // Takes over the connection of a request. The socket must be closed. Throws cFailure for an unknown id.
     virtual void Accept(std::int32_t requestId) = 0;
+    // Delivers as events what has reached the machine by now, up to 64 KiB, which would otherwise take
+    // several turns; for who is about to close the socket.
+    virtual void DeliverArrived() = 0;
     // Everything received since the last fetch; at most a few KiB, since no more is read in one turn.
     virtual std::string Fetch() = 0;
     // Queues the bytes and hands them to the network at once. Throws cFailure when the socket is not

@@ -1,9 +1,15 @@
+#include <arpa/inet.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/socket.h>
+#include <unistd.h>
 
 #include <QHostAddress>
 #include <QTcpSocket>
 #include <algorithm>
+#include <array>
+#include <cerrno>
+#include <filesystem>
 
 #include "adapters/qt/qt_data_socket.h"
 #include "adapters/qt/qt_listener.h"
@@ -57,6 +63,46 @@ class cRealSocketRig {
 };
 
 INSTANTIATE_TYPED_TEST_SUITE_P(Qt, SocketContract, cRealSocketRig);
+
+std::size_t OpenDescriptors() {
+    const std::filesystem::directory_iterator open("/proc/self/fd");
+    return static_cast<std::size_t>(std::distance(begin(open), end(open)));
+}
+
+// A peer without an event loop, which does in one step what others do over time.
+class cBluntPeer {
+  public:
+    explicit cBluntPeer(std::int32_t port, const char* address = "127.0.0.1")
+        : m_Descriptor(socket(AF_INET, SOCK_STREAM, 0)) {
+        sockaddr_in target{};
+        target.sin_family = AF_INET;
+        target.sin_port = htons(static_cast<std::uint16_t>(port));
+        inet_pton(AF_INET, address, &target.sin_addr);
+        m_Connected =
+            connect(m_Descriptor.Get(), reinterpret_cast<const sockaddr*>(&target), sizeof target) == 0;
+    }
+    bool Connected() const { return m_Connected; }
+    void Send(std::string_view bytes) const {
+        EXPECT_EQ(send(m_Descriptor.Get(), bytes.data(), bytes.size(), MSG_NOSIGNAL),
+                  static_cast<ssize_t>(bytes.size()));
+    }
+    void EndSending() const { shutdown(m_Descriptor.Get(), SHUT_WR); }
+    void Leave() { m_Descriptor.Reset(); }
+    std::string ReadToTheEnd() const {
+        std::string received;
+        std::array<char, 4096> chunk;
+        WaitUntil([&] {
+            const ssize_t count = recv(m_Descriptor.Get(), chunk.data(), chunk.size(), MSG_DONTWAIT);
+            if (count > 0) received.append(chunk.data(), static_cast<std::size_t>(count));
+            return count == 0 || (count < 0 && errno != EAGAIN);
+        });
+        return received;
+    }
+
+  private:
+    cFileHandle m_Descriptor;
+    bool m_Connected = false;
+};
 
 class cQtSocketsTest : public ::testing::Test {
   protected:
@@ -136,7 +182,7 @@ TEST_F(cQtSocketsTest, AFloodComesInSmallTurnsBetweenWhichTheLoopServesOthers) {
     std::function<void()> post = [&] {
         ++turns;
         if (Arrived() < flood.size())
-            QMetaObject::invokeMethod(&m_Rig.m_Listener, post, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(&m_Rig.Peer(peer), post, Qt::QueuedConnection);
     };
     m_Rig.m_Data.OnDataArrival = [&] {
         m_Chunks.push_back(m_Rig.m_Data.Fetch());
@@ -193,7 +239,7 @@ TEST_F(cQtSocketsTest, ANewConnectionBeginsANewLine) {
     EXPECT_EQ(m_Errors, 0);
 }
 
-// The toolkit tells a reset connection as one that the peer closed; the link treats the two alike.
+// A reset is the peer's end or an error, as the machine tells it; the link treats the two alike.
 TEST_F(cQtSocketsTest, AResetConnectionIsOneEvent) {
     const int peer = m_Rig.Connect();
     const linger reset{1, 0};
@@ -225,6 +271,7 @@ TEST_F(cQtSocketsTest, RepliesReachAPeerWhoseFurtherFramesWereNotReadAnyMore) {
 }
 
 TEST_F(cQtSocketsTest, AThousandConnectionsLeaveNothingBehind) {
+    const std::size_t before = OpenDescriptors();
     for (int i = 0; i < 1000; ++i) {
         QTcpSocket peer;
         peer.connectToHost(QHostAddress::LocalHost, static_cast<quint16>(m_Rig.m_Listener.LocalPort()));
@@ -233,9 +280,165 @@ TEST_F(cQtSocketsTest, AThousandConnectionsLeaveNothingBehind) {
         ASSERT_TRUE(WaitUntil([&] { return Arrived() == 2; })) << i;
     }
     m_Rig.m_Data.Close();
-    RunEvents(50);
-    EXPECT_EQ(m_Rig.m_Listener.findChildren<QTcpSocket*>().size(), 0);
+    EXPECT_TRUE(WaitUntil([&] { return OpenDescriptors() == before; }));
+    EXPECT_EQ(m_Rig.m_Data.Lingering(), 0u);
     EXPECT_EQ(m_Errors, 0);
+}
+
+// --- a peer that doesn't wait
+
+TEST_F(cQtSocketsTest, WhatArrivedIsDeliveredThoughThePeerLeftWithoutReadingReplies) {
+    m_Rig.m_Data.OnDataArrival = [&] {
+        m_Chunks.push_back(m_Rig.m_Data.Fetch());
+        SkipFailure([&] { m_Rig.m_Data.Send("reply"); });
+        RunEvents(1);  // time for the peer's machine to refuse the reply
+    };
+    m_Rig.m_Data.OnClosed = [&] { ++m_Closed; };
+    for (const std::size_t size : {5'000u, 50'000u, 120'000u}) {
+        m_Chunks.clear();
+        m_Closed = m_Errors = 0;
+        cBluntPeer peer(m_Rig.m_Listener.LocalPort());
+        std::string bytes(size, 'b');
+        for (std::size_t i = 59; i < size; i += 60) bytes[i] = '\n';
+        peer.Send(bytes);
+        peer.Leave();
+        ASSERT_TRUE(WaitUntil([&] { return m_Closed + m_Errors > 0; })) << size;
+        EXPECT_EQ(Arrived(), size);
+        m_Rig.m_Data.Close();
+    }
+}
+
+TEST_F(cQtSocketsTest, APeerThatOnlyEndedItsSendingGetsAllReplies) {
+    std::string expected;
+    m_Rig.m_Data.OnDataArrival = [&] {
+        m_Chunks.push_back(m_Rig.m_Data.Fetch());
+        m_Rig.m_Data.Send("reply");
+        expected += "reply";
+    };
+    m_Rig.m_Data.OnClosed = [&] { m_Rig.m_Data.Close(); };
+    const cBluntPeer peer(m_Rig.m_Listener.LocalPort());
+    peer.Send(std::string(60'000, '\n'));
+    peer.EndSending();
+    EXPECT_EQ(peer.ReadToTheEnd(), expected);
+    EXPECT_EQ(Arrived(), 60'000u);
+    EXPECT_EQ(m_Rig.m_Data.State(), 0);
+}
+
+TEST_F(cQtSocketsTest, WhatHasArrivedCanBeHadBeforeAClose) {
+    const int peer = m_Rig.Connect();
+    m_Rig.Peer(peer).write(std::string(20'000, '\n').c_str(), 20'000);
+    while (m_Rig.Peer(peer).bytesToWrite() > 0) m_Rig.Peer(peer).waitForBytesWritten();
+    EXPECT_EQ(Arrived(), 0u);
+    m_Rig.m_Data.DeliverArrived();
+    EXPECT_EQ(Arrived(), 20'000u);
+}
+
+TEST_F(cQtSocketsTest, NoMoreThanABoundedAmountIsDeliveredBeforeAClose) {
+    const cBluntPeer peer(m_Rig.m_Listener.LocalPort());
+    ASSERT_TRUE(WaitUntil([&] { return m_Rig.m_Data.State() != 0; }));
+    peer.Send(std::string(200'000, '\n'));
+    m_Rig.m_Data.DeliverArrived();
+    EXPECT_EQ(Arrived(), cQtDataSocket::kMostAtOnce);
+}
+
+TEST_F(cQtSocketsTest, APeerThatReadsNoReplyCostsABoundedMemory) {
+    m_Rig.Connect();
+    EXPECT_THROW(m_Rig.m_Data.Send(std::string(cTcpConnection::kMostUnsent + 1, 'r')), cFailure);
+    EXPECT_NO_THROW(m_Rig.m_Data.Send("reply"));
+}
+
+// --- a storm of connections
+
+TEST_F(cQtSocketsTest, EachTurnOfTheLoopDeliversOneRequest) {
+    std::vector<std::unique_ptr<cBluntPeer>> peers;
+    for (int i = 0; i < 20; ++i) {
+        peers.push_back(std::make_unique<cBluntPeer>(m_Rig.m_Listener.LocalPort()));
+    }
+    int requests = 0, turns = 0;
+    m_Rig.m_Listener.OnConnectionRequest = [&](std::int32_t) { ++requests; };
+    for (; requests < 20 && turns < 1000; ++turns) {
+        const int before = requests;
+        QCoreApplication::processEvents();
+        EXPECT_LE(requests, before + 1);
+    }
+    EXPECT_EQ(requests, 20);
+}
+
+TEST_F(cQtSocketsTest, ConnectionsThatCarriedNothingAreGoneAtOnce) {
+    const std::size_t before = OpenDescriptors();
+    std::vector<std::unique_ptr<cBluntPeer>> peers;
+    for (int i = 0; i < 50; ++i) {
+        peers.push_back(std::make_unique<cBluntPeer>(m_Rig.m_Listener.LocalPort()));
+        RunEvents(1);
+    }
+    // The last one is open, at both ends; the others only at the peers'.
+    ASSERT_TRUE(WaitUntil([&] { return OpenDescriptors() == before + 51; }));
+    EXPECT_EQ(m_Rig.m_Data.Lingering(), 0u);
+}
+
+TEST_F(cQtSocketsTest, OnlySoManyConnectionsAreWaitedFor) {
+    std::vector<std::unique_ptr<cBluntPeer>> peers;
+    for (std::size_t i = 0; i < cLingeringConnections::kMost + 20; ++i) {
+        m_Chunks.clear();
+        peers.push_back(std::make_unique<cBluntPeer>(m_Rig.m_Listener.LocalPort()));
+        peers.back()->Send("\n");
+        ASSERT_TRUE(WaitUntil([&] { return Arrived() == 1; }));
+    }
+    EXPECT_EQ(m_Rig.m_Data.Lingering(), cLingeringConnections::kMost);
+    EXPECT_TRUE(WaitUntil([&] { return m_Rig.m_Data.Lingering() == 0; }, 5000));
+}
+
+TEST_F(cQtSocketsTest, RequestsThatNobodyTakesLeaveNoDescriptor) {
+    m_Rig.m_Listener.OnConnectionRequest = nullptr;
+    const std::size_t before = OpenDescriptors();
+    for (int i = 0; i < 100; ++i) {
+        const cBluntPeer peer(m_Rig.m_Listener.LocalPort());
+        EXPECT_TRUE(peer.Connected());
+        RunEvents(1);
+    }
+    EXPECT_TRUE(WaitUntil([&] { return OpenDescriptors() == before; }));
+}
+
+TEST_F(cQtSocketsTest, AMachineWithoutDescriptorsIsAskedAgain) {
+    rlimit usual{};
+    getrlimit(RLIMIT_NOFILE, &usual);
+    const cBluntPeer peer(m_Rig.m_Listener.LocalPort());
+    rlimit none = usual;
+    const int next = dup(STDERR_FILENO);
+    close(next);
+    none.rlim_cur = static_cast<rlim_t>(next);
+    setrlimit(RLIMIT_NOFILE, &none);
+    RunEvents(50);
+    EXPECT_EQ(m_Rig.m_Data.State(), 0);
+    setrlimit(RLIMIT_NOFILE, &usual);
+    EXPECT_TRUE(WaitUntil([&] { return m_Rig.m_Data.State() != 0; }, 5000));
+}
+
+// --- one address of several
+
+TEST_F(cQtSocketsTest, AnAddressKeepsTheOthersShut) {
+    cQtListener listener;
+    listener.SetLocalAddress("127.0.0.1");
+    listener.Listen();
+    EXPECT_TRUE(cBluntPeer(listener.LocalPort()).Connected());
+    EXPECT_FALSE(cBluntPeer(listener.LocalPort(), "127.0.0.2").Connected());
+    EXPECT_TRUE(cBluntPeer(m_Rig.m_Listener.LocalPort(), "127.0.0.2").Connected());
+}
+
+TEST_F(cQtSocketsTest, AnAddressOfIPv6Works) {
+    cQtListener listener;
+    listener.SetLocalAddress("::1");
+    listener.Listen();
+    EXPECT_GT(listener.LocalPort(), 0);
+    EXPECT_FALSE(cBluntPeer(listener.LocalPort()).Connected());
+}
+
+TEST_F(cQtSocketsTest, AnAddressThatTheMachineLacksIsAFailure) {
+    for (const char* address : {"192.0.2.1", "localhost", "300.1.1.1", "nonsense"}) {
+        cQtListener listener;
+        listener.SetLocalAddress(address);
+        EXPECT_THROW(listener.Listen(), cFailure) << address;
+    }
 }
 
 }  // namespace

@@ -54,6 +54,7 @@ class SettingKeysTest : public ::testing::Test, protected cPopupStation {
     void ReadAll() {
         ReadSettings(m_Listening, m_Settings, [] {});
         m_Port = ReadPort(m_Listening);
+        m_Address = ReadAddress(m_Listening);
         m_Categories.ReadDefault(m_Listening);
         m_Categories.ReadCategories(m_Files, m_Listening);
         ReadColumns();
@@ -93,6 +94,7 @@ class SettingKeysTest : public ::testing::Test, protected cPopupStation {
     cListeningIni m_Listening{m_Files, "C:\\App\\"};
     cCategorySettings m_Categories;
     std::int32_t m_Port = 0;
+    std::string m_Address;
 };
 
 // What makes every reader ask for everything: a back colour in each state, popups that move.

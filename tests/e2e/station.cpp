@@ -85,7 +85,7 @@ int FreePort() {
 cStation::cStation() : m_Port(FreePort()), m_Folder(std::make_shared<cTemporaryFolder>()) {
     std::string texts;
     for (int id = 1; id < 1100; ++id) texts += std::to_string(id) + "=T" + std::to_string(id) + "\r\n";
-    for (int id = 10000; id < 10050; ++id) texts += std::to_string(id) + "=T" + std::to_string(id) + "\r\n";
+    for (int id = 10000; id < 10060; ++id) texts += std::to_string(id) + "=T" + std::to_string(id) + "\r\n";
     std::ofstream(Folder() / "Vigrel_Texts.046", std::ios::binary) << "0=Test\r\n" << texts;
 }
 
@@ -106,7 +106,8 @@ void cStation::WriteConfiguration() const {
     } else {
         content.insert(general + 11, own);
     }
-    std::ofstream(ini, std::ios::binary) << content << "[TCPIP]\r\nPort=" << m_Port << "\r\n";
+    std::ofstream(ini, std::ios::binary)
+        << content << "[TCPIP]\r\nPort=" << m_Port << "\r\nAddress=" << m_Address << "\r\n";
 }
 
 void cStation::Launch(const std::vector<std::string>& switches) {

@@ -23,7 +23,7 @@ class ServerLink : public ::testing::Test {
         link.WriteTrace = [this](std::string_view text, std::int16_t kind) {
             trace += std::to_string(kind) + ":" + std::string(text) + ";";
         };
-        link.Listen(12412);
+        link.Listen("", 12412);
     }
 
     cFakeListener listener;
@@ -39,9 +39,15 @@ TEST_F(ServerLink, ListensOnTheGivenPort) {
     EXPECT_TRUE(listener.m_Listening);
 }
 
+TEST_F(ServerLink, ListensAtTheGivenAddress) {
+    EXPECT_EQ(listener.m_Address, "");
+    link.Listen("192.168.1.10", 12412);
+    EXPECT_EQ(listener.m_Address, "192.168.1.10");
+}
+
 TEST_F(ServerLink, APortThatCannotBeOpenedIsAFailure) {
     listener.m_PortInUse = true;
-    EXPECT_THROW(link.Listen(12412), cFailure);
+    EXPECT_THROW(link.Listen("", 12412), cFailure);
 }
 
 TEST_F(ServerLink, ALineSplitOverTwoArrivalsIsProcessedOnceAtItsLineFeed) {
@@ -90,6 +96,19 @@ TEST_F(ServerLink, ASecondConnectionClosesTheFirstAndForgetsItsHalfLine) {
     EXPECT_NE(data.State(), 0);
     data.Arrive("whole\n");
     EXPECT_EQ(lines, std::vector<std::string>{"whole"});
+}
+
+// A sender that sends and leaves, and the next one that comes at once, are told apart by the order in which
+// they came.
+TEST_F(ServerLink, WhatHadArrivedIsProcessedAndAnsweredBeforeTheNextConnectionReplacesIt) {
+    listener.Knock(1);
+    data.Arrive("first\nsec");
+    data.m_Waiting = "ond\nthi";
+    listener.Knock(2);
+    EXPECT_EQ(lines, (std::vector<std::string>{"first", "second"}));
+    EXPECT_EQ(data.TakeSent(), "ok1ok2");
+    data.Arrive("rd\n");
+    EXPECT_EQ(lines.back(), "rd");
 }
 
 TEST_F(ServerLink, AfterThePeersCloseTheNextConnectionStartsWithAnEmptyBuffer) {

@@ -16,8 +16,8 @@ inline const std::string kApp = "C:\\App\\";
 // A machine on which all goes well, unless a test says otherwise.
 class cFakeMachine : public cMachine {
   public:
-    cPortTrial TryPort(std::int32_t port) const override {
-        m_Tried.push_back(port);
+    cPortTrial TryPort(const std::string& address, std::int32_t port) const override {
+        m_Tried.push_back(address + ":" + std::to_string(port));
         return m_Trial;
     }
     bool FolderExists(std::string_view path) const override { return !m_Missing.contains(std::string(path)); }
@@ -28,7 +28,7 @@ class cFakeMachine : public cMachine {
     std::optional<std::string> WhyNotReadable(std::string_view) const override { return std::nullopt; }
 
     cPortTrial m_Trial;
-    mutable std::vector<std::int32_t> m_Tried;
+    mutable std::vector<std::string> m_Tried;
     std::set<std::string> m_Missing;
     std::map<std::string, std::string> m_NotWritable;
 };

@@ -113,8 +113,15 @@ TEST_F(CheckFolderTest, APortInUseMayBeTheStationItself) {
     EXPECT_EQ(Rest("[TCPIP]\r\nPort=12500"), "warning port-in-use [TCPIP] Port");
     EXPECT_EQ(RestMessage("[TCPIP]\r\nPort=12500"),
               "TCP port 12500 is in use (perhaps by the station itself)");
-    EXPECT_EQ(m_Machine.m_Tried.back(), 12500);
+    EXPECT_EQ(m_Machine.m_Tried.back(), ":12500");
     EXPECT_EQ(Message(Check(Content())), "TCP port 12412 is in use (perhaps by the station itself)");
+}
+
+TEST_F(CheckFolderTest, AnAddressIsTriedWithThePort) {
+    m_Machine.m_Trial = {cMachine::ePort::Failed, "Cannot assign requested address"};
+    EXPECT_EQ(RestMessage("[TCPIP]\r\nPort=12500\r\nAddress= 192.0.2.1"),
+              "TCP port 12500 of address 192.0.2.1 can't be opened: Cannot assign requested address");
+    EXPECT_EQ(m_Machine.m_Tried.back(), "192.0.2.1:12500");
 }
 
 TEST_F(CheckFolderTest, APortThatCantBeOpenedIsAnError) {
@@ -201,10 +208,10 @@ class cOpenPort {
 TEST(PosixMachine, APortIsInUseWhileSomebodyListensAndFreeAfterwards) {
     const cPosixMachine machine;
     cOpenPort port(true);
-    EXPECT_EQ(machine.TryPort(port.m_Port).port, cMachine::ePort::InUse);
+    EXPECT_EQ(machine.TryPort("", port.m_Port).port, cMachine::ePort::InUse);
     port.Close();
-    EXPECT_EQ(machine.TryPort(port.m_Port).port, cMachine::ePort::Free);
-    EXPECT_EQ(machine.TryPort(port.m_Port).port, cMachine::ePort::Free) << "the trial lets the port go";
+    EXPECT_EQ(machine.TryPort("", port.m_Port).port, cMachine::ePort::Free);
+    EXPECT_EQ(machine.TryPort("", port.m_Port).port, cMachine::ePort::Free) << "the trial lets the port go";
 }
 
 TEST(PosixMachine, FoldersAreFoundInAnyCaseAndAskedForTheirRights) {

@@ -15,6 +15,7 @@ namespace vigrel::testing {
 class cFakeListener : public cListener {
   public:
     explicit cFakeListener(cTranscript* transcript = nullptr) : m_Transcript(transcript) {}
+    void SetLocalAddress(std::string_view address) override { m_Address = address; }
     void SetLocalPort(std::int32_t port) override { m_Port = port; }
     void Listen() override {
         if (m_PortInUse) {
@@ -33,6 +34,7 @@ class cFakeListener : public cListener {
     // Used by cFakeDataSocket: whether the id was there to be taken.
     bool TakeRequest(std::int32_t requestId) { return m_Pending.erase(requestId) > 0; }
 
+    std::string m_Address;
     std::int32_t m_Port = 0;
     bool m_Listening = false;
     bool m_PortInUse = false;
@@ -52,6 +54,7 @@ class cFakeDataSocket : public cDataSocket {
         if (m_Open && m_Transcript) m_Transcript->Add("data socket closed");
         m_Open = false;
         m_Received.clear();
+        m_Waiting.clear();
     }
     void Accept(std::int32_t requestId) override {
         if (m_Open) throw cFailure(eFailure::InvalidCall, "Accept: the socket is open");
@@ -61,6 +64,9 @@ class cFakeDataSocket : public cDataSocket {
         m_Open = true;
         m_RequestId = requestId;
         if (m_Transcript) m_Transcript->Add("data socket accepts " + std::to_string(requestId));
+    }
+    void DeliverArrived() override {
+        if (m_Open && !m_Waiting.empty()) Arrive(std::exchange(m_Waiting, {}));
     }
     std::string Fetch() override { return std::exchange(m_Received, {}); }
     void Send(std::string_view bytes) override {
@@ -96,6 +102,7 @@ class cFakeDataSocket : public cDataSocket {
 
     std::int32_t m_RequestId = 0;  // of the connection last accepted
     bool m_SendFails = false;
+    std::string m_Waiting;  // has reached the machine, and its event is still to come
 
   private:
     cFakeListener& m_Listener;

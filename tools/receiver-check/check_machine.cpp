@@ -12,12 +12,14 @@ void CheckPort(const cInstallation& installation, const cMachine& machine, cFind
     std::int32_t port = 0;
     // A number that doesn't fit was told of with the values.
     if (!SkipFailure([&] { port = ReadPort(installation.Ini()); })) return;
-    const std::string name = "TCP port " + std::to_string(port);
+    const std::string address = ReadAddress(installation.Ini());
+    const std::string name =
+        "TCP port " + std::to_string(port) + (address.empty() ? "" : " of address " + address);
     if (port < 1 || port > kLargestPort) {
         findings.Error("port-out-of-range", place, name + " is none that senders could reach: 1 to 65535");
         return;
     }
-    const cMachine::cPortTrial trial = machine.TryPort(port);
+    const cMachine::cPortTrial trial = machine.TryPort(address, port);
     if (trial.port == cMachine::ePort::InUse) {
         findings.Warning("port-in-use", place, name + " is in use (perhaps by the station itself)");
     } else if (trial.port == cMachine::ePort::Failed) {

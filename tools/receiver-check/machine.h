@@ -17,8 +17,9 @@ class cMachine {
         ePort port = ePort::Free;
         std::string reason;  // of a failure, in the operating system's words
     };
-    // Whether this user could listen on a TCP port now. The port is let go at once.
-    virtual cPortTrial TryPort(std::int32_t port) const = 0;
+    // Whether this user could listen on a TCP port now, at the address of that number; empty: at all. The
+    // port is let go at once.
+    virtual cPortTrial TryPort(const std::string& address, std::int32_t port) const = 0;
 
     virtual bool FolderExists(std::string_view path) const = 0;
     // Why this user can't create, replace and remove files in a folder; none when he can.

@@ -8,7 +8,7 @@ namespace vigrel {
 // rights.
 class cPosixMachine : public cMachine {
   public:
-    cPortTrial TryPort(std::int32_t port) const override;
+    cPortTrial TryPort(const std::string& address, std::int32_t port) const override;
     bool FolderExists(std::string_view path) const override;
     std::optional<std::string> WhyNotWritable(std::string_view folder) const override;
     std::optional<std::string> WhyNotReadable(std::string_view folder) const override;

@@ -1,48 +1,59 @@
 #include "adapters/qt/qt_data_socket.h"
 
+#include <algorithm>
 #include <utility>
 
-#include "adapters/qt/linger.h"
 #include "adapters/qt/qt_listener.h"
-#include "adapters/qt/qt_text.h"
 #include "common/failure.h"
 
 namespace vigrel {
 
-cQtDataSocket::~cQtDataSocket() {
-    if (m_Socket) m_Socket->disconnect();
-}
-
 void cQtDataSocket::Accept(std::int32_t requestId) {
-    if (m_Socket) throw cFailure(eFailure::InvalidCall, "A connection is taken over by a closed socket only");
-    m_Socket = m_Listener.TakeRequest(requestId);
+    if (m_Connection) {
+        throw cFailure(eFailure::InvalidCall, "A connection is taken over by a closed socket only");
+    }
+    m_Connection = std::make_unique<cTcpConnection>(m_Listener.TakeRequest(requestId));
+    m_Connection->OnReadable = [this] { ReadTurn(); };
     m_LineBytes = 0;
-    m_Failed = false;
-    QTcpSocket* socket = m_Socket.get();
-    QObject::connect(socket, &QTcpSocket::readyRead, socket, [this] { Read(); });
-    QObject::connect(socket, &QTcpSocket::errorOccurred, socket, [this](QAbstractSocket::SocketError error) {
-        if (error != QAbstractSocket::RemoteHostClosedError) Fail();
-    });
-    QObject::connect(socket, &QTcpSocket::disconnected, socket, [this] {
-        if (!m_Failed && OnClosed) OnClosed();
-    });
+    m_Ended = false;
 }
 
 void cQtDataSocket::Close() {
     m_Received.clear();
-    if (!m_Socket) return;
-    m_Socket->disconnect();
-    CloseLingering(std::move(m_Socket));
+    if (m_Connection) m_Lingering.Add(std::move(m_Connection));
 }
 
-void cQtDataSocket::Read() {
-    if (m_Failed) return;
-    const QByteArray chunk = m_Socket->read(kBytesPerTurn);
-    const std::string_view bytes(chunk.constData(), static_cast<std::size_t>(chunk.size()));
+bool cQtDataSocket::ReadTurn() {
+    if (!m_Connection || m_Ended) return false;
+    std::string bytes;
+    const auto read = m_Connection->Read(bytes);
+    if (read == cTcpConnection::eRead::Nothing) return false;
+    if (read == cTcpConnection::eRead::Bytes) {
+        Take(bytes);
+        return true;
+    }
+    m_Ended = true;
+    const auto& notice = read == cTcpConnection::eRead::End ? OnClosed : OnError;
+    if (notice) notice();
+    return false;
+}
+
+void cQtDataSocket::Take(const std::string& bytes) {
     CountLine(bytes);
-    if (m_LineBytes > kMaxLine) return Fail();
+    if (m_LineBytes > kMaxLine) {
+        m_Ended = true;
+        m_Connection->StopReading();
+        if (OnError) OnError();
+        return;
+    }
     m_Received += bytes;
     if (OnDataArrival) OnDataArrival();
+}
+
+void cQtDataSocket::DeliverArrived() {
+    if (!m_Connection) return;
+    const std::size_t arrived = std::min(m_Connection->Arrived(), kMostAtOnce);
+    for (std::size_t read = 0; read < arrived && ReadTurn();) read += cTcpConnection::kBytesPerTurn;
 }
 
 void cQtDataSocket::CountLine(std::string_view chunk) {
@@ -51,23 +62,14 @@ void cQtDataSocket::CountLine(std::string_view chunk) {
         lineFeed == std::string_view::npos ? m_LineBytes + chunk.size() : chunk.size() - lineFeed - 1;
 }
 
-void cQtDataSocket::Fail() {
-    if (std::exchange(m_Failed, true)) return;
-    if (OnError) OnError();
-}
-
 std::string cQtDataSocket::Fetch() {
     return std::exchange(m_Received, {});
 }
 
 void cQtDataSocket::Send(std::string_view bytes) {
-    if (!m_Socket || m_Socket->state() != QAbstractSocket::ConnectedState) {
-        throw cFailure(eFailure::Device, "Nothing can be sent: the socket is not connected");
+    if (!m_Connection || !m_Connection->Send(bytes)) {
+        throw cFailure(eFailure::Device, "Nothing can be sent: the peer takes no more");
     }
-    if (m_Socket->write(bytes.data(), static_cast<qint64>(bytes.size())) < 0) {
-        throw cFailure(eFailure::Device, "Nothing can be sent: " + FromQString(m_Socket->errorString()));
-    }
-    m_Socket->flush();
 }
 
 }  // namespace vigrel

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <string>
 
-#include "adapters/qt/accepted_socket.h"
+#include "adapters/qt/linger.h"
+#include "adapters/qt/tcp_connection.h"
 #include "platform/sockets.h"
 
 namespace vigrel {
@@ -14,28 +16,34 @@ class cQtDataSocket : public cDataSocket {
   public:
     // A stream without a line end that has grown to more than this is no sender's.
     static constexpr std::size_t kMaxLine = 1'048'576;
+    // Most bytes that DeliverArrived delivers, some hundred alarms: nothing else is served meanwhile.
+    static constexpr std::size_t kMostAtOnce = 65'536;
 
     // The listener's requests are what Accept takes over; it must outlive this socket.
     explicit cQtDataSocket(cQtListener& listener) : m_Listener(listener) {}
-    ~cQtDataSocket() override;
 
-    int State() const override { return m_Socket ? kOpen : 0; }
+    int State() const override { return m_Connection ? kOpen : 0; }
     void Close() override;
     void Accept(std::int32_t requestId) override;
+    void DeliverArrived() override;
     std::string Fetch() override;
     void Send(std::string_view bytes) override;
 
+    std::size_t Lingering() const { return m_Lingering.Count(); }
+
   private:
     static constexpr int kOpen = 7;
-    void Read();
-    void Fail();
+    // Reads a turn's bytes and delivers them, or the end; false when there was nothing.
+    bool ReadTurn();
+    void Take(const std::string& bytes);
     void CountLine(std::string_view chunk);
 
     cQtListener& m_Listener;
-    SocketPtr m_Socket;
+    std::unique_ptr<cTcpConnection> m_Connection;
+    cLingeringConnections m_Lingering;
     std::string m_Received;       // and not yet fetched
     std::size_t m_LineBytes = 0;  // since the last line feed
-    bool m_Failed = false;
+    bool m_Ended = false;         // by the peer, or by an error
 };
 
 }  // namespace vigrel

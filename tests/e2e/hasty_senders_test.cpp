@@ -1,0 +1,181 @@
+// Senders that don't wait, and peers that don't mean well: the real program over real sockets.
+
+#include <arpa/inet.h>
+#include <gtest/gtest.h>
+#include <netinet/in.h>
+#include <signal.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <chrono>
+#include <thread>
+
+#include "e2e/station.h"
+#include "link/frame.h"
+
+namespace vigrel {
+namespace {
+
+using testing::cStation;
+using Clock = std::chrono::steady_clock;
+
+constexpr const char* kNoLimit = "[General]\r\nMaxEvents=0\r\n";
+
+std::string Burst(int count) {
+    std::string frames;
+    for (int i = 0; i < count; ++i) {
+        frames += MakeFrame("PLC1", "S1|||alarm " + std::to_string(i) + "||Technical");
+    }
+    return frames;
+}
+
+// One connection of a sender that reads nothing unless it is told to.
+class cSender {
+  public:
+    explicit cSender(int port) : m_Socket(socket(AF_INET, SOCK_STREAM, 0)) {
+        sockaddr_in address{};
+        address.sin_family = AF_INET;
+        address.sin_port = htons(static_cast<std::uint16_t>(port));
+        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        m_Connected = connect(m_Socket, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
+    }
+    ~cSender() { Leave(); }
+    cSender(const cSender&) = delete;
+    cSender& operator=(const cSender&) = delete;
+    bool Connected() const { return m_Connected; }
+    void Send(const std::string& bytes) const {
+        for (std::size_t sent = 0; sent < bytes.size();) {
+            const ssize_t count = send(m_Socket, bytes.data() + sent, bytes.size() - sent, MSG_NOSIGNAL);
+            ASSERT_GT(count, 0);
+            sent += static_cast<std::size_t>(count);
+        }
+    }
+    void EndSending() const { shutdown(m_Socket, SHUT_WR); }
+    void Leave() {
+        if (m_Socket >= 0) close(m_Socket);
+        m_Socket = -1;
+    }
+    // Everything until the station ends the connection, or nothing comes for ten seconds.
+    std::string ReadToTheEnd() const {
+        const timeval patience{10, 0};
+        setsockopt(m_Socket, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
+        std::string received;
+        char chunk[4096];
+        for (ssize_t count = 1; count > 0;) {
+            count = recv(m_Socket, chunk, sizeof chunk, 0);
+            if (count > 0) received.append(chunk, static_cast<std::size_t>(count));
+        }
+        return received;
+    }
+
+  private:
+    int m_Socket;
+    bool m_Connected = false;
+};
+
+// In memory, where an alarm is stored in a tenth of the time that a disk takes.
+class HastySenders : public ::testing::Test {
+  protected:
+    HastySenders() { setenv("TMPDIR", "/dev/shm", 1); }
+    ~HastySenders() override { unsetenv("TMPDIR"); }
+};
+
+// Waits until the station has so many alarms on disk, and a little longer for one too many.
+std::size_t StoredAlarms(const cStation& station, std::size_t expected) {
+    const auto end = Clock::now() + std::chrono::seconds(60);
+    while (station.AlarmFiles().size() < expected && Clock::now() < end) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    }
+    std::this_thread::sleep_for(std::chrono::milliseconds(200));
+    return station.AlarmFiles().size();
+}
+
+TEST_F(HastySenders, ABurstThatIsSentAndClosedAtOnceIsStoredWhole) {
+    std::size_t expected = 0;
+    cStation station;
+    station.Configure(kNoLimit);
+    ASSERT_TRUE(station.Start()) << station.StandardError();
+    for (const int count : {100, 500, 1000, 2000}) {
+        cSender sender(station.m_Port);
+        sender.Send(Burst(count));
+        sender.Leave();
+        expected += static_cast<std::size_t>(count);
+        EXPECT_EQ(StoredAlarms(station, expected), expected) << count;
+    }
+    EXPECT_EQ(station.Stop(SIGTERM), 0);
+}
+
+TEST_F(HastySenders, OneThatEndedItsSendingGetsEveryReply) {
+    cStation station;
+    station.Configure(kNoLimit);
+    ASSERT_TRUE(station.Start()) << station.StandardError();
+    const cSender sender(station.m_Port);
+    sender.Send(Burst(500));
+    sender.EndSending();
+    std::string expected;
+    for (int i = 0; i < 500; ++i) expected += std::string(kPositive) + std::string(kReplyEnd);
+    EXPECT_EQ(sender.ReadToTheEnd(), expected);
+    EXPECT_EQ(station.AlarmFiles().size(), 500u);
+}
+
+TEST_F(HastySenders, OneThatLeavesWhileItsBurstIsWorkedOnLosesNothing) {
+    cStation station;
+    station.Configure(kNoLimit);
+    ASSERT_TRUE(station.Start()) << station.StandardError();
+    cSender sender(station.m_Port);
+    sender.Send(Burst(1000));
+    // Some replies have come and lie unread: the close that follows is a reset.
+    ASSERT_GT(StoredAlarms(station, 50), 0u);
+    sender.Leave();
+    EXPECT_EQ(StoredAlarms(station, 1000), 1000u);
+}
+
+TEST_F(HastySenders, AShortCallIsStoredThoughTheNextOneComesAtOnce) {
+    cStation station;
+    station.Configure(kNoLimit);
+    ASSERT_TRUE(station.Start()) << station.StandardError();
+    for (int i = 0; i < 200; ++i) {
+        cSender sender(station.m_Port);
+        sender.Send(Burst(3));
+        sender.Leave();
+    }
+    EXPECT_EQ(StoredAlarms(station, 600), 600u);
+}
+
+// Two thousand silent connections a second, each of which replaces the one before.
+TEST_F(HastySenders, AStormOfConnectionsKeepsNoAlarmFromTheDisk) {
+    cStation station;
+    station.Configure(kNoLimit);
+    ASSERT_TRUE(station.Start()) << station.StandardError();
+    std::atomic<bool> over = false;
+    std::thread storm([&] {
+        while (!over) {
+            const cSender knock(station.m_Port);
+            std::this_thread::sleep_for(std::chrono::microseconds(300));
+        }
+    });
+    for (int i = 0; i < 100; ++i) {
+        cSender sender(station.m_Port);
+        sender.Send(Burst(1));
+        sender.Leave();
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+    EXPECT_EQ(StoredAlarms(station, 100), 100u);
+    over = true;
+    storm.join();
+    EXPECT_EQ(station.Send({"--t0", "after"}).exitCode, 0);
+}
+
+TEST_F(HastySenders, AStationAtOneAddressIsReachedThereAlone) {
+    cStation station;
+    station.Configure("[General]\r\n");
+    station.m_Address = "127.0.0.2";
+    ASSERT_TRUE(station.Start()) << station.StandardError();
+    EXPECT_FALSE(cSender(station.m_Port).Connected());
+    EXPECT_EQ(station.Send({"--host", "127.0.0.2", "--t0", "alarm"}).exitCode, 0);
+    EXPECT_TRUE(station.WaitForLog("T10017 127.0.0.2 " + std::to_string(station.m_Port) + " T10018"));
+}
+
+}  // namespace
+}  // namespace vigrel
