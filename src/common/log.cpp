@@ -1,5 +1,7 @@
 #include "common/log.h"
 
+#include <utility>
+
 #include "common/code_page.h"
 #include "common/dates.h"
 #include "common/failure.h"
@@ -12,6 +14,31 @@ cLog::cLog(cFiles& files, const cClock& clock, const cTexts& texts, std::string 
     : m_Files(files), m_Clock(clock), m_Texts(texts), m_Folder(std::move(applicationPath) + "LogFiles\\") {}
 
 void cLog::WriteLog(std::string_view text) {
+    WriteRepeats();
+    m_Refusal.clear();
+    Append(text);
+}
+
+void cLog::WriteRefusal(std::string_view text) {
+    if (text != m_Refusal) {
+        WriteRepeats();
+        m_Refusal = text;
+        m_Written = 0;
+    }
+    if (m_Written == kRefusalsInFull) {
+        ++m_Counted;
+    } else {
+        ++m_Written;
+        Append(text);
+    }
+}
+
+void cLog::WriteRepeats() {
+    const std::int64_t count = std::exchange(m_Counted, 0);
+    if (count > 0) Append("... " + std::to_string(count) + " " + m_Texts.GetText(10048));
+}
+
+void cLog::Append(std::string_view text) {
     SkipFailure([&] {
         const cLocaleForms forms;
         const std::string name = FormatDateTime(m_Clock.Now(), "yyyymmdd", forms) + ".Log";

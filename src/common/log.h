@@ -18,18 +18,30 @@ class cLog {
 
     // Appends one line. Never fails: a line that can't be written is lost.
     void WriteLog(std::string_view text);
+    // Appends a line that any peer can bring about as often as it likes. The first equal ones in a row are
+    // written, the others counted.
+    void WriteRefusal(std::string_view text);
+    // Writes how many were counted since the last call. Happens also when anything else is written.
+    void WriteRepeats();
     // Removes the logs whose age in days, by years of 365 and months of 30 days, exceeds keepForDays. Throws
     // cFailure when a file can't be deleted.
     void CleanLogFiles(std::string_view mask, std::int16_t keepForDays);
 
   private:
+    void Append(std::string_view text);
     void RemoveLog(const std::string& path);
 
     cFiles& m_Files;
     const cClock& m_Clock;
     const cTexts& m_Texts;
     std::string m_Folder;
+    std::string m_Refusal;       // the last line, when it was a refusal
+    std::int64_t m_Written = 0;  // times that it was written in a row
+    std::int64_t m_Counted = 0;  // times that it was only counted
 };
+
+// A sender that is set up wrongly repeats its frame; one that floods the log repeats it without end.
+inline constexpr std::int64_t kRefusalsInFull = 10;
 
 inline constexpr std::string_view kLogMask = "????????.log";
 

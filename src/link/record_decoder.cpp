@@ -62,6 +62,13 @@ DateTime EventTime(std::string_view text, DateTime now) {
     return time == 0 || text.empty() ? now - DateOf(now) : time;
 }
 
+// A name as a log line shows it. A peer can send names of any length; what is cut is told.
+std::string LoggedName(const std::string& name) {
+    constexpr std::size_t kMost = 100;
+    if (name.size() <= kMost) return name;
+    return name.substr(0, kMost) + "... (+" + std::to_string(name.size() - kMost) + ")";
+}
+
 }  // namespace
 
 void cRecordDecoder::ProcessRecord(const std::string& line) {
@@ -74,9 +81,14 @@ void cRecordDecoder::ProcessRecord(const std::string& line) {
         const std::string sender = frame.alarm->m_Sender;
         bool known = true;
         SkipFailure([&] { known = m_Services.senders.Heard(frame.alarm, frame.text, frame.accepted); });
-        if (!known) m_Services.log.WriteLog(sender + m_Services.texts.GetText(10029));
+        if (!known) LogUnknown(frame, sender);
     }
     m_Services.SendReply(std::string(frame.accepted ? kPositive : kNegative) + std::string(kReplyEnd));
+}
+
+void cRecordDecoder::LogUnknown(const cFrame& frame, const std::string& sender) {
+    const std::string line = LoggedName(sender) + m_Services.texts.GetText(10029);
+    frame.accepted ? m_Services.log.WriteLog(line) : m_Services.log.WriteRefusal(line);
 }
 
 void cRecordDecoder::ReadFrame(cFrame& frame, const std::string& line) const {
@@ -96,8 +108,8 @@ void cRecordDecoder::TakeRecord(cFrame& frame) {
     SkipFailure([&] { ReplaceText(frame.text, std::string(1, kLineBreakInText), "\n"); });
     if (frame.text.empty()) return;
     if (frame.kind == StatusMessage) {
-        m_Services.log.WriteLog(frame.alarm->m_Sender + " " + m_Services.texts.GetText(10042) + " -> " +
-                                SubField(frame.text, 2));
+        m_Services.log.WriteLog(LoggedName(frame.alarm->m_Sender) + " " + m_Services.texts.GetText(10042) +
+                                " -> " + SubField(frame.text, 2));
     } else {
         DecodeAlarm(frame);
     }
@@ -115,7 +127,7 @@ void cRecordDecoder::DecodeAlarm(const cFrame& frame) {
     event.m_TimeStampFromSCADA = date + time;
     event.m_Status = frame.kind;
     SkipFailure([&] { m_Services.ProcessAlarm(frame.alarm); });
-    m_Services.log.WriteLog(frame.alarm->m_Sender + " " + m_Services.texts.GetText(10030) + " " +
+    m_Services.log.WriteLog(LoggedName(frame.alarm->m_Sender) + " " + m_Services.texts.GetText(10030) + " " +
                             frame.alarm->SysLogText());
 }
 

@@ -35,6 +35,7 @@ class cRecordDecoder {
         std::int16_t kind = -1;
         bool accepted = false;
     };
+    void LogUnknown(const cFrame& frame, const std::string& sender);
     void ReadFrame(cFrame& frame, const std::string& line) const;
     void TakeRecord(cFrame& frame);
     void DecodeAlarm(const cFrame& frame);

@@ -18,7 +18,7 @@ struct cStation {
     cStation() {
         files.PutFolder(kLogs);
         files.Put(kFolder + "VigrelReceiver.INI", "[General]\r\nLanguage=046\r\n");
-        files.Put(kFolder + "Vigrel_Texts.046", "141=Log file deleted (\r\n");
+        files.Put(kFolder + "Vigrel_Texts.046", "141=Log file deleted (\r\n10048=more like this\r\n");
         texts.LoadTexts();
     }
     std::string Today() const { return files.ReadFile(kLogs + "20260315.Log"); }
@@ -59,6 +59,54 @@ TEST(WriteLog, TheLastMomentOfADayIsThatDays) {
     station.log.WriteLog("late");
     EXPECT_EQ(station.Today(), "23:59:59 late\r\n");
     EXPECT_EQ(station.files.AllPaths()[0], kLogs + "20260315.Log");
+}
+
+// Ten refusals, as a sender that is set up wrongly brings them, and what stands in the log behind them.
+std::string Refusals(cStation& station, int count, const std::string& text = "no") {
+    for (int i = 0; i < count; ++i) station.log.WriteRefusal(text);
+    return station.Today();
+}
+
+std::string Lines(int count, const std::string& text = "no") {
+    std::string lines;
+    for (int i = 0; i < count; ++i) lines += "12:30:15 " + text + "\r\n";
+    return lines;
+}
+
+TEST(WriteRefusal, TheFirstEqualOnesInARowAreWritten) {
+    cStation station;
+    EXPECT_EQ(Refusals(station, 10), Lines(10));
+}
+
+TEST(WriteRefusal, FurtherOnesAreCountedUntilSomethingElseIsWritten) {
+    cStation station;
+    EXPECT_EQ(Refusals(station, 2423), Lines(10));
+    station.log.WriteLog("other");
+    EXPECT_EQ(station.Today(), Lines(10) + Lines(1, "... 2413 more like this") + Lines(1, "other"));
+    station.log.WriteLog("no");
+    EXPECT_EQ(station.Today(),
+              Lines(10) + Lines(1, "... 2413 more like this") + Lines(1, "other") + Lines(1));
+}
+
+TEST(WriteRefusal, AnotherRefusalEndsTheRow) {
+    cStation station;
+    Refusals(station, 12);
+    EXPECT_EQ(Refusals(station, 1, "never"),
+              Lines(10) + Lines(1, "... 2 more like this") + Lines(1, "never"));
+    Refusals(station, 9, "never");
+    EXPECT_EQ(Refusals(station, 1),
+              Lines(10) + Lines(1, "... 2 more like this") + Lines(10, "never") + Lines(1));
+}
+
+TEST(WriteRefusal, TheCountIsWrittenAtIntervalsAndTheRowGoesOn) {
+    cStation station;
+    Refusals(station, 15);
+    station.log.WriteRepeats();
+    station.log.WriteRepeats();
+    EXPECT_EQ(Refusals(station, 3), Lines(10) + Lines(1, "... 5 more like this"));
+    station.log.WriteRepeats();
+    EXPECT_EQ(station.Today(),
+              Lines(10) + Lines(1, "... 5 more like this") + Lines(1, "... 3 more like this"));
 }
 
 TEST(WriteLog, EachDayHasItsFile) {

@@ -25,7 +25,7 @@ const std::string kNegativeReply =
 class RecordDecoder : public ::testing::Test, public cFakeStation {
   protected:
     RecordDecoder() {
-        LoadTexts({10028, 10029, 10030, 10031, 10032, 10042});
+        LoadTexts({10028, 10029, 10030, 10031, 10032, 10042, 10048});
         ini.PutIniString("Senders", "Alpha", "5");
         senders.ReadSenders();
     }
@@ -302,6 +302,44 @@ TEST_F(RecordDecoder, AFailingIntakeStillGetsTheAlarmLoggedAndAnswered) {
     failing.ProcessRecord(frame);
     EXPECT_EQ(replies, kPositiveReply);
     EXPECT_EQ(Log(), "Alpha T10030 Active - text (///)\n");
+}
+
+// --- the log is nobody's weapon
+
+TEST_F(RecordDecoder, ANameIsLoggedInFullUpToAHundredCharacters) {
+    const std::string name(100, 'n');
+    Frame(name, "S3||hello");
+    EXPECT_EQ(Log(), name + " T10042 -> hello\n" + name + "T10029\n");
+}
+
+TEST_F(RecordDecoder, ALongerNameIsCutInTheLogAndWholeInTheAlarm) {
+    const std::string name(30'000, 'n');
+    const std::string cut = std::string(100, 'n') + "... (+29900)";
+    Frame(name, "S1||text");
+    EXPECT_EQ(alarms.back()->m_Sender, name);
+    Frame(name, "S3||hello");
+    Reply("\x02" + name + "\xFFS9\xFF" + "00\x03");
+    EXPECT_EQ(Log(), cut + " T10030 Active - text (///)\n" + cut + "T10029\n" + cut + " T10042 -> hello\n" +
+                         cut + "T10029\n" + cut + "T10029\n");
+}
+
+TEST_F(RecordDecoder, EqualRefusalsInARowAreCounted) {
+    const std::string refused =
+        "\x02PLC9\xFFS9\xFF"
+        "00\x03";
+    for (int i = 0; i < 500; ++i) EXPECT_EQ(Reply(refused), kNegativeReply);
+    std::string lines;
+    for (int i = 0; i < 10; ++i) lines += "PLC9T10029\n";
+    EXPECT_EQ(Log(), lines);
+    log.WriteRepeats();
+    EXPECT_EQ(Log(), lines + "... 490 T10048\n");
+}
+
+TEST_F(RecordDecoder, WhatIsAcceptedIsLoggedEachTime) {
+    for (int i = 0; i < 50; ++i) Frame("PLC9", "S0");
+    std::string lines;
+    for (int i = 0; i < 50; ++i) lines += "PLC9T10029\n";
+    EXPECT_EQ(Log(), lines);
 }
 
 }  // namespace
