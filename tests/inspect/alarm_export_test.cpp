@@ -172,5 +172,21 @@ TEST_F(AlarmExport, TheFolderIsTheApplicationFolderOrItsAlarms) {
     EXPECT_EQ(ExportAlarms(m_Files, "/other/Alarms/", {}, [](std::size_t, std::size_t) {}).table, kHeader);
 }
 
+TEST_F(AlarmExport, OnATerminalControlCharactersAreEscaped) {
+    Put("0000001", 1,
+        "\x1B[2J\x07\x9B"
+        "31m",
+        "PLC\n1");
+    const std::string file = Export().table;
+    EXPECT_NE(file.find("\"\x1B[2J\x07"), std::string::npos) << "a file has the texts as they are";
+    const std::string shown = Export({.filter = {}, .exact = false, .terminal = true}).table;
+    EXPECT_NE(shown.find("\"\\x1B[2J\\x07"), std::string::npos) << shown;
+    EXPECT_NE(shown.find("\"PLC\\n1\""), std::string::npos) << shown;
+    for (const char c : shown) {
+        const bool plain = static_cast<unsigned char>(c) >= 0x20 && c != 0x7F;
+        EXPECT_TRUE(plain || c == '\r' || c == '\n') << static_cast<int>(c);
+    }
+}
+
 }  // namespace
 }  // namespace vigrel

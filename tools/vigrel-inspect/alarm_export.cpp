@@ -10,6 +10,7 @@
 #include "common/failure.h"
 #include "common/ini.h"
 #include "common/numbers.h"
+#include "common/printable.h"
 
 namespace vigrel {
 namespace {
@@ -41,17 +42,18 @@ bool LooksLikeFormula(std::string_view text) {
 
 class cRowWriter {
   public:
-    explicit cRowWriter(bool exact) : m_Exact(exact) {}
+    explicit cRowWriter(const cExportWish& wish) : m_Wish(wish) {}
     void Cell(std::string_view text) {
         m_Line += m_Line.empty() ? "\"" : ",\"";
-        if (!m_Exact && LooksLikeFormula(text)) m_Line += '\'';
-        for (const char c : CodePageToUtf8(text)) m_Line.append(c == '"' ? 2 : 1, c);
+        if (!m_Wish.exact && LooksLikeFormula(text)) m_Line += '\'';
+        const std::string shown = m_Wish.terminal ? Printable(text) : CodePageToUtf8(text);
+        for (const char c : shown) m_Line.append(c == '"' ? 2 : 1, c);
         m_Line += '"';
     }
     std::string Line() const { return m_Line + "\r\n"; }
 
   private:
-    bool m_Exact;
+    const cExportWish& m_Wish;
     std::string m_Line;
 };
 
@@ -60,8 +62,8 @@ std::string DateCell(DateTime value) {
 }
 
 std::string RowLine(const std::string& file, const cVigrelRecieverAlarm& alarm, const std::string& problem,
-                    bool exact) {
-    cRowWriter row(exact);
+                    const cExportWish& wish) {
+    cRowWriter row(wish);
     const std::string state = StateName(alarm.m_Alarm.m_Status);
     for (const std::string& text :
          {file, DateCell(alarm.m_CreatedTime), alarm.m_Sender,
@@ -135,7 +137,7 @@ cExportResult ExportAlarms(const cFileReader& files, const std::string& alarmFol
         const std::string problem = ReadAlarm(files, alarmFolder + name, alarm);
         result.damaged += problem.empty() ? 0 : 1;
         if (!problem.empty() || wish.filter.Wants(alarm)) {
-            rows.push_back({alarm.m_CreatedTime, RowLine(name, alarm, problem, wish.exact)});
+            rows.push_back({alarm.m_CreatedTime, RowLine(name, alarm, problem, wish)});
         }
         onProgress(++result.files, names.size());
     }

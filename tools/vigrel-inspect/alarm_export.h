@@ -12,7 +12,8 @@ namespace vigrel {
 // by CR LF, one header line, oldest alarm first.
 struct cExportWish {
     cAlarmFilter filter;
-    bool exact = false;  // leave cells alone that a spreadsheet would take for a formula
+    bool exact = false;     // leave cells alone that a spreadsheet would take for a formula
+    bool terminal = false;  // escape control characters, lest a sender steers the terminal
 };
 
 struct cExportResult {

@@ -43,7 +43,8 @@ int Export(const cInspectOptions& options) {
         if (!options.quiet) progress.Show(done, all);
     };
     const std::string folder = FindAlarmFolder(files, options.paths[0]);
-    const cExportResult result = ExportAlarms(files, folder, {options.filter, options.exact}, show);
+    const cExportResult result =
+        ExportAlarms(files, folder, {options.filter, options.exact, isatty(STDOUT_FILENO) != 0}, show);
     Print((options.mark ? "\xEF\xBB\xBF" : "") + result.table);
     if (!options.quiet) progress.Finish(result);
     return result.damaged == 0 ? kFits : kDoesNotFit;

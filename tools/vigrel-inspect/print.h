@@ -3,15 +3,12 @@
 #include <string>
 #include <vector>
 
+#include "common/printable.h"
 #include "vigrel-inspect/inspection.h"
 
 namespace vigrel {
 
 // Output is UTF-8.
-
-// A text of the code page as it can be shown on a terminal: control characters become escapes like "\n" and
-// "\x1B", so that no file can steer the terminal.
-std::string Printable(std::string_view text);
 
 // A text of the code page as a JSON string, quotes included.
 std::string JsonString(std::string_view text);

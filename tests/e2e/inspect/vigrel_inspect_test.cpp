@@ -1,17 +1,22 @@
 // The real program, run as a user runs it, on files of a folder of its own.
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 
+#include "common/binary.h"
 #include "common/numbers.h"
+#include "events/vigrel_reciever_alarm.h"
 #include "inspect/alarm_samples.h"
+#include "support/fake_clock.h"
 #include "support/samples.h"
 
 namespace vigrel {
@@ -144,6 +149,35 @@ TEST_F(VigrelInspect, ExportsEveryAlarmOfALargeFolder) {
     EXPECT_NE(at, std::string::npos) << "an alarm is missing, or out of its order";
     EXPECT_TRUE(run.errors.ends_with("2500 files read, 2500 alarms exported, 0 files damaged\n"))
         << run.errors;
+}
+
+// What a terminal gets to see: the program's output through a pseudo terminal.
+std::string OnATerminal(const std::string& command) {
+    const int terminal = posix_openpt(O_RDWR | O_NOCTTY);
+    EXPECT_TRUE(terminal >= 0 && grantpt(terminal) == 0 && unlockpt(terminal) == 0);
+    const std::string device = ptsname(terminal);
+    const int keepOpen = open(device.c_str(), O_RDWR | O_NOCTTY);
+    std::system((command + " >" + device + " 2>/dev/null").c_str());
+    std::string shown(65536, '\0');
+    const ssize_t count = read(terminal, shown.data(), shown.size());
+    shown.resize(static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
+    close(keepOpen);
+    close(terminal);
+    return shown;
+}
+
+TEST_F(VigrelInspect, ATableOnATerminalSteersItByNoAlarm) {
+    const testing::cFakeClock clock;
+    cVigrelRecieverAlarm alarm(clock);
+    alarm.m_Alarm.SetCondition(0, "\x1B]0;owned\x07");
+    cBinaryWriter bytes;
+    alarm.WriteToDisk(bytes);
+    Put("App/Alarms/A0000001.alm", bytes.Bytes());
+    const std::string shown =
+        OnATerminal("cd '" + m_Folder.string() + "' && " VIGREL_INSPECT " App --alarms --csv");
+    EXPECT_NE(shown.find("\\x1B]0;owned\\x07"), std::string::npos) << shown;
+    EXPECT_EQ(shown.find('\x1B'), std::string::npos);
+    EXPECT_NE(Run("App --alarms --csv").output.find('\x1B'), std::string::npos);
 }
 
 }  // namespace

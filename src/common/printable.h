@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace vigrel {
+
+// A text of the code page as it can be shown on a terminal, in UTF-8: control characters become escapes like
+// "\n" and
+// "\x1B", so that neither a file nor a peer can steer the terminal.
+std::string Printable(std::string_view text);
+
+}  // namespace vigrel
