@@ -14,6 +14,7 @@
 #include "adapters/linux/linux_printer_ports.h"
 #include "adapters/linux/local_running_apps.h"
 #include "adapters/linux/standard_random.h"
+#include "adapters/linux/stream_status.h"
 #include "adapters/linux/system_clock.h"
 #include "adapters/qt/qt_data_socket.h"
 #include "adapters/qt/qt_listener.h"
@@ -23,8 +24,8 @@
 #include "adapters/qt/qt_wave_device.h"
 #include "adapters/qt/stop_signals.h"
 #include "adapters/qt/tone_player.h"
-#include "common/code_page.h"
 #include "common/failure.h"
+#include "common/printable.h"
 #include "common/settings.h"
 #include "core/first_start.h"
 #include "core/vigrel_receiver_main.h"
@@ -124,18 +125,20 @@ int Run(int argc, char** argv) {
     cHidSignalLight signalLight(clock);
     cLocalRunningApps runningApps;
     cLinuxPrinterPorts printerPorts(ini, clock, [](const std::string& text) {
-        std::fprintf(stderr, "vigrel-receiver: %s\n", CodePageToUtf8(text).c_str());
+        std::fprintf(stderr, "vigrel-receiver: %s\n", Printable(text).c_str());
     });
     const cQtSettingStore settingStore;
     cQtOtherWindows otherWindows({files, clock, locale, screen, settingStore, windows}, applicationPath);
     otherWindows.OnLanguageChosen = [&] { firstStart.FollowChoice(); };
 
-    cVigrelReceiverMain receiver({files,          clock,       random,         locale,      singleInstance,
-                                  winsockConnect, winsockData, timerKeepAlive, timerPlay,   mainWindow.List(),
-                                  mainWindow,     mainWindow,  screen,         windows,     popups,
-                                  messageBox,     clipboard,   beeper,         waveDevice,  trayArea,
-                                  signalLight,    runningApps, printerPorts,   otherWindows},
-                                 applicationPath, commandLine);
+    cStreamStatus status(stderr, "vigrel-receiver");
+    cVigrelReceiverMain receiver(
+        {files,          clock,       random,         locale,       singleInstance,
+         winsockConnect, winsockData, timerKeepAlive, timerPlay,    mainWindow.List(),
+         mainWindow,     mainWindow,  screen,         windows,      popups,
+         messageBox,     clipboard,   beeper,         waveDevice,   trayArea,
+         signalLight,    runningApps, printerPorts,   otherWindows, status},
+        applicationPath, commandLine);
     ConnectWindow(mainWindow, receiver);
     cStopSignals stopSignals;
     bool loaded = false, stopped = false;

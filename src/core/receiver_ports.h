@@ -15,6 +15,7 @@
 #include "platform/signal_light.h"
 #include "platform/single_instance.h"
 #include "platform/sockets.h"
+#include "platform/status.h"
 #include "platform/suite_library.h"
 #include "platform/timer.h"
 #include "platform/wave_device.h"
@@ -35,6 +36,9 @@ class cOtherWindows {
     // Shown without blocking and painted at once.
     virtual void ShowAboutBox(const cTexts& texts) = 0;
     virtual void UnloadAboutBox() = 0;
+    // A text that stays in sight until the operator puts it away or another one takes its place; empty: none.
+    // Takes no keyboard.
+    virtual void ShowNotice(std::string_view text) = 0;
 };
 
 // Everything that the receiver needs of the machine. What is referred to outlives the receiver.
@@ -63,6 +67,7 @@ struct cReceiverPorts {
     cRunningApps& runningApps;
     cPrinterPorts& printerPorts;
     cOtherWindows& otherWindows;
+    cStatus& status;
 };
 
 }  // namespace vigrel

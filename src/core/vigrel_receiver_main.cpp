@@ -55,7 +55,9 @@ cVigrelReceiverMain::cVigrelReceiverMain(const cReceiverPorts& ports, std::strin
       m_Decoder({ports.clock, m_Log, m_Texts, m_Senders,
                  [this](const AlarmPtr& alarm) { m_Intake.ProcessAlarm(alarm); },
                  [this](std::string_view reply) { m_Link.SendReply(reply); }}),
-      m_Link(ports.winsockConnect, ports.winsockData, m_State) {
+      m_Link(ports.winsockConnect, ports.winsockData, m_State),
+      m_UnsavedNotice(
+          {m_Store, m_Texts, m_Settings, m_Forms, ports.clock, ports.otherWindows, ports.status}) {
     ConnectEvents();
 }
 
@@ -92,6 +94,7 @@ void cVigrelReceiverMain::Timer_KeepAlive_Tick() {
     m_Senders.Tick();
     DailyHousekeeping();
     m_Store.RetryUnsaved();
+    m_Log.WriteRepeats();
 }
 
 void cVigrelReceiverMain::DailyHousekeeping() {
@@ -107,6 +110,7 @@ void cVigrelReceiverMain::DailyHousekeeping() {
 }
 
 void cVigrelReceiverMain::Timer_Play_Tick() {
+    m_UnsavedNotice.Tick();
     if (m_Sound.TickSound()) m_Tray.TickTray();
 }
 

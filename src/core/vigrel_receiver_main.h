@@ -11,6 +11,7 @@
 #include "common/settings.h"
 #include "common/texts.h"
 #include "core/receiver_ports.h"
+#include "core/unsaved_notice.h"
 #include "events/acknowledgement.h"
 #include "events/alarm_list_view.h"
 #include "events/alarm_store.h"
@@ -121,6 +122,7 @@ class cVigrelReceiverMain {
     cSenderTable m_Senders;
     cRecordDecoder m_Decoder;
     cServerLink m_Link;
+    cUnsavedNotice m_UnsavedNotice;
 
     bool m_SplashShown = false;
     eWindowState m_LastWindowState = eWindowState::Normal;

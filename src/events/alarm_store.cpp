@@ -65,10 +65,12 @@ std::string cAlarmStore::Bytes(cVigrelRecieverAlarm& alarm) {
 }
 
 bool cAlarmStore::TrySave(cVigrelRecieverAlarm& alarm) {
-    return SkipFailure([&] {
+    const auto failure = CatchFailure([&] {
         const std::string bytes = Bytes(alarm);
         ReplaceOwnFile(m_Services.files, FileName(alarm.m_FileId), bytes);
     });
+    if (failure) m_UnsavedReason = failure->what();
+    return !failure;
 }
 
 void cAlarmStore::SaveAlarm(const AlarmPtr& alarm) {
@@ -81,7 +83,9 @@ void cAlarmStore::SaveAlarm(const AlarmPtr& alarm) {
     const bool saved = TrySave(*alarm);
     const auto unsaved = std::find(m_Unsaved.begin(), m_Unsaved.end(), alarm);
     if (saved && unsaved != m_Unsaved.end()) m_Unsaved.erase(unsaved);
-    if (!saved && unsaved == m_Unsaved.end()) m_Unsaved.push_back(alarm);
+    if (saved || unsaved != m_Unsaved.end()) return;
+    if (m_Unsaved.empty()) m_UnsavedSince = m_Services.clock.Now();
+    m_Unsaved.push_back(alarm);
 }
 
 void cAlarmStore::SaveTogether(const std::function<void()>& steps) {

@@ -54,6 +54,11 @@ class cAlarmStore {
     std::int32_t SweepOldAlarms();
     // Writes what could not be written before.
     void RetryUnsaved();
+    // The alarms whose file could not be written as they are now; since when there are any, and what stopped
+    // the last try.
+    std::size_t UnsavedCount() const { return m_Unsaved.size(); }
+    DateTime UnsavedSince() const { return m_UnsavedSince; }
+    const std::string& UnsavedReason() const { return m_UnsavedReason; }
 
     std::string FileName(std::int32_t fileId) const;
 
@@ -72,6 +77,8 @@ class cAlarmStore {
     cServices m_Services;
     std::string m_Folder;
     std::vector<AlarmPtr> m_Unsaved;
+    DateTime m_UnsavedSince = 0;
+    std::string m_UnsavedReason;
     bool m_Collecting = false;
     std::vector<AlarmPtr> m_Collected;
 };

@@ -37,13 +37,21 @@ class cFakeOtherWindows : public cOtherWindows {
     }
     void ShowAboutBox(const cTexts&) override { m_Transcript.Add("about box"); }
     void UnloadAboutBox() override { m_Transcript.Add("about box unloaded"); }
+    void ShowNotice(std::string_view text) override { m_Notices.emplace_back(text); }
 
     std::function<void()> m_OnLanguageWindow;
     std::function<void()> m_CloseDebugWindow;
     std::string m_Trace;
+    std::vector<std::string> m_Notices;
 
   private:
     cTranscript& m_Transcript;
+};
+
+class cFakeStatus : public cStatus {
+  public:
+    void SetStatus(std::string_view text) override { m_Texts.emplace_back(text); }
+    std::vector<std::string> m_Texts;
 };
 
 // A whole receiver over fakes. What a test changes before Load is found by the start.
@@ -57,7 +65,7 @@ class cFakeReceiver {
     // A text file "<id>=T<id>".
     void Texts(const std::string& language) {
         std::string content;
-        for (const auto& [first, last] : {std::pair{0, 1100}, {10000, 10050}}) {
+        for (const auto& [first, last] : {std::pair{0, 1100}, {10000, 10060}}) {
             for (int id = first; id < last; ++id)
                 content += std::to_string(id) + "=T" + std::to_string(id) + "\r\n";
         }
@@ -70,10 +78,11 @@ class cFakeReceiver {
     cVigrelReceiverMain& Make(const std::string& commandLine = "") {
         receiver.reset();
         receiver = std::make_unique<cVigrelReceiverMain>(
-            cReceiverPorts{files,      clock,          random,    locale,      singleInstance, listener,
-                           data,       timerKeepAlive, timerPlay, list,        mainWindow,     menus,
-                           screen,     windows,        popups,    messageBox,  clipboard,      beeper,
-                           waveDevice, trayArea,       light,     runningApps, printerPorts,   otherWindows},
+            cReceiverPorts{files,      clock,       random,         locale,       singleInstance,
+                           listener,   data,        timerKeepAlive, timerPlay,    list,
+                           mainWindow, menus,       screen,         windows,      popups,
+                           messageBox, clipboard,   beeper,         waveDevice,   trayArea,
+                           light,      runningApps, printerPorts,   otherWindows, status},
             "C:\\App\\", commandLine);
         mainWindow.OnResize = [this] { receiver->Form_Resize(); };
         mainWindow.OnActivate = [this] { receiver->Form_Activate(); };
@@ -124,6 +133,7 @@ class cFakeReceiver {
     cFakeRunningApps runningApps{&transcript};
     cFakePrinterPorts printerPorts;
     cFakeOtherWindows otherWindows{transcript};
+    cFakeStatus status;
     std::unique_ptr<cVigrelReceiverMain> receiver;
 };
 

@@ -31,6 +31,17 @@ void cQtOtherWindows::ShowAboutBox(const cTexts& texts) {
     m_About->repaint();
 }
 
+// The same window, so that one that the operator has moved aside stays there.
+void cQtOtherWindows::ShowNotice(std::string_view text) {
+    if (text.empty()) {
+        if (m_Notice) SkipFailure([&] { m_Notice->Close(); });
+        return;
+    }
+    if (!m_Notice) m_Notice = std::make_unique<cNoticeWindow>(m_Services.windows);
+    m_Notice->SetText(text);
+    m_Notice->Show();
+}
+
 void cQtOtherWindows::UnloadAboutBox() {
     if (m_About) SkipFailure([&] { m_About->Close(); });
 }

@@ -10,6 +10,7 @@
 #include "platform/setting_store.h"
 #include "receiver_ui/dialogs/about_window.h"
 #include "receiver_ui/dialogs/debug_window.h"
+#include "receiver_ui/dialogs/notice_window.h"
 #include "windows/open_windows.h"
 
 namespace vigrel {
@@ -32,6 +33,7 @@ class cQtOtherWindows : public cOtherWindows {
     void WriteTrace(std::string_view text, std::int16_t kind) override;
     void ShowAboutBox(const cTexts& texts) override;
     void UnloadAboutBox() override;
+    void ShowNotice(std::string_view text) override;
 
     // The language window was closed; what was chosen stands in the settings.
     std::function<void()> OnLanguageChosen;
@@ -43,6 +45,7 @@ class cQtOtherWindows : public cOtherWindows {
     std::unique_ptr<cProtocolTrace> m_Trace;
     std::unique_ptr<cDebugWindow> m_Debug;
     std::unique_ptr<cAboutWindow> m_About;
+    std::unique_ptr<cNoticeWindow> m_Notice;
 };
 
 }  // namespace vigrel

@@ -1,0 +1,40 @@
+#include "core/unsaved_notice.h"
+
+#include <string>
+
+#include "common/dates.h"
+
+namespace vigrel {
+namespace {
+
+constexpr double kStatusPause = 10.0 / 86400;  // days
+
+}  // namespace
+
+std::string cUnsavedNotice::Summary() const {
+    const cTexts& texts = m_Services.texts;
+    const auto format = [&](const std::string& pattern) {
+        return FormatDateTime(m_Services.store.UnsavedSince(), pattern, m_Services.forms);
+    };
+    return texts.GetText(10049) + " " + std::to_string(m_Services.store.UnsavedCount()) + ", " +
+           texts.GetText(10050) + " " + format(m_Services.settings.m_DateFormat) + " " +
+           format(m_Services.settings.m_TimeFormat);
+}
+
+void cUnsavedNotice::Tick() {
+    const std::size_t count = m_Services.store.UnsavedCount();
+    if (count != m_Shown) {
+        const std::string advice = m_Services.texts.GetText(10051);
+        m_Services.windows.ShowNotice(count == 0 ? "" : Summary() + "\r\n\r\n" + advice);
+        m_Shown = count;
+    }
+    const bool changes = count == 0 || m_Told == 0;
+    const double now = m_Services.clock.Steady();
+    if (count == m_Told || (!changes && now < m_ToldSteady + kStatusPause)) return;
+    m_Services.status.SetStatus(count == 0 ? m_Services.texts.GetText(10052)
+                                           : Summary() + " (" + m_Services.store.UnsavedReason() + ")");
+    m_Told = count;
+    m_ToldSteady = now;
+}
+
+}  // namespace vigrel

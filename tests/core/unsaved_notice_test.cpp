@@ -1,0 +1,103 @@
+// What the operator and the service manager are told while the disk refuses to take alarms.
+
+#include "core/unsaved_notice.h"
+
+#include <gtest/gtest.h>
+
+#include "link/frame.h"
+#include "support/fake_receiver.h"
+
+namespace vigrel {
+namespace {
+
+using cLines = std::vector<std::string>;
+
+class UnsavedNotice : public ::testing::Test, public testing::cFakeReceiver {
+  protected:
+    UnsavedNotice() {
+        Ini("DateFormat=yyyy-mm-dd\r\nTimeFormat=hh:nn:ss\r\n");
+        Start();
+        listener.Knock(1);
+    }
+    void FillDisk() { files.m_DiskFull = true; }
+    void FreeDisk() { files.m_DiskFull = false; }
+    void Send(int count = 1) {
+        for (int i = 0; i < count; ++i) data.Arrive(MakeFrame("PLC1", "S1|||alarm"));
+    }
+};
+
+TEST_F(UnsavedNotice, NothingIsToldWhileAllGoesWell) {
+    Send(3);
+    timerPlay.Tick();
+    EXPECT_EQ(otherWindows.m_Notices, cLines{});
+    EXPECT_EQ(status.m_Texts, cLines{});
+}
+
+TEST_F(UnsavedNotice, AnAlarmThatIsNotOnDiskIsToldAtTheNextTickAndAnsweredPositively) {
+    FillDisk();
+    Send(2);
+    EXPECT_EQ(data.TakeSent(),
+              "\x04"
+              "04\n\r\x04"
+              "04\n\r");
+    timerPlay.Tick();
+    timerPlay.Tick();
+    const std::string summary = "T10049 2, T10050 2026-03-15 12:30:15";
+    EXPECT_EQ(otherWindows.m_Notices, cLines{summary + "\r\n\r\nT10051"});
+    ASSERT_EQ(status.m_Texts.size(), 1u);
+    EXPECT_EQ(status.m_Texts[0].substr(0, summary.size() + 2), summary + " (");
+}
+
+TEST_F(UnsavedNotice, TheTimeIsThatOfTheFirstAlarmThatStayedOff) {
+    FillDisk();
+    Send();
+    clock.AddSeconds(60);
+    Send();
+    timerPlay.Tick();
+    EXPECT_NE(otherWindows.m_Notices.back().find("T10049 2, T10050 2026-03-15 12:30:15"), std::string::npos);
+}
+
+TEST_F(UnsavedNotice, TheWindowFollowsEachChangeAndTheStatusAtMostEveryTenSeconds) {
+    FillDisk();
+    for (int i = 0; i < 5; ++i) {
+        Send();
+        timerPlay.Tick();
+    }
+    EXPECT_EQ(otherWindows.m_Notices.size(), 5u);
+    EXPECT_EQ(status.m_Texts.size(), 1u);
+    clock.AddSeconds(11);
+    timerPlay.Tick();
+    EXPECT_EQ(otherWindows.m_Notices.size(), 5u);
+    ASSERT_EQ(status.m_Texts.size(), 2u);
+    EXPECT_NE(status.m_Texts[1].find("T10049 5,"), std::string::npos);
+}
+
+TEST_F(UnsavedNotice, ItGoesWhenAllAlarmsAreOnDisk) {
+    FillDisk();
+    Send(3);
+    timerPlay.Tick();
+    FreeDisk();
+    timerKeepAlive.Tick();
+    timerPlay.Tick();
+    EXPECT_EQ(AlarmFiles().size(), 3u);
+    EXPECT_EQ(otherWindows.m_Notices.back(), "");
+    EXPECT_EQ(status.m_Texts.back(), "T10052");
+    clock.AddSeconds(60);
+    timerPlay.Tick();
+    EXPECT_EQ(otherWindows.m_Notices.size(), 2u);
+    EXPECT_EQ(status.m_Texts.size(), 2u);
+}
+
+TEST_F(UnsavedNotice, AnAlarmThatTheLimitsRemoveIsMissedNoMore) {
+    FillDisk();
+    Send();
+    timerPlay.Tick();
+    timerKeepAlive.Tick();
+    clock.AddSeconds(40 * 86400);
+    timerKeepAlive.Tick();
+    timerPlay.Tick();
+    EXPECT_EQ(otherWindows.m_Notices.back(), "");
+}
+
+}  // namespace
+}  // namespace vigrel

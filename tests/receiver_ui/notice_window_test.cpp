@@ -1,0 +1,80 @@
+#include "receiver_ui/dialogs/notice_window.h"
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+
+#include "core/receiver_ports.h"
+#include "receiver_ui/dialogs/other_windows.h"
+#include "support/fake_clock.h"
+#include "support/fake_files.h"
+#include "support/fake_locale.h"
+#include "support/markup.h"
+#include "windows/desktop.h"
+
+namespace vigrel::testing {
+namespace {
+
+class NoticeWindow : public ::testing::Test {
+  protected:
+    class cNoSettings : public cSettingStore {
+        std::string GetSetting(std::string_view, std::string_view, std::string_view,
+                               std::string_view defaultValue) const override {
+            return std::string(defaultValue);
+        }
+    };
+    QWidget* Window() const {
+        for (QWidget* widget : QApplication::topLevelWidgets()) {
+            if (widget->objectName() == "Vigrel_Receiver_Notice" && widget->isVisible()) return widget;
+        }
+        return nullptr;
+    }
+
+    cFakeFiles m_Files;
+    const cFakeClock m_Clock;
+    const cFakeLocale m_Locale;
+    const cQtScreen m_Screen;
+    const cNoSettings m_Settings;
+    cOpenWindows m_Windows;
+    cQtOtherWindows m_Others{{m_Files, m_Clock, m_Locale, m_Screen, m_Settings, m_Windows}, "C:\\App\\"};
+};
+
+TEST_F(NoticeWindow, ShowsItsTextAboveTheOthersWithoutTheKeyboard) {
+    m_Others.ShowNotice("3 alarms\r\n\r\nmake room");
+    ASSERT_NE(Window(), nullptr);
+    EXPECT_EQ(Window()->findChild<QLabel*>("Label_Notice")->text(), "3 alarms\n\nmake room");
+    EXPECT_TRUE(Window()->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+    EXPECT_TRUE(Window()->testAttribute(Qt::WA_ShowWithoutActivating));
+    EXPECT_EQ(Window()->windowTitle(), "Vigrel Alarm Receiver");
+}
+
+TEST_F(NoticeWindow, IsOneWindowWhoseTextChangesAndWhichGoes) {
+    m_Others.ShowNotice("3 alarms");
+    const QWidget* first = Window();
+    m_Others.ShowNotice("4 alarms");
+    EXPECT_EQ(Window(), first);
+    EXPECT_EQ(Window()->findChild<QLabel*>("Label_Notice")->text(), "4 alarms");
+    EXPECT_EQ(m_Windows.OpenWindows().size(), 1u);
+    m_Others.ShowNotice("");
+    EXPECT_EQ(Window(), nullptr);
+    EXPECT_TRUE(m_Windows.OpenWindows().empty());
+    m_Others.ShowNotice("");
+}
+
+TEST_F(NoticeWindow, PutAwayItComesBackWithTheNextText) {
+    m_Others.ShowNotice("3 alarms");
+    QTest::keyClick(Window(), Qt::Key_Escape);
+    EXPECT_EQ(Window(), nullptr);
+    m_Others.ShowNotice("4 alarms");
+    EXPECT_NE(Window(), nullptr);
+}
+
+TEST_F(NoticeWindow, ItsTextIsPlain) {
+    for (const char* text : kMarkup) {
+        m_Others.ShowNotice(text);
+        ExpectPlain(Window()->findChild<QLabel*>("Label_Notice"), QString(text));
+    }
+}
+
+}  // namespace
+}  // namespace vigrel::testing
