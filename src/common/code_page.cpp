@@ -104,6 +104,15 @@ std::string CodePageToUtf8(std::string_view text) {
     return out;
 }
 
+bool IsUtf8(std::string_view bytes) {
+    while (!bytes.empty()) {
+        const cDecoded decoded = Decode(bytes);
+        if (decoded.codePoint == kInvalid && decoded.length == 1) return false;
+        bytes.remove_prefix(decoded.length);
+    }
+    return true;
+}
+
 std::string Utf8ToCodePage(std::string_view utf8) {
     std::string out;
     out.reserve(utf8.size());

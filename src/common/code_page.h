@@ -16,6 +16,7 @@ char FromUnicode(char32_t codePoint);
 bool HasCharacter(char32_t codePoint);
 
 std::string CodePageToUtf8(std::string_view text);
+bool IsUtf8(std::string_view bytes);
 // What the code page lacks, and bytes that are no UTF-8, become "?".
 std::string Utf8ToCodePage(std::string_view utf8);
 

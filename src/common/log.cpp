@@ -6,6 +6,7 @@
 #include "common/dates.h"
 #include "common/failure.h"
 #include "common/numbers.h"
+#include "common/path_text.h"
 #include "common/text.h"
 
 namespace vigrel {
@@ -68,7 +69,7 @@ void cLog::CleanLogFiles(std::string_view mask, std::int16_t keepForDays) {
         if (age <= keepForDays) continue;
         const std::string path = m_Folder + stem + ".LOG";
         RemoveLog(path);
-        WriteLog(m_Texts.GetText(141) + " " + path + ")");
+        WriteLog(m_Texts.GetText(141) + " " + WithPathsInCodePage(path) + ")");
     }
 }
 

@@ -10,4 +10,7 @@ namespace vigrel {
 // "\x1B", so that neither a file nor a peer can steer the terminal.
 std::string Printable(std::string_view text);
 
+// The same of a text that may name paths (common/path_text.h), which come in their own script.
+std::string PrintablePath(std::string_view text);
+
 }  // namespace vigrel

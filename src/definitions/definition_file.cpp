@@ -5,6 +5,7 @@
 #include "common/failure.h"
 #include "common/file_procedures.h"
 #include "common/numbers.h"
+#include "common/path_text.h"
 
 namespace vigrel {
 namespace {
@@ -49,7 +50,7 @@ using eNote = cDefinitionNote::eKind;
 
 void Log(const cDefinitionServices& services, eNote kind, std::int32_t text, const std::string& rest) {
     const cDefinitionNote note{kind, services.texts.GetText(text) + rest};
-    services.log.WriteLog(note.line);
+    services.log.WriteLog(WithPathsInCodePage(note.line));
     if (services.m_OnNote) services.m_OnNote(note);
 }
 

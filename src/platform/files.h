@@ -26,6 +26,13 @@ class cFileReader {
     // Hidden names (with a leading dot) are not listed. An unreadable or missing folder is an empty list.
     virtual std::vector<std::string> ListFiles(std::string_view folder, std::string_view mask) const = 0;
 
+    // What else of a folder matches the mask: what is no ordinary file, is larger than any file of the
+    // system, or must not be read by us. Such an entry must not keep the others away.
+    struct cUnreadable {
+        std::string name, reason;
+    };
+    virtual std::vector<cUnreadable> ListUnreadable(std::string_view folder, std::string_view mask) const = 0;
+
     // Identifies the content of a file without reading it: changes whenever the file is replaced or written.
     struct cStamp {
         std::int64_t device = 0, inode = 0, size = -1, modifiedNs = 0;

@@ -11,7 +11,7 @@
 #include <exception>
 
 #include "adapters/qt/qt_text.h"
-#include "common/code_page.h"
+#include "common/path_text.h"
 #include "windows/plain_text.h"
 
 namespace vigrel {
@@ -102,7 +102,7 @@ bool cApplication::notify(QObject* receiver, QEvent* event) {
 }
 
 void cApplication::End(const std::string& failure) {
-    const std::string line = "Failure: " + CodePageToUtf8(failure) + "\n";
+    const std::string line = "Failure: " + WithPathsToUtf8(failure) + "\n";
     std::fputs(line.c_str(), stderr);
     // A failure while one is shown leaves it at that.
     if (!m_Failed) ShowFailure(failure);
@@ -114,7 +114,7 @@ void cApplication::End(const std::string& failure) {
 void cApplication::ShowFailure(const std::string& failure) {
     if (platformName() == "offscreen") return;
     const QString title = m_MessageTitle.empty() ? applicationDisplayName() : ToQString(m_MessageTitle);
-    cPlainMessageBox box(QMessageBox::Critical, title, ToQString(failure), QMessageBox::Ok);
+    cPlainMessageBox box(QMessageBox::Critical, title, WithPathsToQString(failure), QMessageBox::Ok);
     box.setObjectName("Vigrel_FailureBox");
     box.setInformativeText("The program ends.");
     box.setWindowFlag(Qt::WindowStaysOnTopHint);

@@ -32,7 +32,7 @@ eMessageAnswer cQtMessageBox::Show(std::string_view text, eMessageIcon icon, eMe
     cPlainMessageBox box(Owner());
     box.setObjectName("Vigrel_MessageBox");
     box.setWindowTitle(ToQString(m_Title));
-    box.setText(ToQString(text));
+    box.setText(WithPathsToQString(text));
     box.setIcon(IconOf(icon));
     box.setWindowModality(Qt::ApplicationModal);
     if (buttons == eMessageButtons::Ok) {

@@ -3,6 +3,7 @@
 #include <QPushButton>
 #include <QStatusBar>
 
+#include "common/path_text.h"
 #include "editor_ui/editor_bench.h"
 #include "support/samples.h"
 
@@ -96,12 +97,18 @@ TEST_F(DefinitionsWindow, AFileThatIsOpenComesToTheFront) {
     EXPECT_EQ(m_Window->CurrentPage(), m_Window->Pages()[0]);
 }
 
-TEST_F(DefinitionsWindow, ANameThatTheCodePageLacksIsRefused) {
+TEST_F(DefinitionsWindow, AFileMayBeNamedInAnyScript) {
     cSchedulePage& page = NewSchedule();
-    m_Prompts.m_Texts = {QString::fromUtf8("/app/日本.sch")};
-    EXPECT_FALSE(page.SaveAs());
-    EXPECT_TRUE(m_Prompts.m_Asked.contains("characters that file names here can't have"));
-    EXPECT_FALSE(m_Window->OpenFile(QString::fromUtf8("/app/日本.sch")));
+    const QString path = QString::fromUtf8("/app/日本 ä.sch");
+    m_Prompts.m_Texts = {path};
+    EXPECT_TRUE(page.SaveAs());
+    EXPECT_EQ(page.Path(), path);
+    EXPECT_EQ(page.Title(), QString::fromUtf8("日本 ä.sch"));
+    EXPECT_TRUE(m_Files.FileExists(PathText("/app/日本 ä.sch")));
+    EXPECT_EQ(Recent(), QStringList{path});
+    m_Files.Put(PathText("/app/Łódź.sch"), Sample("schedule.dat"));
+    EXPECT_TRUE(m_Window->OpenFile(QString::fromUtf8("/app/Łódź.sch")));
+    EXPECT_EQ(m_Window->CurrentPage()->Title(), QString::fromUtf8("Łódź.sch"));
 }
 
 TEST_F(DefinitionsWindow, AFailedSaveTellsWhyAndKeepsTheChanges) {

@@ -4,6 +4,7 @@
 
 #include "common/dates.h"
 #include "common/failure.h"
+#include "common/path_text.h"
 
 namespace vigrel {
 namespace {
@@ -61,7 +62,16 @@ TEST(InspectOptions, AWrongCommandLineIsRefusedByName) {
               "--status: \"on\" is none of inactive, active, acked, message");
     EXPECT_EQ(RefusalOf({"x", "--alarms", "--csv", "--observed", "1"}),
               "--observed: \"1\" is neither yes nor no");
-    EXPECT_EQ(RefusalOf({"\xD0\xB6"}), "\"?\" has characters outside the code page 1252");
+    EXPECT_EQ(RefusalOf({"x", "--alarms", "--csv", "--sender", "\xD0\xB6"}),
+              "\"?\" has characters outside the code page 1252");
+}
+
+TEST(InspectOptions, APathIsWhateverBytesItHas) {
+    for (const std::string& path : std::vector<std::string>{"/home/иван/a.alm", "Kn\xE4pp", "a\\b"}) {
+        const cInspectOptions options = ReadOptions({path});
+        ASSERT_EQ(options.paths.size(), 1u);
+        EXPECT_EQ(PathBytes(options.paths[0]), path);
+    }
 }
 
 TEST(InspectOptions, HelpNeedsNothingElseAndNamesEveryOption) {

@@ -83,6 +83,15 @@ std::vector<std::string> cFakeFiles::ListFiles(std::string_view folder, std::str
     return names;
 }
 
+std::vector<cFileReader::cUnreadable> cFakeFiles::ListUnreadable(std::string_view folder,
+                                                                 std::string_view mask) const {
+    const auto found = m_Unreadable.find(std::string(folder));
+    if (found == m_Unreadable.end()) return {};
+    auto entries = found->second;
+    std::erase_if(entries, [&](const cUnreadable& entry) { return !FitsMask(entry.name, mask); });
+    return entries;
+}
+
 cFileReader::cStamp cFakeFiles::Stamp(std::string_view path) const {
     const cFile* file = Find(path);
     if (file == nullptr) return {};

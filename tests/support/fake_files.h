@@ -19,6 +19,7 @@ class cFakeFiles : public cFiles {
     bool FileExists(std::string_view path) const override;
     std::string ReadFile(std::string_view path) const override;
     std::vector<std::string> ListFiles(std::string_view folder, std::string_view mask) const override;
+    std::vector<cUnreadable> ListUnreadable(std::string_view folder, std::string_view mask) const override;
     cStamp Stamp(std::string_view path) const override;
     void WriteFile(std::string_view path, std::string_view bytes, bool sync) override;
     void AppendFile(std::string_view path, std::string_view bytes) override;
@@ -42,6 +43,8 @@ class cFakeFiles : public cFiles {
     void Crash();
     void SetReadOnly(std::string_view path, bool readOnly);
     void SetUnreadable(std::string_view path, bool unreadable);
+    // What ListUnreadable gives for the folder, as far as the mask fits.
+    std::map<std::string, std::vector<cUnreadable>> m_Unreadable;
 
     int m_Calls = 0;                // mutating calls so far
     int m_FailCall = -1;            // the call of this number (from 0) fails; -1: none

@@ -24,6 +24,9 @@ class cReadOnlyFiles : public cFiles {
     std::vector<std::string> ListFiles(std::string_view folder, std::string_view mask) const override {
         return m_Files.ListFiles(folder, mask);
     }
+    std::vector<cUnreadable> ListUnreadable(std::string_view folder, std::string_view mask) const override {
+        return m_Files.ListUnreadable(folder, mask);
+    }
     cStamp Stamp(std::string_view path) const override { return m_Files.Stamp(path); }
     void WriteFile(std::string_view path, std::string_view, bool) override { Refuse(path); }
     void AppendFile(std::string_view path, std::string_view) override { Refuse(path); }

@@ -16,7 +16,7 @@ namespace {
 constexpr int kNothing = 0, kSmaller = 1, kErrors = 2, kNotChecked = 3;
 
 void PrintError(const std::string& text) {
-    std::fprintf(stderr, "vigrel-receiver-check: %s\n", Printable(text).c_str());
+    std::fprintf(stderr, "vigrel-receiver-check: %s\n", PrintablePath(text).c_str());
 }
 
 // Throws cFailure when standard output takes no more.

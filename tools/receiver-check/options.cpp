@@ -4,6 +4,7 @@
 
 #include "common/code_page.h"
 #include "common/failure.h"
+#include "common/path_text.h"
 
 namespace vigrel {
 namespace {
@@ -48,9 +49,7 @@ cCheckOptions ReadCheckOptions(const std::vector<std::string>& words) {
     for (const std::string& word : words) {
         if (onlyFolders || !word.starts_with("-")) {
             if (!options.folder.empty()) Refuse("one folder at a time can be checked");
-            options.folder = Utf8ToCodePage(word);
-            if (CodePageToUtf8(options.folder) != word)
-                Refuse("\"" + options.folder + "\" has characters outside the code page 1252");
+            options.folder = PathText(word);
         } else if (word == "--") {
             onlyFolders = true;
         } else if (word == "--help" || word == "-h") {
@@ -60,7 +59,7 @@ cCheckOptions ReadCheckOptions(const std::vector<std::string>& words) {
         } else if (word == "--files-only") {
             options.filesOnly = true;
         } else {
-            Refuse("the option " + word + " is not known");
+            Refuse("the option " + Utf8ToCodePage(word) + " is not known");
         }
     }
     if (options.folder.empty() && !options.help) Refuse("no folder was named");

@@ -27,8 +27,8 @@ std::string PlaceText(const cPlace& place) {
 
 std::string FindingText(const cFinding& finding) {
     const cPlace& place = finding.place;
-    return Printable(place.file) + (place.line > 0 ? ":" + std::to_string(place.line) : "") + ": " +
-           SeverityName(finding.severity) + ": " + PlaceText(place) + Printable(finding.message) + " [" +
+    return PrintablePath(place.file) + (place.line > 0 ? ":" + std::to_string(place.line) : "") + ": " +
+           SeverityName(finding.severity) + ": " + PlaceText(place) + PrintablePath(finding.message) + " [" +
            finding.name + "]\n";
 }
 
@@ -37,7 +37,7 @@ std::string Counted(std::size_t count, const std::string& word) {
 }
 
 std::string OrNull(const std::string& text) {
-    return text.empty() ? "null" : JsonString(text);
+    return text.empty() ? "null" : JsonPath(text);
 }
 
 std::string FindingJson(const cFinding& finding) {
@@ -47,7 +47,7 @@ std::string FindingJson(const cFinding& finding) {
            ", \"line\": " + (place.line > 0 ? std::to_string(place.line) : "null") +
            ", \"section\": " + OrNull(place.section) + ", \"key\": " + OrNull(place.key) +
            ", \"value\": " + (place.key.empty() && place.value.empty() ? "null" : JsonString(place.value)) +
-           ", \"message\": " + JsonString(finding.message) + "}";
+           ", \"message\": " + JsonPath(finding.message) + "}";
 }
 
 }  // namespace
@@ -66,7 +66,7 @@ std::string ReportJson(const std::string& folder, const cFindings& findings) {
     for (const cFinding& finding : findings.m_All) {
         list += (list.empty() ? "\n    " : ",\n    ") + FindingJson(finding);
     }
-    return "{\n  \"folder\": " + JsonString(folder) +
+    return "{\n  \"folder\": " + JsonPath(folder) +
            ",\n  \"errors\": " + std::to_string(findings.Count(eSeverity::Error)) +
            ",\n  \"warnings\": " + std::to_string(findings.Count(eSeverity::Warning)) +
            ",\n  \"remarks\": " + std::to_string(findings.Count(eSeverity::Remark)) + ",\n  \"findings\": [" +

@@ -10,6 +10,7 @@
 #include "common/failure.h"
 #include "common/ini.h"
 #include "common/numbers.h"
+#include "common/path_text.h"
 #include "common/printable.h"
 
 namespace vigrel {
@@ -98,7 +99,7 @@ std::string ReadAlarm(const cFileReader& files, const std::string& path, cVigrel
             problem = "the time of arrival is no date of the years 100 to 9999";
         }
     });
-    return failure ? failure->what() : problem;
+    return failure ? WithPathsInCodePage(failure->what()) : problem;
 }
 
 bool IsStoredName(const std::string& name) {

@@ -22,7 +22,7 @@ constexpr int kFits = 0, kDoesNotFit = 1, kWrongUse = 2;
 constexpr std::int64_t kLargestFile = 64 << 20;
 
 void PrintError(const std::string& text) {
-    std::fprintf(stderr, "vigrel-inspect: %s\n", Printable(text).c_str());
+    std::fprintf(stderr, "vigrel-inspect: %s\n", PrintablePath(text).c_str());
 }
 
 // Throws cFailure when standard output takes no more.

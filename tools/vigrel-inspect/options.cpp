@@ -6,6 +6,7 @@
 #include "common/code_page.h"
 #include "common/date_text.h"
 #include "common/failure.h"
+#include "common/path_text.h"
 #include "common/text.h"
 
 namespace vigrel {
@@ -90,23 +91,31 @@ eFileKind KindFromOption(const std::string& word) {
     return *kind;
 }
 
+// A word with characters that the code page lacks can't be a text of the system.
+std::string ToCodePage(const std::string& word) {
+    std::string text = Utf8ToCodePage(word);
+    if (CodePageToUtf8(text) != word) Refuse("\"" + text + "\" has characters outside the code page 1252");
+    return text;
+}
+
+// The words are UTF-8, or whatever bytes a path has.
 class cOptionReader {
   public:
     cInspectOptions Read(const std::vector<std::string>& words) {
         for (std::size_t i = 0; i < words.size(); ++i) {
             const std::string& word = words[i];
             if (m_OnlyPaths || !word.starts_with("-") || word == "-") {
-                m_Options.paths.push_back(word);
+                m_Options.paths.push_back(PathText(word));
             } else if (word == "--") {
                 m_OnlyPaths = true;
             } else if (const auto flag = m_Flags.find(word); flag != m_Flags.end()) {
                 *flag->second = true;
             } else if (const auto value = m_Values.find(word); value != m_Values.end()) {
                 if (++i >= words.size()) Refuse(word + " needs a value");
-                value->second(words[i]);
+                value->second(ToCodePage(words[i]));
                 m_Filtered = m_Filtered || word != "--as";
             } else {
-                Refuse("the option " + word + " is not known");
+                Refuse("the option " + Utf8ToCodePage(word) + " is not known");
             }
         }
         Check();
@@ -145,20 +154,10 @@ class cOptionReader {
     };
 };
 
-// A word with characters that the code page lacks can't name a file or a text of the system.
-std::string ToCodePage(const std::string& word) {
-    std::string text = Utf8ToCodePage(word);
-    if (CodePageToUtf8(text) != word) Refuse("\"" + text + "\" has characters outside the code page 1252");
-    return text;
-}
-
 }  // namespace
 
 cInspectOptions ReadOptions(const std::vector<std::string>& words) {
-    std::vector<std::string> converted;
-    converted.reserve(words.size());
-    for (const std::string& word : words) converted.push_back(ToCodePage(word));
-    return cOptionReader().Read(converted);
+    return cOptionReader().Read(words);
 }
 
 std::string HelpText() {

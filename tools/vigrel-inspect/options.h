@@ -19,7 +19,7 @@ struct cInspectOptions {
     bool quiet = false;   // no progress
     std::optional<eFileKind> kind;
     cAlarmFilter filter;
-    std::vector<std::string> paths;  // in the code page
+    std::vector<std::string> paths;  // as in common/path_text.h
 };
 
 // Reads the words of a command line (without the program's name, UTF-8). Throws cFailure (InvalidCall) with

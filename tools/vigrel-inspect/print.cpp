@@ -6,6 +6,7 @@
 #include "common/code_page.h"
 #include "common/date_text.h"
 #include "common/numbers.h"
+#include "common/path_text.h"
 #include "common/text.h"
 
 namespace vigrel {
@@ -69,11 +70,9 @@ std::string JsonList(const Items& items, Write write) {
     return json + (items.empty() ? "]" : "\n  ]");
 }
 
-}  // namespace
-
-std::string JsonString(std::string_view text) {
+std::string JsonOfUtf8(std::string_view utf8) {
     std::string json = "\"";
-    for (const char c : CodePageToUtf8(text)) {
+    for (const char c : utf8) {
         if (c == '"' || c == '\\') json += '\\';
         if (Code(c) >= 0x20 && Code(c) != 0x7F) {
             json += c;
@@ -85,8 +84,19 @@ std::string JsonString(std::string_view text) {
     return json + "\"";
 }
 
+}  // namespace
+
+std::string JsonString(std::string_view text) {
+    return JsonOfUtf8(CodePageToUtf8(text));
+}
+
+std::string JsonPath(std::string_view text) {
+    const std::string utf8 = WithPathsToUtf8(text);
+    return IsUtf8(utf8) ? JsonOfUtf8(utf8) : JsonString(text);
+}
+
 std::string InspectionText(const std::string& file, const cInspection& inspection) {
-    std::string text = Printable(file) + ": " + inspection.kind;
+    std::string text = PrintablePath(file) + ": " + inspection.kind;
     if (inspection.version) text += ", version " + std::to_string(*inspection.version);
     text += ", " + std::to_string(inspection.size) + " bytes\n";
     std::size_t width = 5;

@@ -12,6 +12,8 @@ namespace vigrel {
 
 // A text of the code page as a JSON string, quotes included.
 std::string JsonString(std::string_view text);
+// The same of a text that may name paths.
+std::string JsonPath(std::string_view text);
 
 // One inspection as a table for people.
 std::string InspectionText(const std::string& file, const cInspection& inspection);

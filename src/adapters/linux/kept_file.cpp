@@ -8,8 +8,8 @@
 #include <optional>
 
 #include "adapters/linux/linux_files.h"
-#include "common/code_page.h"
 #include "common/failure.h"
+#include "common/path_text.h"
 
 namespace vigrel {
 namespace {
@@ -36,7 +36,8 @@ std::optional<std::string> NextLink(const std::string& path) {
     struct stat status {};
     if (lstat(path.c_str(), &status) != 0 || !S_ISLNK(status.st_mode)) return std::nullopt;
     if (!IsTrusted(status, path)) {
-        throw cFailure(eFailure::PermissionDenied, path + ": a link that another user made is not followed");
+        throw cFailure(eFailure::PermissionDenied,
+                       PathText(path) + ": a link that another user made is not followed");
     }
     std::array<char, PATH_MAX> buffer;
     const ssize_t length = readlink(path.c_str(), buffer.data(), buffer.size());
@@ -57,7 +58,7 @@ std::string cLinuxFiles::LinkTarget(std::string_view path) const {
         native = *next;
         next = NextLink(native);
     }
-    return Utf8ToCodePage(native);
+    return PathText(native);
 }
 
 void cLinuxFiles::CopyAttributes(std::string_view from, std::string_view to) {

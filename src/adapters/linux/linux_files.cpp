@@ -8,10 +8,12 @@
 #include <array>
 #include <cerrno>
 #include <cstring>
+#include <functional>
 #include <memory>
 
 #include "common/code_page.h"
 #include "common/failure.h"
+#include "common/path_text.h"
 
 namespace vigrel {
 namespace {
@@ -38,9 +40,14 @@ eFailure FailureNumber(int error) {
     }
 }
 
+// The operating system's words, in the language of the surroundings.
+std::string Reason(int error) {
+    return Utf8ToCodePage(std::strerror(error));
+}
+
 [[noreturn]] void Fail(std::string_view path) {
     const int error = errno;
-    throw cFailure(FailureNumber(error), std::string(path) + ": " + std::strerror(error));
+    throw cFailure(FailureNumber(error), std::string(path) + ": " + Reason(error));
 }
 
 // Far above every file of the system; nothing larger is taken into memory.
@@ -162,11 +169,34 @@ bool FitsMask(std::string_view name, std::string_view mask) {
     return mask.find_first_not_of('*', m) == std::string_view::npos;
 }
 
-bool IsRegular(const std::string& folder, const dirent& entry) {
+bool IsRegular(int folder, const dirent& entry) {
     if (entry.d_type == DT_REG) return true;
     if (entry.d_type != DT_UNKNOWN && entry.d_type != DT_LNK) return false;
     struct stat status {};
-    return stat((folder + "/" + entry.d_name).c_str(), &status) == 0 && S_ISREG(status.st_mode);
+    return fstatat(folder, entry.d_name, &status, 0) == 0 && S_ISREG(status.st_mode);
+}
+
+// Why an entry of a folder can't be read; empty when it can.
+std::string WhyUnreadable(int folder, const char* name) {
+    struct stat status {};
+    if (fstatat(folder, name, &status, 0) != 0) return Reason(errno);
+    if (const char* reason = WhyNoFile(status)) return reason;
+    return faccessat(folder, name, R_OK, AT_EACCESS) == 0 ? "" : Reason(errno);
+}
+
+// The entries of a folder that fit the mask, hidden ones excepted; none of a folder that can't be read.
+void ForEachEntry(std::string_view path, std::string_view mask,
+                  const std::function<void(int folder, const dirent& entry, std::string name)>& take) {
+    const std::string native = NativePath(path);
+    const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(native.empty() ? "." : native.c_str()),
+                                                     closedir);
+    if (!stream) return;
+    const std::string wanted = ToUpper(mask);
+    while (const dirent* entry = readdir(stream.get())) {
+        if (entry->d_name[0] == '.') continue;
+        std::string name = PathText(entry->d_name);
+        if (FitsMask(ToUpper(name), wanted)) take(dirfd(stream.get()), *entry, std::move(name));
+    }
 }
 
 }  // namespace
@@ -187,17 +217,20 @@ std::string cLinuxFiles::ReadFile(std::string_view path) const {
 
 std::vector<std::string> cLinuxFiles::ListFiles(std::string_view folder, std::string_view mask) const {
     std::vector<std::string> names;
-    const std::string native = NativePath(folder);
-    const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(native.empty() ? "." : native.c_str()),
-                                                     closedir);
-    if (!stream) return names;
-    const std::string wanted = ToUpper(mask);
-    while (const dirent* entry = readdir(stream.get())) {
-        if (entry->d_name[0] == '.') continue;
-        std::string name = Utf8ToCodePage(entry->d_name);
-        if (FitsMask(ToUpper(name), wanted) && IsRegular(native, *entry)) names.push_back(std::move(name));
-    }
+    ForEachEntry(folder, mask, [&](int opened, const dirent& entry, std::string name) {
+        if (IsRegular(opened, entry)) names.push_back(std::move(name));
+    });
     return names;
+}
+
+std::vector<cFileReader::cUnreadable> cLinuxFiles::ListUnreadable(std::string_view folder,
+                                                                  std::string_view mask) const {
+    std::vector<cUnreadable> unreadable;
+    ForEachEntry(folder, mask, [&](int opened, const dirent& entry, std::string name) {
+        std::string reason = WhyUnreadable(opened, entry.d_name);
+        if (!reason.empty()) unreadable.push_back({std::move(name), std::move(reason)});
+    });
+    return unreadable;
 }
 
 cFileReader::cStamp cLinuxFiles::Stamp(std::string_view path) const {

@@ -4,14 +4,14 @@
 
 namespace vigrel {
 
-// cFiles over the operating system. Names on disk are the bytes of the path: text of the code page is
-// converted to UTF-8 on the way out and back. A path without a leading separator is relative to the working
-// folder.
+// cFiles over the operating system. Paths are those of common/path_text.h. A path without a leading separator
+// is relative to the working folder.
 class cLinuxFiles : public cFiles {
   public:
     bool FileExists(std::string_view path) const override;
     std::string ReadFile(std::string_view path) const override;
     std::vector<std::string> ListFiles(std::string_view folder, std::string_view mask) const override;
+    std::vector<cUnreadable> ListUnreadable(std::string_view folder, std::string_view mask) const override;
     cStamp Stamp(std::string_view path) const override;
     void WriteFile(std::string_view path, std::string_view bytes, bool sync) override;
     void AppendFile(std::string_view path, std::string_view bytes) override;
@@ -25,8 +25,8 @@ class cLinuxFiles : public cFiles {
     void CopyAttributes(std::string_view from, std::string_view to) override;
 };
 
-// The path as the operating system knows it: separators mapped, and every part that exists under another case
-// spelled as it stands on disk. UTF-8.
+// The path as the operating system knows it, byte by byte: separators mapped, and every part that exists
+// under another case spelled as it stands on disk.
 std::string NativePath(std::string_view path);
 
 }  // namespace vigrel

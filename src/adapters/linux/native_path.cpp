@@ -8,6 +8,7 @@
 
 #include "adapters/linux/linux_files.h"
 #include "common/code_page.h"
+#include "common/path_text.h"
 #include "common/text.h"
 
 namespace vigrel {
@@ -68,9 +69,9 @@ std::string SearchFolder(const std::string& folder, const std::string& name) {
     const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(folder.empty() ? "." : folder.c_str()),
                                                      closedir);
     if (!stream) return {};
-    const std::string wanted = ToUpper(Utf8ToCodePage(name));
+    const std::string wanted = ToUpper(PathText(name));
     while (const dirent* entry = readdir(stream.get())) {
-        if (ToUpper(Utf8ToCodePage(entry->d_name)) == wanted) return entry->d_name;
+        if (ToUpper(PathText(entry->d_name)) == wanted) return entry->d_name;
     }
     return {};
 }
@@ -91,10 +92,7 @@ std::string Spelling(const std::string& folder, const std::string& name) {
 }  // namespace
 
 std::string NativePath(std::string_view path) {
-    std::string rest = CodePageToUtf8(path);
-    for (char& c : rest) {
-        if (c == '\\') c = '/';
-    }
+    const std::string rest = PathBytes(path);
     if (Exists(rest)) return rest;
     // The usual case of a new file: only the last part is in question.
     const std::size_t last = rest.rfind('/') + 1;

@@ -1,9 +1,11 @@
 #include "adapters/qt/qt_text.h"
 
+#include <QFile>
 #include <QList>
 #include <algorithm>
 
 #include "common/code_page.h"
+#include "common/path_text.h"
 
 namespace vigrel {
 namespace {
@@ -36,6 +38,18 @@ std::string FromQString(const QString& text) {
         if (!IsInvisible(codePoint)) result += Nearest(codePoint);
     }
     return result;
+}
+
+QString PathToQString(std::string_view path) {
+    return QFile::decodeName(QByteArray::fromStdString(PathBytes(path)));
+}
+
+std::string PathFromQString(const QString& path) {
+    return PathText(QFile::encodeName(path).toStdString());
+}
+
+QString WithPathsToQString(std::string_view text) {
+    return QString::fromStdString(WithPathsToUtf8(text));
 }
 
 bool FitsCodePage(const QString& text) {

@@ -199,7 +199,7 @@ void cColourRulesEditor::TakeItem(const QTableWidgetItem& item) {
     });
     if (failure) {
         Fill();
-        m_Services.m_Prompts.ShowFailure(this, ToQString(failure->what()));
+        m_Services.m_Prompts.ShowFailure(this, WithPathsToQString(failure->what()));
         return;
     }
     const int column = item.column();

@@ -1,6 +1,5 @@
 #include "editor_ui/pages/file_document.h"
 
-#include <QDir>
 #include <QWidget>
 #include <utility>
 
@@ -12,8 +11,8 @@ namespace vigrel {
 namespace {
 
 // With the separators of this system, as the operator knows them.
-QString ShownPath(const std::string& path) {
-    return QDir::fromNativeSeparators(ToQString(path)).replace('\\', '/');
+QString ShownFailure(const cFailure& failure) {
+    return WithPathsToQString(failure.what()).replace('\\', '/');
 }
 
 }  // namespace
@@ -26,11 +25,11 @@ cFileDocument::cFileDocument(cEditorServices& services, cFileForm form, QWidget*
       m_StateInFile(m_Form.state()) {}
 
 QString cFileDocument::Title() const {
-    return m_Path.empty() ? m_Form.newName : ToQString(SplitPath(m_Path).name);
+    return m_Path.empty() ? m_Form.newName : PathToQString(SplitPath(m_Path).name);
 }
 
 QString cFileDocument::Path() const {
-    return ShownPath(m_Path);
+    return PathToQString(m_Path);
 }
 
 void cFileDocument::NoteChange() {
@@ -51,7 +50,7 @@ void cFileDocument::Take(const std::string& path) {
 
 bool cFileDocument::Open(const std::string& path) {
     if (const auto failure = CatchFailure([&] { m_Form.read(path); })) {
-        m_Services.m_Prompts.ShowFailure(m_Owner, ShownPath(failure->what()));
+        m_Services.m_Prompts.ShowFailure(m_Owner, ShownFailure(*failure));
         return false;
     }
     Take(path);
@@ -68,29 +67,25 @@ bool cFileDocument::MayReplace(const std::string& path) {
     const cFileReader::cStamp now = m_Services.m_Files.Stamp(path);
     if (now.size < 0 || now == m_Stamp) return true;
     return m_Services.m_Prompts.AskYesNo(
-        m_Owner, tr("%1 was changed by somebody else since it was opened. Replace it?").arg(ShownPath(path)));
+        m_Owner,
+        tr("%1 was changed by somebody else since it was opened. Replace it?").arg(PathToQString(path)));
 }
 
 bool cFileDocument::SaveAs() {
     const QString suggestion =
         m_Path.empty()
-            ? ShownPath(m_Services.m_Ini.FullPath(FromQString(m_Form.newName))) + "." + m_Form.suffix
+            ? PathToQString(m_Services.m_Ini.FullPath(PathFromQString(m_Form.newName))) + "." + m_Form.suffix
             : Path();
     const QString chosen =
         m_Services.m_Prompts.AskSavePath(m_Owner, suggestion, m_Form.filter, m_Form.suffix);
     if (chosen.isEmpty()) return false;
-    if (!FitsCodePage(chosen)) {
-        m_Services.m_Prompts.ShowFailure(
-            m_Owner, tr("%1 has characters that file names here can't have.").arg(chosen));
-        return false;
-    }
-    return WriteTo(FromQString(chosen));
+    return WriteTo(PathFromQString(chosen));
 }
 
 bool cFileDocument::WriteTo(const std::string& path) {
     if (const auto failure = CatchFailure([&] { m_Form.write(path); })) {
         m_Services.m_Prompts.ShowFailure(m_Owner,
-                                         tr("The file was not saved.\n%1").arg(ShownPath(failure->what())));
+                                         tr("The file was not saved.\n%1").arg(ShownFailure(*failure)));
         return false;
     }
     Take(path);

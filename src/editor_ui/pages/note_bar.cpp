@@ -54,7 +54,7 @@ void cNoteBar::Show(const std::vector<cDefinitionNote>& notes) {
         summary += tr("What could not be read: %1.").arg(failed);
     }
     QStringList lines;
-    for (const cDefinitionNote& note : notes) lines += ToQString(note.line);
+    for (const cDefinitionNote& note : notes) lines += WithPathsToQString(note.line);
     m_Summary->setText(summary.join(' '));
     m_Lines->setPlainText(lines.join('\n'));
     setVisible(!summary.isEmpty());

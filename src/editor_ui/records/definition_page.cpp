@@ -222,7 +222,7 @@ QString cDefinitionPage::NameAt(int position) const {
 void cDefinitionPage::TellFailure(const QString& text) {
     QString all = text;
     for (const cDefinitionNote& note : m_TakeNotes()) {
-        if (note.kind == cDefinitionNote::eKind::Failed) all += "\n\n" + ToQString(note.line);
+        if (note.kind == cDefinitionNote::eKind::Failed) all += "\n\n" + WithPathsToQString(note.line);
     }
     m_Services.m_Prompts.ShowFailure(this, all);
 }

@@ -53,15 +53,9 @@ void cProfileCalendar::OpenRemembered() {
 
 void cProfileCalendar::Choose() {
     const QString path = m_Services.m_Prompts.AskOpenPath(
-        this, ToQString(m_Services.m_Ini.ApplicationPath()).replace('\\', '/'),
-        tr("Calendars (*.cal);;All files (*)"));
+        this, PathToQString(m_Services.m_Ini.ApplicationPath()), tr("Calendars (*.cal);;All files (*)"));
     if (path.isEmpty() || !MayLeave()) return;
-    if (!FitsCodePage(path)) {
-        m_Services.m_Prompts.ShowFailure(this,
-                                         tr("%1 has characters that file names here can't have.").arg(path));
-        return;
-    }
-    m_Document.Open(FromQString(path));
+    m_Document.Open(PathFromQString(path));
 }
 
 // Whether the shown calendar's changes are saved or given up.
@@ -74,7 +68,7 @@ bool cProfileCalendar::MayLeave() {
 
 void cProfileCalendar::Remember(const QString& path) {
     m_Path->setText(path);
-    m_Services.m_Ini.PutIniString(kSection, kKey, FromQString(path), kDefinitionsIni);
+    m_Services.m_Ini.PutIniString(kSection, kKey, PathFromQString(path), kDefinitionsIni);
 }
 
 void cProfileCalendar::Show(const cProfile& profile) {

@@ -45,8 +45,8 @@ cProfilesPage::cProfilesPage(cEditorServices& services, QWidget* parent)
     };
     form.problem = [this] { return m_Form->Problem(); };
     form.focusName = [this] { m_Form->FocusName(); };
-    SetUp({tr("Profiles"), ToQString(m_Station.ApplicationPath() + "Profiles").replace('\\', '/'),
-           tr("New profile"), tr("Conditions"), tr("Delete the profile \"%1\" and its file?")},
+    SetUp({tr("Profiles"), PathToQString(m_Station.ApplicationPath() + "Profiles"), tr("New profile"),
+           tr("Conditions"), tr("Delete the profile \"%1\" and its file?")},
           std::move(form));
 }
 

@@ -32,8 +32,8 @@ cReceiversPage::cReceiversPage(cEditorServices& services, QWidget* parent)
     form.problem = [this] { return m_Form->Problem(); };
     form.focusName = [this] { m_Form->FocusName(); };
     form.deleteWarning = [this](int position) { return DeleteWarning(position); };
-    SetUp({tr("Receivers"), ToQString(m_Station.ApplicationPath() + "Receivers").replace('\\', '/'),
-           tr("New receiver"), tr("Type"), tr("Delete the receiver \"%1\" and its file?")},
+    SetUp({tr("Receivers"), PathToQString(m_Station.ApplicationPath() + "Receivers"), tr("New receiver"),
+           tr("Type"), tr("Delete the receiver \"%1\" and its file?")},
           std::move(form));
 }
 

@@ -172,9 +172,9 @@ void cScheduleEditor::ChooseImage(int drawing) {
 }
 
 void cScheduleEditor::ShowNotStored() {
-    m_Services.m_Prompts.ShowFailure(
-        this, tr("The choice could not be stored in %1.")
-                  .arg(ToQString(m_Services.m_Ini.FullPath(kDefinitionsIni)).replace('\\', '/')));
+    m_Services.m_Prompts.ShowFailure(this,
+                                     tr("The choice could not be stored in %1.")
+                                         .arg(PathToQString(m_Services.m_Ini.FullPath(kDefinitionsIni))));
 }
 
 }  // namespace vigrel

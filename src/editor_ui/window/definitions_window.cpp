@@ -94,7 +94,7 @@ void cDefinitionsWindow::NewCalendar() {
 
 void cDefinitionsWindow::Open() {
     const QString path = m_Services.m_Prompts.AskOpenPath(
-        this, ToQString(m_Services.m_Ini.ApplicationPath()).replace('\\', '/'),
+        this, PathToQString(m_Services.m_Ini.ApplicationPath()),
         tr("Schedules, calendars, colour rules (*.sch *.cal ColourRules.txt);;All files (*)"));
     if (!path.isEmpty()) OpenFile(path);
 }
@@ -118,7 +118,7 @@ void cDefinitionsWindow::ShowProfiles() {
 }
 
 void cDefinitionsWindow::ShowColourRules() {
-    OpenFile(ToQString(m_Services.m_Ini.FullPath(kColourRulesFile)).replace('\\', '/'));
+    OpenFile(PathToQString(m_Services.m_Ini.FullPath(kColourRulesFile)));
 }
 
 // The kind of a file's page, by the file's name and size.
@@ -126,8 +126,8 @@ cFilePage* cDefinitionsWindow::MakeFilePage(const QString& path) {
     if (QFileInfo(path).fileName().compare(ToQString(kColourRulesFile), Qt::CaseInsensitive) == 0) {
         return new cColourRulesPage(m_Services);
     }
-    const auto size =
-        static_cast<std::size_t>(std::max<std::int64_t>(m_Services.m_Files.Stamp(FromQString(path)).size, 0));
+    const auto size = static_cast<std::size_t>(
+        std::max<std::int64_t>(m_Services.m_Files.Stamp(PathFromQString(path)).size, 0));
     if (KindOfDefinition(size) == eDefinitionKind::Calendar || path.endsWith(".cal", Qt::CaseInsensitive)) {
         return new cCalendarPage(m_Services, {});
     }
@@ -141,12 +141,7 @@ bool cDefinitionsWindow::OpenFile(const QString& path) {
         m_Tabs.setCurrentWidget(page);
         return true;
     }
-    if (!FitsCodePage(absolute)) {
-        m_Services.m_Prompts.ShowFailure(
-            this, tr("%1 has characters that file names here can't have.").arg(absolute));
-        return false;
-    }
-    const std::string name = FromQString(absolute);
+    const std::string name = PathFromQString(absolute);
     cFilePage* page = MakeFilePage(absolute);
     // What it has to tell while it opens is told over this window.
     page->setParent(this);

@@ -128,7 +128,7 @@ void cDefinitionsWindow::ShowAbout() {
         tr("%1 %2\n\nSchedules, calendars, receivers, profiles and colour rules of the alarm "
            "receiver.\nApplication folder: %3")
             .arg(QGuiApplication::applicationDisplayName(), QGuiApplication::applicationVersion(),
-                 ToQString(m_Services.m_Ini.ApplicationPath()).replace('\\', '/')),
+                 PathToQString(m_Services.m_Ini.ApplicationPath())),
         QMessageBox::Ok, this);
     constexpr int kIconSize = 64;
     box.setIconPixmap(QGuiApplication::windowIcon().pixmap(kIconSize));

@@ -1,0 +1,31 @@
+#include <gtest/gtest.h>
+
+#include "common/path_text.h"
+#include "common/printable.h"
+#include "vigrel-inspect/print.h"
+
+namespace vigrel {
+namespace {
+
+TEST(PrintablePath, APathIsShownInItsOwnScript) {
+    EXPECT_EQ(PrintablePath(PathText("/home/иван ä/日本") + ": no ordinary file"),
+              "/home/иван ä/日本: no ordinary file");
+    EXPECT_EQ(PrintablePath(PathText("a\\b")), "a\\b");
+    EXPECT_EQ(JsonPath(PathText("/home/иван/a\\b")), "\"/home/иван/a\\\\b\"");
+}
+
+TEST(PrintablePath, WhatIsNoTextOrSteersATerminalIsEscaped) {
+    EXPECT_EQ(PrintablePath(PathText("\xFF/x")), "\\x1AFF/x");
+    EXPECT_EQ(PrintablePath(PathText("\x1B[31m")), "\\x1B[31m");
+    // U+009B starts a control sequence.
+    EXPECT_EQ(PrintablePath(PathText("\xC2\x9B"
+                                     "31m")),
+              "\\x1AC2\\x1A9B31m");
+    EXPECT_EQ(PrintablePath("\x1A"
+                            "07"),
+              "\\x1A07");
+    EXPECT_EQ(JsonPath(PathText("\xFF")), "\"\\u001AFF\"");
+}
+
+}  // namespace
+}  // namespace vigrel
