@@ -175,15 +175,33 @@ AlarmPtr cAlarmStore::ReadAlarm(const std::string& name) {
     return alarm;
 }
 
+// Names what can't be read among the alarms, so that it can be looked after. Any number of them takes one
+// line.
+std::set<std::string> cAlarmStore::TellUnreadable() const {
+    constexpr std::size_t kMostNamed = 20;
+    std::set<std::string> names;
+    std::string list;
+    for (const auto& [name, reason] : m_Services.files.ListUnreadable(m_Folder, kMask)) {
+        if (!IsNumeric(name.substr(1, 7)) || !names.insert(name).second) continue;
+        if (names.size() <= kMostNamed) list += (list.empty() ? " " : ", ") + name + " (" + reason + ")";
+    }
+    if (names.size() > kMostNamed) list += " and " + std::to_string(names.size() - kMostNamed) + " more";
+    if (!names.empty()) {
+        m_Services.log.WriteLog(std::to_string(names.size()) + " alarm file(s) can't be read:" + list);
+    }
+    return names;
+}
+
 void cAlarmStore::LoadAlarms(const std::function<void(const AlarmPtr&)>& addAlarmRow) {
     m_Services.list.SetVisible(false);
     m_Services.list.RemoveAllRecords();
     for (const AlarmPtr& replaced : m_Alarms) replaced->m_Removed = true;
     m_Alarms.clear();
     RemoveTemporaries(m_Services.files, m_Folder);
+    const std::set<std::string> unreadable = TellUnreadable();
     std::int32_t removed = 0;
     for (const std::string& name : m_Services.files.ListFiles(m_Folder, kMask)) {
-        if (!IsNumeric(name.substr(1, 7))) continue;
+        if (!IsNumeric(name.substr(1, 7)) || unreadable.contains(name)) continue;
         // 9e00009 is numeric too; a file that nobody can have meant as an alarm must not keep the rest away.
         if (!SkipFailure([&] { ToInt32(Val(name.substr(1, 7))); })) {
             m_Services.log.WriteLog("Alarms\\" + name + " is no alarm file: its number is out of range");

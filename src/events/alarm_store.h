@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <deque>
 #include <functional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -38,7 +39,8 @@ class cAlarmStore {
     std::deque<AlarmPtr> m_Alarms;
 
     // Rebuilds m_Alarms and the list from the folder. addAlarmRow is called for each alarm that stays, in
-    // order. Throws cFailure when a file can't be read.
+    // order. What is known beforehand not to be readable is left out, and named in the log. Throws cFailure
+    // when a file can't be read for another reason.
     void LoadAlarms(const std::function<void(const AlarmPtr&)>& addAlarmRow);
     // Writes the alarm's file as a whole, under a free number when it has none; when the call returns it
     // survives a crash. Never fails: a file that can't be written is tried again by RetryUnsaved. An alarm
@@ -72,6 +74,7 @@ class cAlarmStore {
     std::string Bytes(cVigrelRecieverAlarm& alarm);
     bool TrySave(cVigrelRecieverAlarm& alarm);
     void SaveCollected();
+    std::set<std::string> TellUnreadable() const;
     AlarmPtr ReadAlarm(const std::string& name);
 
     cServices m_Services;

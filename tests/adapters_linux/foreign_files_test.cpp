@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <filesystem>
 
 #include "adapters/linux/linux_files.h"
@@ -47,6 +48,28 @@ TEST_F(ForeignFiles, WhatIsNoOrdinaryFileIsNotReadAndNotWaitedFor) {
     for (const char* name : {"pipe", "folder", "device"}) {
         EXPECT_EQ(WhyNotRead(Path(name)), Path(name) + ": no ordinary file");
     }
+}
+
+TEST_F(ForeignFiles, WhatCannotBeReadOfAFolderIsListedWithTheReason) {
+    Put("A0000001.alm", "x");
+    ASSERT_EQ(mkfifo(Native("A0000002.alm").c_str(), 0666), 0);
+    fs::create_directory(Native("A0000003.alm"));
+    Put("A0000004.alm", "");
+    ASSERT_EQ(truncate(Native("A0000004.alm").c_str(), off_t{40} << 30), 0);
+    fs::create_symlink("nowhere", Native("a0000005.ALM"));
+    fs::create_symlink("A0000001.alm", Native("A0000006.alm"));
+    ASSERT_EQ(mkfifo(Native("other").c_str(), 0666), 0);
+    std::string found;
+    auto unreadable = m_Files.ListUnreadable(m_Folder.Folder(), "A???????.Alm");
+    std::sort(unreadable.begin(), unreadable.end(),
+              [](const auto& a, const auto& b) { return a.name < b.name; });
+    for (const auto& [name, reason] : unreadable) found += name + ": " + reason + "\n";
+    EXPECT_EQ(found,
+              "A0000002.alm: no ordinary file\n"
+              "A0000003.alm: no ordinary file\n"
+              "A0000004.alm: larger than 64 MB\n"
+              "a0000005.ALM: No such file or directory\n");
+    EXPECT_TRUE(m_Files.ListUnreadable(Path("none\\"), "*").empty());
 }
 
 TEST_F(ForeignFiles, AFileLargerThanAnyOfTheSystemIsNotRead) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <sndfile.h>
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <cmath>
@@ -35,6 +36,14 @@ std::string MakeFile(const cTemporaryFolder& folder, int format, int rate, int c
     EXPECT_EQ(sf_writef_float(file, samples.data(), kFrames), kFrames) << format;
     sf_close(file);
     return path;
+}
+
+TEST(SampleSource, WhatIsNoFileIsNotWaitedFor) {
+    cTemporaryFolder folder;
+    const std::string pipe = (folder.Path() / "a.wav").string();
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0666), 0);
+    EXPECT_EQ(OpenWaveFile(pipe), nullptr);
+    EXPECT_EQ(OpenWaveFile("/dev/zero"), nullptr);
 }
 
 TEST(SampleSource, EveryKindOfWaveFileIsReadAtItsLoudness) {

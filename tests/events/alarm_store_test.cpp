@@ -463,6 +463,31 @@ TEST_F(AlarmStore, AnAlarmFileThatCannotBeReadEndsTheStart) {
     EXPECT_THROW(Load(), cFailure);
 }
 
+TEST_F(AlarmStore, WhatIsKnownNotToBeReadableIsLeftOutAndNamedOnce) {
+    PutFile(1, 3, "a");
+    files.SetUnreadable(PutFile(2, 2), true);
+    PutFile(3, 1, "c");
+    files.m_Unreadable[std::string(kApp) + "Alarms\\"] = {{"A0000002.alm", "Permission denied"},
+                                                          {"A0000004.ALM", "no ordinary file"},
+                                                          {"Areports.alm", "no alarm"}};
+    Load();
+    EXPECT_EQ(Senders(), "ac");
+    EXPECT_EQ(
+        Log(),
+        "2 alarm file(s) can't be read: A0000002.alm (Permission denied), A0000004.ALM (no ordinary file)\n"
+        "2 T10041\n");
+}
+
+TEST_F(AlarmStore, AnyNumberOfFilesThatCannotBeReadTakesOneLine) {
+    auto& unreadable = files.m_Unreadable[std::string(kApp) + "Alarms\\"];
+    for (int id = 1000001; id <= 1000500; ++id)
+        unreadable.push_back({"A" + std::to_string(id) + ".alm", "x"});
+    Load();
+    const std::string line = SplitLines(Log()).front();
+    EXPECT_TRUE(line.starts_with("500 alarm file(s) can't be read: A1000001.alm (x), ")) << line;
+    EXPECT_TRUE(line.ends_with(", A1000020.alm (x) and 480 more")) << line;
+}
+
 TEST_F(AlarmStore, AFolderThatCannotBeWrittenStillLoads) {
     PutFile(1, 40);
     PutFile(2, 1);

@@ -86,6 +86,11 @@ TEST_F(CheckFolderTest, AnAlarmThatCantBeReadEndsTheStart) {
     Alarm("A0042917.alm", samples::kAlarm);
     m_Files.SetUnreadable(kApp + "Alarms\\A0042917.alm", true);
     EXPECT_EQ(Found(), "error alarm-unreadable Alarms\\A0042917.alm");
+    m_Files.m_Unreadable[kApp + "Alarms\\"] = {{"A0042917.alm", "Permission denied"},
+                                               {"A0000001.alm", "no ordinary file"},
+                                               {"Areports.alm", "no ordinary file"}};
+    EXPECT_EQ(Found(),
+              "error alarm-unreadable Alarms\\A0000001.alm\nerror alarm-unreadable Alarms\\A0042917.alm");
 }
 
 TEST_F(CheckFolderTest, AlarmsWithoutNumberAndStrangersAreNotRead) {

@@ -1,3 +1,6 @@
+#include <set>
+#include <string>
+
 #include "common/code_page.h"
 #include "common/failure.h"
 #include "common/file_procedures.h"
@@ -54,12 +57,26 @@ void CheckStranger(const cInstallation& installation, const std::string& name, c
         alarm ? "is not read: an alarm's name is A, seven digits, .alm" : "is no file of the station");
 }
 
+// What is left out at the start.
+std::set<std::string> CheckUnreadable(const cInstallation& installation, cFindings& findings) {
+    std::set<std::string> names;
+    for (const auto& [name, reason] :
+         installation.Files().ListUnreadable(installation.Path() + std::string(kFolder), "*.alm")) {
+        if (!IsAlarmName(name)) continue;
+        findings.Error("alarm-unreadable", PlaceOf(name), reason + ": the start leaves it out");
+        names.insert(name);
+    }
+    return names;
+}
+
 }  // namespace
 
 void CheckAlarmFiles(const cInstallation& installation, cFindings& findings) {
+    const std::set<std::string> unreadable = CheckUnreadable(installation, findings);
     double alarms = 0;
     for (const std::string& name :
          installation.Files().ListFiles(installation.Path() + std::string(kFolder), "*")) {
+        if (unreadable.contains(name)) continue;
         if (IsAlarmName(name)) {
             CheckAlarm(installation, name, findings);
             ++alarms;

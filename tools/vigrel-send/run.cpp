@@ -35,8 +35,15 @@ std::string Now() {
 
 std::string FileContent(const std::string& name) {
     if (name.empty()) return {};
+    // Far above every batch that is sent in one go.
+    constexpr std::size_t kMost = 64 << 20;
     std::ifstream file(name, std::ios::binary);
-    std::string content{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    std::string content;
+    std::vector<char> part(1 << 16);
+    while (file.read(part.data(), static_cast<std::streamsize>(part.size())), file.gcount() > 0) {
+        content.append(part.data(), static_cast<std::size_t>(file.gcount()));
+        if (content.size() > kMost) throw cUsageError("--file: \"" + name + "\" is larger than 64 MB");
+    }
     if (!file.is_open() || file.bad()) throw cUsageError("--file: \"" + name + "\" can't be read");
     return content;
 }

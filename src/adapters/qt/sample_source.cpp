@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <filesystem>
 #include <numbers>
 #include <utility>
 
@@ -59,6 +60,9 @@ class cTone : public cSampleSource {
 }  // namespace
 
 SourcePtr OpenWaveFile(const std::string& path) {
+    // Anything else can make the sound wait for ever.
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(path, error)) return nullptr;
     SF_INFO info{};
     SoundFile file(sf_open(path.c_str(), SFM_READ, &info), sf_close);
     const bool usable = file && info.samplerate > 0 && info.channels > 0 && info.frames > 0;
