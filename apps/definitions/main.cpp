@@ -3,13 +3,16 @@
 #include <QCommandLineParser>
 #include <QSettings>
 #include <QTimer>
+#include <cstdio>
 
 #include "adapters/linux/application_folder.h"
+#include "adapters/linux/file_rights.h"
 #include "adapters/linux/linux_files.h"
 #include "adapters/linux/standard_random.h"
 #include "adapters/linux/system_clock.h"
 #include "adapters/qt/qt_locale.h"
 #include "common/ini.h"
+#include "common/path_text.h"
 #include "common/texts.h"
 #include "definitions/station_definitions.h"
 #include "editor_ui/window/definitions_window.h"
@@ -43,6 +46,7 @@ std::function<std::string(std::int32_t)> TextSource(cTexts& texts, const cLocale
 }
 
 int Run(int argc, char** argv) {
+    KeepFilesPrivate();
     cApplication::ChoosePlatform();
     cApplication application(argc, argv);
     cApplication::setApplicationName("vigrel-definitions");
@@ -56,6 +60,9 @@ int Run(int argc, char** argv) {
     cLinuxFiles files;
     application.Guard(
         [&] { FillApplicationFolder(files, applicationPath, FindInstalledFolder(hints.programFolder)); });
+    if (const auto why = WhyElsewhere(hints)) {
+        std::fprintf(stderr, "vigrel-definitions: %s\n", WithPathsToUtf8(*why).c_str());
+    }
 
     const cSystemClock clock;
     const cLocaleForms forms = cQtLocale().Forms();

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "adapters/linux/application_folder.h"
+#include "adapters/linux/file_rights.h"
 #include "adapters/linux/folder_lock.h"
 #include "adapters/linux/hid_signal_light.h"
 #include "adapters/linux/linux_files.h"
@@ -25,6 +26,7 @@
 #include "adapters/qt/stop_signals.h"
 #include "adapters/qt/tone_player.h"
 #include "common/failure.h"
+#include "common/path_text.h"
 #include "common/printable.h"
 #include "common/settings.h"
 #include "core/first_start.h"
@@ -82,6 +84,7 @@ void ConnectWindow(cMainWindow& window, cVigrelReceiverMain& receiver) {
 }
 
 int Run(int argc, char** argv) {
+    KeepFilesPrivate();
     const std::string commandLine = CommandLine(argc, argv);
     cApplication::ChoosePlatform();
     cApplication application(argc, argv);
@@ -92,8 +95,10 @@ int Run(int argc, char** argv) {
     const cFolderHints hints = ReadFolderHints();
     const std::string applicationPath = FindApplicationFolder(hints);
     cLinuxFiles files;
-    application.Guard(
-        [&] { FillApplicationFolder(files, applicationPath, FindInstalledFolder(hints.programFolder)); });
+    bool isNew = false;
+    application.Guard([&] {
+        isNew = FillApplicationFolder(files, applicationPath, FindInstalledFolder(hints.programFolder));
+    });
 
     const cQtLocale locale;
     cIni ini(files, applicationPath);
@@ -112,6 +117,13 @@ int Run(int argc, char** argv) {
     cPopupWidgetMaker popups(windows);
     cQtScreen screen;
     cQtMessageBox messageBox(kProductName);
+    if (const auto why = WhyElsewhere(hints)) {
+        std::fprintf(stderr, "vigrel-receiver: %s\n", WithPathsToUtf8(*why).c_str());
+        // Once: later starts find the folder in use.
+        if (isNew && cApplication::platformName() != "offscreen") {
+            messageBox.Show(*why, eMessageIcon::Warning, eMessageButtons::Ok);
+        }
+    }
     cQtClipboard clipboard;
     cQtWaveDevice waveDevice(NativePath);
     cTonePlayer tone;

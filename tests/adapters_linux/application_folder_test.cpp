@@ -1,9 +1,15 @@
 #include "adapters/linux/application_folder.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <functional>
 
 #include "adapters/linux/linux_files.h"
 #include "common/failure.h"
+#include "common/path_text.h"
 #include "support/temporary_folder.h"
 
 namespace vigrel {
@@ -59,6 +65,28 @@ TEST_F(ApplicationFolder, AFreshFolderIsFilledFromTheInstallation) {
     EXPECT_EQ(files.ReadFile(folder + "Sounds\\alarm.wav"), "RIFF");
 }
 
+TEST_F(ApplicationFolder, TheFolderMayBeNamedInAnyScript) {
+    for (const char* name : {"иван", "Łódź", "日本", "a\\b", "Kn\xE4pp", "?"}) {
+        const std::filesystem::path native = data.Path() / name;
+        hints.variable = PathText(native.string());
+        const std::string folder = FindApplicationFolder(hints);
+        FillApplicationFolder(files, folder, "");
+        files.WriteFile(folder + "VigrelReceiver.INI", "[General]", false);
+        EXPECT_TRUE(std::filesystem::exists(native / "VigrelReceiver.INI")) << native;
+        EXPECT_EQ(files.ReadFile(folder + "VIGRELRECEIVER.ini"), "[General]");
+    }
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(data.Path()), {}), 6);
+}
+
+TEST_F(ApplicationFolder, AFailureNamesTheFolderInItsOwnScript) {
+    Put(other, "file", "");
+    const std::string native = (other.Path() / "file" / "иван").string();
+    const auto failure = CatchFailure([&] { FillApplicationFolder(files, PathText(native) + "\\", ""); });
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(WithPathsToUtf8(failure->what()),
+              "The application folder " + native + "/ can't be made: Not a directory");
+}
+
 TEST_F(ApplicationFolder, AFolderInUseIsLeftAlone) {
     Put(other, "Templates/VigrelReceiver.oni", "new");
     Put(other, "Vigrel_Texts.044", "new");
@@ -66,6 +94,51 @@ TEST_F(ApplicationFolder, AFolderInUseIsLeftAlone) {
     FillApplicationFolder(files, data.Folder(), other.Path().string());
     EXPECT_FALSE(files.FileExists(data.Folder() + "Vigrel_Texts.044"));
     EXPECT_EQ(files.ReadFile(data.Folder() + "VigrelReceiver.INI"), "mine");
+}
+
+TEST_F(ApplicationFolder, ProgramsAreNotCopied) {
+    Put(other, "Templates/VigrelReceiver.oni", "[General]");
+    Put(other, "Vigrel_Texts.044", "0=English");
+    Put(other, "vigrel-receiver", "program");
+    Put(other, "README.txt", "x");
+    EXPECT_TRUE(FillApplicationFolder(files, data.Folder(), other.Path().string()));
+    EXPECT_FALSE(files.FileExists(data.Folder() + "vigrel-receiver"));
+    EXPECT_EQ(files.ListFiles(data.Folder(), "*"), std::vector<std::string>{"Vigrel_Texts.044"});
+    EXPECT_FALSE(FillApplicationFolder(files, data.Folder(), other.Path().string()));
+}
+
+TEST_F(ApplicationFolder, AConfigurationThatCannotBeReadIsAFailureNotAnEmptyOne) {
+    ASSERT_EQ(mkfifo((other.Path() / "vigrelreceiver.INI").c_str(), 0666), 0);
+    const auto failure = CatchFailure([&] { FillApplicationFolder(files, other.Folder(), ""); });
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(std::string(failure->what()), other.Folder() + "vigrelreceiver.INI: no ordinary file");
+}
+
+// Whether the call is true for a user who owns nothing here.
+bool AsStranger(const std::function<bool()>& call) {
+    constexpr uid_t kNobody = 65534;
+    const pid_t process = fork();
+    if (process == 0) {
+        // Whoever isn't root is no stranger to the test's folders; their mode keeps him out all the same.
+        static_cast<void>(geteuid() == 0 && setuid(kNobody) != 0);
+        _exit(call() ? 1 : 0);
+    }
+    int status = 0;
+    waitpid(process, &status, 0);
+    return WIFEXITED(status) && WEXITSTATUS(status) == 1;
+}
+
+TEST_F(ApplicationFolder, APortableInstallationThatCannotBeWrittenSaysWhereTheFilesAre) {
+    EXPECT_EQ(WhyElsewhere(hints), std::nullopt);
+    Put(program, "Templates/VigrelReceiver.oni", "[General]");
+    EXPECT_EQ(WhyElsewhere(hints), std::nullopt);
+    std::filesystem::permissions(program.Path(), std::filesystem::perms{0555});
+    const std::string expected = program.Path().string() +
+                                 " can't be written. The station keeps its files in " + data.Path().string() +
+                                 "/VigrelReceiver/";
+    EXPECT_TRUE(AsStranger([&] { return WhyElsewhere(hints) == expected; }));
+    hints.variable = other.Path().string();
+    EXPECT_TRUE(AsStranger([&] { return WhyElsewhere(hints) == std::nullopt; }));
 }
 
 TEST_F(ApplicationFolder, WithoutAnInstallationTheFolderIsMadeEmpty) {

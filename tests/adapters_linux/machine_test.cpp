@@ -1,4 +1,7 @@
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -8,7 +11,9 @@
 #include <optional>
 #include <string>
 
+#include "adapters/linux/file_rights.h"
 #include "adapters/linux/folder_lock.h"
+#include "adapters/linux/linux_files.h"
 #include "adapters/linux/local_running_apps.h"
 #include "adapters/linux/standard_random.h"
 #include "adapters/linux/system_clock.h"
@@ -130,6 +135,50 @@ TEST(FolderLock, TwoFoldersAreTwoStations) {
     cFolderLock second(b.Folder());
     EXPECT_FALSE(first.AnotherIsRunning());
     EXPECT_FALSE(second.AnotherIsRunning());
+}
+
+TEST(FolderLock, WhoMayOnlyReadTheFolderCannotHoldIt) {
+    cTemporaryFolder folder;
+    cFolderLock(folder.Folder()).AnotherIsRunning();
+    // What everybody could lock who can read.
+    const cFileHandle opened(open(folder.Path().c_str(), O_RDONLY));
+    const cFileHandle file(open((folder.Path() / cFolderLock::kFile).c_str(), O_RDONLY));
+    ASSERT_EQ(flock(opened.Get(), LOCK_EX | LOCK_NB), 0);
+    ASSERT_EQ(flock(file.Get(), LOCK_EX | LOCK_NB), 0);
+    struct flock lock {};
+    lock.l_type = F_WRLCK;
+    EXPECT_NE(fcntl(file.Get(), F_OFD_SETLK, &lock), 0);
+    cFolderLock station(folder.Folder());
+    EXPECT_FALSE(station.AnotherIsRunning());
+}
+
+TEST(FolderLock, ALinkInItsPlaceIsNotFollowed) {
+    cTemporaryFolder folder, other;
+    std::filesystem::create_symlink(other.Path() / "made", folder.Path() / cFolderLock::kFile);
+    cFolderLock station(folder.Folder());
+    EXPECT_FALSE(station.AnotherIsRunning());
+    EXPECT_TRUE(std::filesystem::is_empty(other.Path()));
+}
+
+// The mode of a file made under a umask after KeepFilesPrivate.
+mode_t ModeOfNewFile(mode_t given) {
+    cTemporaryFolder folder;
+    const mode_t before = umask(given);
+    KeepFilesPrivate();
+    cLinuxFiles().AppendFile(folder.Folder() + "a", "x");
+    umask(before);
+    struct stat status {};
+    stat((folder.Path() / "a").c_str(), &status);
+    return status.st_mode & 0777;
+}
+
+TEST(FileRights, NewFilesAreForTheirOwnerUnlessTheUmaskShutsOthersOut) {
+    EXPECT_EQ(ModeOfNewFile(0022), 0600u);
+    EXPECT_EQ(ModeOfNewFile(0000), 0600u);
+    EXPECT_EQ(ModeOfNewFile(0002), 0600u);
+    EXPECT_EQ(ModeOfNewFile(0077), 0600u);
+    EXPECT_EQ(ModeOfNewFile(0027), 0640u);
+    EXPECT_EQ(ModeOfNewFile(0007), 0660u);
 }
 
 TEST(FolderLock, AProgramThatWasKilledLeavesTheFolderFree) {

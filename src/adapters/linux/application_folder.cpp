@@ -13,6 +13,7 @@
 #include "common/failure.h"
 #include "common/file_procedures.h"
 #include "common/ini.h"
+#include "common/path_text.h"
 #include "common/texts.h"
 
 namespace vigrel {
@@ -23,7 +24,7 @@ namespace fs = std::filesystem;
 std::optional<std::string> Variable(const char* name) {
     const char* value = std::getenv(name);
     if (value == nullptr || *value == '\0') return std::nullopt;
-    return Utf8ToCodePage(value);
+    return PathText(value);
 }
 
 std::string WithBackslash(std::string folder) {
@@ -38,9 +39,12 @@ bool IsFolder(const std::string& path) {
 }
 
 bool IsPortable(const std::string& folder) {
-    const bool marked =
-        IsFolder(folder + "\\Templates") || cLinuxFiles().FileExists(folder + "\\" + std::string(kIniFile));
-    return marked && access(NativePath(folder).c_str(), W_OK) == 0;
+    return IsFolder(folder + "\\Templates") ||
+           cLinuxFiles().FileExists(folder + "\\" + std::string(kIniFile));
+}
+
+bool IsWritable(const std::string& folder) {
+    return access(NativePath(folder).c_str(), W_OK) == 0;
 }
 
 bool IsApplicationFolder(const cFiles& files, const std::string& applicationPath) {
@@ -51,9 +55,8 @@ bool IsApplicationFolder(const cFiles& files, const std::string& applicationPath
 
 [[noreturn]] void RefuseFolder(const std::string& applicationPath, const char* what,
                                const std::error_code& reason) {
-    throw cFailure(eFailure::PathAccess,
-                   Utf8ToCodePage("The application folder " + NativePath(applicationPath) + " can't be " +
-                                  what + ": " + reason.message()));
+    throw cFailure(eFailure::PathAccess, "The application folder " + PathText(NativePath(applicationPath)) +
+                                             " can't be " + what + ": " + Utf8ToCodePage(reason.message()));
 }
 
 void MakeApplicationFolder(const std::string& applicationPath) {
@@ -65,8 +68,19 @@ void MakeApplicationFolder(const std::string& applicationPath) {
     RefuseFolder(applicationPath, "read", std::error_code(errno, std::generic_category()));
 }
 
-// The folders of an installation, relative to its root, with what is copied from each.
-constexpr std::array<std::string_view, 3> kFolders{"", "Templates\\", "Sounds\\"};
+// A configuration that can't be read must not be taken for one that says nothing.
+void RequireReadableConfiguration(const cFiles& files, const std::string& applicationPath) {
+    for (const auto& [name, reason] : files.ListUnreadable(applicationPath, kIniFile)) {
+        throw cFailure(eFailure::PathAccess, applicationPath + name + ": " + reason);
+    }
+}
+
+// What is copied of an installation: never the programs, which can lie there too.
+struct cDelivered {
+    std::string_view folder, mask;
+};
+constexpr std::array<cDelivered, 3> kDelivered{
+    {{"", "Vigrel_Texts.*"}, {"Templates\\", "*"}, {"Sounds\\", "*"}}};
 
 }  // namespace
 
@@ -74,7 +88,7 @@ cFolderHints ReadFolderHints() {
     cFolderHints hints;
     hints.variable = Variable("VIGREL_APPLICATION_PATH");
     std::error_code error;
-    hints.programFolder = Utf8ToCodePage(fs::read_symlink("/proc/self/exe", error).parent_path().string());
+    hints.programFolder = PathText(fs::read_symlink("/proc/self/exe", error).parent_path().string());
     hints.userDataFolder =
         Variable("XDG_DATA_HOME").value_or(Variable("HOME").value_or("") + "/.local/share");
     return hints;
@@ -83,38 +97,48 @@ cFolderHints ReadFolderHints() {
 std::string FindApplicationFolder(const cFolderHints& hints) {
     if (hints.variable) {
         std::error_code error;
-        const fs::path absolute = fs::absolute(CodePageToUtf8(*hints.variable), error);
-        return WithBackslash(error ? *hints.variable : Utf8ToCodePage(absolute.lexically_normal().string()));
+        const fs::path absolute = fs::absolute(PathBytes(*hints.variable), error);
+        return WithBackslash(error ? *hints.variable : PathText(absolute.lexically_normal().string()));
     }
-    if (IsPortable(hints.programFolder)) return WithBackslash(hints.programFolder);
+    if (IsPortable(hints.programFolder) && IsWritable(hints.programFolder))
+        return WithBackslash(hints.programFolder);
     return WithBackslash(hints.userDataFolder + "/VigrelReceiver");
 }
 
+std::optional<std::string> WhyElsewhere(const cFolderHints& hints) {
+    if (hints.variable || !IsPortable(hints.programFolder) || IsWritable(hints.programFolder))
+        return std::nullopt;
+    return hints.programFolder + " can't be written. The station keeps its files in " +
+           PathText(NativePath(FindApplicationFolder(hints)));
+}
+
 std::string FindInstalledFolder(const std::string& programFolder) {
-    const fs::path program = CodePageToUtf8(programFolder);
+    const fs::path program = PathBytes(programFolder);
     for (const fs::path& candidate : {program.parent_path() / "share/vigrel-receiver", program}) {
         std::error_code error;
-        if (fs::is_directory(candidate / "Templates", error)) return Utf8ToCodePage(candidate.string());
+        if (fs::is_directory(candidate / "Templates", error)) return PathText(candidate.string());
     }
     return {};
 }
 
-void FillApplicationFolder(cFiles& files, const std::string& applicationPath,
+bool FillApplicationFolder(cFiles& files, const std::string& applicationPath,
                            const std::string& installedFolder) {
     MakeApplicationFolder(applicationPath);
-    if (IsApplicationFolder(files, applicationPath)) return;
-    if (installedFolder.empty()) return;
+    RequireReadableConfiguration(files, applicationPath);
+    if (IsApplicationFolder(files, applicationPath)) return false;
+    if (installedFolder.empty()) return true;
     const std::string source = WithBackslash(installedFolder);
-    for (const std::string_view folder : kFolders) {
+    for (const auto& [folder, mask] : kDelivered) {
         const std::string from = source + std::string(folder);
         const std::string to = applicationPath + std::string(folder);
         std::error_code error;
         if (!folder.empty()) fs::create_directories(NativePath(to), error);
-        for (const std::string& name : files.ListFiles(from, "*")) {
+        for (const std::string& name : files.ListFiles(from, mask)) {
             if (files.FileExists(to + name)) continue;
             SkipFailure([&] { ReplaceFile(files, to + name, files.ReadFile(from + name)); });
         }
     }
+    return true;
 }
 
 }  // namespace vigrel

@@ -13,7 +13,7 @@ struct cFolderHints {
     std::string programFolder;            // where the running program lies
     std::string userDataFolder;           // such as ~/.local/share
 };
-// Reads them from the process's surroundings. Text in the code page.
+// Reads them from the process's surroundings. Paths as in common/path_text.h.
 cFolderHints ReadFolderHints();
 
 // The application folder, with a trailing backslash: the variable's; else the program's own folder when that
@@ -21,15 +21,20 @@ cFolderHints ReadFolderHints();
 // "VigrelReceiver" under the user's data folder.
 std::string FindApplicationFolder(const cFolderHints& hints);
 
+// What to tell a user whose programs lie in a portable installation that can't be written, such as on a
+// read-only medium: why the application folder is another one, and which. Nothing otherwise.
+std::optional<std::string> WhyElsewhere(const cFolderHints& hints);
+
 // Where the templates and texts of the installation lie: beside the program (build folder, portable
 // installation) or under the usual prefix; empty when they are nowhere.
 std::string FindInstalledFolder(const std::string& programFolder);
 
 // Makes the folder with all folders above it, and copies to it each installed file (templates, texts, sounds)
 // that it doesn't hold. Nothing is ever overwritten. A file that can't be copied is skipped: the start-up
-// tells of what is missing. Throws cFailure, with the folder and the reason, when there is no folder to start
-// in: it can't be made, or not be read.
-void FillApplicationFolder(cFiles& files, const std::string& applicationPath,
+// tells of what is missing. True when it was no application folder before. Throws cFailure, with the name and
+// the reason, when there is no folder to start in (it can't be made, or not be read), or the configuration in
+// it can't be read.
+bool FillApplicationFolder(cFiles& files, const std::string& applicationPath,
                            const std::string& installedFolder);
 
 }  // namespace vigrel

@@ -2,24 +2,24 @@
 
 #include <string>
 
+#include "adapters/linux/file_handle.h"
 #include "platform/single_instance.h"
 
 namespace vigrel {
 
-// One program per application folder, by a lock on the folder itself: it leaves nothing behind, and the
-// operating system takes it back however the program ends. A folder on a file system without locks counts as
-// free.
+// One program per application folder, by a lock on a file in it that only who may write it can hold. The
+// operating system takes the lock back however the program ends; the file stays. A folder that can't be
+// written, or is on a file system without locks, counts as free.
 class cFolderLock : public cSingleInstance {
   public:
+    static constexpr const char* kFile = "VigrelReceiver.lock";
+
     explicit cFolderLock(std::string folder) : m_Folder(std::move(folder)) {}
-    ~cFolderLock() override;
-    cFolderLock(const cFolderLock&) = delete;
-    cFolderLock& operator=(const cFolderLock&) = delete;
     bool AnotherIsRunning() override;
 
   private:
     std::string m_Folder;
-    int m_Descriptor = -1;
+    cFileHandle m_File;
 };
 
 }  // namespace vigrel
