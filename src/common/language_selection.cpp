@@ -1,5 +1,8 @@
 #include "common/language_selection.h"
 
+#include <algorithm>
+#include <vector>
+
 #include "common/code_page.h"
 #include "common/failure.h"
 #include "common/file_procedures.h"
@@ -34,8 +37,12 @@ void cLanguageSelection::Load() {
     m_Languages.clear();
     m_Selected = -1;
     std::int16_t number = 0;
-    for (const std::string& name :
-         m_Files.ListFiles(m_Ini.ApplicationPath(), std::string(kTextFile) + "???")) {
+    // A folder is listed in no order of its own.
+    std::vector<std::string> names =
+        m_Files.ListFiles(m_Ini.ApplicationPath(), std::string(kTextFile) + "???");
+    std::sort(names.begin(), names.end(),
+              [](const auto& a, const auto& b) { return ToUpper(a) < ToUpper(b); });
+    for (const std::string& name : names) {
         const std::string extension = name.substr(name.find('.') + 1);
         if (!IsNumeric(extension)) continue;
         // An extension such as 9e9 is a number, and too large for one: the file goes by the number before it.

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "common/texts.h"
 #include "support/fake_files.h"
 #include "support/fake_locale.h"
@@ -38,6 +40,30 @@ TEST_F(LanguageSelection, ListsTheLanguagesOfTheApplicationFolder) {
     Put("044", "0=English\r\n10000=Alarm Receiver\r\n");
     Put("049", "; a heading\r\n10000=x\r\n0=Deutsch\r\n");
     EXPECT_EQ(Loaded(), "44 English, 49 Deutsch");
+}
+
+// A file system lists a folder as it likes.
+class cBackwardFiles : public testing::cFakeFiles {
+  public:
+    std::vector<std::string> ListFiles(std::string_view folder, std::string_view mask) const override {
+        std::vector<std::string> names = cFakeFiles::ListFiles(folder, mask);
+        std::reverse(names.begin(), names.end());
+        return names;
+    }
+};
+
+TEST_F(LanguageSelection, TheLanguagesStandInTheOrderOfTheirNumbersHoweverTheFolderIsListed) {
+    cBackwardFiles files;
+    files.PutFolder("C:\\App\\");
+    for (const char* name : {"Vigrel_Texts.049", "VIGREL_TEXTS.046", "vigrel_texts.044"}) {
+        files.Put("C:\\App\\" + std::string(name), "0=" + std::string(name) + "\r\n");
+    }
+    cIni ini{files, "C:\\App\\"};
+    cLanguageSelection selection{files, ini, m_Locale};
+    selection.Load();
+    std::string numbers;
+    for (const auto& language : selection.Languages()) numbers += std::to_string(language.number) + " ";
+    EXPECT_EQ(numbers, "44 46 49 ");
 }
 
 TEST_F(LanguageSelection, AnExtensionThatIsNoNumberIsNoLanguage) {
