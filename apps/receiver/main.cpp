@@ -2,7 +2,6 @@
 
 #include <QIcon>
 #include <QScreen>
-#include <QTimer>
 #include <cstdio>
 #include <string>
 #include <string_view>
@@ -25,7 +24,6 @@
 #include "adapters/qt/qt_wave_device.h"
 #include "adapters/qt/stop_signals.h"
 #include "adapters/qt/tone_player.h"
-#include "common/failure.h"
 #include "common/path_text.h"
 #include "common/printable.h"
 #include "common/settings.h"
@@ -70,35 +68,12 @@ cFirstStartHints FirstStartHints() {
             screen.height()};
 }
 
-void ConnectWindow(cMainWindow& window, cVigrelReceiverMain& receiver) {
-    window.OnActivate = [&] { receiver.Form_Activate(); };
-    window.OnResize = [&] { receiver.Form_Resize(); };
-    window.OnQueryUnload = [&](eCloseReason reason) { return receiver.Form_QueryUnload(reason); };
-    window.OnUnload = [&] { receiver.Form_Unload(); };
-    window.OnMenuFileOpens = [&] { receiver.Menu_File(); };
-    window.OnMenuStopSound = [&] { receiver.Menu_StopSound(); };
-    window.OnMenuStopLight = [&] { receiver.Menu_StopLight(); };
-    window.OnMenuAckAll = [&] { receiver.Menu_AckAll(); };
-    window.OnMenuExit = [&] { SkipFailure([&] { window.Close(); }); };
-    window.OnMenuAckAllAndClosePopups = [&] { receiver.Menu_AckAll_AndClosePopups(); };
-}
-
-int Run(int argc, char** argv) {
-    KeepFilesPrivate();
-    const std::string commandLine = CommandLine(argc, argv);
-    cApplication::ChoosePlatform();
-    cApplication application(argc, argv);
-    application.SetMessageTitle(kProductName);
-    // Of every window, message boxes included.
-    cApplication::setWindowIcon(QIcon(":/icons/vigrel-receiver.svg"));
-
+int RunStation(cApplication& application, const std::string& commandLine) {
     const cFolderHints hints = ReadFolderHints();
     const std::string applicationPath = FindApplicationFolder(hints);
     cLinuxFiles files;
-    bool isNew = false;
-    application.Guard([&] {
-        isNew = FillApplicationFolder(files, applicationPath, FindInstalledFolder(hints.programFolder));
-    });
+    const bool isNew =
+        FillApplicationFolder(files, applicationPath, FindInstalledFolder(hints.programFolder));
 
     const cQtLocale locale;
     cIni ini(files, applicationPath);
@@ -140,7 +115,8 @@ int Run(int argc, char** argv) {
         std::fprintf(stderr, "vigrel-receiver: %s\n", Printable(text).c_str());
     });
     const cQtSettingStore settingStore;
-    cQtOtherWindows otherWindows({files, clock, locale, screen, settingStore, windows}, applicationPath);
+    cQtOtherWindows otherWindows({files, clock, locale, screen, settingStore, windows, application},
+                                 applicationPath);
     otherWindows.OnLanguageChosen = [&] { firstStart.FollowChoice(); };
 
     cStreamStatus status(stderr, "vigrel-receiver");
@@ -151,26 +127,27 @@ int Run(int argc, char** argv) {
          messageBox,     clipboard,   beeper,         waveDevice,   trayArea,
          signalLight,    runningApps, printerPorts,   otherWindows, status},
         applicationPath, commandLine);
-    ConnectWindow(mainWindow, receiver);
     cStopSignals stopSignals;
-    bool loaded = false, stopped = false;
-    stopSignals.OnStop = [&] {
-        stopped = true;
-        loaded ? mainWindow.EndSession() : application.RefuseDialogs();
-    };
-    application.OnSessionEnds = stopSignals.OnStop;
+    stopSignals.OnStop = [&](eCloseReason reason) { receiver.Stop(reason); };
+    application.OnSessionEnds = [&] { receiver.Stop(eCloseReason::SessionEnd); };
 
     eStartUp started = eStartUp::NoLanguage;
-    application.Guard([&] {
-        started = receiver.Form_Load();
-        if (started == eStartUp::Running) mainWindow.Show();
-    });
-    loaded = true;
-    application.AllowDialogs();
-    // Who stopped it knows; otherwise the operator has been told why.
-    if (started != eStartUp::Running) return stopped ? 0 : 1;
-    if (stopped) QTimer::singleShot(0, &mainWindow, [&] { mainWindow.EndSession(); });
-    return cApplication::exec();
+    // While what the station consists of is still there for the message of a failure to be shown over.
+    application.Guard([&] { started = receiver.Start(); });
+    if (started == eStartUp::Running) return cApplication::exec();
+    return started == eStartUp::Stopped ? 0 : 1;
+}
+
+int Run(int argc, char** argv) {
+    KeepFilesPrivate();
+    cApplication::ChoosePlatform();
+    cApplication application(argc, argv);
+    application.SetMessageTitle(kProductName);
+    // Of every window, message boxes included.
+    cApplication::setWindowIcon(QIcon(":/icons/vigrel-receiver.svg"));
+    int code = 1;
+    application.Guard([&] { code = RunStation(application, CommandLine(argc, argv)); });
+    return code;
 }
 
 }  // namespace

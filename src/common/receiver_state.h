@@ -7,7 +7,6 @@ namespace vigrel {
 // What several rooms of the receiver share while it runs. One object per receiver, built where the receiver
 // is.
 struct cReceiverState {
-    bool m_StartingUp = false;
     bool m_DebugMode = false;    // the protocol trace runs
     bool m_ListChanged = false;  // the next tick of Timer_Play recounts and redraws
     std::int16_t m_SoundState =

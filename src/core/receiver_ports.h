@@ -39,6 +39,12 @@ class cOtherWindows {
     // A text that stays in sight until the operator puts it away or another one takes its place; empty: none.
     // Takes no keyboard.
     virtual void ShowNotice(std::string_view text) = 0;
+
+    // Closes what asks the operator for an answer, boxes included, now and from now on, as if it had been
+    // closed unanswered: the program is to end.
+    virtual void RefuseDialogs() = 0;
+    // Dialogs are asked again.
+    virtual void AllowDialogs() = 0;
 };
 
 // Everything that the receiver needs of the machine. What is referred to outlives the receiver.

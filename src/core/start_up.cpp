@@ -21,9 +21,8 @@ bool cVigrelReceiverMain::HasSwitch(std::string_view name) const {
     return m_CommandLine.find(name) != std::string::npos;
 }
 
-eStartUp cVigrelReceiverMain::Form_Load() {
+eStartUp cVigrelReceiverMain::LoadInOrder() {
     m_Ports.random.Seed(m_Ports.clock.Now());
-    m_State.m_StartingUp = true;
     PrepareFolders();
     if (!LoadLanguage()) return eStartUp::NoLanguage;
     m_Log.WriteLog(std::string(kSeparatorLength, '-'));
@@ -53,7 +52,6 @@ eStartUp cVigrelReceiverMain::Form_Load() {
     m_LastWindowState = m_Ports.mainWindow.State();
     m_Log.WriteLog(m_Texts.GetText(10011));
     m_Ports.runningApps.SetRunningApps(kApplication, -1);
-    m_State.m_StartingUp = false;
     return eStartUp::Running;
 }
 

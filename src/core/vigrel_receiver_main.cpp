@@ -61,25 +61,6 @@ cVigrelReceiverMain::cVigrelReceiverMain(const cReceiverPorts& ports, std::strin
     ConnectEvents();
 }
 
-void cVigrelReceiverMain::ConnectEvents() {
-    m_Link.ProcessRecord = [this](const std::string& line) { m_Decoder.ProcessRecord(line); };
-    m_Link.WriteTrace = [this](std::string_view text, std::int16_t kind) {
-        m_Ports.otherWindows.WriteTrace(text, kind);
-    };
-    m_Ports.timerKeepAlive.OnTick = [this] { Timer_KeepAlive_Tick(); };
-    m_Ports.timerPlay.OnTick = [this] { Timer_Play_Tick(); };
-    m_Ports.trayArea.OnHostGone = [this] { ShowWithoutTray(); };
-    cReportList& list = m_Ports.list;
-    list.OnRowDoubleClick = [this](RecordId row) { m_Acknowledgement.AckAlarm(row, nullptr); };
-    list.OnBeforeDrawRow = [this](RecordId row, cReportList::cFontStyle& style) {
-        m_View.BeforeDrawRow(row, style);
-    };
-    list.OnRowHeight = [this] { return m_View.RowHeight(); };
-    list.OnColumnWidthChanged = [this](int column) { m_View.ColumnWidthChanged(column); };
-    list.OnKeyDown = [this](int keyCode, int shift) { ListKeyDown(keyCode, shift); };
-    list.OnFocusChange = [this] { m_View.FocusChange(); };
-}
-
 void cVigrelReceiverMain::ListKeyDown(int keyCode, int shift) {
     if (keyCode == kKeyEscape) m_Ports.list.ClearSelection();
     if (keyCode == kKeyF9) Menu_AckAll();
@@ -167,6 +148,7 @@ void cVigrelReceiverMain::ShowWithoutTray() {
 }
 
 bool cVigrelReceiverMain::Form_QueryUnload(eCloseReason unloadMode) {
+    if (!m_Life.Running()) return false;
     const bool sessionEnds = unloadMode == eCloseReason::SessionEnd;
     if (!sessionEnds) {
         if (m_Settings.m_DisableShutdown) return false;
@@ -174,7 +156,10 @@ bool cVigrelReceiverMain::Form_QueryUnload(eCloseReason unloadMode) {
             eMessageAnswer::No) {
             return false;
         }
+        // The session can end while the question stands.
+        if (!m_Life.Running()) return false;
     }
+    End();
     m_Log.WriteLog(m_Texts.GetText(sessionEnds ? 10020 : 10021));
     return true;
 }

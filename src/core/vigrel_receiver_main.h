@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "categories/category_specific_setting.h"
@@ -10,6 +11,7 @@
 #include "common/receiver_state.h"
 #include "common/settings.h"
 #include "common/texts.h"
+#include "core/life.h"
 #include "core/receiver_ports.h"
 #include "core/unsaved_notice.h"
 #include "events/acknowledgement.h"
@@ -35,6 +37,7 @@ enum class eStartUp {
     SecondInstance,
     NoSuiteLibrary,
     PortTaken,
+    Stopped,  // told to end while it started
 };
 
 // The receiver: its main window's events, and through them everything that it does. The name is that of its
@@ -46,10 +49,19 @@ class cVigrelReceiverMain {
                         const std::string& commandLine);
     cVigrelReceiverMain(const cVigrelReceiverMain&) = delete;
     cVigrelReceiverMain& operator=(const cVigrelReceiverMain&) = delete;
+    // Lets go of the machine's events, which outlive the receiver.
+    ~cVigrelReceiverMain();
+
+    // Loads the receiver and shows its window. Ended in any other way than Running, the operator has been
+    // told, or it was the operator who stopped it, and the program is to end without more ado. A failure that
+    // has no answer of its own is thrown as cFailure.
+    eStartUp Start();
+    // The program is told to end from outside its windows: by a signal, or by the end of the desktop's
+    // session. While it starts, it gives up asking and obeys as soon as it can.
+    void Stop(eCloseReason reason);
 
     // --- the window's events
-    // Starts the receiver. Ended in any other way than Running, the operator has been told and the program is
-    // to end without more ado. A failure that has no answer of its own is thrown as cFailure.
+    // The start up to the open port. From its good end on, and until a close is accepted, events count.
     eStartUp Form_Load();
     void Form_Activate();
     void Form_Resize();
@@ -75,8 +87,15 @@ class cVigrelReceiverMain {
 
     bool HasSwitch(std::string_view name) const;
     void ConnectEvents();
+    void ConnectList();
+    void ConnectMenus();
+    template <class Visit>
+    void ForEachEvent(Visit visit);
+    void Run();
+    void End();
 
     // The steps of the start, in their order.
+    eStartUp LoadInOrder();
     void PrepareFolders();
     bool LoadLanguage();
     void ReadCategories(std::int16_t devices);
@@ -99,6 +118,8 @@ class cVigrelReceiverMain {
     void ShowWithoutTray();
 
     cReceiverPorts m_Ports;
+    cLife m_Life;
+    std::optional<eCloseReason> m_StopWish;  // told while it started
     std::string m_ApplicationPath;
     std::string m_CommandLine;  // in upper case
 

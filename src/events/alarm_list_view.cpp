@@ -191,7 +191,7 @@ int cAlarmListView::RowHeight() const {
 }
 
 void cAlarmListView::ColumnWidthChanged(int column) {
-    if (m_Services.state.m_StartingUp || !m_Services.settings.m_ColumnWidthStore) return;
+    if (!m_Services.settings.m_ColumnWidthStore) return;
     m_Services.ini.PutIniString(m_Services.list.ColumnTag(column), "ColumnWidth",
                                 std::to_string(m_Services.list.ColumnWidth(column)));
 }

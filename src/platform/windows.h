@@ -11,7 +11,13 @@ namespace vigrel {
 enum class eWindowState : std::int16_t { Normal = 0, Minimised = 1, Maximised = 2 };
 
 // Reason of a close, as a window's close query gets it. Other values stand for other causes.
-enum class eCloseReason : std::int16_t { Control = 0, Code = 1, SessionEnd = 2, TaskManager = 3 };
+enum class eCloseReason : std::int16_t {
+    Control = 0,
+    Code = 1,
+    SessionEnd = 2,
+    TaskManager = 3,
+    Interrupt = 4,  // somebody at the terminal that the program was started from
+};
 
 // One window. Lengths and positions are in twips (1440 to the inch, 15 to a pixel at 100 % scale) and speak
 // of the frame unless named inner. Every method can throw cFailure when the window is gone.
@@ -44,9 +50,11 @@ class cWindow {
     virtual void SetFocus() = 0;
     // Over all ordinary windows, or back among them.
     virtual void SetTopMost(bool topMost) = 0;
-    // Runs the close query with reason Code and, when it isn't refused, the unload step; then the window is
-    // no longer among the open ones, and its memory lives until the event loop is reached again. Throws
-    // cFailure when the close was refused.
+    // Runs the close query with the reason and, when it isn't refused, the unload step; then the window is no
+    // longer among the open ones, and its memory lives until the event loop is reached again. Whether the
+    // window is closed.
+    virtual bool CloseFor(eCloseReason reason) = 0;
+    // Closes for the reason Code. Throws cFailure when the close was refused.
     virtual void Close() = 0;
 
     // --- events
@@ -109,6 +117,15 @@ class cMenus {
     virtual void SetCaption(std::string_view entry, std::string_view caption) = 0;
     virtual void SetEnabled(std::string_view entry, bool enabled) = 0;
     virtual void SetVisible(std::string_view entry, bool visible) = 0;
+
+    // --- events: the menu opens, an entry was chosen
+    std::function<void()> OnMenuFileOpens;
+    std::function<void()> OnMenuStopSound;
+    std::function<void()> OnMenuStopLight;
+    std::function<void()> OnMenuAckAll;
+    std::function<void()> OnMenuAckAllAndClosePopups;
+    std::function<void()> OnMenuExit;
+    std::function<void()> OnMenuSimAlarm;
 };
 
 }  // namespace vigrel

@@ -96,9 +96,13 @@ class cWidgetWindow : public Widget, public Port {
         this->raise();
         FlushToScreen();
     }
-    void Close() override {
-        if (!TryClose(eCloseReason::Code)) throw cFailure(eFailure::InvalidCall, m_Name + ": not closed");
+    bool CloseFor(eCloseReason reason) override {
+        if (!TryClose(reason)) return false;
         this->hide();
+        return true;
+    }
+    void Close() override {
+        if (!CloseFor(eCloseReason::Code)) throw cFailure(eFailure::InvalidCall, m_Name + ": not closed");
     }
 
   protected:

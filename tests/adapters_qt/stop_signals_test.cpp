@@ -13,7 +13,10 @@ TEST(StopSignals, ComeFromTheEventLoop) {
     for (const int signal : {SIGTERM, SIGHUP, SIGINT}) {
         cStopSignals stopSignals;
         int stops = 0;
-        stopSignals.OnStop = [&] { ++stops; };
+        stopSignals.OnStop = [&](eCloseReason reason) {
+            ++stops;
+            EXPECT_EQ(reason, signal == SIGINT ? eCloseReason::Interrupt : eCloseReason::SessionEnd);
+        };
         std::raise(signal);
         EXPECT_EQ(stops, 0);
         EXPECT_TRUE(WaitUntil([&] { return stops == 1; })) << signal;
@@ -23,7 +26,7 @@ TEST(StopSignals, ComeFromTheEventLoop) {
 TEST(StopSignals, ASecondOneIsToldToo) {
     cStopSignals stopSignals;
     int stops = 0;
-    stopSignals.OnStop = [&] { ++stops; };
+    stopSignals.OnStop = [&](eCloseReason) { ++stops; };
     std::raise(SIGTERM);
     std::raise(SIGTERM);
     EXPECT_TRUE(WaitUntil([&] { return stops == 2; }));
@@ -34,7 +37,7 @@ TEST(StopSignals, OneThatNobodyListensToIsForgotten) {
     std::raise(SIGTERM);
     RunEvents(20);
     int stops = 0;
-    stopSignals.OnStop = [&] { ++stops; };
+    stopSignals.OnStop = [&](eCloseReason) { ++stops; };
     RunEvents(20);
     EXPECT_EQ(stops, 0);
 }

@@ -58,7 +58,7 @@ TEST_F(Running, ClosedPopupsBringBackNoFileThatTheLimitTookAway) {
     Ini("Columns=StateIcon,t0\r\nMaxEvents=1\r\nViewPopupForm=1\r\nAckEventWhenPopupFormIsClosed=1\r\n");
     Start();
     for (const char* text : {"one", "two", "three"}) Send("PLC1", std::string("S1||") + text);
-    for (int popup = 1; popup <= 3; ++popup) popups[popup].CloseWith(eCloseReason::Control);
+    for (int popup = 1; popup <= 3; ++popup) popups[popup].CloseFor(eCloseReason::Control);
     EXPECT_EQ(AlarmFiles().size(), 1u);
     EXPECT_EQ(list.Rows().size(), 1u);
 }
@@ -298,7 +298,7 @@ TEST_F(Running, InThePauseOfARepeatTheTrayPartOfTheTickIsLeftOut) {
 TEST_F(Running, ClosingAsksAndNoKeepsTheStation) {
     Start();
     const std::string log = Log();
-    EXPECT_FALSE(mainWindow.CloseWith(eCloseReason::Control));
+    EXPECT_FALSE(mainWindow.CloseFor(eCloseReason::Control));
     EXPECT_EQ(messageBox.m_Shown, std::vector<std::string>{"question, yes/no: T10022"});
     EXPECT_EQ(Log(), log);
     EXPECT_TRUE(mainWindow.m_Open);
@@ -320,7 +320,7 @@ TEST_F(Running, AYesEndsTheStationInItsOrder) {
             transcript.Add("geometry saved");
     };
     messageBox.m_Answers = {eMessageAnswer::Yes};
-    EXPECT_TRUE(mainWindow.CloseWith(eCloseReason::Code));
+    EXPECT_TRUE(mainWindow.CloseFor(eCloseReason::Code));
     std::string steps = transcript.Text();
     const auto next = [&](const std::string& step) {
         const std::size_t found = steps.find(step);
@@ -354,7 +354,7 @@ TEST_F(Running, ClosingWithThreePopupsOpenClosesThemAndLeavesTheOtherWindowsUnto
         if (unloads == 1) receiver->Form_Unload();
     };
     transcript.Take();
-    EXPECT_TRUE(mainWindow.CloseWith(eCloseReason::SessionEnd));
+    EXPECT_TRUE(mainWindow.CloseFor(eCloseReason::SessionEnd));
     EXPECT_EQ(popups.Open(), "");
     EXPECT_EQ(receiver->State().m_PopupFormCount, 0);
     EXPECT_EQ(asked, 1);
@@ -368,7 +368,7 @@ TEST_F(Running, AForbiddenShutdownIsRefusedWithoutAQuestion) {
     const std::string log = Log();
     for (const eCloseReason reason : {eCloseReason::Control, eCloseReason::Code, eCloseReason::TaskManager,
                                       static_cast<eCloseReason>(5)}) {
-        EXPECT_FALSE(mainWindow.CloseWith(reason));
+        EXPECT_FALSE(mainWindow.CloseFor(reason));
     }
     EXPECT_TRUE(messageBox.m_Shown.empty());
     EXPECT_EQ(Log(), log);
@@ -377,7 +377,7 @@ TEST_F(Running, AForbiddenShutdownIsRefusedWithoutAQuestion) {
 TEST_F(Running, TheEndOfTheDesktopsSessionIsNeverQuestioned) {
     Ini("DisableShutdown=1\r\n");
     Start();
-    EXPECT_TRUE(mainWindow.CloseWith(eCloseReason::SessionEnd));
+    EXPECT_TRUE(mainWindow.CloseFor(eCloseReason::SessionEnd));
     EXPECT_TRUE(messageBox.m_Shown.empty());
     EXPECT_EQ(Log().substr(Log().size() - 7), "T10020\n");
 }
@@ -452,26 +452,14 @@ TEST_F(Running, APreventedMinimiseJumpsBackToTheStateBefore) {
 TEST_F(Running, APreventedMinimiseGoesBackToTheStateOfTheStart) {
     Ini("PreventMinimize=1\r\n");
     Make("/MAXIMIZE");
-    mainWindow.OnResize = nullptr;
     EXPECT_EQ(receiver->Form_Load(), eStartUp::Running);
     mainWindow.SetState(eWindowState::Minimised);
     receiver->Form_Resize();
     EXPECT_EQ(mainWindow.m_State, eWindowState::Maximised);
 }
 
-TEST_F(Running, APreventedMinimiseHasNoIconToGoBackTo) {
-    Ini("PreventMinimize=1\r\n");
-    Make("/MINIMIZE");
-    mainWindow.OnResize = nullptr;  // told only when the start is over
-    EXPECT_EQ(receiver->Form_Load(), eStartUp::Running);
-    EXPECT_EQ(mainWindow.m_State, eWindowState::Minimised);
-    receiver->Form_Resize();
-    EXPECT_EQ(mainWindow.m_State, eWindowState::Normal);
-}
-
 TEST_F(Running, APreventedMinimiseUndoesAMinimisedStart) {
     Ini("PreventMinimize=1\r\n");
-    mainWindow.m_Visible = true;
     EXPECT_EQ(Load("/MINIMIZE"), eStartUp::Running);
     EXPECT_EQ(mainWindow.m_State, eWindowState::Normal);
 }

@@ -23,9 +23,7 @@ class AlarmListView : public ::testing::Test, public cFakeStation {
         settings.m_TimeFormat = "hh:nn:ss";
         categories.ReadDefault(ini);
         categories.ReadCategories(files, ini);
-        state.m_StartingUp = true;
         view.SetUpColumns(settings);
-        state.m_StartingUp = false;
         view.SetSortOrder();
     }
     std::string Value(const AlarmPtr& alarm, int item) {
@@ -242,12 +240,9 @@ TEST_F(AlarmListView, AChangedWidthIsStoredUnderTheColumnsTag) {
     EXPECT_EQ(ini.GetIniString("t0", "ColumnWidth", ""), "333");
 }
 
-TEST_F(AlarmListView, NoWidthIsStoredWhileStartingUpOrWhenSwitchedOff) {
+TEST_F(AlarmListView, NoWidthIsStoredWhenSwitchedOff) {
     Start("[General]\r\nColumns=t0\r\n");
     list.OnColumnWidthChanged = [this](int column) { view.ColumnWidthChanged(column); };
-    state.m_StartingUp = true;
-    list.DragColumn(0, 333);
-    state.m_StartingUp = false;
     settings.m_ColumnWidthStore = false;
     list.DragColumn(0, 334);
     EXPECT_EQ(ini.GetIniString("t0", "ColumnWidth", "none"), "none");

@@ -217,7 +217,8 @@ TEST_F(MainWindow, TheProgramsCloseHasReason1AndARefusalIsAFailure) {
 
 TEST_F(MainWindow, TheEndOfTheSessionHasReason2) {
     m_Window.Show();
-    m_Window.EndSession();
+    EXPECT_TRUE(m_Window.CloseFor(eCloseReason::SessionEnd));
+    EXPECT_FALSE(m_Window.isVisible());
     EXPECT_EQ(m_Reasons, std::vector{eCloseReason::SessionEnd});
     EXPECT_EQ(m_Unloads, 1);
 }

@@ -27,7 +27,7 @@ TEST_F(cClosePopup, TheWindowsOwnCloseAcknowledgesWhenThatIsSet) {
     m_Settings.m_AckEventWhenPopupFormIsClosed = true;
     Show("C");
     m_Transcript.Take();
-    EXPECT_TRUE(m_Maker[1].CloseWith(eCloseReason::Control));
+    EXPECT_TRUE(m_Maker[1].CloseFor(eCloseReason::Control));
     EXPECT_EQ(m_Transcript.Take(), "acknowledge Alarm 1\npopup 1: closed\n");
 }
 
@@ -43,7 +43,7 @@ TEST_F(cClosePopup, ACloseByTheSystemDoesNotAcknowledge) {
          {eCloseReason::SessionEnd, eCloseReason::TaskManager, static_cast<eCloseReason>(5)}) {
         const int number = Show("C");
         m_Transcript.Take();
-        EXPECT_TRUE(m_Maker[number].CloseWith(reason));
+        EXPECT_TRUE(m_Maker[number].CloseFor(reason));
         EXPECT_EQ(m_Transcript.Take(), "popup " + std::to_string(number) + ": closed\n");
     }
     EXPECT_EQ(LogText(),
@@ -104,7 +104,7 @@ TEST_F(cClosePopup, UntilNoMorePopupsTheLastOneAloneEndsTheSignal) {
     m_State.m_SoundState = 3;
     m_Maker[1].Close();
     EXPECT_EQ(m_State.m_SoundState, 3);
-    m_Maker[2].CloseWith(eCloseReason::SessionEnd);
+    m_Maker[2].CloseFor(eCloseReason::SessionEnd);
     EXPECT_EQ(m_State.m_SoundState, 0);
 }
 

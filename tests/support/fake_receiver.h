@@ -38,11 +38,17 @@ class cFakeOtherWindows : public cOtherWindows {
     void ShowAboutBox(const cTexts&) override { m_Transcript.Add("about box"); }
     void UnloadAboutBox() override { m_Transcript.Add("about box unloaded"); }
     void ShowNotice(std::string_view text) override { m_Notices.emplace_back(text); }
+    void RefuseDialogs() override {
+        m_DialogsRefused = true;
+        m_Transcript.Add("dialogs refused");
+    }
+    void AllowDialogs() override { m_DialogsRefused = false; }
 
     std::function<void()> m_OnLanguageWindow;
     std::function<void()> m_CloseDebugWindow;
     std::string m_Trace;
     std::vector<std::string> m_Notices;
+    bool m_DialogsRefused = false;
 
   private:
     cTranscript& m_Transcript;
@@ -84,10 +90,6 @@ class cFakeReceiver {
                            messageBox, clipboard,   beeper,         waveDevice,   trayArea,
                            light,      runningApps, printerPorts,   otherWindows, status},
             "C:\\App\\", commandLine);
-        mainWindow.OnResize = [this] { receiver->Form_Resize(); };
-        mainWindow.OnActivate = [this] { receiver->Form_Activate(); };
-        mainWindow.OnQueryUnload = [this](eCloseReason reason) { return receiver->Form_QueryUnload(reason); };
-        mainWindow.OnUnload = [this] { receiver->Form_Unload(); };
         return *receiver;
     }
     eStartUp Load(const std::string& commandLine = "") { return Make(commandLine).Form_Load(); }

@@ -105,11 +105,10 @@ class cFakeWindowOf : public Port {
         Note(topMost ? "topmost" : "not topmost");
     }
     void Close() override {
-        if (!CloseWith(eCloseReason::Code)) throw cFailure(eFailure::InvalidCall, m_Name + ": not closed");
+        if (!CloseFor(eCloseReason::Code)) throw cFailure(eFailure::InvalidCall, m_Name + ": not closed");
     }
 
-    // A close for another reason. Whether the window is gone.
-    bool CloseWith(eCloseReason reason) {
+    bool CloseFor(eCloseReason reason) override {
         if (this->OnQueryUnload && !this->OnQueryUnload(reason)) return false;
         if (this->OnUnload) this->OnUnload();
         m_Visible = false;

@@ -19,9 +19,9 @@ constexpr std::array kSignals{SIGTERM, SIGHUP, SIGINT};
 // second.
 std::array<int, 2> ends{-1, -1};
 
-void Handle(int) {
+void Handle(int signal) {
     const int error = errno;
-    const char byte = 1;
+    const char byte = static_cast<char>(signal);
     // A full pair has signals enough in it.
     [[maybe_unused]] const ssize_t written = ::write(ends[0], &byte, 1);
     errno = error;
@@ -45,7 +45,7 @@ cStopSignals::cStopSignals() {
     QObject::connect(m_Notifier.get(), &QSocketNotifier::activated, m_Notifier.get(), [this] {
         char byte = 0;
         while (::read(ends[1], &byte, 1) == 1) {
-            if (OnStop) OnStop();
+            if (OnStop) OnStop(byte == SIGINT ? eCloseReason::Interrupt : eCloseReason::SessionEnd);
         }
     });
     SetHandler(Handle);

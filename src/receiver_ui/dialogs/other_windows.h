@@ -11,6 +11,7 @@
 #include "receiver_ui/dialogs/about_window.h"
 #include "receiver_ui/dialogs/debug_window.h"
 #include "receiver_ui/dialogs/notice_window.h"
+#include "windows/application.h"
 #include "windows/open_windows.h"
 
 namespace vigrel {
@@ -25,6 +26,7 @@ class cQtOtherWindows : public cOtherWindows {
         const cScreen& screen;
         const cSettingStore& settings;
         cOpenWindows& windows;
+        cApplication& application;
     };
     cQtOtherWindows(const cServices& services, const std::string& applicationPath)
         : m_Services(services), m_ApplicationPath(applicationPath), m_Ini(services.files, applicationPath) {}
@@ -34,6 +36,8 @@ class cQtOtherWindows : public cOtherWindows {
     void ShowAboutBox(const cTexts& texts) override;
     void UnloadAboutBox() override;
     void ShowNotice(std::string_view text) override;
+    void RefuseDialogs() override { m_Services.application.RefuseDialogs(); }
+    void AllowDialogs() override { m_Services.application.AllowDialogs(); }
 
     // The language window was closed; what was chosen stands in the settings.
     std::function<void()> OnLanguageChosen;

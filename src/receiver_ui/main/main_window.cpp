@@ -108,10 +108,6 @@ void cMainWindow::ComeToFront() {
     m_RefusedTimer.start();
 }
 
-void cMainWindow::EndSession() {
-    if (TryClose(eCloseReason::SessionEnd)) hide();
-}
-
 void cMainWindow::Closed() {
     // Other windows may still be open; quit() would ask them all.
     QCoreApplication::exit(0);
@@ -121,7 +117,7 @@ void cMainWindow::keyPressEvent(QKeyEvent* event) {
     // For window managers that leave the key to the window.
     const bool closes = event->key() == Qt::Key_F4 && event->modifiers() == Qt::AltModifier;
     if (!closes) return cWidgetWindow::keyPressEvent(event);
-    if (TryClose(eCloseReason::Control)) hide();
+    CloseFor(eCloseReason::Control);
 }
 
 // --- menus

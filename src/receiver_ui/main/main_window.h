@@ -39,18 +39,6 @@ class cMainWindow : public cWidgetWindow<cWindow, QMainWindow>, public cMenus {
     void SetVisible(std::string_view entry, bool visible) override;
     using cWidgetWindow::SetCaption;
 
-    // The close of a session that ends, or of a program that was told to stop.
-    void EndSession();
-
-    // --- events of the menus
-    std::function<void()> OnMenuFileOpens;
-    std::function<void()> OnMenuStopSound;
-    std::function<void()> OnMenuStopLight;
-    std::function<void()> OnMenuAckAll;
-    std::function<void()> OnMenuAckAllAndClosePopups;
-    std::function<void()> OnMenuExit;
-    std::function<void()> OnMenuSimAlarm;
-
   protected:
     void Closed() override;
     void keyPressEvent(QKeyEvent* event) override;

@@ -1,0 +1,122 @@
+// A flood of alarms that is cut by the end of the station, at random moments.
+
+#include <arpa/inet.h>
+#include <gtest/gtest.h>
+#include <netinet/in.h>
+#include <signal.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <cstdlib>
+#include <random>
+#include <string_view>
+#include <thread>
+
+#include "e2e/station.h"
+#include "link/frame.h"
+
+namespace vigrel {
+namespace {
+
+using testing::cStation;
+
+constexpr std::string_view kPositiveReply =
+    "\x04"
+    "04\n\r";
+
+// A bare connection that knows of a reset and minds it not.
+class cTcpClient {
+  public:
+    explicit cTcpClient(int port) : m_Socket(socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
+        sockaddr_in address{};
+        address.sin_family = AF_INET;
+        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        address.sin_port = htons(static_cast<std::uint16_t>(port));
+        EXPECT_EQ(connect(m_Socket, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
+    }
+    ~cTcpClient() { close(m_Socket); }
+    cTcpClient(const cTcpClient&) = delete;
+    cTcpClient& operator=(const cTcpClient&) = delete;
+
+    // False when the connection has ended.
+    bool Send(std::string_view bytes) const {
+        return send(m_Socket, bytes.data(), bytes.size(), MSG_NOSIGNAL) > 0;
+    }
+    // What has arrived; waits for it, and is empty at the end of the connection.
+    std::string ReadSome() const {
+        std::array<char, 4096> buffer;
+        const ssize_t count = recv(m_Socket, buffer.data(), buffer.size(), 0);
+        return {buffer.data(), static_cast<std::size_t>(std::max<ssize_t>(count, 0))};
+    }
+    std::string ReadAll() const {
+        std::string all;
+        for (std::string some = ReadSome(); !some.empty(); some = ReadSome()) all += some;
+        return all;
+    }
+
+  private:
+    int m_Socket;
+};
+
+// Sends alarms as fast as the station takes them, and counts the answers.
+class cFlood {
+  public:
+    explicit cFlood(int port) : m_Client(port), m_Sender([this] { Send(); }) {}
+    ~cFlood() { Finish(); }
+    // The positive answers up to the end of the connection.
+    std::size_t Finish() {
+        if (m_Sender.joinable()) {
+            m_Answers += m_Client.ReadAll();
+            m_Sender.join();
+        }
+        std::size_t count = 0;
+        for (std::size_t at = 0; (at = m_Answers.find(kPositiveReply, at)) != std::string::npos; ++at)
+            ++count;
+        return count;
+    }
+    // Waits for the first answer.
+    void WaitUntilItRuns() { m_Answers += m_Client.ReadSome(); }
+
+  private:
+    void Send() {
+        std::string frames;
+        for (int i = 0; i < 50; ++i) frames += MakeFrame("Flood", "S1||a flood of alarms||Technical");
+        while (m_Client.Send(frames)) {
+        }
+    }
+
+    cTcpClient m_Client;
+    std::string m_Answers;
+    std::thread m_Sender;
+};
+
+// A campaign asks for more of them.
+int Moments() {
+    const char* wish = std::getenv("VIGREL_FLOOD_MOMENTS");
+    return wish != nullptr ? std::atoi(wish) : 4;
+}
+
+TEST(Flood, EndsWithTheLinesOfTheEndAndEveryAnswerHasItsFile) {
+    std::mt19937 random(std::random_device{}());
+    for (int i = 0; i < Moments(); ++i) {
+        cStation station;
+        station.Configure("[General]\r\nMaxEvents=0\r\n");
+        ASSERT_TRUE(station.Start()) << station.StandardError();
+        cFlood flood(station.m_Port);
+        flood.WaitUntilItRuns();
+        const std::chrono::milliseconds moment(std::uniform_int_distribution<>(0, 500)(random));
+        std::this_thread::sleep_for(moment);
+        EXPECT_EQ(station.Stop(SIGTERM), 0);
+        const std::size_t answered = flood.Finish();
+        EXPECT_GT(answered, 0u);
+        EXPECT_EQ(answered, station.AlarmFiles().size()) << moment.count() << " ms";
+        EXPECT_EQ(station.Log().back(), "T10020") << moment.count() << " ms";
+        RecordProperty("answered_" + std::to_string(i), static_cast<int>(answered));
+    }
+}
+
+}  // namespace
+}  // namespace vigrel
