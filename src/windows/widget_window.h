@@ -50,8 +50,11 @@ class cWidgetWindow : public Widget, public Port {
         return this->isMaximized() ? eWindowState::Maximised : eWindowState::Normal;
     }
     void SetState(eWindowState state) override {
+        // An icon comes back as what it was made of.
+        const bool becomesIcon = state == eWindowState::Minimised;
         const Qt::WindowStates others =
-            this->windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized | Qt::WindowFullScreen);
+            this->windowState() & ~(Qt::WindowMinimized | Qt::WindowFullScreen |
+                                    (becomesIcon ? Qt::WindowNoState : Qt::WindowMaximized));
         const Qt::WindowState own = state == eWindowState::Minimised   ? Qt::WindowMinimized
                                     : state == eWindowState::Maximised ? Qt::WindowMaximized
                                                                        : Qt::WindowNoState;

@@ -215,6 +215,18 @@ TEST_F(MainWindow, TheProgramsCloseHasReason1AndARefusalIsAFailure) {
     EXPECT_FALSE(m_Window.isVisible());
 }
 
+TEST_F(MainWindow, AnIconOfAMaximisedWindowComesBackMaximised) {
+    m_Window.Show();
+    m_Window.SetState(eWindowState::Maximised);
+    m_Window.SetState(eWindowState::Minimised);
+    EXPECT_EQ(m_Window.State(), eWindowState::Minimised);
+    // What the window manager does when the icon is clicked.
+    m_Window.setWindowState(m_Window.windowState() & ~Qt::WindowMinimized);
+    EXPECT_EQ(m_Window.State(), eWindowState::Maximised);
+    m_Window.SetState(eWindowState::Normal);
+    EXPECT_EQ(m_Window.State(), eWindowState::Normal);
+}
+
 TEST_F(MainWindow, TheEndOfTheSessionHasReason2) {
     m_Window.Show();
     EXPECT_TRUE(m_Window.CloseFor(eCloseReason::SessionEnd));
