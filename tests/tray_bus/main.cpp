@@ -6,6 +6,7 @@
 #include <exception>
 #include <stdexcept>
 
+#include "support/toolkit_warnings.h"
 #include "tray_bus/bus_host.h"
 #include "x11/x_server.h"
 
@@ -34,6 +35,7 @@ class cMessageBus {
 
 int main(int argc, char** argv) {
     ::testing::InitGoogleTest(&argc, argv);
+    vigrel::testing::cToolkitWarnings::FailTests();
     // Listing the tests, as a build does, needs no screen.
     if (GTEST_FLAG_GET(list_tests)) return RUN_ALL_TESTS();
     try {

@@ -4,10 +4,12 @@
 #include <cstdio>
 #include <exception>
 
+#include "support/toolkit_warnings.h"
 #include "x11/x_server.h"
 
 int main(int argc, char** argv) {
     ::testing::InitGoogleTest(&argc, argv);
+    vigrel::testing::cToolkitWarnings::FailTests();
     // Listing the tests, as a build does, needs no screen.
     if (GTEST_FLAG_GET(list_tests)) return RUN_ALL_TESTS();
     try {
