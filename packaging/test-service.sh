@@ -87,13 +87,15 @@ kill -TERM "$(property MainPID)"
 check "told to end, it ends" until_true state_is inactive
 check "and stays away" stays_down
 
-instead "/bin/sh -c 'exit 70'"
+for code in 1 70 71; do
+    instead "/bin/sh -c 'exit $code'"
+    systemctl --user start vigrel-receiver
+    check "after exit code $code it starts again" until_true eval '[ "$(property NRestarts)" -ge 2 ]'
+    systemctl --user stop vigrel-receiver
+done
+instead "/bin/sh -c 'echo started >>$work/starts; exit 69'"
 systemctl --user start vigrel-receiver
-check "after exit code 70 it starts again" until_true eval '[ "$(property NRestarts)" -ge 2 ]'
-systemctl --user stop vigrel-receiver
-instead "/bin/sh -c 'echo started >>$work/starts; exit 1'"
-systemctl --user start vigrel-receiver
-check "after exit code 1, the operator was told" until_true state_is failed
+check "after exit code 69, the reason was told" until_true state_is failed
 check "it stays away" stays_down
 check "it was started once" [ "$(wc -l <"$work/starts")" -eq 1 ]
 

@@ -13,6 +13,7 @@
 #include "adapters/linux/linux_files.h"
 #include "adapters/linux/linux_printer_ports.h"
 #include "adapters/linux/local_running_apps.h"
+#include "adapters/linux/standard_error_box.h"
 #include "adapters/linux/standard_random.h"
 #include "adapters/linux/stream_status.h"
 #include "adapters/linux/system_clock.h"
@@ -24,6 +25,7 @@
 #include "adapters/qt/qt_wave_device.h"
 #include "adapters/qt/stop_signals.h"
 #include "adapters/qt/tone_player.h"
+#include "common/exit_codes.h"
 #include "common/path_text.h"
 #include "common/printable.h"
 #include "common/settings.h"
@@ -40,6 +42,7 @@
 namespace vigrel {
 namespace {
 
+constexpr const char* kProgramName = "vigrel-receiver";
 constexpr int kKeepAliveInterval = 10000;  // milliseconds
 constexpr int kPlayInterval = 500;         // milliseconds
 
@@ -59,9 +62,8 @@ std::string CommandLine(int argc, char** argv) {
 
 cFirstStartHints FirstStartHints() {
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    const bool canAsk = QGuiApplication::platformName() != "offscreen";
     return {qEnvironmentVariable("VIGREL_LANGUAGE").toStdString(),
-            canAsk,
+            cApplication::HasDisplay(),
             screen.left(),
             screen.top(),
             screen.width(),
@@ -91,12 +93,14 @@ int RunStation(cApplication& application, const std::string& commandLine) {
     cMainWindow mainWindow(windows);
     cPopupWidgetMaker popups(windows);
     cQtScreen screen;
-    cQtMessageBox messageBox(kProductName);
+    cQtMessageBox windowBox(kProductName);
+    cStandardErrorBox unseenBox(kProgramName, NativePath(applicationPath));
+    cMessageBox& messageBox = cApplication::HasDisplay() ? static_cast<cMessageBox&>(windowBox) : unseenBox;
     if (const auto why = WhyElsewhere(hints)) {
         std::fprintf(stderr, "vigrel-receiver: %s\n", WithPathsToUtf8(*why).c_str());
         // Once: later starts find the folder in use.
-        if (isNew && cApplication::platformName() != "offscreen") {
-            messageBox.Show(*why, eMessageIcon::Warning, eMessageButtons::Ok);
+        if (isNew && cApplication::HasDisplay()) {
+            windowBox.Show(*why, eMessageIcon::Warning, eMessageButtons::Ok);
         }
     }
     cQtClipboard clipboard;
@@ -115,8 +119,8 @@ int RunStation(cApplication& application, const std::string& commandLine) {
         std::fprintf(stderr, "vigrel-receiver: %s\n", Printable(text).c_str());
     });
     const cQtSettingStore settingStore;
-    cQtOtherWindows otherWindows({files, clock, locale, screen, settingStore, windows, application},
-                                 applicationPath);
+    cQtOtherWindows otherWindows(
+        {files, clock, locale, screen, settingStore, windows, application, messageBox}, applicationPath);
     otherWindows.OnLanguageChosen = [&] { firstStart.FollowChoice(); };
 
     cStreamStatus status(stderr, "vigrel-receiver");
@@ -130,12 +134,13 @@ int RunStation(cApplication& application, const std::string& commandLine) {
     cStopSignals stopSignals;
     stopSignals.OnStop = [&](eCloseReason reason) { receiver.Stop(reason); };
     application.OnSessionEnds = [&] { receiver.Stop(eCloseReason::SessionEnd); };
+    application.OnDisplayLost = [&] { receiver.DisplayIsLost(); };
 
     eStartUp started = eStartUp::NoLanguage;
     // While what the station consists of is still there for the message of a failure to be shown over.
     application.Guard([&] { started = receiver.Start(); });
     if (started == eStartUp::Running) return cApplication::exec();
-    return started == eStartUp::Stopped ? 0 : 1;
+    return started == eStartUp::Stopped ? kExitInOrder : kExitRefused;
 }
 
 int Run(int argc, char** argv) {
@@ -145,9 +150,15 @@ int Run(int argc, char** argv) {
     application.SetMessageTitle(kProductName);
     // Of every window, message boxes included.
     cApplication::setWindowIcon(QIcon(":/icons/vigrel-receiver.svg"));
-    int code = 1;
+    int code = kExitFailure;
     application.Guard([&] { code = RunStation(application, CommandLine(argc, argv)); });
     return code;
+}
+
+void PrintHelp() {
+    std::fputs(kHelp, stdout);
+    std::fputs("\nExit code:\n", stdout);
+    for (const auto& [code, meaning] : kExitCodes) std::printf("  %2d  %s\n", code, meaning);
 }
 
 }  // namespace
@@ -155,8 +166,8 @@ int Run(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     if (argc == 2 && std::string_view(argv[1]) == "--help") {
-        std::fputs(vigrel::kHelp, stdout);
-        return 0;
+        vigrel::PrintHelp();
+        return vigrel::kExitInOrder;
     }
     return vigrel::Run(argc, argv);
 }

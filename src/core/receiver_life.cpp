@@ -123,4 +123,9 @@ void cVigrelReceiverMain::Stop(eCloseReason reason) {
     m_Ports.otherWindows.RefuseDialogs();
 }
 
+void cVigrelReceiverMain::DisplayIsLost() {
+    End();
+    m_Log.WriteLog("The display is gone: the program ends");
+}
+
 }  // namespace vigrel

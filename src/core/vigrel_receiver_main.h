@@ -59,6 +59,8 @@ class cVigrelReceiverMain {
     // The program is told to end from outside its windows: by a signal, or by the end of the desktop's
     // session. While it starts, it gives up asking and obeys as soon as it can.
     void Stop(eCloseReason reason);
+    // The program can't go on without the display that it has lost: its last word.
+    void DisplayIsLost();
 
     // --- the window's events
     // The start up to the open port. From its good end on, and until a close is accepted, events count.

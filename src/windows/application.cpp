@@ -4,6 +4,7 @@
 #include <QLibraryInfo>
 #include <QPalette>
 #include <QSessionManager>
+#include <QThread>
 #include <QTimer>
 #include <QWindow>
 #include <cstdio>
@@ -11,11 +12,25 @@
 #include <exception>
 
 #include "adapters/qt/qt_text.h"
+#include "common/code_page.h"
+#include "common/exit_codes.h"
 #include "common/path_text.h"
 #include "windows/plain_text.h"
 
 namespace vigrel {
 namespace {
+
+// Without a display the toolkit complains of every window that is shown, sized or raised, at each alarm.
+void HearNothingOfWindows() {
+    // A message handler can reach nothing but statics.
+    static QtMessageHandler before = nullptr;
+    if (before != nullptr) return;
+    before =
+        qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& context, const QString& text) {
+            if (text.startsWith("This plugin does not support ")) return;
+            before(type, context, text);
+        });
+}
 
 bool IsSet(const char* variable) {
     return !qEnvironmentVariableIsEmpty(variable);
@@ -33,7 +48,10 @@ void cApplication::ChoosePlatform() {
     }
 }
 
-cApplication::cApplication(int& argc, char** argv) : QApplication(argc, argv) {
+cApplication::cApplication(int& argc, char** argv, cDisplayGuard&& guard) : QApplication(argc, argv) {
+    guard.Release();
+    std::atexit(HandleExit);
+    if (!HasDisplay()) HearNothingOfWindows();
     // The main window can be hidden while the last popup is closed.
     setQuitOnLastWindowClosed(false);
     if (m_Translator.load(QLocale(), "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
@@ -52,6 +70,19 @@ cApplication::cApplication(int& argc, char** argv) : QApplication(argc, argv) {
             if (OnSessionEnds) OnSessionEnds();
         },
         Qt::DirectConnection);
+}
+
+bool cApplication::HasDisplay() {
+    return platformName() != "offscreen" && platformName() != "minimal";
+}
+
+// Nobody but the toolkit leaves the event loop by exit(): its way out when the display is gone.
+void cApplication::HandleExit() {
+    auto* application = static_cast<cApplication*>(instance());
+    if (application == nullptr || application->thread()->loopLevel() == 0) return;
+    if (application->OnDisplayLost) application->OnDisplayLost();
+    std::fflush(nullptr);
+    std::_Exit(kExitDisplayLost);
 }
 
 // One dialog can follow another.
@@ -108,11 +139,11 @@ void cApplication::End(const std::string& failure) {
     if (!m_Failed) ShowFailure(failure);
     std::fflush(nullptr);
     // Nothing of the program may run any more, destructors included: its state is not to be trusted.
-    std::_Exit(kFailureExitCode);
+    std::_Exit(kExitFailure);
 }
 
 void cApplication::ShowFailure(const std::string& failure) {
-    if (platformName() == "offscreen") return;
+    if (!HasDisplay()) return;
     const QString title = m_MessageTitle.empty() ? applicationDisplayName() : ToQString(m_MessageTitle);
     cPlainMessageBox box(QMessageBox::Critical, title, WithPathsToQString(failure), QMessageBox::Ok);
     box.setObjectName("Vigrel_FailureBox");

@@ -6,6 +6,8 @@
 #include <functional>
 #include <string>
 
+#include "windows/display_guard.h"
+
 class QMessageBox;
 
 namespace vigrel {
@@ -17,14 +19,17 @@ namespace vigrel {
 class cApplication : public QApplication {
     Q_OBJECT
   public:
-    static constexpr int kFailureExitCode = 70;
     static constexpr int kFailureBoxMilliseconds = 60000;
 
     // To be called before the application is made. In a Wayland session X11 is preferred where there is any,
     // since windows there can be placed, stacked and raised. Without any display the program runs unseen.
     static void ChoosePlatform();
 
-    cApplication(int& argc, char** argv);
+    // Ends the program with kExitRefused when there is no display where one was asked for.
+    cApplication(int& argc, char** argv, cDisplayGuard&& guard = cDisplayGuard());
+
+    // Whether anybody can see a window of the program.
+    static bool HasDisplay();
 
     // Runs a step outside the event loop under the same rule.
     void Guard(const std::function<void()>& step);
@@ -42,6 +47,10 @@ class cApplication : public QApplication {
     // How long the message box of a failure stands.
     void SetFailureBoxTime(int milliseconds) { m_FailureBoxMilliseconds = milliseconds; }
 
+    // The toolkit is about to end the program, whose display is gone. What is on the stack is still there;
+    // the event loop never turns again. The program ends with kExitDisplayLost behind it.
+    std::function<void()> OnDisplayLost;
+
     // The desktop's session is about to end, or may be. Windows are closed later, unless the end is called
     // off.
     std::function<void()> OnSessionEnds;
@@ -51,6 +60,7 @@ class cApplication : public QApplication {
 
   private:
     void MakeHintsReadable();
+    static void HandleExit();
     [[noreturn]] void End(const std::string& failure);
     void ShowFailure(const std::string& failure);
     bool ServesFailureBox(QObject* receiver, const QEvent& event) const;

@@ -247,6 +247,15 @@ TEST_F(Life, AnInterruptInTheStartCannotKeepTheSessionsEndOut) {
     EXPECT_EQ(receiver->Start(), eStartUp::Stopped);
 }
 
+TEST_F(Life, ALostDisplayIsTheLastWordOfTheLog) {
+    Start();
+    receiver->DisplayIsLost();
+    const std::string before = Traces();
+    EverythingHappens();
+    EXPECT_EQ(Traces(), before);
+    EXPECT_TRUE(Log().ends_with("The display is gone: the program ends\n"));
+}
+
 TEST_F(Life, NoEventReachesAReceiverThatIsGone) {
     Start();
     receiver.reset();

@@ -36,6 +36,7 @@ class FullDisk : public ::testing::Test {
 };
 
 TEST_F(FullDisk, IsToldWhileAlarmsAreNotOnDiskAndNothingIsLost) {
+    station.ExpectStandardError();
     ASSERT_TRUE(station.Start()) << station.StandardError();
     EXPECT_EQ(station.Send({"--t0", "before"}).exitCode, 0);
     Limit(8000);

@@ -58,30 +58,6 @@ TEST(Receiver, AnAlarmIsAnsweredStoredAndBackAfterAKill) {
     EXPECT_EQ(station.Stop(SIGTERM), 0);
 }
 
-TEST(Receiver, EveryStopSignalEndsItInOrder) {
-    for (const int signal : {SIGTERM, SIGHUP}) {
-        cStation station;
-        ASSERT_TRUE(station.Start()) << station.StandardError();
-        EXPECT_EQ(station.Stop(signal), 0) << signal;
-        EXPECT_EQ(station.Log().back(), "T10020") << signal;
-        EXPECT_NE(ReadAll(station.Folder() / "VigrelReceiver.INI").find("Vigrel_Receiver_Main.Width="),
-                  std::string::npos);
-    }
-}
-
-TEST(Receiver, AnInterruptIsRefusedWhereTheStationMayNotBeClosed) {
-    cStation station;
-    station.Configure("[General]\r\nDisableShutdown=1\r\n");
-    ASSERT_TRUE(station.Start()) << station.StandardError();
-    for (int i = 0; i < 3; ++i) {
-        kill(station.Process(), SIGINT);
-        EXPECT_EQ(station.Send({"--t0", "still here"}).exitCode, 0);
-    }
-    EXPECT_EQ(station.AlarmFiles().size(), 3u);
-    EXPECT_EQ(station.Stop(SIGTERM), 0);
-    EXPECT_EQ(station.Log().back(), "T10020");
-}
-
 TEST(Receiver, SpoiledFramesAreRefusedAndTheConnectionStaysUp) {
     cStation station;
     ASSERT_TRUE(station.Start());

@@ -2,6 +2,7 @@
 
 #include <arpa/inet.h>
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <netinet/in.h>
 #include <signal.h>
 #include <sys/socket.h>
@@ -89,10 +90,14 @@ cStation::cStation() : m_Port(FreePort()), m_Folder(std::make_shared<cTemporaryF
     std::ofstream(Folder() / "Vigrel_Texts.046", std::ios::binary) << "0=Test\r\n" << texts;
 }
 
-cStation::cStation(const cStation* other) : m_Port(other->m_Port), m_Folder(other->m_Folder) {}
+cStation::cStation(const cStation* other)
+    : m_Port(other->m_Port), m_Folder(other->m_Folder), m_ErrorFile("stderr-of-the-second.txt") {}
 
 cStation::~cStation() {
     if (Running()) Stop(SIGKILL);
+    if (!m_ErrorExpected) {
+        EXPECT_EQ(StandardError(), "");
+    }
 }
 
 void cStation::WriteConfiguration() const {
@@ -116,8 +121,11 @@ void cStation::Launch(const std::vector<std::string>& switches) {
     m_Process = fork();
     if (m_Process == 0) {
         setenv("VIGREL_APPLICATION_PATH", Folder().c_str(), 1);
+        // The toolkit asks for one, and for its owner alone.
+        std::filesystem::permissions(m_Runtime.Path(), std::filesystem::perms::owner_all);
+        setenv("XDG_RUNTIME_DIR", m_Runtime.Path().c_str(), 1);
         for (const auto& [name, value] : m_Environment) setenv(name.c_str(), value.c_str(), 1);
-        Execute(path, switches, open((Folder() / "stderr.txt").c_str(), O_WRONLY | O_CREAT | O_APPEND, 0666));
+        Execute(path, switches, open((Folder() / m_ErrorFile).c_str(), O_WRONLY | O_CREAT | O_APPEND, 0666));
     }
 }
 
@@ -194,7 +202,7 @@ std::vector<std::filesystem::path> cStation::AlarmFiles() const {
 }
 
 std::string cStation::StandardError() const {
-    return ReadAll(Folder() / "stderr.txt");
+    return ReadAll(Folder() / m_ErrorFile);
 }
 
 }  // namespace vigrel::testing

@@ -25,6 +25,9 @@ cResult RunProgram(const std::string& program, const std::vector<std::string>& a
 int FreePort();
 
 // A real vigrel-receiver on an application folder of its own, with the texts "T<id>" and a free port.
+//
+// Whoever reads its standard error looks for a reason: one that prints anything that its test doesn't expect
+// fails the test.
 class cStation {
   public:
     cStation();
@@ -55,6 +58,8 @@ class cStation {
     bool WaitForLog(const std::string& line, double seconds = 10) const;
     std::vector<std::filesystem::path> AlarmFiles() const;
     std::string StandardError() const;
+    // The test knows what the program prints.
+    void ExpectStandardError() { m_ErrorExpected = true; }
 
     int m_Port;
     bool m_MakesConfiguration = false;  // the program itself; the port is the usual one then
@@ -65,7 +70,10 @@ class cStation {
     void WriteConfiguration() const;
 
     std::shared_ptr<cTemporaryFolder> m_Folder;
+    cTemporaryFolder m_Runtime;
     std::string m_Configuration;
+    std::string m_ErrorFile = "stderr.txt";
+    bool m_ErrorExpected = false;
     pid_t m_Process = -1;
 };
 

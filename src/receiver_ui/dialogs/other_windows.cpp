@@ -8,6 +8,13 @@
 namespace vigrel {
 
 void cQtOtherWindows::ShowLanguageWindow() {
+    if (!cApplication::HasDisplay()) {
+        m_Services.messageBox.Show(
+            "No language: key Language of section General in VigrelReceiver.INI names no language file here, "
+            "and without a display nobody can be asked",
+            eMessageIcon::Stop, eMessageButtons::Ok);
+        return;
+    }
     cLanguageSelection selection(m_Services.files, m_Ini, m_Services.locale);
     cLanguageWindow::Choose(selection);
     if (OnLanguageChosen) OnLanguageChosen();

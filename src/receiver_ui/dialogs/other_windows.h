@@ -17,6 +17,9 @@
 namespace vigrel {
 
 // The receiver's further windows on the screen.
+//
+// Without a display nobody could choose in the language window: a message says instead where a language is
+// set.
 class cQtOtherWindows : public cOtherWindows {
   public:
     struct cServices {
@@ -27,6 +30,7 @@ class cQtOtherWindows : public cOtherWindows {
         const cSettingStore& settings;
         cOpenWindows& windows;
         cApplication& application;
+        cMessageBox& messageBox;
     };
     cQtOtherWindows(const cServices& services, const std::string& applicationPath)
         : m_Services(services), m_ApplicationPath(applicationPath), m_Ini(services.files, applicationPath) {}

@@ -33,6 +33,11 @@ void cNotificationIcon::SetIcon(int image) {
     }
 }
 
+// Without a display there is no place for it, now or later, and the toolkit would complain of that.
+void cNotificationIcon::SetVisible(bool visible) {
+    if (QGuiApplication::platformName() != "offscreen") m_Icon.setVisible(visible);
+}
+
 void cNotificationIcon::SetToolTip(std::string_view text) {
     m_ToolTip = text;
     SetPlainToolTip(m_Icon, ToQString(text).remove('\r'));

@@ -24,7 +24,7 @@ class cNotificationIcon : public cNotificationArea {
     void SetIcon(int image) override;
     std::string ToolTip() const override { return m_ToolTip; }
     void SetToolTip(std::string_view text) override;
-    void SetVisible(bool visible) override { m_Icon.setVisible(visible); }
+    void SetVisible(bool visible) override;
     bool HostAvailable() const override { return m_Host.Available(); }
 
     // Where the icon shows, in pixels of the screen; empty while it doesn't.

@@ -51,7 +51,7 @@ TEST(BoxesAtTheStart, ASecondStartOnTheFolderSaysSoAndLeavesItsFirstLines) {
     cStation second(&first);
     OnScreen(second);
     second.Launch();
-    EXPECT_EQ(AnswerBox(second), 1);
+    EXPECT_EQ(AnswerBox(second), 69);
     EXPECT_EQ(Behind(first.Log(), before), (Lines{std::string(120, '-'), "T10040"}));
     // The first one has noticed nothing.
     EXPECT_EQ(first.Send({"--t0", "still here"}).exitCode, 0);
@@ -66,13 +66,14 @@ TEST(BoxesAtTheStart, ATakenPortIsNamedAndEndsTheStartBeforeItsLastLine) {
     second.Configure("[Senders]\r\nPLC1=5\r\n");
     OnScreen(second);
     second.Launch();
-    EXPECT_EQ(AnswerBox(second), 1);
+    EXPECT_EQ(AnswerBox(second), 69);
     EXPECT_EQ(Behind(second.Log(), 0),
               (Lines{std::string(120, '-'), "T10040", "0 T10041", "PLC1 - T10013 5 T10014"}));
 }
 
 TEST(BoxesAtTheStart, AnImpossibleSettingIsNamedWithItsFileAndEndsWithCode70) {
     cStation station;
+    station.ExpectStandardError();
     station.Configure("[General]\r\nMaxEvents=99999999999\r\n");
     OnScreen(station);
     station.Launch();
@@ -86,6 +87,7 @@ TEST(BoxesAtTheStart, AnImpossibleSettingIsNamedWithItsFileAndEndsWithCode70) {
 
 TEST(BoxesAtTheStart, AnApplicationFolderThatCannotBeMadeIsNamedWithTheReasonAndEndsWithCode70) {
     cStation station;
+    station.ExpectStandardError();
     OnScreen(station);
     const std::string folder = (station.Folder() / "VigrelReceiver.INI" / "below a file").string();
     station.m_Environment["VIGREL_APPLICATION_PATH"] = folder;
@@ -98,6 +100,7 @@ TEST(BoxesAtTheStart, AnApplicationFolderThatCannotBeMadeIsNamedWithTheReasonAnd
 
 TEST(BoxesWhileRunning, AFailureInAnEventEndsTheProgramWithABoxALineAndCode70) {
     cStation station;
+    station.ExpectStandardError();
     OnScreen(station);
     ASSERT_TRUE(station.Start()) << station.StandardError();
     ASSERT_NE(FindWindow(station.Process(), "T10000"), "");

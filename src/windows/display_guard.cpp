@@ -1,0 +1,47 @@
+#include "windows/display_guard.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+
+#include "common/exit_codes.h"
+
+namespace vigrel {
+
+cDisplayGuard* cDisplayGuard::s_Current = nullptr;
+
+cDisplayGuard::cDisplayGuard() : m_Before(nullptr) {
+    s_Current = this;
+    m_Before = qInstallMessageHandler(Take);
+}
+
+void cDisplayGuard::Release() {
+    if (s_Current == nullptr) return;
+    qInstallMessageHandler(m_Before);
+    s_Current = nullptr;
+    for (const auto& [type, text] : m_Messages) {
+        QMessageLogger logger;
+        const QByteArray bytes = text.toLocal8Bit();
+        type == QtDebugMsg || type == QtInfoMsg ? logger.info("%s", bytes.constData())
+                                                : logger.warning("%s", bytes.constData());
+    }
+}
+
+void cDisplayGuard::Take(QtMsgType type, const QMessageLogContext&, const QString& text) {
+    if (type == QtFatalMsg) s_Current->Refuse();
+    s_Current->m_Messages.emplace_back(type, text);
+}
+
+void cDisplayGuard::Refuse() const {
+    std::fprintf(stderr, "%s: No display can be opened:", program_invocation_short_name);
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+        if (const char* value = std::getenv(name)) std::fprintf(stderr, " %s=%s", name, value);
+    }
+    std::fputs(". Unset DISPLAY and WAYLAND_DISPLAY to run without windows.\n", stderr);
+    for (const auto& [type, text] : m_Messages)
+        std::fprintf(stderr, "  %s\n", text.toLocal8Bit().constData());
+    std::fflush(stderr);
+    std::_Exit(kExitRefused);
+}
+
+}  // namespace vigrel

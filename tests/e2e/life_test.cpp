@@ -1,0 +1,153 @@
+// Beginning and end of whole stations that have no display.
+
+#include <gtest/gtest.h>
+#include <signal.h>
+
+#include <algorithm>
+
+#include "e2e/station.h"
+
+namespace vigrel {
+namespace {
+
+using testing::cStation;
+using testing::ReadAll;
+
+constexpr int kRefused = 69;
+
+TEST(Ending, EveryStopSignalEndsItInOrder) {
+    for (const int signal : {SIGTERM, SIGHUP}) {
+        cStation station;
+        ASSERT_TRUE(station.Start()) << station.StandardError();
+        EXPECT_EQ(station.Stop(signal), 0) << signal;
+        EXPECT_EQ(station.Log().back(), "T10020") << signal;
+        EXPECT_NE(ReadAll(station.Folder() / "VigrelReceiver.INI").find("Vigrel_Receiver_Main.Width="),
+                  std::string::npos);
+    }
+}
+
+TEST(Ending, AnInterruptIsACloseOfTheOperatorsAndItsQuestionIsTold) {
+    cStation station;
+    station.ExpectStandardError();
+    ASSERT_TRUE(station.Start()) << station.StandardError();
+    EXPECT_EQ(station.Stop(SIGINT), 0);
+    EXPECT_EQ(station.Log().back(), "T10021");
+    EXPECT_EQ(station.StandardError(), "vigrel-receiver: " + station.Folder().string() + "/: T10022 - Yes\n");
+}
+
+TEST(Ending, AnInterruptIsRefusedWhereTheStationMayNotBeClosed) {
+    cStation station;
+    station.Configure("[General]\r\nDisableShutdown=1\r\n");
+    ASSERT_TRUE(station.Start()) << station.StandardError();
+    for (int i = 0; i < 3; ++i) {
+        kill(station.Process(), SIGINT);
+        EXPECT_EQ(station.Send({"--t0", "still here"}).exitCode, 0);
+    }
+    EXPECT_EQ(station.AlarmFiles().size(), 3u);
+    EXPECT_EQ(station.Stop(SIGTERM), 0);
+    EXPECT_EQ(station.Log().back(), "T10020");
+}
+
+// A program that nobody sees tells on standard error, once, and waits for nobody.
+class Unseen : public ::testing::Test {
+  protected:
+    static std::string Line(const cStation& station, const std::string& text) {
+        return "vigrel-receiver: " + station.Folder().string() + "/: " + text + "\n";
+    }
+};
+
+TEST_F(Unseen, ASecondStartNamesTheFolder) {
+    cStation first;
+    ASSERT_TRUE(first.Start()) << first.StandardError();
+    cStation second(&first);
+    second.ExpectStandardError();
+    second.Launch();
+    EXPECT_EQ(second.WaitForEnd(), kRefused);
+    EXPECT_EQ(second.StandardError(), Line(second, "T10010"));
+    EXPECT_EQ(first.Send({"--t0", "still here"}).exitCode, 0);
+}
+
+TEST_F(Unseen, ATakenPortIsNamed) {
+    cStation first;
+    ASSERT_TRUE(first.Start()) << first.StandardError();
+    cStation second;
+    second.ExpectStandardError();
+    second.m_Port = first.m_Port;
+    second.Launch();
+    EXPECT_EQ(second.WaitForEnd(), kRefused);
+    EXPECT_EQ(second.StandardError(), Line(second, "T10015 (" + std::to_string(first.m_Port) + ") T10016"));
+}
+
+TEST_F(Unseen, AWarningIsToldAndTheStationStarts) {
+    std::string senders = "[Senders]\r\n";
+    for (int i = 0; i < 100; ++i) senders += "P" + std::to_string(i) + "=0\r\n";
+    cStation station;
+    station.ExpectStandardError();
+    station.Configure(senders);
+    EXPECT_TRUE(station.Start());
+    EXPECT_EQ(station.Send({"--t0", "received"}).exitCode, 0);
+    EXPECT_EQ(station.Stop(SIGTERM), 0);
+    EXPECT_EQ(station.StandardError(), Line(station, "T10025"));
+}
+
+TEST_F(Unseen, AMissingLanguageIsTold) {
+    cStation station;
+    station.ExpectStandardError();
+    std::filesystem::remove(station.Folder() / "Vigrel_Texts.046");
+    station.Launch();
+    EXPECT_EQ(station.WaitForEnd(), kRefused);
+    const std::string error = station.StandardError();
+    EXPECT_TRUE(error.starts_with("vigrel-receiver: " + station.Folder().string() + "/: No language: "))
+        << error;
+    EXPECT_NE(error.find("key Language of section General in VigrelReceiver.INI"), std::string::npos)
+        << error;
+    EXPECT_EQ(std::count(error.begin(), error.end(), '\n'), 1) << error;
+    EXPECT_TRUE(station.Log().empty());
+}
+
+TEST_F(Unseen, AFailureIsTold) {
+    cStation station;
+    station.ExpectStandardError();
+    station.Configure("[General]\r\nMaxEvents=99999999999\r\n");
+    station.Launch();
+    EXPECT_EQ(station.WaitForEnd(), 70);
+    const std::string error = station.StandardError();
+    EXPECT_TRUE(error.starts_with("Failure: ")) << error;
+    EXPECT_EQ(std::count(error.begin(), error.end(), '\n'), 1) << error;
+}
+
+TEST_F(Unseen, AlarmsPopupsAndTheirEndPrintNothing) {
+    cStation station;
+    station.Configure(
+        "[General]\r\nViewPopupForm=1\r\nShowInTaskBar=0\r\nEventSignal=1\r\nEventPopupFormat=[T0]\r\n"
+        "PopupFormTopMostCategory=Fire\r\n");
+    ASSERT_TRUE(station.Start({"/TOPMOST", "/DEBUG"})) << station.StandardError();
+    EXPECT_EQ(station.Send({"--count", "5", "--t2", "Fire", "--quiet"}).exitCode, 0);
+    EXPECT_EQ(station.Stop(SIGTERM), 0);
+    EXPECT_EQ(station.StandardError(), "");
+}
+
+TEST(Display, OneThatDoesNotAnswerEndsTheProgramWithTheReason) {
+    cStation station;
+    station.ExpectStandardError();
+    const std::vector<std::map<std::string, std::string>> displays{
+        {{"DISPLAY", ":4711"}, {"WAYLAND_DISPLAY", ""}},
+        {{"DISPLAY", ""}, {"WAYLAND_DISPLAY", "wayland-4711"}},
+        {{"DISPLAY", ":4711"}, {"WAYLAND_DISPLAY", "wayland-4711"}},
+        {{"DISPLAY", ":4711"}, {"WAYLAND_DISPLAY", ""}, {"QT_QPA_PLATFORM", "xcb"}},
+        {{"DISPLAY", ""}, {"WAYLAND_DISPLAY", ""}, {"QT_QPA_PLATFORM", "name4711"}}};
+    for (const auto& display : displays) {
+        station.m_Environment = {{"QT_QPA_PLATFORM", ""}};
+        for (const auto& [name, value] : display) station.m_Environment[name] = value;
+        std::filesystem::remove(station.Folder() / "stderr.txt");
+        station.Launch();
+        EXPECT_EQ(station.WaitForEnd(), kRefused);
+        const std::string error = station.StandardError();
+        EXPECT_TRUE(error.starts_with("vigrel-receiver: No display can be opened: ")) << error;
+        EXPECT_NE(error.find("4711"), std::string::npos) << error;
+        EXPECT_TRUE(station.Log().empty());
+    }
+}
+
+}  // namespace
+}  // namespace vigrel

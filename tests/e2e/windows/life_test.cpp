@@ -1,0 +1,137 @@
+// Beginning and end of stations on a screen: what their boxes hold up, and what becomes of them without it.
+
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
+#include <ctime>
+#include <fstream>
+#include <thread>
+
+#include "e2e/station.h"
+#include "e2e/windows/operator.h"
+#include "x11/x_server.h"
+
+namespace vigrel {
+namespace {
+
+using testing::cStation;
+using testing::cXServer;
+using testing::FindWindow;
+using testing::Press;
+using testing::ReadAll;
+
+void OnScreen(cStation& station) {
+    station.m_Environment["QT_QPA_PLATFORM"] = "xcb";
+    station.m_Environment["LC_ALL"] = "C.UTF-8";
+}
+
+// A time zone in which it is this long until midnight.
+std::string ZoneBeforeMidnight(int seconds) {
+    const int now = static_cast<int>(std::time(nullptr) % 86400);
+    // What the zone's clock lacks to Greenwich's; written west of it as a positive number.
+    int west = ((now + seconds) % 86400 + 86400) % 86400;
+    if (west > 43200) west -= 86400;
+    const int length = std::abs(west);
+    std::string zone = west < 0 ? "TST-" : "TST+";
+    return zone + std::to_string(length / 3600) + ":" + std::to_string(length / 60 % 60) + ":" +
+           std::to_string(length % 60);
+}
+
+// Three boxes of the start, left standing for longer than anything in the receiver waits: over a midnight,
+// and beyond the longest silence of a sender.
+TEST(BoxesLeftStanding, NoLogGoesAndNoSenderIsMissed) {
+    cStation running;
+    running.Configure("[General]\r\nKeepForDays=365\r\n");
+    ASSERT_TRUE(running.Start()) << running.StandardError();
+    const std::filesystem::path old = running.Folder() / "LogFiles" / "20260101.Log";
+    std::ofstream(old) << "old";
+    const std::size_t alarms = running.AlarmFiles().size();
+
+    cStation second(&running);
+    OnScreen(second);
+    second.m_Environment["TZ"] = ZoneBeforeMidnight(15);
+    second.Launch();
+    const std::string secondBox = FindWindow(second.Process(), "^Vigrel Alarm Receiver$");
+    ASSERT_NE(secondBox, "");
+
+    cStation withoutPort;
+    withoutPort.m_Port = running.m_Port;
+    withoutPort.Configure("[General]\r\nViewPopupForm=1\r\n[Senders]\r\nPLC1=1\r\n");
+    OnScreen(withoutPort);
+    withoutPort.Launch();
+    const std::string portBox = FindWindow(withoutPort.Process(), "^Vigrel Alarm Receiver$");
+    ASSERT_NE(portBox, "");
+
+    cStation withTooMany;
+    std::string senders = "[Senders]\r\n";
+    for (int i = 0; i < 100; ++i) senders += "P" + std::to_string(i) + "=1\r\n";
+    withTooMany.Configure(senders);
+    OnScreen(withTooMany);
+    withTooMany.Launch();
+    ASSERT_NE(FindWindow(withTooMany.Process(), "^Vigrel Alarm Receiver$"), "");
+
+    std::this_thread::sleep_for(std::chrono::seconds(75));
+    EXPECT_TRUE(std::filesystem::exists(old));
+    EXPECT_EQ(running.AlarmFiles().size(), alarms);
+    EXPECT_TRUE(withoutPort.AlarmFiles().empty());
+    EXPECT_TRUE(withTooMany.AlarmFiles().empty());
+    for (cStation* station : {&second, &withoutPort, &withTooMany}) EXPECT_EQ(station->Stop(SIGTERM), 0);
+    EXPECT_TRUE(std::filesystem::exists(old));
+    EXPECT_EQ(running.Stop(SIGTERM), 0);
+}
+
+TEST(BoxesLeftStanding, AnInterruptAsksItsQuestionOnTheScreen) {
+    cStation station;
+    OnScreen(station);
+    ASSERT_TRUE(station.Start()) << station.StandardError();
+    ASSERT_NE(FindWindow(station.Process(), "T10000"), "");
+    kill(station.Process(), SIGINT);
+    const std::string box = FindWindow(station.Process(), "^Vigrel Alarm Receiver$");
+    ASSERT_NE(box, "");
+    // Alarms are received while it stands.
+    EXPECT_EQ(station.Send({"--t0", "meanwhile"}).exitCode, 0);
+    Press(box, {"Tab", "Return"});  // from No to Yes
+    EXPECT_EQ(station.WaitForEnd(), 0);
+    EXPECT_EQ(station.Log().back(), "T10021");
+}
+
+TEST(MaximisedStart, SurvivesItsMinimisingAndTheStoredSizeIsTheLargeOne) {
+    cStation station;
+    OnScreen(station);
+    ASSERT_TRUE(station.Start({"/MAXIMIZE", "/MINIMIZE"})) << station.StandardError();
+    // The first activation makes an icon of it and shows the about box.
+    std::this_thread::sleep_for(std::chrono::seconds(2));
+    EXPECT_EQ(station.Stop(SIGTERM), 0);
+    const std::string ini = ReadAll(station.Folder() / "VigrelReceiver.INI");
+    const std::size_t at = ini.find("Vigrel_Receiver_Main.Width=");
+    ASSERT_NE(at, std::string::npos);
+    // The screen is 1280 pixels wide, of 15 twips each; by design the window takes 8000 twips.
+    EXPECT_GT(std::stoi(ini.substr(at + 27)), 1200 * 15) << ini;
+}
+
+TEST(LostDisplay, TheLogSaysSoAndTheCodeLetsAServiceStartItAgain) {
+    cStation station;
+    station.ExpectStandardError();
+    OnScreen(station);
+    const char* own = std::getenv("DISPLAY");
+    const std::string ours = own != nullptr ? own : "";
+    {
+        const cXServer screen;
+        ASSERT_TRUE(station.Start()) << station.StandardError();
+        ASSERT_NE(FindWindow(station.Process(), "T10000"), "");
+        EXPECT_EQ(station.Send({"--t0", "before"}).exitCode, 0);
+    }
+    EXPECT_EQ(station.WaitForEnd(), 71);
+    EXPECT_EQ(station.Log().back(), "The display is gone: the program ends");
+    EXPECT_EQ(station.AlarmFiles().size(), 1u);
+    setenv("DISPLAY", ours.c_str(), 1);
+    ASSERT_TRUE(station.Start()) << station.StandardError();
+    EXPECT_EQ(station.Stop(SIGTERM), 0);
+}
+
+}  // namespace
+}  // namespace vigrel
