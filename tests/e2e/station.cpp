@@ -195,7 +195,8 @@ std::vector<std::filesystem::path> cStation::AlarmFiles() const {
     std::vector<std::filesystem::path> files;
     std::error_code error;
     for (const auto& entry : std::filesystem::directory_iterator(Folder() / "Alarms", error)) {
-        files.push_back(entry.path());
+        // And no temporary that is just becoming one.
+        if (entry.path().extension() == ".alm") files.push_back(entry.path());
     }
     std::sort(files.begin(), files.end());
     return files;
