@@ -23,7 +23,7 @@ enum class eFailure {
     Device = 440,
 };
 
-// The one exception type of the system.
+// The one exception type of the logic, the adapters and the windows.
 class cFailure : public std::runtime_error {
   public:
     cFailure(eFailure number, const std::string& description)
@@ -42,6 +42,17 @@ bool SkipFailure(Statement&& statement) {
         return true;
     } catch (const cFailure&) {
         return false;
+    }
+}
+
+// Runs a step, and cleans up behind one that fails before its failure goes on.
+template <class Statement, class CleanUp>
+void CleanUpBehind(Statement&& statement, CleanUp&& cleanUp) {
+    try {
+        std::forward<Statement>(statement)();
+    } catch (const cFailure&) {
+        std::forward<CleanUp>(cleanUp)();
+        throw;
     }
 }
 

@@ -17,14 +17,12 @@ std::string TemporaryName(std::string_view path) {
 void Replace(cFiles& files, std::string_view path, std::string_view bytes,
              const std::function<void(const std::string& temporary)>& prepare) {
     const std::string temporary = TemporaryName(path);
-    try {
+    const auto replace = [&] {
         files.WriteFile(temporary, bytes, true);
         prepare(temporary);
         files.RenameFile(temporary, path);
-    } catch (const cFailure&) {
-        SkipFailure([&] { files.RemoveFile(temporary); });
-        throw;
-    }
+    };
+    CleanUpBehind(replace, [&] { SkipFailure([&] { files.RemoveFile(temporary); }); });
     files.SyncFolder(SplitPath(path).folder);
 }
 

@@ -90,12 +90,7 @@ void cAlarmStore::SaveAlarm(const AlarmPtr& alarm) {
 
 void cAlarmStore::SaveTogether(const std::function<void()>& steps) {
     m_Collecting = true;
-    try {
-        steps();
-    } catch (const cFailure&) {
-        SaveCollected();
-        throw;
-    }
+    CleanUpBehind(steps, [this] { SaveCollected(); });
     SaveCollected();
 }
 

@@ -1,0 +1,57 @@
+// What the architecture says of failures and of text, held against the sources.
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <regex>
+#include <set>
+#include <string>
+
+namespace vigrel {
+namespace {
+
+// The files below src with a line that fits; tests may name the only ones.
+std::set<std::string> FilesWith(const std::string& pattern) {
+    const std::regex expression(pattern);
+    const std::filesystem::path root = std::filesystem::path(VIGREL_PROJECT_DIR) / "src";
+    std::set<std::string> files;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(root)) {
+        const std::string extension = entry.path().extension().string();
+        if (extension != ".h" && extension != ".cpp") continue;
+        std::ifstream lines(entry.path());
+        for (std::string line; std::getline(lines, line);) {
+            if (!std::regex_search(line, expression)) continue;
+            files.insert(std::filesystem::relative(entry.path(), root).generic_string());
+            break;
+        }
+    }
+    return files;
+}
+
+bool IsLogic(const std::string& file) {
+    const std::string room = file.substr(0, file.find('/'));
+    return room != "adapters" && room != "windows" && room != "receiver_ui" && room != "editor_ui";
+}
+
+TEST(Failures, AreCaughtInTwoPlaces) {
+    EXPECT_EQ(FilesWith(R"(\bcatch \()"),
+              (std::set<std::string>{"common/failure.h", "windows/application.cpp"}));
+}
+
+TEST(Failures, AreOfOneType) {
+    EXPECT_EQ(FilesWith(R"(public std::(runtime_error|logic_error|exception))"),
+              std::set<std::string>{"common/failure.h"});
+}
+
+TEST(Text, IsUnicodeInFewPlacesOfTheLogic) {
+    std::set<std::string> logic;
+    for (const std::string& file : FilesWith(R"(Utf8|char8_t|char16_t|char32_t)")) {
+        if (IsLogic(file)) logic.insert(file);
+    }
+    EXPECT_EQ(logic, (std::set<std::string>{"common/code_page.cpp", "common/code_page.h",
+                                            "common/printable.cpp", "schedule/public_holidays.cpp"}));
+}
+
+}  // namespace
+}  // namespace vigrel
