@@ -6,6 +6,7 @@
 #include "common/failure.h"
 #include "common/file_procedures.h"
 #include "common/numbers.h"
+#include "schedule/active_day.h"
 #include "schedule/calendar_geometry.h"
 
 namespace vigrel {
@@ -65,12 +66,7 @@ std::int16_t cCalendar::GetDayType(std::int32_t index) const {
 }
 
 std::int16_t cCalendar::ResolveDayType(std::int32_t index, const cTimeSchedule& schedule) const {
-    const std::int16_t value = GetDayType(index);
-    const bool special = value > 0 && value <= kDayTypes;
-    if (special && schedule.GetActive(static_cast<std::int16_t>(value - 1))) {
-        return static_cast<std::int16_t>(value - 1);
-    }
-    return WeekDayOfIndex(index);
+    return vigrel::ResolveDayType(GetDayType(index), WeekDayOfIndex(index), schedule);
 }
 
 void cCalendar::RecalculateAndPrepareToPaint(cCalendarContainer&, cPaintObject*) {

@@ -22,6 +22,16 @@ TEST(InspectOptions, FilesAndTheirForm) {
     EXPECT_FALSE(options.alarms);
 }
 
+TEST(InspectOptions, TheMomentAndItsCalendar) {
+    const cInspectOptions options =
+        ReadOptions({"Profile_0012.dat", "--at", "2026-12-24 18:00", "--calendar", "a.cal"});
+    EXPECT_EQ(options.at, DateSerial(2026, 12, 24) + TimeSerial(18, 0, 0));
+    EXPECT_EQ(options.calendar, "a.cal");
+    EXPECT_EQ(RefusalOf({"x", "--calendar", "a.cal"}), "--calendar needs --at");
+    EXPECT_EQ(RefusalOf({"x", "--at", "2026-12-24", "--json"}),
+              "--at goes with none of --alarms, --json and --as");
+}
+
 TEST(InspectOptions, FiltersOfTheTable) {
     const cInspectOptions options = ReadOptions(
         {"/app", "--alarms", "--csv", "--from", "2026-03-01 10:00", "--category", "Fire", "--category",

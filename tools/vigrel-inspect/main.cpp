@@ -9,6 +9,7 @@
 #include "common/code_page.h"
 #include "common/failure.h"
 #include "common/file_procedures.h"
+#include "vigrel-inspect/active_report.h"
 #include "vigrel-inspect/alarm_export.h"
 #include "vigrel-inspect/options.h"
 #include "vigrel-inspect/print.h"
@@ -50,14 +51,17 @@ int Export(const cInspectOptions& options) {
     return result.damaged == 0 ? kFits : kDoesNotFit;
 }
 
-cInspection InspectFile(const cFileReader& files, const std::string& path, std::optional<eFileKind> kind) {
-    const std::string name = SplitPath(path).name;
+cNamedContent ReadNamed(const cFileReader& files, const std::string& path) {
     if (files.Stamp(path).size > kLargestFile) {
         throw cFailure(eFailure::InputOutput, path + ": the file is too large for a file of the system");
     }
-    const std::string content = files.ReadFile(path);
-    if (!kind) kind = KindOfFile(name, content);
-    return kind ? Inspect(*kind, name, content) : InspectUnknown(content);
+    return {SplitPath(path).name, files.ReadFile(path)};
+}
+
+cInspection InspectFile(const cFileReader& files, const std::string& path, std::optional<eFileKind> kind) {
+    const cNamedContent file = ReadNamed(files, path);
+    if (!kind) kind = KindOfFile(file.name, file.content);
+    return kind ? Inspect(*kind, file.name, file.content) : InspectUnknown(file.content);
 }
 
 int InspectFiles(const cInspectOptions& options) {
@@ -81,6 +85,26 @@ int InspectFiles(const cInspectOptions& options) {
     return result;
 }
 
+int TellWhatIsActive(const cInspectOptions& options) {
+    const cLinuxFiles files;
+    std::optional<cNamedContent> calendar;
+    if (!options.calendar.empty()) calendar = ReadNamed(files, options.calendar);
+    int result = kFits;
+    std::string separator;
+    for (const std::string& path : options.paths) {
+        std::string report;
+        if (const auto failure =
+                CatchFailure([&] { report = ActiveReport(ReadNamed(files, path), calendar, *options.at); })) {
+            PrintError(failure->what());
+            result = kDoesNotFit;
+            continue;
+        }
+        Print(separator + report);
+        separator = "\n";
+    }
+    return result;
+}
+
 int Run(const std::vector<std::string>& words) {
     cInspectOptions options;
     if (const auto failure = CatchFailure([&] { options = ReadOptions(words); })) {
@@ -91,7 +115,10 @@ int Run(const std::vector<std::string>& words) {
     int result = kDoesNotFit;
     const auto failure = CatchFailure([&] {
         if (options.help) Print(HelpText());
-        result = options.help ? kFits : options.alarms ? Export(options) : InspectFiles(options);
+        result = options.help     ? kFits
+                 : options.at     ? TellWhatIsActive(options)
+                 : options.alarms ? Export(options)
+                                  : InspectFiles(options);
     });
     if (failure) PrintError(failure->what());
     return result;

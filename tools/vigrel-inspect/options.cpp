@@ -17,6 +17,7 @@ constexpr std::string_view kHelp =
 
 Usage:
   vigrel-inspect [--json] [--as KIND] FILE...
+  vigrel-inspect --at DATE [--calendar FILE] FILE...
   vigrel-inspect FOLDER --alarms --csv [FILTER...] [--bom] [--exact] [--quiet]
 
 Files:
@@ -26,6 +27,11 @@ Files:
   --json         print a JSON array with one object a file
   --as KIND      read every FILE as this kind, whatever its name:
                  alarm, receiver, profile, schedule, calendar
+
+What is in force:
+  --at DATE      tell for each FILE, a profile or a time schedule, what it has in force at this moment,
+                 until when, and why
+  --calendar F   the calendar that gives dates their day types; without it the weekday counts
 
 Alarms as a table:
   --alarms       export the stored alarms of FOLDER, an application folder or its folder Alarms,
@@ -50,6 +56,7 @@ Examples:
   vigrel-inspect Receivers/Receiver_0007.dat
   vigrel-inspect --json Profiles/*.dat > profiles.json
   vigrel-inspect --as calendar old-calendar.bin
+  vigrel-inspect Profiles/Profile_0012.dat --at "2026-12-24 18:00" --calendar Calendar.cal
   vigrel-inspect ~/.local/share/VigrelReceiver --alarms --csv > alarms.csv
   vigrel-inspect . --alarms --csv --from 2026-03-01 --to 2026-03-31 --status active --observed no
 )";
@@ -112,8 +119,8 @@ class cOptionReader {
                 *flag->second = true;
             } else if (const auto value = m_Values.find(word); value != m_Values.end()) {
                 if (++i >= words.size()) Refuse(word + " needs a value");
-                value->second(ToCodePage(words[i]));
-                m_Filtered = m_Filtered || word != "--as";
+                value->second(word == "--calendar" ? PathText(words[i]) : ToCodePage(words[i]));
+                m_Filtered = m_Filtered || (word != "--as" && word != "--at" && word != "--calendar");
             } else {
                 Refuse("the option " + Utf8ToCodePage(word) + " is not known");
             }
@@ -126,6 +133,10 @@ class cOptionReader {
     void Check() const {
         if (m_Options.help) return;
         if (m_Options.paths.empty()) Refuse("no file was named");
+        if (!m_Options.calendar.empty() && !m_Options.at) Refuse("--calendar needs --at");
+        if (m_Options.at && (m_Options.alarms || m_Options.json || m_Options.kind)) {
+            Refuse("--at goes with none of --alarms, --json and --as");
+        }
         if (m_Options.alarms) {
             if (!m_Csv) Refuse("--alarms needs --csv");
             if (m_Options.json || m_Options.kind) Refuse("--json and --as are for files, not for --alarms");
@@ -143,6 +154,8 @@ class cOptionReader {
                                             {"--bom", &m_Options.mark},  {"--quiet", &m_Options.quiet}};
     std::map<std::string, std::function<void(const std::string&)>> m_Values = {
         {"--as", [this](const std::string& word) { m_Options.kind = KindFromOption(word); }},
+        {"--at", [this](const std::string& word) { m_Options.at = DateFromWord("--at", word); }},
+        {"--calendar", [this](const std::string& word) { m_Options.calendar = word; }},
         {"--from", [this](const std::string& word) { m_Options.filter.from = DateFromWord("--from", word); }},
         {"--to", [this](const std::string& word) { m_Options.filter.before = EndFromWord("--to", word); }},
         {"--category", [this](const std::string& word) { m_Options.filter.categories.push_back(word); }},

@@ -18,6 +18,8 @@ struct cInspectOptions {
     bool mark = false;    // a byte order mark in front of the table
     bool quiet = false;   // no progress
     std::optional<eFileKind> kind;
+    std::optional<DateTime> at;  // tell what is in force at this moment
+    std::string calendar;        // the file by which days are told then; empty for none
     cAlarmFilter filter;
     std::vector<std::string> paths;  // as in common/path_text.h
 };
