@@ -1,6 +1,8 @@
 #include "definitions/definition_file.h"
 
 #include <algorithm>
+#include <map>
+#include <utility>
 
 #include "common/failure.h"
 #include "common/file_procedures.h"
@@ -74,6 +76,19 @@ void LogFailure(const cDefinitionServices& services, std::int32_t text, const st
     Log(services, eNote::Failed, text, what + " Err:" + failure.what());
 }
 
+// The numbers and names of the files of a kind, as the folder gives them.
+std::vector<std::pair<std::int16_t, std::string>> NumberedNames(const cDefinitionServices& services,
+                                                                const cDefinitionKind& kind) {
+    const cPathParts parts = SplitPath(services.ini.FullPath(kind.folderAndStem));
+    std::vector<std::pair<std::int16_t, std::string>> names;
+    for (const std::string& name : services.files.ListFiles(parts.folder, parts.name + "????.dat")) {
+        const std::string digits = name.substr(parts.name.size(), 4);
+        if (digits.find_first_not_of("0123456789") != std::string::npos) continue;
+        names.emplace_back(ToInt16(Val(digits)), name);
+    }
+    return names;
+}
+
 void RequireComplete(const cBinaryReader& file) {
     if (file.Complete()) return;
     throw cFailure(eFailure::InputOutput,
@@ -90,19 +105,52 @@ std::string DefinitionFileName(const cDefinitionServices& services, const cDefin
 
 std::vector<std::int16_t> DefinitionIdentities(const cDefinitionServices& services,
                                                const cDefinitionKind& kind) {
-    const cPathParts parts = SplitPath(services.ini.FullPath(kind.folderAndStem));
     std::vector<std::int16_t> identities;
-    for (const std::string& name : services.files.ListFiles(parts.folder, parts.name + "????.dat")) {
-        const std::string digits = name.substr(parts.name.size(), 4);
-        if (digits.find_first_not_of("0123456789") == std::string::npos)
-            identities.push_back(ToInt16(Val(digits)));
-    }
+    for (const auto& [identity, name] : NumberedNames(services, kind)) identities.push_back(identity);
     std::sort(identities.begin(), identities.end());
+    identities.erase(std::unique(identities.begin(), identities.end()), identities.end());
     return identities;
 }
 
 void RemoveDefinitionTemporaries(const cDefinitionServices& services, const cDefinitionKind& kind) {
     RemoveTemporaries(services.files, SplitPath(services.ini.FullPath(kind.folderAndStem)).folder);
+}
+
+std::vector<cUnreadableFile> DefinitionsWithTheSameNumber(const cDefinitionServices& services,
+                                                          const cDefinitionKind& kind) {
+    std::multimap<std::int16_t, std::string> names;
+    for (auto& [identity, name] : NumberedNames(services, kind)) names.emplace(identity, std::move(name));
+    std::vector<cUnreadableFile> others;
+    for (auto first = names.begin(); first != names.end(); first = names.upper_bound(first->first)) {
+        const std::string path = DefinitionFileName(services, kind, first->first);
+        const cPathParts parts = SplitPath(path);
+        // The exact name is the one that is opened; without it the first that the folder gives.
+        const auto end = names.upper_bound(first->first);
+        const auto exact =
+            std::find_if(first, end, [&](const auto& each) { return each.second == parts.name; });
+        const auto opened = exact == end ? first : exact;
+        for (auto other = first; other != end; ++other) {
+            if (other == opened) continue;
+            others.push_back({parts.folder + other->second,
+                              "It has the same number as " + opened->second + "; rename one of them."});
+        }
+    }
+    return others;
+}
+
+std::string ReasonNotLoaded(const cDefinitionServices& services, const cDefinitionKind& kind,
+                            const std::string& fileName) {
+    std::string content;
+    if (const auto failure = CatchFailure([&] { content = OpenDefinition(services.files, fileName); })) {
+        return failure->what();
+    }
+    if (content.size() <= 1) return "The file has " + std::to_string(content.size()) + " bytes: it is empty.";
+    const std::int16_t version = cBinaryReader(content).Int16();
+    if (version >= kind.oldestVersion && version <= kDefinitionVersion) {
+        return "The file is damaged: it ends too early or holds a value that is none.";
+    }
+    return "The file's version is " + std::to_string(version) + ", not one of " +
+           std::to_string(kind.oldestVersion) + " to " + std::to_string(kDefinitionVersion) + ".";
 }
 
 cLoadResult LoadDefinition(const cDefinitionServices& services, const cDefinitionKind& kind,
@@ -151,6 +199,12 @@ bool SaveDefinition(const cDefinitionServices& services, const cDefinitionKind& 
         hasUpdatedIdentity = False16;
     }
     return false;
+}
+
+void NoteNotUpgraded(const cDefinitionServices& services, const cDefinitionKind& kind,
+                     std::int16_t identity) {
+    if (!services.m_OnNote) return;
+    services.m_OnNote({eNote::NotUpgraded, DefinitionFileName(services, kind, identity)});
 }
 
 bool RemoveDefinition(const cDefinitionServices& services, const cDefinitionKind& kind, std::int16_t identity,

@@ -19,7 +19,8 @@ namespace vigrel {
 
 // A line that was logged about a definition file, for programs that show it too.
 struct cDefinitionNote {
-    enum class eKind { Upgraded, Removed, Failed };
+    // NotUpgraded follows Upgraded when the file could not be written anew and stays as it was.
+    enum class eKind { Upgraded, NotUpgraded, Removed, Failed };
     eKind kind;
     std::string line;
 };
@@ -62,6 +63,17 @@ std::string DefinitionFileName(const cDefinitionServices& services, const cDefin
 // The identities of the files of a kind that lie in their folder, in rising order. Other names are left out.
 std::vector<std::int16_t> DefinitionIdentities(const cDefinitionServices& services,
                                                const cDefinitionKind& kind);
+// Files of a folder that were not loaded, and why, for people.
+struct cUnreadableFile {
+    std::string path, reason;
+    bool operator==(const cUnreadableFile&) const = default;
+};
+// Names that differ in case only from another one with the same number: only one of them can be opened.
+std::vector<cUnreadableFile> DefinitionsWithTheSameNumber(const cDefinitionServices& services,
+                                                          const cDefinitionKind& kind);
+// Why a file can't be loaded.
+std::string ReasonNotLoaded(const cDefinitionServices& services, const cDefinitionKind& kind,
+                            const std::string& fileName);
 
 // Takes away what a crash left of a save in the folder of a kind.
 void RemoveDefinitionTemporaries(const cDefinitionServices& services, const cDefinitionKind& kind);
@@ -83,6 +95,9 @@ cLoadResult LoadDefinition(const cDefinitionServices& services, const cDefinitio
 // can't be taken by two.
 bool SaveDefinition(const cDefinitionServices& services, const cDefinitionKind& kind, std::int16_t& identity,
                     Boolean16& hasUpdatedIdentity, const std::function<void(cBinaryWriter&)>& writeRecord);
+
+// Tells, without a line of the log of its own, that an upgraded file could not be written.
+void NoteNotUpgraded(const cDefinitionServices& services, const cDefinitionKind& kind, std::int16_t identity);
 
 bool RemoveDefinition(const cDefinitionServices& services, const cDefinitionKind& kind, std::int16_t identity,
                       std::string_view name);

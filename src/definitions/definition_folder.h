@@ -1,10 +1,15 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "common/failure.h"
+#include "common/file_procedures.h"
 #include "definitions/definition_file.h"
 #include "definitions/profile.h"
 #include "definitions/receiver.h"
@@ -31,6 +36,9 @@ inline void Prepare(cProfile& profile) {
     profile.m_TimeSchedule->SetDefaultPeriod();
 }
 
+// What other programs did to the file of a definition since it was read or written here.
+enum class eFileState { Unchanged, Changed, Gone };
+
 // All definitions of one kind of an application folder, loaded, edited and not yet saved ones among them.
 // Positions count from 0 and stay the same until a definition is removed. What goes wrong with a file is told
 // by the note of the services.
@@ -42,61 +50,116 @@ class cDefinitionFolder {
     // Replaces all by what the folder holds, in the order of the identities. A file that can't be loaded is
     // left out, and out of reach of everything here. What a crash left of a save is taken away.
     void Load() {
-        m_Definitions.clear();
-        m_Unreadable.clear();
+        m_Entries.clear();
         RemoveDefinitionTemporaries(m_Services, Definition::kKind);
-        for (const std::int16_t identity : DefinitionIdentities(m_Services, Definition::kKind)) {
-            auto definition = std::make_unique<Definition>(m_Services);
-            if (definition->LoadFromDisk(identity)) {
-                m_Definitions.push_back(std::move(definition));
-            } else {
-                m_Unreadable.push_back(definition->CreateFileName(identity));
-            }
+        LoadNew();
+    }
+    // Takes up what other programs did: files that are new, and changed files of definitions that are not
+    // held. Positions stay; what is new comes last. Whether anything was taken up.
+    bool Rescan(const std::function<bool(std::size_t position)>& isHeld) {
+        bool changed = false;
+        for (std::size_t i = 0; i < m_Entries.size(); ++i) {
+            if (!IsNews(i) || isHeld(i)) continue;
+            const cFileReader::cStamp stamp = StampOf(At(i));
+            changed = Revert(i) || changed;
+            // Told once: what can't be read stays as it was read before.
+            m_Entries[i].seen = stamp;
         }
+        return LoadNew() || changed;
+    }
+    // Whether Rescan would take up anything.
+    bool HasNews(const std::function<bool(std::size_t position)>& isHeld) const {
+        for (std::size_t i = 0; i < m_Entries.size(); ++i) {
+            if (IsNews(i) && !isHeld(i)) return true;
+        }
+        const std::vector<std::int16_t> identities = DefinitionIdentities(m_Services, Definition::kKind);
+        return std::any_of(identities.begin(), identities.end(), [this](std::int16_t identity) {
+            return !Holds(identity) && !IsUnreadable(identity);
+        });
     }
     // Adds a new one, unsaved; its position.
     std::size_t Add(const std::string& name) {
         auto definition = std::make_unique<Definition>(m_Services);
         Rename(*definition, name);
         Prepare(*definition);
-        m_Definitions.push_back(std::move(definition));
-        return m_Definitions.size() - 1;
+        m_Entries.push_back({std::move(definition), {}, {}});
+        return m_Entries.size() - 1;
     }
     // Adds a copy with a name of its own, unsaved; its position.
     std::size_t AddCopy(std::size_t position, const std::string& name) {
-        auto definition = std::make_unique<Definition>(m_Services);
-        definition->CopyFrom(*m_Definitions.at(position));
+        auto definition = CopyOf(position);
         Rename(*definition, name);
-        m_Definitions.push_back(std::move(definition));
-        return m_Definitions.size() - 1;
+        m_Entries.push_back({std::move(definition), {}, {}});
+        return m_Entries.size() - 1;
+    }
+    // Adds an unsaved copy of what the file of one holds now; none when it can't be read.
+    std::optional<std::size_t> AddFromFile(std::size_t position) {
+        Definition file(m_Services);
+        const std::int16_t identity = At(position).m_DiskIdentity;
+        if (!HasFile(position) || !file.LoadFromDisk(identity)) return std::nullopt;
+        auto definition = std::make_unique<Definition>(m_Services);
+        definition->CopyFrom(file);
+        Rename(*definition, FreeName(NameOf(file)));
+        m_Entries.push_back({std::move(definition), {}, {}});
+        return m_Entries.size() - 1;
     }
     // Writes one, and reads it back as the file has it.
     bool Save(std::size_t position) {
-        Definition& definition = *m_Definitions.at(position);
-        return definition.SaveToDisk() && definition.LoadFromDisk(definition.m_DiskIdentity);
+        Definition& definition = At(position);
+        if (!definition.SaveToDisk() || !definition.LoadFromDisk(definition.m_DiskIdentity)) return false;
+        m_Entries[position].stamp = StampOf(definition);
+        return true;
     }
     // Takes one away, with its file when it has one. False, and it stays, when the file can't be removed.
     bool Remove(std::size_t position) {
-        Definition& definition = *m_Definitions.at(position);
-        if (definition.m_DiskIdentity >= 0 && !definition.RemoveFromDisk()) return false;
-        m_Definitions.erase(m_Definitions.begin() + static_cast<std::ptrdiff_t>(position));
+        if (HasFile(position) && !At(position).RemoveFromDisk()) return false;
+        m_Entries.erase(m_Entries.begin() + static_cast<std::ptrdiff_t>(position));
         return true;
     }
-    // Gives up the changes of one: back to its file, or away when it has none. False when its file can no
-    // longer be read; it keeps its changes then.
+    // Gives up the changes of one: back to its file, or away when it has none. False when its file is gone or
+    // can no longer be read; it keeps its changes then.
     bool Revert(std::size_t position) {
-        const std::int16_t identity = m_Definitions.at(position)->m_DiskIdentity;
+        const std::int16_t identity = At(position).m_DiskIdentity;
         if (identity < 0) return Remove(position);
+        // A load would make the missing file anew, empty.
+        if (!HasFile(position)) return false;
         auto again = std::make_unique<Definition>(m_Services);
         if (!again->LoadFromDisk(identity)) return false;
-        m_Definitions[position] = std::move(again);
+        m_Entries[position] = {std::move(again), {}, {}};
+        m_Entries[position].stamp = StampOf(At(position));
         return true;
     }
+
+    // --- undo
+    std::unique_ptr<Definition> CopyOf(std::size_t position) const {
+        auto definition = std::make_unique<Definition>(m_Services);
+        definition->CopyFrom(At(position));
+        return definition;
+    }
+    // The bytes of the file of one; none when it has none that can be read.
+    std::optional<std::string> FileOf(std::size_t position) const {
+        std::optional<std::string> bytes;
+        if (!HasFile(position)) return bytes;
+        SkipFailure([&] { bytes = m_Services.files.ReadFile(PathOf(At(position))); });
+        return bytes;
+    }
+    // Brings one back to its position, with its file when that had been there. False when it comes back
+    // unsaved instead: the file's name is taken meanwhile, or it can't be written.
+    bool BringBack(std::size_t position, const Definition& content, std::int16_t identity,
+                   const std::optional<std::string>& file) {
+        auto definition = std::make_unique<Definition>(m_Services);
+        const bool asFile = file && WriteBack(identity, *file) && definition->LoadFromDisk(identity);
+        definition->CopyFrom(content);
+        cEntry entry{std::move(definition), {}, {}};
+        if (asFile) entry.stamp = StampOf(*entry.definition);
+        m_Entries.insert(m_Entries.begin() + static_cast<std::ptrdiff_t>(position), std::move(entry));
+        return asFile || !file;
+    }
+
     bool HasChanges() const {
-        for (const auto& definition : m_Definitions) {
-            if (definition->HasChangedSinceLastLoadFromDisk()) return true;
-        }
-        return false;
+        return std::any_of(m_Entries.begin(), m_Entries.end(), [](const cEntry& entry) {
+            return entry.definition->HasChangedSinceLastLoadFromDisk();
+        });
     }
     // A name that none has yet: the wish itself, or with " 2", " 3" ... behind it.
     std::string FreeName(const std::string& wish) const {
@@ -105,23 +168,77 @@ class cDefinitionFolder {
         return name;
     }
 
-    std::size_t Count() const { return m_Definitions.size(); }
-    Definition& At(std::size_t position) { return *m_Definitions.at(position); }
-    const Definition& At(std::size_t position) const { return *m_Definitions.at(position); }
+    std::size_t Count() const { return m_Entries.size(); }
+    Definition& At(std::size_t position) { return *m_Entries.at(position).definition; }
+    const Definition& At(std::size_t position) const { return *m_Entries.at(position).definition; }
+    eFileState StateOfFile(std::size_t position) const {
+        if (At(position).m_DiskIdentity < 0) return eFileState::Unchanged;
+        const cFileReader::cStamp now = StampOf(At(position));
+        if (now.size < 0) return eFileState::Gone;
+        return now == m_Entries[position].stamp ? eFileState::Unchanged : eFileState::Changed;
+    }
     // The files that could not be loaded.
-    const std::vector<std::string>& Unreadable() const { return m_Unreadable; }
+    const std::vector<cUnreadableFile>& Unreadable() const { return m_Unreadable; }
 
   private:
+    struct cEntry {
+        std::unique_ptr<Definition> definition;
+        cFileReader::cStamp stamp;   // of its file, as it was read or written last
+        cFileReader::cStamp seen{};  // of a file that was changed by others and looked at
+    };
+
+    bool IsNews(std::size_t position) const {
+        return StateOfFile(position) == eFileState::Changed &&
+               m_Entries[position].seen != StampOf(At(position));
+    }
     bool HasName(const std::string& name) const {
-        for (const auto& definition : m_Definitions) {
-            if (NameOf(*definition) == name) return true;
+        return std::any_of(m_Entries.begin(), m_Entries.end(),
+                           [&](const cEntry& entry) { return NameOf(*entry.definition) == name; });
+    }
+    bool Holds(std::int16_t identity) const {
+        return std::any_of(m_Entries.begin(), m_Entries.end(), [identity](const cEntry& entry) {
+            return entry.definition->m_DiskIdentity == identity;
+        });
+    }
+    bool IsUnreadable(std::int16_t identity) const {
+        const std::string path = DefinitionFileName(m_Services, Definition::kKind, identity);
+        return std::any_of(m_Unreadable.begin(), m_Unreadable.end(),
+                           [&](const cUnreadableFile& file) { return file.path == path; });
+    }
+    std::string PathOf(const Definition& definition) const {
+        return definition.CreateFileName(definition.m_DiskIdentity);
+    }
+    cFileReader::cStamp StampOf(const Definition& definition) const {
+        return m_Services.files.Stamp(PathOf(definition));
+    }
+    bool HasFile(std::size_t position) const {
+        return At(position).m_DiskIdentity >= 0 && FileExists(m_Services.files, PathOf(At(position)));
+    }
+    bool WriteBack(std::int16_t identity, const std::string& bytes) const {
+        const std::string path = DefinitionFileName(m_Services, Definition::kKind, identity);
+        if (FileExists(m_Services.files, path)) return false;
+        return !CatchFailure([&] { ReplaceFile(m_Services.files, path, bytes); });
+    }
+    // Whether a definition came in that was not held yet.
+    bool LoadNew() {
+        const std::size_t before = m_Entries.size();
+        m_Unreadable = DefinitionsWithTheSameNumber(m_Services, Definition::kKind);
+        for (const std::int16_t identity : DefinitionIdentities(m_Services, Definition::kKind)) {
+            if (Holds(identity)) continue;
+            auto definition = std::make_unique<Definition>(m_Services);
+            const std::string path = definition->CreateFileName(identity);
+            if (definition->LoadFromDisk(identity)) {
+                m_Entries.push_back({std::move(definition), m_Services.files.Stamp(path), {}});
+            } else {
+                m_Unreadable.push_back({path, ReasonNotLoaded(m_Services, Definition::kKind, path)});
+            }
         }
-        return false;
+        return m_Entries.size() != before;
     }
 
     const cDefinitionServices& m_Services;
-    std::vector<std::unique_ptr<Definition>> m_Definitions;
-    std::vector<std::string> m_Unreadable;
+    std::vector<cEntry> m_Entries;
+    std::vector<cUnreadableFile> m_Unreadable;
 };
 
 using cReceiverFolder = cDefinitionFolder<cReceiver>;

@@ -78,6 +78,10 @@ bool cProfile::HasChangedSinceLastLoadFromDisk() const {
            PeriodText(m_TimeSchedule) != PeriodText(m_Original_TimeSchedule);
 }
 
+bool cProfile::HasSameContentAs(const cProfile& other) const {
+    return Fields(*this) == Fields(other) && PeriodText(m_TimeSchedule) == PeriodText(other.m_TimeSchedule);
+}
+
 void cProfile::CopyFrom(const cProfile& other) {
     Fields(*this) = Fields(other);
     m_TimeSchedule = CopyOf(other.m_TimeSchedule);
@@ -126,7 +130,7 @@ bool cProfile::LoadFromDisk(std::int16_t DiskIdentity) {
     const cLoadResult result =
         LoadDefinition(m_Services, kKind, DiskIdentity, m_DiskIdentity,
                        [this](cBinaryReader& file, std::int16_t version) { ReadRecord(file, version); });
-    if (result.outdated) SaveToDisk();
+    if (result.outdated && !SaveToDisk()) NoteNotUpgraded(m_Services, kKind, DiskIdentity);
     RememberOriginalSettings();
     return result.loaded;
 }

@@ -73,6 +73,8 @@ class cProfile {
     void RememberOriginalSettings();
     std::string CreateFileName(std::int16_t DiskIdentity) const;
     bool HasChangedSinceLastLoadFromDisk() const;
+    // Whether both would be stored alike.
+    bool HasSameContentAs(const cProfile& other) const;
     // Takes over everything but the identity of the file; the schedule as a schedule of its own.
     void CopyFrom(const cProfile& other);
     const std::string& GetName() const { return m_Name; }

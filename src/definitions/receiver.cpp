@@ -58,6 +58,12 @@ void cReceiver::RememberOriginalSettings() {
     m_Original_Settings = m_Settings;
 }
 
+bool cReceiver::HasSameContentAs(const cReceiver& other) const {
+    return m_ReceiverName == other.m_ReceiverName && m_ReceiverTypeId == other.m_ReceiverTypeId &&
+           m_ParallellNumbers == other.m_ParallellNumbers && m_Enabled == other.m_Enabled &&
+           m_Settings == other.m_Settings;
+}
+
 void cReceiver::CopyFrom(const cReceiver& other) {
     SetReceiverTypeId(other.m_ReceiverTypeId);
     m_ReceiverName = other.m_ReceiverName;
@@ -95,7 +101,7 @@ bool cReceiver::LoadFromDisk(std::int16_t DiskIdentity) {
     const cLoadResult result =
         LoadDefinition(m_Services, kKind, DiskIdentity, m_DiskIdentity,
                        [this](cBinaryReader& file, std::int16_t version) { ReadRecord(file, version); });
-    if (result.outdated) SaveToDisk();
+    if (result.outdated && !SaveToDisk()) NoteNotUpgraded(m_Services, kKind, DiskIdentity);
     RememberOriginalSettings();
     return result.loaded;
 }

@@ -39,6 +39,8 @@ class cReceiver {
     // The settings 0 to 3; another index throws cFailure (OutOfBounds).
     const cVariant& GetSetting(std::int16_t Index) const;
     bool HasChangedSinceLastLoadFromDisk() const;
+    // Whether both would be stored alike.
+    bool HasSameContentAs(const cReceiver& other) const;
     // Takes over everything but the identity of the file.
     void CopyFrom(const cReceiver& other);
     void SaveSetting(std::int16_t Index, const cVariant& NewValue);

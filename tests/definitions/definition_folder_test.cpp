@@ -28,7 +28,9 @@ TEST_F(DefinitionFolder, LoadsWhatCanBeReadInTheOrderOfTheIdentities) {
     ASSERT_EQ(m_Receivers.Count(), 2u);
     EXPECT_EQ(m_Receivers.At(0).m_DiskIdentity, 7);
     EXPECT_EQ(m_Receivers.At(1).m_DiskIdentity, 9);
-    EXPECT_EQ(m_Receivers.Unreadable(), std::vector<std::string>{ReceiverPath("0008")});
+    const std::vector<cUnreadableFile> unreadable{
+        {ReceiverPath("0008"), "The file's version is 262, not one of 3 to 5."}};
+    EXPECT_EQ(m_Receivers.Unreadable(), unreadable);
     EXPECT_FALSE(m_Receivers.HasChanges());
 }
 
@@ -128,6 +130,69 @@ TEST_F(DefinitionFolder, RevertingReadsTheFileAgainOrDropsANewOne) {
     m_Files.Put(ReceiverPath("0007"), "");
     EXPECT_FALSE(m_Receivers.Revert(0));
     EXPECT_EQ(m_Receivers.At(0).m_ReceiverName, "x");
+}
+
+TEST_F(DefinitionFolder, AnUpgradeThatCantBeWrittenIsTold) {
+    m_Files.m_FolderReadOnly = true;
+    m_Receivers.Load();
+    EXPECT_EQ(m_Notes.back().kind, eNote::NotUpgraded);
+    EXPECT_EQ(m_Notes.back().line, ReceiverPath("0009"));
+    EXPECT_EQ(m_Receivers.Count(), 2u);
+}
+
+// Two spellings of one name, as other systems can put them into the folder.
+class cFilesWithTwins : public testing::cFakeFiles {
+  public:
+    std::vector<std::string> ListFiles(std::string_view folder, std::string_view mask) const override {
+        std::vector<std::string> names = cFakeFiles::ListFiles(folder, mask);
+        if (mask.starts_with("Receiver_")) names.insert(names.begin(), "RECEIVER_0007.DAT");
+        return names;
+    }
+};
+
+TEST_F(DefinitionFolder, OfTwoFilesWithOneNumberOneIsOpenedAndTheOtherTold) {
+    cFilesWithTwins files;
+    files.Put(ReceiverPath("0007"), testing::Sample("receiver_version_5.dat"));
+    const cDefinitionServices services{files, m_Clock, m_Random, m_Texts, m_Log, m_Ini, m_Types};
+    cReceiverFolder folder(services);
+    folder.Load();
+    EXPECT_EQ(folder.Count(), 1u);
+    const std::vector<cUnreadableFile> others{
+        {"C:\\App\\Receivers\\RECEIVER_0007.DAT",
+         "It has the same number as Receiver_0007.dat; rename one of them."}};
+    EXPECT_EQ(folder.Unreadable(), others);
+}
+
+TEST_F(DefinitionFolder, WhatIsBroughtBackHasItsFileAndItsChanges) {
+    m_Receivers.Load();
+    m_Receivers.At(0).m_ReceiverName = "x";
+    const auto content = m_Receivers.CopyOf(0);
+    const auto file = m_Receivers.FileOf(0);
+    ASSERT_TRUE(file.has_value());
+    ASSERT_TRUE(m_Receivers.Remove(0));
+    EXPECT_TRUE(m_Receivers.BringBack(0, *content, 7, file));
+    EXPECT_EQ(m_Files.ReadFile(ReceiverPath("0007")), *file);
+    EXPECT_EQ(m_Receivers.At(0).m_ReceiverName, "x");
+    EXPECT_TRUE(m_Receivers.At(0).HasChangedSinceLastLoadFromDisk());
+    EXPECT_EQ(m_Receivers.StateOfFile(0), eFileState::Unchanged);
+    // A disk that refuses leaves it without a file.
+    ASSERT_TRUE(m_Receivers.Remove(0));
+    m_Files.m_DiskFull = true;
+    EXPECT_FALSE(m_Receivers.BringBack(0, *content, 7, file));
+    EXPECT_EQ(m_Receivers.At(0).m_DiskIdentity, -1);
+    EXPECT_EQ(m_Receivers.Count(), 2u);
+}
+
+TEST_F(DefinitionFolder, AChangedFileThatCantBeReadIsLookedAtOnce) {
+    m_Receivers.Load();
+    const auto held = [](std::size_t) { return false; };
+    EXPECT_FALSE(m_Receivers.HasNews(held));
+    m_Files.Put(ReceiverPath("0007"), "??");
+    EXPECT_TRUE(m_Receivers.HasNews(held));
+    EXPECT_FALSE(m_Receivers.Rescan(held));
+    EXPECT_FALSE(m_Receivers.HasNews(held));
+    EXPECT_EQ(m_Receivers.At(0).m_ReceiverName, "\xD6st");
+    EXPECT_EQ(m_Receivers.StateOfFile(0), eFileState::Changed);
 }
 
 TEST(ReceiverList, IsIdentitiesSeparatedBySemicolons) {
