@@ -15,6 +15,10 @@ class cFakePrompts : public cPrompts {
         m_Asked += "save " + title + "\n";
         return Take(m_SaveAnswers, eSave::Cancel);
     }
+    eConflict AskConflict(QWidget*, const QString& text, bool both) override {
+        m_Asked += (both ? "mine, theirs, both: " : "mine, theirs: ") + text + "\n";
+        return Take(m_ConflictAnswers, eConflict::Cancel);
+    }
     bool AskYesNo(QWidget*, const QString& question) override {
         m_Asked += "yes or no: " + question + "\n";
         return Take(m_YesNoAnswers, false);
@@ -39,6 +43,7 @@ class cFakePrompts : public cPrompts {
     QString m_Asked;
     QWidget* m_Window = nullptr;  // over which the last failure was shown
     std::deque<eSave> m_SaveAnswers;
+    std::deque<eConflict> m_ConflictAnswers;
     std::deque<bool> m_YesNoAnswers;
     std::deque<QString> m_Texts;
 

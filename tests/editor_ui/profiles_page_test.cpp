@@ -188,6 +188,59 @@ TEST_F(ProfilesPage, ReceiversAreAddedFromTheListOfReceiversRemovedAndPutInOrder
     EXPECT_FALSE(none[0]->isEnabled());
 }
 
+TEST_F(ProfilesPage, TheReceiversOfferedAreComparedByNumber) {
+    Shown().m_ParallellReceivers = "0007; 0042";
+    Page().Choose(0);
+    const QList<QAction*> offers = Offers("Button_Parallel_Add");
+    ASSERT_EQ(offers.size(), 1);
+    EXPECT_FALSE(offers[0]->isEnabled());
+}
+
+TEST_F(ProfilesPage, EveryEditIsUndoneWhereItWasMade) {
+    auto* tabs = Find<QTabWidget>(Page(), "Tabs_Profile");
+    ShowTab(1);
+    Type(Page(), "Text_Condition_2", "Gas");
+    ShowTab(2);
+    Press(Page(), "Button_Parallel_Remove");
+    ShowTab(3);
+    Press(Page(), "Check_TimeSchedule_UseCalendar");
+    ShowTab(4);
+    MarkADay(*Page().findChild<cCalendarEditor*>());
+    ShowTab(6);
+    Press(Page(), "Check_System_0");
+    Press(Page(), "Button_Systems_All");
+    const std::vector<int> expected{6, 6, 4, 3, 2, 1};
+    std::vector<int> shown;
+    while (Page().UndoStack()->canUndo()) {
+        ShowTab(0);
+        Page().UndoStack()->undo();
+        shown.push_back(tabs->currentIndex());
+    }
+    EXPECT_EQ(shown, expected);
+    EXPECT_FALSE(Page().IsDirty());
+}
+
+TEST_F(ProfilesPage, ATimeThatIsNoneStandsInTheWayOfSaving) {
+    ShowTab(3);
+    auto* view = Find<QWidget>(Page(), "Picture_TimeSchedule");
+    QTest::keyClick(view, Qt::Key_Down);
+    QTest::keyClick(view, Qt::Key_Insert);
+    ASSERT_TRUE(Page().Save());
+    auto* stop = Find<QLineEdit>(Page(), "Text_Schedule_Period_Stop");
+    ASSERT_TRUE(stop->isEnabled());
+    Type(Page(), "Text_Schedule_Period_Stop", "25:30");
+    QTest::keyClick(stop, Qt::Key_Return);
+    EXPECT_TRUE(Page().IsDirty());
+    ShowTab(0);
+    EXPECT_FALSE(Page().Save());
+    EXPECT_NE(Asked().find("Stop: \"25:30\" lies behind 24:00."), std::string::npos);
+    EXPECT_EQ(Find<QTabWidget>(Page(), "Tabs_Profile")->currentIndex(), 3);
+    // It doesn't go over to another profile.
+    Press(Page(), "Button_Copy");
+    EXPECT_EQ(LabelOf(Page(), "Label_Schedule_Problem"), "");
+    EXPECT_TRUE(Page().Save());
+}
+
 TEST_F(ProfilesPage, AReceiverRenamedMeanwhileIsShownByItsNewName) {
     Page().hide();
     m_Station.Receivers().At(0).m_ReceiverName = "East";
@@ -221,7 +274,10 @@ TEST_F(ProfilesPage, AnotherProfileHasAScheduleOfItsOwn) {
     Page().Choose(0);
     EXPECT_EQ(Shown().m_TimeSchedule->m_UseCalendar, True16);
     EXPECT_TRUE(Find<QCheckBox>(Page(), "Check_TimeSchedule_UseCalendar")->isChecked());
-    EXPECT_FALSE(Page().UndoStack()->canUndo());
+    // Undo goes back to the profile that it speaks of.
+    Page().UndoStack()->undo();
+    EXPECT_EQ(Page().Chosen(), 1);
+    EXPECT_EQ(Shown().m_TimeSchedule->m_UseCalendar, True16);
 }
 
 TEST_F(ProfilesPage, AnotherCalendarIsOpenedOnlyWhenTheChangedOneIsSavedOrGivenUp) {

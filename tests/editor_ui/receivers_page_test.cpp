@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QUndoStack>
 
 #include "editor_ui/page_fixture.h"
 
@@ -90,7 +91,9 @@ TEST_F(ReceiversPage, SettingsAreLabelledByTheTypeOfTheReceiver) {
     ChooseType("Radio");
     EXPECT_EQ(LabelOf(Page(), "Label_Setting_0"), "Serial port:");
     EXPECT_EQ(LabelOf(Page(), "Label_Setting_1"), "Keep-alive interval:");
-    EXPECT_EQ(LabelOf(Page(), "Label_Setting_3"), "Setting 3 (not used):");
+    EXPECT_TRUE(Find<QLineEdit>(Page(), "Text_Setting_1")->isVisible());
+    // What the type doesn't use takes no input.
+    EXPECT_FALSE(Find<QLineEdit>(Page(), "Text_Setting_3")->isVisible());
     ChooseType("Mail");
     EXPECT_EQ(LabelOf(Page(), "Label_Setting_0"), "Address:");
     EXPECT_EQ(LabelOf(Page(), "Label_Setting_1"), "Subject:");
@@ -226,8 +229,10 @@ TEST_F(ReceiversPage, AFailedRemovalIsToldAndTheReceiverStays) {
 TEST_F(ReceiversPage, SavingAllStopsAtTheOneThatCantBeSaved) {
     Press(Page(), "Button_New");
     Type(Page(), "Text_ReceiverName", "A");
+    ChooseType("Mail");
     Press(Page(), "Button_New");
     Type(Page(), "Text_ReceiverName", " ");
+    ChooseType("Mail");
     Page().Choose(0);
     EXPECT_FALSE(Page().Save());
     EXPECT_EQ(Page().Chosen(), 2);
@@ -260,6 +265,282 @@ TEST_F(ReceiversPage, EveryFieldHasANameForAssistiveTools) {
         if (!field->objectName().startsWith("Text_")) continue;
         EXPECT_FALSE(field->accessibleName().isEmpty()) << field->objectName().toStdString();
     }
+}
+
+// --- what is typed and is no value
+
+TEST_F(ReceiversPage, AHalfTypedValueStandsInTheWayWhicheverReceiverIsShown) {
+    PutSample("Receivers\\Receiver_0042.dat", "receiver_version_5.dat");
+    ChooseType("Radio");
+    Page().Save();
+    Page().Choose(1);
+    ChooseType("Radio");
+    Page().Save();
+    const std::string before = OnDisk("Receivers\\Receiver_0042.dat");
+    Type(Page(), "Text_Setting_1", "1500x");
+    Page().Choose(0);
+    EXPECT_TRUE(Page().IsDirty());
+    EXPECT_EQ(TextOf(Page(), "Text_Setting_1"), "2.5");
+    EXPECT_FALSE(Page().Save());
+    EXPECT_EQ(OnDisk("Receivers\\Receiver_0042.dat"), before);
+    // The message leads to the receiver and the field.
+    EXPECT_NE(Asked().find("Keep-alive interval: \"1500x\" is no value"), std::string::npos);
+    EXPECT_EQ(Page().Chosen(), 1);
+    EXPECT_EQ(TextOf(Page(), "Text_Setting_1"), "1500x");
+    EXPECT_EQ(Page().focusWidget()->objectName().toStdString(), "Text_Setting_1");
+    Type(Page(), "Text_Setting_1", "1500");
+    EXPECT_TRUE(Page().Save());
+    EXPECT_EQ(Shown().GetSetting(1), cVariant::Int32(1500));
+}
+
+TEST_F(ReceiversPage, AReceiverWithAHalfTypedValueIsMarkedUntilTheTypingIsTakenBack) {
+    ChooseType("Radio");
+    Page().Save();
+    const auto mark = [this] {
+        const auto* list = Find<QAbstractItemView>(Page(), "List_Definitions");
+        return list->model()->index(0, 0).data(Qt::ToolTipRole).toString().toStdString();
+    };
+    EXPECT_EQ(mark(), "");
+    Type(Page(), "Text_Setting_1", "x");
+    EXPECT_EQ(mark(),
+              "Can't be saved: Keep-alive interval: \"x\" is no value of the type whole number (32 bits)");
+    Page().UndoStack()->undo();
+    EXPECT_EQ(mark(), "");
+    EXPECT_FALSE(Page().IsDirty());
+    Page().UndoStack()->redo();
+    EXPECT_EQ(TextOf(Page(), "Text_Setting_1"), "x");
+    Press(Page(), "Button_Revert");
+    EXPECT_EQ(mark(), "");
+}
+
+TEST_F(ReceiversPage, AnotherTypeTakesWhatIsAValueForIt) {
+    ChooseType("Radio");
+    Type(Page(), "Text_Setting_1", "soon");
+    ChooseType("Mail");
+    EXPECT_EQ(LabelOf(Page(), "Label_Setting_1_Problem"), "");
+    EXPECT_EQ(Shown().GetSetting(1), cVariant::String("soon"));
+    Page().UndoStack()->undo();
+    EXPECT_EQ(TextOf(Page(), "Text_Setting_1"), "soon");
+    EXPECT_FALSE(Page().Save());
+    ChooseType("Printer");
+    EXPECT_TRUE(Page().Save());
+}
+
+TEST_F(ReceiversPage, AReceiverWithoutATypeIsNotSaved) {
+    Press(Page(), "Button_New");
+    const auto* combo = Find<QComboBox>(Page(), "Combo_ReceiverType");
+    EXPECT_EQ(combo->currentIndex(), 0);
+    EXPECT_EQ(combo->currentText().toStdString(), "(choose a type)");
+    EXPECT_FALSE(Page().Save());
+    EXPECT_EQ(Asked(), "failure: \"New receiver\" can't be saved.\n\nChoose a type.\n");
+    EXPECT_EQ(Page().focusWidget(), combo);
+    ChooseType("Mail");
+    EXPECT_TRUE(Page().Save());
+}
+
+TEST_F(ReceiversPage, ALongStoredNameIsEditedWithoutLoss) {
+    Shown().m_ReceiverName = std::string(60000, 'n');
+    Page().Choose(0);
+    auto* name = Find<QLineEdit>(Page(), "Text_ReceiverName");
+    name->end(false);
+    QTest::keyClicks(name, "!");
+    EXPECT_EQ(Shown().m_ReceiverName, std::string(60000, 'n') + "!");
+}
+
+// --- undo
+
+TEST_F(ReceiversPage, WhatIsTypedInOneGoIsOneStep) {
+    Type(Page(), "Text_ReceiverName", "East");
+    EXPECT_EQ(Page().UndoStack()->count(), 1);
+    EXPECT_EQ(Page().UndoStack()->undoText().toStdString(), "changing Name");
+    Type(Page(), "Text_ParallellNumbers", "17");
+    Press(Page(), "Check_Enabled");
+    EXPECT_EQ(Page().UndoStack()->count(), 3);
+    while (Page().UndoStack()->canUndo()) Page().UndoStack()->undo();
+    EXPECT_FALSE(Page().IsDirty());
+    EXPECT_EQ(TextOf(Page(), "Text_ReceiverName"), "\xC3\x96st");
+}
+
+TEST_F(ReceiversPage, UndoShowsTheReceiverThatItChanges) {
+    PutSample("Receivers\\Receiver_0042.dat", "receiver_version_5.dat");
+    Page().Choose(1);
+    Type(Page(), "Text_ReceiverName", "East");
+    Page().Choose(0);
+    Page().UndoStack()->undo();
+    EXPECT_EQ(Page().Chosen(), 1);
+    EXPECT_EQ(TextOf(Page(), "Text_ReceiverName"), "\xC3\x96st");
+}
+
+TEST_F(ReceiversPage, NewAndCopiedReceiversGoAndComeByUndo) {
+    Press(Page(), "Button_Copy");
+    Press(Page(), "Button_New");
+    Type(Page(), "Text_ReceiverName", "Duty");
+    while (Page().UndoStack()->canUndo()) Page().UndoStack()->undo();
+    EXPECT_EQ(Rows(Page()), kEast);
+    EXPECT_EQ(Asked(), "");
+    while (Page().UndoStack()->canRedo()) Page().UndoStack()->redo();
+    EXPECT_EQ(m_Station.Receivers().Count(), 3u);
+    EXPECT_EQ(TextOf(Page(), "Text_ReceiverName"), "Duty");
+}
+
+TEST_F(ReceiversPage, ADeletedReceiverComesBackWithItsFile) {
+    const std::string bytes = OnDisk("Receivers\\Receiver_0007.dat");
+    Type(Page(), "Text_ReceiverName", "East");
+    m_Prompts.m_YesNoAnswers = {true};
+    Press(Page(), "Button_Delete");
+    EXPECT_FALSE(m_Files.FileExists(Path("Receivers\\Receiver_0007.dat")));
+    Page().UndoStack()->undo();
+    EXPECT_EQ(OnDisk("Receivers\\Receiver_0007.dat"), bytes);
+    EXPECT_EQ(TextOf(Page(), "Text_ReceiverName"), "East");
+    EXPECT_TRUE(Page().IsDirty());
+    Page().UndoStack()->undo();
+    EXPECT_FALSE(Page().IsDirty());
+}
+
+TEST_F(ReceiversPage, ADeletedReceiverWhoseNumberIsTakenComesBackUnsaved) {
+    m_Prompts.m_YesNoAnswers = {true};
+    Press(Page(), "Button_Delete");
+    Put("Receivers\\Receiver_0007.dat", "theirs");
+    Asked();
+    Page().UndoStack()->undo();
+    EXPECT_EQ(Asked(), "failure: \"\xC3\x96st\" is back without its file. Save it anew.\n");
+    EXPECT_EQ(OnDisk("Receivers\\Receiver_0007.dat"), "theirs");
+    EXPECT_EQ(Shown().m_DiskIdentity, -1);
+}
+
+TEST_F(ReceiversPage, UndoTakesASavedReceiverAwayOnlyWithAYes) {
+    m_Random.m_Values = {0};
+    Press(Page(), "Button_New");
+    ChooseType("Mail");
+    ASSERT_TRUE(Page().Save());
+    Page().UndoStack()->undo();
+    Page().UndoStack()->undo();
+    EXPECT_EQ(Asked(), "yes or no: Delete the receiver \"New receiver\" and its file?\n");
+    EXPECT_TRUE(m_Files.FileExists(Path("Receivers\\Receiver_0001.dat")));
+    EXPECT_EQ(m_Station.Receivers().Count(), 2u);
+    // Nothing is left that speaks of the step before.
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Page().UndoStack()->count(), 0);
+}
+
+TEST_F(ReceiversPage, GivenUpChangesComeBackByUndo) {
+    Type(Page(), "Text_ReceiverName", "East");
+    Press(Page(), "Button_Revert");
+    EXPECT_FALSE(Page().IsDirty());
+    Page().UndoStack()->undo();
+    EXPECT_EQ(TextOf(Page(), "Text_ReceiverName"), "East");
+}
+
+// --- files under other hands
+
+TEST_F(ReceiversPage, AFileThatWasChangedMeanwhileIsNotReplacedUnasked) {
+    const std::string question =
+        "mine, theirs, both: Another program has changed the file of \"East\" since it was read here. Keep "
+        "your version, take the one in the file, or show both?\n";
+    std::string theirs = testing::Sample("receiver_version_5.dat");
+    theirs[10] = 'A';
+    using eConflict = cPrompts::eConflict;
+    for (const eConflict answer : {eConflict::Cancel, eConflict::Both, eConflict::Theirs, eConflict::Mine}) {
+        PutSample("Receivers\\Receiver_0007.dat", "receiver_version_5.dat");
+        Reopen();
+        Type(Page(), "Text_ReceiverName", "East");
+        Put("Receivers\\Receiver_0007.dat", theirs);
+        m_Prompts.m_ConflictAnswers = {answer};
+        EXPECT_EQ(Page().Save(), answer == eConflict::Mine);
+        EXPECT_EQ(Asked(), question);
+        EXPECT_EQ(OnDisk("Receivers\\Receiver_0007.dat") == theirs, answer != eConflict::Mine);
+        EXPECT_EQ(m_Station.Receivers().Count(), answer == eConflict::Both ? 2u : 1u);
+        const bool shownIsTheirs = answer == eConflict::Both || answer == eConflict::Theirs;
+        EXPECT_EQ(Shown().m_ReceiverName, shownIsTheirs ? "Ast" : "East");
+    }
+}
+
+TEST_F(ReceiversPage, AFileThatIsGoneIsNotBroughtBackUnasked) {
+    Type(Page(), "Text_ReceiverName", "East");
+    m_Files.RemoveFile(Path("Receivers\\Receiver_0007.dat"));
+    EXPECT_FALSE(Page().Save());
+    EXPECT_EQ(Asked(),
+              "mine, theirs: Another program has removed the file of \"East\". Write it again, or remove it "
+              "here too?\n");
+    EXPECT_FALSE(m_Files.FileExists(Path("Receivers\\Receiver_0007.dat")));
+    m_Prompts.m_ConflictAnswers = {cPrompts::eConflict::Mine};
+    EXPECT_TRUE(Page().Save());
+    m_Files.RemoveFile(Path("Receivers\\Receiver_0007.dat"));
+    Type(Page(), "Text_ReceiverName", "West");
+    m_Prompts.m_ConflictAnswers = {cPrompts::eConflict::Theirs};
+    EXPECT_FALSE(Page().Save());
+    EXPECT_EQ(m_Station.Receivers().Count(), 0u);
+    EXPECT_FALSE(Page().IsDirty());
+}
+
+TEST_F(ReceiversPage, RevertMakesNoEmptyFileOfOneThatIsGone) {
+    Type(Page(), "Text_ReceiverName", "East");
+    m_Files.RemoveFile(Path("Receivers\\Receiver_0007.dat"));
+    Press(Page(), "Button_Revert");
+    EXPECT_EQ(Asked(), "failure: The file of \"East\" can't be read.\n");
+    EXPECT_FALSE(m_Files.FileExists(Path("Receivers\\Receiver_0007.dat")));
+    EXPECT_EQ(TextOf(Page(), "Text_ReceiverName"), "East");
+}
+
+TEST_F(ReceiversPage, AReceiverWhoseFileIsGoneCanBeDeleted) {
+    Page();
+    m_Files.RemoveFile(Path("Receivers\\Receiver_0007.dat"));
+    m_Prompts.m_YesNoAnswers = {true};
+    Press(Page(), "Button_Delete");
+    EXPECT_EQ(Rows(Page()), "");
+}
+
+TEST_F(ReceiversPage, TheQuestionTellsThatTheFileIsAnotherByNow) {
+    Page();
+    PutSample("Receivers\\Receiver_0007.dat", "receiver_version_4.dat");
+    Press(Page(), "Button_Delete");
+    EXPECT_NE(Asked().find("Another program has changed the file since it was read."), std::string::npos);
+}
+
+TEST_F(ReceiversPage, FilesThatCantBeReadHaveARowThatSaysWhy) {
+    Put("Receivers\\Receiver_0041.dat", "");
+    Put("Receivers\\Receiver_0042.dat", "x");
+    Put("Receivers\\Receiver_0043.dat", "??");
+    Put("Receivers\\Receiver_0044.dat", std::string("\x05\x00\x01", 3));
+    EXPECT_EQ(
+        Rows(Page()),
+        "Receiver_0041.dat | The file has 0 bytes: it is empty. | \n"
+        "Receiver_0042.dat | The file has 1 bytes: it is empty. | \n"
+        "Receiver_0043.dat | The file's version is 16191, not one of 3 to 5. | \n"
+        "Receiver_0044.dat | The file is damaged: it ends too early or holds a value that is none. | \n" +
+            kEast);
+    Find<QAbstractItemView>(Page(), "List_Definitions")
+        ->setCurrentIndex(Find<QAbstractItemView>(Page(), "List_Definitions")->model()->index(0, 0));
+    EXPECT_EQ(Page().Chosen(), -1);
+    EXPECT_FALSE(Find<QWidget>(Page(), "Form_Receiver")->isEnabled());
+    EXPECT_EQ(OnDisk("Receivers\\Receiver_0042.dat"), "x");
+}
+
+TEST_F(ReceiversPage, WhatAnotherProgramDidIsTakenUpWhenThePageIsSeenAgain) {
+    PutSample("Receivers\\Receiver_0042.dat", "receiver_version_5.dat");
+    Page().Choose(1);
+    Type(Page(), "Text_ReceiverName", "Mine");
+    Page().hide();
+    std::string theirs = testing::Sample("receiver_version_5.dat");
+    theirs[10] = 'A';
+    for (const char* name :
+         {"Receivers\\Receiver_0007.dat", "Receivers\\Receiver_0042.dat", "Receivers\\Receiver_0099.dat"}) {
+        Put(name, theirs);
+    }
+    Page().show();
+    ASSERT_EQ(m_Station.Receivers().Count(), 3u);
+    EXPECT_EQ(m_Station.Receivers().At(0).m_ReceiverName, "Ast");
+    EXPECT_EQ(m_Station.Receivers().At(1).m_ReceiverName, "Mine");
+    EXPECT_EQ(m_Station.Receivers().At(2).m_ReceiverName, "Ast");
+    EXPECT_EQ(TextOf(Page(), "Text_ReceiverName"), "Mine");
+}
+
+TEST_F(ReceiversPage, AnUpgradeThatCantBeWrittenIsToldAsThat) {
+    PutSample("Receivers\\Receiver_0042.dat", "receiver_version_3.dat");
+    m_Files.m_FolderReadOnly = true;
+    EXPECT_EQ(LabelOf(Page(), "Label_Notes"),
+              "Files of an older version that could not be written anew: 1. They stay as they are.");
+    EXPECT_EQ(OnDisk("Receivers\\Receiver_0042.dat"), testing::Sample("receiver_version_3.dat"));
 }
 
 // As on a small screen at 200 %.

@@ -109,9 +109,9 @@ std::string ActiveReport(const cNamedContent& file, const std::optional<cNamedCo
     const int minute = parts.hour * 60 + parts.minute;
     const bool active = day.IsActiveAt(minute);
     const int change = day.NextChange(minute);
-    std::string text = Printable(file.name + (in.name.empty() ? "" : " (" + in.name + ")")) + "\n";
+    std::string text = PrintablePath(file.name + (in.name.empty() ? "" : " (" + in.name + ")")) + "\n";
     text += "When: " + DateTimeText(moment).substr(0, 16) + ", " + NameOfDayType(weekDay) + "\n";
-    text += "Day type: " + NameOfDayType(day.dayType) + ", " + Printable(ReasonText(day, calendar)) + "\n";
+    text += "Day type: " + NameOfDayType(day.dayType) + ", " + PrintablePath(ReasonText(day, calendar)) + "\n";
     text += GroupText(day);
     text += "Periods: " + PeriodsText(day) + "\n";
     text += std::string("Active: ") + (active ? "yes" : "no") + ", until " + TimeText(change) +

@@ -54,6 +54,7 @@ bool cFileDocument::Open(const std::string& path) {
         return false;
     }
     Take(path);
+    emit Opened();
     return true;
 }
 

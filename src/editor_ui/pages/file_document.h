@@ -44,6 +44,8 @@ class cFileDocument : public QObject {
   signals:
     // Title, path or dirty state have changed.
     void StateChanged();
+    // The content is that of another file.
+    void Opened();
     // A file was opened or saved.
     void FileUsed(const QString& path);
     void Message(const QString& text);

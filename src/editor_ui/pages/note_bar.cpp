@@ -47,10 +47,16 @@ void cNoteBar::Show(const std::vector<cDefinitionNote>& notes) {
                              [kind](const auto& note) { return note.kind == kind; });
     };
     QStringList summary;
-    if (const auto upgraded = count(eKind::Upgraded); upgraded > 0) {
+    const auto notUpgraded = count(eKind::NotUpgraded);
+    if (const auto upgraded = count(eKind::Upgraded) - notUpgraded; upgraded > 0) {
         summary += tr("Files brought up to a new version: %1.").arg(upgraded);
     }
-    if (const auto failed = count(eKind::Failed); failed > 0) {
+    if (notUpgraded > 0) {
+        summary += tr("Files of an older version that could not be written anew: %1. They stay as they are.")
+                       .arg(notUpgraded);
+    }
+    // Each of those has a line of its failure, too.
+    if (const auto failed = count(eKind::Failed) - notUpgraded; failed > 0) {
         summary += tr("What could not be read: %1.").arg(failed);
     }
     QStringList lines;

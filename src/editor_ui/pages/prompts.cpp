@@ -4,6 +4,7 @@
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QInputDialog>
+#include <QPushButton>
 
 #include "windows/plain_text.h"
 
@@ -33,6 +34,23 @@ cPrompts::eSave cDialogPrompts::AskToSave(QWidget* owner, const QString& title) 
         default:
             return eSave::Cancel;
     }
+}
+
+cPrompts::eConflict cDialogPrompts::AskConflict(QWidget* owner, const QString& text, bool both) {
+    cPlainMessageBox box(QMessageBox::Warning, QGuiApplication::applicationDisplayName(), text,
+                         QMessageBox::Cancel, owner);
+    box.setObjectName("MessageBox_Definitions");
+    const auto add = [&box](const QString& caption) {
+        return box.addButton(caption, QMessageBox::AcceptRole);
+    };
+    const QAbstractButton* mine = add(Tr("&Keep mine"));
+    const QAbstractButton* theirs = add(Tr("&Take theirs"));
+    const QAbstractButton* shown = both ? add(Tr("&Show both")) : nullptr;
+    box.exec();
+    const QAbstractButton* pressed = box.clickedButton();
+    if (pressed == mine) return eConflict::Mine;
+    if (pressed == theirs) return eConflict::Theirs;
+    return pressed == shown && shown != nullptr ? eConflict::Both : eConflict::Cancel;
 }
 
 bool cDialogPrompts::AskYesNo(QWidget* owner, const QString& question) {

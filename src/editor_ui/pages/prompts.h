@@ -12,6 +12,9 @@ class cPrompts {
     virtual ~cPrompts() = default;
     enum class eSave { Save, Discard, Cancel };
     virtual eSave AskToSave(QWidget* owner, const QString& title) = 0;
+    enum class eConflict { Mine, Theirs, Both, Cancel };
+    // Whose version counts; with both: or whether both are to be shown.
+    virtual eConflict AskConflict(QWidget* owner, const QString& text, bool both) = 0;
     virtual bool AskYesNo(QWidget* owner, const QString& question) = 0;
     virtual void ShowFailure(QWidget* owner, const QString& text) = 0;
     // Empty texts: the operator has cancelled.
@@ -25,6 +28,7 @@ class cPrompts {
 class cDialogPrompts : public cPrompts {
   public:
     eSave AskToSave(QWidget* owner, const QString& title) override;
+    eConflict AskConflict(QWidget* owner, const QString& text, bool both) override;
     bool AskYesNo(QWidget* owner, const QString& question) override;
     void ShowFailure(QWidget* owner, const QString& text) override;
     QString AskOpenPath(QWidget* owner, const QString& folder, const QString& filter) override;

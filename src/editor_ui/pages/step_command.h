@@ -1,6 +1,9 @@
 #pragma once
 
 #include <QUndoCommand>
+#include <functional>
+#include <string>
+#include <utility>
 
 #include "editor_ui/pages/content_editor.h"
 
@@ -9,19 +12,26 @@ namespace vigrel {
 // A step of an editor, which has been made already, for a stack of steps. The editor must outlive it.
 class cStepCommand : public QUndoCommand {
   public:
-    cStepCommand(const cEditStep& step, cContentEditor& editor)
-        : QUndoCommand(step.name), m_Step(step), m_Editor(editor) {}
+    // Show brings the editor to the front where it is one of several.
+    cStepCommand(const cEditStep& step, cContentEditor& editor, std::function<void()> show = nullptr)
+        : QUndoCommand(step.name), m_Step(step), m_Editor(editor), m_Show(std::move(show)) {}
     void undo() override {
         m_Undone = true;
-        m_Editor.Restore(m_Step.before);
+        Restore(m_Step.before);
     }
     void redo() override {
-        if (m_Undone) m_Editor.Restore(m_Step.after);
+        if (m_Undone) Restore(m_Step.after);
     }
 
   private:
+    void Restore(const std::string& state) {
+        if (m_Show) m_Show();
+        m_Editor.Restore(state);
+    }
+
     cEditStep m_Step;
     cContentEditor& m_Editor;
+    std::function<void()> m_Show;
     bool m_Undone = false;
 };
 

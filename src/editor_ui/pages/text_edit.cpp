@@ -4,9 +4,13 @@
 #include <QValidator>
 
 #include "adapters/qt/qt_text.h"
+#include "editor_ui/pages/undo_keys.h"
 
 namespace vigrel {
 namespace {
+
+// Of what a file can hold, so that no stored text is cut by being shown.
+constexpr int kLongestText = 65535;
 
 class cCodePageValidator : public QValidator {
   public:
@@ -19,6 +23,8 @@ class cCodePageValidator : public QValidator {
 }  // namespace
 
 cTextEdit::cTextEdit(QWidget* parent) : QLineEdit(parent) {
+    setMaxLength(kLongestText);
+    LeaveUndoToPage(*this);
     setValidator(new cCodePageValidator(this));
     connect(this, &QLineEdit::inputRejected, this, [this] {
         QToolTip::showText(mapToGlobal(rect().bottomLeft()),

@@ -1,9 +1,12 @@
 #include "editor_ui/records/definition_model.h"
 
+#include <QApplication>
 #include <QFont>
-#include <QGuiApplication>
 #include <QPalette>
+#include <QStyle>
 #include <algorithm>
+
+#include "common/file_procedures.h"
 
 namespace vigrel {
 
@@ -22,7 +25,7 @@ bool cDefinitionModel::HasChanges() const {
 }
 
 int cDefinitionModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(m_Changed.size());
+    return parent.isValid() ? 0 : Definitions() + static_cast<int>(m_Source.Unreadable().size());
 }
 
 int cDefinitionModel::columnCount(const QModelIndex& parent) const {
@@ -39,12 +42,20 @@ QString cDefinitionModel::PlainText(const QModelIndex& index) const {
 
 QVariant cDefinitionModel::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
+    return index.row() < Definitions() ? DefinitionData(index, role) : UnreadableData(index, role);
+}
+
+QVariant cDefinitionModel::DefinitionData(const QModelIndex& index, int role) const {
     const bool changed = HasChanges(index.row());
+    const auto problem = [&] { return m_Source.Problem(static_cast<std::size_t>(index.row())).text; };
     switch (role) {
         case PlainTextRole:
             return PlainText(index);
         case Qt::DisplayRole:
             return PlainText(index) + (index.column() == Name && changed ? " *" : "");
+        case Qt::DecorationRole:
+            if (index.column() != Name || !changed || problem().isEmpty()) return {};
+            return QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
         case Qt::FontRole: {
             QFont font;
             font.setBold(true);
@@ -54,7 +65,26 @@ QVariant cDefinitionModel::data(const QModelIndex& index, int role) const {
             if (m_Source.Enabled(static_cast<std::size_t>(index.row()))) return {};
             return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
         case Qt::ToolTipRole:
-            return changed ? tr("Not saved yet") : QVariant();
+            if (!changed) return {};
+            return problem().isEmpty() ? tr("Not saved yet") : tr("Can't be saved: %1").arg(problem());
+        default:
+            return {};
+    }
+}
+
+QVariant cDefinitionModel::UnreadableData(const QModelIndex& index, int role) const {
+    const cUnreadableFile& file =
+        m_Source.Unreadable()[static_cast<std::size_t>(index.row() - Definitions())];
+    switch (role) {
+        case PlainTextRole:
+        case Qt::DisplayRole:
+            if (index.column() == Name) return PathToQString(SplitPath(file.path).name);
+            return index.column() == Details ? WithPathsToQString(file.reason) : QString();
+        case Qt::DecorationRole:
+            if (index.column() != Name) return {};
+            return QApplication::style()->standardIcon(QStyle::SP_MessageBoxCritical);
+        case Qt::ToolTipRole:
+            return WithPathsToQString(file.reason);
         default:
             return {};
     }
@@ -72,22 +102,21 @@ int cDefinitionModel::EndAdding(std::size_t position) {
 }
 
 int cDefinitionModel::Add(const QString& wishedName) {
-    beginInsertRows({}, rowCount(), rowCount());
+    beginInsertRows({}, Definitions(), Definitions());
     return EndAdding(m_Source.Add(wishedName));
 }
 
 int cDefinitionModel::AddCopy(int row) {
-    beginInsertRows({}, rowCount(), rowCount());
+    beginInsertRows({}, Definitions(), Definitions());
     return EndAdding(m_Source.AddCopy(static_cast<std::size_t>(row)));
 }
 
-// Whether the row goes is known only afterwards, since a file may refuse to be removed.
-bool cDefinitionModel::Remove(int row) {
+int cDefinitionModel::AddFromFile(int row) {
     beginResetModel();
-    const bool removed = m_Source.Remove(static_cast<std::size_t>(row));
-    if (removed) m_Changed.erase(m_Changed.begin() + row);
+    const auto added = m_Source.AddFromFile(static_cast<std::size_t>(row));
+    CompareAll();
     endResetModel();
-    return removed;
+    return added ? static_cast<int>(*added) : -1;
 }
 
 // One that was never saved goes.
@@ -97,6 +126,35 @@ bool cDefinitionModel::Revert(int row) {
     CompareAll();
     endResetModel();
     return reverted;
+}
+
+void cDefinitionModel::Restore(int row, const cRecord& record) {
+    m_Source.Restore(static_cast<std::size_t>(row), record);
+    Refresh(row);
+}
+
+// Whether the row goes is known only afterwards, since a file may refuse to be removed.
+RecordPtr cDefinitionModel::TakeOut(int row) {
+    beginResetModel();
+    RecordPtr record = m_Source.TakeOut(static_cast<std::size_t>(row));
+    CompareAll();
+    endResetModel();
+    return record;
+}
+
+bool cDefinitionModel::BringBack(int row, const cRecord& record) {
+    beginResetModel();
+    const bool whole = m_Source.BringBack(static_cast<std::size_t>(row), record);
+    CompareAll();
+    endResetModel();
+    return whole;
+}
+
+void cDefinitionModel::Rescan() {
+    beginResetModel();
+    m_Source.Rescan();
+    CompareAll();
+    endResetModel();
 }
 
 bool cDefinitionModel::Save(int row) {

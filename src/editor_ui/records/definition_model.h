@@ -8,7 +8,8 @@
 namespace vigrel {
 
 // The definitions of a source as rows: name, details, number of the file. A name with unsaved changes is bold
-// and marked with "*"; one that is not enabled is grey. Rows are the positions of the source.
+// and marked with "*", one that can't be saved has a warning sign; one that is not enabled is grey. Rows are
+// the positions of the source; behind them the files that can't be read have a row each.
 class cDefinitionModel : public QAbstractTableModel {
     Q_OBJECT
   public:
@@ -28,8 +29,12 @@ class cDefinitionModel : public QAbstractTableModel {
     // The same operations as those of the source, with the rows following.
     int Add(const QString& wishedName);
     int AddCopy(int row);
-    bool Remove(int row);
+    int AddFromFile(int row);  // below 0: the file can't be read
     bool Revert(int row);
+    void Restore(int row, const cRecord& record);
+    RecordPtr TakeOut(int row);
+    bool BringBack(int row, const cRecord& record);
+    void Rescan();
     bool Save(int row);
     // The definition of a row has changed.
     void Refresh(int row);
@@ -38,10 +43,14 @@ class cDefinitionModel : public QAbstractTableModel {
 
     // To compare a definition with its file takes a while, so it is done once after each change.
     bool HasChanges(int row) const { return m_Changed[static_cast<std::size_t>(row)]; }
+    // Of the definitions, without the files that can't be read.
+    int Definitions() const { return static_cast<int>(m_Changed.size()); }
     bool HasChanges() const;
 
   private:
     QString PlainText(const QModelIndex& index) const;
+    QVariant DefinitionData(const QModelIndex& index, int role) const;
+    QVariant UnreadableData(const QModelIndex& index, int role) const;
     void CompareAll();
     int EndAdding(std::size_t position);
 

@@ -1,10 +1,12 @@
 #include "editor_ui/records/definition_page.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QSortFilterProxyModel>
 #include <QSplitter>
+#include <QTabWidget>
 #include <QTableView>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -16,6 +18,8 @@
 
 namespace vigrel {
 namespace {
+
+constexpr int kUndoSteps = 200;
 
 // Finds a text in any column.
 QSortFilterProxyModel* MakeFilter(cDefinitionModel& model, QObject* parent) {
@@ -45,9 +49,15 @@ cDefinitionPage::cDefinitionPage(cEditorServices& services, std::unique_ptr<cDef
       m_Notes(new cNoteBar),
       m_Search(new QLineEdit),
       m_List(new QTableView),
-      m_Count(new cPlainLabel) {}
+      m_Count(new cPlainLabel) {
+    m_UndoStack.setUndoLimit(kUndoSteps);
+    connect(qApp, &QApplication::focusChanged, this, [this] { ++m_Session; });
+}
 
-cDefinitionPage::~cDefinitionPage() = default;
+// The stack tells of its end when there is no list any more.
+cDefinitionPage::~cDefinitionPage() {
+    m_UndoStack.disconnect(this);
+}
 
 void cDefinitionPage::SetUp(cPageWords words, cPageForm form) {
     m_Words = std::move(words);
@@ -165,7 +175,8 @@ QWidget* cDefinitionPage::MakeButtons() {
 
 int cDefinitionPage::Chosen() const {
     const QModelIndex current = m_Filter->mapToSource(m_List->currentIndex());
-    return current.isValid() ? current.row() : -1;
+    // The files that can't be read stand behind the definitions.
+    return current.isValid() && current.row() < m_Model.Definitions() ? current.row() : -1;
 }
 
 void cDefinitionPage::Choose(int position) {
@@ -180,8 +191,23 @@ void cDefinitionPage::Choose(int position) {
 }
 
 void cDefinitionPage::ShowChosen() {
-    m_Form.show(Chosen());
+    const int chosen = Chosen();
+    m_Form.show(chosen);
+    m_Before = chosen < 0 ? nullptr : m_Source->Copy(static_cast<std::size_t>(chosen));
     UpdateActions();
+}
+
+void cDefinitionPage::ShowField(const QString& field) {
+    auto* widget = m_Form.widget->findChild<QWidget*>(field);
+    if (widget == nullptr) return;
+    for (QWidget* inner = widget; inner != m_Form.widget; inner = inner->parentWidget()) {
+        auto* tabs = inner->parentWidget() == nullptr
+                         ? nullptr
+                         : qobject_cast<QTabWidget*>(inner->parentWidget()->parentWidget());
+        if (tabs != nullptr && tabs->indexOf(inner) >= 0) tabs->setCurrentWidget(inner);
+    }
+    widget->setFocus();
+    if (auto* line = qobject_cast<QLineEdit*>(widget)) line->selectAll();
 }
 
 void cDefinitionPage::UpdateActions() {
@@ -210,8 +236,15 @@ void cDefinitionPage::Changed() {
     emit StateChanged();
 }
 
-void cDefinitionPage::NoteEdit() {
-    if (Chosen() >= 0) m_Model.Refresh(Chosen());
+void cDefinitionPage::NoteEdit(const cFieldStep& step) {
+    const int position = Chosen();
+    if (position < 0) return;
+    RecordPtr after = m_Source->Copy(static_cast<std::size_t>(position));
+    if (!m_Source->AreSame(*m_Before, *after)) {
+        m_UndoStack.push(new cFieldCommand(*this, position, m_Before, after, step, m_Session));
+    }
+    m_Before = std::move(after);
+    m_Model.Refresh(position);
     Changed();
 }
 
@@ -228,55 +261,130 @@ void cDefinitionPage::TellFailure(const QString& text) {
 }
 
 void cDefinitionPage::New() {
-    Choose(m_Model.Add(m_Words.newName));
+    const int position = m_Model.Add(m_Words.newName);
+    m_UndoStack.push(new cListCommand(*this, tr("adding \"%1\"").arg(NameAt(position)), position, nullptr));
+    Choose(position);
     Changed();
-    m_Form.focusName();
+    ShowField(m_Form.nameField);
 }
 
 void cDefinitionPage::Copy() {
-    if (Chosen() < 0) return;
-    Choose(m_Model.AddCopy(Chosen()));
+    const int original = Chosen();
+    if (original < 0) return;
+    const int position = m_Model.AddCopy(original);
+    m_UndoStack.push(new cListCommand(*this, tr("copying \"%1\"").arg(NameAt(original)), position, nullptr));
+    Choose(position);
     Changed();
-    m_Form.focusName();
+    ShowField(m_Form.nameField);
+}
+
+QString cDefinitionPage::DeleteQuestion(int position) const {
+    QString question = m_Words.deleteQuestion.arg(NameAt(position));
+    const QString warning = m_Form.deleteWarning ? m_Form.deleteWarning(position) : QString();
+    if (!warning.isEmpty()) question += "\n\n" + warning;
+    if (m_Source->StateOfFile(static_cast<std::size_t>(position)) == eFileState::Changed) {
+        question += "\n\n" + tr("Another program has changed the file since it was read.");
+    }
+    return question;
 }
 
 void cDefinitionPage::Delete() {
     const int position = Chosen();
-    if (position < 0) return;
-    QString question = m_Words.deleteQuestion.arg(NameAt(position));
-    const QString warning = m_Form.deleteWarning ? m_Form.deleteWarning(position) : QString();
-    if (!warning.isEmpty()) question += "\n\n" + warning;
-    if (!m_Services.m_Prompts.AskYesNo(this, question)) return;
-    const int row = m_List->currentIndex().row();
+    if (position < 0 || !m_Services.m_Prompts.AskYesNo(this, DeleteQuestion(position))) return;
+    const QString name = NameAt(position);
+    RecordPtr record = TakeOut(position);
+    if (!record) return;
+    m_UndoStack.push(new cListCommand(*this, tr("deleting \"%1\"").arg(name), position, std::move(record)));
+    emit Message(tr("Deleted \"%1\"").arg(name));
+}
+
+// The one that takes its place in the list is chosen next.
+RecordPtr cDefinitionPage::TakeOut(int position) {
+    const int row = m_Filter->mapFromSource(m_Model.index(position, 0)).row();
     const QString name = NameAt(position);
     m_Form.show(-1);
-    const bool removed = m_Model.Remove(position);
-    // The one that takes its place in the list is chosen next.
-    const QModelIndex next = m_Filter->index(std::min(row, m_Filter->rowCount() - 1), 0);
-    Choose(removed ? m_Filter->mapToSource(next).row() : position);
+    RecordPtr record = m_Model.TakeOut(position);
+    const QModelIndex next = m_Filter->index(std::clamp(row, 0, std::max(m_Filter->rowCount() - 1, 0)), 0);
+    Choose(record ? m_Filter->mapToSource(next).row() : position);
     Changed();
-    if (removed) {
+    if (record) {
         m_TakeNotes();
-        emit Message(tr("Deleted \"%1\"").arg(name));
     } else {
         TellFailure(tr("\"%1\" was not deleted.").arg(name));
     }
+    return record;
 }
 
-QString cDefinitionPage::ProblemAt(int position) const {
-    if (NameAt(position).trimmed().isEmpty()) return tr("The name is empty.");
-    return position == Chosen() ? m_Form.problem() : QString();
+cFieldProblem cDefinitionPage::FormProblem() const {
+    return m_Form.problem ? m_Form.problem() : cFieldProblem{};
+}
+
+cFieldProblem cDefinitionPage::ProblemAt(int position) const {
+    const cFieldProblem typed = position == Chosen() ? FormProblem() : cFieldProblem{};
+    return typed.text.isEmpty() ? m_Source->Problem(static_cast<std::size_t>(position)) : typed;
+}
+
+// Leads to the field that stands in the way.
+bool cDefinitionPage::MaySave(int position) {
+    const cFieldProblem problem = ProblemAt(position);
+    if (problem.text.isEmpty()) return true;
+    if (position != Chosen()) Choose(position);
+    TellFailure(tr("\"%1\" can't be saved.\n\n%2").arg(NameAt(position), problem.text));
+    ShowField(problem.field);
+    return false;
+}
+
+// Another program, or another window, may have written or removed the file meanwhile.
+bool cDefinitionPage::MayReplaceChanged(int position) {
+    using eAnswer = cPrompts::eConflict;
+    const QString text = tr("Another program has changed the file of \"%1\" since it was read here. Keep "
+                            "your version, take the one in the file, or show both?")
+                             .arg(NameAt(position));
+    switch (m_Services.m_Prompts.AskConflict(this, text, true)) {
+        case eAnswer::Mine:
+            return true;
+        case eAnswer::Theirs:
+            RevertPosition(position);
+            return false;
+        case eAnswer::Both:
+            ShowBoth(position);
+            return false;
+        default:
+            return false;
+    }
+}
+
+bool cDefinitionPage::MayWriteAgain(int position) {
+    using eAnswer = cPrompts::eConflict;
+    const QString name = NameAt(position);
+    const QString text =
+        tr("Another program has removed the file of \"%1\". Write it again, or remove it here too?")
+            .arg(name);
+    const eAnswer answer = m_Services.m_Prompts.AskConflict(this, text, false);
+    if (answer != eAnswer::Theirs) return answer == eAnswer::Mine;
+    if (RecordPtr record = TakeOut(position)) {
+        m_UndoStack.push(
+            new cListCommand(*this, tr("removing \"%1\"").arg(name), position, std::move(record)));
+    }
+    return false;
+}
+
+// What the file holds becomes a definition of its own beside the changed one.
+void cDefinitionPage::ShowBoth(int position) {
+    const int added = m_Model.AddFromFile(position);
+    if (added < 0) return TellFailure(tr("The file of \"%1\" can't be read.").arg(NameAt(position)));
+    m_UndoStack.push(new cListCommand(*this, tr("showing both"), added, nullptr));
+    Choose(added);
+    Changed();
 }
 
 bool cDefinitionPage::SavePosition(int position) {
-    const QString name = NameAt(position);
-    const QString problem = ProblemAt(position);
-    if (!problem.isEmpty()) {
-        TellFailure(tr("\"%1\" can't be saved.\n\n%2").arg(name, problem));
-        return false;
-    }
+    if (!MaySave(position)) return false;
+    const eFileState state = m_Source->StateOfFile(static_cast<std::size_t>(position));
+    if (state == eFileState::Changed && !MayReplaceChanged(position)) return false;
+    if (state == eFileState::Gone && !MayWriteAgain(position)) return false;
     const bool saved = m_Model.Save(position);
-    if (!saved) TellFailure(tr("\"%1\" was not saved.").arg(name));
+    if (!saved) TellFailure(tr("\"%1\" was not saved.").arg(NameAt(position)));
     return saved;
 }
 
@@ -291,11 +399,11 @@ void cDefinitionPage::SaveChosen() {
 }
 
 bool cDefinitionPage::Save() {
+    if (Chosen() >= 0 && !FormProblem().text.isEmpty() && !MaySave(Chosen())) return false;
     int saved = 0;
-    for (int position = 0; position < m_Model.rowCount(); ++position) {
+    for (int position = 0; position < m_Model.Definitions(); ++position) {
         if (!m_Model.HasChanges(position)) continue;
         if (!SavePosition(position)) {
-            if (position != Chosen()) Choose(position);
             Changed();
             return false;
         }
@@ -309,16 +417,80 @@ bool cDefinitionPage::Save() {
 }
 
 void cDefinitionPage::Revert() {
-    const int position = Chosen();
-    if (position < 0) return;
+    if (Chosen() >= 0) RevertPosition(Chosen());
+}
+
+void cDefinitionPage::RevertPosition(int position) {
     const QString name = NameAt(position);
-    const int count = m_Model.rowCount();
+    const QString step = tr("giving up the changes of \"%1\"").arg(name);
+    if (m_Source->Identity(static_cast<std::size_t>(position)) < 0) {
+        if (RecordPtr record = TakeOut(position)) {
+            m_UndoStack.push(new cListCommand(*this, step, position, std::move(record)));
+        }
+        return;
+    }
+    RecordPtr before = m_Source->Copy(static_cast<std::size_t>(position));
     m_Form.show(-1);
     const bool reverted = m_Model.Revert(position);
-    Choose(std::min(position, m_Model.rowCount() - 1));
+    Choose(position);
     Changed();
-    if (!reverted) TellFailure(tr("The file of \"%1\" can't be read.").arg(name));
-    if (reverted && m_Model.rowCount() == count) emit Message(tr("\"%1\" is as its file has it").arg(name));
+    if (!reverted) return TellFailure(tr("The file of \"%1\" can't be read.").arg(name));
+    m_UndoStack.push(new cFieldCommand(*this, position, std::move(before), m_Before, {step, {}}, m_Session));
+    emit Message(tr("\"%1\" is as its file has it").arg(name));
+}
+
+// --- files under other hands
+
+void cDefinitionPage::showEvent(QShowEvent* event) {
+    cEditorPage::showEvent(event);
+    TakeUpFolder();
+}
+
+void cDefinitionPage::changeEvent(QEvent* event) {
+    cEditorPage::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) TakeUpFolder();
+}
+
+// Another editor may have worked on the folder while this one was away. What is changed here stays.
+void cDefinitionPage::TakeUpFolder() {
+    if (!isVisible() || !m_Source->HasNews()) return;
+    const int chosen = Chosen();
+    m_Model.Rescan();
+    Choose(chosen);
+    Changed();
+    m_Notes->Show(m_TakeNotes());
+}
+
+// --- steps
+
+void cDefinitionPage::RestoreRecord(int position, const cRecord& record, const QString& field) {
+    m_Model.Restore(position, record);
+    Choose(position);
+    ShowField(field);
+    Changed();
+}
+
+// A file goes only with a yes, whichever way it goes.
+RecordPtr cDefinitionPage::TakeOutRecord(int position) {
+    Choose(position);
+    const bool hasFile = m_Source->Identity(static_cast<std::size_t>(position)) >= 0;
+    RecordPtr record;
+    if (!hasFile || m_Services.m_Prompts.AskYesNo(this, DeleteQuestion(position))) record = TakeOut(position);
+    if (!record) EndOfSteps();
+    return record;
+}
+
+void cDefinitionPage::BringBackRecord(int position, const cRecord& record) {
+    const bool whole = m_Model.BringBack(position, record);
+    Choose(position);
+    Changed();
+    if (!whole) TellFailure(tr("\"%1\" is back without its file. Save it anew.").arg(NameAt(position)));
+}
+
+// A step that was refused leaves the others without ground. The stack is busy with it at this moment.
+void cDefinitionPage::EndOfSteps() {
+    QMetaObject::invokeMethod(
+        this, [this] { m_UndoStack.clear(); }, Qt::QueuedConnection);
 }
 
 }  // namespace vigrel

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAction>
+#include <QUndoStack>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -8,6 +9,7 @@
 #include "editor_ui/pages/editor_page.h"
 #include "editor_ui/pages/editor_services.h"
 #include "editor_ui/records/definition_model.h"
+#include "editor_ui/records/record_commands.h"
 
 class QLabel;
 class QLineEdit;
@@ -31,15 +33,16 @@ struct cPageWords {
 struct cPageForm {
     QWidget* widget;
     std::function<void(int position)> show;  // below 0: none
-    std::function<QString()> problem;        // why the shown one can't be saved as the form stands
-    std::function<void()> focusName;
+    QString nameField;                       // object name of the field that a new one begins in
+    // What stands in the form of the shown one and can't be taken over; may be missing.
+    std::function<cFieldProblem()> problem;
     // More that the user should know before one is deleted; may be missing.
     std::function<QString(int position)> deleteWarning;
 };
 
 // A list of definitions with search, and a form for the chosen one. Changes stay in the definitions, also
 // when another is chosen, until they are saved or reverted.
-class cDefinitionPage : public cEditorPage {
+class cDefinitionPage : public cEditorPage, private cRecordSteps {
     Q_OBJECT
   public:
     // What happened to files since the last call.
@@ -51,9 +54,10 @@ class cDefinitionPage : public cEditorPage {
 
     QString Title() const override { return m_Words.title; }
     QString Path() const override { return m_Words.path; }
-    bool IsDirty() const override { return m_Model.HasChanges(); }
+    bool IsDirty() const override { return m_Model.HasChanges() || !FormProblem().text.isEmpty(); }
     // Saves every changed definition; false, with the one chosen that can't be saved, when changes remain.
     bool Save() override;
+    QUndoStack* UndoStack() override { return &m_UndoStack; }
     QList<QAction*> EditActions() const override;
 
     // The position in the source of the chosen definition, -1 for none.
@@ -64,8 +68,12 @@ class cDefinitionPage : public cEditorPage {
     // Fills the page; to be called once, by the deriving page's constructor.
     void SetUp(cPageWords words, cPageForm form);
     // The form has changed the chosen definition.
-    void NoteEdit();
+    void NoteEdit(const cFieldStep& step);
     void ShowChosen();
+    // Brings a field of the form into sight and the keyboard to it.
+    void ShowField(const QString& field);
+    void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
   private:
     QAction* MakeAction(const char* objectName, const QString& text, const QString& tip,
@@ -80,9 +88,23 @@ class cDefinitionPage : public cEditorPage {
     void SaveChosen();
     void Revert();
     void Find();
+    cFieldProblem FormProblem() const;
+    cFieldProblem ProblemAt(int position) const;
     bool SavePosition(int position);
+    bool MaySave(int position);
+    bool MayReplaceChanged(int position);
+    bool MayWriteAgain(int position);
+    void ShowBoth(int position);
+    void RevertPosition(int position);
+    void TakeUpFolder();
+    void EndOfSteps();
     QString NameAt(int position) const;
-    QString ProblemAt(int position) const;
+    // --- cRecordSteps
+    void RestoreRecord(int position, const cRecord& record, const QString& field) override;
+    RecordPtr TakeOutRecord(int position) override;
+    void BringBackRecord(int position, const cRecord& record) override;
+    RecordPtr TakeOut(int position);
+    QString DeleteQuestion(int position) const;
     void TellFailure(const QString& text);
     void Sort();
     void Changed();
@@ -95,6 +117,9 @@ class cDefinitionPage : public cEditorPage {
     cDefinitionModel m_Model;
     cPageWords m_Words;
     cPageForm m_Form{};
+    QUndoStack m_UndoStack;
+    RecordPtr m_Before;  // the chosen one before the next edit
+    int m_Session = 0;   // what is typed in one joins to one step
     QSortFilterProxyModel* m_Filter;
     cNoteBar* m_Notes;
     QLineEdit* m_Search;

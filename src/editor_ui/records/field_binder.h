@@ -11,6 +11,9 @@
 #include "adapters/qt/qt_text.h"
 #include "common/binary.h"
 #include "editor_ui/pages/text_edit.h"
+#include "editor_ui/pages/undo_keys.h"
+#include "editor_ui/records/definition_source.h"
+#include "editor_ui/records/record_commands.h"
 
 namespace vigrel {
 
@@ -28,7 +31,9 @@ class cFieldBinder {
     cTextEdit* Text(const char* objectName, const QString& name, Get<std::string> get, Set<std::string> set) {
         auto* widget = Named(new cTextEdit, objectName, name);
         QObject::connect(widget, &QLineEdit::textEdited, widget,
-                         [this, set](const QString& text) { Edit(set, FromQString(text)); });
+                         [this, set, step = Step(name, objectName, true)](const QString& text) {
+                             Edit(set, FromQString(text), step);
+                         });
         m_Shows.push_back([widget, get](const Definition& shown) { widget->setText(ToQString(get(shown))); });
         return widget;
     }
@@ -41,7 +46,9 @@ class cFieldBinder {
                     Set<std::int16_t> set) {
         auto* widget = Named(new QCheckBox(caption), objectName, caption);
         QObject::connect(widget, &QCheckBox::clicked, widget,
-                         [this, set](bool on) { Edit(set, on ? True16 : False16); });
+                         [this, set, step = Step(caption, objectName, false)](bool on) {
+                             Edit(set, on ? True16 : False16, step);
+                         });
         m_Shows.push_back(
             [widget, get](const Definition& shown) { widget->setChecked(get(shown) != False16); });
         return widget;
@@ -54,11 +61,14 @@ class cFieldBinder {
     QSpinBox* Number(const char* objectName, const QString& name, std::int16_t Definition::*field) {
         auto* widget = Named(new QSpinBox, objectName, name);
         widget->setRange(-32768, 32767);
-        QObject::connect(widget, &QSpinBox::valueChanged, widget, [this, field](int value) {
-            Edit<std::int16_t>(
-                [field](Definition& shown, const std::int16_t& number) { shown.*field = number; },
-                static_cast<std::int16_t>(value));
-        });
+        if (auto* line = widget->template findChild<QLineEdit*>()) LeaveUndoToPage(*line);
+        QObject::connect(
+            widget, &QSpinBox::valueChanged, widget,
+            [this, field, step = Step(name, objectName, true)](int value) {
+                Edit<std::int16_t>(
+                    [field](Definition& shown, const std::int16_t& number) { shown.*field = number; },
+                    static_cast<std::int16_t>(value), step);
+            });
         m_Shows.push_back([widget, field](const Definition& shown) {
             const QSignalBlocker quiet(widget);
             widget->setValue(shown.*field);
@@ -68,22 +78,44 @@ class cFieldBinder {
     // Anything else that a form shows of its definition.
     void AddShow(std::function<void(const Definition&)> show) { m_Shows.push_back(std::move(show)); }
 
-    // The definition must outlive its showing; nullptr ends it and leaves the widgets as they are.
-    void Show(Definition* definition) {
+    // What is shown must outlive its showing; nullptr ends it and leaves the widgets as they are.
+    void Show(Definition* definition, TypedTexts* typed) {
         m_Shown = definition;
+        m_Typed = typed;
         if (m_Shown == nullptr) return;
         for (const auto& show : m_Shows) show(*m_Shown);
     }
     Definition* Shown() const { return m_Shown; }
+    // What stands in a field of the shown definition without being its value; none when it is.
+    const cTypedText* Typed(const QString& field) const {
+        if (m_Typed == nullptr) return nullptr;
+        const auto found = m_Typed->find(field);
+        return found == m_Typed->end() ? nullptr : &found->second;
+    }
 
-    // Changes the shown definition and tells of it.
+    // Changes the shown definition and tells of it. What was typed in the step's field is its value now.
     template <class T>
-    void Edit(const Set<T>& set, const T& value) {
+    void Edit(const Set<T>& set, const T& value, const cFieldStep& step) {
         if (m_Shown == nullptr) return;
         set(*m_Shown, value);
-        if (OnEdited) OnEdited();
+        if (m_Typed != nullptr) m_Typed->erase(step.field);
+        if (OnEdited) OnEdited(step);
     }
-    std::function<void()> OnEdited;
+    // Keeps what was typed in a field and is no value.
+    void Keep(const cTypedText& typed, const cFieldStep& step) {
+        if (m_Shown == nullptr || m_Typed == nullptr) return;
+        (*m_Typed)[step.field] = typed;
+        if (OnEdited) OnEdited(step);
+    }
+    // Without a step of its own.
+    void Forget(const QString& field) {
+        if (m_Typed != nullptr) m_Typed->erase(field);
+    }
+    std::function<void(const cFieldStep&)> OnEdited;
+
+    static cFieldStep Step(const QString& name, const QString& field, bool joins) {
+        return {QObject::tr("changing %1").arg(QString(name).remove('&')), field, joins};
+    }
 
   private:
     template <class Widget>
@@ -94,6 +126,7 @@ class cFieldBinder {
     }
 
     Definition* m_Shown = nullptr;
+    TypedTexts* m_Typed = nullptr;
     std::vector<std::function<void(const Definition&)>> m_Shows;
 };
 

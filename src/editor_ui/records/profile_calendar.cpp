@@ -37,7 +37,6 @@ cProfileCalendar::cProfileCalendar(cEditorServices& services, const cTimeSchedul
     connect(&m_Editor->ShowTimeAxis(), &QCheckBox::clicked, this, [this](bool on) {
         if (OnViewTimeAxis) OnViewTimeAxis(on);
     });
-    connect(m_Editor, &cContentEditor::Edited, &m_Document, &cFileDocument::NoteChange);
     m_Editor->SetSchedules({{tr("This profile"), &schedule}});
     m_Editor->ChooseSchedule(&schedule);
     OpenRemembered();

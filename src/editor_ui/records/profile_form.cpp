@@ -7,8 +7,8 @@
 
 #include "common/date_text.h"
 #include "common/file_procedures.h"
+#include "editor_ui/pages/content_editor.h"
 #include "editor_ui/pages/scrolled.h"
-#include "editor_ui/pages/step_command.h"
 #include "editor_ui/records/profile_calendar.h"
 #include "editor_ui/records/receiver_picker.h"
 #include "editor_ui/records/system_grid.h"
@@ -46,24 +46,20 @@ cProfileForm::cProfileForm(cEditorServices& editor, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_Tabs);
-    m_Binder.OnEdited = [this] {
-        if (OnEdited) OnEdited();
+    m_Binder.OnEdited = [this](const cFieldStep& step) {
+        if (OnEdited) OnEdited(step);
     };
-    Show(nullptr);
-}
-
-// The stack tells of its end when there is no schedule any more.
-cProfileForm::~cProfileForm() {
-    m_UndoStack.disconnect(this);
+    Show(nullptr, nullptr);
 }
 
 QWidget* cProfileForm::MakeGeneral() {
     auto* page = new QWidget;
     auto* layout = MakeFields(page);
-    m_Name = m_Binder.Text(
-        "Text_ProfileName", tr("Name"), [](const cProfile& profile) { return profile.GetName(); },
-        [](cProfile& profile, const std::string& name) { profile.SetName(name); });
-    layout->addRow(tr("Na&me:"), m_Name);
+    layout->addRow(
+        tr("Na&me:"),
+        m_Binder.Text(
+            "Text_ProfileName", tr("Name"), [](const cProfile& profile) { return profile.GetName(); },
+            [](cProfile& profile, const std::string& name) { profile.SetName(name); }));
     layout->addRow(
         "", m_Binder.Flag("Check_Enabled", tr("En&abled: the profile takes part"), &cProfile::m_Enabled));
     for (std::int16_t i = 0; i < cProfile::kStates; ++i) {
@@ -114,9 +110,10 @@ QWidget* cProfileForm::MakeConditions() {
 cReceiverPicker* cProfileForm::MakePicker(const char* objectName, const QString& name,
                                           std::string cProfile::*field) {
     auto* picker = new cReceiverPicker(objectName, name, m_Editor.m_Station.Receivers());
-    picker->OnEdited = [this, field](const std::string& text) {
+    picker->OnEdited = [this, field, step = m_Binder.Step(name, QString("List_") + objectName, false)](
+                           const std::string& text) {
         m_Binder.Edit<std::string>([field](cProfile& shown, const std::string& set) { shown.*field = set; },
-                                   text);
+                                   text, step);
     };
     m_Binder.AddShow([picker, field](const cProfile& shown) { picker->Show(shown.*field); });
     return picker;
@@ -145,37 +142,35 @@ QWidget* cProfileForm::MakeSchedule() {
         m_Binder.Flag("Check_UseTimeSchedule", tr("&Use this time schedule"), &cProfile::m_UseTimeSchedule));
     m_Schedule = new cScheduleEditor(m_Editor);
     layout->addWidget(m_Schedule, 1);
-    connect(m_Schedule, &cContentEditor::Edited, this,
-            [this](const cEditStep& step) { m_UndoStack.push(new cStepCommand(step, *m_Schedule)); });
-    connect(&m_UndoStack, &QUndoStack::indexChanged, this, [this] { TakeSchedule(); });
-    connect(&m_Schedule->ViewDayType(), &QCheckBox::clicked, this, [this](bool on) {
+    connect(m_Schedule, &cContentEditor::Edited, this, &cProfileForm::TakeSchedule);
+    QCheckBox& names = m_Schedule->ViewDayType();
+    connect(&names, &QCheckBox::clicked, this, [this, &names](bool on) {
         m_Binder.Edit<std::int16_t>(
             [](cProfile& shown, const std::int16_t& view) { shown.m_TimeSchedule_ViewDayType = view; },
-            on ? True16 : False16);
+            on ? True16 : False16, m_Binder.Step(names.text(), names.objectName(), false));
     });
     m_Binder.AddShow([this](const cProfile& shown) { ShowSchedule(shown); });
     return page;
 }
 
-// The editor shows a copy of the profile's schedule; its steps can't be undone beyond this.
+// The editor shows a copy of the profile's schedule.
 void cProfileForm::ShowSchedule(const cProfile& profile) {
     std::string periods;
     if (profile.m_TimeSchedule) profile.m_TimeSchedule->ComposePeriodArray(periods);
-    m_Showing = true;
-    if (periods != m_Schedule->State()) {
-        m_Schedule->Restore(periods);
-        m_UndoStack.clear();
-    }
-    m_Showing = false;
+    if (periods != m_Schedule->State()) m_Schedule->Restore(periods);
     m_Schedule->ViewDayType().setChecked(profile.m_TimeSchedule_ViewDayType != 0);
+    if (m_Calendar != nullptr) m_Calendar->Editor().RefreshSchedules();
 }
 
-void cProfileForm::TakeSchedule() {
-    if (m_Showing) return;
+void cProfileForm::TakeSchedule(const cEditStep& step) {
     m_Binder.Edit<std::string>(
         [](cProfile& shown, const std::string& text) { shown.m_TimeSchedule->ExtractPeriodArray(text); },
-        m_Schedule->State());
+        step.after, {step.name, m_Schedule->objectName()});
     m_Calendar->Editor().RefreshSchedules();
+}
+
+cFieldProblem cProfileForm::Problem() const {
+    return {m_Schedule->Problem(), m_Schedule->ProblemField()};
 }
 
 QWidget* cProfileForm::MakeCalendar() {
@@ -183,7 +178,8 @@ QWidget* cProfileForm::MakeCalendar() {
     m_Calendar->OnViewTimeAxis = [this](bool on) {
         m_Binder.Edit<std::int16_t>(
             [](cProfile& shown, const std::int16_t& view) { shown.m_Calendar_ViewTimeAxis = view; },
-            on ? True16 : False16);
+            on ? True16 : False16,
+            m_Binder.Step(tr("the periods in the calendar"), "Check_Calendar_ShowTimeAxis", false));
     };
     m_Binder.AddShow([this](const cProfile& shown) { m_Calendar->Show(shown); });
     return m_Calendar;
@@ -215,28 +211,23 @@ QWidget* cProfileForm::MakeSystems() {
     auto* grid = new cSystemGrid;
     layout->addWidget(grid);
     layout->addStretch(1);
-    grid->OnEdited = [this](std::int16_t index, bool on) {
+    grid->OnEdited = [this](const std::vector<std::int16_t>& indices, bool on) {
+        const QString name = indices.size() == 1 ? tr("System %1").arg(indices[0]) : tr("systems");
         m_Binder.Edit<std::int16_t>(
-            [index](cProfile& shown, const std::int16_t& status) { shown.SetSystem(index, status); },
-            on ? True16 : False16);
+            [&indices](cProfile& shown, const std::int16_t& status) {
+                for (const std::int16_t index : indices) shown.SetSystem(index, status);
+            },
+            on ? True16 : False16, m_Binder.Step(name, QString("Check_System_%1").arg(indices[0]), false));
     };
     m_Binder.AddShow([grid](const cProfile& shown) { grid->Show(shown); });
     return page;
 }
 
-void cProfileForm::Show(cProfile* profile) {
-    m_Binder.Show(profile);
+void cProfileForm::Show(cProfile* profile, TypedTexts* typed) {
+    // A time that is half typed belongs to the profile that was shown so far, and can't go with it.
+    if (profile != m_Binder.Shown()) m_Schedule->DropTyping();
+    m_Binder.Show(profile, typed);
     setEnabled(profile != nullptr);
-}
-
-QString cProfileForm::Problem() const {
-    return {};
-}
-
-void cProfileForm::FocusName() {
-    m_Tabs->setCurrentIndex(0);
-    m_Name->setFocus();
-    m_Name->selectAll();
 }
 
 QList<cContentEditor*> cProfileForm::Editors() const {

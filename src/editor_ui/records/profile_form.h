@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QUndoStack>
 #include <QWidget>
 #include <functional>
 
@@ -14,6 +13,7 @@ class QTabWidget;
 namespace vigrel {
 
 class cContentEditor;
+struct cEditStep;
 class cProfileCalendar;
 class cReceiverPicker;
 class cScheduleEditor;
@@ -26,15 +26,11 @@ class cProfileForm : public QWidget {
   public:
     // The services must outlive the form.
     explicit cProfileForm(cEditorServices& editor, QWidget* parent = nullptr);
-    ~cProfileForm() override;
 
-    // The profile must outlive its showing; nullptr shows nothing.
-    void Show(cProfile* profile);
-    // Why the profile can't be saved as the form stands; empty when it can.
-    QString Problem() const;
-    void FocusName();
-    // Of the shown profile's schedule.
-    QUndoStack* UndoStack() { return &m_UndoStack; }
+    // What is shown must outlive its showing; nullptr shows nothing.
+    void Show(cProfile* profile, TypedTexts* typed);
+    // What was typed in the schedule's time fields and is no time.
+    cFieldProblem Problem() const;
     // The schedule, and the station's calendar that the form shows with it.
     QList<cContentEditor*> Editors() const;
     cProfileCalendar& Calendar() { return *m_Calendar; }
@@ -42,7 +38,7 @@ class cProfileForm : public QWidget {
     void RefreshDayTypes();
 
     // After each change of the profile by the user.
-    std::function<void()> OnEdited;
+    std::function<void(const cFieldStep&)> OnEdited;
 
   private:
     QWidget* MakeGeneral();
@@ -55,17 +51,14 @@ class cProfileForm : public QWidget {
     cReceiverPicker* MakePicker(const char* objectName, const QString& name, std::string cProfile::*field);
     void ShowFile(const cProfile& profile);
     void ShowSchedule(const cProfile& profile);
-    void TakeSchedule();
+    void TakeSchedule(const cEditStep& step);
 
     cEditorServices& m_Editor;
     cFieldBinder<cProfile> m_Binder;
-    cTextEdit* m_Name = nullptr;
     QLabel* m_File = nullptr;
     QTabWidget* m_Tabs;
     cScheduleEditor* m_Schedule = nullptr;
     cProfileCalendar* m_Calendar = nullptr;
-    QUndoStack m_UndoStack;
-    bool m_Showing = false;
 };
 
 }  // namespace vigrel

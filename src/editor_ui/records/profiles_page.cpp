@@ -1,6 +1,8 @@
 #include "editor_ui/records/profiles_page.h"
 
+#include "common/text.h"
 #include "editor_ui/pages/content_editor.h"
+#include "editor_ui/pages/step_command.h"
 #include "editor_ui/records/profile_calendar.h"
 #include "editor_ui/records/profile_form.h"
 
@@ -15,36 +17,40 @@ QString Conditions(const cProfile& profile) {
     return texts.join(", ");
 }
 
-std::unique_ptr<cDefinitionSource> ReadProfiles(cStationDefinitions& station) {
+cFieldProblem ProblemOf(const cProfile& profile) {
+    if (Trim(profile.GetName()).empty()) return {QObject::tr("The name is empty."), "Text_ProfileName"};
+    return {};
+}
+
+std::unique_ptr<cFolderSource<cProfile>> ReadProfiles(cStationDefinitions& station) {
     station.OpenProfiles();
-    return std::make_unique<cFolderSource<cProfile>>(station.Profiles(), Conditions);
+    return std::make_unique<cFolderSource<cProfile>>(station.Profiles(), Conditions, ProblemOf);
 }
 
 }  // namespace
 
 cProfilesPage::cProfilesPage(cEditorServices& services, QWidget* parent)
+    : cProfilesPage(services, ReadProfiles(services.m_Station).release(), parent) {}
+
+cProfilesPage::cProfilesPage(cEditorServices& services, cFolderSource<cProfile>* source, QWidget* parent)
     : cDefinitionPage(
-          services, ReadProfiles(services.m_Station), [&services] { return services.m_Station.TakeNotes(); },
-          parent),
+          services, std::unique_ptr<cDefinitionSource>(source),
+          [&services] { return services.m_Station.TakeNotes(); }, parent),
       m_Station(services.m_Station),
+      m_Source(*source),
       m_Form(new cProfileForm(services)) {
     setObjectName("Page_Profiles");
-    m_Form->OnEdited = [this] { NoteEdit(); };
-    cFileDocument& calendar = m_Form->Calendar().Document();
-    connect(&calendar, &cFileDocument::StateChanged, this, &cEditorPage::StateChanged);
-    connect(&calendar, &cFileDocument::FileUsed, this, &cEditorPage::FileUsed);
-    connect(&calendar, &cFileDocument::Message, this, &cEditorPage::Message);
-    for (cContentEditor* editor : m_Form->Editors()) {
-        connect(editor, &cContentEditor::Message, this, &cEditorPage::Message);
-        connect(editor, &cContentEditor::DayTypesChanged, this, &cEditorPage::DayTypesChanged);
-    }
+    m_Form->OnEdited = [this](const cFieldStep& step) { NoteEdit(step); };
+    ConnectCalendar();
     cPageForm form;
     form.widget = m_Form;
-    form.show = [this](int position) {
-        m_Form->Show(position < 0 ? nullptr : &m_Station.Profiles().At(static_cast<std::size_t>(position)));
-    };
+    form.nameField = "Text_ProfileName";
     form.problem = [this] { return m_Form->Problem(); };
-    form.focusName = [this] { m_Form->FocusName(); };
+    form.show = [this](int position) {
+        const auto index = static_cast<std::size_t>(position);
+        if (position < 0) return m_Form->Show(nullptr, nullptr);
+        m_Form->Show(&m_Station.Profiles().At(index), &m_Source.Typed(index));
+    };
     SetUp({tr("Profiles"), PathToQString(m_Station.ApplicationPath() + "Profiles"), tr("New profile"),
            tr("Conditions"), tr("Delete the profile \"%1\" and its file?")},
           std::move(form));
@@ -59,8 +65,23 @@ bool cProfilesPage::Save() {
     return !m_Form->Calendar().Document().IsDirty() || m_Form->Calendar().Document().Save();
 }
 
-QUndoStack* cProfilesPage::UndoStack() {
-    return m_Form->UndoStack();
+void cProfilesPage::ConnectCalendar() {
+    cFileDocument& calendar = m_Form->Calendar().Document();
+    connect(&calendar, &cFileDocument::StateChanged, this, &cEditorPage::StateChanged);
+    connect(&calendar, &cFileDocument::FileUsed, this, &cEditorPage::FileUsed);
+    connect(&calendar, &cFileDocument::Message, this, &cEditorPage::Message);
+    for (cContentEditor* editor : m_Form->Editors()) {
+        connect(editor, &cContentEditor::ProblemChanged, this, &cEditorPage::StateChanged);
+        connect(editor, &cContentEditor::Message, this, &cEditorPage::Message);
+        connect(editor, &cContentEditor::DayTypesChanged, this, &cEditorPage::DayTypesChanged);
+    }
+    connect(&calendar, &cFileDocument::Opened, this, [this] { UndoStack()->clear(); });
+    cContentEditor& editor = m_Form->Calendar().Editor();
+    connect(&editor, &cContentEditor::Edited, this, [this, &editor](const cEditStep& step) {
+        UndoStack()->push(
+            new cStepCommand(step, editor, [this, &editor] { ShowField(editor.objectName()); }));
+    });
+    connect(UndoStack(), &QUndoStack::indexChanged, &calendar, &cFileDocument::NoteChange);
 }
 
 void cProfilesPage::SetZoom(double zoom) {

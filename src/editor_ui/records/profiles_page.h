@@ -17,8 +17,6 @@ class cProfilesPage : public cDefinitionPage {
     // The calendar that the form shows belongs to the page.
     bool IsDirty() const override;
     bool Save() override;
-    // Of the shown profile's schedule.
-    QUndoStack* UndoStack() override;
     void SetZoom(double zoom) override;
     void RefreshDayTypes() override;
 
@@ -27,7 +25,12 @@ class cProfilesPage : public cDefinitionPage {
     void showEvent(QShowEvent* event) override;
 
   private:
+    // Takes the source over.
+    cProfilesPage(cEditorServices& services, cFolderSource<cProfile>* source, QWidget* parent);
+    void ConnectCalendar();
+
     cStationDefinitions& m_Station;
+    cFolderSource<cProfile>& m_Source;
     cProfileForm* m_Form;
 };
 

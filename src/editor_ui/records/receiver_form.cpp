@@ -4,6 +4,7 @@
 #include <QFormLayout>
 
 #include "common/date_text.h"
+#include "common/failure.h"
 #include "common/file_procedures.h"
 #include "editor_ui/records/setting_edit.h"
 #include "windows/plain_text.h"
@@ -11,14 +12,17 @@
 namespace vigrel {
 
 cReceiverForm::cReceiverForm(const cDefinitionServices& services, QWidget* parent)
-    : QWidget(parent), m_Services(services), m_Type(new QComboBox), m_File(new cPlainLabel) {
+    : QWidget(parent),
+      m_Services(services),
+      m_Layout(new QFormLayout(this)),
+      m_Type(new QComboBox),
+      m_File(new cPlainLabel) {
     setObjectName("Form_Receiver");
-    auto* layout = new QFormLayout(this);
+    QFormLayout* layout = m_Layout;
     layout->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
     // Where there is little room, a field stands below its label.
     layout->setRowWrapPolicy(QFormLayout::WrapLongRows);
-    m_Name = m_Binder.Text("Text_ReceiverName", tr("Name"), &cReceiver::m_ReceiverName);
-    layout->addRow(tr("Na&me:"), m_Name);
+    layout->addRow(tr("Na&me:"), m_Binder.Text("Text_ReceiverName", tr("Name"), &cReceiver::m_ReceiverName));
     layout->addRow("", m_Binder.Flag("Check_Enabled", tr("En&abled: alarms go to this receiver"),
                                      &cReceiver::m_Enabled));
     m_Type->setObjectName("Combo_ReceiverType");
@@ -33,21 +37,14 @@ cReceiverForm::cReceiverForm(const cDefinitionServices& services, QWidget* paren
     m_File->setWordWrap(true);
     m_File->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
-    AddTypes();
     connect(m_Type, &QComboBox::activated, this, [this](int row) { ChooseType(row); });
     m_Binder.AddShow([this](const cReceiver& receiver) { ShowType(receiver); });
     m_Binder.AddShow([this](const cReceiver& receiver) { ShowSettings(receiver); });
     m_Binder.AddShow([this](const cReceiver& receiver) { ShowFile(receiver); });
-    m_Binder.OnEdited = [this] {
-        if (OnEdited) OnEdited();
+    m_Binder.OnEdited = [this](const cFieldStep& step) {
+        if (OnEdited) OnEdited(step);
     };
-    Show(nullptr);
-}
-
-void cReceiverForm::AddTypes() {
-    for (const cReceiverType& type : m_Services.receiverTypes.m_ReceiverTypes) {
-        m_Type->addItem(ToQString(type.m_TypeName), int{type.m_TypeId});
-    }
+    Show(nullptr, nullptr);
 }
 
 void cReceiverForm::AddSettings(QFormLayout& layout) {
@@ -58,45 +55,61 @@ void cReceiverForm::AddSettings(QFormLayout& layout) {
         m_Settings[index] = new cSettingEdit(i);
         m_SettingLabels[index]->setBuddy(m_Settings[index]);
         layout.addRow(m_SettingLabels[index], m_Settings[index]);
-        m_Settings[index]->OnEdited = [this, i](const cVariant& value) {
+        m_Settings[index]->OnEdited = [this, i, index](const cVariant& value) {
             m_Binder.Edit<cVariant>([i](cReceiver& shown, const cVariant& set) { shown.SaveSetting(i, set); },
-                                    value);
+                                    value, SettingStep(index));
+        };
+        m_Settings[index]->OnTyped = [this, index](const cTypedText& typed) {
+            m_Binder.Keep({typed.text, m_SettingLabels[index]->text() + " " + typed.problem},
+                          SettingStep(index));
         };
     }
 }
 
-void cReceiverForm::Show(cReceiver* receiver) {
-    m_Binder.Show(receiver);
+cFieldStep cReceiverForm::SettingStep(std::size_t index) const {
+    QString caption = m_SettingLabels[index]->text();
+    caption.chop(1);
+    return m_Binder.Step(caption, m_Settings[index]->Field(), true);
+}
+
+void cReceiverForm::Show(cReceiver* receiver, TypedTexts* typed) {
+    m_Binder.Show(receiver, typed);
     setEnabled(receiver != nullptr);
 }
 
-// A type that the table lacks has an entry of its own behind the others, as long as it is shown.
+// In front of the table's types stands what is none of them, as long as it is shown.
 void cReceiverForm::ShowType(const cReceiver& receiver) {
-    const int known = m_Services.receiverTypes.ReceiverTypeCount();
-    while (m_Type->count() > known) m_Type->removeItem(known);
+    m_Type->clear();
+    const std::int16_t shown = receiver.GetReceiverTypeId();
     if (receiver.m_ReceiverTypeIndex < 0) {
-        const bool none = receiver.GetReceiverTypeId() < 0;
-        m_Type->addItem(none ? tr("(choose a type)") : ToQString(receiver.m_ReceiverTypeName),
-                        int{receiver.GetReceiverTypeId()});
+        m_Type->addItem(shown < 0 ? tr("(choose a type)") : ToQString(receiver.m_ReceiverTypeName),
+                        int{shown});
     }
-    m_Type->setCurrentIndex(receiver.m_ReceiverTypeIndex < 0 ? known : receiver.m_ReceiverTypeIndex);
+    for (const cReceiverType& type : m_Services.receiverTypes.m_ReceiverTypes) {
+        m_Type->addItem(ToQString(type.m_TypeName), int{type.m_TypeId});
+    }
+    m_Type->setCurrentIndex(m_Type->findData(int{shown}));
 }
 
+SettingForms cReceiverForm::FormsOf(const cReceiver& receiver) const {
+    if (receiver.m_ReceiverTypeIndex < 0) return {};
+    const auto row = static_cast<std::size_t>(receiver.m_ReceiverTypeIndex);
+    return ReadSettingForms(m_Services.ini, m_Services.receiverTypes.m_ReceiverTypes[row]);
+}
+
+// Only the settings that the type uses; those of a type that is not known all, as they are.
 void cReceiverForm::ShowSettings(const cReceiver& receiver) {
-    SettingForms forms;
-    if (receiver.m_ReceiverTypeIndex >= 0) {
-        const auto row = static_cast<std::size_t>(receiver.m_ReceiverTypeIndex);
-        forms = ReadSettingForms(m_Services.ini, m_Services.receiverTypes.m_ReceiverTypes[row]);
-    }
+    SettingForms forms = FormsOf(receiver);
+    const bool unknown = receiver.m_ReceiverTypeIndex < 0 && receiver.GetReceiverTypeId() >= 0;
     for (std::size_t i = 0; i < forms.size(); ++i) {
         const cVariant& value = receiver.GetSetting(static_cast<std::int16_t>(i));
         const bool named = !forms[i].caption.empty();
-        m_SettingLabels[i]->setText(named ? ToQString(forms[i].caption) + ":"
-                                          : tr("Setting %1 (not used):").arg(i));
+        m_SettingLabels[i]->setText(named ? ToQString(forms[i].caption) + ":" : tr("Setting %1:").arg(i));
         // Without a form a value keeps the type it has.
         if (!named && value.Type() != eVariantType::Empty) forms[i].type = value.Type();
         if (!named) forms[i].caption = FromQString(m_SettingLabels[i]->text());
-        m_Settings[i]->Show(forms[i], value);
+        m_Settings[i]->Show(forms[i], value, m_Binder.Typed(m_Settings[i]->Field()));
+        m_Layout->setRowVisible(m_Settings[i], named || unknown);
     }
 }
 
@@ -115,25 +128,29 @@ void cReceiverForm::ShowFile(const cReceiver& receiver) {
 void cReceiverForm::ChooseType(int row) {
     const auto typeId = static_cast<std::int16_t>(m_Type->itemData(row).toInt());
     if (m_Binder.Shown() == nullptr || typeId == m_Binder.Shown()->GetReceiverTypeId()) return;
-    m_Binder.Edit<std::int16_t>([](cReceiver& shown, const std::int16_t& id) { shown.SetReceiverTypeId(id); },
-                                typeId);
+    m_Binder.Edit<std::int16_t>(
+        [this](cReceiver& shown, const std::int16_t& id) {
+            shown.SetReceiverTypeId(id);
+            TryTypedAgain(shown);
+        },
+        typeId, m_Binder.Step(tr("Type"), m_Type->objectName(), false));
     ShowType(*m_Binder.Shown());
     ShowSettings(*m_Binder.Shown());
 }
 
-QString cReceiverForm::Problem() const {
-    if (m_Binder.Shown() == nullptr) return {};
-    if (m_Name->text().trimmed().isEmpty()) return tr("The name is empty.");
-    for (std::size_t i = 0; i < m_Settings.size(); ++i) {
-        if (!m_Settings[i]->Problem().isEmpty())
-            return m_SettingLabels[i]->text() + " " + m_Settings[i]->Problem();
+// What was no value for the type before may be one now. What the type doesn't use has no field in which it
+// could be mended.
+void cReceiverForm::TryTypedAgain(cReceiver& receiver) {
+    const SettingForms forms = FormsOf(receiver);
+    for (std::size_t i = 0; i < forms.size(); ++i) {
+        const cTypedText* typed = m_Binder.Typed(m_Settings[i]->Field());
+        if (typed == nullptr) continue;
+        const bool taken = !CatchFailure([&] {
+            const cVariant value = VariantFromText(forms[i].type, FromQString(typed->text));
+            if (!forms[i].caption.empty()) receiver.SaveSetting(static_cast<std::int16_t>(i), value);
+        });
+        if (taken || forms[i].caption.empty()) m_Binder.Forget(m_Settings[i]->Field());
     }
-    return {};
-}
-
-void cReceiverForm::FocusName() {
-    m_Name->setFocus();
-    m_Name->selectAll();
 }
 
 }  // namespace vigrel

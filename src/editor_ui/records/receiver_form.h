@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "definitions/receiver.h"
+#include "definitions/receiver_settings.h"
 #include "editor_ui/records/field_binder.h"
 
 class QComboBox;
@@ -21,26 +22,25 @@ class cReceiverForm : public QWidget {
   public:
     explicit cReceiverForm(const cDefinitionServices& services, QWidget* parent = nullptr);
 
-    // The receiver must outlive its showing; nullptr shows nothing.
-    void Show(cReceiver* receiver);
-    // Why the receiver can't be saved as the form stands; empty when it can.
-    QString Problem() const;
-    void FocusName();
+    // What is shown must outlive its showing; nullptr shows nothing.
+    void Show(cReceiver* receiver, TypedTexts* typed);
 
     // After each change of the receiver by the user.
-    std::function<void()> OnEdited;
+    std::function<void(const cFieldStep&)> OnEdited;
 
   private:
-    void AddTypes();
     void AddSettings(QFormLayout& layout);
     void ShowType(const cReceiver& receiver);
     void ShowSettings(const cReceiver& receiver);
     void ShowFile(const cReceiver& receiver);
     void ChooseType(int row);
+    cFieldStep SettingStep(std::size_t index) const;
+    void TryTypedAgain(cReceiver& receiver);
+    SettingForms FormsOf(const cReceiver& receiver) const;
 
     const cDefinitionServices& m_Services;
     cFieldBinder<cReceiver> m_Binder;
-    cTextEdit* m_Name;
+    QFormLayout* m_Layout;
     QComboBox* m_Type;
     QLabel* m_File;
     std::array<QLabel*, cReceiver::kSettings> m_SettingLabels{};

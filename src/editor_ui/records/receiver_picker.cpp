@@ -57,8 +57,7 @@ void cReceiverPicker::FillMenu() {
     for (std::size_t i = 0; i < m_Receivers.Count(); ++i) {
         const cReceiver& receiver = m_Receivers.At(i);
         const std::string item = std::to_string(receiver.m_DiskIdentity);
-        if (receiver.m_DiskIdentity < 0 || std::find(m_Items.begin(), m_Items.end(), item) != m_Items.end())
-            continue;
+        if (receiver.m_DiskIdentity < 0 || Lists(receiver.m_DiskIdentity)) continue;
         free.emplace_back(ItemName(item), item);
     }
     std::sort(free.begin(), free.end(),
@@ -67,6 +66,12 @@ void cReceiverPicker::FillMenu() {
         m_Menu->addAction(QString(name).replace('&', "&&"), this, [this, item = item] { Add(item); });
     }
     if (free.empty()) m_Menu->addAction(tr("No other saved receiver"))->setEnabled(false);
+}
+
+// Whatever the item looks like: "7" and "0007" are one receiver.
+bool cReceiverPicker::Lists(std::int16_t identity) const {
+    return std::any_of(m_Items.begin(), m_Items.end(),
+                       [identity](const std::string& item) { return ReceiverIdentity(item) == identity; });
 }
 
 QString cReceiverPicker::ItemName(const std::string& item) const {

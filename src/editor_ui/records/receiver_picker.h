@@ -36,6 +36,7 @@ class cReceiverPicker : public QWidget {
     void Move(int by);
     void Edited(int current);
     void UpdateButtons();
+    bool Lists(std::int16_t identity) const;
     QString ItemName(const std::string& item) const;
 
     const cReceiverFolder& m_Receivers;

@@ -1,5 +1,6 @@
 #include "editor_ui/records/receivers_page.h"
 
+#include "common/text.h"
 #include "editor_ui/records/receiver_form.h"
 
 namespace vigrel {
@@ -7,30 +8,44 @@ namespace {
 
 constexpr int kMostNames = 10;
 
-std::unique_ptr<cDefinitionSource> ReadReceivers(cStationDefinitions& station) {
+cFieldProblem ProblemOf(const cReceiver& receiver) {
+    if (Trim(receiver.m_ReceiverName).empty()) {
+        return {QObject::tr("The name is empty."), "Text_ReceiverName"};
+    }
+    // Nobody could send anything to it.
+    if (receiver.GetReceiverTypeId() < 0) return {QObject::tr("Choose a type."), "Combo_ReceiverType"};
+    return {};
+}
+
+std::unique_ptr<cFolderSource<cReceiver>> ReadReceivers(cStationDefinitions& station) {
     station.OpenReceivers();
-    return std::make_unique<cFolderSource<cReceiver>>(station.Receivers(), [](const cReceiver& receiver) {
-        return ToQString(receiver.m_ReceiverTypeName);
-    });
+    return std::make_unique<cFolderSource<cReceiver>>(
+        station.Receivers(), [](const cReceiver& receiver) { return ToQString(receiver.m_ReceiverTypeName); },
+        ProblemOf);
 }
 
 }  // namespace
 
 cReceiversPage::cReceiversPage(cEditorServices& services, QWidget* parent)
+    : cReceiversPage(services, ReadReceivers(services.m_Station).release(), parent) {}
+
+cReceiversPage::cReceiversPage(cEditorServices& services, cFolderSource<cReceiver>* source, QWidget* parent)
     : cDefinitionPage(
-          services, ReadReceivers(services.m_Station), [&services] { return services.m_Station.TakeNotes(); },
-          parent),
+          services, std::unique_ptr<cDefinitionSource>(source),
+          [&services] { return services.m_Station.TakeNotes(); }, parent),
       m_Station(services.m_Station),
+      m_Source(*source),
       m_Form(new cReceiverForm(m_Station.Services())) {
     setObjectName("Page_Receivers");
-    m_Form->OnEdited = [this] { NoteEdit(); };
+    m_Form->OnEdited = [this](const cFieldStep& step) { NoteEdit(step); };
     cPageForm form;
     form.widget = m_Form;
+    form.nameField = "Text_ReceiverName";
     form.show = [this](int position) {
-        m_Form->Show(position < 0 ? nullptr : &m_Station.Receivers().At(static_cast<std::size_t>(position)));
+        const auto index = static_cast<std::size_t>(position);
+        if (position < 0) return m_Form->Show(nullptr, nullptr);
+        m_Form->Show(&m_Station.Receivers().At(index), &m_Source.Typed(index));
     };
-    form.problem = [this] { return m_Form->Problem(); };
-    form.focusName = [this] { m_Form->FocusName(); };
     form.deleteWarning = [this](int position) { return DeleteWarning(position); };
     SetUp({tr("Receivers"), PathToQString(m_Station.ApplicationPath() + "Receivers"), tr("New receiver"),
            tr("Type"), tr("Delete the receiver \"%1\" and its file?")},

@@ -15,9 +15,12 @@ class cReceiversPage : public cDefinitionPage {
     explicit cReceiversPage(cEditorServices& services, QWidget* parent = nullptr);
 
   private:
+    // Takes the source over.
+    cReceiversPage(cEditorServices& services, cFolderSource<cReceiver>* source, QWidget* parent);
     QString DeleteWarning(int position) const;
 
     cStationDefinitions& m_Station;
+    cFolderSource<cReceiver>& m_Source;
     cReceiverForm* m_Form;
 };
 

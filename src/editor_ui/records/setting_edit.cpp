@@ -1,14 +1,13 @@
 #include "editor_ui/records/setting_edit.h"
 
 #include <QComboBox>
-#include <QEvent>
 #include <QStackedLayout>
 #include <QVBoxLayout>
 
 #include "adapters/qt/qt_text.h"
 #include "common/failure.h"
+#include "editor_ui/pages/problem_label.h"
 #include "editor_ui/pages/text_edit.h"
-#include "windows/plain_text.h"
 
 namespace vigrel {
 
@@ -37,13 +36,10 @@ cSettingEdit::cSettingEdit(int index, QWidget* parent)
       m_Text(new cTextEdit),
       m_Choice(new QComboBox),
       m_Fields(new QStackedLayout),
-      m_Problem(new cPlainLabel) {
+      m_Problem(new cProblemLabel(QString("Label_Setting_%1_Problem").arg(index))) {
     m_Text->setObjectName(QString("Text_Setting_%1").arg(index));
     m_Choice->setObjectName(QString("Combo_Setting_%1").arg(index));
     m_Choice->addItems({"", tr("Yes"), tr("No")});
-    m_Problem->setObjectName(QString("Label_Setting_%1_Problem").arg(index));
-    m_Problem->setWordWrap(true);
-    m_Problem->hide();
     m_Fields->addWidget(m_Text);
     m_Fields->addWidget(m_Choice);
     auto* layout = new QVBoxLayout(this);
@@ -53,58 +49,48 @@ cSettingEdit::cSettingEdit(int index, QWidget* parent)
     // One line, however high the form.
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setFocusProxy(m_Text);
-    ColourProblem();
     connect(m_Text, &QLineEdit::textEdited, this, [this](const QString& text) { EditText(text); });
     connect(m_Choice, &QComboBox::activated, this, [this](int choice) { EditChoice(choice); });
 }
 
-void cSettingEdit::Show(const cSettingForm& form, const cVariant& value) {
+void cSettingEdit::Show(const cSettingForm& form, const cVariant& value, const cTypedText* typed) {
     m_Type = form.type;
     const QString name = ToQString(form.caption);
     m_Text->setAccessibleName(name);
     m_Choice->setAccessibleName(name);
     m_Text->setPlaceholderText(Hint(m_Type));
-    m_Text->setText(ToQString(value.Text()));
+    const QString text = typed == nullptr ? ToQString(value.Text()) : typed->text;
+    if (text != m_Text->text()) m_Text->setText(text);
     const auto number = value.Number();
     const bool isYesNo = m_Type == eVariantType::Boolean &&
                          (value.Type() == eVariantType::Boolean || value.Type() == eVariantType::Empty);
     m_Choice->setCurrentIndex(value.Type() == eVariantType::Empty ? 0 : number && *number != 0 ? 1 : 2);
-    m_Fields->setCurrentIndex(isYesNo ? 1 : 0);
+    m_Fields->setCurrentIndex(isYesNo && typed == nullptr ? 1 : 0);
     setFocusProxy(m_Fields->currentWidget());
-    ShowProblem({});
+    m_Problem->Show(typed == nullptr ? QString() : Fault(text));
+}
+
+QString cSettingEdit::Field() const {
+    return m_Text->objectName();
+}
+
+QString cSettingEdit::Fault(const QString& text) const {
+    const auto failure = CatchFailure([&] { VariantFromText(m_Type, FromQString(text)); });
+    return failure ? ToQString(failure->what()) : QString();
 }
 
 void cSettingEdit::EditText(const QString& text) {
-    cVariant value;
-    const auto failure = CatchFailure([&] { value = VariantFromText(m_Type, FromQString(text)); });
-    ShowProblem(failure ? ToQString(failure->what()) : QString());
-    if (!failure && OnEdited) OnEdited(value);
+    const QString fault = Fault(text);
+    m_Problem->Show(fault);
+    if (!fault.isEmpty()) {
+        if (OnTyped) OnTyped({text, fault});
+    } else if (OnEdited) {
+        OnEdited(VariantFromText(m_Type, FromQString(text)));
+    }
 }
 
 void cSettingEdit::EditChoice(int choice) {
     if (OnEdited) OnEdited(choice == 0 ? cVariant() : cVariant::Boolean(choice == 1));
-}
-
-void cSettingEdit::ShowProblem(const QString& problem) {
-    m_Problem->setText(problem);
-    m_Problem->setVisible(!problem.isEmpty());
-}
-
-// A red that is readable on the desktop's ground, be it light or dark.
-void cSettingEdit::ColourProblem() {
-    const bool dark = palette().color(QPalette::Window).lightness() < 128;
-    QPalette colours = m_Problem->palette();
-    colours.setColor(QPalette::WindowText, dark ? QColor(255, 150, 150) : QColor(176, 0, 0));
-    m_Problem->setPalette(colours);
-}
-
-void cSettingEdit::changeEvent(QEvent* event) {
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange) ColourProblem();
-}
-
-QString cSettingEdit::Problem() const {
-    return m_Problem->text();
 }
 
 }  // namespace vigrel

@@ -4,42 +4,41 @@
 #include <functional>
 
 #include "definitions/receiver_settings.h"
+#include "editor_ui/records/definition_source.h"
 
 class QComboBox;
-class QLabel;
 class QStackedLayout;
 
 namespace vigrel {
 
+class cProblemLabel;
 class cTextEdit;
 
 // One setting of a receiver: a field for the value in the type that the receiver's type asks for. A text that
-// is no value of that type is told below the field and not stored.
+// is no value of that type stays as typed, is told below the field, and is not stored.
 class cSettingEdit : public QWidget {
     Q_OBJECT
   public:
     explicit cSettingEdit(int index, QWidget* parent = nullptr);
 
-    void Show(const cSettingForm& form, const cVariant& value);
-    // Why the text can't be stored; empty when it could.
-    QString Problem() const;
+    // With a typed text, that one stands in the field.
+    void Show(const cSettingForm& form, const cVariant& value, const cTypedText* typed);
+    QString Field() const;  // object name of the field for texts
     std::function<void(const cVariant&)> OnEdited;
-
-  protected:
-    void changeEvent(QEvent* event) override;
+    // A text that is no value, and why.
+    std::function<void(const cTypedText&)> OnTyped;
 
   private:
     static QString Hint(eVariantType type);
+    QString Fault(const QString& text) const;
     void EditText(const QString& text);
     void EditChoice(int choice);
-    void ShowProblem(const QString& problem);
-    void ColourProblem();
 
     eVariantType m_Type = eVariantType::String;
     cTextEdit* m_Text;
     QComboBox* m_Choice;  // yes or no
     QStackedLayout* m_Fields;
-    QLabel* m_Problem;
+    cProblemLabel* m_Problem;
 };
 
 }  // namespace vigrel

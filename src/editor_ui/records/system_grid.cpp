@@ -21,7 +21,7 @@ cSystemGrid::cSystemGrid(QWidget* parent) : QWidget(parent) {
         flag->setAccessibleName(tr("System %1").arg(i));
         layout->addWidget(flag, i / kColumns, i % kColumns);
         connect(flag, &QCheckBox::clicked, this, [this, i](bool on) {
-            if (OnEdited) OnEdited(static_cast<std::int16_t>(i), on);
+            if (OnEdited) OnEdited({static_cast<std::int16_t>(i)}, on);
         });
         m_Flags[static_cast<std::size_t>(i)] = flag;
     }
@@ -42,11 +42,13 @@ void cSystemGrid::Show(const cProfile& profile) {
 }
 
 void cSystemGrid::SetAll(bool on) {
+    std::vector<std::int16_t> indices;
     for (std::size_t i = 0; i < m_Flags.size(); ++i) {
         if (m_Flags[i]->isChecked() == on) continue;
         m_Flags[i]->setChecked(on);
-        if (OnEdited) OnEdited(static_cast<std::int16_t>(i), on);
+        indices.push_back(static_cast<std::int16_t>(i));
     }
+    if (OnEdited && !indices.empty()) OnEdited(indices, on);
 }
 
 }  // namespace vigrel

@@ -3,6 +3,7 @@
 #include <QWidget>
 #include <array>
 #include <functional>
+#include <vector>
 
 #include "definitions/profile.h"
 
@@ -18,7 +19,7 @@ class cSystemGrid : public QWidget {
 
     void Show(const cProfile& profile);
     // One or several flags were set by the user; those not named stay as they are.
-    std::function<void(std::int16_t index, bool on)> OnEdited;
+    std::function<void(const std::vector<std::int16_t>& indices, bool on)> OnEdited;
 
   private:
     void SetAll(bool on);

@@ -32,6 +32,9 @@ class cScheduleEditor : public cContentEditor, private cTimeScheduleContainer {
     void Restore(const std::string& state) override;
     QString Problem() const override { return m_Problem.text(); }
     void FocusProblem() override;
+    QString ProblemField() const;  // object name of the field to mend
+    // Gives up what is half typed in the time fields.
+    void DropTyping();
     // Whether the rows show the names of their days.
     QCheckBox& ViewDayType() { return m_ViewDayType; }
     QList<QAction*> EditActions() const override;

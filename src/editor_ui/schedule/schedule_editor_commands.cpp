@@ -104,14 +104,25 @@ void cScheduleEditor::ShowProblem(const QString& problem) {
     emit ProblemChanged();
 }
 
+QString cScheduleEditor::ProblemField() const {
+    return (FaultOfTimeText(FromQString(m_Start.text())) ? m_Start : m_Stop).objectName();
+}
+
 void cScheduleEditor::FocusProblem() {
-    QLineEdit& field = FaultOfTimeText(FromQString(m_Start.text())) ? m_Start : m_Stop;
+    QLineEdit& field = ProblemField() == m_Start.objectName() ? m_Start : m_Stop;
     field.setFocus();
     field.selectAll();
 }
 
+void cScheduleEditor::DropTyping() {
+    if (Problem().isEmpty()) return;
+    emit Message(tr("Not taken over: %1").arg(Problem()));
+    TakeBackTyping();
+}
+
 // The times as they are in the schedule.
 void cScheduleEditor::TakeBackTyping() {
+    if (m_Shown.dayType < 0) return;
     m_Schedule.Select(*this, m_Shown.dayType, m_Shown.period);
     ShowProblem({});
 }
