@@ -131,6 +131,13 @@ std::optional<std::string> ExpandToken(const cSource& source, std::string_view t
 
 }  // namespace
 
+std::vector<std::string> EventFieldNames() {
+    std::vector<std::string> names;
+    for (const cField& field : kFields) names.emplace_back(field.name);
+    for (const char* text : {"T0", "T1", "T2", "T3", "T4", "T5"}) names.emplace_back(text);
+    return names;
+}
+
 std::string cEventText::ExpandEventText(const cVigrelRecieverAlarm& alarm, std::string_view text,
                                         std::string_view extraText) const {
     const cSource source{m_Settings, m_Texts, m_Ini, m_Forms, alarm, extraText};

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "common/ini.h"
 #include "common/settings.h"
@@ -37,5 +38,8 @@ class cEventText {
     const cIni& m_Ini;
     const cLocaleForms& m_Forms;
 };
+
+// The names of all fields, in upper case, for those who look for slips in a template.
+std::vector<std::string> EventFieldNames();
 
 }  // namespace vigrel

@@ -6,6 +6,7 @@
 #include <set>
 #include <string>
 
+#include "common/text_ids.h"
 #include "receiver-check/check.h"
 #include "support/fake_files.h"
 
@@ -20,6 +21,11 @@ class cFakeMachine : public cMachine {
         m_Tried.push_back(address + ":" + std::to_string(port));
         return m_Trial;
     }
+    std::optional<std::string> WhyNotPrinting(std::string_view device) const override {
+        m_Asked.emplace_back(device);
+        return m_PrinterProblem;
+    }
+    std::optional<double> SecondsOfSound(std::string_view) const override { return m_Seconds; }
     bool FolderExists(std::string_view path) const override { return !m_Missing.contains(std::string(path)); }
     std::optional<std::string> WhyNotWritable(std::string_view folder) const override {
         const auto found = m_NotWritable.find(std::string(folder));
@@ -29,6 +35,9 @@ class cFakeMachine : public cMachine {
 
     cPortTrial m_Trial;
     mutable std::vector<std::string> m_Tried;
+    mutable std::vector<std::string> m_Asked;
+    std::optional<std::string> m_PrinterProblem;
+    std::optional<double> m_Seconds = 1.5;
     std::set<std::string> m_Missing;
     std::map<std::string, std::string> m_NotWritable;
 };
@@ -37,11 +46,19 @@ class cFakeMachine : public cMachine {
 class cCheckedStation : public ::testing::Test {
   protected:
     cCheckedStation() {
-        m_Files.Put(kApp + "Vigrel_Texts.044", "0=English\r\n10000=Receiver\r\n");
+        m_Files.Put(kApp + "Vigrel_Texts.044", AllTexts());
         m_Files.PutFolder(kApp + "Alarms\\");
         m_Files.Put(kApp + "Sounds\\bell.wav", std::string("RIFF\4\0\0\0WAVEfmt ", 16));
     }
 
+    // A text file that lacks nothing but the given number.
+    static std::string AllTexts(int without = -1) {
+        std::string lines;
+        for (const int id : kTextIds) {
+            if (id != without) lines += std::to_string(id) + "=Text\r\n";
+        }
+        return lines;
+    }
     static std::string Colours() {
         std::string lines;
         for (const std::string state : {"Inactive", "Active", "Acked", "Message"}) {

@@ -4,6 +4,7 @@
 #include <sys/socket.h>
 #include <unistd.h>
 #include <filesystem>
+#include <fstream>
 
 #include "common/file_procedures.h"
 #include "inspect/alarm_samples.h"
@@ -27,7 +28,7 @@ class CheckFolderTest : public testing::cCheckedStation {
 
 TEST_F(CheckFolderTest, ALanguageWithoutFileIsAnError) {
     const std::string content = Content("Language=46");
-    m_Files.Put(kApp + "Vigrel_Texts.046", "0=Svenska\r\n10000=Mottagare\r\n");
+    m_Files.Put(kApp + "Vigrel_Texts.046", AllTexts());
     EXPECT_EQ(Lines(Check(content)).substr(0, 42), "error language-missing [General] Language\n");
     EXPECT_EQ(Check(content).m_All[0].message,
               "there is no file Vigrel_Texts.46: the start waits for somebody to choose a language; there "
@@ -45,12 +46,14 @@ TEST_F(CheckFolderTest, AFolderWithoutTextsIsAnError) {
     EXPECT_EQ(Found(), "error no-texts Vigrel_Texts.NNN");
 }
 
-TEST_F(CheckFolderTest, TextsThatAnotherLanguageHasAreMissed) {
-    m_Files.Put(kApp + "Vigrel_Texts.044", "0=English\r\n10000=Receiver\r\n10004=\r\n");
-    m_Files.Put(kApp + "Vigrel_Texts.046", "0=Svenska\r\n10004=Arkiv\r\n10006=Kvittera\r\n");
+TEST_F(CheckFolderTest, TextsThatTheProgramAsksForAreMissed) {
+    m_Files.Put(kApp + "Vigrel_Texts.044", AllTexts(10006) + "10006=\r\n");
+    m_Files.Put(kApp + "Vigrel_Texts.046", AllTexts(10007));
     const cFindings findings = Check(Content());
-    EXPECT_EQ(Lines(findings), "warning texts-missing Vigrel_Texts.044");
-    EXPECT_EQ(Message(findings), "lacks texts that another language has: 10004, 10006");
+    EXPECT_EQ(Lines(findings),
+              "warning texts-missing Vigrel_Texts.044\nremark texts-missing Vigrel_Texts.046");
+    EXPECT_EQ(findings.m_All[0].message,
+              "lacks texts that the program shows: 10006; the delivered file of the language has them");
 }
 
 TEST_F(CheckFolderTest, TextsThatCantBeReadAreAnError) {
@@ -229,6 +232,37 @@ TEST(PosixMachine, FoldersAreFoundInAnyCaseAndAskedForTheirRights) {
     EXPECT_EQ(machine.WhyNotReadable(folder.Folder()), std::nullopt);
     EXPECT_EQ(machine.WhyNotWritable(folder.Folder() + "LogFiles"), "No such file or directory");
     EXPECT_NE(machine.WhyNotWritable("/proc/self"), std::nullopt) << "nobody may write there";
+}
+
+TEST(PosixMachine, APrinterOfTheNetworkAnswersOrNot) {
+    const int listener = socket(AF_INET, SOCK_STREAM, 0);
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t size = sizeof address;
+    ASSERT_EQ(bind(listener, reinterpret_cast<sockaddr*>(&address), size), 0);
+    ASSERT_EQ(listen(listener, 1), 0);
+    getsockname(listener, reinterpret_cast<sockaddr*>(&address), &size);
+    const std::string device = "tcp:127.0.0.1:" + std::to_string(ntohs(address.sin_port));
+    EXPECT_EQ(cPosixMachine().WhyNotPrinting(device), std::nullopt);
+    close(listener);
+    EXPECT_NE(cPosixMachine().WhyNotPrinting(device).value_or("").find("refused"), std::string::npos);
+}
+
+TEST(PosixMachine, AFileToPrintToIsNotMadeByAsking) {
+    const testing::cTemporaryFolder folder;
+    const std::string path = (folder.Path() / "print.txt").string();
+    EXPECT_EQ(cPosixMachine().WhyNotPrinting(path), std::nullopt);
+    EXPECT_FALSE(std::filesystem::exists(path));
+    EXPECT_NE(cPosixMachine().WhyNotPrinting("/dev/no-such-printer"), std::nullopt);
+    EXPECT_NE(cPosixMachine().WhyNotPrinting(path + "/below/print.txt"), std::nullopt);
+}
+
+TEST(PosixMachine, ASoundIsDecodedForItsLength) {
+    EXPECT_GT(cPosixMachine().SecondsOfSound(VIGREL_SHARE_DIR "/Sounds/alarm.wav").value_or(0), 0.1);
+    const testing::cTemporaryFolder folder;
+    std::ofstream(folder.Path() / "x.wav") << "RIFF....WAVEfmt ";
+    EXPECT_EQ(cPosixMachine().SecondsOfSound((folder.Path() / "x.wav").string()), std::nullopt);
 }
 
 }  // namespace

@@ -6,6 +6,8 @@ namespace vigrel {
 namespace {
 
 class CheckPopupsTest : public testing::cCheckedStation {};
+using testing::kApp;
+
 class CheckPrinterTest : public testing::cCheckedStation {};
 
 TEST_F(CheckPopupsTest, ABlankBehindACommaClosesACategoryOutOfPopups) {
@@ -35,6 +37,38 @@ TEST_F(CheckPopupsTest, ACategoryWithoutSectionIsARemarkAndAMisspeltOneAWarning)
               "warning category-without-section [General] PopupFormTopMostCategory");
     EXPECT_EQ(GeneralMessage("PopupFormTopMostCategory=Frie"),
               "the category \"Frie\" has no section; is \"Fire\" meant?");
+}
+
+TEST_F(CheckPopupsTest, SizesAndPlacesThatNoScreenShows) {
+    const auto popups = [&](const std::string& lines) { return Rest("[PopupForm]\r\n" + lines); };
+    EXPECT_EQ(popups("X_Size=640\r\nY_Size=200"), "");
+    EXPECT_EQ(popups("X_Size=0\r\nY_Size=200"), "warning popup-size [PopupForm] X_Size");
+    EXPECT_EQ(popups("X_Size=640\r\nY_Size=20000"), "warning popup-size [PopupForm] Y_Size");
+    EXPECT_EQ(popups("WindowPosition=STATIC\r\nX_Start=-20"), "warning popup-place [PopupForm] X_Start");
+    EXPECT_EQ(popups("WindowPosition=STATIC\r\nY_Start=9000"), "warning popup-place [PopupForm] Y_Start");
+    EXPECT_EQ(popups("X_Start=-20"), "") << "the desktop's choice of the place";
+    EXPECT_EQ(popups("WindowPosition=MOVING\r\nX_Step=-30\r\nX_Stop=900\r\nY_Stop=900"),
+              "warning popup-step [PopupForm] X_Step");
+}
+
+TEST_F(CheckPrinterTest, APrinterThatDoesNotAnswerIsTold) {
+    const std::string lines =
+        "[Printer]\r\nPort=2\r\nFormat=[T0]\r\n[PrinterPorts]\r\n1=/dev/lp0\r\n2=tcp:p:9100";
+    EXPECT_EQ(Rest(lines), "");
+    EXPECT_EQ(m_Machine.m_Asked, (std::vector<std::string>{"tcp:p:9100"}));
+    m_Machine.m_PrinterProblem = "tcp:p:9100: Connection refused";
+    EXPECT_EQ(Rest(lines), "warning printer-silent [PrinterPorts] 2");
+    EXPECT_EQ(RestMessage(lines), "the printer doesn't answer: tcp:p:9100: Connection refused");
+    EXPECT_EQ(Rest("[PrinterPorts]\r\n1=tcp:p:9100"), "") << "nothing is printed";
+}
+
+TEST_F(CheckPopupsTest, SoundsThatCantBeDecodedOrNeverEnd) {
+    const std::string lines = "EventSignal=2\r\nEventSoundFile=Sounds\\bell.wav";
+    EXPECT_EQ(Rest(lines), "");
+    m_Machine.m_Seconds = 31;
+    EXPECT_EQ(RestMessage(lines), kApp + "Sounds\\bell.wav plays for 31 s");
+    m_Machine.m_Seconds.reset();
+    EXPECT_EQ(Rest(lines), "error sound-not-decoded [CategorySpecificSetting_Fire] EventSoundFile");
 }
 
 TEST_F(CheckPopupsTest, CategoriesOfPopupsDoNothingWhilePopupsAreOff) {

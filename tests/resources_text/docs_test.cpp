@@ -10,10 +10,10 @@
 #include "common/dates.h"
 #include "common/setting_keys.h"
 #include "common/text.h"
+#include "common/text_ids.h"
 #include "events/vigrel_reciever_alarm.h"
 #include "link/frame.h"
 #include "resources_text/doc_pages.h"
-#include "resources_text/text_ids.h"
 #include "support/fake_clock.h"
 
 namespace vigrel {
@@ -152,7 +152,7 @@ TEST(TextFilePage, TellsWhatEveryNumberIsFor) {
     for (const std::string& line : ReadPage("formats/text-file.md")) {
         if (line.starts_with("| ")) numbers += "," + GetField(line, 1, "|") + ",";
     }
-    for (const int id : vigrel::testing::kTextIds) {
+    for (const int id : kTextIds) {
         if (id < 611 || id > 617) {
             EXPECT_NE(numbers.find(" " + std::to_string(id)), std::string::npos) << id;
         }

@@ -10,15 +10,13 @@
 #include "common/code_page.h"
 #include "common/numbers.h"
 #include "common/text.h"
+#include "common/text_ids.h"
 #include "common/texts.h"
 #include "resources_text/share_files.h"
-#include "resources_text/text_ids.h"
 #include "support/fake_files.h"
 
 namespace vigrel {
 namespace {
-
-using vigrel::testing::kTextIds;
 
 // A language file, with the upper-cased name by which desktops set to that language call it.
 struct cLanguage {

@@ -11,8 +11,8 @@ cFindings CheckInstallation(const cFileReader& files, const std::string& applica
                             const cMachine* machine) {
     const cInstallation installation(files, applicationPath);
     cFindings findings;
-    for (const auto check : {CheckFile, CheckKeys, CheckList, CheckCategories, CheckPopups, CheckSenders,
-                             CheckPrinter, CheckLanguage, CheckLists, CheckAlarmFiles}) {
+    for (const auto check : {CheckFile, CheckKeys, CheckList, CheckCategories, CheckPopups, CheckTemplates,
+                             CheckSenders, CheckPrinter, CheckLanguage, CheckLists, CheckAlarmFiles}) {
         check(installation, findings);
     }
     if (machine != nullptr) CheckMachine(installation, *machine, findings);

@@ -4,6 +4,7 @@
 #include "common/failure.h"
 #include "common/numbers.h"
 #include "common/text.h"
+#include "common/text_ids.h"
 #include "common/texts.h"
 #include "receiver-check/checks.h"
 
@@ -34,37 +35,37 @@ std::string Listed(const std::vector<std::string>& names) {
                        : "");
 }
 
-// The numbers of the texts that any of the files has.
-std::set<std::int32_t> TextsOf(const cInstallation& installation, const std::vector<std::string>& languages) {
-    std::set<std::int32_t> ids;
-    for (const std::string& language : languages) {
-        SkipFailure([&] {
-            const std::string path = installation.Path() + std::string(kTextFile) + language;
-            for (const std::string& line : SplitLines(installation.Files().ReadFile(path))) {
-                if (line.find('=') != std::string::npos) ids.insert(ToInt32(Val(GetField(line, 0, "="))));
-            }
-        });
-    }
-    return ids;
-}
-
-void CheckTexts(const cInstallation& installation, const std::string& language,
-                const std::vector<std::string>& languages, cFindings& findings) {
-    const cPlace place{std::string(kTextFile) + language, 0, "", "", ""};
-    cTexts texts(installation.Files(), installation.Ini());
-    if (const auto failure = CatchFailure([&] { texts.LoadTexts(); })) {
-        findings.Error("texts-unreadable", place, failure->what());
-        return;
-    }
-    std::vector<std::string> missing;
-    for (const std::int32_t id : TextsOf(installation, languages)) {
-        const std::string text = texts.GetText(id);
-        if (text.starts_with("*** Invalid Text (") || text.starts_with("*** Missing text (")) {
-            missing.push_back(std::to_string(id));
+// The texts of a language that the program asks for and the file lacks.
+std::vector<std::string> MissingTexts(const cInstallation& installation, const std::string& language) {
+    std::set<std::int32_t> there;
+    const std::string path = installation.Path() + std::string(kTextFile) + language;
+    for (const std::string& line : SplitLines(installation.Files().ReadFile(path))) {
+        const std::size_t equals = line.find('=');
+        if (equals + 1 < line.size() && equals != std::string::npos) {
+            there.insert(ToInt32(Val(GetField(line, 0, "="))));
         }
     }
-    if (missing.empty()) return;
-    findings.Warning("texts-missing", place, "lacks texts that another language has: " + Listed(missing));
+    std::vector<std::string> missing;
+    for (const int id : kTextIds) {
+        if (!there.contains(id)) missing.push_back(std::to_string(id));
+    }
+    return missing;
+}
+
+// Of a language that isn't in use the operator sees nothing yet.
+void CheckTexts(const cInstallation& installation, const std::string& language, bool inUse,
+                cFindings& findings) {
+    const cPlace place{std::string(kTextFile) + language, 0, "", "", ""};
+    std::vector<std::string> missing;
+    const auto failure = CatchFailure([&] { missing = MissingTexts(installation, language); });
+    if (failure) {
+        findings.Add(inUse ? eSeverity::Error : eSeverity::Remark, "texts-unreadable", place,
+                     failure->what());
+    } else if (!missing.empty()) {
+        findings.Add(inUse ? eSeverity::Warning : eSeverity::Remark, "texts-missing", place,
+                     "lacks texts that the program shows: " + Listed(missing) +
+                         "; the delivered file of the language has them");
+    }
 }
 
 }  // namespace
@@ -83,8 +84,9 @@ void CheckLanguage(const cInstallation& installation, cFindings& findings) {
         findings.Error("language-missing", place,
                        "there is no file " + std::string(kTextFile) + language + ": the start waits for " +
                            "somebody to choose a language; there are " + Listed(languages));
-    } else {
-        CheckTexts(installation, language, languages, findings);
+    }
+    for (const std::string& other : languages) {
+        CheckTexts(installation, other, other == language, findings);
     }
 }
 

@@ -1,4 +1,10 @@
+#include <set>
+
+#include "common/code_page.h"
 #include "common/failure.h"
+#include "common/numbers.h"
+#include "common/setting_keys.h"
+#include "common/text.h"
 #include "core/read_settings.h"
 #include "receiver-check/checks.h"
 
@@ -6,6 +12,7 @@ namespace vigrel {
 namespace {
 
 constexpr double kLargestPort = 65535;
+constexpr double kLongSound = 30;  // seconds
 
 void CheckPort(const cInstallation& installation, const cMachine& machine, cFindings& findings) {
     const cPlace place = installation.PlaceOf("TCPIP", "Port");
@@ -41,10 +48,46 @@ void CheckFolder(const cInstallation& installation, const cMachine& machine, con
     }
 }
 
+// The printer that lines go to. What the port is without a line of its own is told of with the printing.
+void CheckPrinterAnswers(const cInstallation& installation, const cMachine& machine, cFindings& findings) {
+    const double port = installation.Number("Printer", "Port");
+    if (installation.Value("Printer", "Format").empty() || port < 1) return;
+    const std::string name = NumberText(RoundEven(port));
+    const std::string device = Trim(installation.Ini().GetIniString("PrinterPorts", name, ""));
+    if (device.empty()) return;
+    const auto reason = machine.WhyNotPrinting(device);
+    if (!reason) return;
+    findings.Warning("printer-silent", installation.PlaceOf("PrinterPorts", name),
+                     "the printer doesn't answer: " + *reason);
+}
+
+// Sounds that are there: whether they can be decoded.
+void CheckSounds(const cInstallation& installation, const cMachine& machine, cFindings& findings) {
+    std::set<std::string> told;
+    const auto check = [&](const std::string& section, const cCategorySpecificSetting& setting) {
+        const std::string& file = setting.m_EventSoundFile;
+        if (!installation.Files().FileExists(file) || !told.insert(ToUpper(file)).second) return;
+        const auto seconds = machine.SecondsOfSound(file);
+        const cPlace place = installation.PlaceOf(section, "EventSoundFile");
+        if (!seconds) {
+            findings.Error("sound-not-decoded", place, file + " can't be decoded: it stays silent");
+        } else if (*seconds > kLongSound) {
+            findings.Remark("sound-long", place,
+                            file + " plays for " + NumberText(RoundEven(*seconds)) + " s");
+        }
+    };
+    check("General", installation.Categories().m_DefaultCategorySetting);
+    for (const cCategorySpecificSetting& setting : installation.Categories().m_CategorySettings) {
+        check(std::string(kCategorySectionPrefix) + setting.m_Category, setting);
+    }
+}
+
 }  // namespace
 
 void CheckMachine(const cInstallation& installation, const cMachine& machine, cFindings& findings) {
     CheckPort(installation, machine, findings);
+    CheckPrinterAnswers(installation, machine, findings);
+    CheckSounds(installation, machine, findings);
     CheckFolder(installation, machine, "Alarms", eSeverity::Error, "no alarm is kept over a restart",
                 findings);
     CheckFolder(installation, machine, "LogFiles", eSeverity::Warning, "nothing is logged", findings);

@@ -51,6 +51,10 @@ class cPlacement {
 
     void Check() {
         const std::string position = ToUpper(m_Installation.Value("PopupForm", "WindowPosition"));
+        if (position == "MOVING" || position == "STATIC") {
+            Start("X", kLargestWidth);
+            Start("Y", kLargestHeight);
+        }
         if (position == "MOVING") {
             Moving();
         } else if (position != "STATIC" && position != "DEFAULT") {
@@ -60,14 +64,36 @@ class cPlacement {
                     MeantPerhaps(m_Installation.Value("PopupForm", "WindowPosition"), {"STATIC", "MOVING"}));
         }
         const bool width = Number("X_Size") >= 0, height = Number("Y_Size") >= 0;
-        if (width != height) {
+        if (width && height) {
+            Size("X_Size", kLeastWidth, kLargestWidth);
+            Size("Y_Size", kLeastHeight, kLargestHeight);
+        } else if (width != height) {
             m_Findings.Warning("size-without-other", Place(width ? "X_Size" : "Y_Size"),
                                std::string("does nothing without ") + (width ? "Y_Size" : "X_Size"));
         }
     }
 
   private:
+    // Pixels. What is smaller shows no line of text; what is larger fits no screen.
+    static constexpr double kLeastWidth = 120, kLeastHeight = 60;
+    static constexpr double kLargestWidth = 7680, kLargestHeight = 4320;
+
     cPlace Place(const std::string& key) const { return m_Installation.PlaceOf("PopupForm", key); }
+    void Size(const std::string& key, double least, double most) {
+        const double size = Number(key);
+        if (size >= least && size <= most) return;
+        m_Findings.Warning("popup-size", Place(key),
+                           "a popup of this size " +
+                               std::string(size < least ? "shows no text" : "is larger than any screen") +
+                               "; usual are " + NumberText(least) + " to " + NumberText(most) + " pixels");
+    }
+    void Start(const std::string& axis, double most) {
+        const double start = Number(axis + "_Start");
+        if (start >= 0 && start <= most) return;
+        m_Findings.Warning("popup-place", Place(axis + "_Start"),
+                           start < 0 ? "a negative place is the desktop's choice, or outside of the screen"
+                                     : "lies outside of any screen");
+    }
     double Number(const std::string& key) const { return m_Installation.Number("PopupForm", key); }
 
     void Moving() {
@@ -77,6 +103,13 @@ class cPlacement {
                                "popups lie on one spot: the first step passes " + axis + "_Stop, which is " +
                                    m_Installation.Value("PopupForm", axis + "_Stop"));
             return;
+        }
+        for (const std::string key : {"X_Step", "Y_Step"}) {
+            if (Number(key) >= 0) continue;
+            m_Findings.Warning(
+                "popup-step", Place(key),
+                "only a place that is too large goes back to the start: popups leave the screen "
+                "at its other side");
         }
         if (Number("X_Step") == 0 && Number("Y_Step") == 0) {
             m_Findings.Warning("moving-without-way", Place("WindowPosition"),

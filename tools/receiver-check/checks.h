@@ -19,6 +19,8 @@ void CheckList(const cInstallation& installation, cFindings& findings);
 void CheckCategories(const cInstallation& installation, cFindings& findings);
 // Lists of categories, place and size of popups.
 void CheckPopups(const cInstallation& installation, cFindings& findings);
+// Slips in what popups and printed lines are made of.
+void CheckTemplates(const cInstallation& installation, cFindings& findings);
 void CheckSenders(const cInstallation& installation, cFindings& findings);
 void CheckPrinter(const cInstallation& installation, cFindings& findings);
 void CheckLanguage(const cInstallation& installation, cFindings& findings);

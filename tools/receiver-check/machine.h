@@ -21,6 +21,12 @@ class cMachine {
     // port is let go at once.
     virtual cPortTrial TryPort(const std::string& address, std::int32_t port) const = 0;
 
+    // Why a printer ("/dev/usb/lp0", "tcp:HOST:PORT", "cups:QUEUE") doesn't answer; none when it does.
+    // Nothing is printed.
+    virtual std::optional<std::string> WhyNotPrinting(std::string_view device) const = 0;
+    // How long a sound file plays; none for one that can't be decoded.
+    virtual std::optional<double> SecondsOfSound(std::string_view path) const = 0;
+
     virtual bool FolderExists(std::string_view path) const = 0;
     // Why this user can't create, replace and remove files in a folder; none when he can.
     virtual std::optional<std::string> WhyNotWritable(std::string_view folder) const = 0;

@@ -1,13 +1,17 @@
 // vigrel-receiver-check: tells an installer what is wrong in the application folder of a receiver.
 
 #include <cstdio>
+#include <filesystem>
 
 #include "adapters/linux/linux_files.h"
+#include "adapters/linux/system_clock.h"
+#include "common/code_page.h"
 #include "common/failure.h"
 #include "receiver-check/check.h"
 #include "receiver-check/options.h"
 #include "receiver-check/posix_machine.h"
 #include "receiver-check/print.h"
+#include "receiver-check/sample_texts.h"
 #include "vigrel-inspect/print.h"
 
 namespace vigrel {
@@ -26,19 +30,28 @@ void Print(const std::string& utf8) {
     }
 }
 
-std::string WithBackslash(const std::string& folder) {
-    return folder.ends_with('/') || folder.ends_with('\\') ? folder : folder + "\\";
+// The whole path, as the receiver has it: what a category inherits is told by whole paths from relative ones.
+std::string ApplicationPath(const std::string& folder) {
+    std::error_code error;
+    const auto absolute = std::filesystem::absolute(CodePageToUtf8(folder), error);
+    const std::string path = error ? folder : Utf8ToCodePage(absolute.lexically_normal().string());
+    return path.ends_with('/') || path.ends_with('\\') ? path : path + "\\";
 }
 
 int Check(const cCheckOptions& options) {
     const cPosixMachine machine;
-    const std::string path = WithBackslash(options.folder);
+    const std::string path = ApplicationPath(options.folder);
     if (!machine.FolderExists(path))
         throw cFailure(eFailure::PathAccess, options.folder + ": no such folder");
     if (const auto reason = machine.WhyNotReadable(path)) {
         throw cFailure(eFailure::PathAccess, options.folder + ": " + *reason);
     }
     const cLinuxFiles files;
+    if (options.showTexts) {
+        Print(CodePageToUtf8(
+            SampleTexts(cInstallation(files, path), options.filesOnly ? nullptr : &machine, cSystemClock())));
+        return kNothing;
+    }
     const cFindings findings = CheckInstallation(files, path, options.filesOnly ? nullptr : &machine);
     Print(options.json ? ReportJson(options.folder, findings) : ReportText(findings));
     if (findings.m_All.empty()) return kNothing;
@@ -55,7 +68,8 @@ int Run(const std::vector<std::string>& words) {
     int result = kNotChecked;
     const auto failure = CatchFailure([&] {
         if (options.help) Print(CheckHelpText());
-        result = options.help ? kNothing : Check(options);
+        if (options.version) Print("vigrel-receiver-check " VIGREL_VERSION "\n");
+        result = options.help || options.version ? kNothing : Check(options);
     });
     if (failure) PrintError(failure->what());
     return result;

@@ -15,9 +15,14 @@ tells what is wrong or odd in it. It never changes anything; the station may run
 
 Usage:
   vigrel-receiver-check [--json] [--files-only] FOLDER
+  vigrel-receiver-check --show-texts [--files-only] FOLDER
 
   --json         print a JSON object for scripts
-  --files-only   don't look at this machine: neither at the port nor at the rights of the user
+  --show-texts   print what popups and the printer would show for a sample alarm of each category, and
+                 how long the sounds are, in place of findings
+  --files-only   don't look at this machine: neither at port, printer and sounds nor at the rights of the
+                 user
+  --version      print the version
 
 Run it as the user whom the station runs as: the rights that are tested are yours.
 
@@ -56,13 +61,18 @@ cCheckOptions ReadCheckOptions(const std::vector<std::string>& words) {
             options.help = true;
         } else if (word == "--json") {
             options.json = true;
+        } else if (word == "--show-texts") {
+            options.showTexts = true;
+        } else if (word == "--version") {
+            options.version = true;
         } else if (word == "--files-only") {
             options.filesOnly = true;
         } else {
             Refuse("the option " + Utf8ToCodePage(word) + " is not known");
         }
     }
-    if (options.folder.empty() && !options.help) Refuse("no folder was named");
+    if (options.showTexts && options.json) Refuse("--show-texts is for people and has no JSON");
+    if (options.folder.empty() && !options.help && !options.version) Refuse("no folder was named");
     return options;
 }
 

@@ -9,6 +9,8 @@ namespace vigrel {
 struct cCheckOptions {
     bool help = false;
     bool json = false;
+    bool showTexts = false;
+    bool version = false;
     bool filesOnly = false;  // neither port nor rights
     std::string folder;      // in the code page
 };

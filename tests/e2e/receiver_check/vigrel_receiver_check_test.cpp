@@ -102,6 +102,15 @@ TEST_F(VigrelReceiverCheck, ExitsWithZeroWhenThereIsNothing) {
     EXPECT_EQ(run.exitCode, 0);
 }
 
+// A sound that is inherited has the folder in front of it already.
+TEST_F(VigrelReceiverCheck, ARelativeFolderIsAsRightAsAWholeOne) {
+    Configure("Language=\r\n", "\r\n");
+    Configure("Icon_Active=14,15", "EventSignal=3");
+    EXPECT_EQ(Run("App").output, Run((m_Folder.Path() / "App").string()).output);
+    EXPECT_EQ(Run("App").exitCode, 0) << Run("App").output;
+    EXPECT_EQ(Run("./App/../App/").exitCode, 0);
+}
+
 TEST_F(VigrelReceiverCheck, ExitsWithTwoForErrors) {
     Configure("Columns=", "Columns=,");
     const cRun run = Run("App");
@@ -152,6 +161,15 @@ TEST_F(VigrelReceiverCheck, PrintsJson) {
               "{\n  \"folder\": \"App\",\n  \"errors\": 0,\n  \"warnings\": 0,\n  "
               "\"remarks\": 0,\n  \"findings\": []\n}\n");
     EXPECT_EQ(run.exitCode, 0);
+}
+
+TEST_F(VigrelReceiverCheck, ShowsTheTextsOfASampleAlarm) {
+    const cRun run = Run("--show-texts App");
+    EXPECT_NE(run.output.find("Category Fire, popup, state 1:\n    Fire - Active\n    Fan 3 tripped\n"),
+              std::string::npos)
+        << run.output;
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(Run("--version").output.substr(0, 22), "vigrel-receiver-check ");
 }
 
 TEST_F(VigrelReceiverCheck, PrintsHelp) {

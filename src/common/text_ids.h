@@ -2,7 +2,7 @@
 
 #include <array>
 
-namespace vigrel::testing {
+namespace vigrel {
 
 // Every text that the program asks for, and 0, the language's own name.
 inline constexpr std::array<int, 77> kTextIds{
@@ -13,4 +13,4 @@ inline constexpr std::array<int, 77> kTextIds{
     10025, 10027, 10028, 10029, 10030, 10031, 10032, 10034, 10035, 10036, 10037, 10038, 10039,
     10040, 10041, 10042, 10043, 10044, 10046, 10047, 10048, 10049, 10050, 10051, 10052};
 
-}  // namespace vigrel::testing
+}  // namespace vigrel
