@@ -4,6 +4,7 @@
 
 #include <limits>
 
+#include "common/date_text.h"
 #include "common/dates.h"
 #include "common/failure.h"
 #include "inspect/alarm_samples.h"
@@ -186,6 +187,19 @@ TEST_F(AlarmExport, OnATerminalControlCharactersAreEscaped) {
         const bool plain = static_cast<unsigned char>(c) >= 0x20 && c != 0x7F;
         EXPECT_TRUE(plain || c == '\r' || c == '\n') << static_cast<int>(c);
     }
+}
+
+TEST(AlarmFilter, ASecondThatIsShownIsIncludedByFromAndLeftOutByTheEndBeforeIt) {
+    const testing::cFakeClock clock;
+    cVigrelRecieverAlarm alarm(clock);
+    const DateTime second = DateSerial(2026, 3, 15) + TimeSerial(12, 30, 15);
+    alarm.m_CreatedTime = second - 0.5e-4 / 86400;
+    ASSERT_EQ(DateTimeText(alarm.m_CreatedTime), "2026-03-15 12:30:15");
+    cAlarmFilter from, before;
+    from.from = second;
+    before.before = second;
+    EXPECT_TRUE(from.Wants(alarm));
+    EXPECT_FALSE(before.Wants(alarm));
 }
 
 }  // namespace

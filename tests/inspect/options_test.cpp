@@ -89,7 +89,7 @@ TEST(InspectOptions, HelpNeedsNothingElseAndNamesEveryOption) {
     EXPECT_TRUE(ReadOptions({"-h"}).help);
     for (const char* option :
          {"--json", "--as", "--alarms", "--csv", "--from", "--to", "--category", "--sender", "--status",
-          "--observed", "--bom", "--exact", "--quiet", "Examples:"}) {
+          "--observed", "--bom", "--exact", "--quiet", "--version", "Examples:"}) {
         EXPECT_NE(HelpText().find(option), std::string::npos) << option;
     }
 }

@@ -74,6 +74,29 @@ TEST(VigrelSend, AFileGivesOneFrameALineButForCommentsAndEmptyLines) {
               "A\xFFS0||b");
 }
 
+TEST(VigrelSend, AFileIsUtf8AndGoesOutInTheCodePageOfTheLink) {
+    const cOptions options = ReadOptions({"--sender", "A", "--file", "lines.txt"});
+    const auto frames = MakeFrames(options, "\xEF\xBB\xBFS1||G\xC3\xA4vle\n", "");
+    ASSERT_EQ(frames.size(), 1u);
+    EXPECT_EQ(frames[0].substr(2, 10), "\xFFS1||G\xE4vle");
+    for (const std::string bad : {"S1||a\nS1||\xE2\x9C\x93\n", "S1||a\nS1||G\xE4vle\n"}) {
+        try {
+            MakeFrames(options, bad, "");
+            ADD_FAILURE() << bad;
+        } catch (const cUsageError& error) {
+            EXPECT_TRUE(std::string(error.what()).starts_with("--file: line 2 holds a character"))
+                << error.what();
+        }
+    }
+}
+
+TEST(VigrelSend, AFileOfRawBytesGoesOutAsItIs) {
+    const cOptions options = ReadOptions({"--sender", "A", "--file", "lines.txt", "--raw-bytes"});
+    const auto frames = MakeFrames(options, "S1||G\xE4vle\n", "");
+    ASSERT_EQ(frames.size(), 1u);
+    EXPECT_EQ(frames[0].substr(2, 10), "\xFFS1||G\xE4vle");
+}
+
 TEST(VigrelSend, RawBytesGoOutAsTheyAre) {
     EXPECT_EQ(OneFrame({"--raw", "02 41 ff 0A"}),
               "\x02"

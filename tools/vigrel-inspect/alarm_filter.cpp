@@ -8,6 +8,7 @@
 namespace vigrel {
 namespace {
 
+constexpr double kTrace = 1e-4 / 86400;  // days
 constexpr std::array kStates = {"inactive", "active", "acked", "message"};
 
 bool IsOneOf(const std::vector<std::string>& wanted, std::string_view text) {
@@ -22,8 +23,11 @@ bool IsOneOf(const std::vector<std::int16_t>& wanted, std::int16_t state) {
 }  // namespace
 
 bool cAlarmFilter::Wants(const cVigrelRecieverAlarm& alarm) const {
-    if (from && !(alarm.m_CreatedTime >= *from)) return false;
-    if (before && !(alarm.m_CreatedTime < *before)) return false;
+    // A second that a sum of day and time left a trace below itself is shown as that second, and counts as
+    // it.
+    const DateTime created = alarm.m_CreatedTime + kTrace;
+    if (from && !(created >= *from)) return false;
+    if (before && !(created < *before)) return false;
     if (observed && (alarm.m_Observed != 0) != *observed) return false;
     return IsOneOf(categories, alarm.m_Alarm.GetCondition(2)) && IsOneOf(senders, alarm.m_Sender) &&
            IsOneOf(states, alarm.m_Alarm.m_Status);

@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <cstdio>
+#include <filesystem>
 
 #include "adapters/linux/linux_files.h"
 #include "adapters/linux/system_clock.h"
@@ -51,7 +52,17 @@ int Export(const cInspectOptions& options) {
     return result.damaged == 0 ? kFits : kDoesNotFit;
 }
 
+void RefuseFolder(const std::string& path) {
+    std::error_code error;
+    if (!std::filesystem::is_directory(NativePath(path), error)) return;
+    throw cFailure(eFailure::PathAccess, path + " is a folder: \"vigrel-inspect " + path +
+                                             " --alarms --csv\" makes a table of its alarms; to print files, "
+                                             "name them, such as " +
+                                             path + "/Alarms/*.alm");
+}
+
 cNamedContent ReadNamed(const cFileReader& files, const std::string& path) {
+    RefuseFolder(path);
     if (files.Stamp(path).size > kLargestFile) {
         throw cFailure(eFailure::InputOutput, path + ": the file is too large for a file of the system");
     }
@@ -115,10 +126,11 @@ int Run(const std::vector<std::string>& words) {
     int result = kDoesNotFit;
     const auto failure = CatchFailure([&] {
         if (options.help) Print(HelpText());
-        result = options.help     ? kFits
-                 : options.at     ? TellWhatIsActive(options)
-                 : options.alarms ? Export(options)
-                                  : InspectFiles(options);
+        if (options.version) Print("vigrel-inspect " VIGREL_VERSION "\n");
+        result = options.help || options.version ? kFits
+                 : options.at                    ? TellWhatIsActive(options)
+                 : options.alarms                ? Export(options)
+                                                 : InspectFiles(options);
     });
     if (failure) PrintError(failure->what());
     return result;

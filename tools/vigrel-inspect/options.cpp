@@ -50,6 +50,8 @@ Alarms as a table:
 
 A DATE is 2026-03-15, "2026-03-15 12:30" or "2026-03-15 12:30:15", in local time.
 
+--version prints the version.
+
 Exit code: 0 everything fits, 1 something doesn't fit or can't be read, 2 wrong command line.
 
 Examples:
@@ -131,7 +133,7 @@ class cOptionReader {
 
   private:
     void Check() const {
-        if (m_Options.help) return;
+        if (m_Options.help || m_Options.version) return;
         if (m_Options.paths.empty()) Refuse("no file was named");
         if (!m_Options.calendar.empty() && !m_Options.at) Refuse("--calendar needs --at");
         if (m_Options.at && (m_Options.alarms || m_Options.json || m_Options.kind)) {
@@ -148,10 +150,15 @@ class cOptionReader {
 
     cInspectOptions m_Options;
     bool m_Csv = false, m_Filtered = false, m_OnlyPaths = false;
-    std::map<std::string, bool*> m_Flags = {{"--help", &m_Options.help}, {"-h", &m_Options.help},
-                                            {"--json", &m_Options.json}, {"--alarms", &m_Options.alarms},
-                                            {"--csv", &m_Csv},           {"--exact", &m_Options.exact},
-                                            {"--bom", &m_Options.mark},  {"--quiet", &m_Options.quiet}};
+    std::map<std::string, bool*> m_Flags = {{"--help", &m_Options.help},
+                                            {"-h", &m_Options.help},
+                                            {"--json", &m_Options.json},
+                                            {"--alarms", &m_Options.alarms},
+                                            {"--csv", &m_Csv},
+                                            {"--exact", &m_Options.exact},
+                                            {"--bom", &m_Options.mark},
+                                            {"--quiet", &m_Options.quiet},
+                                            {"--version", &m_Options.version}};
     std::map<std::string, std::function<void(const std::string&)>> m_Values = {
         {"--as", [this](const std::string& word) { m_Options.kind = KindFromOption(word); }},
         {"--at", [this](const std::string& word) { m_Options.at = DateFromWord("--at", word); }},

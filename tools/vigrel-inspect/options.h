@@ -12,6 +12,7 @@ namespace vigrel {
 // What the command line asks for.
 struct cInspectOptions {
     bool help = false;
+    bool version = false;
     bool json = false;
     bool alarms = false;  // export the alarms of a folder
     bool exact = false;   // cells of the table as they are, also those that a spreadsheet takes for formulas

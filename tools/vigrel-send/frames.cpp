@@ -1,5 +1,8 @@
 #include "vigrel-send/frames.h"
 
+#include <string_view>
+
+#include "common/code_page.h"
 #include "common/text.h"
 #include "link/frame.h"
 
@@ -32,6 +35,23 @@ std::string Spoil(std::string frame, eCorrupt corrupt) {
     return frame;
 }
 
+// The lines of a file in the code page of the link. UTF-8 unless the bytes are meant as they are.
+std::vector<std::string> FileLines(const cOptions& options, std::string_view content) {
+    constexpr std::string_view kMark = "\xEF\xBB\xBF";
+    if (!options.rawBytes && content.starts_with(kMark)) content.remove_prefix(kMark.size());
+    std::vector<std::string> lines = SplitLines(content);
+    if (options.rawBytes) return lines;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        const std::string utf8 = lines[i];
+        lines[i] = Utf8ToCodePage(utf8);
+        if (CodePageToUtf8(lines[i]) == utf8) continue;
+        throw cUsageError("--file: line " + std::to_string(i + 1) +
+                          " holds a character that the link's code page 1252 lacks, or isn't UTF-8; "
+                          "--raw-bytes sends the bytes as they are");
+    }
+    return lines;
+}
+
 }  // namespace
 
 std::vector<std::string> MakeFrames(const cOptions& options, const std::string& fileContent,
@@ -39,7 +59,7 @@ std::vector<std::string> MakeFrames(const cOptions& options, const std::string& 
     if (!options.raw.empty()) return options.raw;
     std::vector<std::string> seconds;
     if (!options.file.empty()) {
-        for (const std::string& line : SplitLines(fileContent)) {
+        for (const std::string& line : FileLines(options, fileContent)) {
             if (!line.empty() && line[0] != '#') seconds.push_back(line);
         }
     } else if (options.keepAlive) {

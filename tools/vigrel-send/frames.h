@@ -8,7 +8,7 @@
 namespace vigrel::send {
 
 // The frames that the options ask for, once, each with its line end. fileContent is that of options.file; now
-// is "YYYY-MM-DD HH:MM:SS".
+// is "YYYY-MM-DD HH:MM:SS". Throws cUsageError for a file whose text the link can't carry.
 std::vector<std::string> MakeFrames(const cOptions& options, const std::string& fileContent,
                                     const std::string& now);
 

@@ -105,6 +105,10 @@ cOptions ReadOptions(const std::vector<std::string>& arguments) {
             options.help = true;
         } else if (name == "--keepalive") {
             options.keepAlive = true;
+        } else if (name == "--version") {
+            options.version = true;
+        } else if (name == "--raw-bytes") {
+            options.rawBytes = true;
         } else if (name == "--quiet") {
             options.quiet = true;
         } else {
@@ -141,7 +145,8 @@ what
   --keepalive        only says that the sender lives
   --message TEXT     a text for the station's log
   --file FILE        one record a line, as it goes over the link: S1date|time|t0|t1|t2|t3|t4|t5;
-                     empty lines and lines that begin with # are passed over
+                     empty lines and lines that begin with # are passed over; the file is UTF-8
+  --raw-bytes        the file holds the bytes of the link (code page 1252) and is sent as it is
   --raw HEX          these bytes as they are; may be given several times
 
 how
@@ -149,6 +154,7 @@ how
   --rate R           at most R frames a second (as fast as the replies come)
   --corrupt WHAT     checksum, etx or kind: spoils each frame, which the station must refuse
   --quiet            no line for each reply
+  --version          prints the version
 
 Exit code: 0 when every frame got the positive reply, 1 when one did not, 2 for a command line that can't be
 followed, 3 when the station can't be reached.

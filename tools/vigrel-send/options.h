@@ -22,6 +22,7 @@ struct cOptions {
     bool keepAlive = false;
     std::optional<std::string> message;
     std::string file;
+    bool rawBytes = false;         // the file's bytes are those of the link, not UTF-8
     std::vector<std::string> raw;  // bytes to send as they are
     long count = 1;
     double rate = 0;      // frames a second; 0: as fast as the replies come
@@ -29,6 +30,7 @@ struct cOptions {
     eCorrupt corrupt = eCorrupt::None;
     bool quiet = false;
     bool help = false;
+    bool version = false;
 };
 
 // A command line that can't be followed; the text names the option and the value.

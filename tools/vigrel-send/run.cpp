@@ -131,6 +131,10 @@ int Run(const std::vector<std::string>& arguments) {
             std::fputs(HelpText(), stdout);
             return kAllPositive;
         }
+        if (options.version) {
+            std::puts("vigrel-send " VIGREL_VERSION);
+            return kAllPositive;
+        }
         return SendAll(options);
     } catch (const cUsageError& error) {
         std::fprintf(stderr, "vigrel-send: %s\nTry vigrel-send --help.\n", error.what());

@@ -180,5 +180,13 @@ TEST_F(VigrelInspect, ATableOnATerminalSteersItByNoAlarm) {
     EXPECT_NE(Run("App --alarms --csv").output.find('\x1B'), std::string::npos);
 }
 
+TEST_F(VigrelInspect, AFolderIsAnsweredByWhatCanBeDoneWithIt) {
+    const cRun run = Run("App");
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_NE(run.errors.find("App is a folder: \"vigrel-inspect App --alarms --csv\""), std::string::npos)
+        << run.errors;
+    EXPECT_TRUE(Run("--version").output.starts_with("vigrel-inspect "));
+}
+
 }  // namespace
 }  // namespace vigrel

@@ -1,0 +1,40 @@
+// The completion for bash, as a shell asks it.
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <string>
+
+namespace vigrel {
+namespace {
+
+// What is offered for the last word of a command line, separated by blanks.
+std::string Offered(const std::string& program, const std::string& previous, const std::string& current) {
+    const std::string command =
+        "PATH=" VIGREL_BIN_DIR
+        ":$PATH bash -c '. \"$0\"; _vigrel \"$@\"; echo \"${COMPREPLY[*]}\"' " VIGREL_COMPLETION " '" +
+        program + "' '" + current + "' '" + previous + "'";
+    FILE* shell = popen(command.c_str(), "r");
+    std::string answer;
+    for (int c = 0; (c = std::fgetc(shell)) != EOF;) answer += static_cast<char>(c);
+    pclose(shell);
+    while (answer.ends_with('\n')) answer.pop_back();
+    return answer;
+}
+
+TEST(Completion, OffersTheOptionsThatTheProgramTellsOf) {
+    EXPECT_EQ(Offered("vigrel-send", "vigrel-send", "--k"), "--keepalive --kind");
+    EXPECT_EQ(Offered("vigrel-send", "--quiet", "--raw"), "--raw --raw-bytes");
+}
+
+TEST(Completion, OffersTheWordsOfAValue) {
+    EXPECT_EQ(Offered("vigrel-send", "--corrupt", ""), "checksum etx kind");
+    EXPECT_EQ(Offered("vigrel-inspect", "--status", "a"), "active acked");
+}
+
+TEST(Completion, OffersTheSwitchesOfTheReceiver) {
+    EXPECT_EQ(Offered("vigrel-receiver", "vigrel-receiver", "/m"), "/MAXIMIZE /MINIMIZE");
+}
+
+}  // namespace
+}  // namespace vigrel
