@@ -192,7 +192,10 @@ for entry in "$root"/usr/share/applications/vigrel-*.desktop; do
         [ -f "$root/usr/share/icons/hicolor/scalable/apps/$(sed -n 's/^Icon=//p' "$entry").svg" ]
 done
 for file in lib/systemd/user/vigrel-receiver.service lib/udev/rules.d/70-vigrel-signal-light.rules \
-    share/vigrel-receiver/autostart/vigrel-receiver.desktop share/metainfo/org.vigrel.receiver.metainfo.xml; do
+    share/vigrel-receiver/autostart/vigrel-receiver.desktop share/metainfo/org.vigrel.receiver.metainfo.xml \
+    share/vigrel-receiver/Templates/VigrelReceiver.046 share/doc/vigrel-receiver/operator/046.md \
+    share/doc/vigrel-receiver/operator/list.046.png share/bash-completion/completions/vigrel-send \
+    share/zsh/vendor-completions/_vigrel; do
     check "$file is there" [ -f "$root/usr/$file" ]
 done
 check "the service is not switched on" \

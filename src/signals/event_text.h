@@ -12,7 +12,7 @@
 
 namespace vigrel {
 
-// The template language in which popups and printed lines are written: section "Templates" of docs/manual.md
+// The template language in which popups and printed lines are written: section "Templates" of docs/installer.md
 // tells it to those who write templates.
 //
 // First the forms "{ACTIVE?text}" (signals/conditional_forms.h), then from left to right the tokens in square

@@ -23,7 +23,7 @@ using namespace vigrel::testing;
 
 std::string Manual() {
     std::string text;
-    for (const std::string& line : ReadPage("manual.md")) text += line + "\n";
+    for (const std::string& line : ReadPage("installer.md")) text += line + "\n";
     return text;
 }
 
@@ -32,7 +32,7 @@ std::vector<cLine> ExampleLines() {
     std::vector<cLine> lines;
     std::string section;
     bool inside = false;
-    for (const std::string& line : ReadPage("manual.md")) {
+    for (const std::string& line : ReadPage("installer.md")) {
         if (line.starts_with("```")) {
             inside = !inside;
             section.clear();
@@ -109,7 +109,7 @@ TEST_F(ManualPage, ItsConfigurationExamplesUseKeysOfTheirSections) {
 TEST_F(ManualPage, ItsTemplatesGiveTheResultsItSays) {
     int examples = 0;
     bool inside = false;
-    for (const std::string& line : ReadPage("manual.md")) {
+    for (const std::string& line : ReadPage("installer.md")) {
         if (line == "| template | result |") inside = true;
         if (line.empty()) inside = false;
         if (!inside || !line.starts_with("| `")) continue;

@@ -190,7 +190,7 @@ const cRow kModifiers[] = {
 };
 INSTANTIATE_TEST_SUITE_P(Modifiers, EventText, ::testing::ValuesIn(kModifiers), NameOf);
 
-// The examples of section "Templates" of docs/manual.md.
+// The examples of section "Templates" of docs/installer.md.
 TEST(EventText, ExpandsTheExamplesOfTheManual) {
     cEventTextStation station;
     station.files.Put("C:\\App\\Vigrel_Texts.046", "838=Active\r\n");
