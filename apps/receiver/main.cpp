@@ -31,6 +31,7 @@
 #include "common/settings.h"
 #include "core/first_start.h"
 #include "core/vigrel_receiver_main.h"
+#include "receiver_ui/dialogs/operator_page.h"
 #include "receiver_ui/dialogs/other_windows.h"
 #include "receiver_ui/main/main_window.h"
 #include "receiver_ui/popups/popup_widget.h"
@@ -121,6 +122,10 @@ int RunStation(cApplication& application, const std::string& commandLine) {
     const cQtSettingStore settingStore;
     cQtOtherWindows otherWindows(
         {files, clock, locale, screen, settingStore, windows, application, messageBox}, applicationPath);
+    mainWindow.OnHelp = [&] {
+        const std::string language = ini.GetIniString("General", "Language", "");
+        cOperatorPage::Show(FindOperatorPage(NativePath(hints.programFolder), language), mainWindow);
+    };
     otherWindows.OnLanguageChosen = [&] { firstStart.FollowChoice(); };
 
     cStreamStatus status(stderr, "vigrel-receiver");

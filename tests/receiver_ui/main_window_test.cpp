@@ -54,6 +54,14 @@ TEST_F(MainWindow, TheKeyThatAcknowledgesAllIsToldInTheMenuAndLeftToTheList) {
     EXPECT_EQ(entries, 0);
 }
 
+TEST_F(MainWindow, TheKeyForHelpWorksFromTheList) {
+    int helps = 0;
+    m_Window.OnHelp = [&] { ++helps; };
+    m_Window.show();
+    QTest::keyClick(m_Window.findChild<QTableView*>("ListView_Alarms"), Qt::Key_F1);
+    EXPECT_EQ(helps, 1);
+}
+
 TEST_F(MainWindow, ItsElementsCarryTheirNames) {
     EXPECT_EQ(m_Window.objectName(), "Vigrel_Receiver_Main");
     EXPECT_NE(m_Window.findChild<QTableView*>("ListView_Alarms"), nullptr);

@@ -114,6 +114,7 @@ void cMainWindow::Closed() {
 }
 
 void cMainWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_F1 && OnHelp) return OnHelp();
     // For window managers that leave the key to the window.
     const bool closes = event->key() == Qt::Key_F4 && event->modifiers() == Qt::AltModifier;
     if (!closes) return cWidgetWindow::keyPressEvent(event);

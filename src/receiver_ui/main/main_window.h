@@ -39,6 +39,9 @@ class cMainWindow : public cWidgetWindow<cWindow, QMainWindow>, public cMenus {
     void SetVisible(std::string_view entry, bool visible) override;
     using cWidgetWindow::SetCaption;
 
+    // The key for help, which has no entry.
+    std::function<void()> OnHelp;
+
   protected:
     void Closed() override;
     void keyPressEvent(QKeyEvent* event) override;
