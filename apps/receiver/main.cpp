@@ -47,12 +47,25 @@ constexpr const char* kProgramName = "vigrel-receiver";
 constexpr int kKeepAliveInterval = 10000;  // milliseconds
 constexpr int kPlayInterval = 500;         // milliseconds
 
-constexpr const char* kHelp =
-    "vigrel-receiver [/SWITCH]...\n\n"
-    "Starts the station. Its files stand in the folder that VIGREL_APPLICATION_PATH names, otherwise beside "
-    "the\n"
-    "program or in ~/.local/share/VigrelReceiver; a first start without a display takes the language of\n"
-    "VIGREL_LANGUAGE or of the locale. The switches are told by the manual page vigrel-receiver(1).\n";
+constexpr const char* kHelp = R"(vigrel-receiver [/SWITCH]...
+
+Starts the station.
+
+Switches, anywhere on the command line, in any case:
+  /TOPMOST    the main window stays above all others
+  /DEBUG      a window shows every byte that crosses the link
+  /MAXIMIZE   starts maximised
+  /MINIMIZE   starts minimised
+  /SIMULATE   shows the menu Simulate; its entry does nothing
+
+Environment:
+  VIGREL_APPLICATION_PATH   the folder of the station's files; without it the program's own folder, when that
+                            holds Templates or VigrelReceiver.INI and can be written, and else
+                            VigrelReceiver in XDG_DATA_HOME or ~/.local/share
+  VIGREL_LANGUAGE           the language of a first start, which then asks for none: three digits such as 046,
+                            or "locale"
+  QT_QPA_PLATFORM           "offscreen" runs the station without windows although there is a display
+)";
 
 // What stands behind the program's own name, as one text.
 std::string CommandLine(int argc, char** argv) {
@@ -162,8 +175,10 @@ int Run(int argc, char** argv) {
 
 void PrintHelp() {
     std::fputs(kHelp, stdout);
-    std::fputs("\nExit code:\n", stdout);
+    std::fputs("\nExit codes:\n", stdout);
     for (const auto& [code, meaning] : kExitCodes) std::printf("  %2d  %s\n", code, meaning);
+    std::fputs("\nMore is told by the manual page vigrel-receiver(1). --version prints the version.\n",
+               stdout);
 }
 
 }  // namespace
@@ -173,6 +188,10 @@ int main(int argc, char** argv) {
     if (argc == 2 && std::string_view(argv[1]) == "--help") {
         vigrel::PrintHelp();
         return vigrel::kExitInOrder;
+    }
+    if (argc == 2 && std::string_view(argv[1]) == "--version") {
+        std::puts("vigrel-receiver " VIGREL_VERSION);
+        return 0;
     }
     return vigrel::Run(argc, argv);
 }

@@ -115,7 +115,20 @@ TEST(FirstStart, WithoutAChoiceTheProgramEndsWithoutAWord) {
     EXPECT_TRUE(station.Log().empty());
 }
 
-TEST(FirstStart, HelpIsPrintedWithTheExitCodesAndNothingStarted) {
+TEST(FirstStart, HelpTellsSwitchesSurroundingsAndExitCodes) {
+    const testing::cResult help = testing::RunProgram("vigrel-receiver", {"--help"});
+    EXPECT_EQ(help.exitCode, 0);
+    for (const char* word :
+         {"/TOPMOST", "/DEBUG", "/MAXIMIZE", "/MINIMIZE", "/SIMULATE", "VIGREL_APPLICATION_PATH",
+          "VIGREL_LANGUAGE", "\n   0  ", "\n   1  ", "\n  69  ", "\n  70  ", "\n  71  "}) {
+        EXPECT_NE(help.output.find(word), std::string::npos) << word;
+    }
+    const testing::cResult version = testing::RunProgram("vigrel-receiver", {"--version"});
+    EXPECT_TRUE(version.output.starts_with("vigrel-receiver ")) << version.output;
+    EXPECT_EQ(version.exitCode, 0);
+}
+
+TEST(FirstStart, HelpIsPrintedAndNothingStarted) {
     cStation station;
     station.ExpectStandardError();
     station.Launch({"--help"});
