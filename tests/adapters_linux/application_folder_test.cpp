@@ -58,11 +58,15 @@ TEST_F(ApplicationFolder, AFreshFolderIsFilledFromTheInstallation) {
     Put(other, "Templates/VigrelReceiver.oni", "[General]");
     Put(other, "Vigrel_Texts.044", "0=English");
     Put(other, "Sounds/alarm.wav", "RIFF");
+    Put(other, "ReceiverTypes.txt", "1; SMS");
+    Put(other, "ReceiverType_SMS.INI", "[S1]");
     const std::string folder = data.Path().string() + "/deep/VigrelReceiver\\";
     FillApplicationFolder(files, folder, other.Path().string());
     EXPECT_EQ(files.ReadFile(folder + "Templates\\VigrelReceiver.oni"), "[General]");
     EXPECT_EQ(files.ReadFile(folder + "Vigrel_Texts.044"), "0=English");
     EXPECT_EQ(files.ReadFile(folder + "Sounds\\alarm.wav"), "RIFF");
+    EXPECT_EQ(files.ReadFile(folder + "ReceiverTypes.txt"), "1; SMS");
+    EXPECT_EQ(files.ReadFile(folder + "ReceiverType_SMS.INI"), "[S1]");
 }
 
 TEST_F(ApplicationFolder, TheFolderMayBeNamedInAnyScript) {

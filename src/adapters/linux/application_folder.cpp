@@ -79,8 +79,8 @@ void RequireReadableConfiguration(const cFiles& files, const std::string& applic
 struct cDelivered {
     std::string_view folder, mask;
 };
-constexpr std::array<cDelivered, 3> kDelivered{
-    {{"", "Vigrel_Texts.*"}, {"Templates\\", "*"}, {"Sounds\\", "*"}}};
+constexpr std::array<cDelivered, 4> kDelivered{
+    {{"", "Vigrel_Texts.*"}, {"", "ReceiverType*"}, {"Templates\\", "*"}, {"Sounds\\", "*"}}};
 
 }  // namespace
 
