@@ -12,6 +12,7 @@ Installs the Debian packages that are missing, then builds and tests:
   the code's format,
   everything with the preset dev, with windows, sound and printing against real counterparts,
   everything but those again with the address and undefined-behaviour sanitizers (preset asan),
+  what has threads (sound, printing, light) with the thread sanitizer (preset tsan),
   the logic alone, without the toolkit.
 With --lint, clang-tidy reads every source file, which takes five minutes more.
 HELP
@@ -54,6 +55,18 @@ echo "== asan"
 cmake --preset asan >/dev/null
 cmake --build --preset asan
 ctest --preset asan -LE 'x11|sound|cups' -j4
+
+echo "== tsan"
+cmake --preset tsan >/dev/null
+cmake --build --preset tsan
+rm -f build/tsan/race.*
+# Sound servers have their own pace here too. A report of the sanitizer counts whichever try it came in.
+failed=no
+ctest --preset tsan -j4 --repeat until-pass:3 || failed=yes
+for report in build/tsan/race.*; do
+    if [ -e "$report" ]; then cat "$report"; failed=yes; fi
+done
+[ $failed = no ]
 
 echo "== dev"
 # Window managers, sound servers and schedulers have their own pace, above all on a busy machine: a test gets a second

@@ -2,11 +2,28 @@
 
 add_library(vigrel_flags INTERFACE)
 target_compile_options(vigrel_flags INTERFACE
-  -Wall -Wextra -Wpedantic -Werror -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wconversion)
+  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wconversion
+  $<$<BOOL:${VIGREL_WERROR}>:-Werror>)
 target_include_directories(vigrel_flags INTERFACE ${PROJECT_SOURCE_DIR}/src)
+
+# An index or iterator out of range ends a program at once, in tests and at the station alike.
+add_compile_definitions(_GLIBCXX_ASSERTIONS)
+
 if(VIGREL_SANITIZE)
-  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
-  add_link_options(-fsanitize=address,undefined)
+  add_compile_options(-fsanitize=${VIGREL_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=${VIGREL_SANITIZE})
+endif()
+
+# What the distribution builds its own programs with, for builds that are delivered: sanitizers bring checks of their
+# own, and -D_FORTIFY_SOURCE asks for optimisation.
+set(VIGREL_HARDENED OFF)
+if(NOT CMAKE_BUILD_TYPE STREQUAL "Debug" AND NOT VIGREL_SANITIZE AND NOT VIGREL_FUZZ)
+  set(VIGREL_HARDENED ON)
+  include(CheckPIESupported)
+  check_pie_supported(LANGUAGES CXX)
+  set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+  add_compile_options(-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3 -fstack-protector-strong -fstack-clash-protection)
+  add_link_options(-Wl,-z,relro -Wl,-z,now)
 endif()
 
 if(VIGREL_FUZZ)

@@ -260,6 +260,19 @@ TEST_F(SchedulePage, ArrowKeysChooseRowsAndPeriods) {
     EXPECT_EQ(m_Page.Schedule().SelectedDayType(), 0);
 }
 
+TEST_F(SchedulePage, WithoutAnyDayTypeKeysHaveNoRowToChoose) {
+    Find<QCheckBox>(m_Page, "Check_TimeSchedule_UseCalendar").click();
+    auto& list = Find<QListWidget>(m_Page, "List_DayTypes");
+    for (int day = 0; day < 7; ++day) list.item(day)->setCheckState(Qt::Unchecked);
+    ASSERT_EQ(m_Page.Schedule().m_NumberOfAxisToPaint, 0);
+    for (const Qt::Key key :
+         {Qt::Key_Up, Qt::Key_Down, Qt::Key_Left, Qt::Key_Right, Qt::Key_Insert, Qt::Key_Delete}) {
+        Key(key);
+        EXPECT_EQ(m_Page.Schedule().SelectedDayType(), -1) << key;
+    }
+    EXPECT_EQ(m_Page.Schedule().m_NumberOfAxisToPaint, 0);
+}
+
 TEST_F(SchedulePage, InsertMakesAPeriodAndArrowsMoveItsEnds) {
     for (int i = 0; i < 6; ++i) Key(Qt::Key_Down);
     ASSERT_EQ(m_Page.Schedule().SelectedDayType(), 5);
