@@ -50,6 +50,7 @@ TEST(Text, IsUnicodeInFewPlacesOfTheLogic) {
         if (IsLogic(file)) logic.insert(file);
     }
     EXPECT_EQ(logic, (std::set<std::string>{"common/code_page.cpp", "common/code_page.h",
+                                            "common/path_text.cpp", "common/path_text.h",
                                             "common/printable.cpp", "schedule/public_holidays.cpp"}));
 }
 

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <chrono>
 #include <cstdlib>
 #include <random>
@@ -51,34 +52,29 @@ class cTcpClient {
         const ssize_t count = recv(m_Socket, buffer.data(), buffer.size(), 0);
         return {buffer.data(), static_cast<std::size_t>(std::max<ssize_t>(count, 0))};
     }
-    std::string ReadAll() const {
-        std::string all;
-        for (std::string some = ReadSome(); !some.empty(); some = ReadSome()) all += some;
-        return all;
-    }
 
   private:
     int m_Socket;
 };
 
-// Sends alarms as fast as the station takes them, and counts the answers.
+// Sends alarms as fast as the station takes them, and counts the answers as they come: what a connection
+// holds unread when it is reset is gone.
 class cFlood {
   public:
-    explicit cFlood(int port) : m_Client(port), m_Sender([this] { Send(); }) {}
+    explicit cFlood(int port) : m_Client(port), m_Reader([this] { Read(); }), m_Sender([this] { Send(); }) {}
     ~cFlood() { Finish(); }
     // The positive answers up to the end of the connection.
     std::size_t Finish() {
-        if (m_Sender.joinable()) {
-            m_Answers += m_Client.ReadAll();
-            m_Sender.join();
-        }
+        if (m_Sender.joinable()) m_Sender.join();
+        if (m_Reader.joinable()) m_Reader.join();
         std::size_t count = 0;
         for (std::size_t at = 0; (at = m_Answers.find(kPositiveReply, at)) != std::string::npos; ++at)
             ++count;
         return count;
     }
-    // Waits for the first answer.
-    void WaitUntilItRuns() { m_Answers += m_Client.ReadSome(); }
+    void WaitUntilItRuns() const {
+        while (!m_Runs) std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
 
   private:
     void Send() {
@@ -88,8 +84,18 @@ class cFlood {
         }
     }
 
+    void Read() {
+        for (std::string some = m_Client.ReadSome(); !some.empty(); some = m_Client.ReadSome()) {
+            m_Answers += some;
+            m_Runs = true;
+        }
+        m_Runs = true;
+    }
+
     cTcpClient m_Client;
     std::string m_Answers;
+    std::atomic<bool> m_Runs = false;
+    std::thread m_Reader;
     std::thread m_Sender;
 };
 

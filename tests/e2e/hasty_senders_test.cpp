@@ -44,13 +44,16 @@ class cSender {
     cSender(const cSender&) = delete;
     cSender& operator=(const cSender&) = delete;
     bool Connected() const { return m_Connected; }
-    void Send(const std::string& bytes) const {
+    // False when the connection ended before all was sent.
+    bool TrySend(const std::string& bytes) const {
         for (std::size_t sent = 0; sent < bytes.size();) {
             const ssize_t count = send(m_Socket, bytes.data() + sent, bytes.size() - sent, MSG_NOSIGNAL);
-            ASSERT_GT(count, 0);
+            if (count <= 0) return false;
             sent += static_cast<std::size_t>(count);
         }
+        return true;
     }
+    void Send(const std::string& bytes) const { ASSERT_TRUE(TrySend(bytes)); }
     void EndSending() const { shutdown(m_Socket, SHUT_WR); }
     void Leave() {
         if (m_Socket >= 0) close(m_Socket);
@@ -155,13 +158,17 @@ TEST_F(HastySenders, AStormOfConnectionsKeepsNoAlarmFromTheDisk) {
             std::this_thread::sleep_for(std::chrono::microseconds(300));
         }
     });
-    for (int i = 0; i < 100; ++i) {
-        cSender sender(station.m_Port);
-        sender.Send(Burst(1));
-        sender.Leave();
-        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    // A connection may be replaced before its frame has come, and is then without a reply: the sender tries
+    // again.
+    std::size_t answered = 0;
+    for (int i = 0; i < 3000 && answered < 50; ++i) {
+        const cSender sender(station.m_Port);
+        if (!sender.TrySend(Burst(1))) continue;
+        sender.EndSending();
+        if (sender.ReadToTheEnd() == std::string(kPositive) + std::string(kReplyEnd)) ++answered;
     }
-    EXPECT_EQ(StoredAlarms(station, 100), 100u);
+    EXPECT_EQ(answered, 50u);
+    EXPECT_GE(StoredAlarms(station, answered), answered);
     over = true;
     storm.join();
     EXPECT_EQ(station.Send({"--t0", "after"}).exitCode, 0);

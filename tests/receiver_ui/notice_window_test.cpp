@@ -9,7 +9,9 @@
 #include "support/fake_clock.h"
 #include "support/fake_files.h"
 #include "support/fake_locale.h"
+#include "support/fake_windows.h"
 #include "support/markup.h"
+#include "windows/application.h"
 #include "windows/desktop.h"
 
 namespace vigrel::testing {
@@ -36,7 +38,10 @@ class NoticeWindow : public ::testing::Test {
     const cQtScreen m_Screen;
     const cNoSettings m_Settings;
     cOpenWindows m_Windows;
-    cQtOtherWindows m_Others{{m_Files, m_Clock, m_Locale, m_Screen, m_Settings, m_Windows}, "C:\\App\\"};
+    cFakeMessageBox m_Box{nullptr};
+    cQtOtherWindows m_Others{{m_Files, m_Clock, m_Locale, m_Screen, m_Settings, m_Windows,
+                              dynamic_cast<cApplication&>(*qApp), m_Box},
+                             "C:\\App\\"};
 };
 
 TEST_F(NoticeWindow, ShowsItsTextAboveTheOthersWithoutTheKeyboard) {

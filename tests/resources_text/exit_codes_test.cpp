@@ -28,7 +28,7 @@ bool HasLine(const std::string& page, const std::string& line) {
 
 TEST(ExitCodes, TheManualTellsEachAndItsMeaning) {
     for (const auto& [code, meaning] : kExitCodes) {
-        EXPECT_TRUE(HasLine("manual.md", "| " + std::to_string(code) + " | " + meaning + " |")) << code;
+        EXPECT_TRUE(HasLine("installer.md", "| " + std::to_string(code) + " | " + meaning + " |")) << code;
     }
 }
 

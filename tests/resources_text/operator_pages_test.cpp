@@ -58,7 +58,7 @@ TEST_P(OperatorPage, UsesTheCaptionsOfTheMenu) {
 
 TEST_P(OperatorPage, UsesTheNamesOfStatesColumnsAndTheCategoryOfLostSenders) {
     for (const int id : {837, 838, 839}) EXPECT_TRUE(Names(Caption(id))) << Caption(id);
-    for (const std::string column : {"DateTime", "StateText", "t2", "t0", "t1", "t4", "Observed"}) {
+    for (const char* column : {"DateTime", "StateText", "t2", "t0", "t1", "t4", "Observed"}) {
         const std::string caption = CodePageToUtf8(m_Ini.GetIniString(column, "ColumnText", ""));
         EXPECT_TRUE(Names("| " + caption) || Names(", " + caption)) << caption;
     }
@@ -66,7 +66,7 @@ TEST_P(OperatorPage, UsesTheNamesOfStatesColumnsAndTheCategoryOfLostSenders) {
 }
 
 TEST_P(OperatorPage, HasItsPictures) {
-    for (const std::string picture : {"list." + Language() + ".png", "popup." + Language() + ".png"}) {
+    for (const std::string& picture : {"list." + Language() + ".png", "popup." + Language() + ".png"}) {
         EXPECT_TRUE(Names("](" + picture + ")")) << picture;
         EXPECT_TRUE(std::filesystem::exists(std::string(VIGREL_DOCS_DIR) + "/operator/" + picture))
             << picture;

@@ -34,7 +34,10 @@ QDialog* MakeWindow(const std::string& path, QWidget& mainWindow) {
 
 std::string FindOperatorPage(const std::string& programFolder, const std::string& language) {
     const fs::path program = programFolder;
-    for (const std::string& wanted : {language, std::string("044")}) {
+    const bool isNumber =
+        std::all_of(language.begin(), language.end(), [](char c) { return c >= '0' && c <= '9'; });
+    // What the configuration holds names no other file.
+    for (const std::string& wanted : {isNumber ? language : std::string(), std::string("044")}) {
         for (const fs::path& folder :
              {program.parent_path() / "share/doc/vigrel-receiver/operator", program / "docs/operator"}) {
             std::error_code error;
