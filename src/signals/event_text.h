@@ -12,8 +12,8 @@
 
 namespace vigrel {
 
-// The template language in which popups and printed lines are written: section "Templates" of docs/installer.md
-// tells it to those who write templates.
+// The template language in which popups and printed lines are written: section "Templates" of
+// docs/installer.md tells it to those who write templates.
 //
 // First the forms "{ACTIVE?text}" (signals/conditional_forms.h), then from left to right the tokens in square
 // brackets: the fields ALARMDATE, ALARMTIME, DATE, TIME, STATUS, STATUS$, OBJECT, ALARMID, SENDER, EXTRATEXT,

@@ -111,7 +111,8 @@ std::string ActiveReport(const cNamedContent& file, const std::optional<cNamedCo
     const int change = day.NextChange(minute);
     std::string text = PrintablePath(file.name + (in.name.empty() ? "" : " (" + in.name + ")")) + "\n";
     text += "When: " + DateTimeText(moment).substr(0, 16) + ", " + NameOfDayType(weekDay) + "\n";
-    text += "Day type: " + NameOfDayType(day.dayType) + ", " + PrintablePath(ReasonText(day, calendar)) + "\n";
+    text +=
+        "Day type: " + NameOfDayType(day.dayType) + ", " + PrintablePath(ReasonText(day, calendar)) + "\n";
     text += GroupText(day);
     text += "Periods: " + PeriodsText(day) + "\n";
     text += std::string("Active: ") + (active ? "yes" : "no") + ", until " + TimeText(change) +
