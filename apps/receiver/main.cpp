@@ -46,6 +46,7 @@ namespace {
 constexpr const char* kProgramName = "vigrel-receiver";
 constexpr int kKeepAliveInterval = 10000;  // milliseconds
 constexpr int kPlayInterval = 500;         // milliseconds
+constexpr int kSaveInterval = 10;          // milliseconds, while many files are written
 
 constexpr const char* kHelp = R"(vigrel-receiver [/SWITCH]...
 
@@ -88,6 +89,7 @@ int RunStation(cApplication& application, const std::string& commandLine) {
     const cFolderHints hints = ReadFolderHints();
     const std::string applicationPath = FindApplicationFolder(hints);
     cLinuxFiles files;
+    cLinuxFiles ownFiles(cLinuxFiles::eNames::Exact);
     const bool isNew =
         FillApplicationFolder(files, applicationPath, FindInstalledFolder(hints.programFolder));
 
@@ -103,6 +105,7 @@ int RunStation(cApplication& application, const std::string& commandLine) {
     cQtDataSocket winsockData(winsockConnect);
     cQtTimer timerKeepAlive(kKeepAliveInterval);
     cQtTimer timerPlay(kPlayInterval);
+    cQtTimer timerSave(kSaveInterval, false);
     cOpenWindows windows;
     cMainWindow mainWindow(windows);
     cPopupWidgetMaker popups(windows);
@@ -143,11 +146,11 @@ int RunStation(cApplication& application, const std::string& commandLine) {
 
     cStreamStatus status(stderr, "vigrel-receiver");
     cVigrelReceiverMain receiver(
-        {files,          clock,       random,         locale,       singleInstance,
-         winsockConnect, winsockData, timerKeepAlive, timerPlay,    mainWindow.List(),
-         mainWindow,     mainWindow,  screen,         windows,      popups,
-         messageBox,     clipboard,   beeper,         waveDevice,   trayArea,
-         signalLight,    runningApps, printerPorts,   otherWindows, status},
+        {files,          ownFiles,     clock,          random,    locale,      singleInstance,
+         winsockConnect, winsockData,  timerKeepAlive, timerPlay, timerSave,   mainWindow.List(),
+         mainWindow,     mainWindow,   screen,         windows,   popups,      messageBox,
+         clipboard,      beeper,       waveDevice,     trayArea,  signalLight, runningApps,
+         printerPorts,   otherWindows, status},
         applicationPath, commandLine);
     cStopSignals stopSignals;
     stopSignals.OnStop = [&](eCloseReason reason) { receiver.Stop(reason); };

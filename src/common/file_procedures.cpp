@@ -9,10 +9,6 @@
 namespace vigrel {
 namespace {
 
-std::string TemporaryName(std::string_view path) {
-    return std::string(path) + std::string(kTemporaryMask.substr(1));
-}
-
 // What prepare does to the temporary stays with the file.
 void Replace(cFiles& files, std::string_view path, std::string_view bytes,
              const std::function<void(const std::string& temporary)>& prepare) {
@@ -27,6 +23,10 @@ void Replace(cFiles& files, std::string_view path, std::string_view bytes,
 }
 
 }  // namespace
+
+std::string TemporaryName(std::string_view path) {
+    return std::string(path) + std::string(kTemporaryMask.substr(1));
+}
 
 cPathParts SplitPath(std::string_view path) {
     const std::size_t separator = path.find_last_of("\\/");
@@ -83,29 +83,6 @@ void ReplaceFile(cFiles& files, std::string_view path, std::string_view bytes) {
 
 void ReplaceOwnFile(cFiles& files, std::string_view path, std::string_view bytes) {
     Replace(files, path, bytes, [](const std::string&) {});
-}
-
-bool cReplaceBatch::Add(std::string_view path, std::string_view bytes) {
-    const std::string temporary = TemporaryName(path);
-    if (SkipFailure([&] { m_Files.WriteFile(temporary, bytes, false); })) {
-        m_Paths.emplace(path);
-        return true;
-    }
-    SkipFailure([&] { m_Files.RemoveFile(temporary); });
-    m_Paths.erase(std::string(path));
-    return false;
-}
-
-bool cReplaceBatch::Commit() {
-    // No name may come to stand for bytes that the disk doesn't have yet.
-    bool done = SkipFailure([&] { m_Files.SyncFileSystem(m_Folder); });
-    for (const std::string& path : m_Paths) {
-        const std::string temporary = TemporaryName(path);
-        if (done && SkipFailure([&] { m_Files.RenameFile(temporary, path); })) continue;
-        SkipFailure([&] { m_Files.RemoveFile(temporary); });
-        done = false;
-    }
-    return SkipFailure([&] { m_Files.SyncFolder(m_Folder); }) && done;
 }
 
 void RemoveTemporaries(cFiles& files, std::string_view folder) {

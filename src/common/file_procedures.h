@@ -1,9 +1,7 @@
 #pragma once
 
-#include <set>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "platform/files.h"
@@ -56,22 +54,8 @@ void ReplaceFile(cFiles& files, std::string_view path, std::string_view bytes);
 // for.
 void ReplaceOwnFile(cFiles& files, std::string_view path, std::string_view bytes);
 
-// Replaces many files of one folder with a single wait for the disk in place of two for each. The same holds
-// for each file as with ReplaceFile, and for all of them once Commit has returned.
-class cReplaceBatch {
-  public:
-    cReplaceBatch(cFiles& files, std::string folder) : m_Files(files), m_Folder(std::move(folder)) {}
-    // Writes the temporary; false when that failed. The last content counts of a path that is added again.
-    bool Add(std::string_view path, std::string_view bytes);
-    // False when any of the files could not be replaced.
-    bool Commit();
-
-  private:
-    cFiles& m_Files;
-    std::string m_Folder;
-    std::set<std::string> m_Paths;
-};
-
+// The temporary beside a file.
+std::string TemporaryName(std::string_view path);
 // The mask of temporaries that a crash can have left in a folder; no mask that the system reads matches them.
 inline constexpr std::string_view kTemporaryMask = "*.$~";
 // Removes them. Failures are skipped.

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "common/code_page.h"
 #include "common/failure.h"
 #include "common/file_procedures.h"
 #include "common/numbers.h"
@@ -12,10 +11,10 @@
 namespace vigrel {
 namespace {
 
-std::string TrimSpace(std::string_view text) {
+std::string_view TrimSpace(std::string_view text) {
     const std::size_t first = text.find_first_not_of(" \t");
     if (first == std::string_view::npos) return {};
-    return std::string(text.substr(first, text.find_last_not_of(" \t") - first + 1));
+    return text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }
 
 // Where a key of a section stands or would have to be put, by line index.
@@ -71,44 +70,49 @@ std::string WithKey(std::string content, std::string_view section, std::string_v
 }  // namespace
 
 std::optional<std::string> IniHeaderName(std::string_view line) {
-    const std::string trimmed = TrimSpace(line);
+    const std::string_view trimmed = TrimSpace(line);
     const std::size_t close = trimmed.find(']');
-    if (trimmed.empty() || trimmed[0] != '[' || close == std::string::npos) return std::nullopt;
-    return TrimSpace(std::string_view(trimmed).substr(1, close - 1));
+    if (trimmed.empty() || trimmed[0] != '[' || close == std::string_view::npos) return std::nullopt;
+    return std::string(TrimSpace(trimmed.substr(1, close - 1)));
 }
 
 std::optional<cIniKeyLine> ReadIniKeyLine(std::string_view line) {
-    const std::string trimmed = TrimSpace(line);
+    const std::string_view trimmed = TrimSpace(line);
     if (trimmed.empty() || trimmed[0] == ';') return std::nullopt;
     const std::size_t equals = trimmed.find('=');
-    if (equals == std::string::npos) return std::nullopt;
-    std::string value = TrimSpace(std::string_view(trimmed).substr(equals + 1));
+    if (equals == std::string_view::npos) return std::nullopt;
+    std::string_view value = TrimSpace(trimmed.substr(equals + 1));
     if (value.size() >= 2 && (value[0] == '"' || value[0] == '\'') && value.back() == value[0]) {
         value = value.substr(1, value.size() - 2);
     }
-    return cIniKeyLine{TrimSpace(std::string_view(trimmed).substr(0, equals)), std::move(value)};
+    return cIniKeyLine{std::string(TrimSpace(trimmed.substr(0, equals))), std::string(value)};
 }
 
 cIni::cIni(cFiles& files, std::string applicationPath)
     : m_Files(files), m_ApplicationPath(std::move(applicationPath)) {}
 
 const cIni::cParsed& cIni::Parsed(std::string_view fileName) const {
+    auto cached = m_Cache.find(fileName);
+    if (cached == m_Cache.end()) cached = m_Cache.try_emplace(std::string(fileName)).first;
+    cParsed& parsed = cached->second;
+    if (m_Moments > 0 && parsed.moment == m_Moment) return parsed;
     const std::string path = FullPath(fileName);
     const auto stamp = m_Files.Stamp(path);
-    cParsed& parsed = m_Cache[ToUpper(fileName)];
-    if (parsed.stamp == stamp) return parsed;
-    parsed = {stamp, {}};
+    parsed.moment = m_Moment;
+    if (parsed.stamp.StillHolds(stamp)) return parsed;
+    parsed.stamp = stamp;
+    parsed.sections.clear();
     std::string content;
     // What can't be read now may be readable at the next look without having changed.
-    if (!SkipFailure([&] { content = m_Files.ReadFile(path); })) parsed.stamp = {};
-    auto* section = static_cast<std::map<std::string, std::string, std::less<>>*>(nullptr);
+    if (!SkipFailure([&] { content = m_Files.ReadFile(path); })) parsed.stamp.settled = false;
+    cKeys* section = nullptr;
     for (const std::string& line : SplitLines(content)) {
         if (const auto header = IniHeaderName(line)) {
-            const auto added = parsed.sections.try_emplace(ToUpper(*header));
+            const auto added = parsed.sections.try_emplace(*header);
             section = added.second ? &added.first->second : nullptr;
         } else if (section != nullptr) {
             if (auto entry = ReadIniKeyLine(line))
-                section->try_emplace(ToUpper(entry->key), std::move(entry->value));
+                section->try_emplace(std::move(entry->key), std::move(entry->value));
         }
     }
     return parsed;
@@ -118,9 +122,8 @@ std::string cIni::GetIniString(std::string_view section, std::string_view key, s
                                std::string_view fileName) const {
     const cParsed& parsed = Parsed(fileName);
     std::string_view value = defaultValue;
-    if (const auto found = parsed.sections.find(ToUpper(TrimSpace(section)));
-        found != parsed.sections.end()) {
-        const auto entry = found->second.find(ToUpper(TrimSpace(key)));
+    if (const auto found = parsed.sections.find(TrimSpace(section)); found != parsed.sections.end()) {
+        const auto entry = found->second.find(TrimSpace(key));
         if (entry != found->second.end()) value = entry->second;
     }
     return std::string(value.substr(0, kMostValueCharacters));
@@ -137,7 +140,7 @@ void cIni::PutIniString(std::string_view section, std::string_view key, std::str
     const std::string entry = std::string(key) + "=" + std::string(value);
     SkipFailure([&] { ReplaceFile(m_Files, path, WithKey(std::move(content), section, key, entry)); });
     // A file system may stamp two contents written in quick succession alike.
-    m_Cache.erase(ToUpper(fileName));
+    if (const auto cached = m_Cache.find(fileName); cached != m_Cache.end()) m_Cache.erase(cached);
 }
 
 template <class Integer>

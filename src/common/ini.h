@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "common/text.h"
 #include "platform/files.h"
 
 namespace vigrel {
@@ -32,7 +33,7 @@ std::optional<cIniKeyLine> ReadIniKeyLine(std::string_view line);
 // Sections and keys match without regard to case; of a repeated section or key only the first counts. A value
 // is what stands behind the first "=" without the blanks around it and without one pair of enclosing quotes.
 // Lines whose first non-blank is ";" are comments. Every read sees the file as it is now; an unchanged file
-// is not read again.
+// is not read again, and within one cIniMoment it is looked at once.
 class cIni {
   public:
     // m_ApplicationPath ends in a backslash.
@@ -62,16 +63,35 @@ class cIni {
     template <class Integer>
     Integer Number(std::string_view section, std::string_view key, std::string_view text,
                    Integer (*convert)(double)) const;
+    friend class cIniMoment;
+    using cKeys = std::map<std::string, std::string, cLessNoCase>;
     struct cParsed {
-        cFileReader::cStamp stamp;
-        // Upper-cased section, then upper-cased key.
-        std::map<std::string, std::map<std::string, std::string, std::less<>>, std::less<>> sections;
+        cFileReader::cStamp stamp{.settled = false};
+        std::uint64_t moment = 0;  // in which it was looked at last
+        std::map<std::string, cKeys, cLessNoCase> sections;
     };
     const cParsed& Parsed(std::string_view fileName) const;
 
     cFiles& m_Files;
     std::string m_ApplicationPath;
-    mutable std::map<std::string, cParsed, std::less<>> m_Cache;
+    mutable std::map<std::string, cParsed, cLessNoCase> m_Cache;
+    mutable int m_Moments = 0;           // how many are open, one within the other
+    mutable std::uint64_t m_Moment = 0;  // the number of the outermost one
+};
+
+// One moment in the life of the system, such as the arrival of an alarm: while it lasts, all keys come from
+// the files as they were when the first of them was read. The next moment sees an edit.
+class cIniMoment {
+  public:
+    explicit cIniMoment(const cIni& ini) : m_Ini(ini) {
+        if (m_Ini.m_Moments++ == 0) ++m_Ini.m_Moment;
+    }
+    ~cIniMoment() { --m_Ini.m_Moments; }
+    cIniMoment(const cIniMoment&) = delete;
+    cIniMoment& operator=(const cIniMoment&) = delete;
+
+  private:
+    const cIni& m_Ini;
 };
 
 // Reads section names (an empty section), or the lines of one section, from a file into the caller's buffer,

@@ -25,6 +25,13 @@ std::optional<char> CharacterOf(std::string_view bytes) {
     return text[0];
 }
 
+// How many bytes at the front stand for themselves: nearly always all, and folders can have many names.
+std::size_t PlainLength(std::string_view bytes) {
+    const auto special = std::find_if(bytes.begin(), bytes.end(),
+                                      [](char byte) { return byte < ' ' || byte > '~' || byte == '\\'; });
+    return static_cast<std::size_t>(special - bytes.begin());
+}
+
 void AppendEscaped(std::string& path, char byte) {
     path += {kPathEscape, kDigits[Code(byte) >> 4], kDigits[Code(byte) & 15]};
 }
@@ -44,7 +51,11 @@ std::optional<char> EscapedByte(std::string_view text) {
 
 std::string PathText(std::string_view bytes) {
     std::string path;
-    while (!bytes.empty()) {
+    while (true) {
+        const std::size_t plain = PlainLength(bytes);
+        path += bytes.substr(0, plain);
+        bytes.remove_prefix(plain);
+        if (bytes.empty()) break;
         const std::size_t length = CharacterLength(bytes);
         const auto character = CharacterOf(bytes.substr(0, length));
         if (character) {

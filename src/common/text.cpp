@@ -34,6 +34,11 @@ bool EqualsNoCase(std::string_view a, std::string_view b) {
                       [](char x, char y) { return ToUpper(x) == ToUpper(y); });
 }
 
+bool cLessNoCase::operator()(std::string_view a, std::string_view b) const {
+    return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
+                                        [](char x, char y) { return ToUpper(x) < ToUpper(y); });
+}
+
 std::size_t FindNoCase(std::string_view text, std::string_view find) {
     const auto found = std::search(text.begin(), text.end(), find.begin(), find.end(),
                                    [](char x, char y) { return ToUpper(x) == ToUpper(y); });

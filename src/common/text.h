@@ -12,6 +12,11 @@ namespace vigrel {
 // Without the blanks (character 32) at its beginning and end.
 std::string Trim(std::string_view text);
 bool EqualsNoCase(std::string_view a, std::string_view b);
+// An order of texts in which case plays no part, for containers.
+struct cLessNoCase {
+    using is_transparent = void;
+    bool operator()(std::string_view a, std::string_view b) const;
+};
 // Position of the first occurrence, 0 for none.
 std::size_t FindNoCase(std::string_view text, std::string_view find);
 // Up to length characters from a position; empty behind the end.

@@ -12,6 +12,7 @@ void cVigrelReceiverMain::ConnectEvents() {
     };
     m_Ports.timerKeepAlive.OnTick = [this] { Timer_KeepAlive_Tick(); };
     m_Ports.timerPlay.OnTick = [this] { Timer_Play_Tick(); };
+    m_Ports.timerSave.OnTick = [this] { m_Store.Timer_Save_Tick(); };
     m_Ports.trayArea.OnHostGone = [this] { ShowWithoutTray(); };
     cWindow& window = m_Ports.mainWindow;
     window.OnActivate = [this] { Form_Activate(); };
@@ -55,6 +56,7 @@ template <class Visit>
 void cVigrelReceiverMain::ForEachEvent(Visit visit) {
     visit(m_Ports.timerKeepAlive.OnTick);
     visit(m_Ports.timerPlay.OnTick);
+    visit(m_Ports.timerSave.OnTick);
     visit(m_Ports.winsockConnect.OnConnectionRequest);
     visit(m_Ports.winsockData.OnDataArrival);
     visit(m_Ports.winsockData.OnClosed);
@@ -125,6 +127,7 @@ void cVigrelReceiverMain::Stop(eCloseReason reason) {
 
 void cVigrelReceiverMain::DisplayIsLost() {
     End();
+    m_Store.FinishSaves();
     m_Log.WriteLog("The display is gone: the program ends");
 }
 

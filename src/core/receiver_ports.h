@@ -50,6 +50,7 @@ class cOtherWindows {
 // Everything that the receiver needs of the machine. What is referred to outlives the receiver.
 struct cReceiverPorts {
     cFiles& files;
+    cFiles& ownFiles;  // the same, of exact names
     const cClock& clock;
     cRandom& random;
     const cLocale& locale;
@@ -58,6 +59,7 @@ struct cReceiverPorts {
     cDataSocket& winsockData;
     cTimer& timerKeepAlive;
     cTimer& timerPlay;
+    cTimer& timerSave;
     cReportList& list;
     cWindow& mainWindow;
     cMenus& menus;

@@ -46,7 +46,7 @@ eStartUp cVigrelReceiverMain::LoadInOrder() {
     m_Senders.ReadSenders();
     m_Log.CleanLogFiles(kLogMask, m_Settings.m_KeepForDays);
     m_View.SetSortOrder();
-    m_Store.LoadAlarms([this](const AlarmPtr& alarm) { m_View.AddAlarmRow(alarm); });
+    LoadAlarms();
     m_Senders.LogSenders();
     if (!OpenPort()) return eStartUp::PortTaken;
     m_LastWindowState = m_Ports.mainWindow.State();
@@ -137,6 +137,11 @@ void cVigrelReceiverMain::PlaceWindow() {
 void cVigrelReceiverMain::ShowAbout() {
     m_SplashShown = true;
     m_Ports.otherWindows.ShowAboutBox(m_Texts);
+}
+
+void cVigrelReceiverMain::LoadAlarms() {
+    const cIniMoment moment(m_Ini);
+    m_Store.LoadAlarms([this](const AlarmPtr& alarm) { m_View.AddAlarmRow(alarm); });
 }
 
 bool cVigrelReceiverMain::OpenPort() {

@@ -25,7 +25,8 @@ cVigrelReceiverMain::cVigrelReceiverMain(const cReceiverPorts& ports, std::strin
       m_Log(ports.files, ports.clock, m_Texts, m_ApplicationPath),
       m_View({ports.list, m_Ini, m_Texts, m_Settings, m_State, m_Categories, m_Forms, ports.screen,
               ports.clipboard}),
-      m_Store({ports.files, ports.clock, ports.random, ports.list, m_Log, m_Texts, m_Settings, m_State},
+      m_Store({ports.files, ports.ownFiles, ports.clock, ports.random, ports.list, m_Log, m_Texts, m_Settings,
+               m_State, ports.timerSave},
               m_ApplicationPath),
       m_Acknowledgement({m_Store, m_View, ports.list, m_Log, m_Texts, m_Settings, m_State}),
       m_EventText(m_Settings, m_Texts, m_Ini, m_Forms),
@@ -51,9 +52,9 @@ cVigrelReceiverMain::cVigrelReceiverMain(const cReceiverPorts& ports, std::strin
                  [this](const cVigrelRecieverAlarm& alarm) { return PrintEvent(alarm); },
                  [this](const cVigrelRecieverAlarm& alarm) { m_Light.SignalUsbLight(alarm); }}}),
       m_Senders({ports.files, ports.clock, m_Ini, m_Texts, m_Log, m_Settings, m_Forms, ports.messageBox,
-                 [this](const AlarmPtr& alarm) { m_Intake.ProcessAlarm(alarm); }}),
+                 [this](const AlarmPtr& alarm) { ProcessAlarm(alarm); }}),
       m_Decoder({ports.clock, m_Log, m_Texts, m_Senders,
-                 [this](const AlarmPtr& alarm) { m_Intake.ProcessAlarm(alarm); },
+                 [this](const AlarmPtr& alarm) { ProcessAlarm(alarm); },
                  [this](std::string_view reply) { m_Link.SendReply(reply); }}),
       m_Link(ports.winsockConnect, ports.winsockData, m_State),
       m_UnsavedNotice(
@@ -65,6 +66,11 @@ void cVigrelReceiverMain::ListKeyDown(int keyCode, int shift) {
     if (keyCode == kKeyEscape) m_Ports.list.ClearSelection();
     if (keyCode == kKeyF9) Menu_AckAll();
     m_View.HandleListShortcut(keyCode, shift);
+}
+
+void cVigrelReceiverMain::ProcessAlarm(const AlarmPtr& alarm) {
+    const cIniMoment moment(m_Ini);
+    m_Intake.ProcessAlarm(alarm);
 }
 
 bool cVigrelReceiverMain::PrintEvent(const cVigrelRecieverAlarm& alarm) {
@@ -171,6 +177,7 @@ void cVigrelReceiverMain::Form_Unload() {
     m_Ports.runningApps.SetRunningApps(kApplication, 0);
     m_Light.Menu_StopLight();
     if (m_State.m_PopupFormCount > 0) m_Popups.ClosePopups();
+    m_Store.FinishSaves();
 }
 
 }  // namespace vigrel

@@ -109,12 +109,14 @@ class cVigrelReceiverMain {
     void ApplyWindowSwitches();
     void PlaceWindow();
     void ShowAbout();
+    void LoadAlarms();
     bool OpenPort();
 
     void Timer_KeepAlive_Tick();
     void Timer_Play_Tick();
     void DailyHousekeeping();
     void ListKeyDown(int keyCode, int shift);
+    void ProcessAlarm(const AlarmPtr& alarm);
     bool PrintEvent(const cVigrelRecieverAlarm& alarm);
     void HideWhenMinimised();
     void ShowWithoutTray();

@@ -46,6 +46,10 @@ void cAlarmListView::SetUpColumns(cSettings& settings) {
     const int hidden = m_Services.list.AddColumn(kHiddenColumn, 0);
     m_Services.list.SetColumnTag(hidden, kHiddenColumn);
     m_Services.list.SetColumnWidth(hidden, 0);
+    m_Services.list.OnItem = [this](const RecordTag& tag, int column) {
+        const auto* alarm = static_cast<const cVigrelRecieverAlarm*>(tag.get());
+        return alarm == nullptr ? cReportItem{} : Item(*alarm, column);
+    };
 }
 
 void cAlarmListView::AddColumn(const std::string& keyword) {
@@ -66,6 +70,7 @@ void cAlarmListView::AddColumn(const std::string& keyword) {
                                                   " columns; the first too many is \"" + keyword + "\"");
     }
     m_ColumnMap[position] = KindOf(keyword);
+    m_ShowsCategory = m_ShowsCategory || m_ColumnMap[position] == eColumnKind::t2;
 }
 
 void cAlarmListView::SetSortOrder() {
@@ -75,11 +80,7 @@ void cAlarmListView::SetSortOrder() {
 
 void cAlarmListView::AddAlarmRow(const AlarmPtr& alarm) {
     alarm->m_CategorySpecificSetting = &m_Services.categories.Find(alarm->m_Alarm.GetCondition(2));
-    const RecordId record = m_Services.list.AddRecord(alarm);
-    const int columns = m_Services.list.ColumnCount();
-    for (int i = 0; i < columns; ++i) m_Services.list.AddItem(record);
-    m_Services.list.SetItemValue(record, columns - 1, alarm->m_CreatedTime);
-    alarm->m_Record = record;
+    alarm->m_Record = m_Services.list.AddRecord(alarm);
     UpdateAlarmRow(*alarm);
     m_Services.state.m_ListChanged = true;
 }
@@ -119,8 +120,8 @@ std::string cAlarmListView::CellText(const cVigrelRecieverAlarm& alarm, eColumnK
         case eColumnKind::DateAndTime:
             return DateAndTime(alarm.m_CreatedTime);
         case eColumnKind::t2:
-            return m_Services.ini.GetIniString("CategoryTranslations", event.GetCondition(2),
-                                               event.GetCondition(2));
+            if (alarm.m_CategoryText != nullptr) return *alarm.m_CategoryText;
+            return event.GetCondition(2).substr(0, kMostValueCharacters);
         case eColumnKind::ExtraText:
             return alarm.m_CategorySpecificSetting->m_ExtraText;
         case eColumnKind::Observed:
@@ -130,35 +131,45 @@ std::string cAlarmListView::CellText(const cVigrelRecieverAlarm& alarm, eColumnK
     }
 }
 
-void cAlarmListView::SetCellIcon(const cVigrelRecieverAlarm& alarm, int column, eColumnKind kind) {
+int cAlarmListView::CellIcon(const cVigrelRecieverAlarm& alarm, eColumnKind kind) const {
     const bool observed = alarm.m_Observed != False16;
-    if (kind == eColumnKind::StateIcon) {
-        m_Services.list.SetItemIcon(
-            alarm.m_Record, column,
-            alarm.m_CategorySpecificSetting->GetIcon(alarm.m_Alarm.m_Status, observed));
-    } else if (kind == eColumnKind::Observed) {
-        m_Services.list.SetItemIcon(alarm.m_Record, column, observed ? kIconObserved : kIconNotObserved);
-    }
+    if (kind == eColumnKind::Observed) return observed ? kIconObserved : kIconNotObserved;
+    if (kind != eColumnKind::StateIcon) return -1;
+    return alarm.m_CategorySpecificSetting->GetIcon(alarm.m_Alarm.m_Status, observed);
 }
 
-void cAlarmListView::UpdateAlarmRow(const cVigrelRecieverAlarm& alarm) {
-    cReportList& list = m_Services.list;
-    const int visible = list.ColumnCount() - 1;
-    for (int column = 0; column < visible; ++column) {
-        const eColumnKind kind = m_ColumnMap[static_cast<std::size_t>(column)];
-        std::string text;
-        SkipFailure([&] { text = CellText(alarm, kind); });
-        SkipFailure([&] { SetCellIcon(alarm, column, kind); });
-        SkipFailure([&] { list.SetItemValue(alarm.m_Record, column, text); });
-        // The first column is meant for the icon: it keeps the list's own colours and shows no text.
-        if (column == 0) continue;
-        SkipFailure([&] {
-            list.SetItemColours(alarm.m_Record, column,
-                                alarm.m_CategorySpecificSetting->GetForeColor(alarm.m_Alarm.m_Status),
-                                alarm.m_CategorySpecificSetting->GetBackColor(alarm.m_Alarm.m_Status));
-        });
-        SkipFailure([&] { list.SetItemCaption(alarm.m_Record, column, text); });
+cReportItem cAlarmListView::Item(const cVigrelRecieverAlarm& alarm, int column) const {
+    cReportItem item;
+    if (column >= m_Services.list.ColumnCount() - 1) {
+        item.value = alarm.m_CreatedTime;
+        return item;
     }
+    const eColumnKind kind = m_ColumnMap[static_cast<std::size_t>(column)];
+    SkipFailure([&] { item.value = CellText(alarm, kind); });
+    SkipFailure([&] { item.icon = CellIcon(alarm, kind); });
+    // The first column is meant for the icon: it keeps the list's own colours and shows no text.
+    item.hasCaption = column > 0;
+    if (column == 0) return item;
+    SkipFailure([&] {
+        item.textColour = alarm.m_CategorySpecificSetting->GetForeColor(alarm.m_Alarm.m_Status);
+        item.backColour = alarm.m_CategorySpecificSetting->GetBackColor(alarm.m_Alarm.m_Status);
+        item.hasColours = true;
+    });
+    return item;
+}
+
+// The text that the configuration has for a category name now; nothing when it has none.
+const std::string* cAlarmListView::Translation(const std::string& category) {
+    const std::string text = m_Services.ini.GetIniString("CategoryTranslations", category, category);
+    return text == category.substr(0, kMostValueCharacters) ? nullptr : &*m_Translations.insert(text).first;
+}
+
+// All that a row shows is made when it is shown, but for what the configuration says at this moment.
+void cAlarmListView::UpdateAlarmRow(cVigrelRecieverAlarm& alarm) {
+    if (m_ShowsCategory) {
+        SkipFailure([&] { alarm.m_CategoryText = Translation(alarm.m_Alarm.GetCondition(2)); });
+    }
+    SkipFailure([&] { m_Services.list.RecordChanged(alarm.m_Record); });
 }
 
 void cAlarmListView::ShowNewAlarm(const cVigrelRecieverAlarm& alarm) {
@@ -170,7 +181,7 @@ void cAlarmListView::ShowNewAlarm(const cVigrelRecieverAlarm& alarm) {
 
 AlarmPtr cAlarmListView::AlarmOf(RecordId row) const {
     if (row == 0) return nullptr;
-    return std::static_pointer_cast<cVigrelRecieverAlarm>(m_Services.list.RecordTag(row));
+    return std::static_pointer_cast<cVigrelRecieverAlarm>(m_Services.list.RecordTagOf(row));
 }
 
 void cAlarmListView::BeforeDrawRow(RecordId row, cReportList::cFontStyle& style) const {
@@ -209,10 +220,10 @@ std::string cAlarmListView::CopyText(const ItemValue& value) const {
 
 void cAlarmListView::CopyRowsToClipboard() {
     std::string text;
+    const int columns = m_Services.list.ColumnCount();
     for (const RecordId row : m_Services.list.SelectedRows()) {
         std::string line;
-        const int items = m_Services.list.ItemCount(row);
-        for (int i = 0; i < items; ++i) {
+        for (int i = 0; i < columns; ++i) {
             SkipFailure([&] { line += CopyText(m_Services.list.GetItemValue(row, i)); });
             line += '\t';
         }

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -73,8 +74,8 @@ class cAlarmListView {
 
     // Chooses the alarm's category settings and adds its record; the list takes it over when told to.
     void AddAlarmRow(const AlarmPtr& alarm);
-    // Writes the cells of the alarm's record. A step that fails is skipped.
-    void UpdateAlarmRow(const cVigrelRecieverAlarm& alarm);
+    // Makes the row show the alarm as it is now. A step that fails is skipped.
+    void UpdateAlarmRow(cVigrelRecieverAlarm& alarm);
     // Takes over the records, brings the alarm's row into view and leaves no selection.
     void ShowNewAlarm(const cVigrelRecieverAlarm& alarm);
     // The alarm of a row; none for a record that is gone.
@@ -92,8 +93,11 @@ class cAlarmListView {
 
   private:
     void AddColumn(const std::string& keyword);
+    // The cell of a column. A step that fails is skipped.
+    cReportItem Item(const cVigrelRecieverAlarm& alarm, int column) const;
     std::string CellText(const cVigrelRecieverAlarm& alarm, eColumnKind kind) const;
-    void SetCellIcon(const cVigrelRecieverAlarm& alarm, int column, eColumnKind kind);
+    int CellIcon(const cVigrelRecieverAlarm& alarm, eColumnKind kind) const;
+    const std::string* Translation(const std::string& category);
     std::string StateText(std::int16_t status) const;
     std::string Format(DateTime value, const std::string& pattern) const;
     std::string DateAndTime(DateTime value) const;
@@ -102,6 +106,9 @@ class cAlarmListView {
     cServices m_Services;
     // The kind of the column at each position.
     std::array<eColumnKind, kMostColumns> m_ColumnMap{};
+    bool m_ShowsCategory = false;
+    // The translations of category names that rows show, each once.
+    std::set<std::string, std::less<>> m_Translations;
 };
 
 }  // namespace vigrel

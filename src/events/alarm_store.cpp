@@ -8,6 +8,7 @@
 #include "common/file_procedures.h"
 #include "common/numbers.h"
 #include "common/text.h"
+#include "events/insertion_order.h"
 
 namespace vigrel {
 namespace {
@@ -15,19 +16,61 @@ namespace {
 constexpr std::string_view kMask = "A???????.Alm";
 constexpr double kLargestFileId = 9'999'999;
 
+std::string OwnName(std::int32_t fileId) {
+    const std::string number = "00000000" + std::to_string(fileId);
+    return "A" + number.substr(number.size() - 7) + ".alm";
+}
+
+int CompareTimes(DateTime a, DateTime b) {
+    return Earlier(a, b) ? -1 : Earlier(b, a) ? 1 : 0;
+}
+
+// One look at the clock for a whole folder.
+class cStoppedClock : public cClock {
+  public:
+    explicit cStoppedClock(const cClock& clock) : m_Now(clock.Now()), m_Steady(clock.Steady()) {}
+    DateTime Now() const override { return m_Now; }
+    double Steady() const override { return m_Steady; }
+
+  private:
+    DateTime m_Now;
+    double m_Steady;
+};
+
 }  // namespace
 
 cAlarmStore::cAlarmStore(const cServices& services, std::string applicationPath)
-    : m_Services(services), m_Folder(std::move(applicationPath) + "Alarms\\") {}
-
-std::string cAlarmStore::FileName(std::int32_t fileId) const {
-    const std::string number = "00000000" + std::to_string(fileId);
-    return m_Folder + "A" + number.substr(number.size() - 7) + ".alm";
+    : m_Services(services),
+      m_Folder(std::move(applicationPath) + "Alarms\\"),
+      m_Pending({services.ownFiles, services.clock,
+                 [this](cVigrelRecieverAlarm& alarm) { return Bytes(alarm); },
+                 [this](const cVigrelRecieverAlarm& alarm) { return FileName(alarm.m_FileId); },
+                 [this](const AlarmPtr& alarm, const std::string& reason) {
+                     m_UnsavedReason = reason;
+                     NoteUnsaved(alarm);
+                 }}) {
+    m_Services.timerSave.SetEnabled(false);
 }
 
-bool cAlarmStore::IsTooOld(const cVigrelRecieverAlarm& alarm) const {
+cAlarmStore::~cAlarmStore() {
+    m_Pending.Finish();
+}
+
+std::string cAlarmStore::FileName(std::int32_t fileId) const {
+    const auto spelled = m_Spellings.find(fileId);
+    return m_Folder + (spelled == m_Spellings.end() ? OwnName(fileId) : spelled->second);
+}
+
+// Of names that differ in case only, the one counts that the files give for the store's own.
+void cAlarmStore::NoteSpelling(const std::string& name, std::int32_t fileId) {
+    const std::string own = OwnName(fileId);
+    if (name == own || m_Services.files.Spelling(m_Folder + own) != m_Folder + name) return;
+    m_Spellings.emplace(fileId, name);
+}
+
+bool cAlarmStore::IsTooOld(const cVigrelRecieverAlarm& alarm, DateTime now) const {
     const std::int32_t days = m_Services.settings.m_MaxDays;
-    return days > 0 && alarm.m_CreatedTime + days < m_Services.clock.Now();
+    return days > 0 && alarm.m_CreatedTime + days < now;
 }
 
 void cAlarmStore::RemoveRow(cVigrelRecieverAlarm& alarm) {
@@ -36,7 +79,8 @@ void cAlarmStore::RemoveRow(cVigrelRecieverAlarm& alarm) {
 
 void cAlarmStore::DeleteAlarmFile(const cVigrelRecieverAlarm& alarm) {
     std::erase_if(m_Unsaved, [&](const AlarmPtr& unsaved) { return unsaved.get() == &alarm; });
-    SkipFailure([&] { m_Services.files.RemoveFile(FileName(alarm.m_FileId)); });
+    SkipFailure([&] { m_Services.ownFiles.RemoveFile(FileName(alarm.m_FileId)); });
+    m_Spellings.erase(alarm.m_FileId);
 }
 
 void cAlarmStore::GiveUp(cVigrelRecieverAlarm& alarm) {
@@ -54,7 +98,7 @@ void cAlarmStore::RemoveOldest() {
 void cAlarmStore::DrawFileId(cVigrelRecieverAlarm& alarm) {
     do {
         alarm.m_FileId = ToInt32(m_Services.random.Next() * kLargestFileId);
-    } while (m_Services.files.FileExists(FileName(alarm.m_FileId)));
+    } while (m_Services.ownFiles.FileExists(FileName(alarm.m_FileId)));
 }
 
 std::string cAlarmStore::Bytes(cVigrelRecieverAlarm& alarm) {
@@ -67,7 +111,7 @@ std::string cAlarmStore::Bytes(cVigrelRecieverAlarm& alarm) {
 bool cAlarmStore::TrySave(cVigrelRecieverAlarm& alarm) {
     const auto failure = CatchFailure([&] {
         const std::string bytes = Bytes(alarm);
-        ReplaceOwnFile(m_Services.files, FileName(alarm.m_FileId), bytes);
+        ReplaceOwnFile(m_Services.ownFiles, FileName(alarm.m_FileId), bytes);
     });
     if (failure) m_UnsavedReason = failure->what();
     return !failure;
@@ -80,12 +124,11 @@ void cAlarmStore::SaveAlarm(const AlarmPtr& alarm) {
         m_Collected.push_back(alarm);
         return;
     }
-    const bool saved = TrySave(*alarm);
-    const auto unsaved = std::find(m_Unsaved.begin(), m_Unsaved.end(), alarm);
-    if (saved && unsaved != m_Unsaved.end()) m_Unsaved.erase(unsaved);
-    if (saved || unsaved != m_Unsaved.end()) return;
-    if (m_Unsaved.empty()) m_UnsavedSince = m_Services.clock.Now();
-    m_Unsaved.push_back(alarm);
+    if (TrySave(*alarm)) {
+        std::erase(m_Unsaved, alarm);
+    } else {
+        NoteUnsaved(alarm);
+    }
 }
 
 void cAlarmStore::SaveTogether(const std::function<void()>& steps) {
@@ -98,20 +141,25 @@ void cAlarmStore::SaveCollected() {
     m_Collecting = false;
     const std::vector<AlarmPtr> collected = std::exchange(m_Collected, {});
     if (collected.size() == 1) return SaveAlarm(collected.front());
-    cReplaceBatch batch(m_Services.files, m_Folder);
-    bool saved = true;
-    for (const AlarmPtr& alarm : collected) {
-        bool added = false;
-        SkipFailure([&] {
-            const std::string bytes = Bytes(*alarm);
-            added = batch.Add(FileName(alarm->m_FileId), bytes);
-        });
-        saved = saved && added;
-    }
-    // Whichever of them failed: writing all of them once more does no harm.
-    if (!collected.empty() && !(batch.Commit() && saved)) {
-        for (const AlarmPtr& alarm : collected) SaveAlarm(alarm);
-    }
+    if (collected.empty()) return;
+    m_Pending.Add(collected);
+    m_Services.timerSave.SetEnabled(true);
+}
+
+void cAlarmStore::Timer_Save_Tick() {
+    m_Pending.Turn();
+    if (m_Pending.Empty()) m_Services.timerSave.SetEnabled(false);
+}
+
+void cAlarmStore::FinishSaves() {
+    m_Pending.Finish();
+    m_Services.timerSave.SetEnabled(false);
+}
+
+void cAlarmStore::NoteUnsaved(const AlarmPtr& alarm) {
+    if (std::find(m_Unsaved.begin(), m_Unsaved.end(), alarm) != m_Unsaved.end()) return;
+    if (m_Unsaved.empty()) m_UnsavedSince = m_Services.clock.Now();
+    m_Unsaved.push_back(alarm);
 }
 
 void cAlarmStore::RetryUnsaved() {
@@ -124,27 +172,14 @@ void cAlarmStore::RetryUnsaved() {
     if (!m_Unsaved.empty()) std::rotate(m_Unsaved.begin(), m_Unsaved.begin() + 1, m_Unsaved.end());
 }
 
-// A binary search that comes back to the neighbour it came from; among equal times the newcomer stands behind
-// the alarm that the search met first.
 std::size_t cAlarmStore::FindPlace(const cVigrelRecieverAlarm& alarm) const {
-    const std::size_t count = m_Alarms.size();
-    if (count == 0) return 0;
-    std::size_t low = 0;
-    std::size_t high = count;
-    auto mid = static_cast<std::size_t>(RoundEven(static_cast<double>(count) / 2));
-    while (true) {
-        const DateTime other = m_Alarms[mid]->m_CreatedTime;
-        const bool earlier = Earlier(alarm.m_CreatedTime, other);
-        if (!earlier && !Earlier(other, alarm.m_CreatedTime)) return mid + 1;
-        std::size_t& bound = earlier ? high : low;
-        if (bound == mid) return earlier ? high : low + 1;
-        bound = mid;
-        mid = low + (high - low) / 2;
-    }
+    return FindInsertionPlace(m_Alarms.size(), [&](std::size_t other) {
+        return CompareTimes(alarm.m_CreatedTime, m_Alarms[other]->m_CreatedTime);
+    });
 }
 
 bool cAlarmStore::InsertAlarm(const AlarmPtr& alarm, std::int32_t maxEvents) {
-    if (IsTooOld(*alarm)) {
+    if (IsTooOld(*alarm, m_Services.clock.Now())) {
         GiveUp(*alarm);
         return false;
     }
@@ -156,18 +191,78 @@ bool cAlarmStore::InsertAlarm(const AlarmPtr& alarm, std::int32_t maxEvents) {
 
 std::int32_t cAlarmStore::SweepOldAlarms() {
     std::int32_t removed = 0;
-    for (; !m_Alarms.empty() && IsTooOld(*m_Alarms.front()); ++removed) RemoveOldest();
+    for (; !m_Alarms.empty() && IsTooOld(*m_Alarms.front(), m_Services.clock.Now()); ++removed)
+        RemoveOldest();
     return removed;
 }
 
-AlarmPtr cAlarmStore::ReadAlarm(const std::string& name) {
-    auto alarm = std::make_shared<cVigrelRecieverAlarm>(m_Services.clock);
-    const std::string content = m_Services.files.ReadFile(m_Folder + name);
-    cBinaryReader file(content);
-    alarm->ReadFromDisk(file);
-    // The name decides, since it is what the next save replaces.
-    alarm->m_FileId = ToInt32(Val(name.substr(1, 7)));
-    return alarm;
+// The number of a file of the mask; nothing for one that is no alarm.
+std::optional<std::int32_t> cAlarmStore::FileIdOf(const std::string& name) {
+    const std::string digits = name.substr(1, 7);
+    if (!IsNumeric(digits)) return std::nullopt;
+    std::optional<std::int32_t> fileId;
+    SkipFailure([&] { fileId = ToInt32(Val(digits)); });
+    // 9e00009 is numeric too; a file that nobody can have meant as an alarm must not keep the rest away.
+    if (!fileId) {
+        m_Services.log.WriteLog("Alarms\\" + name + " is no alarm file: its number is out of range");
+    }
+    return fileId;
+}
+
+std::int32_t cAlarmStore::ReadFolder(const std::set<std::string>& unreadable, std::vector<AlarmPtr>& alarms) {
+    std::vector<std::string> names = m_Services.files.ListFiles(m_Folder, kMask);
+    std::vector<std::int32_t> fileIds;
+    std::erase_if(names, [&](const std::string& name) {
+        const auto fileId = unreadable.contains(name) ? std::nullopt : FileIdOf(name);
+        if (fileId) fileIds.push_back(*fileId);
+        return !fileId;
+    });
+    const cStoppedClock clock(m_Services.clock);
+    std::int32_t removed = 0;
+    m_Services.ownFiles.ReadFiles(m_Folder, names, [&](std::size_t i, const std::string& content) {
+        auto alarm = std::make_shared<cVigrelRecieverAlarm>(clock);
+        cBinaryReader file(content);
+        alarm->ReadFromDisk(file);
+        // The name decides, since it is what the next save replaces.
+        alarm->m_FileId = fileIds[i];
+        NoteSpelling(names[i], fileIds[i]);
+        if (IsTooOld(*alarm, clock.Now())) {
+            GiveUp(*alarm);
+            ++removed;
+        } else {
+            alarms.push_back(std::move(alarm));
+        }
+    });
+    return removed;
+}
+
+// As if they were inserted one by one, each making room for itself where the limit is reached.
+std::int32_t cAlarmStore::InsertAll(const std::vector<AlarmPtr>& alarms) {
+    const auto most = static_cast<std::size_t>(std::max(m_Services.settings.m_MaxEvents, 0));
+    const std::size_t surplus = most > 0 && alarms.size() > most ? alarms.size() - most : 0;
+    std::vector<DateTime> times;
+    times.reserve(alarms.size());
+    for (const AlarmPtr& alarm : alarms) times.push_back(alarm->m_CreatedTime);
+    const cInsertionOrder placed = OrderByInsertion(times);
+    if (surplus > 0 && placed.hasEqualTimes) return InsertOneByOne(alarms);
+    for (std::size_t i = 0; i < placed.order.size(); ++i) {
+        const AlarmPtr& alarm = alarms[placed.order[i]];
+        // Where no two are of one time, the oldest go, whatever order they came in.
+        if (i < surplus) {
+            GiveUp(*alarm);
+        } else {
+            m_Alarms.push_back(alarm);
+        }
+    }
+    return static_cast<std::int32_t>(surplus);
+}
+
+std::int32_t cAlarmStore::InsertOneByOne(const std::vector<AlarmPtr>& alarms) {
+    std::int32_t removed = 0;
+    for (const AlarmPtr& alarm : alarms) {
+        if (!InsertAlarm(alarm, m_Services.settings.m_MaxEvents)) ++removed;
+    }
+    return removed;
 }
 
 // Names what can't be read among the alarms, so that it can be looked after. Any number of them takes one
@@ -192,18 +287,13 @@ void cAlarmStore::LoadAlarms(const std::function<void(const AlarmPtr&)>& addAlar
     m_Services.list.RemoveAllRecords();
     for (const AlarmPtr& replaced : m_Alarms) replaced->m_Removed = true;
     m_Alarms.clear();
+    m_Spellings.clear();
+    m_Folder = m_Services.files.Spelling(m_Folder);
     RemoveTemporaries(m_Services.files, m_Folder);
     const std::set<std::string> unreadable = TellUnreadable();
-    std::int32_t removed = 0;
-    for (const std::string& name : m_Services.files.ListFiles(m_Folder, kMask)) {
-        if (!IsNumeric(name.substr(1, 7)) || unreadable.contains(name)) continue;
-        // 9e00009 is numeric too; a file that nobody can have meant as an alarm must not keep the rest away.
-        if (!SkipFailure([&] { ToInt32(Val(name.substr(1, 7))); })) {
-            m_Services.log.WriteLog("Alarms\\" + name + " is no alarm file: its number is out of range");
-            continue;
-        }
-        if (!InsertAlarm(ReadAlarm(name), m_Services.settings.m_MaxEvents)) ++removed;
-    }
+    std::vector<AlarmPtr> alarms;
+    std::int32_t removed = ReadFolder(unreadable, alarms);
+    removed += InsertAll(alarms);
     for (const AlarmPtr& alarm : m_Alarms) addAlarmRow(alarm);
     m_Services.list.TakeOverRecords();
     m_Services.list.ClearSelection();

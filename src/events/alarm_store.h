@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <deque>
 #include <functional>
+#include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -11,10 +13,12 @@
 #include "common/receiver_state.h"
 #include "common/settings.h"
 #include "common/texts.h"
+#include "events/pending_saves.h"
 #include "events/vigrel_reciever_alarm.h"
 #include "platform/files.h"
 #include "platform/random.h"
 #include "platform/report_list.h"
+#include "platform/timer.h"
 
 namespace vigrel {
 
@@ -24,6 +28,7 @@ class cAlarmStore {
   public:
     struct cServices {
         cFiles& files;
+        cFiles& ownFiles;  // of exact names: the alarms' files, which the store alone names
         const cClock& clock;
         cRandom& random;
         cReportList& list;
@@ -31,9 +36,14 @@ class cAlarmStore {
         const cTexts& texts;
         const cSettings& settings;
         cReceiverState& state;
+        cTimer& timerSave;  // runs while files of many alarms wait to be written
     };
     // m_ApplicationPath ends in a backslash.
     cAlarmStore(const cServices& services, std::string applicationPath);
+    // Writes what still waits.
+    ~cAlarmStore();
+    cAlarmStore(const cAlarmStore&) = delete;
+    cAlarmStore& operator=(const cAlarmStore&) = delete;
 
     // Sorted by m_CreatedTime, oldest first.
     std::deque<AlarmPtr> m_Alarms;
@@ -46,8 +56,11 @@ class cAlarmStore {
     // survives a crash. Never fails: a file that can't be written is tried again by RetryUnsaved. An alarm
     // that the store has removed is not written.
     void SaveAlarm(const AlarmPtr& alarm);
-    // What the steps save is collected and written at the end with one wait for the disk.
+    // What the steps save is collected and written behind them: in short turns, each at a tick of timerSave.
     void SaveTogether(const std::function<void()>& steps);
+    void Timer_Save_Tick();
+    // Writes now what still waits for its turn.
+    void FinishSaves();
     void DeleteAlarmFile(const cVigrelRecieverAlarm& alarm);
     // Puts the alarm in its place and enforces both limits; false when an alarm was removed for it, which can
     // be the alarm itself.
@@ -62,10 +75,12 @@ class cAlarmStore {
     DateTime UnsavedSince() const { return m_UnsavedSince; }
     const std::string& UnsavedReason() const { return m_UnsavedReason; }
 
+    // With its folder; spelled as it lies on the disk.
     std::string FileName(std::int32_t fileId) const;
 
   private:
-    bool IsTooOld(const cVigrelRecieverAlarm& alarm) const;
+    void NoteSpelling(const std::string& name, std::int32_t fileId);
+    bool IsTooOld(const cVigrelRecieverAlarm& alarm, DateTime now) const;
     std::size_t FindPlace(const cVigrelRecieverAlarm& alarm) const;
     void RemoveRow(cVigrelRecieverAlarm& alarm);
     void GiveUp(cVigrelRecieverAlarm& alarm);
@@ -75,15 +90,23 @@ class cAlarmStore {
     bool TrySave(cVigrelRecieverAlarm& alarm);
     void SaveCollected();
     std::set<std::string> TellUnreadable() const;
-    AlarmPtr ReadAlarm(const std::string& name);
+    std::optional<std::int32_t> FileIdOf(const std::string& name);
+    // Each gives how many alarms were removed.
+    std::int32_t ReadFolder(const std::set<std::string>& unreadable, std::vector<AlarmPtr>& alarms);
+    std::int32_t InsertAll(const std::vector<AlarmPtr>& alarms);
+    std::int32_t InsertOneByOne(const std::vector<AlarmPtr>& alarms);
+    void NoteUnsaved(const AlarmPtr& alarm);
 
     cServices m_Services;
     std::string m_Folder;
+    // The names of files that came from elsewhere and are not spelled as the store spells them.
+    std::map<std::int32_t, std::string> m_Spellings;
     std::vector<AlarmPtr> m_Unsaved;
     DateTime m_UnsavedSince = 0;
     std::string m_UnsavedReason;
     bool m_Collecting = false;
     std::vector<AlarmPtr> m_Collected;
+    cPendingSaves m_Pending;
 };
 
 }  // namespace vigrel

@@ -24,6 +24,8 @@ class cVigrelRecieverAlarm {
     RecordId m_Record = 0;      // the list record that shows the alarm; 0 while it has none; not stored
     // The settings of its category; shared with other alarms, not owned, not stored.
     const cCategorySpecificSetting* m_CategorySpecificSetting = nullptr;
+    // What the list shows as its category, where that is translated; the list's own, not stored.
+    const std::string* m_CategoryText = nullptr;
     // The store has given it up: it has no file any more, and a popup that still shows it brings none back.
     // Not stored.
     bool m_Removed = false;

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,6 +16,9 @@ namespace vigrel {
 // without regard to case, component by component; when several names differ only in case, the exact one is
 // preferred. A new name is created with the spelling that was given.
 //
+// For files that the program alone names there are cFiles of exact names: each name is taken as it is
+// spelled, and no search for another spelling costs anything. The folder's own spelling is asked for once.
+//
 // Unless a method says otherwise, a failure is thrown as cFailure (common/failure.h) with a number of
 // eFailure and a description that names the path and the reason; nothing is changed then, except that a
 // failed write may leave a partial file.
@@ -21,6 +27,13 @@ class cFileReader {
     virtual ~cFileReader() = default;
     virtual bool FileExists(std::string_view path) const = 0;  // a regular file; false on any failure
     virtual std::string ReadFile(std::string_view path) const = 0;
+    // Reads many files of a folder (with its separator) and hands on each content, in the order of the names,
+    // as ReadFile gives it; a failure of one ends it. take gets the index of the name.
+    using TakeContent = std::function<void(std::size_t index, std::string content)>;
+    virtual void ReadFiles(const std::string& folder, const std::vector<std::string>& names,
+                           const TakeContent& take) const {
+        for (std::size_t i = 0; i < names.size(); ++i) take(i, ReadFile(folder + names[i]));
+    }
     // Names (not paths) of the regular files of a folder that match the mask, in the order in which the
     // folder gives them. In a mask "?" stands for any one character and "*" for any run; case plays no part.
     // Hidden names (with a leading dot) are not listed. An unreadable or missing folder is an empty list.
@@ -32,14 +45,36 @@ class cFileReader {
         std::string name, reason;
     };
     virtual std::vector<cUnreadable> ListUnreadable(std::string_view folder, std::string_view mask) const = 0;
+    // The path as it is spelled on the disk; as it is given where nothing of that name is there.
+    virtual std::string Spelling(std::string_view path) const = 0;
 
     // Identifies the content of a file without reading it: changes whenever the file is replaced or written.
     struct cStamp {
         std::int64_t device = 0, inode = 0, size = -1, modifiedNs = 0;
-        bool operator==(const cStamp&) const = default;
+        // When anything of the file changed last, its content or its attributes.
+        std::int64_t changedNs = 0;
+        // False while the last change is so fresh that another one could carry the same times.
+        bool settled = true;
+        bool operator==(const cStamp& other) const {
+            return device == other.device && inode == other.inode && size == other.size &&
+                   modifiedNs == other.modifiedNs;
+        }
+        // Whether a file of this stamp that now has the other one certainly holds what it held.
+        bool StillHolds(const cStamp& now) const {
+            return settled && *this == now && changedNs == now.changedNs;
+        }
     };
     // size -1 for a file that doesn't exist. Does not fail.
     virtual cStamp Stamp(std::string_view path) const = 0;
+};
+
+// A wait for the disk that goes on beside the program. Its end waits for it.
+class cPendingSync {
+  public:
+    virtual ~cPendingSync() = default;
+    virtual bool Done() const = 0;
+    // Waits until it is done; whether everything is durable then.
+    virtual bool Wait() = 0;
 };
 
 class cFiles : public cFileReader {
@@ -55,8 +90,9 @@ class cFiles : public cFileReader {
     virtual void RenameFile(std::string_view from, std::string_view to) = 0;
     // Makes the names in the folder (creations, renames, removals) durable.
     virtual void SyncFolder(std::string_view folder) = 0;
-    // Makes everything durable that was written so far to the file system of the folder.
-    virtual void SyncFileSystem(std::string_view folder) = 0;
+    // Begins to make everything durable that was written so far to the file system of the folder, and does so
+    // beside the program.
+    virtual std::unique_ptr<cPendingSync> StartSync(std::string_view folder) = 0;
     virtual void MakeFolder(std::string_view path) = 0;  // a failure when it exists already
     // Takes a write protection away from a file.
     virtual void SetNormalAttributes(std::string_view path) = 0;

@@ -14,12 +14,27 @@ namespace vigrel {
 // over.
 //
 // A record is known by its id, which is never used twice; 0 is no record. A call for a record that is gone
-// throws cFailure. Columns and items are counted from 0. Changes of records show only after TakeOverRecords
-// or Redraw.
+// throws cFailure. Columns and items are counted from 0, and a record has an item for each column. Changes of
+// records show for certain only after TakeOverRecords or Redraw.
+//
+// The list keeps no texts: it asks the record's owner for an item when that is shown, compared or copied. A
+// hundred thousand records would otherwise hold every text once more.
 using RecordId = std::uint64_t;
+// Whatever the owner of a record wants to find again; the list only keeps it.
+using RecordTag = std::shared_ptr<void>;
 
 // What an item sorts and is copied by: text, or a date-time.
 using ItemValue = std::variant<std::string, double>;
+
+// One cell of a record. Colours: red in the low byte, then green, then blue.
+struct cReportItem {
+    ItemValue value;
+    bool hasCaption =
+        false;  // the value shows as text; without it the cell shows no text, whatever its value
+    bool hasColours = false;  // otherwise it has the list's own
+    std::int32_t textColour = 0, backColour = 0;
+    int icon = -1;  // number of the image strip; -1 for none
+};
 
 class cReportList {
   public:
@@ -39,24 +54,16 @@ class cReportList {
     virtual void SetColumnPlacement(int column, int cells, int header) = 0;
 
     // --- records
-    // The tag is whatever the owner of the record wants to find again; the list only keeps it.
-    virtual RecordId AddRecord(std::shared_ptr<void> tag) = 0;
+    virtual RecordId AddRecord(RecordTag tag) = 0;
     // A row of the record is gone with it.
     virtual void RemoveRecord(RecordId record) = 0;
     virtual void RemoveAllRecords() = 0;
     virtual int RecordCount() const = 0;
-    virtual std::shared_ptr<void> RecordTag(RecordId record) const = 0;
-    // Appends an item with empty text to the record.
-    virtual void AddItem(RecordId record) = 0;
-    virtual int ItemCount(RecordId record) const = 0;
-    virtual void SetItemValue(RecordId record, int item, ItemValue value) = 0;
+    virtual RecordTag RecordTagOf(RecordId record) const = 0;
+    // The owner gives other items for the record from now on. A row whose sort value is another one moves at
+    // the next TakeOverRecords.
+    virtual void RecordChanged(RecordId record) = 0;
     virtual ItemValue GetItemValue(RecordId record, int item) const = 0;
-    // An item that never got a caption shows none, whatever its value.
-    virtual void SetItemCaption(RecordId record, int item, std::string_view caption) = 0;
-    // Colours: red in the low byte, then green, then blue. An item that never got one has the list's own.
-    virtual void SetItemColours(RecordId record, int item, std::int32_t text, std::int32_t back) = 0;
-    // Number of the image strip; -1 for none.
-    virtual void SetItemIcon(RecordId record, int item, int icon) = 0;
 
     // --- rows
     // Recomputes the rows and their order. The list may paint later, but answers from now on as if it had.
@@ -85,6 +92,8 @@ class cReportList {
     virtual void SetEmptyText(std::string_view text) = 0;
 
     // --- events
+    // Asked for an item of the record that has the tag.
+    std::function<cReportItem(const RecordTag& tag, int item)> OnItem;
     struct cFontStyle {
         bool bold = false, italic = false;
     };

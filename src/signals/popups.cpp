@@ -25,7 +25,7 @@ const std::string& CategoryOf(const cVigrelRecieverAlarm& alarm) {
 }  // namespace
 
 cPopups::~cPopups() {
-    for (auto& [key, popup] : m_Popups) {
+    for (const auto& popup : m_Popups) {
         cPopupWindow& window = popup->m_Window;
         window.OnQueryUnload = nullptr;
         window.OnUnload = nullptr;
@@ -105,14 +105,15 @@ std::int32_t cPopups::ShowPopup(const AlarmPtr& alarm) {
 
 Vigrel_Receiver_Popup& cPopups::MakePopup() {
     cPopupWindow& window = m_Services.maker.MakePopup();
-    auto& popup = *(m_Popups[&window] = std::make_unique<Vigrel_Receiver_Popup>(m_Services, window));
+    m_Popups.push_back(std::make_unique<Vigrel_Receiver_Popup>(m_Services, window));
+    Vigrel_Receiver_Popup& popup = *m_Popups.back();
     window.OnQueryUnload = [&popup](eCloseReason reason) {
         popup.QueryUnload(reason);
         return true;
     };
     window.OnUnload = [this, &popup] {
         popup.Unload([this, &popup] { SelectTopPopup(&popup); });
-        m_Popups.erase(&popup.m_Window);
+        std::erase_if(m_Popups, [&popup](const auto& other) { return other.get() == &popup; });
     };
     window.OnResize = [&popup] { popup.Resize(); };
     window.OnPictureClick = [&popup](int) { popup.Picture_Alarm_Click(); };
@@ -225,17 +226,11 @@ void cPopups::Consider(Vigrel_Receiver_Popup& popup, cBest& best) {
     }
 }
 
-Vigrel_Receiver_Popup* cPopups::Find(const cWindow* window) const {
-    const auto found = m_Popups.find(window);
-    return found == m_Popups.end() ? nullptr : found->second.get();
-}
-
-// Visits the popups in the order in which they were opened.
+// Visits the popups in the order in which they were opened, which is theirs among the open windows.
 template <class Visit>
 void cPopups::ForEachOther(const Vigrel_Receiver_Popup* excluded, Visit visit) const {
-    for (const cWindow* window : m_Services.windows.OpenWindows()) {
-        Vigrel_Receiver_Popup* popup = Find(window);
-        if (popup != nullptr && popup != excluded) visit(*popup);
+    for (const auto& popup : m_Popups) {
+        if (popup.get() != excluded) visit(*popup);
     }
 }
 

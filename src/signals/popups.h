@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <unordered_map>
+#include <vector>
 
 #include "signals/vigrel_receiver_popup.h"
 
@@ -64,13 +64,12 @@ class cPopups {
     bool IsTopMostCategory(const std::string& category) const;
     void StackBehindChosen(Vigrel_Receiver_Popup& popup);
 
-    Vigrel_Receiver_Popup* Find(const cWindow* window) const;
     template <class Visit>
     void ForEachOther(const Vigrel_Receiver_Popup* excluded, Visit visit) const;
     static void Consider(Vigrel_Receiver_Popup& popup, cBest& best);
 
     cPopupServices m_Services;
-    std::unordered_map<const cWindow*, std::unique_ptr<Vigrel_Receiver_Popup>> m_Popups;
+    std::vector<std::unique_ptr<Vigrel_Receiver_Popup>> m_Popups;  // in the order of their opening
     std::int32_t m_PopupX = 0, m_PopupY = 0;  // the latest place in pixels; -1: the maker's
     bool m_PopupMovingStarted = false;
     std::int32_t m_PopupFormId = 0;

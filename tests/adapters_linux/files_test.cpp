@@ -1,5 +1,10 @@
 #include "adapters/linux/linux_files.h"
 
+#include <sys/stat.h>
+
+#include <fstream>
+
+#include "common/ini.h"
 #include "contract/files_contract.h"
 #include "support/temporary_folder.h"
 
@@ -36,6 +41,90 @@ TEST(LinuxFiles, AnExactNameIsPreferredToOneInAnotherCase) {
     files.WriteFile(folder.Folder() + "X.TXT", "upper", false);
     EXPECT_EQ(files.ReadFile(folder.Folder() + "x.txt"), "lower");
     EXPECT_EQ(files.ReadFile(folder.Folder() + "X.TXT"), "upper");
+}
+
+TEST(LinuxFiles, ExactNamesAreTakenAsTheyAreSpelled) {
+    cTemporaryFolder folder;
+    cLinuxFiles files;
+    cLinuxFiles exact(cLinuxFiles::eNames::Exact);
+    files.WriteFile(folder.Folder() + "x.txt", "lower", false);
+    EXPECT_EQ(files.Spelling(folder.Folder() + "X.TXT"), folder.Path().string() + "/x.txt");
+    EXPECT_EQ(exact.ReadFile(folder.Folder() + "x.txt"), "lower");
+    EXPECT_FALSE(exact.FileExists(folder.Folder() + "X.TXT"));
+    EXPECT_THROW(exact.ReadFile(folder.Folder() + "X.TXT"), cFailure);
+    EXPECT_THROW(exact.RemoveFile(folder.Folder() + "X.TXT"), cFailure);
+    exact.WriteFile(folder.Folder() + "X.TXT", "upper", true);
+    exact.RenameFile(folder.Folder() + "X.TXT", folder.Folder() + "Y.TXT");
+    EXPECT_EQ(files.ReadFile(folder.Folder() + "x.txt"), "lower");
+    EXPECT_EQ(files.ReadFile(folder.Folder() + "Y.TXT"), "upper");
+}
+
+// Folder with files "0", "1"... of so many times "x".
+std::vector<std::string> PutMany(const cTemporaryFolder& folder, std::size_t count) {
+    std::vector<std::string> names;
+    for (std::size_t i = 0; i < count; ++i) {
+        names.push_back(std::to_string(i));
+        std::ofstream(folder.Path() / names.back()) << std::string(i % 300, 'x');
+    }
+    return names;
+}
+
+TEST(LinuxFiles, ManyFilesAreReadInTheOrderOfTheirNames) {
+    const cLinuxFiles exact(cLinuxFiles::eNames::Exact);
+    for (const std::size_t count : {0, 1, 500, 501, 3000}) {
+        cTemporaryFolder folder;
+        const std::vector<std::string> names = PutMany(folder, count);
+        std::size_t next = 0;
+        exact.ReadFiles(folder.Folder(), names, [&](std::size_t index, const std::string& content) {
+            ASSERT_EQ(index, next++);
+            ASSERT_EQ(content.size(), index % 300);
+        });
+        EXPECT_EQ(next, count);
+    }
+}
+
+TEST(LinuxFiles, AFileThatFailsEndsTheReadingInItsTurn) {
+    const cLinuxFiles exact(cLinuxFiles::eNames::Exact);
+    cTemporaryFolder folder;
+    const std::vector<std::string> names = PutMany(folder, 2000);
+    std::filesystem::remove(folder.Path() / "1234");
+    std::size_t taken = 0;
+    EXPECT_THROW(exact.ReadFiles(folder.Folder(), names, [&](std::size_t, const std::string&) { ++taken; }),
+                 cFailure);
+    EXPECT_EQ(taken, 1234u);
+}
+
+TEST(LinuxFiles, WhoeverTakesTheContentsMayEndTheReading) {
+    const cLinuxFiles exact(cLinuxFiles::eNames::Exact);
+    cTemporaryFolder folder;
+    const std::vector<std::string> names = PutMany(folder, 2000);
+    const auto stop = [](std::size_t index, const std::string&) {
+        if (index == 700) throw cFailure(eFailure::Overflow, "enough");
+    };
+    EXPECT_THROW(exact.ReadFiles(folder.Folder(), names, stop), cFailure);
+}
+
+TEST(LinuxFiles, AnExactNameOfAFolderOrPipeIsNoFile) {
+    cTemporaryFolder folder;
+    const cLinuxFiles exact(cLinuxFiles::eNames::Exact);
+    std::filesystem::create_directory(folder.Path() / "folder");
+    ASSERT_EQ(mkfifo((folder.Path() / "pipe").c_str(), 0666), 0);
+    EXPECT_THROW(exact.ReadFile(folder.Folder() + "folder"), cFailure);
+    EXPECT_THROW(exact.ReadFile(folder.Folder() + "pipe"), cFailure);
+}
+
+// An editor can write twice within one tick of the file system's clock, and some tools put times back.
+TEST(LinuxFiles, AnEditThatLeavesSizeAndTimeOfAFreshFileIsSeen) {
+    cTemporaryFolder folder;
+    cLinuxFiles files;
+    const std::string path = folder.Folder() + "VigrelReceiver.INI";
+    files.WriteFile(path, "[S]\r\na=1\r\n", false);
+    const auto written = std::filesystem::last_write_time(folder.Path() / "VigrelReceiver.INI");
+    const cIni ini(files, folder.Folder());
+    EXPECT_EQ(ini.GetIniString("S", "a", ""), "1");
+    std::fstream(folder.Path() / "VigrelReceiver.INI", std::ios::in | std::ios::out) << "[S]\r\na=2\r\n";
+    std::filesystem::last_write_time(folder.Path() / "VigrelReceiver.INI", written);
+    EXPECT_EQ(ini.GetIniString("S", "a", ""), "2");
 }
 
 TEST(LinuxFiles, ALinkToAFileIsAFile) {

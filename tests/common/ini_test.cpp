@@ -216,6 +216,61 @@ TEST(PutIniString, TwoWritesThatAreStampedAlikeAreBothSeen) {
     EXPECT_EQ(ini.GetIniString("S", "a", ""), "2");
 }
 
+// --- moments
+
+// Counts how often somebody looks at a file.
+struct cCountingFiles : cFakeFiles {
+    cStamp Stamp(std::string_view path) const override {
+        ++m_Looks;
+        return cFakeFiles::Stamp(path);
+    }
+    std::string ReadFile(std::string_view path) const override {
+        ++m_Reads;
+        return cFakeFiles::ReadFile(path);
+    }
+    mutable int m_Looks = 0, m_Reads = 0;
+};
+
+TEST(IniMoment, AllKeysOfAMomentComeFromOneLookAtTheFile) {
+    cCountingFiles files;
+    files.Put(kPath, "[S]\r\na=1\r\nb=2\r\n");
+    const cIni ini(files, kFolder);
+    {
+        const cIniMoment moment(ini);
+        EXPECT_EQ(ini.GetIniString("S", "a", ""), "1");
+        files.Put(kPath, "[S]\r\na=3\r\nb=4\r\n");
+        const cIniMoment inner(ini);
+        EXPECT_EQ(ini.GetIniString("S", "b", ""), "2");
+    }
+    EXPECT_EQ(files.m_Looks, 1);
+    EXPECT_EQ(files.m_Reads, 1);
+    const cIniMoment next(ini);
+    EXPECT_EQ(ini.GetIniString("S", "a", ""), "3");
+    EXPECT_EQ(ini.GetIniString("S", "b", ""), "4");
+    EXPECT_EQ(files.m_Looks, 2);
+    EXPECT_EQ(files.m_Reads, 2);
+}
+
+TEST(IniMoment, AnUnchangedFileIsNotReadAgain) {
+    cCountingFiles files;
+    files.Put(kPath, "[S]\r\na=1\r\n");
+    const cIni ini(files, kFolder);
+    for (int i = 0; i < 5; ++i) {
+        const cIniMoment moment(ini);
+        EXPECT_EQ(ini.GetIniString("S", "a", ""), "1");
+    }
+    EXPECT_EQ(files.m_Looks, 5);
+    EXPECT_EQ(files.m_Reads, 1);
+}
+
+TEST(IniMoment, SeesWhatIsWrittenWithinIt) {
+    cIniFile file("[S]\r\na=1\r\n");
+    const cIniMoment moment(file.ini);
+    EXPECT_EQ(file.Get("S", "a"), "1");
+    file.ini.PutIniString("S", "a", "2");
+    EXPECT_EQ(file.Get("S", "a"), "2");
+}
+
 // --- ReadIniSection
 
 // The part of the buffer that was written, with "|" in place of each zero.

@@ -12,6 +12,7 @@
 
 #include "common/failure.h"
 #include "platform/report_list.h"
+#include "support/item_table.h"
 
 namespace vigrel::testing {
 
@@ -24,14 +25,7 @@ class ReportListContract : public ::testing::Test {
     void AddColumns(int count) {
         for (int i = 0; i < count; ++i) List().AddColumn("c" + std::to_string(i), 100);
     }
-    RecordId Add(const std::vector<ItemValue>& values) {
-        const RecordId record = List().AddRecord(nullptr);
-        for (std::size_t i = 0; i < values.size(); ++i) {
-            List().AddItem(record);
-            List().SetItemValue(record, static_cast<int>(i), values[i]);
-        }
-        return record;
-    }
+    RecordId Add(const std::vector<ItemValue>& values) { return m_Items.Add(values); }
     RecordId AddText(const std::string& text) { return Add({text}); }
     void SortBy(int column, bool ascending) {
         List().ClearSortOrder();
@@ -42,6 +36,7 @@ class ReportListContract : public ::testing::Test {
         return List().Rows();
     }
     Rig m_Rig;
+    cItemTable m_Items{m_Rig.List()};
 };
 TYPED_TEST_SUITE_P(ReportListContract);
 
@@ -66,13 +61,14 @@ TYPED_TEST_P(ReportListContract, AColumnOrItemOrRecordThatIsNotThereIsAFailure) 
     EXPECT_THROW(list.SetColumnWidth(-1, 5), cFailure);
     EXPECT_THROW(list.AddSortColumn(1, true), cFailure);
     const RecordId record = this->AddText("a");
-    EXPECT_THROW(list.SetItemCaption(record, 1, "b"), cFailure);
+    EXPECT_THROW(list.GetItemValue(record, 1), cFailure);
     EXPECT_THROW(list.GetItemValue(record, -1), cFailure);
-    EXPECT_THROW(list.RecordTag(0), cFailure);
+    EXPECT_THROW(list.RecordTagOf(0), cFailure);
     list.RemoveRecord(record);
-    EXPECT_THROW(list.RecordTag(record), cFailure);
+    EXPECT_THROW(list.RecordTagOf(record), cFailure);
     EXPECT_THROW(list.RemoveRecord(record), cFailure);
-    EXPECT_THROW(list.SetItemIcon(record, 0, 1), cFailure);
+    EXPECT_THROW(list.RecordChanged(record), cFailure);
+    EXPECT_THROW(list.GetItemValue(record, 0), cFailure);
 }
 
 TYPED_TEST_P(ReportListContract, AChangedWidthIsTold) {
@@ -87,7 +83,7 @@ TYPED_TEST_P(ReportListContract, AChangedWidthIsTold) {
 TYPED_TEST_P(ReportListContract, ARecordKeepsItsTagUntilItIsRemoved) {
     const auto tag = std::make_shared<int>(5);
     const RecordId record = this->List().AddRecord(tag);
-    EXPECT_EQ(this->List().RecordTag(record), tag);
+    EXPECT_EQ(this->List().RecordTagOf(record), tag);
     this->List().TakeOverRecords();
     this->List().RemoveRecord(record);
     EXPECT_EQ(tag.use_count(), 1);
@@ -105,14 +101,22 @@ TYPED_TEST_P(ReportListContract, IdsAreNeverUsedTwice) {
     EXPECT_NE(first, third);
 }
 
-TYPED_TEST_P(ReportListContract, ANewItemHasAnEmptyTextAsItsValue) {
-    const RecordId record = this->List().AddRecord(nullptr);
-    EXPECT_EQ(this->List().ItemCount(record), 0);
-    this->List().AddItem(record);
-    EXPECT_EQ(this->List().ItemCount(record), 1);
-    EXPECT_EQ(this->List().GetItemValue(record, 0), ItemValue(std::string()));
-    this->List().SetItemValue(record, 0, 45000.5);
+TYPED_TEST_P(ReportListContract, ItemsAreThoseThatTheOwnerGives) {
+    this->AddColumns(2);
+    const RecordId record = this->AddText("a");
+    EXPECT_EQ(this->List().GetItemValue(record, 0), ItemValue(std::string("a")));
+    EXPECT_EQ(this->List().GetItemValue(record, 1), ItemValue(std::string()));
+    this->m_Items.SetValue(record, 0, 45000.5);
     EXPECT_EQ(this->List().GetItemValue(record, 0), ItemValue(45000.5));
+}
+
+TYPED_TEST_P(ReportListContract, WithoutAnOwnerItemsAreEmpty) {
+    this->AddColumns(1);
+    this->List().OnItem = nullptr;
+    const RecordId record = this->List().AddRecord(nullptr);
+    this->SortBy(0, true);
+    EXPECT_EQ(this->TakenOver(), (std::vector<RecordId>{record}));
+    EXPECT_EQ(this->List().GetItemValue(record, 0), ItemValue(std::string()));
 }
 
 TYPED_TEST_P(ReportListContract, RecordsGetRowsWhenTheListTakesThemOver) {
@@ -186,14 +190,13 @@ TYPED_TEST_P(ReportListContract, EveryNumberHasAPlaceInBothDirections) {
     for (int round = 0; round < 200; ++round) {
         TypeParam rig;
         cReportList& list = rig.List();
+        cItemTable items(list);
         list.AddColumn("time", 100);
         list.AddSortColumn(0, round % 2 == 0);
         std::shuffle(arrival.begin(), arrival.end(), random);
         std::vector<RecordId> expected(values.size());
         for (const std::size_t i : arrival) {
-            expected[i] = list.AddRecord(nullptr);
-            list.AddItem(expected[i]);
-            list.SetItemValue(expected[i], 0, values[i]);
+            expected[i] = items.Add({values[i]});
             list.TakeOverRecords();
             list.Rows();
         }
@@ -208,14 +211,12 @@ TYPED_TEST_P(ReportListContract, RowsOfAnyValueGoWithTheirRecords) {
     for (int round = 0; round < 200; ++round) {
         TypeParam rig;
         cReportList& list = rig.List();
+        cItemTable items(list);
         list.AddColumn("time", 100);
         list.AddSortColumn(0, true);
         std::vector<RecordId> records;
         for (int i = 0; i < 12; ++i) {
-            records.push_back(list.AddRecord(nullptr));
-            list.AddItem(records.back());
-            list.SetItemValue(records.back(), 0,
-                              random() % 3 == 0 ? kNone : static_cast<double>(random() % 5));
+            records.push_back(items.Add({random() % 3 == 0 ? kNone : static_cast<double>(random() % 5)}));
             list.TakeOverRecords();
             list.Rows();
         }
@@ -288,7 +289,7 @@ TYPED_TEST_P(ReportListContract, AChangedValueMovesTheRowAtTheNextTakeOver) {
     const RecordId a = this->AddText("a"), b = this->AddText("b"), c = this->AddText("c");
     this->SortBy(0, true);
     this->TakenOver();
-    this->List().SetItemValue(a, 0, std::string("d"));
+    this->m_Items.SetValue(a, 0, std::string("d"));
     EXPECT_EQ(this->List().Rows(), (std::vector<RecordId>{a, b, c}));
     EXPECT_EQ(this->TakenOver(), (std::vector<RecordId>{b, c, a}));
     this->List().RemoveRecord(a);
@@ -300,7 +301,7 @@ TYPED_TEST_P(ReportListContract, ARecordWhoseValueChangedCanBeRemoved) {
     const RecordId a = this->AddText("a"), b = this->AddText("b");
     this->SortBy(0, true);
     this->TakenOver();
-    this->List().SetItemValue(a, 0, std::string("z"));
+    this->m_Items.SetValue(a, 0, std::string("z"));
     this->List().RemoveRecord(a);
     EXPECT_EQ(this->List().Rows(), (std::vector<RecordId>{b}));
     EXPECT_EQ(this->TakenOver(), (std::vector<RecordId>{b}));
@@ -387,7 +388,7 @@ TYPED_TEST_P(ReportListContract, TheSelectionFollowsItsRowsThroughChanges) {
     this->SortBy(0, false);
     this->TakenOver();
     EXPECT_EQ(this->List().SelectedRows(), (std::vector<RecordId>{c, b}));
-    this->List().SetItemValue(b, 0, std::string("x"));
+    this->m_Items.SetValue(b, 0, std::string("x"));
     this->TakenOver();
     EXPECT_EQ(this->List().SelectedRows(), (std::vector<RecordId>{b, c}));
     this->List().RemoveRecord(b);
@@ -402,11 +403,11 @@ TYPED_TEST_P(ReportListContract, TheFontSizeReadsBack) {
 REGISTER_TYPED_TEST_SUITE_P(
     ReportListContract, ColumnsAreCountedFromZeroAndKeepTheirTagAndWidth,
     AColumnOrItemOrRecordThatIsNotThereIsAFailure, AChangedWidthIsTold, ARecordKeepsItsTagUntilItIsRemoved,
-    IdsAreNeverUsedTwice, ANewItemHasAnEmptyTextAsItsValue, RecordsGetRowsWhenTheListTakesThemOver,
-    OnlyRecordsAddedBeforeTheTakeOverGetRows, ARemovedRecordTakesItsRowWithIt,
-    ARecordCanGoBetweenTakeOverAndTheNextLook, AllRecordsCanGoAtOnce, WithoutSortOrderRowsStandByAge,
-    DateTimesSortByNumber, EveryNumberHasAPlaceInBothDirections, RowsOfAnyValueGoWithTheirRecords,
-    TextsSortByTheUpperCasedCodePage, NumbersStandInFrontOfTexts,
+    IdsAreNeverUsedTwice, ItemsAreThoseThatTheOwnerGives, WithoutAnOwnerItemsAreEmpty,
+    RecordsGetRowsWhenTheListTakesThemOver, OnlyRecordsAddedBeforeTheTakeOverGetRows,
+    ARemovedRecordTakesItsRowWithIt, ARecordCanGoBetweenTakeOverAndTheNextLook, AllRecordsCanGoAtOnce,
+    WithoutSortOrderRowsStandByAge, DateTimesSortByNumber, EveryNumberHasAPlaceInBothDirections,
+    RowsOfAnyValueGoWithTheirRecords, TextsSortByTheUpperCasedCodePage, NumbersStandInFrontOfTexts,
     EqualValuesStandByAgeAndADescendingOrderIsTheReverse, ASecondSortColumnDecidesBetweenEqualsOfTheFirst,
     ARecordWithoutTheSortedItemSortsAsAnEmptyText, ANewSortOrderHoldsFromTheNextTakeOver,
     AChangedValueMovesTheRowAtTheNextTakeOver, ARecordWhoseValueChangedCanBeRemoved,

@@ -90,6 +90,64 @@ TEST_F(AlarmStore, AFileNameHasSevenDigits) {
     EXPECT_EQ(store.FileName(9999999), std::string(kApp) + "Alarms\\A9999999.alm");
 }
 
+TEST_F(AlarmStore, AFileThatIsSpelledInItsOwnWayIsReplacedAndRemovedUnderItsName) {
+    PutFile(7, 1);
+    files.RenameFile(store.FileName(7), std::string(kApp) + "Alarms\\a0000007.ALM");
+    Load();
+    std::string steps;
+    files.m_OnCall = [&](std::string_view operation, std::string_view path) {
+        steps += std::string(operation) + " " + std::string(path.substr(path.rfind('\\') + 1)) + "\n";
+    };
+    store.SaveAlarm(store.m_Alarms[0]);
+    store.DeleteAlarmFile(*store.m_Alarms[0]);
+    files.m_OnCall = nullptr;
+    EXPECT_EQ(steps, "write a0000007.ALM.$~\nrename a0000007.ALM.$~\nsync \nremove a0000007.ALM\n");
+    EXPECT_EQ(store.FileName(7), std::string(kApp) + "Alarms\\A0000007.alm");
+}
+
+TEST_F(AlarmStore, LoadingGivesWhatInsertingOneByOneGives) {
+    std::mt19937 random(11);
+    for (int round = 0; round < 300; ++round) {
+        cFakeStation loading, inserting;
+        const unsigned count = random() % 25, kinds = 1 + random() % 40;
+        const auto most = static_cast<std::int32_t>(random() % 20);
+        for (cFakeStation* station : {&loading, &inserting}) {
+            station->settings.m_MaxEvents = most;
+            station->settings.m_MaxDays = 20;
+            station->view.SetUpColumns(station->settings);
+        }
+        for (unsigned id = 1; id <= count; ++id) {
+            cVigrelRecieverAlarm alarm(clock);
+            alarm.m_CreatedTime = clock.Now() - static_cast<double>(random() % kinds);
+            alarm.m_FileId = static_cast<std::int32_t>(id);
+            cBinaryWriter file;
+            alarm.WriteToDisk(file);
+            loading.files.Put(loading.store.FileName(alarm.m_FileId), file.Bytes());
+            inserting.files.Put(inserting.store.FileName(alarm.m_FileId), file.Bytes());
+        }
+        int removed = 0;
+        for (const std::string& name : inserting.AlarmFiles()) {
+            auto alarm = std::make_shared<cVigrelRecieverAlarm>(clock);
+            const std::string bytes = inserting.files.ReadFile(std::string(kApp) + "Alarms\\" + name);
+            cBinaryReader file(bytes);
+            alarm->ReadFromDisk(file);
+            if (!inserting.store.InsertAlarm(alarm, most)) ++removed;
+        }
+        loading.LoadTexts({10036, 10041});
+        loading.store.LoadAlarms([&](const AlarmPtr& alarm) { loading.view.AddAlarmRow(alarm); });
+        const auto ids = [](const cFakeStation& station) {
+            std::string text;
+            for (const AlarmPtr& alarm : station.store.m_Alarms)
+                text += std::to_string(alarm->m_FileId) + " ";
+            return text;
+        };
+        ASSERT_EQ(ids(loading), ids(inserting)) << "round " << round;
+        ASSERT_EQ(loading.AlarmFiles(), inserting.AlarmFiles());
+        const std::string log = removed > 0 ? std::to_string(removed) + " T10036\n" : "";
+        ASSERT_EQ(loading.Log(), log + std::to_string(loading.store.m_Alarms.size()) + " T10041\n");
+    }
+}
+
 TEST_F(AlarmStore, ANewAlarmGetsARandomFreeNumber) {
     PutFile(5000000, 1);  // 0.5 * 9,999,999 rounds, tie to even, to 5,000,000
     random.m_Values = {0.5, 0.25};
@@ -198,45 +256,177 @@ TEST_F(AlarmStore, AFailedFolderSyncIsTriedAgain) {
     EXPECT_EQ(AlarmFiles().size(), 1u);
 }
 
-TEST_F(AlarmStore, ManySavesTogetherAreDurableWhenTheyReturn) {
-    std::vector<AlarmPtr> alarms;
-    for (int i = 0; i < 5; ++i) alarms.push_back(Take(MakeAlarm()));
-    store.SaveTogether([&] {
+// Marks alarms as seen and saves them, as the command that acknowledges all does.
+void SeeAll(cFakeStation& station, const std::vector<AlarmPtr>& alarms) {
+    station.store.SaveTogether([&] {
         for (const AlarmPtr& alarm : alarms) {
             alarm->m_Observed = True16;
-            store.SaveAlarm(alarm);
+            station.store.SaveAlarm(alarm);
         }
     });
-    files.Crash();
-    for (const AlarmPtr& alarm : alarms) {
-        cBinaryWriter expected;
-        alarm->WriteToDisk(expected);
-        EXPECT_EQ(files.ReadFile(store.FileName(alarm->m_FileId)), expected.Bytes());
+}
+
+// Ticks until the timer is off.
+void RunTimer(cFakeStation& station) {
+    for (int tick = 0; station.timerSave.Enabled(); ++tick) {
+        ASSERT_LT(tick, 1000);
+        station.store.Timer_Save_Tick();
     }
+}
+
+void ExpectStored(const cFakeStation& station, const AlarmPtr& alarm, const std::string& when = "") {
+    cBinaryWriter expected;
+    alarm->WriteToDisk(expected);
+    EXPECT_EQ(station.files.ReadFile(station.store.FileName(alarm->m_FileId)), expected.Bytes()) << when;
+}
+
+std::vector<AlarmPtr> TakeSome(cFakeStation& station, int count) {
+    station.settings.m_MaxEvents = 0;
+    std::vector<AlarmPtr> alarms;
+    for (int i = 0; i < count; ++i) {
+        station.clock.AddSeconds(1);
+        alarms.push_back(station.Take(station.MakeAlarm()));
+    }
+    return alarms;
+}
+
+TEST_F(AlarmStore, ManySavesTogetherAreWrittenBehindAndThenDurable) {
+    const std::vector<AlarmPtr> alarms = TakeSome(*this, 5);
+    const int before = files.m_Calls;
+    SeeAll(*this, alarms);
+    EXPECT_EQ(files.m_Calls, before);
+    EXPECT_TRUE(timerSave.Enabled());
+    RunTimer(*this);
+    files.Crash();
+    for (const AlarmPtr& alarm : alarms) ExpectStored(*this, alarm);
     EXPECT_EQ(AlarmFiles().size(), 5u);
+}
+
+TEST_F(AlarmStore, ManySavesTakeManyShortTurns) {
+    const std::vector<AlarmPtr> alarms = TakeSome(*this, 2 * cPendingSaves::kTurnFiles + 10);
+    SeeAll(*this, alarms);
+    int turns = 0;
+    for (; timerSave.Enabled(); ++turns) {
+        const int before = files.m_Calls;
+        store.Timer_Save_Tick();
+        EXPECT_LE(files.m_Calls - before, cPendingSaves::kTurnFiles + 1);
+    }
+    EXPECT_GE(turns, 6);
+    for (const AlarmPtr& alarm : alarms) ExpectStored(*this, alarm);
+}
+
+TEST_F(AlarmStore, ATurnEndsWhenItsTimeIsOver) {
+    const std::vector<AlarmPtr> alarms = TakeSome(*this, 10);
+    SeeAll(*this, alarms);
+    files.m_OnCall = [this](std::string_view, std::string_view) { clock.AddSeconds(0.015); };
+    const int before = files.m_Calls;
+    store.Timer_Save_Tick();
+    EXPECT_EQ(files.m_Calls - before, 2);
+    files.m_OnCall = nullptr;
+    RunTimer(*this);
+    for (const AlarmPtr& alarm : alarms) ExpectStored(*this, alarm);
+}
+
+TEST_F(AlarmStore, WhileTheDiskIsBusyTurnsPassAndNoNameIsTouched) {
+    const std::vector<AlarmPtr> alarms = TakeSome(*this, 3);
+    files.m_DiskIsBusy = true;
+    SeeAll(*this, alarms);
+    int renames = 0;
+    files.m_OnCall = [&](std::string_view operation, std::string_view) {
+        renames += operation == "rename" ? 1 : 0;
+    };
+    for (int tick = 0; tick < 20; ++tick) store.Timer_Save_Tick();
+    EXPECT_EQ(renames, 0);
+    EXPECT_TRUE(timerSave.Enabled());
+    files.m_OnCall = nullptr;
+    store.FinishSaves();
+    EXPECT_FALSE(timerSave.Enabled());
+    files.Crash();
+    for (const AlarmPtr& alarm : alarms) ExpectStored(*this, alarm);
+}
+
+TEST_F(AlarmStore, TheEndOfTheStoreWritesWhatWaits) {
+    auto station = std::make_unique<cFakeStation>();
+    const std::vector<AlarmPtr> alarms = TakeSome(*station, 3);
+    std::map<std::string, std::string> written;
+    SeeAll(*station, alarms);
+    station->files.m_OnCall = [&](std::string_view operation, std::string_view path) {
+        written[std::string(operation)] += path.substr(path.size() - 2);
+    };
+    station.reset();
+    EXPECT_EQ(written["rename"], "$~$~$~");
+}
+
+TEST_F(AlarmStore, AnAlarmThatIsRemovedWhileItWaitsGetsNoFileBack) {
+    for (int ticks = 0; ticks < 6; ++ticks) {
+        cFakeStation station;
+        station.view.SetUpColumns(station.settings);
+        const std::vector<AlarmPtr> alarms = TakeSome(station, 3);
+        SeeAll(station, alarms);
+        for (int tick = 0; tick < ticks; ++tick) station.store.Timer_Save_Tick();
+        station.settings.m_MaxEvents = 3;
+        const AlarmPtr newest = station.MakeAlarm("newest");
+        newest->m_CreatedTime += 1;
+        station.Take(newest);
+        RunTimer(station);
+        EXPECT_FALSE(station.files.FileExists(station.store.FileName(alarms[0]->m_FileId))) << ticks;
+        ExpectStored(station, alarms[1]);
+        EXPECT_EQ(station.AlarmFiles().size(), 3u) << ticks;
+    }
+}
+
+TEST_F(AlarmStore, SavesThatComeWhileOthersAreWrittenFollowThem) {
+    const std::vector<AlarmPtr> alarms = TakeSome(*this, 6);
+    SeeAll(*this, {alarms.begin(), alarms.begin() + 3});
+    store.Timer_Save_Tick();
+    SeeAll(*this, {alarms.begin() + 3, alarms.end()});
+    RunTimer(*this);
+    files.Crash();
+    for (const AlarmPtr& alarm : alarms) ExpectStored(*this, alarm);
+}
+
+TEST_F(AlarmStore, ACrashWhileManyAreWrittenLeavesEachFileWhole) {
+    for (int step = 0; step < 12; ++step) {
+        cFakeStation station;
+        station.view.SetUpColumns(station.settings);
+        const std::vector<AlarmPtr> alarms = TakeSome(station, 3);
+        std::vector<std::string> old;
+        for (const AlarmPtr& alarm : alarms) {
+            old.push_back(station.files.ReadFile(station.store.FileName(alarm->m_FileId)));
+        }
+        SeeAll(station, alarms);
+        const int last = station.files.m_Calls + step;
+        struct cPowerCut {};
+        station.files.m_OnCall = [&](std::string_view, std::string_view) {
+            if (station.files.m_Calls > last) throw cPowerCut();
+        };
+        try {
+            RunTimer(station);
+        } catch (const cPowerCut&) {
+        }
+        station.files.m_OnCall = nullptr;
+        station.files.Crash();
+        for (std::size_t i = 0; i < alarms.size(); ++i) {
+            cBinaryWriter seen;
+            alarms[i]->WriteToDisk(seen);
+            const std::string content = station.files.ReadFile(station.store.FileName(alarms[i]->m_FileId));
+            EXPECT_TRUE(content == old[i] || content == seen.Bytes()) << "step " << step;
+        }
+    }
 }
 
 TEST_F(AlarmStore, AFailureWhileSavingTogetherLosesNothingAtAnyStep) {
     for (int step = 0; step < 12; ++step) {
         cFakeStation station;
         station.view.SetUpColumns(station.settings);
-        std::vector<AlarmPtr> alarms;
-        for (int i = 0; i < 3; ++i) alarms.push_back(station.Take(station.MakeAlarm("old")));
+        const std::vector<AlarmPtr> alarms = TakeSome(station, 3);
         station.files.m_FailCall = station.files.m_Calls + step;
-        station.store.SaveTogether([&] {
-            for (const AlarmPtr& alarm : alarms) {
-                alarm->m_Observed = True16;
-                station.store.SaveAlarm(alarm);
-            }
-        });
+        SeeAll(station, alarms);
+        RunTimer(station);
         station.store.RetryUnsaved();
         station.files.Crash();
-        for (const AlarmPtr& alarm : alarms) {
-            cBinaryWriter expected;
-            alarm->WriteToDisk(expected);
-            EXPECT_EQ(station.files.ReadFile(station.store.FileName(alarm->m_FileId)), expected.Bytes())
-                << "step " << step;
-        }
+        for (const AlarmPtr& alarm : alarms) ExpectStored(station, alarm, "step " + std::to_string(step));
+        for (const std::string& name : station.AlarmFiles()) EXPECT_TRUE(name.ends_with(".alm")) << name;
     }
 }
 

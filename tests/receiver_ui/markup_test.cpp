@@ -18,6 +18,7 @@
 #include "support/fake_files.h"
 #include "support/fake_locale.h"
 #include "support/fake_timer.h"
+#include "support/item_table.h"
 #include "support/markup.h"
 #include "windows/application.h"
 #include "windows/desktop.h"
@@ -64,9 +65,8 @@ TEST_P(Markup, InACutCellOfTheListIsAPlainToolTip) {
     cQtReportList& list = window.List();
     list.AddColumn("State", 20);
     list.AddColumn("Text", 5);
-    const RecordId record = list.AddRecord(nullptr);
-    for (int i = 0; i < 2; ++i) list.AddItem(record);
-    list.SetItemCaption(record, 1, text);
+    cItemTable items(list);
+    items.SetText(items.Add(), 1, text);
     list.TakeOverRecords();
     window.Show();
     QTableView& view = list.View();

@@ -10,6 +10,8 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
+#include <algorithm>
+#include <set>
 
 #include "common/code_page.h"
 #include "contract/popup_contract.h"
@@ -49,7 +51,12 @@ TEST(PopupText, TheWholeCodePageShows) {
 
 class cPopupWidgetTest : public ::testing::Test {
   protected:
-    cPopupWidget& Make() { return dynamic_cast<cPopupWidget&>(m_Maker.MakePopup()); }
+    // With what it shows inside, as if it had been shown.
+    cPopupWidget& Make() {
+        auto& popup = dynamic_cast<cPopupWidget&>(m_Maker.MakePopup());
+        popup.Build();
+        return popup;
+    }
     cPopupWidget& MakeShown() {
         cPopupWidget& popup = Make();
         popup.Show();
@@ -375,6 +382,53 @@ TEST_F(cPopupWidgetTest, APopupThatWasShownForAMomentIsNeverSeen) {
     RunEvents(30);
     EXPECT_EQ(notes.m_Shows, 0);
     EXPECT_FALSE(popup.Visible());
+}
+
+TEST_F(cPopupWidgetTest, APopupThatWasNeverShownHasNothingInside) {
+    auto& popup = dynamic_cast<cPopupWidget&>(m_Maker.MakePopup());
+    popup.SetLabelText("Pump 1");
+    popup.SetPictureVisible(1, true);
+    popup.Show();
+    popup.Hide();
+    RunEvents(30);
+    EXPECT_TRUE(popup.children().empty());
+    popup.Show();
+    ASSERT_TRUE(WaitUntil([&] { return popup.isVisible(); }));
+    EXPECT_EQ(Label(popup).toPlainText(), "Pump 1");
+    EXPECT_TRUE(Picture(popup, 1).isVisible());
+    EXPECT_FALSE(Picture(popup, 0).isVisible());
+}
+
+TEST_F(cPopupWidgetTest, ManyPopupsComeUpInTheirOrderInTurnsThatLetOthersWork) {
+    constexpr int kMany = 150;
+    std::vector<cPopupWidget*> popups;
+    for (int i = 0; i < kMany; ++i) {
+        popups.push_back(&dynamic_cast<cPopupWidget&>(m_Maker.MakePopup()));
+        popups.back()->Show();
+    }
+    const auto shown = [&] {
+        return std::count_if(popups.begin(), popups.end(),
+                             [](const cPopupWidget* p) { return p->isVisible(); });
+    };
+    std::set<std::ptrdiff_t> stages;
+    ASSERT_TRUE(WaitUntil([&] {
+        const auto now = shown();
+        stages.insert(now);
+        // Those that show are the first ones.
+        EXPECT_TRUE(std::all_of(popups.begin(), popups.begin() + now,
+                                [](const cPopupWidget* popup) { return popup->isVisible(); }));
+        return now == kMany;
+    }));
+    EXPECT_GT(stages.size(), 2u);
+    EXPECT_FALSE(m_Maker.Stack().Waits());
+}
+
+TEST_F(cPopupWidgetTest, APopupThatIsClosedWhileItWaitsIsForgotten) {
+    for (int i = 0; i < 3; ++i) m_Maker.MakePopup().Show();
+    for (cWindow* window : m_Windows.OpenWindows()) window->Close();
+    EXPECT_FALSE(m_Maker.Stack().Waits());
+    RunEvents(30);
+    EXPECT_TRUE(m_Maker.Stack().Order().empty());
 }
 
 TEST_F(cPopupWidgetTest, HideAndShowKeepPlaceAndSize) {

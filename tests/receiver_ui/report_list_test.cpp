@@ -46,14 +46,10 @@ class cReportListTest : public ::testing::Test {
         EXPECT_TRUE(WaitUntil([this] { return m_List.View().hasFocus(); }));
     }
     RecordId Add(const std::string& text, double created) {
-        const RecordId record = m_List.AddRecord(nullptr);
-        for (int i = 0; i < 3; ++i) m_List.AddItem(record);
-        m_List.SetItemValue(record, 0, std::string("1"));
-        m_List.SetItemIcon(record, 0, 999);  // a number without picture
-        m_List.SetItemValue(record, 1, text);
-        m_List.SetItemCaption(record, 1, text);
-        m_List.SetItemColours(record, 1, 0xFFFFFF, 0x0000FF);  // white on red
-        m_List.SetItemValue(record, 2, created);
+        const RecordId record = m_Items.Add({std::string("1"), text, created});
+        m_Items.SetIcon(record, 0, 999);  // a number without picture
+        m_Items.SetText(record, 1, text);
+        m_Items.SetColours(record, 1, 0xFFFFFF, 0x0000FF);  // white on red
         return record;
     }
     // What the intake does with each alarm.
@@ -84,6 +80,7 @@ class cReportListTest : public ::testing::Test {
 
     cIconStrip m_Icons;
     cQtReportList m_List{nullptr, m_Icons};
+    cItemTable m_Items{m_List};
     std::vector<RecordId> m_Records;
 };
 
@@ -487,14 +484,14 @@ TEST_F(cReportListPictureTest, AColouredCellIsDrawnInItsColours) {
 
 TEST_F(cReportListPictureTest, ACellWithoutCaptionAndColoursShowsTheListsOwnColourAlone) {
     Fill(2);
-    m_List.SetItemIcon(m_Records[1], 0, -1);
+    m_Items.SetIcon(m_Records[1], 0, -1);
     const QImage cell = Picture(1, 0);
     EXPECT_EQ(Count(cell, View().palette().color(QPalette::Base)), cell.width() * (cell.height() - 1));
 }
 
 TEST_F(cReportListPictureTest, ACellWithIconShowsItsPicture) {
     Fill(2);
-    m_List.SetItemIcon(m_Records[1], 0, 2);
+    m_Items.SetIcon(m_Records[1], 0, 2);
     m_List.Redraw();
     EXPECT_NE(Picture(1, 0), Picture(0, 0));
 }
@@ -555,7 +552,7 @@ TEST_F(cReportListPictureTest, AnEmptyListShowsItsText) {
 
 TEST_F(cReportListPictureTest, ARowOfARemovedRecordCanStillBePainted) {
     Fill(3);
-    m_List.OnBeforeDrawRow = [&](RecordId record, cReportList::cFontStyle&) { m_List.RecordTag(record); };
+    m_List.OnBeforeDrawRow = [&](RecordId record, cReportList::cFontStyle&) { m_List.RecordTagOf(record); };
     m_List.RemoveRecord(m_Records[1]);
     EXPECT_NO_THROW(View().viewport()->grab());
     m_List.RemoveAllRecords();
@@ -598,6 +595,7 @@ TEST(ReportListAtRandom, AnswersAsTheFakeDoes) {
     const cIconStrip icons;
     cQtReportList real(nullptr, icons);
     cFakeReportList fake;
+    cItemTable realItems(real), fakeItems(fake);
     std::vector<RecordId> alive;
     const auto both = [&](auto&& step) {
         step(static_cast<cReportList&>(real));
@@ -611,21 +609,23 @@ TEST(ReportListAtRandom, AnswersAsTheFakeDoes) {
         switch (alive.empty() ? 0 : dice(12)) {
             case 0:
             case 1:
-            case 2:
-                alive.push_back(fake.AddRecord(nullptr));
-                ASSERT_EQ(real.AddRecord(nullptr), alive.back());
-                both([&](cReportList& list) {
-                    list.AddItem(alive.back()), list.AddItem(alive.back());
-                    list.SetItemValue(alive.back(), 0, static_cast<double>(value));
-                    list.SetItemValue(alive.back(), 1, std::string(1, static_cast<char>('a' + value % 5)));
-                });
+            case 2: {
+                const std::vector<ItemValue> values{static_cast<double>(value),
+                                                    std::string(1, static_cast<char>('a' + value % 5))};
+                alive.push_back(fakeItems.Add(values));
+                ASSERT_EQ(realItems.Add(values), alive.back());
                 break;
+            }
             case 3:
                 both([&](cReportList& list) { list.RemoveRecord(some); });
                 std::erase(alive, some);
                 break;
             case 4:
-                both([&](cReportList& list) { list.SetItemValue(some, column, static_cast<double>(value)); });
+                // What was taken over counts with the values that it has when somebody looks.
+                both([](cReportList& list) { list.Rows(); });
+                for (cItemTable* items : {&realItems, &fakeItems}) {
+                    items->SetValue(some, column, static_cast<double>(value));
+                }
                 break;
             case 5:
                 both([&](cReportList& list) { list.SelectAndShow(some); });

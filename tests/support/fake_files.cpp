@@ -92,10 +92,15 @@ std::vector<cFileReader::cUnreadable> cFakeFiles::ListUnreadable(std::string_vie
     return entries;
 }
 
+std::string cFakeFiles::Spelling(std::string_view path) const {
+    const cFile* file = Find(path);
+    return file == nullptr ? std::string(path) : file->path;
+}
+
 cFileReader::cStamp cFakeFiles::Stamp(std::string_view path) const {
     const cFile* file = Find(path);
     if (file == nullptr) return {};
-    return {1, file->inode, static_cast<std::int64_t>(file->bytes.size()), file->modified};
+    return {1, file->inode, static_cast<std::int64_t>(file->bytes.size()), file->modified, file->modified};
 }
 
 void cFakeFiles::WriteFile(std::string_view path, std::string_view bytes, bool sync) {
@@ -156,8 +161,29 @@ void cFakeFiles::SyncFolder(std::string_view folder) {
     }
 }
 
-void cFakeFiles::SyncFileSystem(std::string_view folder) {
+// Durable when it is done: at once, or, on a busy disk, when somebody waits.
+class cFakeFiles::cSync : public cPendingSync {
+  public:
+    explicit cSync(cFakeFiles& files) : m_Files(files) {
+        if (!m_Files.m_DiskIsBusy) cSync::Wait();
+    }
+    bool Done() const override { return m_Done; }
+    bool Wait() override {
+        if (!std::exchange(m_Done, true)) m_Files.SyncAll();
+        return true;
+    }
+
+  private:
+    cFakeFiles& m_Files;
+    bool m_Done = false;
+};
+
+std::unique_ptr<cPendingSync> cFakeFiles::StartSync(std::string_view folder) {
     Count("sync all", folder);
+    return std::make_unique<cSync>(*this);
+}
+
+void cFakeFiles::SyncAll() {
     for (const auto& [path, inode] : m_Names) m_DurableBytes[inode] = m_Inodes.at(inode).bytes;
     m_DurableNames = m_Names;
     for (const auto& [inode, file] : m_Inodes) m_DurableSpelling[inode] = file.path;

@@ -20,13 +20,14 @@ class cFakeFiles : public cFiles {
     std::string ReadFile(std::string_view path) const override;
     std::vector<std::string> ListFiles(std::string_view folder, std::string_view mask) const override;
     std::vector<cUnreadable> ListUnreadable(std::string_view folder, std::string_view mask) const override;
+    std::string Spelling(std::string_view path) const override;
     cStamp Stamp(std::string_view path) const override;
     void WriteFile(std::string_view path, std::string_view bytes, bool sync) override;
     void AppendFile(std::string_view path, std::string_view bytes) override;
     void RemoveFile(std::string_view path) override;
     void RenameFile(std::string_view from, std::string_view to) override;
     void SyncFolder(std::string_view folder) override;
-    void SyncFileSystem(std::string_view folder) override;
+    std::unique_ptr<cPendingSync> StartSync(std::string_view folder) override;
     void MakeFolder(std::string_view path) override;
     void SetNormalAttributes(std::string_view path) override;
     std::string LinkTarget(std::string_view path) const override { return std::string(path); }
@@ -51,6 +52,7 @@ class cFakeFiles : public cFiles {
     bool m_DiskFull = false;        // writes fail, leaving a partial file
     bool m_FolderReadOnly = false;  // creating, renaming and removing fails
     std::function<void(std::string_view operation, std::string_view path)> m_OnCall;
+    bool m_DiskIsBusy = false;  // a pending sync is not done until somebody waits for it
 
   private:
     struct cFile {
@@ -60,6 +62,8 @@ class cFakeFiles : public cFiles {
         bool readOnly = false, unreadable = false;
     };
     using Names = std::map<std::string, std::int64_t>;  // folded path -> inode
+    class cSync;
+    void SyncAll();
     void Count(std::string_view operation, std::string_view path);
     const cFile* Find(std::string_view path) const;
     cFile& Create(std::string_view path);

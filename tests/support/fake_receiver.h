@@ -84,11 +84,11 @@ class cFakeReceiver {
     cVigrelReceiverMain& Make(const std::string& commandLine = "") {
         receiver.reset();
         receiver = std::make_unique<cVigrelReceiverMain>(
-            cReceiverPorts{files,      clock,       random,         locale,       singleInstance,
-                           listener,   data,        timerKeepAlive, timerPlay,    list,
-                           mainWindow, menus,       screen,         windows,      popups,
-                           messageBox, clipboard,   beeper,         waveDevice,   trayArea,
-                           light,      runningApps, printerPorts,   otherWindows, status},
+            cReceiverPorts{files,        files,        clock,          random,    locale,    singleInstance,
+                           listener,     data,         timerKeepAlive, timerPlay, timerSave, list,
+                           mainWindow,   menus,        screen,         windows,   popups,    messageBox,
+                           clipboard,    beeper,       waveDevice,     trayArea,  light,     runningApps,
+                           printerPorts, otherWindows, status},
             "C:\\App\\", commandLine);
         return *receiver;
     }
@@ -120,6 +120,7 @@ class cFakeReceiver {
     cFakeDataSocket data{listener};
     cFakeTimer timerKeepAlive{10000};
     cFakeTimer timerPlay{500};
+    cFakeTimer timerSave{10};
     cFakeReportList list;
     cFakeWindowList windows;
     cFakeWindow mainWindow{"Vigrel_Receiver_Main", &transcript, &windows};

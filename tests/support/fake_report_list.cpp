@@ -70,23 +70,21 @@ void cFakeReportList::SetColumnPlacement(int column, int cells, int header) {
     MutableColumn(column).headerPlacement = header;
 }
 
-const cFakeReportList::cRecord& cFakeReportList::Record(RecordId record) const {
+const RecordTag& cFakeReportList::Record(RecordId record) const {
     const auto found = m_Records.find(record);
     if (found == m_Records.end()) {
         throw cFailure(eFailure::ObjectMissing, "no record " + std::to_string(record));
     }
     return found->second;
 }
-const cFakeReportList::cItem& cFakeReportList::Item(RecordId record, int item) const {
-    return Element(Record(record).items, item, "item");
-}
-cFakeReportList::cItem& cFakeReportList::MutableItem(RecordId record, int item) {
-    Record(record);
-    return Element(m_Records.at(record).items, item, "item");
+cReportItem cFakeReportList::Item(RecordId record, int item) const {
+    const RecordTag& tag = Record(record);
+    Column(item);
+    return OnItem ? OnItem(tag, item) : cReportItem{};
 }
 
-RecordId cFakeReportList::AddRecord(std::shared_ptr<void> tag) {
-    m_Records[m_NextRecord].tag = std::move(tag);
+RecordId cFakeReportList::AddRecord(RecordTag tag) {
+    m_Records[m_NextRecord] = std::move(tag);
     return m_NextRecord++;
 }
 void cFakeReportList::RemoveRecord(RecordId record) {
@@ -102,42 +100,9 @@ void cFakeReportList::RemoveAllRecords() {
     m_Rows.clear();
     Note("all records removed");
 }
-std::shared_ptr<void> cFakeReportList::RecordTag(RecordId record) const {
-    return Record(record).tag;
-}
-void cFakeReportList::AddItem(RecordId record) {
-    Record(record);
-    m_Records.at(record).items.emplace_back();
-}
-int cFakeReportList::ItemCount(RecordId record) const {
-    return static_cast<int>(Record(record).items.size());
-}
-void cFakeReportList::SetItemValue(RecordId record, int item, ItemValue value) {
-    MutableItem(record, item).value = std::move(value);
-}
-ItemValue cFakeReportList::GetItemValue(RecordId record, int item) const {
-    return Item(record, item).value;
-}
-void cFakeReportList::SetItemCaption(RecordId record, int item, std::string_view caption) {
-    MutableItem(record, item).caption = caption;
-    MutableItem(record, item).hasCaption = true;
-}
-void cFakeReportList::SetItemColours(RecordId record, int item, std::int32_t text, std::int32_t back) {
-    cItem& target = MutableItem(record, item);
-    target.hasColours = true;
-    target.textColour = text;
-    target.backColour = back;
-}
-void cFakeReportList::SetItemIcon(RecordId record, int item, int icon) {
-    MutableItem(record, item).icon = icon;
-}
-
 int cFakeReportList::Compare(RecordId a, RecordId b) const {
     for (const cSortColumn& sort : m_SortColumns) {
-        const auto value = [&](RecordId record) {
-            return sort.column < ItemCount(record) ? GetItemValue(record, sort.column) : ItemValue{};
-        };
-        const int order = CompareValues(value(a), value(b));
+        const int order = CompareValues(GetItemValue(a, sort.column), GetItemValue(b, sort.column));
         if (order != 0) return sort.ascending ? order : -order;
     }
     const int age = a < b ? -1 : a > b ? 1 : 0;
@@ -204,8 +169,10 @@ std::string cFakeReportList::Screen() const {
     std::string screen;
     for (const RecordId row : m_Rows) {
         std::string line;
-        for (const cItem& item : Record(row).items) {
-            line += (line.empty() && &item == &Record(row).items.front() ? "" : "|") + item.caption;
+        for (int column = 0; column < ColumnCount(); ++column) {
+            const cReportItem item = Item(row, column);
+            line += column == 0 ? "" : "|";
+            if (item.hasCaption) line += std::get<std::string>(item.value);
             if (item.icon >= 0) line += "#" + std::to_string(item.icon);
         }
         screen += line + "\n";

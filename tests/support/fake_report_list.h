@@ -27,18 +27,13 @@ class cFakeReportList : public cReportList {
     void SetColumnSortable(int column, bool sortable) override;
     void SetColumnPlacement(int column, int cells, int header) override;
 
-    RecordId AddRecord(std::shared_ptr<void> tag) override;
+    RecordId AddRecord(RecordTag tag) override;
     void RemoveRecord(RecordId record) override;
     void RemoveAllRecords() override;
     int RecordCount() const override { return static_cast<int>(m_Records.size()); }
-    std::shared_ptr<void> RecordTag(RecordId record) const override;
-    void AddItem(RecordId record) override;
-    int ItemCount(RecordId record) const override;
-    void SetItemValue(RecordId record, int item, ItemValue value) override;
-    ItemValue GetItemValue(RecordId record, int item) const override;
-    void SetItemCaption(RecordId record, int item, std::string_view caption) override;
-    void SetItemColours(RecordId record, int item, std::int32_t text, std::int32_t back) override;
-    void SetItemIcon(RecordId record, int item, int icon) override;
+    RecordTag RecordTagOf(RecordId record) const override { return Record(record); }
+    void RecordChanged(RecordId record) override { Record(record); }
+    ItemValue GetItemValue(RecordId record, int item) const override { return Item(record, item).value; }
 
     void TakeOverRecords() override;
     void Redraw() override;
@@ -64,15 +59,8 @@ class cFakeReportList : public cReportList {
         bool resizable = true, sortable = true;
         int cellPlacement = 0, headerPlacement = 0;
     };
-    struct cItem {
-        ItemValue value;
-        std::string caption;
-        bool hasCaption = false, hasColours = false;
-        std::int32_t textColour = 0, backColour = 0;
-        int icon = -1;
-    };
     const cColumn& Column(int column) const;
-    const cItem& Item(RecordId record, int item) const;
+    cReportItem Item(RecordId record, int item) const;
     // The operator's doings.
     void Select(RecordId record) { m_Selected.insert(record); }
     void DragColumn(int column, int width);
@@ -90,23 +78,18 @@ class cFakeReportList : public cReportList {
     bool m_Visible = true;
 
   private:
-    struct cRecord {
-        std::shared_ptr<void> tag;
-        std::vector<cItem> items;
-    };
     struct cSortColumn {
         int column;
         bool ascending;
     };
     cColumn& MutableColumn(int column);
-    const cRecord& Record(RecordId record) const;
-    cItem& MutableItem(RecordId record, int item);
+    const RecordTag& Record(RecordId record) const;
     int Compare(RecordId a, RecordId b) const;
     void Note(const std::string& step) const;
 
     cTranscript* m_Transcript;
     std::vector<cColumn> m_Columns;
-    std::map<RecordId, cRecord> m_Records;
+    std::map<RecordId, RecordTag> m_Records;
     std::vector<RecordId> m_Rows;
     std::set<RecordId> m_Selected;
     std::vector<cSortColumn> m_SortColumns;

@@ -19,6 +19,7 @@
 #include "support/fake_files.h"
 #include "support/fake_random.h"
 #include "support/fake_report_list.h"
+#include "support/fake_timer.h"
 #include "support/fake_windows.h"
 #include "support/transcript.h"
 
@@ -92,7 +93,8 @@ class cFakeStation {
     cLog log{files, clock, texts, kApp};
     cCategorySettings categories;
     cAlarmListView view{{list, ini, texts, settings, state, categories, forms, screen, clipboard}};
-    cAlarmStore store{{files, clock, random, list, log, texts, settings, state}, kApp};
+    cFakeTimer timerSave{10};
+    cAlarmStore store{{files, files, clock, random, list, log, texts, settings, state, timerSave}, kApp};
     cAcknowledgement acknowledgement{{store, view, list, log, texts, settings, state}};
 };
 

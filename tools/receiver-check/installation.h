@@ -27,13 +27,14 @@ class cReadOnlyFiles : public cFiles {
     std::vector<cUnreadable> ListUnreadable(std::string_view folder, std::string_view mask) const override {
         return m_Files.ListUnreadable(folder, mask);
     }
+    std::string Spelling(std::string_view path) const override { return m_Files.Spelling(path); }
     cStamp Stamp(std::string_view path) const override { return m_Files.Stamp(path); }
     void WriteFile(std::string_view path, std::string_view, bool) override { Refuse(path); }
     void AppendFile(std::string_view path, std::string_view) override { Refuse(path); }
     void RemoveFile(std::string_view path) override { Refuse(path); }
     void RenameFile(std::string_view from, std::string_view) override { Refuse(from); }
     void SyncFolder(std::string_view folder) override { Refuse(folder); }
-    void SyncFileSystem(std::string_view folder) override { Refuse(folder); }
+    std::unique_ptr<cPendingSync> StartSync(std::string_view folder) override { Refuse(folder); }
     void MakeFolder(std::string_view path) override { Refuse(path); }
     void SetNormalAttributes(std::string_view path) override { Refuse(path); }
     std::string LinkTarget(std::string_view path) const override { Refuse(path); }

@@ -5,12 +5,16 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <array>
+#include <atomic>
 #include <cerrno>
 #include <cstring>
 #include <functional>
 #include <memory>
+#include <thread>
+#include <utility>
 
+#include "adapters/linux/file_handle.h"
+#include "adapters/linux/read_ahead.h"
 #include "common/code_page.h"
 #include "common/failure.h"
 #include "common/path_text.h"
@@ -88,24 +92,28 @@ class cDescriptor {
             bytes.remove_prefix(static_cast<std::size_t>(written));
         }
     }
+    // Asks for a byte more than there should be, so that one call meets the end too.
     std::string ReadAll() {
-        std::string content;
-        std::array<char, 65536> buffer;
+        struct stat status {};
+        if (fstat(m_Descriptor, &status) != 0) Fail(m_Path);
+        if (const char* reason = WhyNoFile(status)) FailAsNoFile(m_Path, reason);
+        std::string content(static_cast<std::size_t>(status.st_size) + 1, '\0');
+        std::size_t size = 0;
         while (true) {
-            const ssize_t count = read(m_Descriptor, buffer.data(), buffer.size());
+            const ssize_t count = read(m_Descriptor, content.data() + size, content.size() - size);
             if (count < 0 && errno == EINTR) continue;
             if (count < 0) Fail(m_Path);
-            if (count == 0) return content;
-            content.append(buffer.data(), static_cast<std::size_t>(count));
-            // Somebody can make it grow, or put another in its place, after it was looked at.
+            size += static_cast<std::size_t>(count);
+            if (count == 0 || size < content.size()) break;
+            // Somebody can make it grow after it was looked at.
             if (content.size() > kLargestFile) FailAsNoFile(m_Path, "larger than 64 MB");
+            content.resize(2 * content.size());
         }
+        content.resize(size);
+        return content;
     }
     void Sync() {
         if (fsync(m_Descriptor) != 0) Fail(m_Path);
-    }
-    void SyncFileSystem() {
-        if (syncfs(m_Descriptor) != 0) Fail(m_Path);
     }
     // Some file systems report a full disk only here.
     void Close() {
@@ -119,8 +127,43 @@ class cDescriptor {
     int m_Descriptor = -1;
 };
 
-cDescriptor Open(std::string_view path, int flags) {
-    return {path, open(NativePath(path).c_str(), flags | kNeverWait, kFileMode)};
+int OpenFolder(const char* native) {
+    return open(native, O_RDONLY | O_DIRECTORY | kNeverWait);
+}
+
+// Waits for the disk in a thread of its own, which touches nothing but the folder that it was given.
+class cSyncThread : public cPendingSync {
+  public:
+    explicit cSyncThread(cFileHandle folder)
+        : m_Folder(std::move(folder)), m_Thread([this] {
+              m_Synced = syncfs(m_Folder.Get()) == 0;
+              m_Done = true;
+          }) {}
+    ~cSyncThread() override { cSyncThread::Wait(); }
+    bool Done() const override { return m_Done; }
+    bool Wait() override {
+        if (m_Thread.joinable()) m_Thread.join();
+        return m_Synced;
+    }
+
+  private:
+    cFileHandle m_Folder;
+    std::atomic<bool> m_Synced{false}, m_Done{false};
+    std::thread m_Thread;  // behind what it uses
+};
+
+// A change within this time of another one may not show in the times of a file: clocks of file systems are
+// coarse.
+constexpr std::int64_t kSettlesNs = 2'000'000'000;
+
+std::int64_t Nanoseconds(const timespec& time) {
+    return static_cast<std::int64_t>(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
+}
+
+bool IsSettled(const struct stat& status) {
+    timespec now{};
+    clock_gettime(CLOCK_REALTIME, &now);
+    return Nanoseconds(now) - Nanoseconds(status.st_ctim) > kSettlesNs;
 }
 
 // Only what WriteFile makes anew is taken away.
@@ -132,8 +175,7 @@ void ClearName(const std::string& native, std::string_view path) {
 }
 
 // A file that nobody else has made, so that nobody else holds it open or has chosen where it lies.
-cDescriptor OpenNew(std::string_view path) {
-    const std::string native = NativePath(path);
+cDescriptor OpenNew(std::string_view path, const std::string& native) {
     const auto open = [&] {
         return ::open(native.c_str(), O_WRONLY | O_CREAT | O_EXCL | kNeverWait, kFileMode);
     };
@@ -145,7 +187,7 @@ cDescriptor OpenNew(std::string_view path) {
     return {path, descriptor};
 }
 
-// Whether a name fits a mask of "?" and "*"; both in upper case. "*" tries the shortest run first and comes
+// Whether a name fits a mask of "?" and "*" in upper case. "*" tries the shortest run first and comes
 // back.
 bool FitsMask(std::string_view name, std::string_view mask) {
     std::size_t n = 0;
@@ -156,7 +198,7 @@ bool FitsMask(std::string_view name, std::string_view mask) {
         if (m < mask.size() && mask[m] == '*') {
             star = m++;
             resume = n;
-        } else if (m < mask.size() && (mask[m] == '?' || mask[m] == name[n])) {
+        } else if (m < mask.size() && (mask[m] == '?' || mask[m] == ToUpper(name[n]))) {
             ++n;
             ++m;
         } else if (star != std::string_view::npos) {
@@ -195,24 +237,52 @@ void ForEachEntry(std::string_view path, std::string_view mask,
     while (const dirent* entry = readdir(stream.get())) {
         if (entry->d_name[0] == '.') continue;
         std::string name = PathText(entry->d_name);
-        if (FitsMask(ToUpper(name), wanted)) take(dirfd(stream.get()), *entry, std::move(name));
+        if (FitsMask(name, wanted)) take(dirfd(stream.get()), *entry, std::move(name));
     }
 }
 
 }  // namespace
 
+std::string cLinuxFiles::Native(std::string_view path) const {
+    return m_Names == eNames::Exact ? SpelledPath(path) : NativePath(path);
+}
+
+template <class Call>
+int cLinuxFiles::AsSpelledOrFound(std::string_view path, Call call) const {
+    const int result = call(SpelledPath(path).c_str());
+    if (result >= 0 || errno != ENOENT || m_Names == eNames::Exact) return result;
+    return call(NativePath(path).c_str());
+}
+
+std::string cLinuxFiles::Spelling(std::string_view path) const {
+    return PathText(NativePath(path));
+}
+
 bool cLinuxFiles::FileExists(std::string_view path) const {
     struct stat status {};
-    return stat(NativePath(path).c_str(), &status) == 0 && S_ISREG(status.st_mode);
+    const auto look = [&](const char* native) { return stat(native, &status); };
+    return AsSpelledOrFound(path, look) == 0 && S_ISREG(status.st_mode);
 }
 
 std::string cLinuxFiles::ReadFile(std::string_view path) const {
     struct stat status {};
-    const std::string native = NativePath(path);
-    if (stat(native.c_str(), &status) != 0) Fail(path);
-    // Before it is opened: that alone can set off a device.
-    if (const char* reason = WhyNoFile(status)) FailAsNoFile(path, reason);
-    return cDescriptor(path, open(native.c_str(), O_RDONLY | kNeverWait)).ReadAll();
+    const auto openOrdinary = [&](const char* native) {
+        // Before it is opened: that alone can set off a device. Not so what the program itself has made.
+        if (m_Names == eNames::AnyCase) {
+            if (stat(native, &status) != 0) return -1;
+            if (const char* reason = WhyNoFile(status)) FailAsNoFile(path, reason);
+        }
+        return open(native, O_RDONLY | kNeverWait);
+    };
+    return cDescriptor(path, AsSpelledOrFound(path, openOrdinary)).ReadAll();
+}
+
+void cLinuxFiles::ReadFiles(const std::string& folder, const std::vector<std::string>& names,
+                            const TakeContent& take) const {
+    // Threads for a few files take longer than the files.
+    constexpr std::size_t kFew = 500;
+    if (names.size() <= kFew) return cFiles::ReadFiles(folder, names, take);
+    ReadAhead(*this, folder, names, take);
 }
 
 std::vector<std::string> cLinuxFiles::ListFiles(std::string_view folder, std::string_view mask) const {
@@ -235,39 +305,49 @@ std::vector<cFileReader::cUnreadable> cLinuxFiles::ListUnreadable(std::string_vi
 
 cFileReader::cStamp cLinuxFiles::Stamp(std::string_view path) const {
     struct stat status {};
-    if (stat(NativePath(path).c_str(), &status) != 0) return {};
-    return {static_cast<std::int64_t>(status.st_dev), static_cast<std::int64_t>(status.st_ino),
+    if (AsSpelledOrFound(path, [&](const char* native) { return stat(native, &status); }) != 0) return {};
+    return {static_cast<std::int64_t>(status.st_dev),
+            static_cast<std::int64_t>(status.st_ino),
             status.st_size,
-            static_cast<std::int64_t>(status.st_mtim.tv_sec) * 1'000'000'000 + status.st_mtim.tv_nsec};
+            Nanoseconds(status.st_mtim),
+            Nanoseconds(status.st_ctim),
+            IsSettled(status)};
 }
 
 void cLinuxFiles::WriteFile(std::string_view path, std::string_view bytes, bool sync) {
-    cDescriptor file = OpenNew(path);
+    cDescriptor file = OpenNew(path, Native(path));
     file.Write(bytes);
     if (sync) file.Sync();
     file.Close();
 }
 
 void cLinuxFiles::AppendFile(std::string_view path, std::string_view bytes) {
-    cDescriptor file = Open(path, O_WRONLY | O_CREAT | O_APPEND | O_NOFOLLOW);
+    constexpr int kAppend = O_WRONLY | O_APPEND | O_NOFOLLOW | kNeverWait;
+    int descriptor = open(SpelledPath(path).c_str(), kAppend);
+    if (descriptor < 0 && errno == ENOENT) {
+        descriptor = open(Native(path).c_str(), kAppend | O_CREAT, kFileMode);
+    }
+    cDescriptor file(path, descriptor);
     file.Write(bytes);
     file.Close();
 }
 
 void cLinuxFiles::RemoveFile(std::string_view path) {
-    if (unlink(NativePath(path).c_str()) != 0) Fail(path);
+    if (AsSpelledOrFound(path, unlink) != 0) Fail(path);
 }
 
 void cLinuxFiles::RenameFile(std::string_view from, std::string_view to) {
-    if (rename(NativePath(from).c_str(), NativePath(to).c_str()) != 0) Fail(to);
+    if (rename(Native(from).c_str(), Native(to).c_str()) != 0) Fail(to);
 }
 
 void cLinuxFiles::SyncFolder(std::string_view folder) {
-    Open(folder, O_RDONLY | O_DIRECTORY).Sync();
+    cDescriptor(folder, AsSpelledOrFound(folder, OpenFolder)).Sync();
 }
 
-void cLinuxFiles::SyncFileSystem(std::string_view folder) {
-    Open(folder, O_RDONLY | O_DIRECTORY).SyncFileSystem();
+std::unique_ptr<cPendingSync> cLinuxFiles::StartSync(std::string_view folder) {
+    cFileHandle opened(AsSpelledOrFound(folder, OpenFolder));
+    if (!opened) Fail(folder);
+    return std::make_unique<cSyncThread>(std::move(opened));
 }
 
 void cLinuxFiles::MakeFolder(std::string_view path) {

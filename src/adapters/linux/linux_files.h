@@ -8,25 +8,44 @@ namespace vigrel {
 // is relative to the working folder.
 class cLinuxFiles : public cFiles {
   public:
+    // How the names of a path are found on the disk.
+    enum class eNames { AnyCase, Exact };
+    explicit cLinuxFiles(eNames names = eNames::AnyCase) : m_Names(names) {}
+
     bool FileExists(std::string_view path) const override;
     std::string ReadFile(std::string_view path) const override;
+    void ReadFiles(const std::string& folder, const std::vector<std::string>& names,
+                   const TakeContent& take) const override;
     std::vector<std::string> ListFiles(std::string_view folder, std::string_view mask) const override;
     std::vector<cUnreadable> ListUnreadable(std::string_view folder, std::string_view mask) const override;
+    std::string Spelling(std::string_view path) const override;
     cStamp Stamp(std::string_view path) const override;
     void WriteFile(std::string_view path, std::string_view bytes, bool sync) override;
     void AppendFile(std::string_view path, std::string_view bytes) override;
     void RemoveFile(std::string_view path) override;
     void RenameFile(std::string_view from, std::string_view to) override;
     void SyncFolder(std::string_view folder) override;
-    void SyncFileSystem(std::string_view folder) override;
+    std::unique_ptr<cPendingSync> StartSync(std::string_view folder) override;
     void MakeFolder(std::string_view path) override;
     void SetNormalAttributes(std::string_view path) override;
     std::string LinkTarget(std::string_view path) const override;
     void CopyAttributes(std::string_view from, std::string_view to) override;
+
+  private:
+    std::string Native(std::string_view path) const;
+    // Tries a call with the path as it is spelled, and, where nothing is there, once more as it is found; a
+    // call is one that gives below 0 and errno for a failure. Most names are spelled as they stand, and a
+    // search costs more than the call.
+    template <class Call>
+    int AsSpelledOrFound(std::string_view path, Call call) const;
+
+    eNames m_Names;
 };
 
-// The path as the operating system knows it, byte by byte: separators mapped, and every part that exists
-// under another case spelled as it stands on disk.
+// The path as the operating system knows it, byte by byte, spelled as given: separators mapped.
+std::string SpelledPath(std::string_view path);
+
+// The same with every part that exists under another case spelled as it stands on disk.
 std::string NativePath(std::string_view path);
 
 }  // namespace vigrel

@@ -91,8 +91,12 @@ std::string Spelling(const std::string& folder, const std::string& name) {
 
 }  // namespace
 
+std::string SpelledPath(std::string_view path) {
+    return PathBytes(path);
+}
+
 std::string NativePath(std::string_view path) {
-    const std::string rest = PathBytes(path);
+    const std::string rest = SpelledPath(path);
     if (Exists(rest)) return rest;
     // The usual case of a new file: only the last part is in question.
     const std::size_t last = rest.rfind('/') + 1;

@@ -26,6 +26,9 @@ cQtReportList::cQtReportList(QWidget* parent, const cIconStrip& icons)
 cQtReportList::~cQtReportList() = default;
 
 void cQtReportList::ConnectView() {
+    m_Model.OnItem = [this](const RecordTag& tag, int column) {
+        return OnItem ? OnItem(tag, column) : cReportItem{};
+    };
     m_View->OnKeyDown = [this](int keyCode, int shift) {
         if (OnKeyDown) OnKeyDown(keyCode, shift);
     };
@@ -94,7 +97,7 @@ void cQtReportList::SetColumnPlacement(int column, int cells, int header) {
 
 // --- records
 
-RecordId cQtReportList::AddRecord(std::shared_ptr<void> tag) {
+RecordId cQtReportList::AddRecord(RecordTag tag) {
     return m_Records.Add(std::move(tag));
 }
 void cQtReportList::RemoveRecord(RecordId record) {
@@ -105,39 +108,16 @@ void cQtReportList::RemoveAllRecords() {
     m_Records.RemoveAll();
     MarkFlush();
 }
-std::shared_ptr<void> cQtReportList::RecordTag(RecordId record) const {
+RecordTag cQtReportList::RecordTagOf(RecordId record) const {
     return m_Records.Get(record).tag;
 }
-void cQtReportList::AddItem(RecordId record) {
-    m_Records.Get(record).items.emplace_back();
-}
-int cQtReportList::ItemCount(RecordId record) const {
-    return static_cast<int>(m_Records.Get(record).items.size());
-}
-void cQtReportList::SetItemValue(RecordId record, int item, ItemValue value) {
-    ItemValue& present = m_Records.Item(record, item).value;
-    if (present == value) return;
-    // A take-over that is still to be flushed counts with the values of its moment.
-    if (m_TakeOver && m_Records.HasRow(record)) FlushNow();
-    present = std::move(value);
-    if (m_Model.ReportRows().Order().SortsBy(item)) m_Records.SortValueChanged(m_Records.Get(record));
+void cQtReportList::RecordChanged(RecordId record) {
+    cReportRecord& changed = m_Records.Get(record);
+    if (m_Model.ReportRows().IsMisplaced(changed)) m_Records.SortValueChanged(changed);
 }
 ItemValue cQtReportList::GetItemValue(RecordId record, int item) const {
-    return m_Records.Item(record, item).value;
-}
-void cQtReportList::SetItemCaption(RecordId record, int item, std::string_view caption) {
-    cReportItem& target = m_Records.Item(record, item);
-    target.caption = caption;
-    target.hasCaption = true;
-}
-void cQtReportList::SetItemColours(RecordId record, int item, std::int32_t text, std::int32_t back) {
-    cReportItem& target = m_Records.Item(record, item);
-    target.textColour = text;
-    target.backColour = back;
-    target.hasColours = true;
-}
-void cQtReportList::SetItemIcon(RecordId record, int item, int icon) {
-    m_Records.Item(record, item).icon = static_cast<std::int16_t>(std::clamp(icon, -1, 32767));
+    m_Model.Column(item);
+    return m_Model.Item(m_Records.Get(record), item).value;
 }
 
 // --- rows

@@ -38,18 +38,13 @@ class cQtReportList : public cReportList {
     void SetColumnSortable(int column, bool sortable) override;
     void SetColumnPlacement(int column, int cells, int header) override;
 
-    RecordId AddRecord(std::shared_ptr<void> tag) override;
+    RecordId AddRecord(RecordTag tag) override;
     void RemoveRecord(RecordId record) override;
     void RemoveAllRecords() override;
     int RecordCount() const override { return m_Records.Count(); }
-    std::shared_ptr<void> RecordTag(RecordId record) const override;
-    void AddItem(RecordId record) override;
-    int ItemCount(RecordId record) const override;
-    void SetItemValue(RecordId record, int item, ItemValue value) override;
+    RecordTag RecordTagOf(RecordId record) const override;
+    void RecordChanged(RecordId record) override;
     ItemValue GetItemValue(RecordId record, int item) const override;
-    void SetItemCaption(RecordId record, int item, std::string_view caption) override;
-    void SetItemColours(RecordId record, int item, std::int32_t text, std::int32_t back) override;
-    void SetItemIcon(RecordId record, int item, int icon) override;
 
     void TakeOverRecords() override;
     void Redraw() override;

@@ -37,7 +37,7 @@ QColor TextColour(const cReportItem& item, const QStyleOptionViewItem& option) {
 // On one line, whatever the text holds.
 QString ShownText(const cReportItem& item) {
     if (!item.hasCaption) return {};
-    QString text = ToQString(item.caption);
+    QString text = ValueText(item.value);
     for (QChar& c : text) {
         if (c < ' ') c = ' ';
     }
@@ -96,9 +96,7 @@ const QFont& cReportDelegate::RowFont(int row) const {
 
 void cReportDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                             const QModelIndex& index) const {
-    static const cReportItem kNoItem;
-    const cReportItem* found = m_Model.Item(index);
-    const cReportItem& item = found == nullptr ? kNoItem : *found;
+    const cReportItem item = m_Model.Item(index);
     painter->fillRect(option.rect, BackColour(item, option));
     DrawContent(*painter, option, index, item, TextColour(item, option));
     DrawFrame(*painter, option, index);
@@ -147,19 +145,17 @@ void cReportDelegate::DrawFrame(QPainter& painter, const QStyleOptionViewItem& o
 }
 
 QSize cReportDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
-    const cReportItem* item = m_Model.Item(index);
+    const cReportItem item = m_Model.Item(index);
     const int height = std::max(option.rect.height(), 1);
-    if (item == nullptr) return {0, height};
-    const int icon = item->icon >= 0 ? IconSize(height) + kMargin : 0;
-    return {2 * kMargin + icon + QFontMetrics(m_Fonts[1]).horizontalAdvance(ShownText(*item)), height};
+    const int icon = item.icon >= 0 ? IconSize(height) + kMargin : 0;
+    return {2 * kMargin + icon + QFontMetrics(m_Fonts[1]).horizontalAdvance(ShownText(item)), height};
 }
 
 bool cReportDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
                                 const QStyleOptionViewItem& option, const QModelIndex& index) {
-    const cReportItem* item = index.isValid() ? m_Model.Item(index) : nullptr;
-    if (event->type() != QEvent::ToolTip || item == nullptr) return false;
+    if (event->type() != QEvent::ToolTip || !index.isValid()) return false;
     const bool cut = sizeHint(option, index).width() > view->visualRect(index).width();
-    QToolTip::showText(event->globalPos(), cut ? ShownText(*item) : QString(), view);
+    QToolTip::showText(event->globalPos(), cut ? ShownText(m_Model.Item(index)) : QString(), view);
     return true;
 }
 

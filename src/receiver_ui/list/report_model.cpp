@@ -11,7 +11,10 @@ QString ValueText(const ItemValue& value) {
     return ToQString(std::get<std::string>(value));
 }
 
-cReportModel::cReportModel(QObject* parent) : QAbstractTableModel(parent), m_Rows(Observer()) {}
+cReportModel::cReportModel(QObject* parent)
+    : QAbstractTableModel(parent), m_Rows(Observer(), [this](const cReportRecord& record, int column) {
+          return Item(record, column).value;
+      }) {}
 
 cReportRows::cObserver cReportModel::Observer() {
     cReportRows::cObserver observer;
@@ -45,10 +48,12 @@ void cReportModel::ColumnChanged(int column) {
     emit headerDataChanged(Qt::Horizontal, column, column);
 }
 
-const cReportItem* cReportModel::Item(const QModelIndex& index) const {
-    const std::vector<cReportItem>& items = m_Rows[index.row()].items;
-    const auto column = static_cast<std::size_t>(index.column());
-    return column < items.size() ? &items[column] : nullptr;
+cReportItem cReportModel::Item(const QModelIndex& index) const {
+    return Item(m_Rows[index.row()], index.column());
+}
+
+cReportItem cReportModel::Item(const cReportRecord& record, int column) const {
+    return record.removed || !OnItem ? cReportItem{} : OnItem(record.tag, column);
 }
 
 int cReportModel::rowCount(const QModelIndex& parent) const {
@@ -60,14 +65,11 @@ int cReportModel::columnCount(const QModelIndex& parent) const {
 
 QVariant cReportModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid() || index.row() >= m_Rows.Count()) return {};
-    const cReportItem* item = Item(index);
-    if (item == nullptr) return {};
-    if (role == Qt::DisplayRole && item->hasCaption) return ToQString(item->caption);
     // A cell that shows an icon alone still has something to say to those who can't see it.
-    if (role == Qt::AccessibleTextRole) {
-        return item->hasCaption && !item->caption.empty() ? ToQString(item->caption) : ValueText(item->value);
-    }
-    return {};
+    const bool spoken = role == Qt::AccessibleTextRole;
+    if (!spoken && role != Qt::DisplayRole) return {};
+    const cReportItem item = Item(index);
+    return spoken || item.hasCaption ? ValueText(item.value) : QVariant();
 }
 
 QVariant cReportModel::headerData(int section, Qt::Orientation orientation, int role) const {

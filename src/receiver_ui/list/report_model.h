@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -29,8 +30,11 @@ class cReportModel : public QAbstractTableModel {
     const cReportColumn& Column(int column) const;
     int AddColumn(const cReportColumn& column);
     void ColumnChanged(int column);
-    // The cell's item; nothing when the record has no such item.
-    const cReportItem* Item(const QModelIndex& index) const;
+    // The cell's item; an empty one for a record that its owner has given up.
+    cReportItem Item(const QModelIndex& index) const;
+    cReportItem Item(const cReportRecord& record, int column) const;
+    // Asked for the items.
+    std::function<cReportItem(const RecordTag& tag, int column)> OnItem;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;

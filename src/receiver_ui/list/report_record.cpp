@@ -1,29 +1,59 @@
 #include "receiver_ui/list/report_record.h"
 
 #include <algorithm>
+#include <array>
+#include <bit>
+#include <cmath>
+#include <limits>
 
 #include "common/code_page.h"
-#include "common/dates.h"
+#include "common/text.h"
 
 namespace vigrel {
 namespace {
 
-// Below, equal to or above 0. Numbers stand in front of texts.
-int Compare(const ItemValue& a, const ItemValue& b) {
-    if (a.index() != b.index()) return std::holds_alternative<double>(a) ? -1 : 1;
-    if (const double* number = std::get_if<double>(&a)) {
-        const double other = *std::get_if<double>(&b);
-        return Earlier(*number, other) ? -1 : Earlier(other, *number) ? 1 : 0;
-    }
-    return std::get_if<std::string>(&a)->compare(*std::get_if<std::string>(&b));
+// In front of each value, so that numbers stand in front of texts.
+constexpr char kNumber = 1;
+constexpr char kText = 2;
+
+void AppendBigEndian(std::string& key, std::uint64_t bits) {
+    for (int shift = 56; shift >= 0; shift -= 8) key.push_back(static_cast<char>(bits >> shift));
 }
 
-ItemValue KeyValue(const cReportRecord& record, int column) {
-    if (static_cast<std::size_t>(column) >= record.items.size()) return {};
-    const ItemValue& value = record.items[static_cast<std::size_t>(column)].value;
-    if (const std::string* text = std::get_if<std::string>(&value)) return ToUpper(*text);
-    return value;
+// The bits of numbers compare as the numbers do once those below 0 are turned round; what is no number comes
+// behind all others.
+void AppendNumber(std::string& key, double number) {
+    constexpr std::uint64_t kSign = std::uint64_t{1} << 63;
+    key.push_back(kNumber);
+    if (std::isnan(number)) return AppendBigEndian(key, std::numeric_limits<std::uint64_t>::max());
+    const auto bits = std::bit_cast<std::uint64_t>(number == 0 ? 0.0 : number);
+    AppendBigEndian(key, (bits & kSign) != 0 ? ~bits : bits | kSign);
 }
+
+// Ends in two zeros, so that a text stands in front of those that begin with it whatever follows; a zero of
+// its own is marked.
+void AppendText(std::string& key, std::string_view text) {
+    key.push_back(kText);
+    for (const char c : text) {
+        key.push_back(ToUpper(c));
+        if (c == '\0') key.push_back('\xFF');
+    }
+    key.append(2, '\0');
+}
+
+// A record with the first bytes of its key, which decide most comparisons without a look at the record.
+struct cSortEntry {
+    static constexpr std::size_t kWords = 2;
+    std::array<std::uint64_t, kWords> front{};
+    cReportRecord* record;
+
+    explicit cSortEntry(cReportRecord* owner) : record(owner) {
+        for (std::size_t i = 0; i < kWords * 8; ++i) {
+            const unsigned byte = i < owner->key.size() ? Code(owner->key[i]) : 0;
+            front[i / 8] = front[i / 8] << 8 | byte;
+        }
+    }
+};
 
 }  // namespace
 
@@ -32,20 +62,39 @@ bool cRecordOrder::SortsBy(int column) const {
                        [column](const cColumn& sort) { return sort.column == column; });
 }
 
-SortKey cRecordOrder::KeyOf(const cReportRecord& record) const {
+SortKey cRecordOrder::KeyOf(const cReportRecord& record, const ValueOf& valueOf) const {
     SortKey key;
-    key.reserve(m_Columns.size());
-    for (const cColumn& sort : m_Columns) key.push_back(KeyValue(record, sort.column));
+    for (const cColumn& sort : m_Columns) {
+        const std::size_t from = key.size();
+        const ItemValue value = valueOf(record, sort.column);
+        if (const double* number = std::get_if<double>(&value)) {
+            AppendNumber(key, *number);
+        } else {
+            AppendText(key, *std::get_if<std::string>(&value));
+        }
+        if (sort.ascending) continue;
+        std::transform(key.begin() + static_cast<std::ptrdiff_t>(from), key.end(),
+                       key.begin() + static_cast<std::ptrdiff_t>(from),
+                       [](char c) { return static_cast<char>(~c); });
+    }
     return key;
 }
 
 bool cRecordOrder::Before(const cReportRecord& a, const cReportRecord& b) const {
-    for (std::size_t i = 0; i < m_Columns.size(); ++i) {
-        const int order = Compare(a.key[i], b.key[i]);
-        if (order != 0) return m_Columns[i].ascending ? order < 0 : order > 0;
-    }
-    const bool ascending = m_Columns.empty() || m_Columns.back().ascending;
-    return ascending ? a.id < b.id : a.id > b.id;
+    const int order = a.key.compare(b.key);
+    if (order != 0) return order < 0;
+    return OlderFirst() ? a.id < b.id : a.id > b.id;
+}
+
+void cRecordOrder::Sort(std::vector<cReportRecord*>& records) const {
+    const auto before = [this](const cReportRecord* a, const cReportRecord* b) { return Before(*a, *b); };
+    if (std::is_sorted(records.begin(), records.end(), before)) return;
+    std::vector<cSortEntry> entries(records.begin(), records.end());
+    std::sort(entries.begin(), entries.end(), [this](const cSortEntry& a, const cSortEntry& b) {
+        return a.front != b.front ? a.front < b.front : Before(*a.record, *b.record);
+    });
+    std::transform(entries.begin(), entries.end(), records.begin(),
+                   [](const cSortEntry& entry) { return entry.record; });
 }
 
 }  // namespace vigrel

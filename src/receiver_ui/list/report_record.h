@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -9,17 +10,9 @@
 
 namespace vigrel {
 
-// One cell of a record as its owner set it.
-struct cReportItem {
-    ItemValue value;
-    std::string caption;
-    std::int32_t textColour = 0, backColour = 0;  // red in the low byte, then green, then blue
-    std::int16_t icon = -1;
-    bool hasCaption = false, hasColours = false;
-};
-
-// What a record sorts by: the values of the sort columns, texts upper-cased.
-using SortKey = std::vector<ItemValue>;
+// What a record sorts by: the values of the sort columns as bytes that compare as the values do, texts
+// upper-cased, each column in its direction.
+using SortKey = std::string;
 
 struct cReportRecord {
     // Of its way to a row: New until the list takes it over, then Taken until the rows are recomputed. Gone:
@@ -27,8 +20,7 @@ struct cReportRecord {
     enum eStage : std::uint8_t { New, Taken, Placed, Gone };
 
     RecordId id = 0;  // grows with the record's age
-    std::shared_ptr<void> tag;
-    std::vector<cReportItem> items;
+    RecordTag tag;
     SortKey key;  // by which the row has its place
     eStage stage = New;
     bool moved = false;    // a sort value has changed since the row was placed
@@ -47,12 +39,17 @@ class cRecordOrder {
     const std::vector<cColumn>& Columns() const { return m_Columns; }
     bool SortsBy(int column) const;
 
-    SortKey KeyOf(const cReportRecord& record) const;
+    // valueOf gives the value of an item of the record.
+    using ValueOf = std::function<ItemValue(const cReportRecord& record, int item)>;
+    SortKey KeyOf(const cReportRecord& record, const ValueOf& valueOf) const;
     // By the keys of the two records. Equal ones by age, so that a descending order is the reverse of an
     // ascending one.
     bool Before(const cReportRecord& a, const cReportRecord& b) const;
+    void Sort(std::vector<cReportRecord*>& records) const;
 
   private:
+    bool OlderFirst() const { return m_Columns.empty() || m_Columns.back().ascending; }
+
     std::vector<cColumn> m_Columns;
 };
 

@@ -6,24 +6,12 @@
 #include "common/failure.h"
 
 namespace vigrel {
-namespace {
-
-template <class Items>
-auto& ItemAt(Items& items, int item) {
-    if (item < 0 || static_cast<std::size_t>(item) >= items.size()) {
-        throw cFailure(eFailure::OutOfBounds, "The record has no item " + std::to_string(item));
-    }
-    return items[static_cast<std::size_t>(item)];
-}
-
-}  // namespace
-
-RecordId cReportRecords::Add(std::shared_ptr<void> tag) {
-    auto record = std::make_unique<cReportRecord>();
-    record->id = m_NextId++;
-    record->tag = std::move(tag);
-    m_New.push_back(record.get());
-    return m_Records.emplace(record->id, std::move(record)).first->first;
+RecordId cReportRecords::Add(RecordTag tag) {
+    cReportRecord& record = m_Records[m_NextId];
+    record.id = m_NextId;
+    record.tag = std::move(tag);
+    m_New.push_back(&record);
+    return m_NextId++;
 }
 
 const cReportRecord& cReportRecords::Get(RecordId record) const {
@@ -31,34 +19,25 @@ const cReportRecord& cReportRecords::Get(RecordId record) const {
     if (found == m_Records.end()) {
         throw cFailure(eFailure::ObjectMissing, "The list has no record " + std::to_string(record));
     }
-    return *found->second;
+    return found->second;
 }
 cReportRecord& cReportRecords::Get(RecordId record) {
     return const_cast<cReportRecord&>(std::as_const(*this).Get(record));
 }
-const cReportItem& cReportRecords::Item(RecordId record, int item) const {
-    return ItemAt(Get(record).items, item);
-}
-cReportItem& cReportRecords::Item(RecordId record, int item) {
-    return ItemAt(Get(record).items, item);
+void cReportRecords::Bury(RecordMap::node_type node) {
+    node.mapped().removed = true;
+    node.mapped().tag.reset();
+    m_Graveyard.push_back(std::move(node));
 }
 
 void cReportRecords::Remove(RecordId id) {
     cReportRecord& record = Get(id);
-    record.removed = true;
-    record.tag.reset();
     if (record.stage == cReportRecord::Placed) m_Gone.push_back(&record);
-    m_Graveyard.push_back(std::move(m_Records.at(id)));
-    m_Records.erase(id);
+    Bury(m_Records.extract(id));
 }
 
 void cReportRecords::RemoveAll() {
-    for (auto& [id, record] : m_Records) {
-        record->removed = true;
-        record->tag.reset();
-        m_Graveyard.push_back(std::move(record));
-    }
-    m_Records.clear();
+    while (!m_Records.empty()) Bury(m_Records.extract(m_Records.begin()));
     m_New.clear();
     m_Taken.clear();
     m_Moved.clear();
@@ -83,7 +62,7 @@ void cReportRecords::TakeOver() {
 
 bool cReportRecords::HasRow(RecordId record) const {
     const auto found = m_Records.find(record);
-    return found != m_Records.end() && found->second->stage != cReportRecord::New;
+    return found != m_Records.end() && found->second.stage != cReportRecord::New;
 }
 
 cRecordChanges cReportRecords::TakeChanges(bool reorder) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <memory>
 #include <unordered_map>
 #include <vector>
 
@@ -8,29 +7,31 @@
 
 namespace vigrel {
 
+using RecordMap = std::unordered_map<RecordId, cReportRecord>;
+// Records that are given up, each where it was.
+using RecordGraveyard = std::vector<RecordMap::node_type>;
+
 // What has happened to the records since the rows were last recomputed.
 struct cRecordChanges {
     bool everything = false;            // all rows are gone
     std::vector<cReportRecord*> gone;   // rows to take away; the records live as long as this object
     std::vector<cReportRecord*> moved;  // rows whose place may have changed
     std::vector<cReportRecord*> added;  // records that get a row
-    std::vector<std::unique_ptr<cReportRecord>> graveyard;
+    RecordGraveyard graveyard;
 };
 
 // The records of a list. Adding, changing and removing costs the same however many there are; the rows are
 // told of it all at once.
 class cReportRecords {
   public:
-    RecordId Add(std::shared_ptr<void> tag);
+    RecordId Add(RecordTag tag);
     void Remove(RecordId record);
     void RemoveAll();
     int Count() const { return static_cast<int>(m_Records.size()); }
 
-    // Throw cFailure for a record, or an item, that isn't there.
+    // Throw cFailure for a record that isn't there.
     const cReportRecord& Get(RecordId record) const;
     cReportRecord& Get(RecordId record);
-    cReportItem& Item(RecordId record, int item);
-    const cReportItem& Item(RecordId record, int item) const;
     // Notes that a sort value of the record has changed.
     void SortValueChanged(cReportRecord& record);
 
@@ -42,9 +43,11 @@ class cReportRecords {
     cRecordChanges TakeChanges(bool reorder);
 
   private:
-    std::unordered_map<RecordId, std::unique_ptr<cReportRecord>> m_Records;
+    void Bury(RecordMap::node_type node);
+
+    RecordMap m_Records;
     std::vector<cReportRecord*> m_New, m_Taken, m_Moved, m_Gone;
-    std::vector<std::unique_ptr<cReportRecord>> m_Graveyard;
+    RecordGraveyard m_Graveyard;
     bool m_Everything = false;
     RecordId m_NextId = 1;
 };

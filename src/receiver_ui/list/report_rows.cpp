@@ -39,12 +39,11 @@ std::optional<int> cReportRows::RowOf(const cReportRecord& record) const {
 // Gives the records their keys, and sorts them among themselves.
 void cReportRows::Place(Records& records) {
     for (cReportRecord* record : records) {
-        record->key = m_Order.KeyOf(*record);
+        record->key = m_Order.KeyOf(*record, m_ValueOf);
         record->stage = cReportRecord::Placed;
         record->moved = false;
     }
-    std::sort(records.begin(), records.end(),
-              [this](const cReportRecord* a, const cReportRecord* b) { return m_Order.Before(*a, *b); });
+    m_Order.Sort(records);
 }
 
 std::vector<int> cReportRows::GiveUpRows(const Records& gone, const Records& moved) const {

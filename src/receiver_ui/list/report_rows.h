@@ -26,13 +26,18 @@ class cReportRows {
     // More runs than this are one reset.
     static constexpr std::size_t kMaxRuns = 8;
 
-    explicit cReportRows(cObserver observer) : m_Observer(std::move(observer)) {}
+    cReportRows(cObserver observer, cRecordOrder::ValueOf valueOf)
+        : m_Observer(std::move(observer)), m_ValueOf(std::move(valueOf)) {}
 
     int Count() const { return static_cast<int>(m_Rows.size()); }
     const cReportRecord& operator[](int row) const { return *m_Rows[static_cast<std::size_t>(row)]; }
     // Nothing for a record without row.
     std::optional<int> RowOf(const cReportRecord& record) const;
     const cRecordOrder& Order() const { return m_Order; }
+    // Whether the record's values have another place than its row.
+    bool IsMisplaced(const cReportRecord& record) const {
+        return record.stage == cReportRecord::Placed && m_Order.KeyOf(record, m_ValueOf) != record.key;
+    }
 
     void Apply(const cRecordChanges& changes);
     // The same with a new order of the rows.
@@ -49,6 +54,7 @@ class cReportRows {
     void InsertRecords(const Records& records);
 
     cObserver m_Observer;
+    cRecordOrder::ValueOf m_ValueOf;
     cRecordOrder m_Order;
     std::deque<cReportRecord*> m_Rows;
 };

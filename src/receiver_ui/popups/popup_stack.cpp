@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <limits>
 
 #include "windows/screen_flush.h"
 
@@ -14,30 +15,69 @@ void Erase(std::vector<cStackedPopup*>& popups, const cStackedPopup& popup) {
 
 }  // namespace
 
+cPopupStack::cPopupStack() {
+    m_Timer.setSingleShot(true);
+    m_Timer.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&m_Timer, &QTimer::timeout, &m_Timer, [this] { Due(); });
+}
+
 void cPopupStack::Raise(cStackedPopup& popup) {
     Erase(m_Order, popup);
     m_Order.insert(m_Order.begin(), &popup);
-    Schedule();
+    Schedule(popup);
 }
 
 void cPopupStack::PlaceBehind(cStackedPopup& popup, const cStackedPopup& other) {
     Erase(m_Order, popup);
     const auto found = std::find(m_Order.begin(), m_Order.end(), &other);
     m_Order.insert(found == m_Order.end() ? found : std::next(found), &popup);
-    Schedule();
+    Schedule(popup);
 }
 
 void cPopupStack::Remove(const cStackedPopup& popup) {
     Erase(m_Order, popup);
     Erase(m_OnScreen, popup);
+    std::erase(m_Waiting, &popup);
 }
 
-void cPopupStack::Schedule() {
-    if (m_Scheduled) return;
-    m_Scheduled = true;
-    // A posted event comes before the next socket or timer event, however busy the link is.
-    QMetaObject::invokeMethod(
-        &m_Context, [this] { Apply(); }, Qt::QueuedConnection);
+void cPopupStack::Schedule(cStackedPopup& popup) {
+    m_NewWishes = true;
+    if (!popup.m_Waits) m_Waiting.push_back(&popup);
+    popup.m_Waits = true;
+    // Not 0: such a timer waits for a moment without sockets, which a busy link never gives.
+    if (!m_Timer.isActive()) m_Timer.start(1);
+}
+
+qint64 cPopupStack::RestLeft() const {
+    return m_SinceTurn.isValid() ? m_Rest - m_SinceTurn.elapsed() : 0;
+}
+
+void cPopupStack::Due() {
+    // Nobody else is in a hurry while no alarm comes.
+    const qint64 rest = m_NewWishes ? RestLeft() : 0;
+    if (rest > 0) return m_Timer.start(static_cast<int>(rest));
+    Turn(kTurnMilliseconds);
+    if (Waits()) m_Timer.start(1);
+}
+
+void cPopupStack::Apply() {
+    m_Timer.stop();
+    Turn(std::numeric_limits<qint64>::max());
+}
+
+void cPopupStack::Turn(qint64 milliseconds) {
+    QElapsedTimer turn;
+    turn.start();
+    while (Waits() && turn.elapsed() < milliseconds) {
+        cStackedPopup& popup = *m_Waiting.front();
+        m_Waiting.pop_front();
+        popup.m_Waits = false;
+        if (popup.ReachScreen()) Erase(m_OnScreen, popup);
+    }
+    BringInOrder();
+    m_Rest = turn.elapsed() * 3 / 2;
+    m_SinceTurn.start();
+    m_NewWishes = false;
 }
 
 std::vector<cStackedPopup*> cPopupStack::VisibleOrder() const {
@@ -47,11 +87,7 @@ std::vector<cStackedPopup*> cPopupStack::VisibleOrder() const {
     return visible;
 }
 
-void cPopupStack::Apply() {
-    m_Scheduled = false;
-    for (cStackedPopup* popup : m_Order) {
-        if (popup->ReachScreen()) Erase(m_OnScreen, *popup);
-    }
+void cPopupStack::BringInOrder() {
     const std::vector<cStackedPopup*> wished = VisibleOrder();
     // What lies below the lowest change stays untouched.
     auto changed =

@@ -1,6 +1,8 @@
 #pragma once
 
-#include <QObject>
+#include <QElapsedTimer>
+#include <QTimer>
+#include <deque>
 #include <vector>
 
 namespace vigrel {
@@ -13,6 +15,10 @@ class cStackedPopup {
     virtual void RaiseOnScreen() = 0;
     // Brings place and visibility to the screen. Whether the visibility changed.
     virtual bool ReachScreen() = 0;
+
+  private:
+    friend class cPopupStack;
+    bool m_Waits = false;  // for its turn to reach the screen
 };
 
 // The stacking order of the popups, as the program wishes it, and its way to the screen.
@@ -21,29 +27,46 @@ class cStackedPopup {
 //
 // Window managers differ in what they make of a wish to stand behind another window. So the order is kept
 // here, and the windows are raised from the lowest to the uppermost. What was wished during one handler
-// reaches the screen at once when the event loop is reached again: a popup that was elsewhere, or shown, only
-// for a moment is never seen so, and many popups at once cost one pass.
+// reaches the screen after it: a popup that was elsewhere, or shown, only for a moment is never seen so, and
+// many popups at once cost one pass.
+//
+// Many popups come up in the order of the wishes, in short turns. Between the turns everything else has its
+// own: while alarms keep coming in, a rest that is longer than the turn was.
 class cPopupStack {
   public:
+    // The longest that a turn lasts, but for what its last popup takes.
+    static constexpr int kTurnMilliseconds = 20;
+
+    cPopupStack();
     // On top of all.
     void Raise(cStackedPopup& popup);
     void PlaceBehind(cStackedPopup& popup, const cStackedPopup& other);
     void Remove(const cStackedPopup& popup);
 
-    // Something of a popup is to reach the screen.
-    void Schedule();
+    // Something of the popup is to reach the screen.
+    void Schedule(cStackedPopup& popup);
+    // All that waits reaches the screen now.
     void Apply();
+    // Whether something waits.
+    bool Waits() const { return !m_Waiting.empty(); }
 
     // All popups, the uppermost first.
     const std::vector<cStackedPopup*>& Order() const { return m_Order; }
 
   private:
+    void Due();
+    void Turn(qint64 milliseconds);
+    void BringInOrder();
+    qint64 RestLeft() const;
     std::vector<cStackedPopup*> VisibleOrder() const;
 
     std::vector<cStackedPopup*> m_Order;
     std::vector<cStackedPopup*> m_OnScreen;  // the visible ones, as they were last brought in order
-    QObject m_Context;                       // ends what is scheduled when the stack ends
-    bool m_Scheduled = false;
+    std::deque<cStackedPopup*> m_Waiting;    // in the order of the wishes
+    QTimer m_Timer;                          // of the next turn
+    QElapsedTimer m_SinceTurn;               // since the end of the last one
+    qint64 m_Rest = 0;                       // behind it, milliseconds
+    bool m_NewWishes = false;                // since it
 };
 
 }  // namespace vigrel

@@ -5,93 +5,65 @@
 #include <QFile>
 #include <QKeyEvent>
 #include <QScreen>
-#include <QScrollBar>
 #include <algorithm>
 #include <utility>
-
-#include "windows/colours.h"
-#include "windows/fonts.h"
 
 namespace vigrel {
 namespace {
 
-constexpr double kPictureLeft = 90, kPictureTop = 210, kPictureWidth = 384;
 constexpr Qt::Key kCloseKey = Qt::Key_F4;
-
-// Gives one role of a widget a colour.
-void SetRole(QWidget& widget, QPalette::ColorRole role, std::int32_t colour) {
-    QPalette palette = widget.palette();
-    palette.setColor(role, ColourFromNumber(colour));
-    widget.setPalette(palette);
-}
 
 int LabelLength(double twips, const char* what) {
     if (twips < 0) throw cFailure(eFailure::InvalidCall, std::string("label: negative ") + what);
     return ToPixels(twips);
 }
 
-}  // namespace
-
-QString PopupText(std::string_view text) {
-    QString shown = ToQString(text);
-    shown.replace("\r\n", "\n").replace('\r', '\n');
-    for (QChar& character : shown) {
-        const char16_t code = character.unicode();
-        const bool plain = code >= 0x20 && code != 0x7F;
-        if (plain || code == '\n' || code == '\t') continue;
-        character = code == 0x7F ? QChar(0x2421) : QChar(static_cast<char16_t>(0x2400 + code));
-    }
-    return shown;
+void CheckPicture(int picture) {
+    if (picture < 0 || picture >= cPopupWindow::kPictures)
+        throw cFailure(eFailure::OutOfBounds, "no such picture");
 }
 
+}  // namespace
+
 cPopupWidget::cPopupWidget(cOpenWindows& windows, cPopupStack& stack, const PopupIcons& icons)
-    : cWidgetWindow(kPopupKind, windows), m_Stack(stack), m_Label(this) {
+    : cWidgetWindow(kPopupKind, windows), m_Stack(stack), m_Icons(icons) {
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAutoFillBackground(true);
     setMinimumSize(120, 40);
     resize(ToPixels(6768), ToPixels(1260));
-    for (int i = 0; i < kPictures; ++i) {
-        const auto index = static_cast<std::size_t>(i);
-        m_Pictures[index] = new cPopupPicture(i, icons[index], this);
-        m_Pictures[index]->setGeometry(ToPixels(kPictureLeft), ToPixels(kPictureTop), cPopupPicture::kSize,
-                                       cPopupPicture::kSize);
-        QObject::connect(m_Pictures[index], &QAbstractButton::clicked, this, [this, i] {
-            if (OnPictureClick) OnPictureClick(i);
-        });
-    }
-    m_Label.setObjectName("Label_Alarm");
-    m_Label.setAccessibleName("Alarm");
-    m_Label.setReadOnly(true);
-    m_Label.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    m_Label.setUndoRedoEnabled(false);
-    m_Label.setTabChangesFocus(true);
-    m_Label.setFrameShape(QFrame::NoFrame);
-    m_Label.setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    m_Label.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_Label.document()->setDocumentMargin(0);
-    // The colours of an alarm are not for its scroll bar, which must stay recognisable.
-    QPalette ordinary = QApplication::palette();
-    ordinary.setResolveMask(~QPalette::ResolveMask{0});
-    m_Label.verticalScrollBar()->setPalette(ordinary);
-    m_Label.setGeometry(ToPixels(720), 0, ToPixels(6015), ToPixels(1170));
-    // The text, not the picture: a key pressed by chance must not close an alarm that nobody has read.
-    m_Label.setFocus();
     constexpr std::int32_t kDesignColour = 0xF0F0F0;
     cPopupWidget::SetBackColour(kDesignColour);
     cPopupWidget::SetLabelBackColour(kDesignColour);
     m_Stack.Raise(*this);
 }
 
+void cPopupWidget::Build() {
+    if (m_Content) return;
+    m_Content = std::make_unique<cPopupContent>(*this, m_Icons);
+    m_Content->OnPictureClick = [this](int picture) {
+        if (OnPictureClick) OnPictureClick(picture);
+    };
+    for (const ContentStep& step : std::exchange(m_Steps, {})) step(*m_Content);
+}
+
+void cPopupWidget::WithContent(ContentStep step) {
+    if (m_Content) {
+        step(*m_Content);
+    } else {
+        m_Steps.push_back(std::move(step));
+    }
+}
+
 // --- place and visibility
 
 void cPopupWidget::SetLeft(double twips) {
     m_Place = QPoint(ToPixels(twips), m_Place ? m_Place->y() : Place().y());
-    m_Stack.Schedule();
+    m_Stack.Schedule(*this);
 }
 
 void cPopupWidget::SetTop(double twips) {
     m_Place = QPoint(m_Place ? m_Place->x() : Place().x(), ToPixels(twips));
-    m_Stack.Schedule();
+    m_Stack.Schedule(*this);
 }
 
 void cPopupWidget::Show() {
@@ -101,8 +73,9 @@ void cPopupWidget::Show() {
 }
 
 void cPopupWidget::Hide() {
+    if (!m_Shown) return;
     m_Shown = false;
-    m_Stack.Schedule();
+    m_Stack.Schedule(*this);
 }
 
 void cPopupWidget::SetTopMost(bool topMost) {
@@ -139,6 +112,7 @@ void cPopupWidget::ReachPlace() {
 }
 
 void cPopupWidget::Map() {
+    Build();
     Reappear();
     show();
     // Screen readers speak it, as they would a message box.
@@ -169,77 +143,69 @@ void cPopupWidget::SetBackColour(std::int32_t colour) {
 }
 
 void cPopupWidget::SetLabelText(std::string_view text) {
-    m_Label.setPlainText(PopupText(text));
+    WithContent([text = PopupText(text)](cPopupContent& content) { content.Label().setPlainText(text); });
 }
 
 void cPopupWidget::SetLabelForeColour(std::int32_t colour) {
-    SetRole(m_Label, QPalette::Text, colour);
+    WithContent([colour](cPopupContent& content) { SetRole(content.Label(), QPalette::Text, colour); });
 }
 
 void cPopupWidget::SetLabelBackColour(std::int32_t colour) {
-    SetRole(m_Label, QPalette::Base, colour);
-}
-
-void cPopupWidget::SetLabelFontTo(const QFont& font) {
-    m_Label.setFont(font);
-    m_Label.setTabStopDistance(8 * m_Label.fontMetrics().averageCharWidth());
+    WithContent([colour](cPopupContent& content) { SetRole(content.Label(), QPalette::Base, colour); });
 }
 
 void cPopupWidget::SetLabelFont(std::string_view name, double points) {
-    QFont font = FontOf(name, points);
-    font.setBold(m_Label.font().bold());
-    font.setItalic(m_Label.font().italic());
-    SetLabelFontTo(font);
+    WithContent(
+        [name = std::string(name), points](cPopupContent& content) { content.SetLabelFont(name, points); });
 }
 
 void cPopupWidget::SetLabelFontStyle(bool bold, bool italic) {
-    QFont font = m_Label.font();
-    font.setBold(bold);
-    font.setItalic(italic);
-    SetLabelFontTo(font);
+    WithContent([bold, italic](cPopupContent& content) { content.SetLabelFontStyle(bold, italic); });
 }
 
 void cPopupWidget::SetLabelLeft(double twips) {
-    m_Label.move(ToPixels(twips), m_Label.y());
+    WithContent([left = ToPixels(twips)](cPopupContent& content) {
+        content.Label().move(left, content.Label().y());
+    });
 }
 
 void cPopupWidget::SetLabelTop(double twips) {
-    m_Label.move(m_Label.x(), ToPixels(twips));
+    WithContent(
+        [top = ToPixels(twips)](cPopupContent& content) { content.Label().move(content.Label().x(), top); });
 }
 
 void cPopupWidget::SetLabelWidth(double twips) {
-    m_Label.resize(LabelLength(twips, "width"), m_Label.height());
+    WithContent([width = LabelLength(twips, "width")](cPopupContent& content) {
+        content.Label().resize(width, content.Label().height());
+    });
 }
 
 void cPopupWidget::SetLabelHeight(double twips) {
-    m_Label.resize(m_Label.width(), LabelLength(twips, "height"));
-}
-
-const cPopupPicture& cPopupWidget::Picture(int picture) const {
-    if (picture < 0 || picture >= kPictures) throw cFailure(eFailure::OutOfBounds, "no such picture");
-    return *m_Pictures[static_cast<std::size_t>(picture)];
-}
-
-cPopupPicture& cPopupWidget::Picture(int picture) {
-    return const_cast<cPopupPicture&>(std::as_const(*this).Picture(picture));
+    WithContent([height = LabelLength(twips, "height")](cPopupContent& content) {
+        content.Label().resize(content.Label().width(), height);
+    });
 }
 
 void cPopupWidget::SetPictureBackColour(int picture, std::int32_t colour) {
-    SetRole(Picture(picture), QPalette::Window, colour);
+    CheckPicture(picture);
+    WithContent([picture, colour](cPopupContent& content) {
+        SetRole(content.Picture(picture), QPalette::Window, colour);
+    });
 }
 
 void cPopupWidget::SetPictureVisible(int picture, bool visible) {
-    Picture(picture).setVisible(visible);
+    CheckPicture(picture);
+    WithContent([picture, visible](cPopupContent& content) { content.Picture(picture).setVisible(visible); });
 }
 
 double cPopupWidget::PictureLeft(int picture) const {
-    Picture(picture);
-    return kPictureLeft;
+    CheckPicture(picture);
+    return cPopupContent::kPictureLeft;
 }
 
 double cPopupWidget::PictureWidth(int picture) const {
-    Picture(picture);
-    return kPictureWidth;
+    CheckPicture(picture);
+    return cPopupContent::kPictureWidth;
 }
 
 // --- maker

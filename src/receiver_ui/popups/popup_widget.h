@@ -1,28 +1,22 @@
 #pragma once
 
 #include <QIcon>
-#include <QPlainTextEdit>
-#include <QString>
-#include <array>
+#include <functional>
+#include <memory>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 #include "platform/popup_window.h"
-#include "receiver_ui/popups/popup_picture.h"
+#include "receiver_ui/popups/popup_content.h"
 #include "receiver_ui/popups/popup_stack.h"
 #include "windows/widget_window.h"
 
 namespace vigrel {
 
-// The pictures of the four states.
-using PopupIcons = std::array<QIcon, cPopupWindow::kPictures>;
-
-// The text of an alarm as a popup shows it: every kind of line end is one, tabs stay, and other control
-// characters become the pictures that stand for them.
-QString PopupText(std::string_view text);
-
-// A popup on the screen. It never takes the keyboard from what the operator is doing. Text that doesn't fit
-// can be scrolled, selected and copied.
+// A popup on the screen. It never takes the keyboard from what the operator is doing. Until it is shown for
+// the first time it is little more than a note of what it will be: in a flood of alarms most wait, and of
+// popups of which one shows at a time most are never seen.
 class cPopupWidget : public cWidgetWindow<cPopupWindow>, public cStackedPopup {
   public:
     cPopupWidget(cOpenWindows& windows, cPopupStack& stack, const PopupIcons& icons);
@@ -56,6 +50,9 @@ class cPopupWidget : public cWidgetWindow<cPopupWindow>, public cStackedPopup {
     double PictureWidth(int picture) const override;
     void PlaceBehind(cPopupWindow& other) override;
 
+    // Makes what the popup shows inside, unless it is there.
+    void Build();
+
     // --- cStackedPopup
     bool OnScreen() const override { return isVisible(); }
     void RaiseOnScreen() override { raise(); }
@@ -66,16 +63,17 @@ class cPopupWidget : public cWidgetWindow<cPopupWindow>, public cStackedPopup {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
-    const cPopupPicture& Picture(int picture) const;
-    cPopupPicture& Picture(int picture);
-    void SetLabelFontTo(const QFont& font);
+    using ContentStep = std::function<void(cPopupContent&)>;
+    // Now, or when the content is made.
+    void WithContent(ContentStep step);
     void ReachPlace();
     void Map();
 
     cPopupStack& m_Stack;
-    QPlainTextEdit m_Label;
-    std::array<cPopupPicture*, kPictures> m_Pictures;
-    std::optional<QPoint> m_Place;  // of the frame; wished, and not on the screen yet
+    const PopupIcons& m_Icons;
+    std::unique_ptr<cPopupContent> m_Content;
+    std::vector<ContentStep> m_Steps;  // for the content, while there is none
+    std::optional<QPoint> m_Place;     // of the frame; wished, and not on the screen yet
     bool m_Shown = false;
 };
 
