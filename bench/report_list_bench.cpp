@@ -66,18 +66,20 @@ class cList {
 
   private:
     RecordId Add() {
-        const int number = m_Number++;
-        const RecordId record = m_List.AddRecord(nullptr);
-        for (int column = 0; column < kColumns; ++column) m_List.AddItem(record);
-        m_List.SetItemIcon(record, 0, number % 8);
-        for (int column = 1; column < kColumns - 1; ++column) {
-            const std::string text = "Pump " + std::to_string(number % 10'007 * 7919 % 10'007) + " stopped";
-            m_List.SetItemValue(record, column, text);
-            m_List.SetItemCaption(record, column, text);
-            m_List.SetItemColours(record, column, 0xFFFFFF, 0x0000C0);
-        }
-        m_List.SetItemValue(record, kColumns - 1, 45'000.0 + number);
-        return record;
+        m_List.OnItem = Item;
+        return m_List.AddRecord(std::make_shared<int>(m_Number++));
+    }
+    static cReportItem Item(const RecordTag& tag, int column) {
+        const int number = *static_cast<const int*>(tag.get());
+        cReportItem item;
+        if (column == 0) item.icon = number % 8;
+        if (column == kColumns - 1) item.value = 45'000.0 + number;
+        if (column == 0 || column == kColumns - 1) return item;
+        item.value = "Pump " + std::to_string(number % 10'007 * 7919 % 10'007) + " stopped";
+        item.hasCaption = item.hasColours = true;
+        item.textColour = 0xFFFFFF;
+        item.backColour = 0x0000C0;
+        return item;
     }
 
     cIconStrip m_Icons;
