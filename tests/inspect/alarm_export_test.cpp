@@ -10,6 +10,7 @@
 #include "inspect/alarm_samples.h"
 #include "support/fake_clock.h"
 #include "support/fake_files.h"
+#include "tool_support/stored_alarms.h"
 
 namespace vigrel {
 namespace {

@@ -12,29 +12,19 @@
 #include "receiver-check/posix_machine.h"
 #include "receiver-check/print.h"
 #include "receiver-check/sample_texts.h"
-#include "vigrel-inspect/print.h"
+#include "tool_support/print.h"
 
 namespace vigrel {
 namespace {
 
+const std::string kProgram = "vigrel-receiver-check";
 constexpr int kNothing = 0, kSmaller = 1, kErrors = 2, kNotChecked = 3;
-
-void PrintError(const std::string& text) {
-    std::fprintf(stderr, "vigrel-receiver-check: %s\n", PrintablePath(text).c_str());
-}
-
-// Throws cFailure when standard output takes no more.
-void Print(const std::string& utf8) {
-    if (std::fwrite(utf8.data(), 1, utf8.size(), stdout) != utf8.size() || std::fflush(stdout) != 0) {
-        throw cFailure(eFailure::DiskFull, "standard output can't be written");
-    }
-}
 
 // The whole path, as the receiver has it: what a category inherits is told by whole paths from relative ones.
 std::string ApplicationPath(const std::string& folder) {
     std::error_code error;
-    const auto absolute = std::filesystem::absolute(CodePageToUtf8(folder), error);
-    const std::string path = error ? folder : Utf8ToCodePage(absolute.lexically_normal().string());
+    const auto absolute = std::filesystem::absolute(NativePath(folder), error);
+    const std::string path = error ? folder : PathText(absolute.lexically_normal().string());
     return path.ends_with('/') || path.ends_with('\\') ? path : path + "\\";
 }
 
@@ -48,12 +38,12 @@ int Check(const cCheckOptions& options) {
     }
     const cLinuxFiles files;
     if (options.showTexts) {
-        Print(CodePageToUtf8(
+        PrintOutput(CodePageToUtf8(
             SampleTexts(cInstallation(files, path), options.filesOnly ? nullptr : &machine, cSystemClock())));
         return kNothing;
     }
     const cFindings findings = CheckInstallation(files, path, options.filesOnly ? nullptr : &machine);
-    Print(options.json ? ReportJson(options.folder, findings) : ReportText(findings));
+    PrintOutput(options.json ? ReportJson(options.folder, findings) : ReportText(findings));
     if (findings.m_All.empty()) return kNothing;
     return findings.Count(eSeverity::Error) > 0 ? kErrors : kSmaller;
 }
@@ -61,17 +51,17 @@ int Check(const cCheckOptions& options) {
 int Run(const std::vector<std::string>& words) {
     cCheckOptions options;
     if (const auto failure = CatchFailure([&] { options = ReadCheckOptions(words); })) {
-        PrintError(failure->what());
+        PrintError(kProgram, failure->what());
         std::fputs("Try vigrel-receiver-check --help\n", stderr);
         return kNotChecked;
     }
     int result = kNotChecked;
     const auto failure = CatchFailure([&] {
-        if (options.help) Print(CheckHelpText());
-        if (options.version) Print("vigrel-receiver-check " VIGREL_VERSION "\n");
+        if (options.help) PrintOutput(CheckHelpText());
+        if (options.version) PrintOutput("vigrel-receiver-check " VIGREL_VERSION "\n");
         result = options.help || options.version ? kNothing : Check(options);
     });
-    if (failure) PrintError(failure->what());
+    if (failure) PrintError(kProgram, failure->what());
     return result;
 }
 

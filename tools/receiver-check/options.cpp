@@ -2,9 +2,7 @@
 
 #include <string_view>
 
-#include "common/code_page.h"
-#include "common/failure.h"
-#include "common/path_text.h"
+#include "tool_support/options.h"
 
 namespace vigrel {
 namespace {
@@ -42,37 +40,25 @@ Examples:
   sudo -u alarm vigrel-receiver-check /home/alarm/.local/share/VigrelReceiver
 )";
 
-[[noreturn]] void Refuse(const std::string& description) {
-    throw cFailure(eFailure::InvalidCall, description);
-}
-
 }  // namespace
 
 cCheckOptions ReadCheckOptions(const std::vector<std::string>& words) {
     cCheckOptions options;
-    bool onlyFolders = false;
-    for (const std::string& word : words) {
-        if (onlyFolders || !word.starts_with("-")) {
-            if (!options.folder.empty()) Refuse("one folder at a time can be checked");
-            options.folder = PathText(word);
-        } else if (word == "--") {
-            onlyFolders = true;
-        } else if (word == "--help" || word == "-h") {
-            options.help = true;
-        } else if (word == "--json") {
-            options.json = true;
-        } else if (word == "--show-texts") {
-            options.showTexts = true;
-        } else if (word == "--version") {
-            options.version = true;
-        } else if (word == "--files-only") {
-            options.filesOnly = true;
-        } else {
-            Refuse("the option " + Utf8ToCodePage(word) + " is not known");
-        }
-    }
-    if (options.showTexts && options.json) Refuse("--show-texts is for people and has no JSON");
-    if (options.folder.empty() && !options.help && !options.version) Refuse("no folder was named");
+    const auto setFolder = [&options](const std::string& path) {
+        if (!options.folder.empty()) RefuseOption("one folder at a time can be checked");
+        options.folder = path;
+    };
+    ReadOptionWords(words, {{{"--help", &options.help},
+                             {"-h", &options.help},
+                             {"--json", &options.json},
+                             {"--show-texts", &options.showTexts},
+                             {"--version", &options.version},
+                             {"--files-only", &options.filesOnly}},
+                            {},
+                            setFolder,
+                            {}});
+    if (options.showTexts && options.json) RefuseOption("--show-texts is for people and has no JSON");
+    if (options.folder.empty() && !options.help && !options.version) RefuseOption("no folder was named");
     return options;
 }
 

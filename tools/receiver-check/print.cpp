@@ -1,6 +1,7 @@
 #include "receiver-check/print.h"
 
-#include "vigrel-inspect/print.h"
+#include "common/printable.h"
+#include "tool_support/json.h"
 
 namespace vigrel {
 namespace {

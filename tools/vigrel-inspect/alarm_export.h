@@ -23,11 +23,6 @@ struct cExportResult {
     std::string table;
 };
 
-// The folder (with trailing separator) that holds the alarm files: the application folder's "Alarms", or the
-// given one itself. Throws cFailure when there is no alarm file in either and the folder is no application
-// folder.
-std::string FindAlarmFolder(const cFileReader& files, const std::string& folder);
-
 // Every file of the store's name form is read. A damaged file has a row of its own that says so, as far as it
 // could be read, and passes every filter, so that no alarm goes missing unseen. onProgress is told after each
 // file how many of how many are read.

@@ -20,8 +20,4 @@ struct cAlarmFilter {
     bool Wants(const cVigrelRecieverAlarm& alarm) const;
 };
 
-// "inactive", "active", "acked", "message"; empty for another number.
-std::string StateName(std::int16_t status);
-std::optional<std::int16_t> StateFromName(std::string_view name);
-
 }  // namespace vigrel

@@ -10,28 +10,29 @@
 #include "common/code_page.h"
 #include "common/failure.h"
 #include "common/file_procedures.h"
+#include "tool_support/print.h"
+#include "tool_support/progress.h"
+#include "tool_support/stored_alarms.h"
 #include "vigrel-inspect/active_report.h"
 #include "vigrel-inspect/alarm_export.h"
 #include "vigrel-inspect/options.h"
 #include "vigrel-inspect/print.h"
-#include "vigrel-inspect/progress.h"
 
 namespace vigrel {
 namespace {
 
+const std::string kProgram = "vigrel-inspect";
 constexpr int kFits = 0, kDoesNotFit = 1, kWrongUse = 2;
 // Far above every file of the system; nothing larger is taken into memory.
 constexpr std::int64_t kLargestFile = 64 << 20;
 
-void PrintError(const std::string& text) {
-    std::fprintf(stderr, "vigrel-inspect: %s\n", PrintablePath(text).c_str());
+std::string Counted(std::size_t count, const std::string& one, const std::string& many) {
+    return std::to_string(count) + " " + (count == 1 ? one : many);
 }
 
-// Throws cFailure when standard output takes no more.
-void Print(const std::string& utf8) {
-    if (std::fwrite(utf8.data(), 1, utf8.size(), stdout) != utf8.size() || std::fflush(stdout) != 0) {
-        throw cFailure(eFailure::DiskFull, "standard output can't be written");
-    }
+std::string ResultText(const cExportResult& result) {
+    return Counted(result.files, "file", "files") + " read, " + Counted(result.alarms, "alarm", "alarms") +
+           " exported, " + Counted(result.damaged, "file", "files") + " damaged";
 }
 
 int Export(const cInspectOptions& options) {
@@ -42,13 +43,13 @@ int Export(const cInspectOptions& options) {
         std::fflush(stderr);
     });
     const auto show = [&](std::size_t done, std::size_t all) {
-        if (!options.quiet) progress.Show(done, all);
+        if (!options.quiet) progress.Show(done, all, "files read");
     };
     const std::string folder = FindAlarmFolder(files, options.paths[0]);
     const cExportResult result =
         ExportAlarms(files, folder, {options.filter, options.exact, isatty(STDOUT_FILENO) != 0}, show);
-    Print((options.mark ? "\xEF\xBB\xBF" : "") + result.table);
-    if (!options.quiet) progress.Finish(result);
+    PrintOutput((options.mark ? "\xEF\xBB\xBF" : "") + result.table);
+    if (!options.quiet) progress.Finish(ResultText(result));
     return result.damaged == 0 ? kFits : kDoesNotFit;
 }
 
@@ -82,17 +83,17 @@ int InspectFiles(const cInspectOptions& options) {
     for (const std::string& path : options.paths) {
         cInspection inspection;
         if (const auto failure = CatchFailure([&] { inspection = InspectFile(files, path, options.kind); })) {
-            PrintError(failure->what());
+            PrintError(kProgram, failure->what());
             result = kDoesNotFit;
             continue;
         }
         if (!inspection.problems.empty()) result = kDoesNotFit;
-        Print(separator +
-              (options.json ? InspectionJson(path, inspection) : InspectionText(path, inspection)));
+        PrintOutput(separator +
+                    (options.json ? InspectionJson(path, inspection) : InspectionText(path, inspection)));
         separator = options.json ? ",\n" : "\n";
     }
     // With no object printed the list is still to be opened.
-    if (options.json) Print(separator == "[\n" ? "[]\n" : "\n]\n");
+    if (options.json) PrintOutput(separator == "[\n" ? "[]\n" : "\n]\n");
     return result;
 }
 
@@ -106,11 +107,11 @@ int TellWhatIsActive(const cInspectOptions& options) {
         std::string report;
         if (const auto failure =
                 CatchFailure([&] { report = ActiveReport(ReadNamed(files, path), calendar, *options.at); })) {
-            PrintError(failure->what());
+            PrintError(kProgram, failure->what());
             result = kDoesNotFit;
             continue;
         }
-        Print(separator + report);
+        PrintOutput(separator + report);
         separator = "\n";
     }
     return result;
@@ -119,20 +120,20 @@ int TellWhatIsActive(const cInspectOptions& options) {
 int Run(const std::vector<std::string>& words) {
     cInspectOptions options;
     if (const auto failure = CatchFailure([&] { options = ReadOptions(words); })) {
-        PrintError(failure->what());
+        PrintError(kProgram, failure->what());
         std::fputs("Try vigrel-inspect --help\n", stderr);
         return kWrongUse;
     }
     int result = kDoesNotFit;
     const auto failure = CatchFailure([&] {
-        if (options.help) Print(HelpText());
-        if (options.version) Print("vigrel-inspect " VIGREL_VERSION "\n");
+        if (options.help) PrintOutput(HelpText());
+        if (options.version) PrintOutput("vigrel-inspect " VIGREL_VERSION "\n");
         result = options.help || options.version ? kFits
                  : options.at                    ? TellWhatIsActive(options)
                  : options.alarms                ? Export(options)
                                                  : InspectFiles(options);
     });
-    if (failure) PrintError(failure->what());
+    if (failure) PrintError(kProgram, failure->what());
     return result;
 }
 

@@ -1,13 +1,10 @@
 #include "vigrel-inspect/options.h"
 
-#include <functional>
-#include <map>
+#include <utility>
 
-#include "common/code_page.h"
-#include "common/date_text.h"
-#include "common/failure.h"
-#include "common/path_text.h"
 #include "common/text.h"
+#include "tool_support/options.h"
+#include "tool_support/stored_alarms.h"
 
 namespace vigrel {
 namespace {
@@ -63,115 +60,79 @@ Examples:
   vigrel-inspect . --alarms --csv --from 2026-03-01 --to 2026-03-31 --status active --observed no
 )";
 
-[[noreturn]] void Refuse(const std::string& description) {
-    throw cFailure(eFailure::InvalidCall, description);
-}
-
-DateTime DateFromWord(const std::string& option, const std::string& word) {
-    const auto date = ParseDateTimeText(word);
-    if (!date)
-        Refuse(option + ": \"" + word + "\" is no date; write it like 2026-03-15 or \"2026-03-15 12:30\"");
-    return *date;
-}
-
-// The first moment that is too late for --to: a day alone and a minute alone are meant as a whole.
-DateTime EndFromWord(const std::string& option, const std::string& word) {
-    const DateTime date = DateFromWord(option, word);
-    const std::size_t length = Trim(word).size();
-    if (length <= 10) return date + 1;
-    return date + (length <= 16 ? 60.0 : 1.0) / 86400;
-}
-
 std::int16_t StateFromWord(const std::string& word) {
     const auto state = StateFromName(word);
-    if (!state) Refuse("--status: \"" + word + "\" is none of inactive, active, acked, message");
+    if (!state) RefuseOption("--status: \"" + word + "\" is none of inactive, active, acked, message");
     return *state;
 }
 
 bool YesNoFromWord(const std::string& option, const std::string& word) {
     if (EqualsNoCase(word, "yes")) return true;
     if (EqualsNoCase(word, "no")) return false;
-    Refuse(option + ": \"" + word + "\" is neither yes nor no");
+    RefuseOption(option + ": \"" + word + "\" is neither yes nor no");
 }
 
 eFileKind KindFromOption(const std::string& word) {
     const auto kind = KindFromWord(word);
-    if (!kind) Refuse("--as: \"" + word + "\" is none of alarm, receiver, profile, schedule, calendar");
+    if (!kind) RefuseOption("--as: \"" + word + "\" is none of alarm, receiver, profile, schedule, calendar");
     return *kind;
 }
 
-// A word with characters that the code page lacks can't be a text of the system.
-std::string ToCodePage(const std::string& word) {
-    std::string text = Utf8ToCodePage(word);
-    if (CodePageToUtf8(text) != word) Refuse("\"" + text + "\" has characters outside the code page 1252");
-    return text;
-}
-
-// The words are UTF-8, or whatever bytes a path has.
 class cOptionReader {
   public:
     cInspectOptions Read(const std::vector<std::string>& words) {
-        for (std::size_t i = 0; i < words.size(); ++i) {
-            const std::string& word = words[i];
-            if (m_OnlyPaths || !word.starts_with("-") || word == "-") {
-                m_Options.paths.push_back(PathText(word));
-            } else if (word == "--") {
-                m_OnlyPaths = true;
-            } else if (const auto flag = m_Flags.find(word); flag != m_Flags.end()) {
-                *flag->second = true;
-            } else if (const auto value = m_Values.find(word); value != m_Values.end()) {
-                if (++i >= words.size()) Refuse(word + " needs a value");
-                value->second(word == "--calendar" ? PathText(words[i]) : ToCodePage(words[i]));
-                m_Filtered = m_Filtered || (word != "--as" && word != "--at" && word != "--calendar");
-            } else {
-                Refuse("the option " + Utf8ToCodePage(word) + " is not known");
-            }
-        }
+        ReadOptionWords(words, m_Table);
         Check();
         return m_Options;
     }
 
   private:
+    using Setter = cOptionTable::Setter;
+
+    Setter Filter(Setter set) {
+        return [this, set = std::move(set)](const std::string& word) {
+            set(word);
+            m_Filtered = true;
+        };
+    }
     void Check() const {
         if (m_Options.help || m_Options.version) return;
-        if (m_Options.paths.empty()) Refuse("no file was named");
-        if (!m_Options.calendar.empty() && !m_Options.at) Refuse("--calendar needs --at");
+        if (m_Options.paths.empty()) RefuseOption("no file was named");
+        if (!m_Options.calendar.empty() && !m_Options.at) RefuseOption("--calendar needs --at");
         if (m_Options.at && (m_Options.alarms || m_Options.json || m_Options.kind)) {
-            Refuse("--at goes with none of --alarms, --json and --as");
+            RefuseOption("--at goes with none of --alarms, --json and --as");
         }
         if (m_Options.alarms) {
-            if (!m_Csv) Refuse("--alarms needs --csv");
-            if (m_Options.json || m_Options.kind) Refuse("--json and --as are for files, not for --alarms");
-            if (m_Options.paths.size() > 1) Refuse("--alarms takes one folder");
+            if (!m_Csv) RefuseOption("--alarms needs --csv");
+            if (m_Options.json || m_Options.kind)
+                RefuseOption("--json and --as are for files, not for --alarms");
+            if (m_Options.paths.size() > 1) RefuseOption("--alarms takes one folder");
         } else if (m_Csv || m_Filtered || m_Options.exact || m_Options.mark) {
-            Refuse("--csv and its filters need --alarms");
+            RefuseOption("--csv and its filters need --alarms");
         }
     }
 
     cInspectOptions m_Options;
-    bool m_Csv = false, m_Filtered = false, m_OnlyPaths = false;
-    std::map<std::string, bool*> m_Flags = {{"--help", &m_Options.help},
-                                            {"-h", &m_Options.help},
-                                            {"--json", &m_Options.json},
-                                            {"--alarms", &m_Options.alarms},
-                                            {"--csv", &m_Csv},
-                                            {"--exact", &m_Options.exact},
-                                            {"--bom", &m_Options.mark},
-                                            {"--quiet", &m_Options.quiet},
-                                            {"--version", &m_Options.version}};
-    std::map<std::string, std::function<void(const std::string&)>> m_Values = {
-        {"--as", [this](const std::string& word) { m_Options.kind = KindFromOption(word); }},
-        {"--at", [this](const std::string& word) { m_Options.at = DateFromWord("--at", word); }},
-        {"--calendar", [this](const std::string& word) { m_Options.calendar = word; }},
-        {"--from", [this](const std::string& word) { m_Options.filter.from = DateFromWord("--from", word); }},
-        {"--to", [this](const std::string& word) { m_Options.filter.before = EndFromWord("--to", word); }},
-        {"--category", [this](const std::string& word) { m_Options.filter.categories.push_back(word); }},
-        {"--sender", [this](const std::string& word) { m_Options.filter.senders.push_back(word); }},
-        {"--status",
-         [this](const std::string& word) { m_Options.filter.states.push_back(StateFromWord(word)); }},
-        {"--observed",
-         [this](const std::string& word) { m_Options.filter.observed = YesNoFromWord("--observed", word); }},
-    };
+    bool m_Csv = false, m_Filtered = false;
+    cOptionTable m_Table{
+        {{"--help", &m_Options.help},
+         {"-h", &m_Options.help},
+         {"--json", &m_Options.json},
+         {"--alarms", &m_Options.alarms},
+         {"--csv", &m_Csv},
+         {"--exact", &m_Options.exact},
+         {"--bom", &m_Options.mark},
+         {"--quiet", &m_Options.quiet}},
+        {{"--as", [this](const std::string& word) { m_Options.kind = KindFromOption(word); }},
+         {"--from", Filter([this](auto& word) { m_Options.filter.from = DateFromWord("--from", word); })},
+         {"--to", Filter([this](auto& word) { m_Options.filter.before = EndFromWord("--to", word); })},
+         {"--category", Filter([this](auto& word) { m_Options.filter.categories.push_back(word); })},
+         {"--sender", Filter([this](auto& word) { m_Options.filter.senders.push_back(word); })},
+         {"--status", Filter([this](auto& word) { m_Options.filter.states.push_back(StateFromWord(word)); })},
+         {"--observed",
+          Filter([this](auto& word) { m_Options.filter.observed = YesNoFromWord("--observed", word); })}},
+        [this](const std::string& path) { m_Options.paths.push_back(path); },
+        {}};
 };
 
 }  // namespace

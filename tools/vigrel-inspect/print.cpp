@@ -3,11 +3,10 @@
 #include <algorithm>
 #include <cmath>
 
-#include "common/code_page.h"
 #include "common/date_text.h"
 #include "common/numbers.h"
-#include "common/path_text.h"
-#include "common/text.h"
+#include "common/printable.h"
+#include "tool_support/json.h"
 
 namespace vigrel {
 namespace {
@@ -63,37 +62,7 @@ std::string ProblemJson(const cProblem& problem) {
            ", \"description\": " + JsonString(problem.description) + "}";
 }
 
-template <class Items, class Write>
-std::string JsonList(const Items& items, Write write) {
-    std::string json = "[";
-    for (std::size_t i = 0; i < items.size(); ++i) json += (i == 0 ? "\n    " : ",\n    ") + write(items[i]);
-    return json + (items.empty() ? "]" : "\n  ]");
-}
-
-std::string JsonOfUtf8(std::string_view utf8) {
-    std::string json = "\"";
-    for (const char c : utf8) {
-        if (c == '"' || c == '\\') json += '\\';
-        if (Code(c) >= 0x20 && Code(c) != 0x7F) {
-            json += c;
-        } else {
-            json += "\\u00" + std::string(Code(c) < 0x10 ? "0" : "") +
-                    HexText(static_cast<std::uint32_t>(Code(c)));
-        }
-    }
-    return json + "\"";
-}
-
 }  // namespace
-
-std::string JsonString(std::string_view text) {
-    return JsonOfUtf8(CodePageToUtf8(text));
-}
-
-std::string JsonPath(std::string_view text) {
-    const std::string utf8 = WithPathsToUtf8(text);
-    return IsUtf8(utf8) ? JsonOfUtf8(utf8) : JsonString(text);
-}
 
 std::string InspectionText(const std::string& file, const cInspection& inspection) {
     std::string text = PrintablePath(file) + ": " + inspection.kind;

@@ -1,19 +1,12 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
-#include "common/printable.h"
 #include "vigrel-inspect/inspection.h"
 
 namespace vigrel {
 
 // Output is UTF-8.
-
-// A text of the code page as a JSON string, quotes included.
-std::string JsonString(std::string_view text);
-// The same of a text that may name paths.
-std::string JsonPath(std::string_view text);
 
 // One inspection as a table for people.
 std::string InspectionText(const std::string& file, const cInspection& inspection);

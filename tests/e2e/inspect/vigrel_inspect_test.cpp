@@ -125,7 +125,7 @@ TEST_F(VigrelInspect, ExportsTheAlarmsOfAnApplicationFolder) {
     EXPECT_EQ(run.exitCode, 0) << run.errors;
     EXPECT_NE(run.output.find("\"A0042917.alm\",\"2026-03-15 12:30:15\",\"\xC3\x96st\",\"active\""),
               std::string::npos);
-    EXPECT_EQ(run.errors, "1 files read, 1 alarms exported, 0 files damaged\n");
+    EXPECT_EQ(run.errors, "1 file read, 1 alarm exported, 0 files damaged\n");
     EXPECT_EQ(Run("App --alarms --csv --from 2026-03-16 --quiet").errors, "");
     EXPECT_EQ(Run("App --alarms --csv --from 2026-03-16").output.find("A0042917"), std::string::npos);
     EXPECT_EQ(Run("App --alarms --csv --bom").output.substr(0, 3), "\xEF\xBB\xBF");

@@ -2,7 +2,7 @@
 
 #include "common/path_text.h"
 #include "common/printable.h"
-#include "vigrel-inspect/print.h"
+#include "tool_support/json.h"
 
 namespace vigrel {
 namespace {

@@ -1,4 +1,4 @@
-#include "vigrel-inspect/progress.h"
+#include "tool_support/progress.h"
 
 #include <gtest/gtest.h>
 
@@ -14,23 +14,23 @@ std::string Printed(bool terminal) {
     cProgress progress(clock, terminal, [&](const std::string& text) { printed += text; });
     for (std::size_t done = 1; done <= 10; ++done) {
         clock.AddSeconds(0.35);
-        progress.Show(done, 10);
-        progress.Show(done, 10);
+        progress.Show(done, 10, "files read");
+        progress.Show(done, 10, "files read");
     }
-    progress.Finish({.files = 10, .alarms = 8, .damaged = 1, .table = ""});
+    progress.Finish("10 files read");
     return printed;
 }
 
-TEST(ExportProgress, IsALineASecond) {
+TEST(Progress, IsALineASecond) {
     EXPECT_EQ(Printed(false),
               "3 of 10 files read\n6 of 10 files read\n9 of 10 files read\n"
-              "10 files read, 8 alarms exported, 1 files damaged\n");
+              "10 files read\n");
 }
 
-TEST(ExportProgress, IsRewrittenInPlaceOnATerminal) {
+TEST(Progress, IsRewrittenInPlaceOnATerminal) {
     std::string expected;
     for (int done = 1; done <= 10; ++done) expected += "\r" + std::to_string(done) + " of 10 files read";
-    EXPECT_EQ(Printed(true), expected + "\r10 files read, 8 alarms exported, 1 files damaged\n");
+    EXPECT_EQ(Printed(true), expected + "\r10 files read      \n");
 }
 
 }  // namespace

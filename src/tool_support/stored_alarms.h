@@ -1,0 +1,32 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "events/vigrel_reciever_alarm.h"
+#include "platform/files.h"
+
+namespace vigrel {
+
+// The folder (with trailing separator) that holds the alarm files: the application folder's "Alarms", or the
+// given one itself. Throws cFailure when there is no alarm file in either and the folder is no application
+// folder.
+std::string FindAlarmFolder(const cFileReader& files, const std::string& folder);
+
+// The names of the store's form in a folder, sorted.
+std::vector<std::string> AlarmFileNames(const cFileReader& files, const std::string& alarmFolder);
+
+struct cStoredAlarm {
+    cVigrelRecieverAlarm alarm;
+    std::string problem;  // what is wrong with the file; empty: nothing
+};
+// What can be read of an alarm file. Does not fail.
+cStoredAlarm ReadStoredAlarm(const cFileReader& files, const std::string& path);
+
+// "inactive", "active", "acked", "message"; empty for another number.
+std::string StateName(std::int16_t status);
+std::optional<std::int16_t> StateFromName(std::string_view name);
+
+}  // namespace vigrel
