@@ -192,7 +192,9 @@ for entry in "$root"/usr/share/applications/vigrel-*.desktop; do
     check "$(basename "$entry") has its icon" \
         [ -f "$root/usr/share/icons/hicolor/scalable/apps/$(sed -n 's/^Icon=//p' "$entry").svg" ]
 done
-for file in lib/systemd/user/vigrel-receiver.service lib/udev/rules.d/70-vigrel-signal-light.rules \
+for file in lib/systemd/user/vigrel-receiver.service lib/systemd/user/vigrel-report.service \
+    lib/systemd/user/vigrel-report.timer share/vigrel-receiver/examples/vigrel-report-hand-out \
+    lib/udev/rules.d/70-vigrel-signal-light.rules \
     share/vigrel-receiver/autostart/vigrel-receiver.desktop share/metainfo/org.vigrel.receiver.metainfo.xml \
     share/vigrel-receiver/Templates/VigrelReceiver.046 share/doc/vigrel-receiver/operator/046.md \
     share/doc/vigrel-receiver/operator/list.046.png share/bash-completion/completions/vigrel-send \
@@ -205,7 +207,7 @@ check "the service is not switched on" \
 echo "== first start of a user"
 folder=$root/home/keeper/.local/share/VigrelReceiver
 first_start keeper "$folder" vigrel-receiver
-for file in $(cd "$root/usr/share/vigrel-receiver" && find . -type f -not -path './autostart/*'); do
+for file in $(cd "$root/usr/share/vigrel-receiver" && find . -type f -not -path './autostart/*' -not -path './examples/*'); do
     check "$file is as delivered" cmp "$root/usr/share/vigrel-receiver/$file" "$folder/$file"
 done
 use_station keeper "$folder" /usr/bin/
