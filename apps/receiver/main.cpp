@@ -2,6 +2,7 @@
 
 #include <QIcon>
 #include <QScreen>
+#include <csignal>
 #include <cstdio>
 #include <string>
 #include <string_view>
@@ -165,6 +166,8 @@ int RunStation(cApplication& application, const std::string& commandLine) {
 }
 
 int Run(int argc, char** argv) {
+    // A reader of standard error that has gone must not end the station.
+    std::signal(SIGPIPE, SIG_IGN);
     KeepFilesPrivate();
     cApplication::ChoosePlatform();
     cApplication application(argc, argv);

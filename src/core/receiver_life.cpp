@@ -126,8 +126,9 @@ void cVigrelReceiverMain::Stop(eCloseReason reason) {
 }
 
 void cVigrelReceiverMain::DisplayIsLost() {
+    if (m_Life.Ended()) return;
     End();
-    m_Store.FinishSaves();
+    SaveTheLast();
     m_Log.WriteLog("The display is gone: the program ends");
 }
 

@@ -177,7 +177,13 @@ void cVigrelReceiverMain::Form_Unload() {
     m_Ports.runningApps.SetRunningApps(kApplication, 0);
     m_Light.Menu_StopLight();
     if (m_State.m_PopupFormCount > 0) m_Popups.ClosePopups();
+    SaveTheLast();
+}
+
+// What is in memory alone goes with the program: the disk may have room again since the last try.
+void cVigrelReceiverMain::SaveTheLast() {
     m_Store.FinishSaves();
+    m_Store.RetryUnsaved();
 }
 
 }  // namespace vigrel

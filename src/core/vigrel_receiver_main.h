@@ -115,6 +115,7 @@ class cVigrelReceiverMain {
     void Timer_KeepAlive_Tick();
     void Timer_Play_Tick();
     void DailyHousekeeping();
+    void SaveTheLast();
     void ListKeyDown(int keyCode, int shift);
     void ProcessAlarm(const AlarmPtr& alarm);
     bool PrintEvent(const cVigrelRecieverAlarm& alarm);

@@ -219,7 +219,7 @@ TEST(PutIniString, TwoWritesThatAreStampedAlikeAreBothSeen) {
 // --- moments
 
 // Counts how often somebody looks at a file.
-struct cCountingFiles : cFakeFiles {
+struct cLookedAtFiles : cFakeFiles {
     cStamp Stamp(std::string_view path) const override {
         ++m_Looks;
         return cFakeFiles::Stamp(path);
@@ -232,7 +232,7 @@ struct cCountingFiles : cFakeFiles {
 };
 
 TEST(IniMoment, AllKeysOfAMomentComeFromOneLookAtTheFile) {
-    cCountingFiles files;
+    cLookedAtFiles files;
     files.Put(kPath, "[S]\r\na=1\r\nb=2\r\n");
     const cIni ini(files, kFolder);
     {
@@ -252,7 +252,7 @@ TEST(IniMoment, AllKeysOfAMomentComeFromOneLookAtTheFile) {
 }
 
 TEST(IniMoment, AnUnchangedFileIsNotReadAgain) {
-    cCountingFiles files;
+    cLookedAtFiles files;
     files.Put(kPath, "[S]\r\na=1\r\n");
     const cIni ini(files, kFolder);
     for (int i = 0; i < 5; ++i) {

@@ -54,6 +54,18 @@ TEST_F(Running, AFullDiskKeepsTheStationReceivingAndItRecovers) {
     EXPECT_EQ(AlarmFiles().size(), 2u);
 }
 
+TEST_F(Running, WhatCouldNotBeWrittenIsTriedOnceMoreAtTheEnd) {
+    for (const bool displayGoes : {false, true}) {
+        Start();
+        files.m_DiskFull = true;
+        EXPECT_EQ(Send("PLC1", "S1||one"), kPositiveReply);
+        const std::size_t before = AlarmFiles().size();
+        files.m_DiskFull = false;
+        displayGoes ? receiver->DisplayIsLost() : receiver->Form_Unload();
+        EXPECT_EQ(AlarmFiles().size(), before + 1);
+    }
+}
+
 TEST_F(Running, ClosedPopupsBringBackNoFileThatTheLimitTookAway) {
     Ini("Columns=StateIcon,t0\r\nMaxEvents=1\r\nViewPopupForm=1\r\nAckEventWhenPopupFormIsClosed=1\r\n");
     Start();

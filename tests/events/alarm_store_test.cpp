@@ -106,19 +106,19 @@ TEST_F(AlarmStore, AFileThatIsSpelledInItsOwnWayIsReplacedAndRemovedUnderItsName
 }
 
 TEST_F(AlarmStore, LoadingGivesWhatInsertingOneByOneGives) {
-    std::mt19937 random(11);
+    std::mt19937 draw(11);
     for (int round = 0; round < 300; ++round) {
         cFakeStation loading, inserting;
-        const unsigned count = random() % 25, kinds = 1 + random() % 40;
-        const auto most = static_cast<std::int32_t>(random() % 20);
+        const unsigned long count = draw() % 25, kinds = 1 + draw() % 40;
+        const auto most = static_cast<std::int32_t>(draw() % 20);
         for (cFakeStation* station : {&loading, &inserting}) {
             station->settings.m_MaxEvents = most;
             station->settings.m_MaxDays = 20;
             station->view.SetUpColumns(station->settings);
         }
-        for (unsigned id = 1; id <= count; ++id) {
+        for (unsigned long id = 1; id <= count; ++id) {
             cVigrelRecieverAlarm alarm(clock);
-            alarm.m_CreatedTime = clock.Now() - static_cast<double>(random() % kinds);
+            alarm.m_CreatedTime = clock.Now() - static_cast<double>(draw() % kinds);
             alarm.m_FileId = static_cast<std::int32_t>(id);
             cBinaryWriter file;
             alarm.WriteToDisk(file);
@@ -143,8 +143,8 @@ TEST_F(AlarmStore, LoadingGivesWhatInsertingOneByOneGives) {
         };
         ASSERT_EQ(ids(loading), ids(inserting)) << "round " << round;
         ASSERT_EQ(loading.AlarmFiles(), inserting.AlarmFiles());
-        const std::string log = removed > 0 ? std::to_string(removed) + " T10036\n" : "";
-        ASSERT_EQ(loading.Log(), log + std::to_string(loading.store.m_Alarms.size()) + " T10041\n");
+        const std::string told = removed > 0 ? std::to_string(removed) + " T10036\n" : "";
+        ASSERT_EQ(loading.Log(), told + std::to_string(loading.store.m_Alarms.size()) + " T10041\n");
     }
 }
 

@@ -48,9 +48,9 @@ TEST(InsertionOrder, AllAtOnceIsWhatOneByOneGives) {
     for (int round = 0; round < 3000; ++round) {
         std::vector<DateTime> times(random() % 60);
         // From nearly all equal to nearly all different.
-        const unsigned kinds = 1 + random() % 80;
+        const unsigned long kinds = 1 + random() % 80;
         for (DateTime& time : times) {
-            time = random() % kinds;
+            time = static_cast<double>(random() % kinds);
             if (random() % 20 == 0) time = kNone;
             if (random() % 30 == 0) time = random() % 2 == 0 ? kInfinity : -kInfinity;
             if (time == 0 && random() % 2 == 0) time = -0.0;

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "common/printable.h"
 #include "inspect/alarm_samples.h"
 #include "support/samples.h"
 #include "vigrel-inspect/print.h"

@@ -74,6 +74,8 @@ TEST_F(AssistiveTools, FindNamesInTheMainWindow) {
 TEST_F(AssistiveTools, FindNamesInAPopup) {
     cPopupWidgetMaker maker(m_Windows);
     auto& popup = dynamic_cast<cPopupWidget&>(maker.MakePopup());
+    popup.Show();
+    maker.Stack().Apply();
     EXPECT_EQ(UnnamedWidgets(popup), "");
     EXPECT_GE(InteractiveWidgets(popup), 5);  // the text, and a picture for each state
 }

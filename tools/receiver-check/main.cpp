@@ -7,6 +7,7 @@
 #include "adapters/linux/system_clock.h"
 #include "common/code_page.h"
 #include "common/failure.h"
+#include "common/path_text.h"
 #include "receiver-check/check.h"
 #include "receiver-check/options.h"
 #include "receiver-check/posix_machine.h"

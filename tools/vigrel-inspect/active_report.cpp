@@ -6,6 +6,7 @@
 #include "common/dates.h"
 #include "common/failure.h"
 #include "common/numbers.h"
+#include "common/printable.h"
 #include "schedule/active_day.h"
 #include "schedule/definition_files.h"
 #include "vigrel-inspect/inspect.h"

@@ -122,8 +122,10 @@ class cOptionReader {
          {"--csv", &m_Csv},
          {"--exact", &m_Options.exact},
          {"--bom", &m_Options.mark},
-         {"--quiet", &m_Options.quiet}},
+         {"--quiet", &m_Options.quiet},
+         {"--version", &m_Options.version}},
         {{"--as", [this](const std::string& word) { m_Options.kind = KindFromOption(word); }},
+         {"--at", [this](const std::string& word) { m_Options.at = DateFromWord("--at", word); }},
          {"--from", Filter([this](auto& word) { m_Options.filter.from = DateFromWord("--from", word); })},
          {"--to", Filter([this](auto& word) { m_Options.filter.before = EndFromWord("--to", word); })},
          {"--category", Filter([this](auto& word) { m_Options.filter.categories.push_back(word); })},
@@ -132,7 +134,7 @@ class cOptionReader {
          {"--observed",
           Filter([this](auto& word) { m_Options.filter.observed = YesNoFromWord("--observed", word); })}},
         [this](const std::string& path) { m_Options.paths.push_back(path); },
-        {}};
+        {{"--calendar", [this](const std::string& path) { m_Options.calendar = path; }}}};
 };
 
 }  // namespace

@@ -92,12 +92,15 @@ class cDescriptor {
             bytes.remove_prefix(static_cast<std::size_t>(written));
         }
     }
-    // Asks for a byte more than there should be, so that one call meets the end too.
+    // Asks for a byte more than there should be, so that one call meets the end too. Files that the machine
+    // makes up say that they are empty.
     std::string ReadAll() {
         struct stat status {};
         if (fstat(m_Descriptor, &status) != 0) Fail(m_Path);
         if (const char* reason = WhyNoFile(status)) FailAsNoFile(m_Path, reason);
-        std::string content(static_cast<std::size_t>(status.st_size) + 1, '\0');
+        constexpr std::size_t kUnknownSize = 65536;
+        const auto told = static_cast<std::size_t>(status.st_size);
+        std::string content(told > 0 ? told + 1 : kUnknownSize, '\0');
         std::size_t size = 0;
         while (true) {
             const ssize_t count = read(m_Descriptor, content.data() + size, content.size() - size);

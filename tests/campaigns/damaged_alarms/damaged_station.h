@@ -16,6 +16,7 @@
 #include "events/alarm_store.h"
 #include "receiver_ui/list/qt_report_list.h"
 #include "support/fake_clock.h"
+#include "support/fake_timer.h"
 #include "support/fake_windows.h"
 
 namespace vigrel::campaign {
@@ -27,7 +28,13 @@ class cUnsyncedFiles : public cLinuxFiles {
         cLinuxFiles::WriteFile(path, bytes, false);
     }
     void SyncFolder(std::string_view) override {}
-    void SyncFileSystem(std::string_view) override {}
+    std::unique_ptr<cPendingSync> StartSync(std::string_view) override { return std::make_unique<cNoWait>(); }
+
+  private:
+    class cNoWait : public cPendingSync {
+        bool Done() const override { return true; }
+        bool Wait() override { return true; }
+    };
 };
 
 // The store, the list on the screen and the acknowledgement of a station, on a folder of the machine.
@@ -65,7 +72,8 @@ class cDamagedStation {
     cLog log{files, clock, texts, path};
     cCategorySettings categories;
     cAlarmListView view{{list, ini, texts, settings, state, categories, forms, screen, clipboard}};
-    cAlarmStore store{{files, clock, random, list, log, texts, settings, state}, path};
+    testing::cFakeTimer timerSave{10};
+    cAlarmStore store{{files, files, clock, random, list, log, texts, settings, state, timerSave}, path};
     cAcknowledgement acknowledgement{{store, view, list, log, texts, settings, state}};
 
   private:

@@ -129,6 +129,7 @@ void cLot::Sweep() {
 
 void cLot::AcknowledgeAll() {
     m_Station.acknowledgement.Menu_AckAll();
+    m_Station.store.FinishSaves();
     for (const AlarmPtr& alarm : m_Station.store.m_Alarms) {
         if (alarm->m_Observed == False16) throw std::runtime_error("an alarm is not acknowledged");
     }

@@ -94,7 +94,7 @@ TEST(BoxesLeftStanding, AnInterruptAsksItsQuestionOnTheScreen) {
     ASSERT_NE(box, "");
     // Alarms are received while it stands.
     EXPECT_EQ(station.Send({"--t0", "meanwhile"}).exitCode, 0);
-    Press(box, {"Tab", "Return"});  // from No to Yes
+    Press(box, {"alt+y"});
     EXPECT_EQ(station.WaitForEnd(), 0);
     EXPECT_EQ(station.Log().back(), "T10021");
 }
