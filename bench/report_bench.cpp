@@ -64,7 +64,7 @@ void WriteYear(const fs::path& folder, int lines) {
     }
 }
 
-double Seconds(const std::function<void()>& work) {
+double TimeOf(const std::function<void()>& work) {
     const auto begin = std::chrono::steady_clock::now();
     work();
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
@@ -100,8 +100,8 @@ int main(int argc, char** argv) {
     std::vector<double> ratios;
     std::size_t bytes = 0, page = 0;
     for (int round = 0; round < 7; ++round) {
-        const double reading = Seconds([&] { bytes = ReadLines(folder); });
-        const double reporting = Seconds([&] { page = MakeReport(options, surroundings).page.size(); });
+        const double reading = TimeOf([&] { bytes = ReadLines(folder); });
+        const double reporting = TimeOf([&] { page = MakeReport(options, surroundings).page.size(); });
         ratios.push_back(reporting / reading);
         std::printf("reading the lines %6.0f ms, report %6.0f ms, ratio %.2f\n", reading * 1e3,
                     reporting * 1e3, ratios.back());
