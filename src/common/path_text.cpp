@@ -13,7 +13,7 @@ constexpr std::string_view kDigits = "0123456789ABCDEF";
 
 // As many bytes as the first one announces of a character that the code page could have.
 std::size_t CharacterLength(std::string_view bytes) {
-    const unsigned lead = Code(bytes[0]);
+    const int lead = Code(bytes[0]);
     return std::min<std::size_t>(lead < 0xC0 ? 1 : lead < 0xE0 ? 2 : 3, bytes.size());
 }
 
@@ -33,7 +33,8 @@ std::size_t PlainLength(std::string_view bytes) {
 }
 
 void AppendEscaped(std::string& path, char byte) {
-    path += {kPathEscape, kDigits[Code(byte) >> 4], kDigits[Code(byte) & 15]};
+    const auto code = static_cast<std::size_t>(Code(byte));
+    path += {kPathEscape, kDigits[code >> 4], kDigits[code & 15]};
 }
 
 // The byte of an escape at the front of a text, if there is one.

@@ -51,7 +51,8 @@ std::string FindAlarmFolder(const cFileReader& files, const std::string& folder)
 
 cStoredAlarm ReadStoredAlarm(const cFileReader& files, const std::string& path) {
     cStoredAlarm stored{cVigrelRecieverAlarm(cNoClock()), ""};
-    auto& [alarm, problem] = stored;
+    cVigrelRecieverAlarm& alarm = stored.alarm;
+    std::string& problem = stored.problem;
     const auto failure = CatchFailure([&] {
         if (files.Stamp(path).size > kLargestAlarm) {
             problem = "the file is too large for an alarm";

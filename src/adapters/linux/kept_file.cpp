@@ -67,7 +67,8 @@ void cLinuxFiles::CopyAttributes(std::string_view from, std::string_view to) {
     const std::string native = NativePath(to);
     mode_t mode = status.st_mode & kRights;
     // What it grants to its group must not come to another one.
-    if (chown(native.c_str(), static_cast<uid_t>(-1), status.st_gid) != 0) mode &= ~S_IRWXG;
+    if (chown(native.c_str(), static_cast<uid_t>(-1), status.st_gid) != 0)
+        mode &= ~static_cast<mode_t>(S_IRWXG);
     if (chown(native.c_str(), status.st_uid, static_cast<gid_t>(-1)) != 0) mode |= S_IRUSR | S_IWUSR;
     chmod(native.c_str(), mode);
 }

@@ -49,7 +49,7 @@ struct cSortEntry {
 
     explicit cSortEntry(cReportRecord* owner) : record(owner) {
         for (std::size_t i = 0; i < kWords * 8; ++i) {
-            const unsigned byte = i < owner->key.size() ? Code(owner->key[i]) : 0;
+            const auto byte = static_cast<std::uint64_t>(i < owner->key.size() ? Code(owner->key[i]) : 0);
             front[i / 8] = front[i / 8] << 8 | byte;
         }
     }
