@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <optional>
 #include <vector>
 
@@ -133,8 +134,9 @@ std::optional<std::string> ExpandToken(const cSource& source, std::string_view t
 
 std::vector<std::string> EventFieldNames() {
     std::vector<std::string> names;
-    for (const cField& field : kFields) names.emplace_back(field.name);
-    for (const char* text : {"T0", "T1", "T2", "T3", "T4", "T5"}) names.emplace_back(text);
+    std::transform(std::begin(kFields), std::end(kFields), std::back_inserter(names),
+                   [](const cField& field) { return std::string(field.name); });
+    names.insert(names.end(), {"T0", "T1", "T2", "T3", "T4", "T5"});
     return names;
 }
 
