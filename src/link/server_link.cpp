@@ -23,11 +23,8 @@ void cServerLink::Trace(std::string_view text, std::int16_t kind) const {
     if (m_State.m_DebugMode && WriteTrace) WriteTrace(text, kind);
 }
 
-// The last to arrive wins: a sender that lost its connection without a word must get in again. What the one
-// before had delivered by then comes first, as it came first: a sender that leaves in haste, or is thrown
-// out, loses none of it.
+// The last to arrive wins: a sender that lost its connection without a word must get in again.
 void cServerLink::ConnectionRequest(std::int32_t requestId) {
-    m_WinsockData.DeliverArrived();
     if (m_WinsockData.State() != 0) m_WinsockData.Close();
     m_ReceiveBuffer.clear();
     m_WinsockData.Accept(requestId);

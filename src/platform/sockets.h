@@ -9,6 +9,10 @@ namespace vigrel {
 
 // The listening end. It accepts nothing itself; it reports each peer that knocks with an id, which a
 // cDataSocket takes over. An id that nobody accepts before the event returns is closed.
+//
+// What had reached the machine on the socket's connection before a peer knocked comes first, as data events,
+// and if the peer of that connection has ended it, all that it sent, and its end: who leaves in haste, or is
+// replaced, loses nothing that had arrived.
 class cListener {
   public:
     virtual ~cListener() = default;
@@ -32,9 +36,6 @@ class cDataSocket {
     virtual void Close() = 0;
     // Takes over the connection of a request. The socket must be closed. Throws cFailure for an unknown id.
     virtual void Accept(std::int32_t requestId) = 0;
-    // Delivers as events what has reached the machine by now, up to 64 KiB, which would otherwise take
-    // several turns; for who is about to close the socket.
-    virtual void DeliverArrived() = 0;
     // Everything received since the last fetch; at most a few KiB, since no more is read in one turn.
     virtual std::string Fetch() = 0;
     // Queues the bytes and hands them to the network at once. Throws cFailure when the socket is not

@@ -86,6 +86,11 @@ class cBluntPeer {
         EXPECT_EQ(send(m_Descriptor.Get(), bytes.data(), bytes.size(), MSG_NOSIGNAL),
                   static_cast<ssize_t>(bytes.size()));
     }
+    // The last byte as urgent.
+    void SendUrgently(std::string_view bytes) const {
+        EXPECT_EQ(send(m_Descriptor.Get(), bytes.data(), bytes.size(), MSG_NOSIGNAL | MSG_OOB),
+                  static_cast<ssize_t>(bytes.size()));
+    }
     void EndSending() const { shutdown(m_Descriptor.Get(), SHUT_WR); }
     void Leave() { m_Descriptor.Reset(); }
     std::string ReadToTheEnd() const {
@@ -324,21 +329,76 @@ TEST_F(cQtSocketsTest, APeerThatOnlyEndedItsSendingGetsAllReplies) {
     EXPECT_EQ(m_Rig.m_Data.State(), 0);
 }
 
-TEST_F(cQtSocketsTest, WhatHasArrivedCanBeHadBeforeAClose) {
-    const int peer = m_Rig.Connect();
-    m_Rig.Peer(peer).write(std::string(20'000, '\n').c_str(), 20'000);
-    while (m_Rig.Peer(peer).bytesToWrite() > 0) m_Rig.Peer(peer).waitForBytesWritten();
-    EXPECT_EQ(Arrived(), 0u);
-    m_Rig.m_Data.DeliverArrived();
-    EXPECT_EQ(Arrived(), 20'000u);
+// --- one connection after the other
+
+// What the socket's peers have sent by the time that the next one is accepted.
+class cQtNextConnectionTest : public cQtSocketsTest {
+  protected:
+    cQtNextConnectionTest() {
+        m_Rig.m_Listener.OnConnectionRequest = [this](std::int32_t id) {
+            m_ArrivedAtRequest.push_back(Arrived());
+            m_Rig.m_Data.Close();
+            m_Rig.m_Data.Accept(id);
+        };
+        m_Rig.m_Data.OnClosed = [this] { m_Rig.m_Data.Close(); };
+    }
+    bool WaitForRequests(std::size_t count) {
+        return WaitUntil([&] { return m_ArrivedAtRequest.size() == count; });
+    }
+    std::vector<std::size_t> m_ArrivedAtRequest;
+};
+
+TEST_F(cQtNextConnectionTest, ComesBehindAllThatAPeerSentWhichHasLeft) {
+    for (int i = 0; i < 3; ++i) {
+        cBluntPeer peer(m_Rig.m_Listener.LocalPort());
+        peer.Send(std::string(200'000, '\n'));
+        peer.Leave();
+    }
+    ASSERT_TRUE(WaitForRequests(3));
+    EXPECT_EQ(m_ArrivedAtRequest, (std::vector<std::size_t>{0, 200'000, 400'000}));
+    EXPECT_TRUE(WaitUntil([&] { return Arrived() == 600'000; }));
 }
 
-TEST_F(cQtSocketsTest, NoMoreThanABoundedAmountIsDeliveredBeforeAClose) {
-    const cBluntPeer peer(m_Rig.m_Listener.LocalPort());
-    ASSERT_TRUE(WaitUntil([&] { return m_Rig.m_Data.State() != 0; }));
-    peer.Send(std::string(200'000, '\n'));
-    m_Rig.m_Data.DeliverArrived();
-    EXPECT_EQ(Arrived(), cQtDataSocket::kMostAtOnce);
+TEST_F(cQtNextConnectionTest, ComesBehindAllThatHadArrivedOfOneThatStays) {
+    const cBluntPeer stays(m_Rig.m_Listener.LocalPort());
+    ASSERT_TRUE(WaitForRequests(1));
+    stays.Send(std::string(120'000, '\n'));
+    const cBluntPeer next(m_Rig.m_Listener.LocalPort());
+    ASSERT_TRUE(WaitForRequests(2));
+    EXPECT_EQ(m_ArrivedAtRequest[1], 120'000u);
+}
+
+TEST_F(cQtNextConnectionTest, IsNotKeptWaitingByOneThatGoesOnSending) {
+    const cBluntPeer floods(m_Rig.m_Listener.LocalPort());
+    ASSERT_TRUE(WaitForRequests(1));
+    floods.Send(std::string(50'000, '\n'));
+    const cBluntPeer next(m_Rig.m_Listener.LocalPort());
+    // In each turn as much as is read in it.
+    for (int turn = 0; turn < 100 && m_ArrivedAtRequest.size() == 1; ++turn) {
+        floods.Send(std::string(cTcpConnection::kBytesPerTurn, '\n'));
+        QCoreApplication::processEvents();
+    }
+    ASSERT_EQ(m_ArrivedAtRequest.size(), 2u);
+}
+
+// A byte sent urgently counts among what has arrived, and is never read.
+TEST_F(cQtNextConnectionTest, IsNotKeptWaitingByAnUrgentByte) {
+    const cBluntPeer hasty(m_Rig.m_Listener.LocalPort());
+    ASSERT_TRUE(WaitForRequests(1));
+    hasty.SendUrgently("a\nb");
+    const cBluntPeer next(m_Rig.m_Listener.LocalPort());
+    EXPECT_TRUE(WaitForRequests(2));
+}
+
+TEST_F(cQtNextConnectionTest, IsAcceptedWhereTheOneBeforeWasNoSenders) {
+    const cBluntPeer endless(m_Rig.m_Listener.LocalPort());
+    ASSERT_TRUE(WaitForRequests(1));
+    for (std::size_t sent = 0; sent <= cQtDataSocket::kMaxLine; sent += 100'000) {
+        endless.Send(std::string(100'000, 'x'));
+        RunEvents(5);
+    }
+    const cBluntPeer next(m_Rig.m_Listener.LocalPort());
+    EXPECT_TRUE(WaitForRequests(2));
 }
 
 TEST_F(cQtSocketsTest, APeerThatReadsNoReplyCostsABoundedMemory) {

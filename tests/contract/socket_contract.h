@@ -159,14 +159,6 @@ TYPED_TEST_P(SocketContract, ASocketCanBeClosedInItsOwnEvents) {
     EXPECT_EQ(this->m_Rig.Data().State(), 0);
 }
 
-TYPED_TEST_P(SocketContract, DeliveringWhatArrivedDoesNothingWhenNothingHas) {
-    this->m_Rig.Data().DeliverArrived();
-    this->AcceptAll();
-    this->m_Rig.PeerSend(this->m_Rig.Connect(), "abc");
-    this->m_Rig.Data().DeliverArrived();
-    EXPECT_EQ(this->m_Arrived, "abc");
-}
-
 TYPED_TEST_P(SocketContract, SendingOnAClosedSocketFails) {
     EXPECT_THROW(this->m_Rig.Data().Send("x"), cFailure);
 }
@@ -187,7 +179,7 @@ REGISTER_TYPED_TEST_SUITE_P(SocketContract, ASocketIsClosedUntilItAcceptsAReques
                             CloseForgetsWhatWasReceivedAndNotFetched, ClosingAClosedSocketDoesNothing,
                             BytesSentBeforeACloseStillGoOut,
                             ThePeersCloseIsOneEventAndTheSocketStaysOpenUntilItIsClosed,
-                            ASocketCanBeClosedInItsOwnEvents, DeliveringWhatArrivedDoesNothingWhenNothingHas,
-                            SendingOnAClosedSocketFails, TheListenerGoesOnListening);
+                            ASocketCanBeClosedInItsOwnEvents, SendingOnAClosedSocketFails,
+                            TheListenerGoesOnListening);
 
 }  // namespace vigrel::testing

@@ -146,6 +146,32 @@ TEST_F(HastySenders, AShortCallIsStoredThoughTheNextOneComesAtOnce) {
     EXPECT_EQ(StoredAlarms(station, 600), 600u);
 }
 
+// Far more than one turn of the station takes in: two thousand frames are some 100 KB.
+TEST_F(HastySenders, BurstsFromOneConnectionAfterTheOtherAreStoredWhole) {
+    cStation station;
+    station.Configure(kNoLimit);
+    ASSERT_TRUE(station.Start()) << station.StandardError();
+    for (int i = 0; i < 2; ++i) {
+        cSender sender(station.m_Port);
+        sender.Send(Burst(2000));
+        sender.Leave();
+    }
+    EXPECT_EQ(StoredAlarms(station, 4000), 4000u);
+}
+
+TEST_F(HastySenders, WhatAConnectionDeliveredIsStoredThoughAnotherTakesItsPlace) {
+    cStation station;
+    station.Configure(kNoLimit);
+    ASSERT_TRUE(station.Start()) << station.StandardError();
+    const cSender stays(station.m_Port);
+    stays.Send(Burst(2000));
+    const cSender next(station.m_Port);
+    next.Send(Burst(1));
+    next.EndSending();
+    EXPECT_EQ(next.ReadToTheEnd(), std::string(kPositive) + std::string(kReplyEnd));
+    EXPECT_EQ(station.AlarmFiles().size(), 2001u);
+}
+
 // Two thousand silent connections a second, each of which replaces the one before.
 TEST_F(HastySenders, AStormOfConnectionsKeepsNoAlarmFromTheDisk) {
     cStation station;

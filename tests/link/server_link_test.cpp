@@ -98,19 +98,6 @@ TEST_F(ServerLink, ASecondConnectionClosesTheFirstAndForgetsItsHalfLine) {
     EXPECT_EQ(lines, std::vector<std::string>{"whole"});
 }
 
-// A sender that sends and leaves, and the next one that comes at once, are told apart by the order in which
-// they came.
-TEST_F(ServerLink, WhatHadArrivedIsProcessedAndAnsweredBeforeTheNextConnectionReplacesIt) {
-    listener.Knock(1);
-    data.Arrive("first\nsec");
-    data.m_Waiting = "ond\nthi";
-    listener.Knock(2);
-    EXPECT_EQ(lines, (std::vector<std::string>{"first", "second"}));
-    EXPECT_EQ(data.TakeSent(), "ok1ok2");
-    data.Arrive("rd\n");
-    EXPECT_EQ(lines.back(), "rd");
-}
-
 TEST_F(ServerLink, AfterThePeersCloseTheNextConnectionStartsWithAnEmptyBuffer) {
     listener.Knock(1);
     data.Arrive("half");

@@ -54,7 +54,6 @@ class cFakeDataSocket : public cDataSocket {
         if (m_Open && m_Transcript) m_Transcript->Add("data socket closed");
         m_Open = false;
         m_Received.clear();
-        m_Waiting.clear();
     }
     void Accept(std::int32_t requestId) override {
         if (m_Open) throw cFailure(eFailure::InvalidCall, "Accept: the socket is open");
@@ -64,9 +63,6 @@ class cFakeDataSocket : public cDataSocket {
         m_Open = true;
         m_RequestId = requestId;
         if (m_Transcript) m_Transcript->Add("data socket accepts " + std::to_string(requestId));
-    }
-    void DeliverArrived() override {
-        if (m_Open && !m_Waiting.empty()) Arrive(std::exchange(m_Waiting, {}));
     }
     std::string Fetch() override { return std::exchange(m_Received, {}); }
     void Send(std::string_view bytes) override {
@@ -102,7 +98,6 @@ class cFakeDataSocket : public cDataSocket {
 
     std::int32_t m_RequestId = 0;  // of the connection last accepted
     bool m_SendFails = false;
-    std::string m_Waiting;  // has reached the machine, and its event is still to come
 
   private:
     cFakeListener& m_Listener;

@@ -8,6 +8,14 @@
 
 namespace vigrel {
 
+cQtDataSocket::cQtDataSocket(cQtListener& listener) : m_Listener(listener) {
+    m_Listener.HoldsBack = [this] { return HoldsBackTheNext(); };
+}
+
+cQtDataSocket::~cQtDataSocket() {
+    m_Listener.HoldsBack = nullptr;
+}
+
 void cQtDataSocket::Accept(std::int32_t requestId) {
     if (m_Connection) {
         throw cFailure(eFailure::InvalidCall, "A connection is taken over by a closed socket only");
@@ -16,6 +24,7 @@ void cQtDataSocket::Accept(std::int32_t requestId) {
     m_Connection->OnReadable = [this] { ReadTurn(); };
     m_LineBytes = 0;
     m_Ended = false;
+    m_BeforeTheNext.reset();
 }
 
 void cQtDataSocket::Close() {
@@ -23,22 +32,19 @@ void cQtDataSocket::Close() {
     if (m_Connection) m_Lingering.Add(std::move(m_Connection));
 }
 
-bool cQtDataSocket::ReadTurn() {
-    if (!m_Connection || m_Ended) return false;
+void cQtDataSocket::ReadTurn() {
+    if (!m_Connection || m_Ended) return;
     std::string bytes;
     const auto read = m_Connection->Read(bytes);
-    if (read == cTcpConnection::eRead::Nothing) return false;
-    if (read == cTcpConnection::eRead::Bytes) {
-        Take(bytes);
-        return true;
-    }
+    if (read == cTcpConnection::eRead::Nothing) return;
+    if (read == cTcpConnection::eRead::Bytes) return Take(bytes);
     m_Ended = true;
     const auto& notice = read == cTcpConnection::eRead::End ? OnClosed : OnError;
     if (notice) notice();
-    return false;
 }
 
 void cQtDataSocket::Take(const std::string& bytes) {
+    if (m_BeforeTheNext) *m_BeforeTheNext -= std::min(bytes.size(), *m_BeforeTheNext);
     CountLine(bytes);
     if (m_LineBytes > kMaxLine) {
         m_Ended = true;
@@ -50,10 +56,17 @@ void cQtDataSocket::Take(const std::string& bytes) {
     if (OnDataArrival) OnDataArrival();
 }
 
-void cQtDataSocket::DeliverArrived() {
-    if (!m_Connection) return;
-    const std::size_t arrived = std::min(m_Connection->Arrived(), kMostAtOnce);
-    for (std::size_t read = 0; read < arrived && ReadTurn();) read += cTcpConnection::kBytesPerTurn;
+// The event loop reads, turn by turn, so that windows and timers get theirs. A peer that stays, and goes on
+// sending, holds nobody back for long.
+bool cQtDataSocket::HoldsBackTheNext() {
+    if (m_Connection && !m_Ended) {
+        const std::size_t arrived = m_Connection->Arrived();
+        if (!m_BeforeTheNext) m_BeforeTheNext = arrived + kMostOnItsWay;
+        if (arrived > 0 && *m_BeforeTheNext > 0) return true;
+        if (m_Connection->PeerHasLeft()) return true;
+    }
+    m_BeforeTheNext.reset();
+    return false;
 }
 
 void cQtDataSocket::CountLine(std::string_view chunk) {

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "adapters/qt/linger.h"
@@ -16,16 +17,19 @@ class cQtDataSocket : public cDataSocket {
   public:
     // A stream without a line end that has grown to more than this is no sender's.
     static constexpr std::size_t kMaxLine = 1'048'576;
-    // Most bytes that DeliverArrived delivers, some hundred alarms: nothing else is served meanwhile.
-    static constexpr std::size_t kMostAtOnce = 65'536;
+    // So much of what comes in without a pause behind a knock may have been sent before it, by a peer that
+    // has left: what the socket has no room for waits in the peer's machine.
+    static constexpr std::size_t kMostOnItsWay = 262'144;
 
     // The listener's requests are what Accept takes over; it must outlive this socket.
-    explicit cQtDataSocket(cQtListener& listener) : m_Listener(listener) {}
+    explicit cQtDataSocket(cQtListener& listener);
+    ~cQtDataSocket() override;
+    cQtDataSocket(const cQtDataSocket&) = delete;
+    cQtDataSocket& operator=(const cQtDataSocket&) = delete;
 
     int State() const override { return m_Connection ? kOpen : 0; }
     void Close() override;
     void Accept(std::int32_t requestId) override;
-    void DeliverArrived() override;
     std::string Fetch() override;
     void Send(std::string_view bytes) override;
 
@@ -33,8 +37,9 @@ class cQtDataSocket : public cDataSocket {
 
   private:
     static constexpr int kOpen = 7;
-    // Reads a turn's bytes and delivers them, or the end; false when there was nothing.
-    bool ReadTurn();
+    // Reads a turn's bytes and delivers them, or the end.
+    void ReadTurn();
+    bool HoldsBackTheNext();
     void Take(const std::string& bytes);
     void CountLine(std::string_view chunk);
 
@@ -44,6 +49,8 @@ class cQtDataSocket : public cDataSocket {
     std::string m_Received;       // and not yet fetched
     std::size_t m_LineBytes = 0;  // since the last line feed
     bool m_Ended = false;         // by the peer, or by an error
+    // While somebody knocks: how many bytes may still be read before he is let in.
+    std::optional<std::size_t> m_BeforeTheNext;
 };
 
 }  // namespace vigrel

@@ -57,6 +57,7 @@ std::int32_t cQtListener::LocalPort() const {
 }
 
 void cQtListener::Knock() {
+    if (HoldsBack && HoldsBack()) return;
     m_Pending = cFileHandle(accept4(m_Descriptor.Get(), nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
     if (!m_Pending) {
         if (IsPassing(errno)) return;

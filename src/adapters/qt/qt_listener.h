@@ -3,6 +3,7 @@
 #include <QSocketNotifier>
 #include <QTimer>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -24,6 +25,9 @@ class cQtListener : public cListener {
     std::int32_t LocalPort() const;
     // Hands over the connection of a request; throws cFailure for an unknown id.
     cFileHandle TakeRequest(std::int32_t requestId);
+
+    // Whether who knocks has to wait. Asked in each turn of the event loop until he need not.
+    std::function<bool()> HoldsBack;
 
   private:
     void Knock();

@@ -2,6 +2,7 @@
 
 #include <netinet/in.h>
 #include <netinet/tcp.h>
+#include <poll.h>
 #include <sys/ioctl.h>
 #include <sys/socket.h>
 
@@ -55,6 +56,11 @@ cTcpConnection::eRead cTcpConnection::Read(std::string& bytes) {
 std::size_t cTcpConnection::Arrived() const {
     int bytes = 0;
     return ioctl(m_Descriptor.Get(), FIONREAD, &bytes) == 0 ? static_cast<std::size_t>(bytes) : 0;
+}
+
+bool cTcpConnection::PeerHasLeft() const {
+    pollfd asked{m_Descriptor.Get(), POLLRDHUP, 0};
+    return poll(&asked, 1, 0) > 0;
 }
 
 bool cTcpConnection::Send(std::string_view bytes) {

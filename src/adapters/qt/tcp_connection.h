@@ -31,6 +31,8 @@ class cTcpConnection {
     void StopReading() { m_Readable->setEnabled(false); }
     // What has arrived and was not read yet, in bytes.
     std::size_t Arrived() const;
+    // The peer has ended its sending side, or all of the connection; what it sent before may wait to be read.
+    bool PeerHasLeft() const;
     // Hands the bytes to the network, now or when it has room. False when the peer takes nothing any more.
     bool Send(std::string_view bytes);
     // Ends the sending side behind the last byte that waits.
