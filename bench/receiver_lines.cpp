@@ -281,9 +281,13 @@ double DecodeRecord(int times) {
     cLog log(files, clock, texts, "C:\\App\\");
     cSettings settings;
     const cLocaleForms forms;
+    const cCategorySettings categories;
+    const cAlarmMaker maker(clock, categories);
     testing::cFakeMessageBox box;
-    cSenderTable senders({files, clock, ini, texts, log, settings, forms, box, [](const AlarmPtr&) {}});
-    cRecordDecoder decoder({clock, log, texts, senders, [](const AlarmPtr&) {}, [](std::string_view) {}});
+    cSenderTable senders(
+        {files, clock, maker, ini, texts, log, settings, forms, box, [](const AlarmPtr&) {}});
+    cRecordDecoder decoder(
+        {clock, maker, log, texts, senders, [](const AlarmPtr&) {}, [](std::string_view) {}});
     const std::string line = kFrame.substr(0, kFrame.size() - 1);
     return ProcessorTime(times, [&] { decoder.ProcessRecord(line); });
 }

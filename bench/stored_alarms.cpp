@@ -13,7 +13,7 @@ namespace {
 
 // Shared by all, since the texts matter for the size alone.
 cVigrelRecieverAlarm ExampleAlarm(const cClock& clock) {
-    cVigrelRecieverAlarm alarm(clock);
+    cVigrelRecieverAlarm alarm(clock, kNoCategorySetting);
     alarm.m_Sender = "PLC-1-North";
     alarm.m_Alarm.m_Status = StatusActive;
     alarm.m_Alarm.m_TimeStampFromSCADA = clock.Now();

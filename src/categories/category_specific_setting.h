@@ -65,6 +65,9 @@ class cCategorySpecificSetting {
     std::array<cState, 4> m_States;
 };
 
+// For alarms that are only read and written, where nobody configures categories.
+inline const cCategorySpecificSetting kNoCategorySetting;
+
 // The default object and one object for each category section, in file order.
 class cCategorySettings {
   public:

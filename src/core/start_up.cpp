@@ -141,7 +141,7 @@ void cVigrelReceiverMain::ShowAbout() {
 
 void cVigrelReceiverMain::LoadAlarms() {
     const cIniMoment moment(m_Ini);
-    m_Store.LoadAlarms([this](const AlarmPtr& alarm) { m_View.AddAlarmRow(alarm); });
+    m_Alarms.LoadAlarms();
 }
 
 bool cVigrelReceiverMain::OpenPort() {

@@ -23,11 +23,12 @@ cVigrelReceiverMain::cVigrelReceiverMain(const cReceiverPorts& ports, std::strin
       m_Ini(ports.files, m_ApplicationPath),
       m_Texts(ports.files, m_Ini),
       m_Log(ports.files, ports.clock, m_Texts, m_ApplicationPath),
-      m_View({ports.list, m_Ini, m_Texts, m_Settings, m_State, m_Categories, m_Forms, ports.screen,
-              ports.clipboard}),
-      m_Store({ports.files, ports.ownFiles, ports.clock, ports.random, ports.list, m_Log, m_Texts, m_Settings,
-               m_State, ports.timerSave},
+      m_AlarmMaker(ports.clock, m_Categories),
+      m_View({ports.list, m_Ini, m_Texts, m_Settings, m_State, m_Forms, ports.screen, ports.clipboard}),
+      m_Store({ports.files, ports.ownFiles, ports.clock, ports.random, m_Log, m_Settings, m_Categories,
+               ports.timerSave},
               m_ApplicationPath),
+      m_Alarms({m_Store, m_View, ports.list, m_Log, m_Texts, m_Settings, m_State}),
       m_Acknowledgement({m_Store, m_View, ports.list, m_Log, m_Texts, m_Settings, m_State}),
       m_EventText(m_Settings, m_Texts, m_Ini, m_Forms),
       m_Popups(
@@ -41,8 +42,8 @@ cVigrelReceiverMain::cVigrelReceiverMain(const cReceiverPorts& ports, std::strin
       m_Tray({ports.trayArea, ports.timerPlay, ports.list, ports.mainWindow, m_Store.m_Alarms, m_State,
               m_Settings}),
       m_Printing(ports.printerPorts, m_Settings),
-      m_Intake({m_View,
-                m_Store,
+      m_Intake({m_Alarms,
+                m_View,
                 ports.mainWindow,
                 m_Log,
                 m_Texts,
@@ -51,9 +52,9 @@ cVigrelReceiverMain::cVigrelReceiverMain(const cReceiverPorts& ports, std::strin
                  [this](const cCategorySpecificSetting& setting) { m_Sound.StartSignal(setting); },
                  [this](const cVigrelRecieverAlarm& alarm) { return PrintEvent(alarm); },
                  [this](const cVigrelRecieverAlarm& alarm) { m_Light.SignalUsbLight(alarm); }}}),
-      m_Senders({ports.files, ports.clock, m_Ini, m_Texts, m_Log, m_Settings, m_Forms, ports.messageBox,
-                 [this](const AlarmPtr& alarm) { ProcessAlarm(alarm); }}),
-      m_Decoder({ports.clock, m_Log, m_Texts, m_Senders,
+      m_Senders({ports.files, ports.clock, m_AlarmMaker, m_Ini, m_Texts, m_Log, m_Settings, m_Forms,
+                 ports.messageBox, [this](const AlarmPtr& alarm) { ProcessAlarm(alarm); }}),
+      m_Decoder({ports.clock, m_AlarmMaker, m_Log, m_Texts, m_Senders,
                  [this](const AlarmPtr& alarm) { ProcessAlarm(alarm); },
                  [this](std::string_view reply) { m_Link.SendReply(reply); }}),
       m_Link(ports.winsockConnect, ports.winsockData, m_State),
@@ -90,9 +91,7 @@ void cVigrelReceiverMain::DailyHousekeeping() {
     if (m_LastHousekeepingDate == 0) m_LastHousekeepingDate = today;
     if (m_LastHousekeepingDate == today) return;
     m_Log.CleanLogFiles(kLogMask, m_Settings.m_KeepForDays);
-    const std::int32_t removed = m_Store.SweepOldAlarms();
-    m_Ports.list.TakeOverRecords();
-    if (removed > 0) m_Log.WriteLog(std::to_string(removed) + " " + m_Texts.GetText(10036));
+    m_Alarms.SweepOldAlarms();
     m_LastHousekeepingDate = today;
 }
 

@@ -16,7 +16,9 @@
 #include "core/unsaved_notice.h"
 #include "events/acknowledgement.h"
 #include "events/alarm_list_view.h"
+#include "events/alarm_maker.h"
 #include "events/alarm_store.h"
+#include "events/listed_alarms.h"
 #include "link/alarm_intake.h"
 #include "link/record_decoder.h"
 #include "link/sender_table.h"
@@ -135,8 +137,10 @@ class cVigrelReceiverMain {
     cTexts m_Texts;
     cLog m_Log;
     cCategorySettings m_Categories;
+    cAlarmMaker m_AlarmMaker;
     cAlarmListView m_View;
     cAlarmStore m_Store;
+    cListedAlarms m_Alarms;
     cAcknowledgement m_Acknowledgement;
     cEventText m_EventText;
     cPopups m_Popups;

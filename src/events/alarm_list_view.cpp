@@ -1,6 +1,7 @@
 #include "events/alarm_list_view.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "common/dates.h"
 #include "common/failure.h"
@@ -79,10 +80,13 @@ void cAlarmListView::SetSortOrder() {
 }
 
 void cAlarmListView::AddAlarmRow(const AlarmPtr& alarm) {
-    alarm->m_CategorySpecificSetting = &m_Services.categories.Find(alarm->m_Alarm.GetCondition(2));
     alarm->m_Record = m_Services.list.AddRecord(alarm);
     UpdateAlarmRow(*alarm);
     m_Services.state.m_ListChanged = true;
+}
+
+void cAlarmListView::RemoveAlarmRow(cVigrelRecieverAlarm& alarm) {
+    if (alarm.m_Record != 0) m_Services.list.RemoveRecord(std::exchange(alarm.m_Record, 0));
 }
 
 std::string cAlarmListView::StateText(std::int16_t status) const {
@@ -123,7 +127,7 @@ std::string cAlarmListView::CellText(const cVigrelRecieverAlarm& alarm, eColumnK
             if (alarm.m_CategoryText != nullptr) return *alarm.m_CategoryText;
             return event.GetCondition(2).substr(0, kMostValueCharacters);
         case eColumnKind::ExtraText:
-            return alarm.m_CategorySpecificSetting->m_ExtraText;
+            return alarm.m_CategorySpecificSetting.get().m_ExtraText;
         case eColumnKind::Observed:
             return {};
         default:
@@ -135,7 +139,7 @@ int cAlarmListView::CellIcon(const cVigrelRecieverAlarm& alarm, eColumnKind kind
     const bool observed = alarm.m_Observed != False16;
     if (kind == eColumnKind::Observed) return observed ? kIconObserved : kIconNotObserved;
     if (kind != eColumnKind::StateIcon) return -1;
-    return alarm.m_CategorySpecificSetting->GetIcon(alarm.m_Alarm.m_Status, observed);
+    return alarm.m_CategorySpecificSetting.get().GetIcon(alarm.m_Alarm.m_Status, observed);
 }
 
 cReportItem cAlarmListView::Item(const cVigrelRecieverAlarm& alarm, int column) const {
@@ -151,8 +155,8 @@ cReportItem cAlarmListView::Item(const cVigrelRecieverAlarm& alarm, int column) 
     item.hasCaption = column > 0;
     if (column == 0) return item;
     SkipFailure([&] {
-        item.textColour = alarm.m_CategorySpecificSetting->GetForeColor(alarm.m_Alarm.m_Status);
-        item.backColour = alarm.m_CategorySpecificSetting->GetBackColor(alarm.m_Alarm.m_Status);
+        item.textColour = alarm.m_CategorySpecificSetting.get().GetForeColor(alarm.m_Alarm.m_Status);
+        item.backColour = alarm.m_CategorySpecificSetting.get().GetBackColor(alarm.m_Alarm.m_Status);
         item.hasColours = true;
     });
     return item;
@@ -187,8 +191,8 @@ AlarmPtr cAlarmListView::AlarmOf(RecordId row) const {
 void cAlarmListView::BeforeDrawRow(RecordId row, cReportList::cFontStyle& style) const {
     SkipFailure([&] {
         const AlarmPtr alarm = AlarmOf(row);
-        style.bold = alarm->m_CategorySpecificSetting->GetFontBold(alarm->m_Alarm.m_Status) != 0;
-        style.italic = alarm->m_CategorySpecificSetting->GetFontItalic(alarm->m_Alarm.m_Status) != 0;
+        style.bold = alarm->m_CategorySpecificSetting.get().GetFontBold(alarm->m_Alarm.m_Status) != 0;
+        style.italic = alarm->m_CategorySpecificSetting.get().GetFontItalic(alarm->m_Alarm.m_Status) != 0;
     });
 }
 

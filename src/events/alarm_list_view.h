@@ -6,7 +6,6 @@
 #include <string>
 #include <string_view>
 
-#include "categories/category_specific_setting.h"
 #include "common/ini.h"
 #include "common/receiver_state.h"
 #include "common/setting_keys.h"
@@ -59,7 +58,6 @@ class cAlarmListView {
         const cTexts& texts;
         const cSettings& settings;
         cReceiverState& state;
-        const cCategorySettings& categories;
         const cLocaleForms& forms;
         const cScreen& screen;
         cClipboard& clipboard;
@@ -72,8 +70,10 @@ class cAlarmListView {
     // By arrival, the oldest or the newest first.
     void SetSortOrder();
 
-    // Chooses the alarm's category settings and adds its record; the list takes it over when told to.
+    // Adds the alarm's record; the list takes it over when told to.
     void AddAlarmRow(const AlarmPtr& alarm);
+    // Removes it, when the alarm has one.
+    void RemoveAlarmRow(cVigrelRecieverAlarm& alarm);
     // Makes the row show the alarm as it is now. A step that fails is skipped.
     void UpdateAlarmRow(cVigrelRecieverAlarm& alarm);
     // Takes over the records, brings the alarm's row into view and leaves no selection.

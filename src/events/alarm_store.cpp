@@ -8,6 +8,7 @@
 #include "common/file_procedures.h"
 #include "common/numbers.h"
 #include "common/text.h"
+#include "events/alarm_maker.h"
 #include "events/insertion_order.h"
 
 namespace vigrel {
@@ -73,10 +74,6 @@ bool cAlarmStore::IsTooOld(const cVigrelRecieverAlarm& alarm, DateTime now) cons
     return days > 0 && alarm.m_CreatedTime + days < now;
 }
 
-void cAlarmStore::RemoveRow(cVigrelRecieverAlarm& alarm) {
-    if (alarm.m_Record != 0) m_Services.list.RemoveRecord(std::exchange(alarm.m_Record, 0));
-}
-
 void cAlarmStore::DeleteAlarmFile(const cVigrelRecieverAlarm& alarm) {
     std::erase_if(m_Unsaved, [&](const AlarmPtr& unsaved) { return unsaved.get() == &alarm; });
     SkipFailure([&] { m_Services.ownFiles.RemoveFile(FileName(alarm.m_FileId)); });
@@ -86,7 +83,7 @@ void cAlarmStore::DeleteAlarmFile(const cVigrelRecieverAlarm& alarm) {
 void cAlarmStore::GiveUp(cVigrelRecieverAlarm& alarm) {
     DeleteAlarmFile(alarm);
     alarm.m_Removed = true;
-    RemoveRow(alarm);
+    if (OnGivenUp) OnGivenUp(alarm);
 }
 
 void cAlarmStore::RemoveOldest() {
@@ -218,13 +215,15 @@ std::int32_t cAlarmStore::ReadFolder(const std::set<std::string>& unreadable, st
         return !fileId;
     });
     const cStoppedClock clock(m_Services.clock);
+    const cAlarmMaker maker(clock, m_Services.categories);
     std::int32_t removed = 0;
     m_Services.ownFiles.ReadFiles(m_Folder, names, [&](std::size_t i, const std::string& content) {
-        auto alarm = std::make_shared<cVigrelRecieverAlarm>(clock);
-        cBinaryReader file(content);
-        alarm->ReadFromDisk(file);
-        // The name decides, since it is what the next save replaces.
-        alarm->m_FileId = fileIds[i];
+        AlarmPtr alarm = maker.Make([&](cVigrelRecieverAlarm& read) {
+            cBinaryReader file(content);
+            read.ReadFromDisk(file);
+            // The name decides, since it is what the next save replaces.
+            read.m_FileId = fileIds[i];
+        });
         NoteSpelling(names[i], fileIds[i]);
         if (IsTooOld(*alarm, clock.Now())) {
             GiveUp(*alarm);
@@ -282,9 +281,7 @@ std::set<std::string> cAlarmStore::TellUnreadable() const {
     return names;
 }
 
-void cAlarmStore::LoadAlarms(const std::function<void(const AlarmPtr&)>& addAlarmRow) {
-    m_Services.list.SetVisible(false);
-    m_Services.list.RemoveAllRecords();
+std::int32_t cAlarmStore::LoadAlarms() {
     for (const AlarmPtr& replaced : m_Alarms) replaced->m_Removed = true;
     m_Alarms.clear();
     m_Spellings.clear();
@@ -292,18 +289,8 @@ void cAlarmStore::LoadAlarms(const std::function<void(const AlarmPtr&)>& addAlar
     RemoveTemporaries(m_Services.files, m_Folder);
     const std::set<std::string> unreadable = TellUnreadable();
     std::vector<AlarmPtr> alarms;
-    std::int32_t removed = ReadFolder(unreadable, alarms);
-    removed += InsertAll(alarms);
-    for (const AlarmPtr& alarm : m_Alarms) addAlarmRow(alarm);
-    m_Services.list.TakeOverRecords();
-    m_Services.list.ClearSelection();
-    m_Services.list.SetVisible(true);
-    const auto report = [&](std::size_t count, std::int32_t text) {
-        m_Services.log.WriteLog(std::to_string(count) + " " + m_Services.texts.GetText(text));
-    };
-    if (removed > 0) report(static_cast<std::size_t>(removed), 10036);
-    report(m_Alarms.size(), 10041);
-    m_Services.state.m_ListChanged = true;
+    const std::int32_t removed = ReadFolder(unreadable, alarms);
+    return removed + InsertAll(alarms);
 }
 
 }  // namespace vigrel

@@ -9,15 +9,13 @@
 #include <string>
 #include <vector>
 
+#include "categories/category_specific_setting.h"
 #include "common/log.h"
-#include "common/receiver_state.h"
 #include "common/settings.h"
-#include "common/texts.h"
 #include "events/pending_saves.h"
 #include "events/vigrel_reciever_alarm.h"
 #include "platform/files.h"
 #include "platform/random.h"
-#include "platform/report_list.h"
 #include "platform/timer.h"
 
 namespace vigrel {
@@ -31,11 +29,9 @@ class cAlarmStore {
         cFiles& ownFiles;  // of exact names: the alarms' files, which the store alone names
         const cClock& clock;
         cRandom& random;
-        cReportList& list;
         cLog& log;
-        const cTexts& texts;
         const cSettings& settings;
-        cReceiverState& state;
+        const cCategorySettings& categories;
         cTimer& timerSave;  // runs while files of many alarms wait to be written
     };
     // m_ApplicationPath ends in a backslash.
@@ -48,10 +44,13 @@ class cAlarmStore {
     // Sorted by m_CreatedTime, oldest first.
     std::deque<AlarmPtr> m_Alarms;
 
-    // Rebuilds m_Alarms and the list from the folder. addAlarmRow is called for each alarm that stays, in
-    // order. What is known beforehand not to be readable is left out, and named in the log. Throws cFailure
-    // when a file can't be read for another reason.
-    void LoadAlarms(const std::function<void(const AlarmPtr&)>& addAlarmRow);
+    // An alarm and its file are gone for good.
+    std::function<void(cVigrelRecieverAlarm&)> OnGivenUp;
+
+    // Rebuilds m_Alarms from the folder; how many alarms it gave up. What is known beforehand not to be
+    // readable is left out, and named in the log. Throws cFailure when a file can't be read for another
+    // reason.
+    std::int32_t LoadAlarms();
     // Writes the alarm's file as a whole, under a free number when it has none; when the call returns it
     // survives a crash. Never fails: a file that can't be written is tried again by RetryUnsaved. An alarm
     // that the store has removed is not written.
@@ -82,7 +81,6 @@ class cAlarmStore {
     void NoteSpelling(const std::string& name, std::int32_t fileId);
     bool IsTooOld(const cVigrelRecieverAlarm& alarm, DateTime now) const;
     std::size_t FindPlace(const cVigrelRecieverAlarm& alarm) const;
-    void RemoveRow(cVigrelRecieverAlarm& alarm);
     void GiveUp(cVigrelRecieverAlarm& alarm);
     void RemoveOldest();
     void DrawFileId(cVigrelRecieverAlarm& alarm);

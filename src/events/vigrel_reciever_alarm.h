@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -14,7 +15,8 @@ namespace vigrel {
 // or updated from a later record. m_Observed alone moves, from false to true, once.
 class cVigrelRecieverAlarm {
   public:
-    explicit cVigrelRecieverAlarm(const cClock& clock) : m_Alarm(clock), m_CreatedTime(clock.Now()) {}
+    cVigrelRecieverAlarm(const cClock& clock, const cCategorySpecificSetting& setting)
+        : m_Alarm(clock), m_CreatedTime(clock.Now()), m_CategorySpecificSetting(setting) {}
 
     cAlarm m_Alarm;
     std::string m_Sender;
@@ -22,8 +24,8 @@ class cVigrelRecieverAlarm {
     DateTime m_CreatedTime;     // when the object came into being here; the key of the store's order
     std::int32_t m_FileId = 0;  // number of the alarm's file; 0 while it has none
     RecordId m_Record = 0;      // the list record that shows the alarm; 0 while it has none; not stored
-    // The settings of its category; shared with other alarms, not owned, not stored.
-    const cCategorySpecificSetting* m_CategorySpecificSetting = nullptr;
+    // The settings of its category (cAlarmMaker); shared with other alarms, not owned, not stored.
+    std::reference_wrapper<const cCategorySpecificSetting> m_CategorySpecificSetting;
     // What the list shows as its category, where that is translated; the list's own, not stored.
     const std::string* m_CategoryText = nullptr;
     // The store has given it up: it has no file any more, and a popup that still shows it brings none back.

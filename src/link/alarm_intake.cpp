@@ -8,12 +8,10 @@ namespace vigrel {
 void cAlarmIntake::ProcessAlarm(const AlarmPtr& alarm) {
     const cSettings& settings = m_Services.settings;
     const bool active = alarm->m_Alarm.m_Status == StatusActive;
-    SkipFailure([&] { m_Services.view.AddAlarmRow(alarm); });
-    SkipFailure([&] { m_Services.store.SaveAlarm(alarm); });
-    SkipFailure([&] { m_Services.store.InsertAlarm(alarm, settings.m_MaxEvents); });
+    m_Services.alarms.TakeIn(alarm);
     if (OpensPopup(*alarm)) SkipFailure([&] { m_Services.signalling.ShowPopup(alarm); });
     if (active || !settings.m_EventSignalOnlyForActive) {
-        SkipFailure([&] { m_Services.signalling.StartSound(*alarm->m_CategorySpecificSetting); });
+        SkipFailure([&] { m_Services.signalling.StartSound(alarm->m_CategorySpecificSetting); });
     }
     if (settings.m_EventRestore && (active || !settings.m_EventRestoreOnlyForActive)) RestoreWindow();
     if (settings.m_PrinterPort > 0) Print(*alarm);

@@ -6,7 +6,7 @@
 #include "common/settings.h"
 #include "common/texts.h"
 #include "events/alarm_list_view.h"
-#include "events/alarm_store.h"
+#include "events/listed_alarms.h"
 #include "platform/windows.h"
 
 namespace vigrel {
@@ -24,8 +24,8 @@ class cAlarmIntake {
         std::function<void(const cVigrelRecieverAlarm&)> SignalUsbLight;
     };
     struct cServices {
+        cListedAlarms& alarms;
         cAlarmListView& view;
-        cAlarmStore& store;
         cWindow& mainWindow;
         cLog& log;
         const cTexts& texts;

@@ -73,34 +73,39 @@ std::string LoggedName(const std::string& name) {
 
 void cRecordDecoder::ProcessRecord(const std::string& line) {
     if (line.empty() || line == kPositive || line == kNegative) return;
-    cFrame frame;
-    frame.alarm = std::make_shared<cVigrelRecieverAlarm>(m_Services.clock);
+    bool accepted = false;
     if (line.front() == kStx && line.back() == kEtx) {
-        ReadFrame(frame, line);
-        if (frame.accepted) TakeRecord(frame);
-        const std::string sender = frame.alarm->m_Sender;
-        bool known = true;
-        SkipFailure([&] { known = m_Services.senders.Heard(frame.alarm, frame.text, frame.accepted); });
-        if (!known) LogUnknown(frame, sender);
+        cFrame frame = ReadFrame(line);
+        accepted = Take(frame);
     }
-    m_Services.SendReply(std::string(frame.accepted ? kPositive : kNegative) + std::string(kReplyEnd));
+    m_Services.SendReply(std::string(accepted ? kPositive : kNegative) + std::string(kReplyEnd));
 }
 
-void cRecordDecoder::LogUnknown(const cFrame& frame, const std::string& sender) {
-    const std::string line = LoggedName(sender) + m_Services.texts.GetText(10029);
-    frame.accepted ? m_Services.log.WriteLog(line) : m_Services.log.WriteRefusal(line);
+// Whether the frame is accepted.
+bool cRecordDecoder::Take(cFrame& frame) {
+    if (frame.valid) TakeRecord(frame);
+    eHeard heard = eHeard::Known;
+    SkipFailure([&] { heard = m_Services.senders.Heard(frame.sender, frame.text); });
+    if (heard == eHeard::Unknown) LogUnknown(frame);
+    return frame.valid || heard == eHeard::KeepAlive;
 }
 
-void cRecordDecoder::ReadFrame(cFrame& frame, const std::string& line) const {
-    SkipFailure([&] { frame.alarm->m_Sender = Mid(Field(line, 0), 2); });
+void cRecordDecoder::LogUnknown(const cFrame& frame) {
+    const std::string line = LoggedName(frame.sender) + m_Services.texts.GetText(10029);
+    frame.valid ? m_Services.log.WriteLog(line) : m_Services.log.WriteRefusal(line);
+}
+
+cRecordDecoder::cFrame cRecordDecoder::ReadFrame(const std::string& line) {
+    cFrame frame;
+    SkipFailure([&] { frame.sender = Mid(Field(line, 0), 2); });
     // A field that can't be read is no empty one, which would pass for a keep-alive: what it held would be
     // answered as if it were stored.
     if (!SkipFailure([&] { frame.text = Field(line, 1); })) frame.text = line;
     frame.kind = KindOf(frame.text);
     std::string checksum;
     SkipFailure([&] { checksum = Mid(Field(line, 2), 1, 2); });
-    frame.accepted =
-        frame.kind >= 0 && checksum == CalcChecksum(frame.alarm->m_Sender + kFieldSeparator + frame.text);
+    frame.valid = frame.kind >= 0 && checksum == CalcChecksum(frame.sender + kFieldSeparator + frame.text);
+    return frame;
 }
 
 void cRecordDecoder::TakeRecord(cFrame& frame) {
@@ -108,27 +113,28 @@ void cRecordDecoder::TakeRecord(cFrame& frame) {
     SkipFailure([&] { ReplaceText(frame.text, std::string(1, kLineBreakInText), "\n"); });
     if (frame.text.empty()) return;
     if (frame.kind == StatusMessage) {
-        m_Services.log.WriteLog(LoggedName(frame.alarm->m_Sender) + " " + m_Services.texts.GetText(10042) +
-                                " -> " + SubField(frame.text, 2));
-    } else {
-        DecodeAlarm(frame);
+        m_Services.log.WriteLog(LoggedName(frame.sender) + " " + m_Services.texts.GetText(10042) + " -> " +
+                                SubField(frame.text, 2));
+        return;
     }
+    const AlarmPtr alarm = m_Services.maker.Make([&](cVigrelRecieverAlarm& made) { Decode(frame, made); });
+    SkipFailure([&] { m_Services.ProcessAlarm(alarm); });
+    m_Services.log.WriteLog(LoggedName(frame.sender) + " " + m_Services.texts.GetText(10030) + " " +
+                            alarm->SysLogText());
 }
 
-void cRecordDecoder::DecodeAlarm(const cFrame& frame) {
-    cAlarm& event = frame.alarm->m_Alarm;
+void cRecordDecoder::Decode(const cFrame& frame, cVigrelRecieverAlarm& alarm) const {
+    cAlarm& event = alarm.m_Alarm;
     const DateTime now = m_Services.clock.Now();
     const DateTime date = EventDate(SubField(frame.text, 0), now);
     const DateTime time = EventTime(SubField(frame.text, 1), now);
+    alarm.m_Sender = frame.sender;
     for (std::int16_t i = 0; i < 6; ++i) {
         event.SetCondition(i, SubField(frame.text, static_cast<std::int16_t>(i + 2)));
     }
     event.m_System = kSystem;
     event.m_TimeStampFromSCADA = date + time;
     event.m_Status = frame.kind;
-    SkipFailure([&] { m_Services.ProcessAlarm(frame.alarm); });
-    m_Services.log.WriteLog(LoggedName(frame.alarm->m_Sender) + " " + m_Services.texts.GetText(10030) + " " +
-                            frame.alarm->SysLogText());
 }
 
 }  // namespace vigrel

@@ -6,7 +6,7 @@
 
 #include "common/log.h"
 #include "common/texts.h"
-#include "events/vigrel_reciever_alarm.h"
+#include "events/alarm_maker.h"
 #include "link/sender_table.h"
 
 namespace vigrel {
@@ -17,6 +17,7 @@ class cRecordDecoder {
   public:
     struct cServices {
         const cClock& clock;
+        const cAlarmMaker& maker;
         cLog& log;
         const cTexts& texts;
         cSenderTable& senders;
@@ -30,15 +31,16 @@ class cRecordDecoder {
   private:
     // What a frame came to.
     struct cFrame {
-        AlarmPtr alarm;
+        std::string sender;
         std::string text;  // field 1, then the payload
         std::int16_t kind = -1;
-        bool accepted = false;
+        bool valid = false;
     };
-    void LogUnknown(const cFrame& frame, const std::string& sender);
-    void ReadFrame(cFrame& frame, const std::string& line) const;
+    void LogUnknown(const cFrame& frame);
+    static cFrame ReadFrame(const std::string& line);
+    bool Take(cFrame& frame);
     void TakeRecord(cFrame& frame);
-    void DecodeAlarm(const cFrame& frame);
+    void Decode(const cFrame& frame, cVigrelRecieverAlarm& alarm) const;
 
     cServices m_Services;
 };

@@ -75,17 +75,16 @@ std::string cSenderTable::StateText(const cSender& sender) const {
            format(m_Services.settings.m_DateFormat) + " " + format(m_Services.settings.m_TimeFormat);
 }
 
-AlarmPtr cSenderTable::Raise(const cSender& sender, std::int16_t status) {
+void cSenderTable::Raise(const cSender& sender, std::int16_t status) {
     const std::string text = StateText(sender);
-    auto alarm = std::make_shared<cVigrelRecieverAlarm>(m_Services.clock);
-    alarm->m_Sender = sender.SenderName;
-    alarm->m_Alarm.m_TimeStampFromSCADA = m_Services.clock.Now();
-    alarm->m_Alarm.m_Status = status;
-    alarm->m_Alarm.SetCondition(0, "VigrelAlarmReceiver");
-    alarm->m_Alarm.SetCondition(2, m_Services.settings.m_SystemErrorCategory);
-    alarm->m_Alarm.SetCondition(4, text);
-    m_Services.ProcessAlarm(alarm);
-    return alarm;
+    m_Services.ProcessAlarm(m_Services.maker.Make([&](cVigrelRecieverAlarm& alarm) {
+        alarm.m_Sender = sender.SenderName;
+        alarm.m_Alarm.m_TimeStampFromSCADA = m_Services.clock.Now();
+        alarm.m_Alarm.m_Status = status;
+        alarm.m_Alarm.SetCondition(0, "VigrelAlarmReceiver");
+        alarm.m_Alarm.SetCondition(2, m_Services.settings.m_SystemErrorCategory);
+        alarm.m_Alarm.SetCondition(4, text);
+    }));
 }
 
 void cSenderTable::Tick() {
@@ -100,23 +99,23 @@ void cSenderTable::Tick() {
     }
 }
 
-bool cSenderTable::Heard(AlarmPtr& alarm, std::string_view text, bool& accepted) {
+eHeard cSenderTable::Heard(std::string_view name, std::string_view text) {
     const auto end = m_Senders.begin() + m_SenderCount;
-    const auto found = std::find_if(m_Senders.begin(), end, [&](const cSender& sender) {
-        return EqualsNoCase(sender.SenderName, alarm->m_Sender);
-    });
-    if (found == end) return false;
+    const auto found = std::find_if(
+        m_Senders.begin(), end, [&](const cSender& sender) { return EqualsNoCase(sender.SenderName, name); });
+    if (found == end) return eHeard::Unknown;
     MarkSeen(*found);
-    if (found->AlarmRaised) {
-        alarm = Raise(*found, StatusInactive);
+    const bool returns = found->AlarmRaised;
+    if (returns) {
+        Raise(*found, StatusInactive);
         found->AlarmRaised = false;
     }
     found->NotYetSeen = false;
-    if (text.empty()) {
-        m_Services.log.WriteLog(alarm->m_Sender + " " + m_Services.texts.GetText(10028));
-        accepted = true;
-    }
-    return true;
+    if (!text.empty()) return eHeard::Known;
+    // One that returns is called what the station calls it, not as it spells itself.
+    m_Services.log.WriteLog((returns ? found->SenderName : std::string(name)) + " " +
+                            m_Services.texts.GetText(10028));
+    return eHeard::KeepAlive;
 }
 
 }  // namespace vigrel

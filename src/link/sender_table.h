@@ -10,7 +10,7 @@
 #include "common/log.h"
 #include "common/settings.h"
 #include "common/texts.h"
-#include "events/vigrel_reciever_alarm.h"
+#include "events/alarm_maker.h"
 #include "platform/locale.h"
 #include "platform/windows.h"
 
@@ -21,6 +21,13 @@ inline constexpr std::size_t kSenderBuffer = 4096;
 // The rows of the table that are ever filled.
 inline constexpr std::int16_t kMostSenders = 100;
 
+// Who a frame came from.
+enum class eHeard {
+    Unknown,   // no sender of the table
+    Known,     // one of them
+    KeepAlive  // one of them, to say that it lives: accepted whatever the frame's checksum
+};
+
 // The senders that the station expects to hear from. One that stays silent for longer than its minutes raises
 // an alarm of the station's own; its next frame, valid or not, brings the matching inactive one.
 class cSenderTable {
@@ -28,6 +35,7 @@ class cSenderTable {
     struct cServices {
         const cFileReader& files;
         const cClock& clock;
+        const cAlarmMaker& maker;
         const cIni& ini;
         const cTexts& texts;
         cLog& log;
@@ -56,10 +64,9 @@ class cSenderTable {
     void LogSenders();
     // Raises the alarms of the senders whose time is over.
     void Tick();
-    // A frame of the name came in, valid or not. False when no row has the name. An empty text is a
-    // keep-alive: it is logged and sets accepted. When the sender comes back, alarm becomes the alarm that
-    // says so.
-    bool Heard(AlarmPtr& alarm, std::string_view text, bool& accepted);
+    // A frame of the name came in, valid or not. An empty text is a keep-alive, which is logged. Raises the
+    // alarm that tells of a lost sender's return.
+    eHeard Heard(std::string_view name, std::string_view text);
 
   private:
     void AddSender(const std::string& entry);
@@ -67,7 +74,7 @@ class cSenderTable {
     void MarkSeen(cSender& sender) const;
     bool IsDue(const cSender& sender) const;
     std::string StateText(const cSender& sender) const;
-    AlarmPtr Raise(const cSender& sender, std::int16_t status);
+    void Raise(const cSender& sender, std::int16_t status);
 
     cServices m_Services;
 };

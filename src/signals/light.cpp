@@ -71,13 +71,12 @@ void cLight::ForEachDevice(const cCategorySpecificSetting& setting, int status,
 }
 
 void cLight::SignalUsbLight(const cVigrelRecieverAlarm& alarm) {
-    const cCategorySpecificSetting* setting = alarm.m_CategorySpecificSetting;
-    if (setting == nullptr) return;
+    const cCategorySpecificSetting& setting = alarm.m_CategorySpecificSetting;
     const int status = alarm.m_Alarm.m_Status;
     SkipFailure([&] {
         bool opened = false;
-        ForEachDevice(*setting, status, [&](std::int32_t handle) {
-            Programme(handle, *setting, status);
+        ForEachDevice(setting, status, [&](std::int32_t handle) {
+            Programme(handle, setting, status);
             opened = true;
         });
         if (opened) m_Services.menus.SetEnabled(kMenu, true);

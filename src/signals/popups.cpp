@@ -11,13 +11,6 @@
 namespace vigrel {
 namespace {
 
-const cCategorySpecificSetting& SettingOf(const cVigrelRecieverAlarm& alarm) {
-    if (alarm.m_CategorySpecificSetting == nullptr) {
-        throw cFailure(eFailure::ObjectMissing, "the alarm has no category settings");
-    }
-    return *alarm.m_CategorySpecificSetting;
-}
-
 const std::string& CategoryOf(const cVigrelRecieverAlarm& alarm) {
     return alarm.m_Alarm.GetCondition(2);
 }
@@ -77,7 +70,7 @@ std::int32_t cPopups::ShowPopup(const AlarmPtr& alarm) {
     NextPlace();
     Vigrel_Receiver_Popup& popup = MakePopup();
     cPopupWindow& window = popup.m_Window;
-    const cCategorySpecificSetting& setting = SettingOf(*alarm);
+    const cCategorySpecificSetting& setting = alarm->m_CategorySpecificSetting;
     window.SetLabelText(m_Services.expandEventText(*alarm, setting.m_EventPopupFormat, setting.m_ExtraText));
     SetColours(window, *alarm);
     SetFont(window);
@@ -122,7 +115,7 @@ Vigrel_Receiver_Popup& cPopups::MakePopup() {
 }
 
 void cPopups::SetColours(cPopupWindow& window, const cVigrelRecieverAlarm& alarm) const {
-    const cCategorySpecificSetting& setting = SettingOf(alarm);
+    const cCategorySpecificSetting& setting = alarm.m_CategorySpecificSetting;
     const Colour fore = setting.GetForeColor(alarm.m_Alarm.m_Status);
     window.SetForeColour(fore);
     window.SetLabelForeColour(fore);

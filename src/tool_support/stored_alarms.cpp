@@ -50,7 +50,7 @@ std::string FindAlarmFolder(const cFileReader& files, const std::string& folder)
 }
 
 cStoredAlarm ReadStoredAlarm(const cFileReader& files, const std::string& path) {
-    cStoredAlarm stored{cVigrelRecieverAlarm(cNoClock()), ""};
+    cStoredAlarm stored{cVigrelRecieverAlarm(cNoClock(), kNoCategorySetting), ""};
     cVigrelRecieverAlarm& alarm = stored.alarm;
     std::string& problem = stored.problem;
     const auto failure = CatchFailure([&] {

@@ -67,8 +67,7 @@ class SettingKeysTest : public ::testing::Test, protected cPopupStation {
         testing::cFakeReportList list;
         testing::cFakeClipboard clipboard;
         const cLocaleForms forms;
-        cAlarmListView view(
-            {list, m_Listening, m_Texts, m_Settings, m_State, m_Categories, forms, m_Screen, clipboard});
+        cAlarmListView view({list, m_Listening, m_Texts, m_Settings, m_State, forms, m_Screen, clipboard});
         view.SetUpColumns(m_Settings);
     }
     void ReadLanguage() {

@@ -270,7 +270,7 @@ TEST_F(StartUp, OldLogsStayUntilTheSendersAreRead) {
 
 TEST_F(StartUp, StoredAlarmsAreListedAndNothingSignals) {
     Ini("Columns=StateIcon,t0\r\nViewPopupForm=1\r\nEventSignal=3\r\n");
-    cVigrelRecieverAlarm alarm(clock);
+    cVigrelRecieverAlarm alarm(clock, kNoCategorySetting);
     alarm.m_Alarm.m_Status = StatusActive;
     alarm.m_Alarm.SetCondition(0, "stored");
     cBinaryWriter file;
@@ -285,7 +285,7 @@ TEST_F(StartUp, StoredAlarmsAreListedAndNothingSignals) {
 
 TEST_F(StartUp, StoredAlarmsStandInTheConfiguredOrderFromTheStart) {
     for (const auto& [number, text] : {std::pair{1, "older"}, {2, "newer"}}) {
-        cVigrelRecieverAlarm alarm(clock);
+        cVigrelRecieverAlarm alarm(clock, kNoCategorySetting);
         alarm.m_CreatedTime = clock.Now() - 1.0 / number;
         alarm.m_Alarm.SetCondition(0, text);
         cBinaryWriter file;

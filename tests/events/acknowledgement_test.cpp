@@ -43,7 +43,7 @@ TEST_F(Acknowledgement, OfARowSetsTheAlarmObservedWithIconFileLogAndSilence) {
     EXPECT_TRUE(state.m_ListChanged);
     EXPECT_EQ(Log(), "T10039 Active - Fire in hall (///)\n");
     files.Crash();
-    cVigrelRecieverAlarm read(clock);
+    cVigrelRecieverAlarm read(clock, kNoCategorySetting);
     const std::string bytes = files.ReadFile(store.FileName(alarm->m_FileId));
     cBinaryReader file(bytes);
     read.ReadFromDisk(file);
@@ -83,7 +83,7 @@ TEST_F(Acknowledgement, OfAnAlarmThatWasTooOldOnArrivalBringsNoFileBack) {
 
 TEST_F(Acknowledgement, OfAnAlarmThatALoadReplacedLeavesItsFileAlone) {
     const AlarmPtr replaced = Take(MakeAlarm("replaced"));
-    store.LoadAlarms([this](const AlarmPtr& alarm) { view.AddAlarmRow(alarm); });
+    listed.LoadAlarms();
     const std::string before = files.ReadFile(store.FileName(replaced->m_FileId));
     acknowledgement.AckAlarm(0, replaced);
     EXPECT_EQ(files.ReadFile(store.FileName(replaced->m_FileId)), before);
@@ -167,7 +167,7 @@ TEST_F(Acknowledgement, ThatCannotBeWrittenIsTriedAgain) {
     EXPECT_EQ(alarm->m_Observed, True16);
     files.m_DiskFull = false;
     store.RetryUnsaved();
-    cVigrelRecieverAlarm read(clock);
+    cVigrelRecieverAlarm read(clock, kNoCategorySetting);
     const std::string bytes = files.ReadFile(store.FileName(alarm->m_FileId));
     cBinaryReader file(bytes);
     read.ReadFromDisk(file);

@@ -165,15 +165,15 @@ TEST_F(AlarmListView, TheTranslationIsOfTheDisplayOnly) {
         "[General]\r\nColumns=StateIcon,t2\r\n[CategoryTranslations]\r\nFire=Gas\r\n"
         "[CategorySpecificSetting_Gas]\r\nExtraText=gas\r\n[CategorySpecificSetting_Fire]\r\nExtraText="
         "fire\r\n");
-    EXPECT_EQ(Take(MakeAlarm("x", "Fire"))->m_CategorySpecificSetting->m_ExtraText, "fire");
+    EXPECT_EQ(Take(MakeAlarm("x", "Fire"))->m_CategorySpecificSetting.get().m_ExtraText, "fire");
 }
 
 TEST_F(AlarmListView, TheFirstCategoryThatMatchesInAnyCaseIsUsed) {
     Start(
         "[General]\r\nExtraText=none\r\n[CategorySpecificSetting_FIRE]\r\nExtraText=first\r\n"
         "[CategorySpecificSetting_fire]\r\nExtraText=second\r\n");
-    EXPECT_EQ(Take(MakeAlarm("x", "Fire"))->m_CategorySpecificSetting->m_ExtraText, "first");
-    EXPECT_EQ(Take(MakeAlarm("x", "Gas"))->m_CategorySpecificSetting->m_ExtraText, "none");
+    EXPECT_EQ(Take(MakeAlarm("x", "Fire"))->m_CategorySpecificSetting.get().m_ExtraText, "first");
+    EXPECT_EQ(Take(MakeAlarm("x", "Gas"))->m_CategorySpecificSetting.get().m_ExtraText, "none");
 }
 
 TEST_F(AlarmListView, ANewRowMarksTheListAsChanged) {

@@ -23,7 +23,7 @@ std::string Zeros(std::size_t count) {
 
 TEST(AlarmObjects, AFreshAlarmWithEmptyStringsWrites180Bytes) {
     cFakeClock clock;
-    const cVigrelRecieverAlarm alarm(clock);
+    const cVigrelRecieverAlarm alarm(clock, kNoCategorySetting);
     EXPECT_EQ(Written(alarm).size(), 180u);
     cBinaryWriter core;
     alarm.m_Alarm.WriteToDisk(core);
@@ -33,7 +33,7 @@ TEST(AlarmObjects, AFreshAlarmWithEmptyStringsWrites180Bytes) {
 TEST(AlarmObjects, TheRecordIsWrittenByteForByte) {
     cFakeClock clock;
     clock.m_Now = 2.5;  // IEEE 754: 00 00 00 00 00 00 04 40
-    cVigrelRecieverAlarm alarm(clock);
+    cVigrelRecieverAlarm alarm(clock, kNoCategorySetting);
     alarm.m_Alarm.m_TimeStampFromSCADA = 1.0;  // 00 00 00 00 00 00 F0 3F
     alarm.m_Alarm.m_EventId = 0x01020304;
     alarm.m_Alarm.m_Status = 1;
@@ -57,7 +57,7 @@ TEST(AlarmObjects, TheRecordIsWrittenByteForByte) {
 
 TEST(AlarmObjects, ReadingTakesBackWhatWasWrittenAndLeavesTheRest) {
     cFakeClock clock;
-    cVigrelRecieverAlarm alarm(clock);
+    cVigrelRecieverAlarm alarm(clock, kNoCategorySetting);
     alarm.m_Alarm.m_Status = 2;
     alarm.m_Alarm.SetCondition(5, "f");
     alarm.m_Alarm.m_System = 63;
@@ -66,7 +66,7 @@ TEST(AlarmObjects, ReadingTakesBackWhatWasWrittenAndLeavesTheRest) {
     alarm.m_Observed = True16;
     const std::string bytes = Written(alarm);
     clock.AddSeconds(60);
-    cVigrelRecieverAlarm other(clock);
+    cVigrelRecieverAlarm other(clock, kNoCategorySetting);
     other.m_Alarm.m_TimeToSend = 5;
     cBinaryReader file(bytes);
     other.ReadFromDisk(file);
@@ -84,14 +84,14 @@ TEST(AlarmObjects, ReadingTakesBackWhatWasWrittenAndLeavesTheRest) {
 
 TEST(AlarmObjects, SpareStringsAreReadAndGoneAfterTheNextSave) {
     cFakeClock clock;
-    cVigrelRecieverAlarm alarm(clock);
+    cVigrelRecieverAlarm alarm(clock, kNoCategorySetting);
     std::string bytes = Written(alarm);
     using std::string_literals::operator""s;
     // The first spare string of each record: behind 8 + 8 + 4 + 2 + 6*2 + 2*2 + 2 + 2 + 2 = 44 bytes of the
     // core.
     bytes.replace(44, 2, "\x03\0xyz"s);
     cBinaryReader file(bytes);
-    cVigrelRecieverAlarm other(clock);
+    cVigrelRecieverAlarm other(clock, kNoCategorySetting);
     other.ReadFromDisk(file);
     EXPECT_EQ(file.Position(), bytes.size());
     EXPECT_EQ(Written(other).size(), 180u);
@@ -99,14 +99,14 @@ TEST(AlarmObjects, SpareStringsAreReadAndGoneAfterTheNextSave) {
 
 TEST(AlarmObjects, ARecordCutAtAnyLengthReadsAsZerosAndEmptyTexts) {
     cFakeClock clock;
-    cVigrelRecieverAlarm alarm(clock);
+    cVigrelRecieverAlarm alarm(clock, kNoCategorySetting);
     for (int i = 0; i < 6; ++i) alarm.m_Alarm.SetCondition(i, "text");
     alarm.m_Sender = "PLC1";
     alarm.m_Observed = True16;
     const std::string bytes = Written(alarm);
     for (std::size_t length = 0; length < bytes.size(); ++length) {
         cBinaryReader file(std::string_view(bytes).substr(0, length));
-        cVigrelRecieverAlarm other(clock);
+        cVigrelRecieverAlarm other(clock, kNoCategorySetting);
         other.ReadFromDisk(file);
         EXPECT_FALSE(file.Complete()) << length;
         // The sender's flag stands behind the core record and the sender's name.
@@ -123,7 +123,7 @@ TEST(AlarmObjects, ARecordCutAtAnyLengthReadsAsZerosAndEmptyTexts) {
 
 TEST(AlarmObjects, ALogLineNamesTheStateAndFiveConditions) {
     cFakeClock clock;
-    cVigrelRecieverAlarm alarm(clock);
+    cVigrelRecieverAlarm alarm(clock, kNoCategorySetting);
     for (int i = 0; i < 6; ++i) alarm.m_Alarm.SetCondition(i, "c" + std::to_string(i));
     const char* words[] = {"Inactive", "Active", "Acked", "Message"};
     for (std::int16_t status = 0; status < 4; ++status) {

@@ -27,7 +27,7 @@ class AlarmStore : public ::testing::Test, public cFakeStation {
     }
     // A stored alarm of the given age in days.
     std::string PutFile(std::int32_t id, double ageDays, const std::string& sender = "S") {
-        cVigrelRecieverAlarm alarm(clock);
+        cVigrelRecieverAlarm alarm(clock, kNoCategorySetting);
         alarm.m_Sender = sender;
         alarm.m_CreatedTime = clock.Now() - ageDays;
         alarm.m_FileId = id;
@@ -36,9 +36,7 @@ class AlarmStore : public ::testing::Test, public cFakeStation {
         files.Put(store.FileName(id), file.Bytes());
         return store.FileName(id);
     }
-    void Load() {
-        store.LoadAlarms([this](const AlarmPtr& alarm) { view.AddAlarmRow(alarm); });
-    }
+    void Load() { listed.LoadAlarms(); }
     AlarmPtr At(double created, const std::string& sender) {
         auto alarm = MakeAlarm();
         alarm->m_CreatedTime = created;
@@ -117,7 +115,7 @@ TEST_F(AlarmStore, LoadingGivesWhatInsertingOneByOneGives) {
             station->view.SetUpColumns(station->settings);
         }
         for (unsigned long id = 1; id <= count; ++id) {
-            cVigrelRecieverAlarm alarm(clock);
+            cVigrelRecieverAlarm alarm(clock, kNoCategorySetting);
             alarm.m_CreatedTime = clock.Now() - static_cast<double>(draw() % kinds);
             alarm.m_FileId = static_cast<std::int32_t>(id);
             cBinaryWriter file;
@@ -127,14 +125,14 @@ TEST_F(AlarmStore, LoadingGivesWhatInsertingOneByOneGives) {
         }
         int removed = 0;
         for (const std::string& name : inserting.AlarmFiles()) {
-            auto alarm = std::make_shared<cVigrelRecieverAlarm>(clock);
+            auto alarm = std::make_shared<cVigrelRecieverAlarm>(clock, kNoCategorySetting);
             const std::string bytes = inserting.files.ReadFile(std::string(kApp) + "Alarms\\" + name);
             cBinaryReader file(bytes);
             alarm->ReadFromDisk(file);
             if (!inserting.store.InsertAlarm(alarm, most)) ++removed;
         }
         loading.LoadTexts({10036, 10041});
-        loading.store.LoadAlarms([&](const AlarmPtr& alarm) { loading.view.AddAlarmRow(alarm); });
+        loading.listed.LoadAlarms();
         const auto ids = [](const cFakeStation& station) {
             std::string text;
             for (const AlarmPtr& alarm : station.store.m_Alarms)
@@ -464,23 +462,6 @@ TEST_F(AlarmStore, OfTwoEqualTimesTheLaterInsertionStandsBehindTheOneTheSearchMe
     EXPECT_EQ(Senders(), "abced");
 }
 
-TEST_F(AlarmStore, TheOldestGoesWhenThereAreTooMany) {
-    settings.m_MaxEvents = 2;
-    const AlarmPtr first = Take(MakeAlarm("first"));
-    clock.AddSeconds(1);
-    Take(MakeAlarm("second"));
-    clock.AddSeconds(1);
-    const AlarmPtr third = MakeAlarm("third");
-    view.AddAlarmRow(third);
-    store.SaveAlarm(third);
-    EXPECT_FALSE(store.InsertAlarm(third, 2));
-    EXPECT_EQ(store.m_Alarms.size(), 2u);
-    EXPECT_EQ(AlarmFiles().size(), 2u);
-    EXPECT_FALSE(files.FileExists(store.FileName(first->m_FileId)));
-    EXPECT_EQ(list.RecordCount(), 2);
-    EXPECT_EQ(first->m_Record, 0u);
-}
-
 TEST_F(AlarmStore, OnlyOneGoesPerInsertionHoweverFarOverTheLimit) {
     settings.m_MaxDays = 0;
     for (int i = 0; i < 5; ++i) store.InsertAlarm(At(i + 1, "x"), 0);
@@ -495,17 +476,6 @@ TEST_F(AlarmStore, AnAlarmOlderThanEveryOtherCanBeTheOneThatGoes) {
     EXPECT_EQ(Senders(), "b");
 }
 
-TEST_F(AlarmStore, ATooOldAlarmIsDeletedWithItsRowAndNotInserted) {
-    const AlarmPtr alarm = MakeAlarm();
-    alarm->m_CreatedTime = clock.Now() - 31;
-    view.AddAlarmRow(alarm);
-    store.SaveAlarm(alarm);
-    EXPECT_FALSE(store.InsertAlarm(alarm, 1000));
-    EXPECT_TRUE(store.m_Alarms.empty());
-    EXPECT_TRUE(AlarmFiles().empty());
-    EXPECT_EQ(list.RecordCount(), 0);
-}
-
 TEST_F(AlarmStore, WithoutLimitsNothingIsEverRemoved) {
     settings.m_MaxDays = 0;
     for (int i = 0; i < 50; ++i) EXPECT_TRUE(store.InsertAlarm(At(1, "x"), 0));
@@ -513,18 +483,11 @@ TEST_F(AlarmStore, WithoutLimitsNothingIsEverRemoved) {
     EXPECT_EQ(store.m_Alarms.size(), 50u);
 }
 
-TEST_F(AlarmStore, AnEmptyFolderLogsZeroAlarms) {
-    Load();
-    EXPECT_EQ(Log(), "0 T10041\n");
-    EXPECT_TRUE(state.m_ListChanged);
-    EXPECT_TRUE(list.m_Visible);
-}
-
 TEST_F(AlarmStore, StoredAlarmsComeBackInOrderWithTheirState) {
     PutFile(1, 1, "b");
     PutFile(2, 2, "a");
     const std::string seen = PutFile(3, 0.5, "c");
-    cVigrelRecieverAlarm observed(clock);
+    cVigrelRecieverAlarm observed(clock, kNoCategorySetting);
     observed.m_Sender = "c";
     observed.m_CreatedTime = clock.Now() - 0.5;
     observed.m_Observed = True16;
@@ -537,23 +500,6 @@ TEST_F(AlarmStore, StoredAlarmsComeBackInOrderWithTheirState) {
     EXPECT_EQ(store.m_Alarms[0]->m_Observed, False16);
     EXPECT_EQ(list.Rows().size(), 3u);
     EXPECT_EQ(Log(), "3 T10041\n");
-}
-
-TEST_F(AlarmStore, LoadingAgainStartsAfreshBehindAHiddenList) {
-    PutFile(1, 1);
-    PutFile(2, 2);
-    Load();
-    list.SelectAllRows();
-    state.m_ListChanged = false;
-    store.LoadAlarms([this](const AlarmPtr& alarm) {
-        EXPECT_FALSE(list.m_Visible);
-        view.AddAlarmRow(alarm);
-    });
-    EXPECT_TRUE(list.m_Visible);
-    EXPECT_EQ(list.RecordCount(), 2);
-    EXPECT_EQ(store.m_Alarms.size(), 2u);
-    EXPECT_TRUE(list.SelectedRows().empty());
-    EXPECT_TRUE(state.m_ListChanged);
 }
 
 TEST_F(AlarmStore, The1001stFileAtStartRemovesTheOldest) {
@@ -571,15 +517,6 @@ TEST_F(AlarmStore, ALoweredLimitRemovesOneAlarmForEachFileBeyondIt) {
     EXPECT_EQ(store.m_Alarms.size(), 1000u);
     EXPECT_EQ(AlarmFiles().size(), 1000u);
     EXPECT_EQ(Log(), "500 T10036\n1000 T10041\n");
-}
-
-TEST_F(AlarmStore, ATooOldFileIsDeletedAtStartAndNeverGetsARow) {
-    PutFile(1, 31);
-    PutFile(2, 29);
-    Load();
-    EXPECT_EQ(AlarmFiles(), std::vector<std::string>{"A0000002.alm"});
-    EXPECT_EQ(Log(), "1 T10036\n1 T10041\n");
-    EXPECT_EQ(list.RecordCount(), 1);
 }
 
 TEST_F(AlarmStore, ANameWithoutANumberIsLeftAloneForGood) {
@@ -617,7 +554,7 @@ TEST_F(AlarmStore, TheNameDecidesTheNumberAndTheNextSaveCorrectsTheFile) {
     ASSERT_EQ(store.m_Alarms.size(), 1u);
     EXPECT_EQ(store.m_Alarms[0]->m_FileId, 9);
     store.SaveAlarm(store.m_Alarms[0]);
-    cVigrelRecieverAlarm read(clock);
+    cVigrelRecieverAlarm read(clock, kNoCategorySetting);
     const std::string saved = files.ReadFile(store.FileName(9));
     cBinaryReader file(saved);
     read.ReadFromDisk(file);
@@ -694,20 +631,6 @@ TEST_F(AlarmStore, ALeftoverTemporaryIsClearedAndNeverRead) {
     EXPECT_TRUE(AlarmFiles().empty());
 }
 
-TEST_F(AlarmStore, TheSweepStopsAtTheFirstAlarmThatIsYoungEnough) {
-    settings.m_MaxDays = 0;
-    for (const double age : {40.0, 35.0, 10.0, 1.0}) {
-        const AlarmPtr alarm = MakeAlarm();
-        alarm->m_CreatedTime = clock.Now() - age;
-        Take(alarm);
-    }
-    settings.m_MaxDays = 30;
-    EXPECT_EQ(store.SweepOldAlarms(), 2);
-    EXPECT_EQ(store.m_Alarms.size(), 2u);
-    EXPECT_EQ(AlarmFiles().size(), 2u);
-    EXPECT_EQ(list.RecordCount(), 2);
-}
-
 TEST_F(AlarmStore, ADrawnNumberOfZeroIsAValidFileAndANewNumberAtTheNextSave) {
     random.m_Values = {0.0};
     const AlarmPtr alarm = MakeAlarm();
@@ -717,6 +640,25 @@ TEST_F(AlarmStore, ADrawnNumberOfZeroIsAValidFileAndANewNumberAtTheNextSave) {
     store.SaveAlarm(alarm);
     EXPECT_EQ(alarm->m_FileId, 5000000);
     EXPECT_EQ(AlarmFiles().size(), 2u);
+}
+
+TEST_F(AlarmStore, ATooOldAlarmIsGivenUpWithItsFileAndNotInserted) {
+    std::vector<std::string> givenUp;
+    store.OnGivenUp = [&](const cVigrelRecieverAlarm& alarm) { givenUp.push_back(alarm.m_Sender); };
+    const AlarmPtr alarm = At(clock.Now() - 31, "old");
+    store.SaveAlarm(alarm);
+    EXPECT_FALSE(store.InsertAlarm(alarm, 1000));
+    EXPECT_TRUE(store.m_Alarms.empty());
+    EXPECT_TRUE(AlarmFiles().empty());
+    EXPECT_EQ(givenUp, std::vector<std::string>{"old"});
+}
+
+TEST_F(AlarmStore, TheSweepStopsAtTheFirstAlarmThatIsYoungEnough) {
+    settings.m_MaxDays = 0;
+    for (const double age : {40.0, 35.0, 10.0, 1.0}) store.InsertAlarm(At(clock.Now() - age, "x"), 0);
+    settings.m_MaxDays = 30;
+    EXPECT_EQ(store.SweepOldAlarms(), 2);
+    EXPECT_EQ(store.m_Alarms.size(), 2u);
 }
 
 }  // namespace

@@ -23,7 +23,7 @@ class AlarmExport : public ::testing::Test {
   protected:
     void Put(const std::string& digits, DateTime created, const std::string& category = "",
              const std::string& sender = "", std::int16_t status = 0, bool observed = false) {
-        cVigrelRecieverAlarm alarm(m_Clock);
+        cVigrelRecieverAlarm alarm(m_Clock, kNoCategorySetting);
         alarm.m_CreatedTime = created;
         alarm.m_Alarm.SetCondition(2, category);
         alarm.m_Sender = sender;
@@ -96,7 +96,7 @@ TEST_F(AlarmExport, EveryTimeHasItsPlaceAndOneThatIsNoDateIsTold) {
 }
 
 TEST_F(AlarmExport, QuotesAreDoubledAndLineEndsStayInsideTheirCell) {
-    cVigrelRecieverAlarm alarm(m_Clock);
+    cVigrelRecieverAlarm alarm(m_Clock, kNoCategorySetting);
     alarm.m_Alarm.SetCondition(0, "a \"b\", c\nd");
     PutAlarm("0000001", alarm);
     EXPECT_NE(Export().table.find(",\"a \"\"b\"\", c\nd\","), std::string::npos);
@@ -104,13 +104,13 @@ TEST_F(AlarmExport, QuotesAreDoubledAndLineEndsStayInsideTheirCell) {
 
 TEST_F(AlarmExport, ACellIsNoFormulaForASpreadsheetUnlessItIsWantedExactly) {
     for (const std::string text : {"=1+2", "+A1", "@x", "-x", "\tx"}) {
-        cVigrelRecieverAlarm alarm(m_Clock);
+        cVigrelRecieverAlarm alarm(m_Clock, kNoCategorySetting);
         alarm.m_Alarm.SetCondition(0, text);
         PutAlarm("0000001", alarm);
         EXPECT_NE(Export().table.find(",\"'" + text + "\","), std::string::npos) << text;
         EXPECT_NE(Export({{}, true}).table.find(",\"" + text + "\","), std::string::npos) << text;
     }
-    cVigrelRecieverAlarm alarm(m_Clock);
+    cVigrelRecieverAlarm alarm(m_Clock, kNoCategorySetting);
     alarm.m_Alarm.SetCondition(0, "-12.5");
     PutAlarm("0000001", alarm);
     EXPECT_NE(Export().table.find(",\"-12.5\","), std::string::npos);
@@ -192,7 +192,7 @@ TEST_F(AlarmExport, OnATerminalControlCharactersAreEscaped) {
 
 TEST(AlarmFilter, ASecondThatIsShownIsIncludedByFromAndLeftOutByTheEndBeforeIt) {
     const testing::cFakeClock clock;
-    cVigrelRecieverAlarm alarm(clock);
+    cVigrelRecieverAlarm alarm(clock, kNoCategorySetting);
     const DateTime second = DateSerial(2026, 3, 15) + TimeSerial(12, 30, 15);
     alarm.m_CreatedTime = second - 0.5e-4 / 86400;
     ASSERT_EQ(DateTimeText(alarm.m_CreatedTime), "2026-03-15 12:30:15");

@@ -39,8 +39,8 @@ class AlarmIntake : public ::testing::Test, public cFakeStation {
         transcript.Add(step);
         if (failing) throw cFailure(eFailure::Device, "made to fail");
     }
-    cAlarmIntake intake{{view,
-                         store,
+    cAlarmIntake intake{{listed,
+                         view,
                          mainWindow,
                          log,
                          texts,
@@ -176,7 +176,7 @@ TEST_F(AlarmIntake, AFileThatCannotBeWrittenStopsNoSignal) {
 
 TEST_F(AlarmIntake, AnEventOfACategoryWithoutSectionUsesTheDefaultSettings) {
     Process(StatusActive, "Unknown");
-    EXPECT_EQ(last->m_CategorySpecificSetting, &categories.m_DefaultCategorySetting);
+    EXPECT_EQ(&last->m_CategorySpecificSetting.get(), &categories.m_DefaultCategorySetting);
 }
 
 TEST_F(AlarmIntake, TheOperatorsSelectionGoesAtTheNextEvent) {

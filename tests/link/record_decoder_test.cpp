@@ -50,8 +50,8 @@ class RecordDecoder : public ::testing::Test, public cFakeStation {
     std::vector<AlarmPtr> alarms;
     std::string replies;
     std::function<void(const AlarmPtr&)> take = [this](const AlarmPtr& alarm) { alarms.push_back(alarm); };
-    cSenderTable senders{{files, clock, ini, texts, log, settings, forms, messageBox, take}};
-    cRecordDecoder decoder{{clock, log, texts, senders, take,
+    cSenderTable senders{{files, clock, maker, ini, texts, log, settings, forms, messageBox, take}};
+    cRecordDecoder decoder{{clock, maker, log, texts, senders, take,
                             [this](std::string_view reply) { replies += std::string(reply); }}};
 };
 
@@ -294,7 +294,7 @@ TEST_F(RecordDecoder, AFieldBeyondTheSixteenBitPositionsIsRefused) {
 }
 
 TEST_F(RecordDecoder, AFailingIntakeStillGetsTheAlarmLoggedAndAnswered) {
-    cRecordDecoder failing{{clock, log, texts, senders,
+    cRecordDecoder failing{{clock, maker, log, texts, senders,
                             [](const AlarmPtr&) { throw cFailure(eFailure::InvalidCall, "no"); },
                             [this](std::string_view reply) { replies += std::string(reply); }}};
     std::string frame = MakeFrame("Alpha", "S1||text");

@@ -27,11 +27,8 @@ class SenderTable : public ::testing::Test, public cFakeStation {
         clock.AddSeconds(minutes * 60);
         table.Tick();
     }
-    bool Frame(const std::string& sender, const std::string& text = "x") {
-        auto alarm = MakeAlarm();
-        alarm->m_Sender = sender;
-        bool accepted = false;
-        return table.Heard(alarm, text, accepted);
+    eHeard Frame(const std::string& sender, const std::string& text = "x") {
+        return table.Heard(sender, text);
     }
     cSenderTable::cSender& Row(int i) { return table.m_Senders[static_cast<std::size_t>(i)]; }
     // "status: condition 4" of each alarm.
@@ -44,7 +41,7 @@ class SenderTable : public ::testing::Test, public cFakeStation {
     }
 
     std::vector<AlarmPtr> alarms;
-    cSenderTable table{{files, clock, ini, texts, log, settings, forms, messageBox,
+    cSenderTable table{{files, clock, maker, ini, texts, log, settings, forms, messageBox,
                         [this](const AlarmPtr& alarm) { alarms.push_back(alarm); }}};
 };
 
@@ -120,7 +117,7 @@ TEST_F(SenderTable, ASenderWithZeroMinutesIsNeverReportedButItsFramesCount) {
     Read("Alpha=0\r\n");
     Minutes(100000);
     EXPECT_TRUE(alarms.empty());
-    EXPECT_TRUE(Frame("Alpha", ""));
+    EXPECT_EQ(Frame("Alpha", ""), eHeard::KeepAlive);
     EXPECT_EQ(Row(0).LastSeen, clock.Now());
     EXPECT_FALSE(Row(0).NotYetSeen);
     EXPECT_EQ(Log(), "Alpha T10028\n");
@@ -173,7 +170,7 @@ TEST_F(SenderTable, WithoutAutomaticResetThereIsOneAlarmAndLastSeenMovesOn) {
 TEST_F(SenderTable, ASenderNeverHeardComesBackWithTheTextOfOneNeverHeard) {
     Read("Alpha=5\r\n");
     Minutes(5.1);
-    EXPECT_TRUE(Frame("alpha"));
+    EXPECT_EQ(Frame("alpha"), eHeard::Known);
     EXPECT_EQ(Alarms(), "1: Alpha - T10032\n0: Alpha - T10032\n");
     EXPECT_FALSE(Row(0).AlarmRaised);
     EXPECT_FALSE(Row(0).NotYetSeen);
@@ -218,8 +215,8 @@ TEST_F(SenderTable, OnlyTheFirstOfTwoRowsOfANameIsUpdated) {
 
 TEST_F(SenderTable, AnUnknownSenderIsNotFound) {
     Read("Alpha=5\r\n");
-    EXPECT_FALSE(Frame("Beta"));
-    EXPECT_FALSE(Frame("Alpha "));
+    EXPECT_EQ(Frame("Beta"), eHeard::Unknown);
+    EXPECT_EQ(Frame("Alpha ", ""), eHeard::Unknown);
 }
 
 TEST_F(SenderTable, AChangedWallClockRaisesNoAlarm) {

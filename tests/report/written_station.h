@@ -98,7 +98,7 @@ class cWrittenStation {
     void Store(const cStored& stored) {
         cFakeClock clock;
         clock.m_Now = 25569 + static_cast<double>(stored.created) / 86400;
-        cVigrelRecieverAlarm alarm(clock);
+        cVigrelRecieverAlarm alarm(clock, kNoCategorySetting);
         alarm.m_Sender = stored.sender;
         alarm.m_Alarm.m_Status = stored.state;
         for (int i = 0; i < 5; ++i) alarm.m_Alarm.SetCondition(i, stored.texts[static_cast<std::size_t>(i)]);

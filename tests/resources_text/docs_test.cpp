@@ -55,7 +55,7 @@ TEST(AlarmFilePage, TheWorkedExampleReadsAsTheAlarmItSaysItIs) {
     const std::string bytes = HexBlock("formats/alarm-file.md", "alarm-file");
     ASSERT_EQ(bytes.size(), 218u);
     const vigrel::testing::cFakeClock clock;
-    cVigrelRecieverAlarm alarm(clock);
+    cVigrelRecieverAlarm alarm(clock, kNoCategorySetting);
     cBinaryReader file(bytes);
     alarm.ReadFromDisk(file);
     EXPECT_TRUE(file.Complete());
@@ -72,7 +72,7 @@ TEST(AlarmFilePage, TheWorkedExampleReadsAsTheAlarmItSaysItIs) {
 TEST(AlarmFilePage, TheAlarmOfTheWorkedExampleIsWrittenAsItSays) {
     const std::string bytes = HexBlock("formats/alarm-file.md", "alarm-file");
     const vigrel::testing::cFakeClock clock;
-    cVigrelRecieverAlarm alarm(clock);
+    cVigrelRecieverAlarm alarm(clock, kNoCategorySetting);
     cBinaryReader reader(bytes);
     alarm.ReadFromDisk(reader);
     cBinaryWriter writer;

@@ -55,7 +55,7 @@ class ManualPage : public DefaultConfiguration {
         ASSERT_TRUE(m_Texts.LoadTexts());
     }
     std::string Expand(const std::string& text) const {
-        cVigrelRecieverAlarm alarm(m_Clock);
+        cVigrelRecieverAlarm alarm(m_Clock, kNoCategorySetting);
         alarm.m_Sender = "PLC1";
         alarm.m_Alarm.m_Status = 1;
         alarm.m_Alarm.SetCondition(0, "Fan 3 tripped");

@@ -21,7 +21,7 @@ class DefaultTemplates : public EveryTemplate {
         ASSERT_TRUE(m_Texts.LoadTexts());
     }
     std::string Expand(std::int16_t status, const std::string& text, const std::string& extraText) {
-        cVigrelRecieverAlarm alarm(m_Clock);
+        cVigrelRecieverAlarm alarm(m_Clock, kNoCategorySetting);
         alarm.m_Sender = "PLC1";
         alarm.m_Alarm.m_Status = status;
         alarm.m_Alarm.m_TimeStampFromSCADA = DateSerial(2024, 3, 5) + TimeSerial(13, 45, 10);

@@ -280,7 +280,6 @@ TEST_F(SignalLight, AnEventReachesTheLightAsPackets) {
     cLight light({m_Light, menus, station.categories, station.state, station.texts, station.log});
     ASSERT_EQ(light.ScanDevices(), 1);
     const AlarmPtr alarm = station.MakeAlarm("text", "Fire");
-    alarm->m_CategorySpecificSetting = &station.categories.Find("Fire");
     light.SignalUsbLight(*alarm);
     const std::string node = "/dev/hidraw3 ";
     const std::string zeros = " 00 00 00 00\n";

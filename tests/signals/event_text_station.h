@@ -34,7 +34,7 @@ struct cEventTextStation {
     cTexts texts{files, ini};
     cSettings settings;
     cLocaleForms forms;
-    cVigrelRecieverAlarm alarm{clock};
+    cVigrelRecieverAlarm alarm{clock, kNoCategorySetting};
     cEventText eventText{settings, texts, ini, forms};
 };
 

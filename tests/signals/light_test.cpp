@@ -25,7 +25,6 @@ class Light : public ::testing::Test, protected cFakeStation {
     // What an event of a category and status makes the lights do.
     std::string Signal(const std::string& category, std::int16_t status = StatusActive) {
         const AlarmPtr alarm = MakeAlarm("text", category, status);
-        alarm->m_CategorySpecificSetting = &categories.Find(category);
         m_Light.SignalUsbLight(*alarm);
         return transcript.Take();
     }

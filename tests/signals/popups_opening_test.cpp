@@ -28,7 +28,7 @@ TEST_F(cShowPopup, RunsItsStepsInOneOrder) {
     const auto setting =
         Setting("BackColor_Active=1,0,0\nForeColor_Active=2,0,0\nEventPopupFormat=format\nExtraText=extra\n");
     const AlarmPtr alarm = Alarm("C");
-    alarm->m_CategorySpecificSetting = &setting;
+    alarm->m_CategorySpecificSetting = setting;
     EXPECT_EQ(m_Popups.ShowPopup(alarm), 1);
     EXPECT_EQ(m_Transcript.Take(),
               "popup 1: caption \"Title (Plant)\"\n"
@@ -264,9 +264,7 @@ TEST_F(cShowPopup, AWindowThatCantBeMadeLeavesNothing) {
 }
 
 TEST_F(cShowPopup, AFailureHalfWayLeavesALoadedPopupThatDoesNotShow) {
-    const AlarmPtr alarm = Alarm("C");
-    alarm->m_CategorySpecificSetting = nullptr;
-    EXPECT_THROW(m_Popups.ShowPopup(alarm), cFailure);
+    EXPECT_THROW(m_Popups.ShowPopup(Alarm("C", 7)), cFailure);
     EXPECT_EQ(m_Maker.Open(), "1");
     EXPECT_EQ(m_Maker.Visible(), "");
     EXPECT_EQ(m_State.m_PopupFormCount, 1);

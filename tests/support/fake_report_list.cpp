@@ -84,6 +84,7 @@ cReportItem cFakeReportList::Item(RecordId record, int item) const {
 }
 
 RecordId cFakeReportList::AddRecord(RecordTag tag) {
+    if (m_OnAddRecord) m_OnAddRecord();
     m_Records[m_NextRecord] = std::move(tag);
     return m_NextRecord++;
 }

@@ -76,6 +76,7 @@ class cFakeReportList : public cReportList {
     double m_FontPoints = 8;
     cFontStyle m_Style;
     bool m_Visible = true;
+    std::function<void()> m_OnAddRecord;
 
   private:
     struct cSortColumn {

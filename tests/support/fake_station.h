@@ -14,7 +14,9 @@
 #include "common/texts.h"
 #include "events/acknowledgement.h"
 #include "events/alarm_list_view.h"
+#include "events/alarm_maker.h"
 #include "events/alarm_store.h"
+#include "events/listed_alarms.h"
 #include "support/fake_clock.h"
 #include "support/fake_files.h"
 #include "support/fake_random.h"
@@ -57,18 +59,16 @@ class cFakeStation {
     }
     AlarmPtr MakeAlarm(const std::string& t0 = "Fan 3 tripped", const std::string& category = "",
                        std::int16_t status = StatusActive) {
-        auto alarm = std::make_shared<cVigrelRecieverAlarm>(clock);
-        alarm->m_Sender = "PLC1";
-        alarm->m_Alarm.m_Status = status;
-        alarm->m_Alarm.SetCondition(0, t0);
-        alarm->m_Alarm.SetCondition(2, category);
-        return alarm;
+        return maker.Make([&](cVigrelRecieverAlarm& alarm) {
+            alarm.m_Sender = "PLC1";
+            alarm.m_Alarm.m_Status = status;
+            alarm.m_Alarm.SetCondition(0, t0);
+            alarm.m_Alarm.SetCondition(2, category);
+        });
     }
     // What the intake does with the store and the list.
     AlarmPtr Take(const AlarmPtr& alarm) {
-        view.AddAlarmRow(alarm);
-        store.SaveAlarm(alarm);
-        store.InsertAlarm(alarm, settings.m_MaxEvents);
+        listed.TakeIn(alarm);
         view.ShowNewAlarm(*alarm);
         return alarm;
     }
@@ -92,9 +92,11 @@ class cFakeStation {
     cTexts texts{files, ini};
     cLog log{files, clock, texts, kApp};
     cCategorySettings categories;
-    cAlarmListView view{{list, ini, texts, settings, state, categories, forms, screen, clipboard}};
+    cAlarmMaker maker{clock, categories};
+    cAlarmListView view{{list, ini, texts, settings, state, forms, screen, clipboard}};
     cFakeTimer timerSave{10};
-    cAlarmStore store{{files, files, clock, random, list, log, texts, settings, state, timerSave}, kApp};
+    cAlarmStore store{{files, files, clock, random, log, settings, categories, timerSave}, kApp};
+    cListedAlarms listed{{store, view, list, log, texts, settings, state}};
     cAcknowledgement acknowledgement{{store, view, list, log, texts, settings, state}};
 };
 

@@ -42,11 +42,10 @@ class cPopupStation {
     }
     // Alarms are numbered from 1 in their text.
     AlarmPtr Alarm(const std::string& category, std::int16_t status = StatusActive) {
-        auto alarm = std::make_shared<cVigrelRecieverAlarm>(m_Clock);
+        auto alarm = std::make_shared<cVigrelRecieverAlarm>(m_Clock, m_Setting);
         alarm->m_Alarm.m_Status = status;
         alarm->m_Alarm.SetCondition(0, "Alarm " + std::to_string(++m_Alarms));
         alarm->m_Alarm.SetCondition(2, category);
-        alarm->m_CategorySpecificSetting = &m_Setting;
         return alarm;
     }
     cPopupServices Services(cWindowList& windows, cPopupMaker& maker) {

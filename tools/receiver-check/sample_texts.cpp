@@ -64,7 +64,7 @@ class cSamples {
     }
     std::string Expand(const std::string& text, const std::string& category, std::int16_t status,
                        const std::string& extraText) const {
-        cVigrelRecieverAlarm alarm(m_Clock);
+        cVigrelRecieverAlarm alarm(m_Clock, kNoCategorySetting);
         alarm.m_Sender = "PLC1";
         alarm.m_Alarm.m_Status = status;
         alarm.m_Alarm.SetCondition(0, "Fan 3 tripped");

@@ -55,7 +55,7 @@ double cDamage::Time() {
 }
 
 std::string cDamage::SoundAlarm() {
-    cVigrelRecieverAlarm alarm{testing::cFakeClock()};
+    cVigrelRecieverAlarm alarm{testing::cFakeClock(), kNoCategorySetting};
     alarm.m_Alarm.m_TimeStampFromSCADA = Time();
     alarm.m_Alarm.m_TimeStampFromPC = Time();
     alarm.m_Alarm.m_EventId = static_cast<std::int32_t>(m_Random());

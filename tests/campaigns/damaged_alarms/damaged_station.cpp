@@ -51,9 +51,7 @@ cDamagedStation::cDamagedStation(const std::string& folder) : path(folder) {
 }
 
 void cDamagedStation::Take(const AlarmPtr& alarm) {
-    view.AddAlarmRow(alarm);
-    store.SaveAlarm(alarm);
-    store.InsertAlarm(alarm, settings.m_MaxEvents);
+    listed.TakeIn(alarm);
     view.ShowNewAlarm(*alarm);
 }
 
@@ -99,7 +97,7 @@ void cDamagedStation::CheckFiles() const {
     for (const AlarmPtr& alarm : store.m_Alarms) {
         const std::string content = files.ReadFile(store.FileName(alarm->m_FileId));
         cBinaryReader file(content);
-        cVigrelRecieverAlarm stored(clock);
+        cVigrelRecieverAlarm stored(clock, kNoCategorySetting);
         stored.ReadFromDisk(file);
         stored.m_FileId = alarm->m_FileId;  // the name decides
         Expect(Bytes(stored) == Bytes(*alarm), "a file does not hold its alarm");

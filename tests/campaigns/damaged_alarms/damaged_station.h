@@ -13,7 +13,9 @@
 #include "common/texts.h"
 #include "events/acknowledgement.h"
 #include "events/alarm_list_view.h"
+#include "events/alarm_maker.h"
 #include "events/alarm_store.h"
+#include "events/listed_alarms.h"
 #include "receiver_ui/list/qt_report_list.h"
 #include "support/fake_clock.h"
 #include "support/fake_timer.h"
@@ -43,9 +45,7 @@ class cDamagedStation {
     // The folder ends in a backslash.
     explicit cDamagedStation(const std::string& folder);
 
-    void Load() {
-        store.LoadAlarms([this](const AlarmPtr& alarm) { view.AddAlarmRow(alarm); });
-    }
+    void Load() { listed.LoadAlarms(); }
     // What the intake does with an alarm.
     void Take(const AlarmPtr& alarm);
     void SortBy(int column, bool ascending, bool alone);
@@ -71,9 +71,11 @@ class cDamagedStation {
     cTexts texts{files, ini};
     cLog log{files, clock, texts, path};
     cCategorySettings categories;
-    cAlarmListView view{{list, ini, texts, settings, state, categories, forms, screen, clipboard}};
+    cAlarmMaker maker{clock, categories};
+    cAlarmListView view{{list, ini, texts, settings, state, forms, screen, clipboard}};
     testing::cFakeTimer timerSave{10};
-    cAlarmStore store{{files, files, clock, random, list, log, texts, settings, state, timerSave}, path};
+    cAlarmStore store{{files, files, clock, random, log, settings, categories, timerSave}, path};
+    cListedAlarms listed{{store, view, list, log, texts, settings, state}};
     cAcknowledgement acknowledgement{{store, view, list, log, texts, settings, state}};
 
   private:

@@ -107,8 +107,9 @@ void cLot::Arrive() {
     for (int i = 0; i < 10; ++i) {
         const auto rows = m_Station.list.Rows();
         if (!rows.empty()) m_Station.list.SelectAndShow(AnyRow(rows));
-        auto alarm = std::make_shared<cVigrelRecieverAlarm>(m_Station.clock);
-        if (m_Damage.Chance(30)) alarm->m_CreatedTime = m_Damage.Time();
+        const AlarmPtr alarm = m_Station.maker.Make([this](cVigrelRecieverAlarm& made) {
+            if (m_Damage.Chance(30)) made.m_CreatedTime = m_Damage.Time();
+        });
         m_Station.Take(alarm);
         // What a popup holds on to may be gone by now.
         if (m_Damage.Chance(50)) m_Station.acknowledgement.AckAlarm(0, alarm);

@@ -168,7 +168,7 @@ std::string OnATerminal(const std::string& command) {
 
 TEST_F(VigrelInspect, ATableOnATerminalSteersItByNoAlarm) {
     const testing::cFakeClock clock;
-    cVigrelRecieverAlarm alarm(clock);
+    cVigrelRecieverAlarm alarm(clock, kNoCategorySetting);
     alarm.m_Alarm.SetCondition(0, "\x1B]0;owned\x07");
     cBinaryWriter bytes;
     alarm.WriteToDisk(bytes);
