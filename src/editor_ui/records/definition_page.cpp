@@ -54,9 +54,10 @@ cDefinitionPage::cDefinitionPage(cEditorServices& services, std::unique_ptr<cDef
     connect(qApp, &QApplication::focusChanged, this, [this] { ++m_Session; });
 }
 
-// The stack tells of its end when there is no list any more.
+// The stack tells of its end, and a page with the keyboard gives that back, when there is no list any more.
 cDefinitionPage::~cDefinitionPage() {
     m_UndoStack.disconnect(this);
+    qApp->disconnect(this);
 }
 
 void cDefinitionPage::SetUp(cPageWords words, cPageForm form) {
