@@ -8,15 +8,18 @@
 #include "adapters/linux/application_folder.h"
 #include "adapters/linux/file_rights.h"
 #include "adapters/linux/linux_files.h"
+#include "adapters/linux/standard_error_box.h"
 #include "adapters/linux/standard_random.h"
 #include "adapters/linux/system_clock.h"
 #include "adapters/qt/qt_locale.h"
+#include "common/exit_codes.h"
 #include "common/ini.h"
 #include "common/path_text.h"
 #include "common/texts.h"
 #include "definitions/station_definitions.h"
 #include "editor_ui/window/definitions_window.h"
 #include "windows/application.h"
+#include "windows/qt_message_box.h"
 
 namespace vigrel {
 namespace {
@@ -58,6 +61,13 @@ int Run(int argc, char** argv) {
     const cFolderHints hints = ReadFolderHints();
     const std::string applicationPath = FindApplicationFolder(hints);
     cLinuxFiles files;
+    cQtMessageBox windowBox("Vigrel Definitions");
+    cStandardErrorBox unseenBox("vigrel-definitions", NativePath(applicationPath));
+    if (const auto why = WhyNoConfiguration(files, applicationPath)) {
+        cMessageBox& box = cApplication::HasDisplay() ? static_cast<cMessageBox&>(windowBox) : unseenBox;
+        box.Show(*why, eMessageIcon::Stop, eMessageButtons::Ok);
+        return kExitRefused;
+    }
     application.Guard(
         [&] { FillApplicationFolder(files, applicationPath, FindInstalledFolder(hints.programFolder)); });
     if (const auto why = WhyElsewhere(hints)) {

@@ -91,6 +91,13 @@ int RunStation(cApplication& application, const std::string& commandLine) {
     const std::string applicationPath = FindApplicationFolder(hints);
     cLinuxFiles files;
     cLinuxFiles ownFiles(cLinuxFiles::eNames::Exact);
+    cQtMessageBox windowBox(kProductName);
+    cStandardErrorBox unseenBox(kProgramName, NativePath(applicationPath));
+    cMessageBox& messageBox = cApplication::HasDisplay() ? static_cast<cMessageBox&>(windowBox) : unseenBox;
+    if (const auto why = WhyNoConfiguration(files, applicationPath)) {
+        messageBox.Show(*why, eMessageIcon::Stop, eMessageButtons::Ok);
+        return kExitRefused;
+    }
     const bool isNew =
         FillApplicationFolder(files, applicationPath, FindInstalledFolder(hints.programFolder));
 
@@ -111,9 +118,6 @@ int RunStation(cApplication& application, const std::string& commandLine) {
     cMainWindow mainWindow(windows);
     cPopupWidgetMaker popups(windows);
     cQtScreen screen;
-    cQtMessageBox windowBox(kProductName);
-    cStandardErrorBox unseenBox(kProgramName, NativePath(applicationPath));
-    cMessageBox& messageBox = cApplication::HasDisplay() ? static_cast<cMessageBox&>(windowBox) : unseenBox;
     if (const auto why = WhyElsewhere(hints)) {
         std::fprintf(stderr, "vigrel-receiver: %s\n", WithPathsToUtf8(*why).c_str());
         // Once: later starts find the folder in use.
@@ -134,7 +138,7 @@ int RunStation(cApplication& application, const std::string& commandLine) {
     cHidSignalLight signalLight(clock);
     cLocalRunningApps runningApps;
     cLinuxPrinterPorts printerPorts(ini, clock, [](const std::string& text) {
-        std::fprintf(stderr, "vigrel-receiver: %s\n", Printable(text).c_str());
+        std::fprintf(stderr, "vigrel-receiver: %s\n", PrintablePath(text).c_str());
     });
     const cQtSettingStore settingStore;
     cQtOtherWindows otherWindows(

@@ -9,13 +9,11 @@
 namespace vigrel {
 namespace {
 
-// What prepare does to the temporary stays with the file.
-void Replace(cFiles& files, std::string_view path, std::string_view bytes,
-             const std::function<void(const std::string& temporary)>& prepare) {
+void Replace(cFiles& files, std::string_view path,
+             const std::function<void(const std::string& temporary)>& write) {
     const std::string temporary = TemporaryName(path);
     const auto replace = [&] {
-        files.WriteFile(temporary, bytes, true);
-        prepare(temporary);
+        write(temporary);
         files.RenameFile(temporary, path);
     };
     CleanUpBehind(replace, [&] { SkipFailure([&] { files.RemoveFile(temporary); }); });
@@ -77,12 +75,12 @@ void CopyMissingFiles(cFiles& files, std::string_view sourceFolder, std::string_
 
 void ReplaceFile(cFiles& files, std::string_view path, std::string_view bytes) {
     const std::string target = files.LinkTarget(path);
-    Replace(files, target, bytes,
-            [&](const std::string& temporary) { files.CopyAttributes(target, temporary); });
+    Replace(files, target,
+            [&](const std::string& temporary) { files.WriteFileLike(temporary, bytes, target); });
 }
 
 void ReplaceOwnFile(cFiles& files, std::string_view path, std::string_view bytes) {
-    Replace(files, path, bytes, [](const std::string&) {});
+    Replace(files, path, [&](const std::string& temporary) { files.WriteFile(temporary, bytes, true); });
 }
 
 void RemoveTemporaries(cFiles& files, std::string_view folder) {

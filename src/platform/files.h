@@ -77,11 +77,17 @@ class cPendingSync {
     virtual bool Wait() = 0;
 };
 
+// A file is not written, removed or renamed in a folder that is a link which somebody planted who has no say
+// over where it lies (PermissionDenied).
 class cFiles : public cFileReader {
   public:
     // Makes the file anew, in place of a file or a link of that name: nothing that stood there is written
     // through. With sync the bytes are on the disk before the call returns.
     virtual void WriteFile(std::string_view path, std::string_view bytes, bool sync) = 0;
+    // The same with sync. The file gets the mode, the owner and the attributes of another one, as far as the
+    // system lets us and never opening it to more users than the other; nothing when the other does not
+    // exist.
+    virtual void WriteFileLike(std::string_view path, std::string_view bytes, std::string_view like) = 0;
     // Creates the file when it is missing. A link of that name is a failure.
     virtual void AppendFile(std::string_view path, std::string_view bytes) = 0;
     virtual void RemoveFile(std::string_view path) = 0;
@@ -99,9 +105,6 @@ class cFiles : public cFileReader {
     // The path of the file that a name leads to by links; the path itself when it is no link. A link that
     // somebody planted who has no say over the folder is a failure (PermissionDenied).
     virtual std::string LinkTarget(std::string_view path) const = 0;
-    // Gives a file the mode and owner of another, as far as the system lets us and never opening it to more
-    // users than the other; nothing when the other does not exist. Does not fail.
-    virtual void CopyAttributes(std::string_view from, std::string_view to) = 0;
 };
 
 }  // namespace vigrel

@@ -27,6 +27,7 @@ class cReadOnlyFiles : public cFiles {
     std::string Spelling(std::string_view path) const override { return m_Files.Spelling(path); }
     cStamp Stamp(std::string_view path) const override { return m_Files.Stamp(path); }
     void WriteFile(std::string_view path, std::string_view, bool) override { Refuse(path); }
+    void WriteFileLike(std::string_view path, std::string_view, std::string_view) override { Refuse(path); }
     void AppendFile(std::string_view path, std::string_view) override { Refuse(path); }
     void RemoveFile(std::string_view path) override { Refuse(path); }
     void RenameFile(std::string_view from, std::string_view) override { Refuse(from); }
@@ -35,7 +36,6 @@ class cReadOnlyFiles : public cFiles {
     void MakeFolder(std::string_view path) override { Refuse(path); }
     void SetNormalAttributes(std::string_view path) override { Refuse(path); }
     std::string LinkTarget(std::string_view path) const override { Refuse(path); }
-    void CopyAttributes(std::string_view, std::string_view to) override { Refuse(to); }
 
   private:
     [[noreturn]] static void Refuse(std::string_view path) {

@@ -111,11 +111,36 @@ TEST_F(ApplicationFolder, ProgramsAreNotCopied) {
     EXPECT_FALSE(FillApplicationFolder(files, data.Folder(), other.Path().string()));
 }
 
-TEST_F(ApplicationFolder, AConfigurationThatCannotBeReadIsAFailureNotAnEmptyOne) {
-    ASSERT_EQ(mkfifo((other.Path() / "vigrelreceiver.INI").c_str(), 0666), 0);
-    const auto failure = CatchFailure([&] { FillApplicationFolder(files, other.Folder(), ""); });
-    ASSERT_TRUE(failure);
-    EXPECT_EQ(std::string(failure->what()), other.Folder() + "vigrelreceiver.INI: no ordinary file");
+TEST_F(ApplicationFolder, AConfigurationThatCannotBeReadIsNotTakenForAnEmptyOne) {
+    EXPECT_EQ(WhyNoConfiguration(files, other.Folder()), std::nullopt);
+    const std::filesystem::path ini = other.Path() / "vigrelreceiver.INI";
+    const auto whyNot = [&](const std::string& reason) {
+        EXPECT_EQ(WhyNoConfiguration(files, other.Folder()),
+                  "The configuration can't be read: " + ini.string() + ": " + reason);
+        std::filesystem::remove(ini);
+    };
+    ASSERT_EQ(mkfifo(ini.c_str(), 0666), 0);
+    whyNot("no ordinary file");
+    std::filesystem::create_directory(ini);
+    whyNot("no ordinary file");
+    std::filesystem::create_symlink("nowhere", ini);
+    whyNot("No such file or directory");
+    Put(other, "vigrelreceiver.INI", "");
+    std::filesystem::resize_file(ini, std::uintmax_t{65} << 20);
+    whyNot("larger than 64 MB");
+    Put(other, "vigrelreceiver.INI", "[General]");
+    EXPECT_EQ(WhyNoConfiguration(files, other.Folder()), std::nullopt);
+}
+
+TEST_F(ApplicationFolder, WhatIsNoFileDoesNotHideTheConfiguration) {
+    Put(other, "VigrelReceiver.ini", "mine");
+    for (const char* name : {"VigrelReceiver.INI", "VIGRELRECEIVER.ini", "vigrelreceiver.INI"}) {
+        std::filesystem::create_directory(other.Path() / name);
+    }
+    ASSERT_EQ(mkfifo((other.Path() / "vigrelreceiver.ini").c_str(), 0666), 0);
+    EXPECT_EQ(WhyNoConfiguration(files, other.Folder()), std::nullopt);
+    EXPECT_EQ(files.ReadFile(other.Folder() + "VigrelReceiver.INI"), "mine");
+    EXPECT_FALSE(FillApplicationFolder(files, other.Folder(), ""));
 }
 
 // Whether the call is true for a user who owns nothing here.

@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 
 #include <fstream>
+#include <tuple>
 
 #include "common/ini.h"
 #include "contract/files_contract.h"
@@ -41,6 +42,40 @@ TEST(LinuxFiles, AnExactNameIsPreferredToOneInAnotherCase) {
     files.WriteFile(folder.Folder() + "X.TXT", "upper", false);
     EXPECT_EQ(files.ReadFile(folder.Folder() + "x.txt"), "lower");
     EXPECT_EQ(files.ReadFile(folder.Folder() + "X.TXT"), "upper");
+}
+
+// Names of few letters are tried, others searched for.
+TEST(LinuxFiles, OnlyOrdinaryFilesCountWhenANameIsFoundInAnotherCase) {
+    for (const auto& [given, other, there] :
+         {std::tuple{"A0000001.alm", "A0000001.ALM", "a0000001.Alm"},
+          std::tuple{"VigrelReceiver.INI", "VIGRELRECEIVER.INI", "vigrelreceiver.ini"}}) {
+        cTemporaryFolder folder;
+        cLinuxFiles files;
+        const std::string path = folder.Folder() + given;
+        std::filesystem::create_directory(folder.Path() / given);
+        EXPECT_FALSE(files.FileExists(path));
+        EXPECT_THROW(files.ReadFile(path), cFailure);
+        EXPECT_EQ(files.Spelling(path), folder.Path().string() + "/" + given);
+        ASSERT_EQ(mkfifo((folder.Path() / other).c_str(), 0666), 0);
+        EXPECT_EQ(files.Spelling(path), folder.Path().string() + "/" + given);
+        std::ofstream(folder.Path() / "real") << "content";
+        std::filesystem::create_symlink("real", folder.Path() / there);
+        EXPECT_TRUE(files.FileExists(path));
+        EXPECT_EQ(files.ReadFile(path), "content");
+        EXPECT_EQ(files.Stamp(path).size, 7);
+        EXPECT_EQ(files.Spelling(path), folder.Path().string() + "/" + there);
+        ReplaceFile(files, path, "new");
+        EXPECT_EQ(files.ReadFile(folder.Folder() + "real"), "new");
+    }
+}
+
+TEST(LinuxFiles, AFileDoesNotHideAFolderOfItsNameInAnotherCase) {
+    cTemporaryFolder folder;
+    cLinuxFiles files;
+    std::ofstream(folder.Path() / "LogFiles") << "in the way";
+    std::filesystem::create_directory(folder.Path() / "logfiles");
+    files.AppendFile(folder.Folder() + "LogFiles\\20260315.Log", "line");
+    EXPECT_EQ(files.ReadFile(folder.Folder() + "logfiles\\20260315.Log"), "line");
 }
 
 TEST(LinuxFiles, ExactNamesAreTakenAsTheyAreSpelled) {

@@ -3,14 +3,18 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <filesystem>
 
+#include "adapters/linux/kept_file.h"
 #include "adapters/linux/linux_files.h"
 #include "common/failure.h"
 #include "common/file_procedures.h"
+#include "support/bytes.h"
 #include "support/temporary_folder.h"
 
 namespace vigrel::testing {
@@ -158,6 +162,92 @@ TEST_F(ForeignFiles, AReplacedFileKeepsItsModeAndOwner) {
         EXPECT_EQ(after.st_uid, before.st_uid);
         EXPECT_EQ(after.st_gid, before.st_gid);
     }
+}
+
+// Only who sets it up may have a file system without attributes.
+std::string UsersAttribute(const std::string& path) {
+    std::array<char, 16> value{};
+    const ssize_t size = getxattr(path.c_str(), "user.plant", value.data(), value.size());
+    return size < 0 ? "" : std::string(value.data(), static_cast<std::size_t>(size));
+}
+
+TEST_F(ForeignFiles, AReplacedFileKeepsTheAttributesOfUsers) {
+    Put("a.ini", "old");
+    const bool set = setxattr(Native("a.ini").c_str(), "user.plant", "north", 5, 0) == 0;
+    ReplaceFile(m_Files, Path("a.ini"), "new");
+    EXPECT_EQ(UsersAttribute(Native("a.ini")), set ? "north" : "");
+}
+
+// An access list in the form of the kernel: version, then tag, rights and id of each entry.
+std::string AccessListOfAnotherUser() {
+    return Bytes(
+        "02000000"
+        "0100 0600 FFFFFFFF (the owner)"
+        "0200 0400 67120000 (user 4711)"
+        "0400 0000 FFFFFFFF (the group)"
+        "1000 0400 FFFFFFFF (the mask)"
+        "2000 0000 FFFFFFFF (others)");
+}
+
+TEST_F(ForeignFiles, AReplacedFileKeepsItsAccessList) {
+    Put("a.ini", "old");
+    const std::string list = AccessListOfAnotherUser();
+    const bool set =
+        setxattr(Native("a.ini").c_str(), "system.posix_acl_access", list.data(), list.size(), 0) == 0;
+    const mode_t mode = Status("a.ini").st_mode;
+    ReplaceFile(m_Files, Path("a.ini"), "new");
+    EXPECT_EQ(Status("a.ini").st_mode, mode);
+    std::string kept(list.size(), '\0');
+    const ssize_t size =
+        getxattr(Native("a.ini").c_str(), "system.posix_acl_access", kept.data(), kept.size());
+    EXPECT_EQ(size, set ? static_cast<ssize_t>(list.size()) : -1);
+    EXPECT_EQ(kept == list, set);
+}
+
+TEST_F(ForeignFiles, AttributesGoToTheOpenFileWhateverItsNameStandsForByNow) {
+    for (const char* name : {"like", "temporary", "victim"}) Put(name, name);
+    chmod(Native("like").c_str(), 0666);
+    chmod(Native("victim").c_str(), 0600);
+    const int opened = open(Native("temporary").c_str(), O_WRONLY);
+    fs::rename(Native("temporary"), Native("moved"));
+    fs::create_symlink("victim", Native("temporary"));
+    GiveAttributes(opened, Native("like").string());
+    close(opened);
+    EXPECT_EQ(Status("victim").st_mode & 07777, 0600u);
+    EXPECT_EQ(Status("moved").st_mode & 07777, 0666u);
+}
+
+// Nor do the rights of what a link leads to become those of our file.
+TEST_F(ForeignFiles, AttributesAreNotThoseOfALink) {
+    Put("open to all", "");
+    chmod(Native("open to all").c_str(), 0666);
+    fs::create_symlink("open to all", Native("like"));
+    Put("ours", "");
+    chmod(Native("ours").c_str(), 0600);
+    const int opened = open(Native("ours").c_str(), O_WRONLY);
+    GiveAttributes(opened, Native("like").string());
+    close(opened);
+    EXPECT_EQ(Status("ours").st_mode & 07777, 0600u);
+}
+
+TEST_F(ForeignFiles, AFolderThatIsALinkOfAnotherUsersIsNotWrittenIn) {
+    fs::create_directory(Native("elsewhere"));
+    Put("elsewhere\\theirs", "kept");
+    Put("ours", "ours");
+    fs::create_symlink("elsewhere", Native("LogFiles"));
+    const bool planted = lchown(Native("LogFiles").c_str(), 4711, 4711) == 0;
+    const auto refused = [&](auto&& call) { return CatchFailure(call).has_value(); };
+    EXPECT_EQ(refused([&] { m_Files.AppendFile(Path("LogFiles\\a.Log"), "x"); }), planted);
+    EXPECT_EQ(refused([&] { m_Files.WriteFile(Path("logfiles\\b"), "x", true); }), planted);
+    EXPECT_EQ(refused([&] { ReplaceOwnFile(m_Files, Path("LogFiles\\c"), "x"); }), planted);
+    EXPECT_EQ(refused([&] { m_Files.SetNormalAttributes(Path("LogFiles\\theirs")); }), planted);
+    EXPECT_EQ(refused([&] { m_Files.RenameFile(Path("ours"), Path("LogFiles\\d")); }), planted);
+    EXPECT_EQ(refused([&] { m_Files.RemoveFile(Path("LogFiles\\theirs")); }), planted);
+    EXPECT_EQ(m_Files.ListFiles(Path("elsewhere"), "*").size(), planted ? 1u : 4u);
+    // Whoever owns the folder may put links into it.
+    if (planted) chown(m_Folder.Path().c_str(), 4711, 4711);
+    m_Files.AppendFile(Path("LogFiles\\e.Log"), "line");
+    EXPECT_EQ(Content("elsewhere\\e.Log"), "line");
 }
 
 TEST_F(ForeignFiles, ALinkThatAnotherUserMadeIsNotFollowed) {

@@ -107,6 +107,36 @@ TEST_F(PrinterPorts, AFullDeviceFailsAtOnce) {
                                        "No space left on device"});
 }
 
+TEST_F(PrinterPorts, ALinkOfAnotherUsersIsNotPrintedThrough) {
+    std::ofstream(Path("victim")) << "kept";
+    std::filesystem::create_symlink("victim", Path("out"));
+    const bool planted = lchown(Path("out").c_str(), 4711, 4711) == 0;
+    Ports("1=" + Path("out"));
+    EXPECT_EQ(Send() == 0, planted);
+    EXPECT_EQ(Content("victim"), planted ? "kept" : "keptline\r\n");
+    const std::string expected = "VigrelReceiver.INI, section PrinterPorts, port 1: " + Path("out") +
+                                 ": a link that another user made is not followed";
+    EXPECT_EQ(m_Reports, planted ? std::vector<std::string>{expected} : std::vector<std::string>{});
+}
+
+TEST_F(PrinterPorts, AnInstallersLinkIsPrintedThrough) {
+    std::filesystem::create_symlink("listing", Path("out"));
+    std::filesystem::create_directory(Path("spool"));
+    std::filesystem::create_symlink("spool", Path("folder"));
+    Ports("1=" + Path("out") + "\r\n2=" + Path("folder/out"));
+    EXPECT_NE(Send("one\r\n", 0), 0);
+    EXPECT_NE(Send("two\r\n", 1), 0);
+    EXPECT_EQ(Content("listing"), "one\r\n");
+    EXPECT_EQ(Content("spool/out"), "two\r\n");
+    EXPECT_TRUE(std::filesystem::is_symlink(Path("out")));
+}
+
+TEST_F(PrinterPorts, ADeviceIsPrintedToByALinkToo) {
+    std::filesystem::create_symlink("/dev/null", Path("printer"));
+    Ports("1=" + Path("printer"));
+    EXPECT_NE(Send(), 0);
+}
+
 TEST_F(PrinterPorts, AFolderFails) {
     Ports("1=" + m_Folder.Path().string());
     EXPECT_EQ(Send(), 0);

@@ -184,7 +184,7 @@ TEST_F(CheckFolderTest, NothingIsEverWritten) {
     EXPECT_TRUE(refused([&] { files.MakeFolder("a"); }));
     EXPECT_TRUE(refused([&] { files.SetNormalAttributes("a"); }));
     EXPECT_TRUE(refused([&] { files.LinkTarget("a"); }));
-    EXPECT_TRUE(refused([&] { files.CopyAttributes("a", "b"); }));
+    EXPECT_TRUE(refused([&] { files.WriteFileLike("a", "b", "c"); }));
     EXPECT_EQ(m_Files.m_Calls, calls);
 }
 

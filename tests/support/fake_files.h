@@ -23,6 +23,9 @@ class cFakeFiles : public cFiles {
     std::string Spelling(std::string_view path) const override;
     cStamp Stamp(std::string_view path) const override;
     void WriteFile(std::string_view path, std::string_view bytes, bool sync) override;
+    void WriteFileLike(std::string_view path, std::string_view bytes, std::string_view) override {
+        WriteFile(path, bytes, true);
+    }
     void AppendFile(std::string_view path, std::string_view bytes) override;
     void RemoveFile(std::string_view path) override;
     void RenameFile(std::string_view from, std::string_view to) override;
@@ -31,7 +34,6 @@ class cFakeFiles : public cFiles {
     void MakeFolder(std::string_view path) override;
     void SetNormalAttributes(std::string_view path) override;
     std::string LinkTarget(std::string_view path) const override { return std::string(path); }
-    void CopyAttributes(std::string_view, std::string_view) override {}
 
     // --- for tests
     // Puts a durable file in place, with its folders.

@@ -68,13 +68,6 @@ void MakeApplicationFolder(const std::string& applicationPath) {
     RefuseFolder(applicationPath, "read", std::error_code(errno, std::generic_category()));
 }
 
-// A configuration that can't be read must not be taken for one that says nothing.
-void RequireReadableConfiguration(const cFiles& files, const std::string& applicationPath) {
-    for (const auto& [name, reason] : files.ListUnreadable(applicationPath, kIniFile)) {
-        throw cFailure(eFailure::PathAccess, applicationPath + name + ": " + reason);
-    }
-}
-
 // What is copied of an installation: never the programs, which can lie there too.
 struct cDelivered {
     std::string_view folder, mask;
@@ -121,10 +114,19 @@ std::string FindInstalledFolder(const std::string& programFolder) {
     return {};
 }
 
+std::optional<std::string> WhyNoConfiguration(const cFiles& files, const std::string& applicationPath) {
+    const std::string path = files.Spelling(applicationPath + std::string(kIniFile));
+    std::error_code error;
+    const fs::file_status found = fs::symlink_status(PathBytes(path), error);
+    if (error || !fs::exists(found)) return std::nullopt;
+    const auto failure = CatchFailure([&] { files.ReadFile(path); });
+    if (!failure) return std::nullopt;
+    return "The configuration can't be read: " + std::string(failure->what());
+}
+
 bool FillApplicationFolder(cFiles& files, const std::string& applicationPath,
                            const std::string& installedFolder) {
     MakeApplicationFolder(applicationPath);
-    RequireReadableConfiguration(files, applicationPath);
     if (IsApplicationFolder(files, applicationPath)) return false;
     if (installedFolder.empty()) return true;
     const std::string source = WithBackslash(installedFolder);

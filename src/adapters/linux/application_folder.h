@@ -29,11 +29,14 @@ std::optional<std::string> WhyElsewhere(const cFolderHints& hints);
 // installation) or under the usual prefix; empty when they are nowhere.
 std::string FindInstalledFolder(const std::string& programFolder);
 
+// The reason, with the file's name, for which the configuration in the folder can't be read: it must not be
+// taken for one that says nothing. Nothing when it can, or when there is none.
+std::optional<std::string> WhyNoConfiguration(const cFiles& files, const std::string& applicationPath);
+
 // Makes the folder with all folders above it, and copies to it each installed file (templates, texts, sounds)
 // that it doesn't hold. Nothing is ever overwritten. A file that can't be copied is skipped: the start-up
 // tells of what is missing. True when it was no application folder before. Throws cFailure, with the name and
-// the reason, when there is no folder to start in (it can't be made, or not be read), or the configuration in
-// it can't be read.
+// the reason, when there is no folder to start in (it can't be made, or not be read).
 bool FillApplicationFolder(cFiles& files, const std::string& applicationPath,
                            const std::string& installedFolder);
 

@@ -14,6 +14,8 @@
 #include <utility>
 
 #include "adapters/linux/file_handle.h"
+#include "adapters/linux/kept_file.h"
+#include "adapters/linux/links.h"
 #include "adapters/linux/read_ahead.h"
 #include "common/code_page.h"
 #include "common/failure.h"
@@ -42,6 +44,11 @@ eFailure FailureNumber(int error) {
         default:
             return eFailure::InputOutput;
     }
+}
+
+// Also where a file stands in the way of a folder: that can have another spelling.
+bool IsMissing(int error) {
+    return error == ENOENT || error == ENOTDIR;
 }
 
 // The operating system's words, in the language of the surroundings.
@@ -115,6 +122,7 @@ class cDescriptor {
         content.resize(size);
         return content;
     }
+    void TakeAttributes(const std::string& like) { GiveAttributes(m_Descriptor, like); }
     void Sync() {
         if (fsync(m_Descriptor) != 0) Fail(m_Path);
     }
@@ -179,6 +187,7 @@ void ClearName(const std::string& native, std::string_view path) {
 
 // A file that nobody else has made, so that nobody else holds it open or has chosen where it lies.
 cDescriptor OpenNew(std::string_view path, const std::string& native) {
+    RequireOwnFolder(native);
     const auto open = [&] {
         return ::open(native.c_str(), O_WRONLY | O_CREAT | O_EXCL | kNeverWait, kFileMode);
     };
@@ -253,7 +262,7 @@ std::string cLinuxFiles::Native(std::string_view path) const {
 template <class Call>
 int cLinuxFiles::AsSpelledOrFound(std::string_view path, Call call) const {
     const int result = call(SpelledPath(path).c_str());
-    if (result >= 0 || errno != ENOENT || m_Names == eNames::Exact) return result;
+    if (result >= 0 || !IsMissing(errno) || m_Names == eNames::Exact) return result;
     return call(NativePath(path).c_str());
 }
 
@@ -261,23 +270,28 @@ std::string cLinuxFiles::Spelling(std::string_view path) const {
     return PathText(NativePath(path));
 }
 
+std::string cLinuxFiles::LookFor(std::string_view path, struct stat& status) const {
+    std::string native = SpelledPath(path);
+    if (stat(native.c_str(), &status) == 0 && S_ISREG(status.st_mode)) return native;
+    native = Native(path);
+    return stat(native.c_str(), &status) == 0 ? native : "";
+}
+
 bool cLinuxFiles::FileExists(std::string_view path) const {
     struct stat status {};
-    const auto look = [&](const char* native) { return stat(native, &status); };
-    return AsSpelledOrFound(path, look) == 0 && S_ISREG(status.st_mode);
+    return !LookFor(path, status).empty() && S_ISREG(status.st_mode);
 }
 
 std::string cLinuxFiles::ReadFile(std::string_view path) const {
-    struct stat status {};
-    const auto openOrdinary = [&](const char* native) {
-        // Before it is opened: that alone can set off a device. Not so what the program itself has made.
-        if (m_Names == eNames::AnyCase) {
-            if (stat(native, &status) != 0) return -1;
-            if (const char* reason = WhyNoFile(status)) FailAsNoFile(path, reason);
-        }
-        return open(native, O_RDONLY | kNeverWait);
-    };
-    return cDescriptor(path, AsSpelledOrFound(path, openOrdinary)).ReadAll();
+    std::string native = SpelledPath(path);
+    // Before it is opened: that alone can set off a device. Not so what the program itself has made.
+    if (m_Names == eNames::AnyCase) {
+        struct stat status {};
+        native = LookFor(path, status);
+        if (native.empty()) Fail(path);
+        if (const char* reason = WhyNoFile(status)) FailAsNoFile(path, reason);
+    }
+    return cDescriptor(path, open(native.c_str(), O_RDONLY | kNeverWait)).ReadAll();
 }
 
 void cLinuxFiles::ReadFiles(const std::string& folder, const std::vector<std::string>& names,
@@ -308,7 +322,7 @@ std::vector<cFileReader::cUnreadable> cLinuxFiles::ListUnreadable(std::string_vi
 
 cFileReader::cStamp cLinuxFiles::Stamp(std::string_view path) const {
     struct stat status {};
-    if (AsSpelledOrFound(path, [&](const char* native) { return stat(native, &status); }) != 0) return {};
+    if (LookFor(path, status).empty()) return {};
     return {static_cast<std::int64_t>(status.st_dev),
             static_cast<std::int64_t>(status.st_ino),
             status.st_size,
@@ -324,11 +338,23 @@ void cLinuxFiles::WriteFile(std::string_view path, std::string_view bytes, bool 
     file.Close();
 }
 
+void cLinuxFiles::WriteFileLike(std::string_view path, std::string_view bytes, std::string_view like) {
+    cDescriptor file = OpenNew(path, Native(path));
+    file.Write(bytes);
+    file.TakeAttributes(Native(like));
+    file.Sync();
+    file.Close();
+}
+
 void cLinuxFiles::AppendFile(std::string_view path, std::string_view bytes) {
     constexpr int kAppend = O_WRONLY | O_APPEND | O_NOFOLLOW | kNeverWait;
-    int descriptor = open(SpelledPath(path).c_str(), kAppend);
-    if (descriptor < 0 && errno == ENOENT) {
-        descriptor = open(Native(path).c_str(), kAppend | O_CREAT, kFileMode);
+    std::string native = SpelledPath(path);
+    RequireOwnFolder(native);
+    int descriptor = open(native.c_str(), kAppend);
+    if (descriptor < 0 && IsMissing(errno)) {
+        native = Native(path);
+        RequireOwnFolder(native);
+        descriptor = open(native.c_str(), kAppend | O_CREAT, kFileMode);
     }
     cDescriptor file(path, descriptor);
     file.Write(bytes);
@@ -336,11 +362,19 @@ void cLinuxFiles::AppendFile(std::string_view path, std::string_view bytes) {
 }
 
 void cLinuxFiles::RemoveFile(std::string_view path) {
-    if (AsSpelledOrFound(path, unlink) != 0) Fail(path);
+    const auto remove = [](const char* native) {
+        RequireOwnFolder(native);
+        return unlink(native);
+    };
+    if (AsSpelledOrFound(path, remove) != 0) Fail(path);
 }
 
 void cLinuxFiles::RenameFile(std::string_view from, std::string_view to) {
-    if (rename(Native(from).c_str(), Native(to).c_str()) != 0) Fail(to);
+    const std::string source = Native(from);
+    const std::string target = Native(to);
+    RequireOwnFolder(source);
+    RequireOwnFolder(target);
+    if (rename(source.c_str(), target.c_str()) != 0) Fail(to);
 }
 
 void cLinuxFiles::SyncFolder(std::string_view folder) {
@@ -359,9 +393,17 @@ void cLinuxFiles::MakeFolder(std::string_view path) {
 
 void cLinuxFiles::SetNormalAttributes(std::string_view path) {
     const std::string native = NativePath(path);
+    RequireOwnFolder(native);
+    const cFileHandle file(open(native.c_str(), O_RDONLY | O_NOFOLLOW | kNeverWait));
     struct stat status {};
-    if (stat(native.c_str(), &status) != 0 || chmod(native.c_str(), status.st_mode | S_IWUSR) != 0)
+    if (!file || fstat(file.Get(), &status) != 0 || fchmod(file.Get(), status.st_mode | S_IWUSR) != 0)
         Fail(path);
+}
+
+std::string cLinuxFiles::LinkTarget(std::string_view path) const {
+    const std::string native = NativePath(path);
+    std::string target = FollowLinks(native);
+    return target == native ? std::string(path) : PathText(target);
 }
 
 }  // namespace vigrel

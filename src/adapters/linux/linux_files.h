@@ -1,5 +1,7 @@
 #pragma once
 
+#include <sys/stat.h>
+
 #include "platform/files.h"
 
 namespace vigrel {
@@ -21,6 +23,7 @@ class cLinuxFiles : public cFiles {
     std::string Spelling(std::string_view path) const override;
     cStamp Stamp(std::string_view path) const override;
     void WriteFile(std::string_view path, std::string_view bytes, bool sync) override;
+    void WriteFileLike(std::string_view path, std::string_view bytes, std::string_view like) override;
     void AppendFile(std::string_view path, std::string_view bytes) override;
     void RemoveFile(std::string_view path) override;
     void RenameFile(std::string_view from, std::string_view to) override;
@@ -29,10 +32,12 @@ class cLinuxFiles : public cFiles {
     void MakeFolder(std::string_view path) override;
     void SetNormalAttributes(std::string_view path) override;
     std::string LinkTarget(std::string_view path) const override;
-    void CopyAttributes(std::string_view from, std::string_view to) override;
 
   private:
     std::string Native(std::string_view path) const;
+    // What a name stands for, as it is spelled on the disk, with its status; empty, and errno, when there is
+    // nothing to look at.
+    std::string LookFor(std::string_view path, struct stat& status) const;
     // Tries a call with the path as it is spelled, and, where nothing is there, once more as it is found; a
     // call is one that gives below 0 and errno for a failure. Most names are spelled as they stand, and a
     // search costs more than the call.
@@ -45,7 +50,9 @@ class cLinuxFiles : public cFiles {
 // The path as the operating system knows it, byte by byte, spelled as given: separators mapped.
 std::string SpelledPath(std::string_view path);
 
-// The same with every part that exists under another case spelled as it stands on disk.
+// The same with every part that exists under another case spelled as it stands on disk. Where a name has
+// several spellings, the given one is preferred to others; but one that is no ordinary file (no folder,
+// inside the path) counts only where no other spelling is one.
 std::string NativePath(std::string_view path);
 
 }  // namespace vigrel

@@ -7,7 +7,10 @@
 #include <utility>
 
 #include "adapters/linux/file_handle.h"
+#include "adapters/linux/links.h"
 #include "adapters/linux/printer.h"
+#include "common/failure.h"
+#include "common/path_text.h"
 
 namespace vigrel {
 namespace {
@@ -56,7 +59,7 @@ int WaitUntilTaken(int file, Deadline deadline) {
 }
 
 int OpenFlags(const std::string& path) {
-    const int flags = O_WRONLY | O_NONBLOCK | O_APPEND | O_NOCTTY | O_CLOEXEC;
+    const int flags = O_WRONLY | O_NONBLOCK | O_APPEND | O_NOCTTY | O_NOFOLLOW | O_CLOEXEC;
     // A device that is unplugged must not be replaced by a file of its name.
     return path.starts_with("/dev/") ? flags : flags | O_CREAT;
 }
@@ -70,12 +73,23 @@ int PrintTo(const std::string& path, std::string_view bytes, Deadline deadline) 
     return error != 0 ? error : WaitUntilTaken(file.Get(), deadline);
 }
 
+// Names of devices are often links, and files of printers may lie elsewhere: where the links lead that count.
+PrintProblem PrintThroughLinks(const std::string& path, std::string_view bytes, Deadline deadline) {
+    std::string target;
+    const auto failure = CatchFailure([&] {
+        RequireOwnFolder(path);
+        target = FollowLinks(path);
+    });
+    if (failure) return failure->what();
+    const int error = PrintTo(target, bytes, deadline);
+    return error == 0 ? PrintProblem() : SystemProblem(PathText(path), error);
+}
+
 class cPathPrinter : public cPrinter {
   public:
     explicit cPathPrinter(std::string path) : m_Path(std::move(path)) {}
     PrintProblem Print(std::string_view bytes, Deadline deadline) override {
-        const int error = PrintTo(m_Path, bytes, deadline);
-        return error == 0 ? PrintProblem() : SystemProblem(m_Path, error);
+        return PrintThroughLinks(m_Path, bytes, deadline);
     }
 
   private:
@@ -92,10 +106,12 @@ class cDefaultPrinter : public cPrinter {
     PrintProblem Print(std::string_view bytes, Deadline deadline) override {
         for (const std::string& path : m_Devices) {
             if (access(path.c_str(), F_OK) != 0) continue;
-            const int error = PrintTo(path, bytes, deadline);
+            int error = 0;
+            const auto failure = CatchFailure([&] { error = PrintTo(FollowLinks(path), bytes, deadline); });
+            if (failure) return failure->what();
             if (error == 0) return {};
             // A node that no device stands behind.
-            if (error != ENXIO && error != ENODEV) return SystemProblem(path, error);
+            if (error != ENXIO && error != ENODEV) return SystemProblem(PathText(path), error);
         }
         return m_Queue->Print(bytes, deadline);
     }

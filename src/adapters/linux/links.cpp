@@ -1,0 +1,64 @@
+#include "adapters/linux/links.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <array>
+#include <climits>
+#include <optional>
+
+#include "common/failure.h"
+#include "common/path_text.h"
+
+namespace vigrel {
+namespace {
+
+constexpr int kMostLinks = 40;
+
+// With its separator; empty for a name in the working folder.
+std::string FolderOf(const std::string& native) {
+    return native.substr(0, native.rfind('/') + 1);
+}
+
+bool IsTrusted(const struct stat& link, const std::string& path) {
+    if (link.st_uid == geteuid() || link.st_uid == 0) return true;
+    struct stat folder {};
+    const std::string parent = FolderOf(path);
+    return stat(parent.empty() ? "." : parent.c_str(), &folder) == 0 && link.st_uid == folder.st_uid;
+}
+
+// Where a link leads in one step; nothing when the path is no link.
+std::optional<std::string> NextLink(const std::string& path) {
+    struct stat status {};
+    if (lstat(path.c_str(), &status) != 0 || !S_ISLNK(status.st_mode)) return std::nullopt;
+    if (!IsTrusted(status, path)) {
+        throw cFailure(eFailure::PermissionDenied,
+                       PathText(path) + ": a link that another user made is not followed");
+    }
+    std::array<char, PATH_MAX> buffer;
+    const ssize_t length = readlink(path.c_str(), buffer.data(), buffer.size());
+    if (length <= 0) return std::nullopt;
+    const std::string target(buffer.data(), static_cast<std::size_t>(length));
+    return target[0] == '/' ? target : FolderOf(path) + target;
+}
+
+}  // namespace
+
+std::string FollowLinks(std::string native) {
+    std::optional<std::string> next = NextLink(native);
+    for (int links = 1; next; ++links) {
+        if (links > kMostLinks)
+            throw cFailure(eFailure::PathAccess, PathText(native) + ": leads in a circle");
+        native = *next;
+        next = NextLink(native);
+    }
+    return native;
+}
+
+void RequireOwnFolder(const std::string& native) {
+    std::string folder = FolderOf(native);
+    while (folder.size() > 1 && folder.back() == '/') folder.pop_back();
+    if (!folder.empty()) FollowLinks(folder);
+}
+
+}  // namespace vigrel

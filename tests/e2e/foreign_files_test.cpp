@@ -1,0 +1,69 @@
+// Whole stations among files that are broken, or that somebody else put there.
+
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <thread>
+
+#include "e2e/station.h"
+
+namespace vigrel {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::cStation;
+using testing::ReadAll;
+
+constexpr int kRefused = 69;
+
+// For stations whose log can't be read: whether an alarm is taken within ten seconds.
+bool TakesAnAlarm(const cStation& station) {
+    for (int i = 0; i < 100; ++i) {
+        if (station.Send({"--t0", "received"}).exitCode == 0) return true;
+        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    }
+    return false;
+}
+
+TEST(ForeignConfiguration, OneThatCannotBeReadIsRefusedWithItsNameAndTheReason) {
+    cStation station;
+    station.ExpectStandardError();
+    const std::string ini = (station.Folder() / "VigrelReceiver.INI").string();
+    ASSERT_EQ(mkfifo(ini.c_str(), 0666), 0);
+    station.Launch();
+    EXPECT_EQ(station.WaitForEnd(), kRefused);
+    EXPECT_EQ(station.StandardError(), "vigrel-receiver: " + station.Folder().string() +
+                                           "/: The configuration can't be read: " + ini +
+                                           ": no ordinary file\n");
+    EXPECT_TRUE(station.Log().empty());
+}
+
+TEST(ForeignConfiguration, AFolderOrPipeOfItsNameInAnotherCaseDoesNotStandInTheWay) {
+    cStation station;
+    fs::create_directory(station.Folder() / "vigrelreceiver.ini");
+    ASSERT_EQ(mkfifo((station.Folder() / "VIGRELRECEIVER.INI").c_str(), 0666), 0);
+    ASSERT_TRUE(station.Start()) << station.StandardError();
+    EXPECT_EQ(station.Send({"--t0", "received"}).exitCode, 0);
+    EXPECT_EQ(station.Stop(SIGTERM), 0);
+}
+
+TEST(PlantedFolders, NothingIsWrittenThroughALinkOfAnotherUsers) {
+    cStation station;
+    const fs::path victim = station.Folder() / "victim";
+    fs::create_directory(victim);
+    fs::create_directory_symlink("victim", station.Folder() / "LogFiles");
+    const bool planted = lchown((station.Folder() / "LogFiles").c_str(), 4711, 4711) == 0;
+    station.Launch();
+    EXPECT_TRUE(TakesAnAlarm(station));
+    EXPECT_EQ(station.AlarmFiles().size(), 1u);
+    EXPECT_EQ(station.Stop(SIGTERM), 0);
+    EXPECT_EQ(fs::is_empty(victim), planted);
+}
+
+}  // namespace
+}  // namespace vigrel
