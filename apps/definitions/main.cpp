@@ -3,7 +3,6 @@
 #include <QCommandLineParser>
 #include <QSettings>
 #include <QTimer>
-#include <cstdio>
 
 #include "adapters/linux/application_folder.h"
 #include "adapters/linux/file_rights.h"
@@ -14,7 +13,7 @@
 #include "adapters/qt/qt_locale.h"
 #include "common/exit_codes.h"
 #include "common/ini.h"
-#include "common/path_text.h"
+#include "common/standard_error.h"
 #include "common/texts.h"
 #include "definitions/station_definitions.h"
 #include "editor_ui/window/definitions_window.h"
@@ -71,7 +70,7 @@ int Run(int argc, char** argv) {
     application.Guard(
         [&] { FillApplicationFolder(files, applicationPath, FindInstalledFolder(hints.programFolder)); });
     if (const auto why = WhyElsewhere(hints)) {
-        std::fprintf(stderr, "vigrel-definitions: %s\n", WithPathsToUtf8(*why).c_str());
+        PrintError("vigrel-definitions", *why);
     }
 
     const cSystemClock clock;

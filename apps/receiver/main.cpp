@@ -27,9 +27,8 @@
 #include "adapters/qt/stop_signals.h"
 #include "adapters/qt/tone_player.h"
 #include "common/exit_codes.h"
-#include "common/path_text.h"
-#include "common/printable.h"
 #include "common/settings.h"
+#include "common/standard_error.h"
 #include "core/first_start.h"
 #include "core/vigrel_receiver_main.h"
 #include "receiver_ui/dialogs/operator_page.h"
@@ -119,7 +118,7 @@ int RunStation(cApplication& application, const std::string& commandLine) {
     cPopupWidgetMaker popups(windows);
     cQtScreen screen;
     if (const auto why = WhyElsewhere(hints)) {
-        std::fprintf(stderr, "vigrel-receiver: %s\n", WithPathsToUtf8(*why).c_str());
+        PrintError(kProgramName, *why);
         // Once: later starts find the folder in use.
         if (isNew && cApplication::HasDisplay()) {
             windowBox.Show(*why, eMessageIcon::Warning, eMessageButtons::Ok);
@@ -137,9 +136,8 @@ int RunStation(cApplication& application, const std::string& commandLine) {
     cNotificationIcon trayArea;
     cHidSignalLight signalLight(clock);
     cLocalRunningApps runningApps;
-    cLinuxPrinterPorts printerPorts(ini, clock, [](const std::string& text) {
-        std::fprintf(stderr, "vigrel-receiver: %s\n", PrintablePath(text).c_str());
-    });
+    cLinuxPrinterPorts printerPorts(ini, clock,
+                                    [](const std::string& text) { PrintError(kProgramName, text); });
     const cQtSettingStore settingStore;
     cQtOtherWindows otherWindows(
         {files, clock, locale, screen, settingStore, windows, application, messageBox}, applicationPath);

@@ -12,8 +12,4 @@ void PrintOutput(const std::string& utf8) {
     }
 }
 
-void PrintError(const std::string& program, std::string_view text) {
-    std::fprintf(stderr, "%s: %s\n", program.c_str(), PrintablePath(text).c_str());
-}
-
 }  // namespace vigrel

@@ -14,7 +14,7 @@
 #include "adapters/qt/qt_text.h"
 #include "common/code_page.h"
 #include "common/exit_codes.h"
-#include "common/path_text.h"
+#include "common/standard_error.h"
 #include "windows/plain_text.h"
 
 namespace vigrel {
@@ -133,8 +133,7 @@ bool cApplication::notify(QObject* receiver, QEvent* event) {
 }
 
 void cApplication::End(const std::string& failure) {
-    const std::string line = "Failure: " + WithPathsToUtf8(failure) + "\n";
-    std::fputs(line.c_str(), stderr);
+    PrintError("Failure", failure);
     // A failure while one is shown leaves it at that.
     if (!m_Failed) ShowFailure(failure);
     std::fflush(nullptr);

@@ -1,10 +1,11 @@
 #include "windows/display_guard.h"
 
 #include <cerrno>
-#include <cstdio>
 #include <cstdlib>
 
 #include "common/exit_codes.h"
+#include "common/path_text.h"
+#include "common/standard_error.h"
 
 namespace vigrel {
 
@@ -33,14 +34,13 @@ void cDisplayGuard::Take(QtMsgType type, const QMessageLogContext&, const QStrin
 }
 
 void cDisplayGuard::Refuse() const {
-    std::fprintf(stderr, "%s: No display can be opened:", program_invocation_short_name);
+    std::string reason = "No display can be opened:";
     for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
-        if (const char* value = std::getenv(name)) std::fprintf(stderr, " %s=%s", name, value);
+        if (const char* value = std::getenv(name)) reason += " " + std::string(name) + "=" + PathText(value);
     }
-    std::fputs(". Unset DISPLAY and WAYLAND_DISPLAY to run without windows.\n", stderr);
-    for (const auto& [type, text] : m_Messages)
-        std::fprintf(stderr, "  %s\n", text.toLocal8Bit().constData());
-    std::fflush(stderr);
+    const std::string program = PathText(program_invocation_short_name);
+    PrintError(program, reason + ". Unset DISPLAY and WAYLAND_DISPLAY to run without windows.");
+    for (const auto& [type, text] : m_Messages) PrintError(program, PathText(text.toStdString()));
     std::_Exit(kExitRefused);
 }
 

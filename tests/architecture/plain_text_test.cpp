@@ -66,6 +66,59 @@ Complaints Check(const std::filesystem::path& folder) {
     return complaints;
 }
 
+// What says a text of its own, or shows figures alone.
+bool SaysItself(const std::string& line) {
+    for (const char* said :
+         {"fputs(\"", "fflush(stderr)", "\"%s%zu of %zu frames", "cStreamStatus status("}) {
+        if (line.find(said) != std::string::npos) return true;
+    }
+    return false;
+}
+
+// Helpers of the build, whose texts are the developer's own.
+bool IsOfTheBuild(const std::string& file) {
+    return file.starts_with("make-sounds/") || file.starts_with("to-code-page/");
+}
+
+// Where progress is shown, which is figures.
+bool ShowsProgress(const std::string& file, const std::string& line) {
+    return file.ends_with("/main.cpp") && line.find("std::fputs(text.c_str(), stderr);") != std::string::npos;
+}
+
+Complaints CheckStandardError(const std::filesystem::path& folder) {
+    Complaints complaints;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
+        const std::string extension = entry.path().extension().string();
+        const std::string file = std::filesystem::relative(entry.path(), folder).generic_string();
+        if ((extension != ".h" && extension != ".cpp") || IsOfTheBuild(file)) continue;
+        if (file == "common/standard_error.cpp") continue;
+        std::ifstream lines(entry.path());
+        int number = 0;
+        for (std::string line; std::getline(lines, line);) {
+            ++number;
+            if (line.find("stderr") == std::string::npos && line.find("std::cerr") == std::string::npos)
+                continue;
+            if (!SaysItself(line) && !ShowsProgress(file, line))
+                complaints.push_back(file + ":" + std::to_string(number) + ": " + line);
+        }
+    }
+    return complaints;
+}
+
+TEST(PlainText, NothingReachesStandardErrorThatCouldSteerATerminal) {
+    for (const char* folder : {"src", "apps", "tools"}) {
+        EXPECT_EQ(CheckStandardError(std::filesystem::path(VIGREL_PROJECT_DIR) / folder), Complaints{});
+    }
+}
+
+TEST(PlainText, ALineThatCouldIsFound) {
+    testing::cTemporaryFolder folder;
+    std::ofstream(folder.Path() / "x.cpp") << "std::fprintf(stderr, \"%s\", text);\n"
+                                           << "std::fputs(\"constant\", stderr);\n"
+                                           << "std::cerr << text;\n";
+    EXPECT_EQ(CheckStandardError(folder.Path()).size(), 2u);
+}
+
 TEST(PlainText, NothingInTheWindowsTakesTextForMarkup) {
     EXPECT_EQ(Check(std::filesystem::path(VIGREL_PROJECT_DIR) / "src"), Complaints{});
     EXPECT_EQ(Check(std::filesystem::path(VIGREL_PROJECT_DIR) / "apps"), Complaints{});

@@ -65,5 +65,46 @@ TEST(PlantedFolders, NothingIsWrittenThroughALinkOfAnotherUsers) {
     EXPECT_EQ(fs::is_empty(victim), planted);
 }
 
+// A name of the machine that would colour, and then title, whatever terminal shows it.
+constexpr const char* kSteering = "\x1B[31m\x1B]0;title\x07";
+
+class Terminal : public ::testing::Test {
+  protected:
+    void ExpectNothingSteers(const std::string& line) const {
+        const std::string error = station.StandardError();
+        EXPECT_NE(error.find("\\x1B[31m\\x1B]0;title\\x07"), std::string::npos) << error;
+        EXPECT_NE(error.find(line), std::string::npos) << error;
+        for (const char c : error) EXPECT_TRUE(c == '\n' || static_cast<unsigned char>(c) >= 0x20) << error;
+    }
+    cStation station;
+};
+
+TEST_F(Terminal, IsNotSteeredByTheNameOfAFolderInABox) {
+    station.ExpectStandardError();
+    const fs::path folder = station.Folder() / kSteering;
+    fs::create_directories(folder / "VigrelReceiver.INI");
+    station.m_Environment["VIGREL_APPLICATION_PATH"] = folder.string();
+    station.Launch();
+    EXPECT_EQ(station.WaitForEnd(), kRefused);
+    ExpectNothingSteers("no ordinary file");
+}
+
+TEST_F(Terminal, IsNotSteeredByTheNameOfAFolderInAFailure) {
+    station.ExpectStandardError();
+    std::ofstream(station.Folder() / "file") << "in the way";
+    station.m_Environment["VIGREL_APPLICATION_PATH"] = (station.Folder() / "file" / kSteering).string();
+    station.Launch();
+    EXPECT_EQ(station.WaitForEnd(), 70);
+    ExpectNothingSteers("can't be made");
+}
+
+TEST_F(Terminal, IsNotSteeredByTheNameOfADisplay) {
+    station.ExpectStandardError();
+    station.m_Environment = {{"QT_QPA_PLATFORM", ""}, {"DISPLAY", std::string(":4711") + kSteering}};
+    station.Launch();
+    EXPECT_EQ(station.WaitForEnd(), kRefused);
+    ExpectNothingSteers("No display can be opened");
+}
+
 }  // namespace
 }  // namespace vigrel

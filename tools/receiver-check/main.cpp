@@ -8,6 +8,7 @@
 #include "common/code_page.h"
 #include "common/failure.h"
 #include "common/path_text.h"
+#include "common/standard_error.h"
 #include "receiver-check/check.h"
 #include "receiver-check/options.h"
 #include "receiver-check/posix_machine.h"

@@ -10,6 +10,7 @@
 #include "common/code_page.h"
 #include "common/failure.h"
 #include "common/file_procedures.h"
+#include "common/standard_error.h"
 #include "tool_support/print.h"
 #include "tool_support/progress.h"
 #include "tool_support/stored_alarms.h"

@@ -8,6 +8,7 @@
 #include "adapters/linux/linux_files.h"
 #include "adapters/linux/system_clock.h"
 #include "common/failure.h"
+#include "common/standard_error.h"
 #include "tool_support/print.h"
 #include "tool_support/progress.h"
 #include "vigrel-report/machine_zone.h"

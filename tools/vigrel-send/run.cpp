@@ -7,8 +7,11 @@
 #include <ctime>
 #include <fstream>
 #include <iterator>
+#include <string_view>
 #include <thread>
 
+#include "common/path_text.h"
+#include "common/standard_error.h"
 #include "link/frame.h"
 #include "vigrel-send/connection.h"
 #include "vigrel-send/frames.h"
@@ -19,6 +22,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
+constexpr std::string_view kProgram = "vigrel-send";
 constexpr int kAllPositive = 0;
 constexpr int kNotAllPositive = 1;
 constexpr int kUsage = 2;
@@ -115,7 +119,7 @@ int SendAll(const cOptions& options) {
         }
     } catch (const cConnectionError& error) {
         sending.Progress(true);
-        std::fprintf(stderr, "vigrel-send: %s\n", error.what());
+        PrintError(kProgram, PathText(error.what()));
         return kNotAllPositive;
     }
     sending.Progress(true);
@@ -137,10 +141,11 @@ int Run(const std::vector<std::string>& arguments) {
         }
         return SendAll(options);
     } catch (const cUsageError& error) {
-        std::fprintf(stderr, "vigrel-send: %s\nTry vigrel-send --help.\n", error.what());
+        PrintError(kProgram, PathText(error.what()));
+        std::fputs("Try vigrel-send --help.\n", stderr);
         return kUsage;
     } catch (const cConnectionError& error) {
-        std::fprintf(stderr, "vigrel-send: %s\n", error.what());
+        PrintError(kProgram, PathText(error.what()));
         return kNotReached;
     }
 }

@@ -13,7 +13,7 @@ class cStreamStatus : public cStatus {
   public:
     cStreamStatus(std::FILE* stream, std::string program) : m_Stream(stream), m_Program(std::move(program)) {}
     void SetStatus(std::string_view text) override {
-        std::fprintf(m_Stream, "%s: %s\n", m_Program.c_str(), Printable(text).c_str());
+        std::fprintf(m_Stream, "%s: %s\n", m_Program.c_str(), PrintablePath(text).c_str());
         std::fflush(m_Stream);
     }
 

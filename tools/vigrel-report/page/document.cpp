@@ -1,6 +1,7 @@
 #include "vigrel-report/page/document.h"
 
 #include "common/failure.h"
+#include "common/printable.h"
 #include "tool_support/print.h"
 
 namespace vigrel::report {
