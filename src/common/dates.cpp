@@ -1,5 +1,6 @@
 #include "common/dates.h"
 
+#include <bit>
 #include <cmath>
 
 #include "common/failure.h"
@@ -81,9 +82,16 @@ DateTime DateOf(DateTime value) {
     return std::trunc(value);
 }
 
+// The bits of finite numbers compare as the numbers do once those below 0 are turned round.
+std::uint64_t TimeRank(DateTime value) {
+    constexpr std::uint64_t kSign = std::uint64_t{1} << 63;
+    if (!std::isfinite(value)) return 0;
+    const auto bits = std::bit_cast<std::uint64_t>(value == 0 ? 0.0 : value);
+    return (bits & kSign) != 0 ? ~bits : bits | kSign;
+}
+
 bool Earlier(DateTime a, DateTime b) {
-    if (std::isnan(a)) return false;
-    return std::isnan(b) || a < b;
+    return TimeRank(a) < TimeRank(b);
 }
 
 int WeekOfYear(DateTime value, int firstDayOfWeek, eFirstWeek firstWeekOfYear) {

@@ -33,8 +33,12 @@ DateTime TimeSerial(int hour, int minute, int second);
 DateTime DateOf(DateTime value);
 
 // The order of date-times, in which every value has a place: files may hold any 64 bits, and a comparison
-// that knows no answer would take sorted rows and stores apart. What is no number comes behind all that is
-// one, the infinities included; so it is never the oldest, and no limit by age or count takes it for that.
+// that knows no answer would take sorted rows and stores apart. What is no finite number is no time, and
+// comes in front of all that are one, equal to its like: it counts as the oldest, which goes first at every
+// limit, so that what is broken never costs a new alarm its place.
+//
+// A number that is smaller for an earlier time, and the same for an equal one.
+std::uint64_t TimeRank(DateTime value);
 bool Earlier(DateTime a, DateTime b);
 
 // The number of the week that a date lies in. Days of the week count 1 Sunday to 7 Saturday. The last days of

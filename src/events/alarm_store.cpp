@@ -71,7 +71,7 @@ void cAlarmStore::NoteSpelling(const std::string& name, std::int32_t fileId) {
 
 bool cAlarmStore::IsTooOld(const cVigrelRecieverAlarm& alarm, DateTime now) const {
     const std::int32_t days = m_Services.settings.m_MaxDays;
-    return days > 0 && alarm.m_CreatedTime + days < now;
+    return days > 0 && Earlier(alarm.m_CreatedTime + days, now);
 }
 
 void cAlarmStore::DeleteAlarmFile(const cVigrelRecieverAlarm& alarm) {

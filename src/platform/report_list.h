@@ -79,8 +79,8 @@ class cReportList {
     virtual void SetVisible(bool visible) = 0;
 
     // --- sort order: by the item values of the columns added; text by the upper-cased code page, numbers in
-    // front of texts, what is no number (NaN) behind all numbers. Equal values by the records' age, in the
-    // direction of the last column added.
+    // front of texts, what is no finite number in front of all numbers. Equal values by the records' age, in
+    // the direction of the last column added.
     virtual void ClearSortOrder() = 0;
     virtual void AddSortColumn(int column, bool ascending) = 0;
 

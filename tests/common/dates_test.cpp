@@ -148,12 +148,19 @@ TEST(SplitDateTime, TheFractionCountsForwardBeforeDayZero) {
     EXPECT_EQ(Text(SplitDateTime(-1.9999999999)), "1899 12 30 0 0 0");
 }
 
-TEST(Earlier, IsAStrictWeakOrderOfAllValues) {
+TEST(Earlier, IsAStrictWeakOrderOfAllValuesInWhichWhatIsNoTimeIsTheOldest) {
     constexpr double kInfinity = std::numeric_limits<double>::infinity();
     constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
-    const std::vector<std::vector<double>> order{{-kInfinity}, {-1e300},    {-1},
-                                                 {-0.0, 0.0},  {5e-324},    {46096.5},
-                                                 {1e300},      {kInfinity}, {kNone, -kNone}};
+    constexpr double kLargest = std::numeric_limits<double>::max();
+    const std::vector<std::vector<double>> order{{kNone, -kNone, kInfinity, -kInfinity},
+                                                 {-kLargest},
+                                                 {-1e300},
+                                                 {-1},
+                                                 {-0.0, 0.0},
+                                                 {5e-324},
+                                                 {46096.5},
+                                                 {1e300},
+                                                 {kLargest}};
     for (std::size_t i = 0; i < order.size(); ++i) {
         for (std::size_t j = 0; j < order.size(); ++j) {
             for (const double a : order[i]) {

@@ -97,6 +97,33 @@ TEST(Receiver, ALimitOfEventsRemovesTheOldest) {
     EXPECT_EQ(station.AlarmFiles().size(), 10u);
 }
 
+// The bytes of a stored alarm that holds nothing but the time at which it was made.
+std::string StoredAt(std::uint64_t timeBits) {
+    std::string bytes(180, '\0');
+    for (std::size_t i = 0; i < 8; ++i) bytes[108 + i] = static_cast<char>(timeBits >> 8 * i);
+    return bytes;
+}
+
+TEST(Receiver, StoredAlarmsWhoseTimeIsNoneMakeRoomForNewOnes) {
+    cStation station;
+    station.Configure("[General]\r\nMaxEvents=3\r\nMaxDays=0\r\n");
+    std::filesystem::create_directory(station.Folder() / "Alarms");
+    int number = 0;
+    // No number, with and without sign, and infinity.
+    for (const std::uint64_t time : {0x7FF8000000000001u, 0xFFF8000000000000u, 0x7FF0000000000000u}) {
+        const std::string name = "A000000" + std::to_string(++number) + ".alm";
+        std::ofstream(station.Folder() / "Alarms" / name, std::ios::binary) << StoredAt(time);
+    }
+    ASSERT_TRUE(station.Start()) << station.StandardError();
+    EXPECT_TRUE(station.WaitForLog("3 T10041"));
+    EXPECT_EQ(station.Send({"--t0", "new", "--count", "3", "--quiet"}).exitCode, 0);
+    EXPECT_EQ(station.AlarmFiles().size(), 3u);
+    for (const auto& file : station.AlarmFiles()) {
+        EXPECT_NE(ReadAll(file).find("new"), std::string::npos) << file;
+    }
+    EXPECT_EQ(station.Stop(SIGTERM), 0);
+}
+
 TEST(Receiver, ItAnswersOverIPv4AndIPv6) {
     cStation station;
     ASSERT_TRUE(station.Start());

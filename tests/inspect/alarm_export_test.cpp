@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 
 #include "common/date_text.h"
@@ -88,7 +89,7 @@ TEST_F(AlarmExport, EveryTimeHasItsPlaceAndOneThatIsNoDateIsTold) {
     Put("0000002", kInfinity);
     Put("0000003", 46000);
     Put("0000004", -kInfinity);
-    EXPECT_EQ(Names(), "4321");
+    EXPECT_EQ(Names(), "1243");
     const cExportResult result = Export();
     EXPECT_EQ(result.damaged, 3u);
     EXPECT_NE(result.table.find("the time of arrival is no date of the years 100 to 9999\"\r\n"),
@@ -201,6 +202,12 @@ TEST(AlarmFilter, ASecondThatIsShownIsIncludedByFromAndLeftOutByTheEndBeforeIt) 
     before.before = second;
     EXPECT_TRUE(from.Wants(alarm));
     EXPECT_FALSE(before.Wants(alarm));
+    // What has no time is older than all.
+    for (const double none : {std::numeric_limits<double>::quiet_NaN(), HUGE_VAL, -HUGE_VAL}) {
+        alarm.m_CreatedTime = none;
+        EXPECT_FALSE(from.Wants(alarm)) << none;
+        EXPECT_TRUE(before.Wants(alarm)) << none;
+    }
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "common/dates.h"
 #include "common/text.h"
 
 namespace vigrel {
@@ -24,8 +25,8 @@ bool cAlarmFilter::Wants(const cVigrelRecieverAlarm& alarm) const {
     // A second that a sum of day and time left a trace below itself is shown as that second, and counts as
     // it.
     const DateTime created = alarm.m_CreatedTime + kTrace;
-    if (from && !(created >= *from)) return false;
-    if (before && !(created < *before)) return false;
+    if (from && Earlier(created, *from)) return false;
+    if (before && !Earlier(created, *before)) return false;
     if (observed && (alarm.m_Observed != 0) != *observed) return false;
     return IsOneOf(categories, alarm.m_Alarm.GetCondition(2)) && IsOneOf(senders, alarm.m_Sender) &&
            IsOneOf(states, alarm.m_Alarm.m_Status);

@@ -2,11 +2,9 @@
 
 #include <algorithm>
 #include <array>
-#include <bit>
-#include <cmath>
-#include <limits>
 
 #include "common/code_page.h"
+#include "common/dates.h"
 #include "common/text.h"
 
 namespace vigrel {
@@ -20,14 +18,10 @@ void AppendBigEndian(std::string& key, std::uint64_t bits) {
     for (int shift = 56; shift >= 0; shift -= 8) key.push_back(static_cast<char>(bits >> shift));
 }
 
-// The bits of numbers compare as the numbers do once those below 0 are turned round; what is no number comes
-// behind all others.
+// The numbers of a list are times.
 void AppendNumber(std::string& key, double number) {
-    constexpr std::uint64_t kSign = std::uint64_t{1} << 63;
     key.push_back(kNumber);
-    if (std::isnan(number)) return AppendBigEndian(key, std::numeric_limits<std::uint64_t>::max());
-    const auto bits = std::bit_cast<std::uint64_t>(number == 0 ? 0.0 : number);
-    AppendBigEndian(key, (bits & kSign) != 0 ? ~bits : bits | kSign);
+    AppendBigEndian(key, TimeRank(number));
 }
 
 // Ends in two zeros, so that a text stands in front of those that begin with it whatever follows; a zero of

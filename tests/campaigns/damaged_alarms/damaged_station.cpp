@@ -29,7 +29,7 @@ std::string Bytes(const cVigrelRecieverAlarm& alarm) {
 
 // The order of times once more, by other means than the station's.
 std::pair<bool, double> Rank(double time) {
-    return std::isnan(time) ? std::pair(true, 0.0) : std::pair(false, time);
+    return std::isfinite(time) ? std::pair(true, time) : std::pair(false, 0.0);
 }
 
 }  // namespace
