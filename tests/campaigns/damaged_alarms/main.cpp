@@ -10,10 +10,12 @@
 #include <filesystem>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "campaigns/damaged_alarms/damage.h"
 #include "campaigns/damaged_alarms/damaged_station.h"
 #include "common/numbers.h"
+#include "support/heard_warnings.h"
 #include "support/temporary_folder.h"
 #include "vigrel-inspect/alarm_export.h"
 
@@ -160,7 +162,13 @@ int Option(int argc, char** argv, const std::string& name, int value) {
     return value;
 }
 
-int Run(int argc, char** argv) {
+// A text or a date that it can't show is no reason for the toolkit to complain.
+void ExpectNoWarnings(testing::cHeardWarnings& heard) {
+    const std::vector<std::string> warnings = heard.Take();
+    if (!warnings.empty()) throw std::runtime_error("the toolkit warns: " + warnings.front());
+}
+
+int Run(int argc, char** argv, testing::cHeardWarnings& heard) {
     if (argc % 2 == 0) return std::fputs(kHelp, stdout), 2;
     const int files = Option(argc, argv, "--files", 100000);
     auto seed = static_cast<std::uint32_t>(Option(argc, argv, "--seed", 1));
@@ -169,6 +177,7 @@ int Run(int argc, char** argv) {
     for (int done = 0; done < files; done += kFilesOfALot, ++seed) {
         try {
             cLot(seed, figures).Run(std::min(kFilesOfALot, files - done));
+            ExpectNoWarnings(heard);
         } catch (const std::exception& failure) {
             std::printf("seed %u: %s\n", seed, failure.what());
             return 1;
@@ -188,6 +197,7 @@ int Run(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    vigrel::testing::cHeardWarnings heard;
     const QApplication application(argc, argv);
-    return vigrel::campaign::Run(argc, argv);
+    return vigrel::campaign::Run(argc, argv, heard);
 }
