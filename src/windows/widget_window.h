@@ -4,36 +4,44 @@
 #include <QEvent>
 #include <QMoveEvent>
 #include <QResizeEvent>
-#include <QScopedValueRollback>
 #include <QShowEvent>
-#include <QTimer>
 #include <QWidget>
 #include <QWindow>
-#include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 
 #include "adapters/qt/qt_text.h"
 #include "common/failure.h"
 #include "platform/windows.h"
+#include "windows/icon_restore.h"
 #include "windows/open_windows.h"
-#include "windows/restore_icon.h"
+#include "windows/resize_notice.h"
 #include "windows/screen_flush.h"
 #include "windows/twips.h"
+#include "windows/window_close.h"
+#include "windows/window_frame.h"
+#include "windows/window_hiding.h"
+#include "windows/window_state.h"
 
 namespace vigrel {
 
 // A top-level widget as the logic sees it: a window of any kind of window port. It enters the open windows at
 // its first Show, unless its maker enters it earlier, and leaves them at its close.
 //
-// The window manager's frame is known only some time after a window was shown for the first time. A frame
-// size that is set before is kept, answered, and given to the window when its frame is there.
+// What it remembers is kept by five parts, each with its states in its own header; none looks at another's
+// but the hiding, which reads the frame:
+//
+// part           states                   what moves it here
+// -------------  -----------------------  ------------------------------------------------------------------
+// cWindowFrame   Unseen, Wished, Seen     SetWidth, SetHeight; the events of size, place and showing
+// cWindowHiding  There, Hidden            Hide (Vanish); Show (Reappear)
+// cIconRestore   Settled, Settling        SetState, of an icon that becomes a window; any other SetState
+// cResizeNotice  Telling, Holding, Kept   Show; the events of size and state
+// cWindowClose   Open, Closing, Closed    CloseFor, Close, the window's own close; Show
 template <class Port, class Widget = QWidget>
 class cWidgetWindow : public Widget, public Port {
   public:
-    cWidgetWindow(std::string_view name, cOpenWindows& windows)
-        : Widget(nullptr), m_Name(name), m_Windows(windows) {
+    cWidgetWindow(std::string_view name, cOpenWindows& windows) : m_Name(name), m_Windows(windows) {
         this->setObjectName(ToQString(name));
     }
     ~cWidgetWindow() override { m_Windows.Leave(*this); }
@@ -45,46 +53,33 @@ class cWidgetWindow : public Widget, public Port {
         this->setWindowTitle(ToQString(caption));
     }
 
-    eWindowState State() const override {
-        if (this->isMinimized()) return eWindowState::Minimised;
-        return this->isMaximized() ? eWindowState::Maximised : eWindowState::Normal;
-    }
+    eWindowState State() const override { return StateOf(*this); }
     void SetState(eWindowState state) override {
-        // An icon comes back as what it was made of.
-        const bool becomesIcon = state == eWindowState::Minimised;
-        const Qt::WindowStates others =
-            this->windowState() & ~(Qt::WindowMinimized | Qt::WindowFullScreen |
-                                    (becomesIcon ? Qt::WindowNoState : Qt::WindowMaximized));
-        const Qt::WindowState own = state == eWindowState::Minimised   ? Qt::WindowMinimized
-                                    : state == eWindowState::Maximised ? Qt::WindowMaximized
-                                                                       : Qt::WindowNoState;
         const bool wasIcon = this->isMinimized();
-        ++m_StateWishes;
-        this->setWindowState(others | own);
-        if (wasIcon && !this->isMinimized() && this->isVisible()) BecomeWindow();
+        m_IconRestore.Forget();
+        this->setWindowState(WithState(this->windowState(), state));
+        if (wasIcon && !this->isMinimized() && this->isVisible()) m_IconRestore.Restore();
         FlushToScreen();
     }
     double Left() const override { return ToTwips(Place().x()); }
     double Top() const override { return ToTwips(Place().y()); }
-    double Width() const override { return ToTwips(FrameSize().width()); }
-    double Height() const override { return ToTwips(FrameSize().height()); }
+    double Width() const override { return ToTwips(m_Frame.Size().width()); }
+    double Height() const override { return ToTwips(m_Frame.Size().height()); }
     void SetLeft(double twips) override { PlaceAt({ToPixels(twips), Place().y()}); }
     void SetTop(double twips) override { PlaceAt({Place().x(), ToPixels(twips)}); }
-    void SetWidth(double twips) override { SetFrameSize({ToPixels(twips), FrameSize().height()}); }
-    void SetHeight(double twips) override { SetFrameSize({FrameSize().width(), ToPixels(twips)}); }
+    void SetWidth(double twips) override { m_Frame.SetSize({ToPixels(twips), m_Frame.Size().height()}); }
+    void SetHeight(double twips) override { m_Frame.SetSize({m_Frame.Size().width(), ToPixels(twips)}); }
     double InnerWidth() const override { return ToTwips(this->width()); }
     double InnerHeight() const override { return ToTwips(this->height()); }
 
     bool Visible() const override { return this->isVisible(); }
     void Show() override {
         m_Windows.Enter(*this);
-        Reappear();
-        {
-            const QScopedValueRollback showing(m_Showing, true);
-            this->show();
-        }
+        m_Hiding.Reappear();
+        m_ResizeNotice.Hold();
+        this->show();
         FlushToScreen();
-        if (std::exchange(m_ResizedInShow, false) && this->OnResize) this->OnResize();
+        m_ResizeNotice.Release();
     }
     void Hide() override { Vanish(); }
     void SetFocus() override {
@@ -116,48 +111,11 @@ class cWidgetWindow : public Widget, public Port {
             this->windowHandle()->setFlag(Qt::WindowStaysOnTopHint, on);
         }
     }
-    // Hides the window and gives its native one up. A hidden native window keeps what the window manager made
-    // of it, its frame, its place, its being an icon, and the toolkit remembers one or the other of it
-    // depending on the moment; a new one comes up where and as the widget says.
-    void Vanish() {
-        if (!this->isVisible()) return;
-        const bool maximised = this->isMaximized();
-        const QRect restored = this->normalGeometry();  // of the inside
-        m_HiddenPlace = maximised ? restored.topLeft() - FrameCorner() : Place();
-        this->hide();
-        this->destroy();
-        if (maximised) this->resize(restored.size());
-    }
-    // What is to happen to a hidden window before it is shown again.
-    void Reappear() {
-        if (!m_HiddenPlace) return;
-        // By the inside, for which the toolkit needs to know nothing of the frame.
-        this->setGeometry(QRect(*m_HiddenPlace + FrameCorner(), this->size()));
-        m_HiddenPlace.reset();
-    }
-    // The frame's upper left corner. The toolkit's own answer is without the frame now and then.
-    QPoint Place() const {
-        if (m_HiddenPlace) return *m_HiddenPlace;
-        return m_FrameSeen ? this->geometry().topLeft() - FrameCorner() : this->pos();
-    }
-    void PlaceAt(QPoint place) {
-        if (m_HiddenPlace) {
-            m_HiddenPlace = place;
-        } else {
-            this->move(place);
-        }
-    }
-    // Runs the close query and, when it isn't refused, the unload step. Whether the window is closed.
-    bool TryClose(eCloseReason reason) {
-        if (m_Closing || !m_Windows.Holds(*this)) return true;
-        if (this->OnQueryUnload && !this->OnQueryUnload(reason)) return false;
-        m_Closing = true;
-        if (this->OnUnload) this->OnUnload();
-        m_Windows.Leave(*this);
-        Closed();
-        m_Closing = false;
-        return true;
-    }
+    void Vanish() { m_Hiding.Vanish(); }
+    void Reappear() { m_Hiding.Reappear(); }
+    QPoint Place() const { return m_Hiding.Place(); }
+    void PlaceAt(QPoint place) { m_Hiding.PlaceAt(place); }
+    bool TryClose(eCloseReason reason) { return m_Close.TryClose(reason); }
     // The window is no longer among the open ones; it hides next.
     virtual void Closed() {}
 
@@ -167,68 +125,33 @@ class cWidgetWindow : public Widget, public Port {
     }
     void resizeEvent(QResizeEvent* event) override {
         Widget::resizeEvent(event);
-        // Sized by somebody else: without a frame to wait for, the wish is over.
-        if (m_WishedFrame && event->size() != *m_WishedFrame) m_WishedFrame.reset();
-        MeetFrame();
-        Resized();
+        m_Frame.Resized(event->size());
+        m_ResizeNotice.Resized();
     }
     void showEvent(QShowEvent* event) override {
         Widget::showEvent(event);
-        MeetFrame();
+        m_Frame.Meet();
     }
     void moveEvent(QMoveEvent* event) override {
         Widget::moveEvent(event);
-        MeetFrame();
+        m_Frame.Meet();
     }
     void changeEvent(QEvent* event) override {
         Widget::changeEvent(event);
-        if (event->type() == QEvent::WindowStateChange) Resized();
+        if (event->type() == QEvent::WindowStateChange) m_ResizeNotice.Resized();
         if (event->type() == QEvent::ActivationChange && this->isActiveWindow() && this->OnActivate) {
             this->OnActivate();
         }
     }
 
   private:
-    // A window that is hidden while it is being shown would show all the same: the event waits.
-    void Resized() {
-        m_ResizedInShow = m_ResizedInShow || m_Showing;
-        if (!m_Showing && this->OnResize) this->OnResize();
-    }
-    void BecomeWindow() {
-        RestoreFromIcon(*this);
-        // A window manager that was just making an icon of the window goes on with it.
-        constexpr int kSettledMilliseconds = 200;
-        QTimer::singleShot(kSettledMilliseconds, this, [this, wish = m_StateWishes] {
-            if (wish != m_StateWishes || !this->isVisible() || this->windowHandle()->isExposed()) return;
-            this->setWindowState(this->windowState() & ~Qt::WindowMinimized);
-            RestoreFromIcon(*this);
-            FlushToScreen();
-        });
-    }
-    QPoint FrameCorner() const { return {m_Frame.left(), m_Frame.top()}; }
-    QSize FrameSize() const { return m_WishedFrame ? *m_WishedFrame : this->size().grownBy(m_Frame); }
-    void SetFrameSize(QSize size) {
-        m_WishedFrame.reset();
-        if (!m_FrameSeen) m_WishedFrame = size;
-        this->resize(size.shrunkBy(m_Frame).expandedTo({0, 0}));
-    }
-    void MeetFrame() {
-        if (!this->isVisible() || this->isMinimized() || this->windowHandle() == nullptr) return;
-        const QMargins frame = this->windowHandle()->frameMargins();
-        if (frame.isNull()) return;
-        m_Frame = frame;
-        if (std::exchange(m_FrameSeen, true)) return;
-        if (m_WishedFrame) SetFrameSize(*m_WishedFrame);
-    }
-
     std::string m_Name, m_Caption;
     cOpenWindows& m_Windows;
-    std::optional<QSize> m_WishedFrame;   // until the frame is seen
-    std::optional<QPoint> m_HiddenPlace;  // of the frame, while hidden by the program
-    QMargins m_Frame;                     // as last seen
-    bool m_FrameSeen = false, m_Closing = false;
-    bool m_Showing = false, m_ResizedInShow = false;
-    unsigned m_StateWishes = 0;  // how often a state was set
+    cWindowFrame m_Frame{*this};
+    cWindowHiding m_Hiding{*this, m_Frame, [this] { this->destroy(); }};
+    cIconRestore m_IconRestore{*this};
+    cResizeNotice m_ResizeNotice{this->OnResize};
+    cWindowClose m_Close{*this, m_Windows, [this] { Closed(); }};
 };
 
 }  // namespace vigrel

@@ -1,0 +1,39 @@
+#include "windows/window_hiding.h"
+
+#include <QWidget>
+
+namespace vigrel {
+
+QPoint cWindowHiding::Place() const {
+    if (m_HiddenPlace) return *m_HiddenPlace;
+    // The toolkit's own answer is without the frame now and then.
+    const bool frameSeen = m_Frame.State() == cWindowFrame::eState::Seen;
+    return frameSeen ? m_Window.geometry().topLeft() - m_Frame.Corner() : m_Window.pos();
+}
+
+void cWindowHiding::PlaceAt(QPoint place) {
+    if (m_HiddenPlace) {
+        m_HiddenPlace = place;
+    } else {
+        m_Window.move(place);
+    }
+}
+
+void cWindowHiding::Vanish() {
+    if (!m_Window.isVisible()) return;
+    const bool maximised = m_Window.isMaximized();
+    const QRect restored = m_Window.normalGeometry();  // of the inside
+    m_HiddenPlace = maximised ? restored.topLeft() - m_Frame.Corner() : Place();
+    m_Window.hide();
+    m_GiveUp();
+    if (maximised) m_Window.resize(restored.size());
+}
+
+void cWindowHiding::Reappear() {
+    if (!m_HiddenPlace) return;
+    // By the inside, for which the toolkit needs to know nothing of the frame.
+    m_Window.setGeometry(QRect(*m_HiddenPlace + m_Frame.Corner(), m_Window.size()));
+    m_HiddenPlace.reset();
+}
+
+}  // namespace vigrel

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QPoint>
+#include <functional>
+#include <optional>
+#include <utility>
+
+#include "windows/window_frame.h"
+
+class QWidget;
+
+namespace vigrel {
+
+// Hides a window and brings it back where it was. A hidden native window keeps what the window manager made
+// of it, its frame, its place, its being an icon, and the toolkit remembers one or the other of it depending
+// on the moment; so the native one is given up, and a new one comes up where and as the widget says.
+//
+// state   its place is                 setting a place      leaves the state by
+// ------  ---------------------------  -------------------  -------------------
+// There   where the frame stands       moves the window     Vanish -> Hidden
+// Hidden  where the frame stood, or    is kept              Reappear -> There
+//         what was set since
+//
+// A window that was never shown is There, at what the toolkit was told.
+class cWindowHiding {
+  public:
+    // giveUp lets go of the native window.
+    cWindowHiding(QWidget& window, const cWindowFrame& frame, std::function<void()> giveUp)
+        : m_Window(window), m_Frame(frame), m_GiveUp(std::move(giveUp)) {}
+
+    bool Hidden() const { return m_HiddenPlace.has_value(); }
+    // The frame's upper left corner.
+    QPoint Place() const;
+    void PlaceAt(QPoint place);
+    // Does nothing to a window that doesn't show.
+    void Vanish();
+    // What is to happen before the window is shown.
+    void Reappear();
+
+  private:
+    QWidget& m_Window;
+    const cWindowFrame& m_Frame;
+    std::function<void()> m_GiveUp;
+    std::optional<QPoint> m_HiddenPlace;
+};
+
+}  // namespace vigrel
