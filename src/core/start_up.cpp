@@ -4,6 +4,7 @@
 #include "common/code_page.h"
 #include "common/failure.h"
 #include "common/file_procedures.h"
+#include "common/path_text.h"
 #include "common/setting_keys.h"
 #include "common/window_procedures.h"
 #include "core/form_geometry.h"
@@ -91,9 +92,19 @@ void cVigrelReceiverMain::SetCaptions() {
 }
 
 bool cVigrelReceiverMain::IsOnlyInstance() {
-    if (!m_Ports.singleInstance.AnotherIsRunning()) return true;
+    if (!m_Ports.singleInstance.AnotherIsRunning()) {
+        TellOfMissingLock(m_Ports.singleInstance.Problem());
+        return true;
+    }
     m_Ports.messageBox.Show(m_Texts.GetText(10010), eMessageIcon::Warning, eMessageButtons::Ok);
     return false;
+}
+
+void cVigrelReceiverMain::TellOfMissingLock(const std::string& problem) {
+    if (problem.empty()) return;
+    const std::string text = "The folder is not locked, a second station on it would not notice: " + problem;
+    m_Log.WriteLog(WithPathsInCodePage(text));
+    m_Ports.status.SetStatus(text);
 }
 
 bool cVigrelReceiverMain::ReachSuiteLibrary() {
@@ -142,6 +153,8 @@ void cVigrelReceiverMain::ShowAbout() {
 void cVigrelReceiverMain::LoadAlarms() {
     const cIniMoment moment(m_Ini);
     m_Alarms.LoadAlarms();
+    // A folder that can't be read must not be taken for one without alarms.
+    if (!m_Store.FolderProblem().empty()) m_Ports.list.SetEmptyText("(" + m_Texts.GetText(10053) + ")");
 }
 
 bool cVigrelReceiverMain::OpenPort() {

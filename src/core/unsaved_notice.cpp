@@ -1,6 +1,7 @@
 #include "core/unsaved_notice.h"
 
 #include <string>
+#include <utility>
 
 #include "common/dates.h"
 
@@ -21,11 +22,22 @@ std::string cUnsavedNotice::Summary() const {
            format(m_Services.settings.m_TimeFormat);
 }
 
+std::string cUnsavedNotice::FolderText() const {
+    return m_Services.store.FolderProblem().empty() ? "" : m_Services.texts.GetText(10053);
+}
+
+void cUnsavedNotice::TellOfFolder() {
+    if (std::exchange(m_ToldOfFolder, true) || FolderText().empty()) return;
+    m_Services.windows.ShowNotice(FolderText());
+    m_Services.status.SetStatus(FolderText() + " (" + m_Services.store.FolderProblem() + ")");
+}
+
 void cUnsavedNotice::Tick() {
+    TellOfFolder();
     const std::size_t count = m_Services.store.UnsavedCount();
     if (count != m_Shown) {
         const std::string advice = m_Services.texts.GetText(10051);
-        m_Services.windows.ShowNotice(count == 0 ? "" : Summary() + "\r\n\r\n" + advice);
+        m_Services.windows.ShowNotice(count == 0 ? FolderText() : Summary() + "\r\n\r\n" + advice);
         m_Shown = count;
     }
     const bool changes = count == 0 || m_Told == 0;

@@ -10,7 +10,7 @@ namespace vigrel {
 
 // Tells the operator, in a window and by the program's status, that alarms are not on disk: how many, and
 // since when. Senders are answered all the same, and the log can be on the same disk; nothing else would
-// tell.
+// tell. Tells likewise, once, that the stored alarms could not be read at the start.
 class cUnsavedNotice {
   public:
     struct cServices {
@@ -30,8 +30,12 @@ class cUnsavedNotice {
 
   private:
     std::string Summary() const;
+    // Empty where the folder could be read.
+    std::string FolderText() const;
+    void TellOfFolder();
 
     cServices m_Services;
+    bool m_ToldOfFolder = false;
     std::size_t m_Shown = 0, m_Told = 0;  // alarms, in the window and by the status
     double m_ToldSteady = 0;              // on the steady clock, days
 };

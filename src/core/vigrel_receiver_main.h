@@ -105,6 +105,7 @@ class cVigrelReceiverMain {
     void ReadCategories(std::int16_t devices);
     void SetCaptions();
     bool IsOnlyInstance();
+    void TellOfMissingLock(const std::string& problem);
     bool ReachSuiteLibrary();
     void SetTitle();
     void SetListFont();

@@ -7,6 +7,7 @@
 #include "common/failure.h"
 #include "common/file_procedures.h"
 #include "common/numbers.h"
+#include "common/path_text.h"
 #include "common/text.h"
 #include "events/alarm_maker.h"
 #include "events/insertion_order.h"
@@ -206,11 +207,10 @@ std::optional<std::int32_t> cAlarmStore::FileIdOf(const std::string& name) {
     return fileId;
 }
 
-std::int32_t cAlarmStore::ReadFolder(const std::set<std::string>& unreadable, std::vector<AlarmPtr>& alarms) {
-    std::vector<std::string> names = m_Services.files.ListFiles(m_Folder, kMask);
+std::int32_t cAlarmStore::ReadFiles(std::vector<std::string> names, std::vector<AlarmPtr>& alarms) {
     std::vector<std::int32_t> fileIds;
     std::erase_if(names, [&](const std::string& name) {
-        const auto fileId = unreadable.contains(name) ? std::nullopt : FileIdOf(name);
+        const auto fileId = FileIdOf(name);
         if (fileId) fileIds.push_back(*fileId);
         return !fileId;
     });
@@ -266,19 +266,16 @@ std::int32_t cAlarmStore::InsertOneByOne(const std::vector<AlarmPtr>& alarms) {
 
 // Names what can't be read among the alarms, so that it can be looked after. Any number of them takes one
 // line.
-std::set<std::string> cAlarmStore::TellUnreadable() const {
+void cAlarmStore::TellUnreadable(const std::vector<cFileReader::cUnreadable>& unreadable) const {
     constexpr std::size_t kMostNamed = 20;
-    std::set<std::string> names;
+    std::size_t count = 0;
     std::string list;
-    for (const auto& [name, reason] : m_Services.files.ListUnreadable(m_Folder, kMask)) {
-        if (!IsNumeric(name.substr(1, 7)) || !names.insert(name).second) continue;
-        if (names.size() <= kMostNamed) list += (list.empty() ? " " : ", ") + name + " (" + reason + ")";
+    for (const auto& [name, reason] : unreadable) {
+        if (!IsNumeric(name.substr(1, 7)) || ++count > kMostNamed) continue;
+        list += (list.empty() ? " " : ", ") + name + " (" + reason + ")";
     }
-    if (names.size() > kMostNamed) list += " and " + std::to_string(names.size() - kMostNamed) + " more";
-    if (!names.empty()) {
-        m_Services.log.WriteLog(std::to_string(names.size()) + " alarm file(s) can't be read:" + list);
-    }
-    return names;
+    if (count > kMostNamed) list += " and " + std::to_string(count - kMostNamed) + " more";
+    if (count > 0) m_Services.log.WriteLog(std::to_string(count) + " alarm file(s) can't be read:" + list);
 }
 
 std::int32_t cAlarmStore::LoadAlarms() {
@@ -287,9 +284,14 @@ std::int32_t cAlarmStore::LoadAlarms() {
     m_Spellings.clear();
     m_Folder = m_Services.files.Spelling(m_Folder);
     RemoveTemporaries(m_Services.files, m_Folder);
-    const std::set<std::string> unreadable = TellUnreadable();
+    cFileReader::cListing listing = m_Services.files.List(m_Folder, kMask);
+    m_FolderProblem = std::move(listing.problem);
+    if (!m_FolderProblem.empty()) {
+        m_Services.log.WriteLog("The stored alarms can't be listed: " + WithPathsInCodePage(m_FolderProblem));
+    }
+    TellUnreadable(listing.unreadable);
     std::vector<AlarmPtr> alarms;
-    const std::int32_t removed = ReadFolder(unreadable, alarms);
+    const std::int32_t removed = ReadFiles(std::move(listing.names), alarms);
     return removed + InsertAll(alarms);
 }
 

@@ -73,6 +73,9 @@ class cAlarmStore {
     std::size_t UnsavedCount() const { return m_Unsaved.size(); }
     DateTime UnsavedSince() const { return m_UnsavedSince; }
     const std::string& UnsavedReason() const { return m_UnsavedReason; }
+    // The folder, and why it could not be listed when the alarms were loaded; empty when it could. There can
+    // be alarms in it then that nobody sees.
+    const std::string& FolderProblem() const { return m_FolderProblem; }
 
     // With its folder; spelled as it lies on the disk.
     std::string FileName(std::int32_t fileId) const;
@@ -87,10 +90,10 @@ class cAlarmStore {
     std::string Bytes(cVigrelRecieverAlarm& alarm);
     bool TrySave(cVigrelRecieverAlarm& alarm);
     void SaveCollected();
-    std::set<std::string> TellUnreadable() const;
+    void TellUnreadable(const std::vector<cFileReader::cUnreadable>& unreadable) const;
     std::optional<std::int32_t> FileIdOf(const std::string& name);
     // Each gives how many alarms were removed.
-    std::int32_t ReadFolder(const std::set<std::string>& unreadable, std::vector<AlarmPtr>& alarms);
+    std::int32_t ReadFiles(std::vector<std::string> names, std::vector<AlarmPtr>& alarms);
     std::int32_t InsertAll(const std::vector<AlarmPtr>& alarms);
     std::int32_t InsertOneByOne(const std::vector<AlarmPtr>& alarms);
     void NoteUnsaved(const AlarmPtr& alarm);
@@ -102,6 +105,7 @@ class cAlarmStore {
     std::vector<AlarmPtr> m_Unsaved;
     DateTime m_UnsavedSince = 0;
     std::string m_UnsavedReason;
+    std::string m_FolderProblem;
     bool m_Collecting = false;
     std::vector<AlarmPtr> m_Collected;
     cPendingSaves m_Pending;

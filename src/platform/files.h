@@ -39,12 +39,21 @@ class cFileReader {
     // Hidden names (with a leading dot) are not listed. An unreadable or missing folder is an empty list.
     virtual std::vector<std::string> ListFiles(std::string_view folder, std::string_view mask) const = 0;
 
-    // What else of a folder matches the mask: what is no ordinary file, is larger than any file of the
-    // system, or must not be read by us. Such an entry must not keep the others away.
+    // An entry that is no ordinary file, is larger than any file of the system, or must not be read by us. It
+    // must not keep the others away.
     struct cUnreadable {
         std::string name, reason;
     };
-    virtual std::vector<cUnreadable> ListUnreadable(std::string_view folder, std::string_view mask) const = 0;
+    // What of a folder matches the mask, with what can't be read of it: for folders whose files must not be
+    // missed.
+    struct cListing {
+        std::vector<std::string> names;  // of the others, as ListFiles gives them
+        std::vector<cUnreadable> unreadable;
+        // The folder, and why it can't be listed, or not to its end; empty when it can, and for a folder that
+        // is not there.
+        std::string problem;
+    };
+    virtual cListing List(std::string_view folder, std::string_view mask) const = 0;
     // The path as it is spelled on the disk; as it is given where nothing of that name is there.
     virtual std::string Spelling(std::string_view path) const = 0;
 

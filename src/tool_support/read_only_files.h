@@ -21,8 +21,8 @@ class cReadOnlyFiles : public cFiles {
     std::vector<std::string> ListFiles(std::string_view folder, std::string_view mask) const override {
         return m_Files.ListFiles(folder, mask);
     }
-    std::vector<cUnreadable> ListUnreadable(std::string_view folder, std::string_view mask) const override {
-        return m_Files.ListUnreadable(folder, mask);
+    cListing List(std::string_view folder, std::string_view mask) const override {
+        return m_Files.List(folder, mask);
     }
     std::string Spelling(std::string_view path) const override { return m_Files.Spelling(path); }
     cStamp Stamp(std::string_view path) const override { return m_Files.Stamp(path); }

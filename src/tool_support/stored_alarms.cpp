@@ -31,7 +31,10 @@ bool IsStoredName(const std::string& name) {
 }  // namespace
 
 std::vector<std::string> AlarmFileNames(const cFileReader& files, const std::string& alarmFolder) {
-    std::vector<std::string> names = files.ListFiles(alarmFolder, kMask);
+    auto [names, unreadable, problem] = files.List(alarmFolder, kMask);
+    if (!problem.empty()) throw cFailure(eFailure::PathAccess, problem);
+    // Each is told as one that can't be read, in its turn.
+    for (const auto& [name, reason] : unreadable) names.push_back(name);
     std::erase_if(names, [](const std::string& name) { return !IsStoredName(name); });
     std::sort(names.begin(), names.end());
     return names;

@@ -64,7 +64,10 @@ TEST_F(ForeignFiles, WhatCannotBeReadOfAFolderIsListedWithTheReason) {
     fs::create_symlink("A0000001.alm", Native("A0000006.alm"));
     ASSERT_EQ(mkfifo(Native("other").c_str(), 0666), 0);
     std::string found;
-    auto unreadable = m_Files.ListUnreadable(m_Folder.Folder(), "A???????.Alm");
+    auto [names, unreadable, problem] = m_Files.List(m_Folder.Folder(), "A???????.Alm");
+    std::sort(names.begin(), names.end());
+    EXPECT_EQ(names, (std::vector<std::string>{"A0000001.alm", "A0000006.alm"}));
+    EXPECT_EQ(problem, "");
     std::sort(unreadable.begin(), unreadable.end(),
               [](const auto& a, const auto& b) { return a.name < b.name; });
     for (const auto& [name, reason] : unreadable) found += name + ": " + reason + "\n";
@@ -73,7 +76,24 @@ TEST_F(ForeignFiles, WhatCannotBeReadOfAFolderIsListedWithTheReason) {
               "A0000003.alm: no ordinary file\n"
               "A0000004.alm: larger than 64 MB\n"
               "a0000005.ALM: No such file or directory\n");
-    EXPECT_TRUE(m_Files.ListUnreadable(Path("none\\"), "*").empty());
+}
+
+TEST_F(ForeignFiles, AFolderThatCannotBeListedIsNoEmptyOne) {
+    EXPECT_EQ(m_Files.List(Path("none\\"), "*").problem, "");
+    Put("Alarms", "a file");
+    EXPECT_EQ(m_Files.List(Path("Alarms\\"), "*").problem, Path("Alarms/") + ": Not a directory");
+    // Such as to a disk that is not there.
+    fs::create_symlink("nowhere", Native("LogFiles"));
+    EXPECT_EQ(m_Files.List(Path("LogFiles\\"), "*").problem,
+              Path("LogFiles/") + ": No such file or directory");
+    fs::create_directory(Native("elsewhere"));
+    Put("elsewhere\\a", "x");
+    fs::create_symlink("elsewhere", Native("planted"));
+    const bool planted = lchown(Native("planted").c_str(), 4711, 4711) == 0;
+    const auto listing = m_Files.List(Path("planted\\"), "*");
+    EXPECT_EQ(listing.problem,
+              planted ? Path("planted") + ": a link that another user made is not followed" : "");
+    EXPECT_EQ(listing.names.size(), planted ? 0u : 1u);
 }
 
 TEST_F(ForeignFiles, AFileLargerThanAnyOfTheSystemIsNotRead) {

@@ -134,6 +134,23 @@ TEST(FolderLock, ASecondProgramOnTheSameFolderIsNoticedWhileTheFirstRuns) {
     EXPECT_FALSE(second.AnotherIsRunning());
 }
 
+TEST(FolderLock, AFileThatCannotBeOpenedIsToldAndDoesNotStandInTheWay) {
+    cTemporaryFolder folder;
+    const std::string path = folder.Path().string() + "/VigrelReceiver.lock";
+    cFolderLock lock(folder.Folder());
+    std::filesystem::create_directory(path);
+    EXPECT_FALSE(lock.AnotherIsRunning());
+    EXPECT_EQ(lock.Problem(), path + ": Is a directory");
+    std::filesystem::remove(path);
+    std::filesystem::create_symlink("elsewhere", path);
+    EXPECT_FALSE(lock.AnotherIsRunning());
+    EXPECT_EQ(lock.Problem(), path + ": Too many levels of symbolic links");
+    std::filesystem::remove(path);
+    EXPECT_FALSE(lock.AnotherIsRunning());
+    EXPECT_EQ(lock.Problem(), "");
+    EXPECT_TRUE(cFolderLock(folder.Folder()).AnotherIsRunning());
+}
+
 TEST(FolderLock, TwoFoldersAreTwoStations) {
     cTemporaryFolder a;
     cTemporaryFolder b;

@@ -320,6 +320,15 @@ TEST_F(StartUp, LeftoverTemporariesAreCleared) {
     EXPECT_FALSE(files.FileExists("C:\\App\\VigrelReceiver.INI.$~"));
 }
 
+TEST_F(StartUp, AFolderThatCannotBeLockedIsToldAndTheStartGoesOn) {
+    singleInstance.m_Problem = "C:\\App\\x.lock: no locks";
+    EXPECT_EQ(Load(), eStartUp::Running);
+    const std::string line =
+        "The folder is not locked, a second station on it would not notice: C:\\App\\x.lock: no locks";
+    EXPECT_EQ(status.m_Texts, std::vector<std::string>{line});
+    EXPECT_NE(Log().find(line + "\n"), std::string::npos);
+}
+
 TEST_F(StartUp, ASecondInstanceLeavesTheFirstOnesTemporariesAlone) {
     files.Put("C:\\App\\VigrelReceiver.INI.$~", "being written");
     singleInstance.m_Another = true;

@@ -99,5 +99,35 @@ TEST_F(UnsavedNotice, AnAlarmThatTheLimitsRemoveIsMissedNoMore) {
     EXPECT_EQ(otherWindows.m_Notices.back(), "");
 }
 
+// A station whose stored alarms can't be read.
+class UnlistedFolder : public ::testing::Test, public testing::cFakeReceiver {
+  protected:
+    UnlistedFolder() {
+        files.m_FolderProblems["C:\\App\\Alarms\\"] = "C:\\App\\Alarms\\: Permission denied";
+        Start();
+        listener.Knock(1);
+        timerPlay.Tick();
+        timerPlay.Tick();
+    }
+    const std::string m_Status = "T10053 (C:\\App\\Alarms\\: Permission denied)";
+};
+
+TEST_F(UnlistedFolder, IsToldOnceInAWindowByTheStatusAndInTheEmptyList) {
+    EXPECT_EQ(otherWindows.m_Notices, cLines{"T10053"});
+    EXPECT_EQ(status.m_Texts, cLines{m_Status});
+    EXPECT_EQ(list.m_EmptyText, "(T10053)");
+}
+
+TEST_F(UnlistedFolder, IsToldAgainWhenAFullDiskIsNoMore) {
+    files.m_DiskFull = true;
+    data.Arrive(MakeFrame("PLC1", "S1|||alarm"));
+    timerPlay.Tick();
+    files.m_DiskFull = false;
+    timerKeepAlive.Tick();
+    timerPlay.Tick();
+    ASSERT_EQ(otherWindows.m_Notices.size(), 3u);
+    EXPECT_EQ(otherWindows.m_Notices.back(), "T10053");
+}
+
 }  // namespace
 }  // namespace vigrel

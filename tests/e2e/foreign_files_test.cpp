@@ -65,6 +65,34 @@ TEST(PlantedFolders, NothingIsWrittenThroughALinkOfAnotherUsers) {
     EXPECT_EQ(fs::is_empty(victim), planted);
 }
 
+TEST(UnlistedAlarms, AreToldAndTheStationRuns) {
+    cStation station;
+    station.ExpectStandardError();
+    const std::string alarms = (station.Folder() / "Alarms").string();
+    fs::create_directory_symlink("a disk that is not there", alarms);
+    ASSERT_TRUE(station.Start()) << station.StandardError();
+    EXPECT_TRUE(
+        station.WaitForLog("The stored alarms can't be listed: " + alarms + "/: No such file or directory"));
+    const std::string line = "vigrel-receiver: T10053 (" + alarms + "/: No such file or directory)\n";
+    for (int i = 0; i < 100 && station.StandardError() != line; ++i)
+        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    EXPECT_EQ(station.StandardError(), line);
+    EXPECT_EQ(station.Stop(SIGTERM), 0);
+}
+
+TEST(Lock, OneThatCannotBeTakenIsToldAndTheStationRuns) {
+    cStation station;
+    station.ExpectStandardError();
+    const std::string lock = (station.Folder() / "VigrelReceiver.lock").string();
+    fs::create_directory(lock);
+    ASSERT_TRUE(station.Start()) << station.StandardError();
+    const std::string line =
+        "The folder is not locked, a second station on it would not notice: " + lock + ": Is a directory";
+    EXPECT_TRUE(station.WaitForLog(line));
+    EXPECT_EQ(station.StandardError(), "vigrel-receiver: " + line + "\n");
+    EXPECT_EQ(station.Stop(SIGTERM), 0);
+}
+
 // A name of the machine that would colour, and then title, whatever terminal shows it.
 constexpr const char* kSteering = "\x1B[31m\x1B]0;title\x07";
 

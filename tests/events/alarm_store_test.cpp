@@ -631,6 +631,18 @@ TEST_F(AlarmStore, AnyNumberOfFilesThatCannotBeReadTakesOneLine) {
     EXPECT_TRUE(line.ends_with(", A1000020.alm (x) and 480 more")) << line;
 }
 
+TEST_F(AlarmStore, AFolderThatCannotBeListedIsNotTakenForAnEmptyOne) {
+    PutFile(1, 3);
+    Load();
+    EXPECT_EQ(store.FolderProblem(), "");
+    files.m_FolderProblems[std::string(kApp) + "Alarms\\"] = "/app/Alarms/: Permission denied";
+    Load();
+    EXPECT_EQ(store.FolderProblem(), "/app/Alarms/: Permission denied");
+    EXPECT_TRUE(
+        Log().ends_with("The stored alarms can't be listed: /app/Alarms/: Permission denied\n0 T10041\n"));
+    EXPECT_EQ(AlarmFiles().size(), 1u);
+}
+
 TEST_F(AlarmStore, AFolderThatCannotBeWrittenStillLoads) {
     PutFile(1, 40);
     PutFile(2, 1);

@@ -211,7 +211,9 @@ class cFakePrinterPorts : public cPrinterPorts {
 class cFakeSingleInstance : public cSingleInstance {
   public:
     bool AnotherIsRunning() override { return m_Another; }
+    std::string Problem() const override { return m_Problem; }
     bool m_Another = false;
+    std::string m_Problem;
 };
 
 }  // namespace vigrel::testing

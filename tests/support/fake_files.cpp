@@ -73,6 +73,7 @@ std::string cFakeFiles::ReadFile(std::string_view path) const {
 
 std::vector<std::string> cFakeFiles::ListFiles(std::string_view folder, std::string_view mask) const {
     std::vector<std::string> names;
+    if (m_FolderProblems.contains(std::string(folder))) return names;
     for (const auto& [folded, inode] : m_Names) {
         const cPathParts parts = SplitPath(m_Inodes.at(inode).path);
         if (FoldFolder(parts.folder) == FoldFolder(folder) && parts.name[0] != '.' &&
@@ -83,13 +84,18 @@ std::vector<std::string> cFakeFiles::ListFiles(std::string_view folder, std::str
     return names;
 }
 
-std::vector<cFileReader::cUnreadable> cFakeFiles::ListUnreadable(std::string_view folder,
-                                                                 std::string_view mask) const {
+cFileReader::cListing cFakeFiles::List(std::string_view folder, std::string_view mask) const {
+    cListing listing{ListFiles(folder, mask), {}, ""};
+    if (const auto problem = m_FolderProblems.find(std::string(folder)); problem != m_FolderProblems.end())
+        listing.problem = problem->second;
     const auto found = m_Unreadable.find(std::string(folder));
-    if (found == m_Unreadable.end()) return {};
-    auto entries = found->second;
-    std::erase_if(entries, [&](const cUnreadable& entry) { return !FitsMask(entry.name, mask); });
-    return entries;
+    if (found == m_Unreadable.end()) return listing;
+    for (const cUnreadable& entry : found->second) {
+        if (!FitsMask(entry.name, mask)) continue;
+        std::erase(listing.names, entry.name);
+        listing.unreadable.push_back(entry);
+    }
+    return listing;
 }
 
 std::string cFakeFiles::Spelling(std::string_view path) const {

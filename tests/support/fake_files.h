@@ -19,7 +19,7 @@ class cFakeFiles : public cFiles {
     bool FileExists(std::string_view path) const override;
     std::string ReadFile(std::string_view path) const override;
     std::vector<std::string> ListFiles(std::string_view folder, std::string_view mask) const override;
-    std::vector<cUnreadable> ListUnreadable(std::string_view folder, std::string_view mask) const override;
+    cListing List(std::string_view folder, std::string_view mask) const override;
     std::string Spelling(std::string_view path) const override;
     cStamp Stamp(std::string_view path) const override;
     void WriteFile(std::string_view path, std::string_view bytes, bool sync) override;
@@ -46,8 +46,10 @@ class cFakeFiles : public cFiles {
     void Crash();
     void SetReadOnly(std::string_view path, bool readOnly);
     void SetUnreadable(std::string_view path, bool unreadable);
-    // What ListUnreadable gives for the folder, as far as the mask fits.
+    // What List gives of the folder as unreadable, as far as the mask fits.
     std::map<std::string, std::vector<cUnreadable>> m_Unreadable;
+    // Why a folder can't be listed, which is empty then.
+    std::map<std::string, std::string> m_FolderProblems;
 
     int m_Calls = 0;                // mutating calls so far
     int m_FailCall = -1;            // the call of this number (from 0) fails; -1: none

@@ -60,8 +60,12 @@ void CheckStranger(const cInstallation& installation, const std::string& name, c
 // What is left out at the start.
 std::set<std::string> CheckUnreadable(const cInstallation& installation, cFindings& findings) {
     std::set<std::string> names;
-    for (const auto& [name, reason] :
-         installation.Files().ListUnreadable(installation.Path() + std::string(kFolder), "*.alm")) {
+    const auto listing = installation.Files().List(installation.Path() + std::string(kFolder), "*.alm");
+    if (!listing.problem.empty()) {
+        findings.Error("alarms-unreadable", PlaceOf(""),
+                       listing.problem + ": the station starts without its stored alarms");
+    }
+    for (const auto& [name, reason] : listing.unreadable) {
         if (!IsAlarmName(name)) continue;
         findings.Error("alarm-unreadable", PlaceOf(name), reason + ": the start leaves it out");
         names.insert(name);

@@ -238,15 +238,28 @@ std::string WhyUnreadable(int folder, const char* name) {
     return faccessat(folder, name, R_OK, AT_EACCESS) == 0 ? "" : Reason(errno);
 }
 
-// The entries of a folder that fit the mask, hidden ones excepted; none of a folder that can't be read.
-void ForEachEntry(std::string_view path, std::string_view mask,
-                  const std::function<void(int folder, const dirent& entry, std::string name)>& take) {
+bool IsThere(const std::string& native) {
+    struct stat status {};
+    return lstat(native.substr(0, native.find_last_not_of('/') + 1).c_str(), &status) == 0;
+}
+
+using TakeEntry = std::function<void(int folder, const dirent& entry, std::string name)>;
+
+// The entries of a folder that fit the mask, hidden ones excepted; none of a folder that is not there.
+void ForEachEntry(std::string_view path, std::string_view mask, const TakeEntry& take) {
     const std::string native = NativePath(path);
+    RequireOwnFolder(native);
     const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(native.empty() ? "." : native.c_str()),
                                                      closedir);
-    if (!stream) return;
+    // A link that leads nowhere is no missing folder: a disk that is not there can have what it leads to.
+    if (!stream && errno == ENOENT && !IsThere(native)) return;
+    if (!stream) Fail(PathText(native));
     const std::string wanted = ToUpper(mask);
-    while (const dirent* entry = readdir(stream.get())) {
+    while (true) {
+        errno = 0;
+        const dirent* entry = readdir(stream.get());
+        if (entry == nullptr && errno != 0) Fail(PathText(native));
+        if (entry == nullptr) return;
         if (entry->d_name[0] == '.') continue;
         std::string name = PathText(entry->d_name);
         if (FitsMask(name, wanted)) take(dirfd(stream.get()), *entry, std::move(name));
@@ -304,20 +317,27 @@ void cLinuxFiles::ReadFiles(const std::string& folder, const std::vector<std::st
 
 std::vector<std::string> cLinuxFiles::ListFiles(std::string_view folder, std::string_view mask) const {
     std::vector<std::string> names;
-    ForEachEntry(folder, mask, [&](int opened, const dirent& entry, std::string name) {
-        if (IsRegular(opened, entry)) names.push_back(std::move(name));
+    SkipFailure([&] {
+        ForEachEntry(folder, mask, [&](int opened, const dirent& entry, std::string name) {
+            if (IsRegular(opened, entry)) names.push_back(std::move(name));
+        });
     });
     return names;
 }
 
-std::vector<cFileReader::cUnreadable> cLinuxFiles::ListUnreadable(std::string_view folder,
-                                                                  std::string_view mask) const {
-    std::vector<cUnreadable> unreadable;
-    ForEachEntry(folder, mask, [&](int opened, const dirent& entry, std::string name) {
+cFileReader::cListing cLinuxFiles::List(std::string_view folder, std::string_view mask) const {
+    cListing listing;
+    const auto take = [&](int opened, const dirent& entry, std::string name) {
         std::string reason = WhyUnreadable(opened, entry.d_name);
-        if (!reason.empty()) unreadable.push_back({std::move(name), std::move(reason)});
-    });
-    return unreadable;
+        if (reason.empty()) {
+            listing.names.push_back(std::move(name));
+        } else {
+            listing.unreadable.push_back({std::move(name), std::move(reason)});
+        }
+    };
+    if (const auto failure = CatchFailure([&] { ForEachEntry(folder, mask, take); }))
+        listing.problem = failure->what();
+    return listing;
 }
 
 cFileReader::cStamp cLinuxFiles::Stamp(std::string_view path) const {

@@ -74,7 +74,9 @@ class cFolderReader {
   private:
     std::vector<std::pair<WallTime, std::string>> ListLogs() const {
         std::vector<std::pair<WallTime, std::string>> logs;
-        for (const std::string& name : m_Files.ListFiles(m_Folder + std::string(kLogFolder), "*.log")) {
+        const auto listing = m_Files.List(m_Folder + std::string(kLogFolder), "*.log");
+        if (!listing.problem.empty()) throw cFailure(eFailure::PathAccess, listing.problem);
+        for (const std::string& name : listing.names) {
             if (const auto day = DayOfLog(name)) logs.emplace_back(*day, name);
         }
         std::sort(logs.begin(), logs.end());
