@@ -20,7 +20,21 @@ void cLog::WriteLog(std::string_view text) {
     Append(text);
 }
 
+bool cLog::TakesRefusal() {
+    constexpr double kMinute = 1.0 / 1440;
+    const double now = m_Clock.Steady();
+    if (now < m_MinuteStart || now - m_MinuteStart >= kMinute) {
+        m_MinuteStart = now;
+        m_InMinute = 0;
+    }
+    return m_InMinute < kRefusalsAMinute;
+}
+
 void cLog::WriteRefusal(std::string_view text) {
+    if (!TakesRefusal()) {
+        ++m_Counted;
+        return;
+    }
     if (text != m_Refusal) {
         WriteRepeats();
         m_Refusal = text;
@@ -30,6 +44,7 @@ void cLog::WriteRefusal(std::string_view text) {
         ++m_Counted;
     } else {
         ++m_Written;
+        ++m_InMinute;
         Append(text);
     }
 }

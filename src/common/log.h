@@ -19,7 +19,8 @@ class cLog {
     // Appends one line. Never fails: a line that can't be written is lost.
     void WriteLog(std::string_view text);
     // Appends a line that any peer can bring about as often as it likes. The first equal ones in a row are
-    // written, the others counted.
+    // written, the others counted; so are all of them beyond a number in a minute, since what they say can
+    // change from one to the next.
     void WriteRefusal(std::string_view text);
     // Writes how many were counted since the last call. Happens also when anything else is written.
     void WriteRepeats();
@@ -28,6 +29,7 @@ class cLog {
     void CleanLogFiles(std::string_view mask, std::int16_t keepForDays);
 
   private:
+    bool TakesRefusal();
     void Append(std::string_view text);
     void RemoveLog(const std::string& path);
 
@@ -35,13 +37,17 @@ class cLog {
     const cClock& m_Clock;
     const cTexts& m_Texts;
     std::string m_Folder;
-    std::string m_Refusal;       // the last line, when it was a refusal
-    std::int64_t m_Written = 0;  // times that it was written in a row
-    std::int64_t m_Counted = 0;  // times that it was only counted
+    std::string m_Refusal;        // the last line, when it was a refusal
+    std::int64_t m_Written = 0;   // times that it was written in a row
+    std::int64_t m_Counted = 0;   // refusals that were only counted
+    double m_MinuteStart = 0;     // by the steady clock, days
+    std::int64_t m_InMinute = 0;  // refusals written since then
 };
 
 // A sender that is set up wrongly repeats its frame; one that floods the log repeats it without end.
 inline constexpr std::int64_t kRefusalsInFull = 10;
+// A hundred senders that are set up wrongly leave their names; a flood leaves 20 MB a day.
+inline constexpr std::int64_t kRefusalsAMinute = 100;
 
 inline constexpr std::string_view kLogMask = "????????.log";
 

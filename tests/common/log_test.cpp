@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "common/failure.h"
 #include "support/fake_clock.h"
 #include "support/fake_files.h"
@@ -107,6 +109,30 @@ TEST(WriteRefusal, TheCountIsWrittenAtIntervalsAndTheRowGoesOn) {
     station.log.WriteRepeats();
     EXPECT_EQ(station.Today(),
               Lines(10) + Lines(1, "... 5 more like this") + Lines(1, "... 3 more like this"));
+}
+
+TEST(WriteRefusal, AFloodOfChangingNamesIsBoundedByTheMinute) {
+    cStation station;
+    std::string expected;
+    for (int i = 0; i < 5000; ++i) {
+        const std::string text = "sender " + std::to_string(i);
+        station.log.WriteRefusal(text);
+        if (i < kRefusalsAMinute) expected += Lines(1, text);
+    }
+    EXPECT_EQ(station.Today(), expected);
+    station.log.WriteRepeats();
+    EXPECT_EQ(station.Today(), expected + Lines(1, "... 4900 more like this"));
+}
+
+TEST(WriteRefusal, ANewMinuteTakesThemAgain) {
+    cStation station;
+    for (const char* text : {"a", "b"}) {
+        for (int i = 0; i < 1000; ++i) station.log.WriteRefusal(text + std::to_string(i));
+        station.clock.AddSeconds(61);
+    }
+    const std::string today = station.Today();
+    EXPECT_EQ(std::count(today.begin(), today.end(), '\n'), 2 * kRefusalsAMinute + 1);
+    EXPECT_NE(today.find("a99\r\n12:31:16 ... 900 more like this\r\n12:31:16 b0\r\n"), std::string::npos);
 }
 
 TEST(WriteLog, EachDayHasItsFile) {
