@@ -100,6 +100,35 @@ TEST_F(ApplicationFolder, AFolderInUseIsLeftAlone) {
     EXPECT_EQ(files.ReadFile(data.Folder() + "VigrelReceiver.INI"), "mine");
 }
 
+TEST_F(ApplicationFolder, AFormerFoldersConfigurationIsTakenOverAndItsProgramsAreNot) {
+    Put(program, "vigrelreceiver.ini", "mine");
+    Put(program, "ColourRules.txt", "rules");
+    Put(program, "Calendar.cal", "days");
+    Put(program, "Vigrel_Texts.046", "changed");
+    Put(program, "Profiles/Profile_0001.dat", "profile");
+    Put(program, "vigrel-receiver", "program");
+    Put(program, "lib/libx.so", "program");
+    Put(program, "Alarms/A0000001.alm", "alarm");
+    Put(program, "LogFiles/20260315.Log", "log");
+    Put(other, "Vigrel_Texts.046", "delivered");
+    Put(other, "Vigrel_Texts.044", "delivered");
+    const std::string folder = data.Path().string() + "/VigrelReceiver\\";
+    EXPECT_TRUE(FillApplicationFolder(files, folder, other.Path().string(), program.Path().string()));
+    EXPECT_EQ(files.ReadFile(folder + "VigrelReceiver.INI"), "mine");
+    EXPECT_EQ(files.ReadFile(folder + "ColourRules.txt"), "rules");
+    EXPECT_EQ(files.ReadFile(folder + "Calendar.cal"), "days");
+    EXPECT_EQ(files.ReadFile(folder + "Profiles\\Profile_0001.dat"), "profile");
+    EXPECT_EQ(files.ReadFile(folder + "Vigrel_Texts.046"), "changed");
+    EXPECT_EQ(files.ReadFile(folder + "Vigrel_Texts.044"), "delivered");
+    for (const char* left : {"vigrel-receiver", "lib", "Alarms", "LogFiles"}) {
+        EXPECT_FALSE(std::filesystem::exists(data.Path() / "VigrelReceiver" / left)) << left;
+    }
+    // Later on it is the station's own.
+    Put(program, "vigrelreceiver.ini", "newer");
+    EXPECT_FALSE(FillApplicationFolder(files, folder, other.Path().string(), program.Path().string()));
+    EXPECT_EQ(files.ReadFile(folder + "VigrelReceiver.INI"), "mine");
+}
+
 TEST_F(ApplicationFolder, ProgramsAreNotCopied) {
     Put(other, "Templates/VigrelReceiver.oni", "[General]");
     Put(other, "Vigrel_Texts.044", "0=English");
@@ -161,11 +190,13 @@ TEST_F(ApplicationFolder, APortableInstallationThatCannotBeWrittenSaysWhereTheFi
     EXPECT_EQ(WhyElsewhere(hints), std::nullopt);
     Put(program, "Templates/VigrelReceiver.oni", "[General]");
     EXPECT_EQ(WhyElsewhere(hints), std::nullopt);
+    EXPECT_EQ(FormerFolder(hints), "");
     std::filesystem::permissions(program.Path(), std::filesystem::perms{0555});
     const std::string expected = program.Path().string() +
                                  " can't be written. The station keeps its files in " + data.Path().string() +
                                  "/VigrelReceiver/";
     EXPECT_TRUE(AsStranger([&] { return WhyElsewhere(hints) == expected; }));
+    EXPECT_TRUE(AsStranger([&] { return FormerFolder(hints) == program.Path().string(); }));
     hints.variable = other.Path().string();
     EXPECT_TRUE(AsStranger([&] { return WhyElsewhere(hints) == std::nullopt; }));
 }

@@ -69,11 +69,33 @@ void MakeApplicationFolder(const std::string& applicationPath) {
 }
 
 // What is copied of an installation: never the programs, which can lie there too.
-struct cDelivered {
+struct cFileGroup {
     std::string_view folder, mask;
 };
-constexpr std::array<cDelivered, 4> kDelivered{
+constexpr std::array<cFileGroup, 4> kDelivered{
     {{"", "Vigrel_Texts.*"}, {"", "ReceiverType*"}, {"Templates\\", "*"}, {"Sounds\\", "*"}}};
+// What somebody has set up in a folder, besides.
+constexpr std::array<cFileGroup, 7> kConfiguration{{{"", kIniFile},
+                                                    {"", "ColourRules.txt"},
+                                                    {"", "*.cal"},
+                                                    {"", "*.sch"},
+                                                    {"", "*.wav"},
+                                                    {"Receivers\\", "*.dat"},
+                                                    {"Profiles\\", "*.dat"}}};
+
+// What is there already stays; what can't be copied is left out.
+void CopyGroup(cFiles& files, const cFileGroup& group, const std::string& source,
+               const std::string& applicationPath) {
+    const std::string from = source + std::string(group.folder);
+    const std::string to = applicationPath + std::string(group.folder);
+    const std::vector<std::string> names = files.ListFiles(from, group.mask);
+    std::error_code error;
+    if (!names.empty()) fs::create_directories(NativePath(to), error);
+    for (const std::string& name : names) {
+        if (files.FileExists(to + name)) continue;
+        SkipFailure([&] { ReplaceFile(files, to + name, files.ReadFile(from + name)); });
+    }
+}
 
 }  // namespace
 
@@ -98,9 +120,13 @@ std::string FindApplicationFolder(const cFolderHints& hints) {
     return WithBackslash(hints.userDataFolder + "/VigrelReceiver");
 }
 
+std::string FormerFolder(const cFolderHints& hints) {
+    const bool left = !hints.variable && IsPortable(hints.programFolder) && !IsWritable(hints.programFolder);
+    return left ? hints.programFolder : "";
+}
+
 std::optional<std::string> WhyElsewhere(const cFolderHints& hints) {
-    if (hints.variable || !IsPortable(hints.programFolder) || IsWritable(hints.programFolder))
-        return std::nullopt;
+    if (FormerFolder(hints).empty()) return std::nullopt;
     return hints.programFolder + " can't be written. The station keeps its files in " +
            PathText(NativePath(FindApplicationFolder(hints)));
 }
@@ -125,21 +151,18 @@ std::optional<std::string> WhyNoConfiguration(const cFiles& files, const std::st
 }
 
 bool FillApplicationFolder(cFiles& files, const std::string& applicationPath,
-                           const std::string& installedFolder) {
+                           const std::string& installedFolder, const std::string& formerFolder) {
     MakeApplicationFolder(applicationPath);
     if (IsApplicationFolder(files, applicationPath)) return false;
-    if (installedFolder.empty()) return true;
-    const std::string source = WithBackslash(installedFolder);
-    for (const auto& [folder, mask] : kDelivered) {
-        const std::string from = source + std::string(folder);
-        const std::string to = applicationPath + std::string(folder);
-        std::error_code error;
-        if (!folder.empty()) fs::create_directories(NativePath(to), error);
-        for (const std::string& name : files.ListFiles(from, mask)) {
-            if (files.FileExists(to + name)) continue;
-            SkipFailure([&] { ReplaceFile(files, to + name, files.ReadFile(from + name)); });
-        }
-    }
+    const auto copy = [&](const std::string& source, const auto& groups) {
+        if (source.empty()) return;
+        for (const cFileGroup& group : groups)
+            CopyGroup(files, group, WithBackslash(source), applicationPath);
+    };
+    // First the texts and sounds as somebody may have changed them.
+    copy(formerFolder, kConfiguration);
+    copy(formerFolder, kDelivered);
+    copy(installedFolder, kDelivered);
     return true;
 }
 

@@ -21,6 +21,10 @@ cFolderHints ReadFolderHints();
 // "VigrelReceiver" under the user's data folder.
 std::string FindApplicationFolder(const cFolderHints& hints);
 
+// The portable installation that the programs lie in, where that can't be written, such as on a read-only
+// medium, and another folder is the application folder; else empty.
+std::string FormerFolder(const cFolderHints& hints);
+
 // What to tell a user whose programs lie in a portable installation that can't be written, such as on a
 // read-only medium: why the application folder is another one, and which. Nothing otherwise.
 std::optional<std::string> WhyElsewhere(const cFolderHints& hints);
@@ -34,10 +38,11 @@ std::string FindInstalledFolder(const std::string& programFolder);
 std::optional<std::string> WhyNoConfiguration(const cFiles& files, const std::string& applicationPath);
 
 // Makes the folder with all folders above it, and copies to it each installed file (templates, texts, sounds)
-// that it doesn't hold. Nothing is ever overwritten. A file that can't be copied is skipped: the start-up
-// tells of what is missing. True when it was no application folder before. Throws cFailure, with the name and
-// the reason, when there is no folder to start in (it can't be made, or not be read).
+// that it doesn't hold; before these the configuration, texts and sounds of a former folder, where there is
+// one (no alarms, no logs, no programs). Nothing is ever overwritten. A file that can't be copied is skipped:
+// the start-up tells of what is missing. True when it was no application folder before. Throws cFailure, with
+// the name and the reason, when there is no folder to start in (it can't be made, or not be read).
 bool FillApplicationFolder(cFiles& files, const std::string& applicationPath,
-                           const std::string& installedFolder);
+                           const std::string& installedFolder, const std::string& formerFolder = "");
 
 }  // namespace vigrel
