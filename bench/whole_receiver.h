@@ -71,12 +71,13 @@ class cWholeReceiver {
     testing::cFakePrinterPorts printerPorts;
     testing::cFakeOtherWindows otherWindows{transcript};
     testing::cFakeStatus status;
+    cDeliveredTexts deliveredTexts;
     cVigrelReceiverMain receiver{
-        {files,        ownFiles,     clock,          random,    locale,    singleInstance,
-         listener,     data,         timerKeepAlive, timerPlay, timerSave, mainWindow.List(),
-         mainWindow,   mainWindow,   screen,         windows,   popups,    messageBox,
-         clipboard,    beeper,       waveDevice,     trayArea,  light,     runningApps,
-         printerPorts, otherWindows, status},
+        {files,        ownFiles,     clock,          random,        locale,    singleInstance,
+         listener,     data,         timerKeepAlive, timerPlay,     timerSave, mainWindow.List(),
+         mainWindow,   mainWindow,   screen,         windows,       popups,    messageBox,
+         clipboard,    beeper,       waveDevice,     trayArea,      light,     runningApps,
+         printerPorts, otherWindows, status,         deliveredTexts},
         m_Folder.Folder(),
         ""};
 };

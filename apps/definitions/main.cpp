@@ -18,6 +18,7 @@
 #include "definitions/station_definitions.h"
 #include "editor_ui/window/definitions_window.h"
 #include "windows/application.h"
+#include "windows/built_in_texts.h"
 #include "windows/qt_message_box.h"
 
 namespace vigrel {
@@ -67,8 +68,10 @@ int Run(int argc, char** argv) {
         box.Show(*why, eMessageIcon::Stop, eMessageButtons::Ok);
         return kExitRefused;
     }
-    application.Guard(
-        [&] { FillApplicationFolder(files, applicationPath, FindInstalledFolder(hints.programFolder)); });
+    application.Guard([&] {
+        FillApplicationFolder(files, applicationPath, FindInstalledFolder(hints.programFolder),
+                              FormerFolder(hints));
+    });
     if (const auto why = WhyElsewhere(hints)) {
         PrintError("vigrel-definitions", *why);
     }
@@ -76,7 +79,8 @@ int Run(int argc, char** argv) {
     const cSystemClock clock;
     const cLocaleForms forms = cQtLocale().Forms();
     cIni ini(files, applicationPath);
-    cTexts texts(files, ini);
+    const cDeliveredTexts deliveredTexts = BuiltInTexts();
+    cTexts texts(files, ini, &deliveredTexts);
     cDialogPrompts prompts;
     QSettings settings(QSettings::IniFormat, QSettings::UserScope, "Vigrel", "VigrelDefinitions");
     cStandardRandom random;

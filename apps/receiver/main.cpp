@@ -37,6 +37,7 @@
 #include "receiver_ui/popups/popup_widget.h"
 #include "receiver_ui/tray/notification_icon.h"
 #include "windows/application.h"
+#include "windows/built_in_texts.h"
 #include "windows/desktop.h"
 #include "windows/qt_message_box.h"
 
@@ -97,8 +98,8 @@ int RunStation(cApplication& application, const std::string& commandLine) {
         messageBox.Show(*why, eMessageIcon::Stop, eMessageButtons::Ok);
         return kExitRefused;
     }
-    const bool isNew =
-        FillApplicationFolder(files, applicationPath, FindInstalledFolder(hints.programFolder));
+    const bool isNew = FillApplicationFolder(files, applicationPath, FindInstalledFolder(hints.programFolder),
+                                             FormerFolder(hints));
 
     const cQtLocale locale;
     cIni ini(files, applicationPath);
@@ -147,13 +148,14 @@ int RunStation(cApplication& application, const std::string& commandLine) {
     };
     otherWindows.OnLanguageChosen = [&] { firstStart.FollowChoice(); };
 
+    const cDeliveredTexts deliveredTexts = BuiltInTexts();
     cStreamStatus status(stderr, "vigrel-receiver");
     cVigrelReceiverMain receiver(
-        {files,          ownFiles,     clock,          random,    locale,      singleInstance,
-         winsockConnect, winsockData,  timerKeepAlive, timerPlay, timerSave,   mainWindow.List(),
-         mainWindow,     mainWindow,   screen,         windows,   popups,      messageBox,
-         clipboard,      beeper,       waveDevice,     trayArea,  signalLight, runningApps,
-         printerPorts,   otherWindows, status},
+        {files,          ownFiles,     clock,          random,        locale,      singleInstance,
+         winsockConnect, winsockData,  timerKeepAlive, timerPlay,     timerSave,   mainWindow.List(),
+         mainWindow,     mainWindow,   screen,         windows,       popups,      messageBox,
+         clipboard,      beeper,       waveDevice,     trayArea,      signalLight, runningApps,
+         printerPorts,   otherWindows, status,         deliveredTexts},
         applicationPath, commandLine);
     cStopSignals stopSignals;
     stopSignals.OnStop = [&](eCloseReason reason) { receiver.Stop(reason); };

@@ -1,26 +1,23 @@
 #include "common/texts.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "common/failure.h"
 #include "common/file_procedures.h"
 #include "common/line_problem.h"
-#include "common/numbers.h"
 #include "common/text.h"
 
 namespace vigrel {
-namespace {
-
-constexpr std::string_view kBlanks = " \t";
-
-// The number at the beginning: unlike elsewhere, a blank behind its first digit ends it.
-std::int32_t IdOf(const std::string& line) {
-    const std::string id = GetField(line, 0, "=");
-    const std::size_t first = std::min(id.find_first_not_of(kBlanks), id.size());
-    return ToInt32(Val(id.substr(first, id.find_first_of(kBlanks, first) - first)));
+std::string cTexts::Content(const std::string& path, const std::string& language) {
+    const std::string_view delivered = m_Delivered == nullptr ? "" : m_Delivered->Of(language);
+    if (delivered.empty()) return m_Files.ReadFile(path);
+    const std::string spelled = m_Files.Spelling(path);
+    std::string content;
+    const auto failure = CatchFailure([&] { content = m_Files.ReadFile(spelled); });
+    m_Problem = failure ? failure->what() : "";
+    return CompleteTexts(std::move(content), delivered).content;
 }
-
-}  // namespace
 
 bool cTexts::LoadTexts() {
     m_TextIndex.clear();
@@ -28,7 +25,7 @@ bool cTexts::LoadTexts() {
     if (language.empty()) return false;
     const std::string path = m_Ini.FullPath(kTextFile) + language;
     if (!FileExists(m_Files, path)) return false;
-    cLineReader lines(m_Files.ReadFile(path));
+    cLineReader lines(Content(path, language));
     for (std::size_t number = 1; !SafeEof(lines); ++number) {
         const std::string line = lines.ReadLine();
         const auto failure = CatchFailure([&] { TakeLine(line); });
@@ -41,8 +38,8 @@ void cTexts::TakeLine(const std::string& line) {
     const std::size_t equals = line.find('=');
     if (equals == std::string::npos) return;
     const std::string text = line.substr(equals + 1);
-    m_TextIndex.push_back(
-        {IdOf(line), static_cast<std::int32_t>(m_Texts.size()) + 1, static_cast<std::int32_t>(text.size())});
+    m_TextIndex.push_back({TextIdOf(line), static_cast<std::int32_t>(m_Texts.size()) + 1,
+                           static_cast<std::int32_t>(text.size())});
     m_Texts += text;
 }
 

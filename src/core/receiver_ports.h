@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "common/delivered_texts.h"
 #include "common/receiver_state.h"
 #include "common/texts.h"
 #include "platform/clock.h"
@@ -76,6 +77,7 @@ struct cReceiverPorts {
     cPrinterPorts& printerPorts;
     cOtherWindows& otherWindows;
     cStatus& status;
+    const cDeliveredTexts& deliveredTexts;
 };
 
 }  // namespace vigrel

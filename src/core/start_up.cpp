@@ -6,6 +6,7 @@
 #include "common/file_procedures.h"
 #include "common/path_text.h"
 #include "common/setting_keys.h"
+#include "common/text_files.h"
 #include "common/window_procedures.h"
 #include "core/form_geometry.h"
 #include "core/read_settings.h"
@@ -25,9 +26,12 @@ bool cVigrelReceiverMain::HasSwitch(std::string_view name) const {
 eStartUp cVigrelReceiverMain::LoadInOrder() {
     m_Ports.random.Seed(m_Ports.clock.Now());
     PrepareFolders();
+    const std::vector<std::string> completed =
+        CompleteTextFiles(m_Ports.files, m_ApplicationPath, m_Ports.deliveredTexts);
     if (!LoadLanguage()) return eStartUp::NoLanguage;
     m_Log.WriteLog(std::string(kSeparatorLength, '-'));
     m_Log.WriteLog(m_Texts.GetText(10040));
+    TellOfTexts(completed);
     const std::int16_t devices = m_Light.ScanDevices();
     m_View.SetUpColumns(m_Settings);
     m_Ports.list.SetEmptyText("(" + m_Texts.GetText(10035) + ")");
@@ -66,6 +70,15 @@ bool cVigrelReceiverMain::LoadLanguage() {
     if (m_Texts.LoadTexts()) return true;
     m_Ports.otherWindows.ShowLanguageWindow();
     return m_Texts.LoadTexts();
+}
+
+void cVigrelReceiverMain::TellOfTexts(const std::vector<std::string>& completed) {
+    for (const std::string& line : completed) m_Log.WriteLog(line);
+    if (m_Texts.Problem().empty()) return;
+    const std::string text =
+        "The texts can't be read, the program's own stand for them: " + m_Texts.Problem();
+    m_Log.WriteLog(WithPathsInCodePage(text));
+    m_Ports.status.SetStatus(text);
 }
 
 void cVigrelReceiverMain::ReadCategories(std::int16_t devices) {

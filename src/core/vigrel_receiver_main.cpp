@@ -21,7 +21,7 @@ cVigrelReceiverMain::cVigrelReceiverMain(const cReceiverPorts& ports, std::strin
       m_CommandLine(ToUpper(commandLine)),
       m_Forms(ports.locale.Forms()),
       m_Ini(ports.files, m_ApplicationPath),
-      m_Texts(ports.files, m_Ini),
+      m_Texts(ports.files, m_Ini, &ports.deliveredTexts),
       m_Log(ports.files, ports.clock, m_Texts, m_ApplicationPath),
       m_AlarmMaker(ports.clock, m_Categories),
       m_View({ports.list, m_Ini, m_Texts, m_Settings, m_State, m_Forms, ports.screen, ports.clipboard}),

@@ -102,6 +102,7 @@ class cVigrelReceiverMain {
     eStartUp LoadInOrder();
     void PrepareFolders();
     bool LoadLanguage();
+    void TellOfTexts(const std::vector<std::string>& completed);
     void ReadCategories(std::int16_t devices);
     void SetCaptions();
     bool IsOnlyInstance();

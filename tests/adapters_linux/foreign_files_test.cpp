@@ -81,18 +81,18 @@ TEST_F(ForeignFiles, WhatCannotBeReadOfAFolderIsListedWithTheReason) {
 TEST_F(ForeignFiles, AFolderThatCannotBeListedIsNoEmptyOne) {
     EXPECT_EQ(m_Files.List(Path("none\\"), "*").problem, "");
     Put("Alarms", "a file");
-    EXPECT_EQ(m_Files.List(Path("Alarms\\"), "*").problem, Path("Alarms/") + ": Not a directory");
+    EXPECT_EQ(m_Files.List(Path("Alarms\\"), "*").problem, Native("Alarms").string() + "/: Not a directory");
     // Such as to a disk that is not there.
     fs::create_symlink("nowhere", Native("LogFiles"));
     EXPECT_EQ(m_Files.List(Path("LogFiles\\"), "*").problem,
-              Path("LogFiles/") + ": No such file or directory");
+              Native("LogFiles").string() + "/: No such file or directory");
     fs::create_directory(Native("elsewhere"));
     Put("elsewhere\\a", "x");
     fs::create_symlink("elsewhere", Native("planted"));
     const bool planted = lchown(Native("planted").c_str(), 4711, 4711) == 0;
     const auto listing = m_Files.List(Path("planted\\"), "*");
     EXPECT_EQ(listing.problem,
-              planted ? Path("planted") + ": a link that another user made is not followed" : "");
+              planted ? Native("planted").string() + ": a link that another user made is not followed" : "");
     EXPECT_EQ(listing.names.size(), planted ? 0u : 1u);
 }
 

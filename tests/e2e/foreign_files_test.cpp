@@ -93,6 +93,46 @@ TEST(Lock, OneThatCannotBeTakenIsToldAndTheStationRuns) {
     EXPECT_EQ(station.Stop(SIGTERM), 0);
 }
 
+// The station's texts, in place of those that its tests use.
+class ForeignTexts : public ::testing::Test {
+  protected:
+    ForeignTexts() { station.ExpectStandardError(); }
+    fs::path File() const { return station.Folder() / "Vigrel_Texts.046"; }
+    cStation station;
+};
+
+TEST_F(ForeignTexts, AreCompletedAndNotOverwritten) {
+    const std::string own = "0=Test\r\n10040=mine\r\n10011=T10011";
+    std::ofstream(File(), std::ios::binary) << own;
+    ASSERT_TRUE(station.Start()) << station.StandardError();
+    const std::string content = ReadAll(File());
+    EXPECT_TRUE(content.starts_with(own + "\r\n10000=")) << content;
+    EXPECT_NE(content.find("\r\n10049=Larm som inte finns p\xE5 disken:\r\n"), std::string::npos);
+    const auto log = station.Log();
+    ASSERT_GE(log.size(), 3u);
+    EXPECT_EQ(log[1], "mine");
+    EXPECT_TRUE(log[2].starts_with("Vigrel_Texts.046: ")) << log[2];
+    EXPECT_NE(log[2].find(" missing text(s) added: 10000, 10004, "), std::string::npos) << log[2];
+    EXPECT_EQ(station.Stop(SIGTERM), 0);
+    EXPECT_TRUE(station.Start());
+    EXPECT_EQ(ReadAll(File()), content);
+    EXPECT_EQ(station.Stop(SIGTERM), 0);
+}
+
+TEST_F(ForeignTexts, ThatCannotBeReadAreStoodForByTheProgramsOwn) {
+    fs::resize_file(File(), std::uintmax_t{65} << 20);
+    station.Launch();
+    const std::string line = "The texts can't be read, the program's own stand for them: " +
+                             (station.Folder() / "Vigrel_Texts.046").string() + ": larger than 64 MB";
+    EXPECT_TRUE(TakesAnAlarm(station)) << station.StandardError();
+    const auto log = station.Log();
+    ASSERT_GE(log.size(), 3u);
+    EXPECT_EQ(log[1], "Programmet startar");
+    EXPECT_EQ(log[2], line);
+    EXPECT_EQ(station.StandardError(), "vigrel-receiver: " + line + "\n");
+    EXPECT_EQ(station.Stop(SIGTERM), 0);
+}
+
 // A name of the machine that would colour, and then title, whatever terminal shows it.
 constexpr const char* kSteering = "\x1B[31m\x1B]0;title\x07";
 

@@ -640,6 +640,7 @@ TEST_F(AlarmStore, AFolderThatCannotBeListedIsNotTakenForAnEmptyOne) {
     EXPECT_EQ(store.FolderProblem(), "/app/Alarms/: Permission denied");
     EXPECT_TRUE(
         Log().ends_with("The stored alarms can't be listed: /app/Alarms/: Permission denied\n0 T10041\n"));
+    files.m_FolderProblems.clear();
     EXPECT_EQ(AlarmFiles().size(), 1u);
 }
 

@@ -53,7 +53,7 @@ TEST_F(CheckFolderTest, TextsThatTheProgramAsksForAreMissed) {
     EXPECT_EQ(Lines(findings),
               "warning texts-missing Vigrel_Texts.044\nremark texts-missing Vigrel_Texts.046");
     EXPECT_EQ(findings.m_All[0].message,
-              "lacks texts that the program shows: 10006; the delivered file of the language has them");
+              "lacks texts that the program shows: 10006; the next start of the station adds them");
 }
 
 TEST_F(CheckFolderTest, TextsThatCantBeReadAreAnError) {

@@ -84,11 +84,12 @@ class cFakeReceiver {
     cVigrelReceiverMain& Make(const std::string& commandLine = "") {
         receiver.reset();
         receiver = std::make_unique<cVigrelReceiverMain>(
-            cReceiverPorts{files,        files,        clock,          random,    locale,    singleInstance,
-                           listener,     data,         timerKeepAlive, timerPlay, timerSave, list,
-                           mainWindow,   menus,        screen,         windows,   popups,    messageBox,
-                           clipboard,    beeper,       waveDevice,     trayArea,  light,     runningApps,
-                           printerPorts, otherWindows, status},
+            cReceiverPorts{files,          files,    clock,         random,         locale,
+                           singleInstance, listener, data,          timerKeepAlive, timerPlay,
+                           timerSave,      list,     mainWindow,    menus,          screen,
+                           windows,        popups,   messageBox,    clipboard,      beeper,
+                           waveDevice,     trayArea, light,         runningApps,    printerPorts,
+                           otherWindows,   status,   deliveredTexts},
             "C:\\App\\", commandLine);
         return *receiver;
     }
@@ -137,6 +138,7 @@ class cFakeReceiver {
     cFakePrinterPorts printerPorts;
     cFakeOtherWindows otherWindows{transcript};
     cFakeStatus status;
+    cDeliveredTexts deliveredTexts;
     std::unique_ptr<cVigrelReceiverMain> receiver;
 };
 

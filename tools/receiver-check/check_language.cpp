@@ -64,7 +64,7 @@ void CheckTexts(const cInstallation& installation, const std::string& language, 
     } else if (!missing.empty()) {
         findings.Add(inUse ? eSeverity::Warning : eSeverity::Remark, "texts-missing", place,
                      "lacks texts that the program shows: " + Listed(missing) +
-                         "; the delivered file of the language has them");
+                         "; the next start of the station adds them");
     }
 }
 

@@ -1,0 +1,56 @@
+#include "common/text_files.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "common/failure.h"
+#include "common/file_procedures.h"
+#include "common/numbers.h"
+#include "common/path_text.h"
+#include "common/texts.h"
+
+namespace vigrel {
+namespace {
+
+std::string Listed(const std::vector<std::string>& numbers) {
+    constexpr std::size_t kMostNamed = 20;
+    std::string list;
+    for (std::size_t i = 0; i < std::min(numbers.size(), kMostNamed); ++i)
+        list += (i == 0 ? "" : ", ") + numbers[i];
+    if (numbers.size() <= kMostNamed) return list;
+    return list + " and " + std::to_string(numbers.size() - kMostNamed) + " more";
+}
+
+// Empty for a file that lacks nothing.
+std::string CompleteFile(cFiles& files, const std::string& path, const std::string& name,
+                         std::string_view delivered) {
+    const cCompletedTexts completed = CompleteTexts(files.ReadFile(path), delivered);
+    if (completed.added.empty()) return {};
+    const std::string count = std::to_string(completed.added.size());
+    const auto failure = CatchFailure([&] { ReplaceFile(files, path, completed.content); });
+    if (!failure) return name + ": " + count + " missing text(s) added: " + Listed(completed.added);
+    return name + " lacks " + count +
+           " text(s), which can't be added: " + WithPathsInCodePage(failure->what());
+}
+
+}  // namespace
+
+std::vector<std::string> CompleteTextFiles(cFiles& files, const std::string& applicationPath,
+                                           const cDeliveredTexts& delivered) {
+    std::vector<std::string> names = files.ListFiles(applicationPath, std::string(kTextFile) + "???");
+    std::sort(names.begin(), names.end());
+    std::vector<std::string> lines;
+    for (const std::string& name : names) {
+        const std::string language = name.substr(kTextFile.size());
+        std::string line;
+        // What can't be read is told where it is needed.
+        if (IsNumeric(language)) {
+            SkipFailure(
+                [&] { line = CompleteFile(files, applicationPath + name, name, delivered.Of(language)); });
+        }
+        if (!line.empty()) lines.push_back(line);
+    }
+    return lines;
+}
+
+}  // namespace vigrel

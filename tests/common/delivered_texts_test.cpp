@@ -1,0 +1,113 @@
+#include "common/delivered_texts.h"
+
+#include <gtest/gtest.h>
+
+#include "common/failure.h"
+#include "common/text_files.h"
+#include "common/texts.h"
+#include "support/fake_files.h"
+
+namespace vigrel::testing {
+namespace {
+
+const std::string kFolder = "C:\\App\\";
+const std::string kFile = kFolder + "Vigrel_Texts.046";
+constexpr std::string_view kDelivered =
+    "0=Svenska\r\nA remark\r\n10011=klar\r\n\r\n10049=larm\r\n10050=sedan\r\n";
+
+TEST(CompleteTexts, AddsWhatIsMissingBehindTheEnd) {
+    const cCompletedTexts completed = CompleteTexts("0=Egna\r\n10011=start\r\n", kDelivered);
+    EXPECT_EQ(completed.content, "0=Egna\r\n10011=start\r\n10049=larm\r\n10050=sedan\r\n");
+    EXPECT_EQ(completed.added, (std::vector<std::string>{"10049", "10050"}));
+}
+
+TEST(CompleteTexts, ALastLineWithoutAnEndStaysALine) {
+    EXPECT_EQ(CompleteTexts("10011=x\r\n10049=y", kDelivered).content,
+              "10011=x\r\n10049=y\r\n10050=sedan\r\n");
+    EXPECT_EQ(CompleteTexts("10011=x\n10049=y", kDelivered).content, "10011=x\n10049=y\n10050=sedan\n");
+    EXPECT_EQ(CompleteTexts("10011=x\r10049=y", kDelivered).content, "10011=x\r10049=y\r10050=sedan\r");
+}
+
+TEST(CompleteTexts, WhatIsThereStaysInEveryByte) {
+    const std::string own = "  10011 = own \r\n10049=\r\n10050=a=b\r\nno entry\r\n99999999999=x";
+    const cCompletedTexts completed = CompleteTexts(own, kDelivered);
+    EXPECT_EQ(completed.content, own);
+    EXPECT_TRUE(completed.added.empty());
+}
+
+TEST(CompleteTexts, ALanguagesNameIsNotAdded) {
+    EXPECT_EQ(CompleteTexts("", kDelivered).content, "10011=klar\r\n10049=larm\r\n10050=sedan\r\n");
+}
+
+TEST(DeliveredTexts, AreEnglishForALanguageOfItsOwn) {
+    cDeliveredTexts texts;
+    EXPECT_EQ(texts.Of("046"), "");
+    texts.Add("044", "english");
+    texts.Add("046", "svenska");
+    EXPECT_EQ(texts.Of("046"), "svenska");
+    EXPECT_EQ(texts.Of("033"), "english");
+}
+
+class TextFiles : public ::testing::Test {
+  protected:
+    TextFiles() {
+        files.Put(kFolder + "VigrelReceiver.INI", "[General]\r\nLanguage=046\r\n");
+        delivered.Add("046", std::string(kDelivered));
+    }
+    std::vector<std::string> Complete() { return CompleteTextFiles(files, kFolder, delivered); }
+    cFakeFiles files;
+    cIni ini{files, kFolder};
+    cDeliveredTexts delivered;
+    cTexts texts{files, ini, &delivered};
+};
+
+TEST_F(TextFiles, AreCompletedOnceAndToldInALine) {
+    files.Put(kFile, "10011=mine");
+    EXPECT_EQ(Complete(),
+              std::vector<std::string>{"Vigrel_Texts.046: 2 missing text(s) added: 10049, 10050"});
+    EXPECT_EQ(files.ReadFile(kFile), "10011=mine\r\n10049=larm\r\n10050=sedan\r\n");
+    const int calls = files.m_Calls;
+    EXPECT_TRUE(Complete().empty());
+    EXPECT_EQ(files.m_Calls, calls);
+}
+
+TEST_F(TextFiles, ThatCannotBeWrittenAreToldAndTheTextsAreThereAllTheSame) {
+    files.Put(kFile, "10011=mine");
+    files.m_DiskFull = true;
+    const auto lines = Complete();
+    ASSERT_EQ(lines.size(), 1u);
+    EXPECT_TRUE(lines[0].starts_with("Vigrel_Texts.046 lacks 2 text(s), which can't be added: ")) << lines[0];
+    EXPECT_EQ(files.ReadFile(kFile), "10011=mine");
+    EXPECT_TRUE(texts.LoadTexts());
+    EXPECT_EQ(texts.GetText(10011), "mine");
+    EXPECT_EQ(texts.GetText(10050), "sedan");
+    EXPECT_EQ(texts.GetText(10051), "*** Invalid Text (10051)");
+    EXPECT_EQ(texts.Problem(), "");
+}
+
+TEST_F(TextFiles, AFileThatCannotBeReadIsStoodForAndLeftAlone) {
+    files.Put(kFile, "10011=mine");
+    files.SetUnreadable(kFile, true);
+    EXPECT_TRUE(Complete().empty());
+    EXPECT_TRUE(texts.LoadTexts());
+    EXPECT_EQ(texts.GetText(10011), "klar");
+    EXPECT_EQ(texts.GetText(0), "*** Invalid Text (0)");
+    EXPECT_EQ(texts.Problem(), kFile + ": the file can't be read");
+    files.SetUnreadable(kFile, false);
+    EXPECT_TRUE(texts.LoadTexts());
+    EXPECT_EQ(texts.GetText(10011), "mine");
+    EXPECT_EQ(texts.Problem(), "");
+}
+
+TEST_F(TextFiles, AMissingFileStaysMissing) {
+    EXPECT_TRUE(Complete().empty());
+    EXPECT_FALSE(texts.LoadTexts());
+}
+
+TEST_F(TextFiles, ALineWithAnImpossibleNumberIsAFailureStill) {
+    files.Put(kFile, "99999999999=x\r\n");
+    EXPECT_THROW(texts.LoadTexts(), cFailure);
+}
+
+}  // namespace
+}  // namespace vigrel::testing
