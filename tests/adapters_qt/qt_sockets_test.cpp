@@ -330,6 +330,26 @@ TEST_F(cQtSocketsTest, APeerThatOnlyEndedItsSendingGetsAllReplies) {
     EXPECT_EQ(m_Rig.m_Data.State(), 0);
 }
 
+// A long line and what follows it in the same breath; what came before it is short, so that no reading ends
+// where the line does.
+TEST_F(cQtSocketsTest, NoLineIsMadeTooLongByWhatFollowsIt) {
+    const cBluntPeer peer(m_Rig.m_Listener.LocalPort());
+    const std::string begin(4000, 'x');
+    peer.Send(begin);
+    ASSERT_TRUE(WaitUntil([&] { return Arrived() == begin.size(); }));
+    const std::string end = std::string(cQtDataSocket::kLongestLine - begin.size() - 2, 'x') + "\r\n";
+    std::string more;
+    while (more.size() < cTcpConnection::kBytesPerTurn) more += "short line\r\n";
+    peer.Send(end + more);
+    ASSERT_TRUE(WaitUntil([&] { return Arrived() == begin.size() + end.size() + more.size(); }));
+    std::size_t waiting = 0;
+    for (const std::string& chunk : m_Chunks) {
+        EXPECT_LE(waiting + chunk.size(), cQtDataSocket::kLongestLine);
+        const std::size_t lineFeed = chunk.rfind('\n');
+        waiting = lineFeed == std::string::npos ? waiting + chunk.size() : chunk.size() - lineFeed - 1;
+    }
+}
+
 // --- one connection after the other
 
 // What the socket's peers have sent by the time that the next one is accepted.

@@ -172,6 +172,26 @@ TEST_F(HastySenders, WhatAConnectionDeliveredIsStoredThoughAnotherTakesItsPlace)
     EXPECT_EQ(station.AlarmFiles().size(), 2001u);
 }
 
+// The longest line that a sender may send, in two pieces, and lines with CR LF right behind it.
+TEST_F(HastySenders, ALineAtTheLimitIsNotMadeTooLongByTheLinesBehindIt) {
+    cStation station;
+    station.Configure(kNoLimit);
+    ASSERT_TRUE(station.Start()) << station.StandardError();
+    std::string longest = MakeFrame("PLC1", "S1|||" + std::string(32'767 - 17, 'x'));
+    longest.insert(longest.size() - 1, "\r");
+    ASSERT_EQ(longest.size(), 32'767u);
+    std::string behind;
+    for (int i = 0; i < 200; ++i) behind += MakeFrame("PLC1", "S1|||behind").insert(20, "\r");
+    const cSender sender(station.m_Port);
+    sender.Send(longest.substr(0, 4000));
+    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    sender.Send(longest.substr(4000) + behind);
+    sender.EndSending();
+    EXPECT_EQ(sender.ReadToTheEnd().size(), 201u * 5);
+    EXPECT_EQ(station.AlarmFiles().size(), 201u);
+    EXPECT_EQ(station.Stop(SIGTERM), 0);
+}
+
 // Two thousand silent connections a second, each of which replaces the one before.
 TEST_F(HastySenders, AStormOfConnectionsKeepsNoAlarmFromTheDisk) {
     cStation station;

@@ -43,8 +43,20 @@ void cQtDataSocket::ReadTurn() {
     if (notice) notice();
 }
 
-void cQtDataSocket::Take(const std::string& bytes) {
+// Positions in the bytes that wait for a line's end are 16 bits wide where they are looked at. A line that is
+// not too long by itself must not become so by what follows it: it is handed over alone.
+void cQtDataSocket::Take(std::string_view bytes) {
     if (m_BeforeTheNext) *m_BeforeTheNext -= std::min(bytes.size(), *m_BeforeTheNext);
+    const std::size_t lineFeed = bytes.find('\n');
+    if (m_LineBytes + bytes.size() <= kLongestLine || lineFeed == std::string_view::npos) {
+        return Deliver(bytes);
+    }
+    Deliver(bytes.substr(0, lineFeed + 1));
+    const std::string_view rest = bytes.substr(lineFeed + 1);
+    if (m_Connection && !m_Ended && !rest.empty()) Deliver(rest);
+}
+
+void cQtDataSocket::Deliver(std::string_view bytes) {
     CountLine(bytes);
     if (m_LineBytes > kMaxLine) {
         m_Ended = true;

@@ -17,6 +17,8 @@ class cQtDataSocket : public cDataSocket {
   public:
     // A stream without a line end that has grown to more than this is no sender's.
     static constexpr std::size_t kMaxLine = 1'048'576;
+    // The longest line that a sender may send, its end included.
+    static constexpr std::size_t kLongestLine = 32'767;
     // So much of what comes in without a pause behind a knock may have been sent before it, by a peer that
     // has left: what the socket has no room for waits in the peer's machine.
     static constexpr std::size_t kMostOnItsWay = 262'144;
@@ -40,7 +42,8 @@ class cQtDataSocket : public cDataSocket {
     // Reads a turn's bytes and delivers them, or the end.
     void ReadTurn();
     bool HoldsBackTheNext();
-    void Take(const std::string& bytes);
+    void Take(std::string_view bytes);
+    void Deliver(std::string_view bytes);
     void CountLine(std::string_view chunk);
 
     cQtListener& m_Listener;
