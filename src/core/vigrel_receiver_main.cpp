@@ -153,14 +153,20 @@ void cVigrelReceiverMain::ShowWithoutTray() {
 }
 
 bool cVigrelReceiverMain::Form_QueryUnload(eCloseReason unloadMode) {
+// Asked again while the question stands, nobody gets a second one: the first is still to be answered.
+bool cVigrelReceiverMain::AskForTheEnd() {
+    if (m_Asking) return false;
+    m_Asking = true;
+    const eMessageAnswer answer =
+        m_Ports.messageBox.Show(m_Texts.GetText(10022), eMessageIcon::Question, eMessageButtons::YesNo);
+    m_Asking = false;
+    return answer == eMessageAnswer::Yes;
+}
+
     if (!m_Life.Running()) return false;
     const bool sessionEnds = unloadMode == eCloseReason::SessionEnd;
     if (!sessionEnds) {
-        if (m_Settings.m_DisableShutdown) return false;
-        if (m_Ports.messageBox.Show(m_Texts.GetText(10022), eMessageIcon::Question, eMessageButtons::YesNo) ==
-            eMessageAnswer::No) {
-            return false;
-        }
+        if (m_Settings.m_DisableShutdown || !AskForTheEnd()) return false;
         // The session can end while the question stands.
         if (!m_Life.Running()) return false;
     }

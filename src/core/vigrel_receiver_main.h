@@ -99,6 +99,7 @@ class cVigrelReceiverMain {
     void End();
 
     // The steps of the start, in their order.
+    bool AskForTheEnd();
     eStartUp LoadInOrder();
     void PrepareFolders();
     bool LoadLanguage();
@@ -160,6 +161,7 @@ class cVigrelReceiverMain {
     eWindowState m_LastWindowState = eWindowState::Normal;
     DateTime m_LastHousekeepingDate = 0;
     bool m_ToldOfMissingTray = false;
+    bool m_Asking = false;  // whether the program is to end
 };
 
 }  // namespace vigrel

@@ -169,6 +169,22 @@ TEST_F(Life, WhileTheQuestionStandsAlarmsAreTaken) {
     EXPECT_EQ(AlarmFiles().size(), 1u);
 }
 
+TEST_F(Life, AskedToEndAgainWhileTheQuestionStandsItAsksNoSecondOne) {
+    Start();
+    messageBox.m_OnShow = [&] {
+        messageBox.m_OnShow = nullptr;
+        receiver->Stop(eCloseReason::Interrupt);
+        mainWindow.CloseFor(eCloseReason::Control);
+        menus.OnMenuExit();
+    };
+    messageBox.m_Answers = {eMessageAnswer::No};
+    receiver->Stop(eCloseReason::Interrupt);
+    EXPECT_EQ(messageBox.m_Shown.size(), 1u);
+    // An answered question can be asked again.
+    receiver->Stop(eCloseReason::Interrupt);
+    EXPECT_EQ(messageBox.m_Shown.size(), 2u);
+}
+
 TEST_F(Life, AnEndWhileTheQuestionStandsIsNotDoneTwice) {
     Start();
     messageBox.m_OnShow = [&] { receiver->Stop(eCloseReason::SessionEnd); };

@@ -99,6 +99,24 @@ TEST(BoxesLeftStanding, AnInterruptAsksItsQuestionOnTheScreen) {
     EXPECT_EQ(station.Log().back(), "T10021");
 }
 
+// A box over the box would have to be answered first, whatever the one below was answered.
+TEST(BoxesLeftStanding, ASecondInterruptAsksNoSecondQuestion) {
+    cStation station;
+    OnScreen(station);
+    ASSERT_TRUE(station.Start()) << station.StandardError();
+    ASSERT_NE(FindWindow(station.Process(), "T10000"), "");
+    kill(station.Process(), SIGINT);
+    const std::string box = FindWindow(station.Process(), "^Vigrel Alarm Receiver$");
+    ASSERT_NE(box, "");
+    for (int i = 0; i < 3; ++i) {
+        kill(station.Process(), SIGINT);
+        EXPECT_EQ(station.Send({"--t0", "meanwhile"}).exitCode, 0);
+    }
+    Press(box, {"alt+y"});
+    EXPECT_EQ(station.WaitForEnd(), 0);
+    EXPECT_EQ(station.Log().back(), "T10021");
+}
+
 TEST(MaximisedStart, SurvivesItsMinimisingAndTheStoredSizeIsTheLargeOne) {
     cStation station;
     OnScreen(station);
