@@ -60,6 +60,7 @@ int Run(int argc, char** argv) {
 
     const cFolderHints hints = ReadFolderHints();
     const std::string applicationPath = FindApplicationFolder(hints);
+    application.SetFolder(NativePath(applicationPath));
     cLinuxFiles files;
     cQtMessageBox windowBox("Vigrel Definitions");
     cStandardErrorBox unseenBox("vigrel-definitions", NativePath(applicationPath));

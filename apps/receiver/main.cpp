@@ -90,6 +90,7 @@ int RunStation(cApplication& application, const std::string& commandLine) {
     const cFolderHints hints = ReadFolderHints();
     const std::string applicationPath = FindApplicationFolder(hints);
     cLinuxFiles files;
+    application.SetFolder(NativePath(applicationPath));
     cLinuxFiles ownFiles(cLinuxFiles::eNames::Exact);
     cQtMessageBox windowBox(kProductName);
     cStandardErrorBox unseenBox(kProgramName, NativePath(applicationPath));

@@ -8,6 +8,7 @@
 #include <QTimer>
 #include <QWindow>
 #include <cstdio>
+#include <cerrno>
 #include <cstdlib>
 #include <exception>
 
@@ -16,6 +17,7 @@
 #include "common/exit_codes.h"
 #include "common/standard_error.h"
 #include "windows/plain_text.h"
+#include "common/path_text.h"
 
 namespace vigrel {
 namespace {
@@ -133,7 +135,7 @@ bool cApplication::notify(QObject* receiver, QEvent* event) {
 }
 
 void cApplication::End(const std::string& failure) {
-    PrintError("Failure", failure);
+    PrintError(PathText(program_invocation_short_name), m_Origin + "Failure: " + failure);
     // A failure while one is shown leaves it at that.
     if (!m_Failed) ShowFailure(failure);
     std::fflush(nullptr);
@@ -145,6 +147,10 @@ void cApplication::ShowFailure(const std::string& failure) {
     if (!HasDisplay()) return;
     const QString title = m_MessageTitle.empty() ? applicationDisplayName() : ToQString(m_MessageTitle);
     cPlainMessageBox box(QMessageBox::Critical, title, WithPathsToQString(failure), QMessageBox::Ok);
+void cApplication::SetFolder(const std::string& folder) {
+    m_Origin = PathText(folder) + ": ";
+}
+
     box.setObjectName("Vigrel_FailureBox");
     box.setInformativeText("The program ends.");
     box.setWindowFlag(Qt::WindowStaysOnTopHint);

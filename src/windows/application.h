@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QBasicTimer>
 #include <QTimer>
 #include <QTranslator>
 #include <functional>
@@ -45,6 +46,12 @@ class cApplication : public QApplication {
     // stand in the titles of all windows too.
     void SetMessageTitle(const std::string& title) { m_MessageTitle = title; }
     // How long the message box of a failure stands.
+    // The folder of the program's files, as the machine spells it: the line of a failure on standard error
+    // names it behind the program.
+    void SetFolder(const std::string& folder);
+    // Calls the step again and again as long as the event loop turns, boxes or not, that of a failure
+    // included. One step at a time; 0 milliseconds: none.
+    void Repeat(int milliseconds, std::function<void()> step);
     void SetFailureBoxTime(int milliseconds) { m_FailureBoxMilliseconds = milliseconds; }
 
     // The toolkit is about to end the program, whose display is gone. What is on the stack is still there;
@@ -67,7 +74,9 @@ class cApplication : public QApplication {
 
     QTranslator m_Translator;
     QTimer m_RefuseTimer;
-    std::string m_MessageTitle;
+    QBasicTimer m_RepeatTimer;
+    std::function<void()> m_RepeatedStep;
+    std::string m_MessageTitle, m_Origin;
     int m_FailureBoxMilliseconds = kFailureBoxMilliseconds;
     bool m_Failed = false;
     QMessageBox* m_FailureBox = nullptr;

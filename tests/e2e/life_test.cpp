@@ -112,7 +112,7 @@ TEST_F(Unseen, AFailureIsTold) {
     station.Launch();
     EXPECT_EQ(station.WaitForEnd(), 70);
     const std::string error = station.StandardError();
-    EXPECT_TRUE(error.starts_with("Failure: ")) << error;
+    EXPECT_TRUE(error.starts_with("vigrel-receiver: " + station.Folder().string() + "/: Failure: ")) << error;
     EXPECT_EQ(std::count(error.begin(), error.end(), '\n'), 1) << error;
 }
 

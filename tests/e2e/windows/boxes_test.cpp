@@ -93,8 +93,8 @@ TEST(BoxesAtTheStart, AnApplicationFolderThatCannotBeMadeIsNamedWithTheReasonAnd
     station.m_Environment["VIGREL_APPLICATION_PATH"] = folder;
     station.Launch();
     EXPECT_EQ(AnswerBox(station), 70);
-    const std::string line =
-        "Failure: The application folder " + folder + "/ can't be made: Not a directory\n";
+    const std::string line = "vigrel-receiver: " + folder + "/: Failure: The application folder " + folder +
+                             "/ can't be made: Not a directory\n";
     EXPECT_TRUE(station.StandardError().ends_with(line)) << station.StandardError();
 }
 
