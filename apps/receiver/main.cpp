@@ -168,6 +168,7 @@ int RunStation(cApplication& application, const std::string& commandLine) {
     application.Guard([&] { started = receiver.Start(); });
     if (started == eStartUp::Running) return cApplication::exec();
     return started == eStartUp::Stopped ? kExitInOrder : kExitRefused;
+    if (started == eStartUp::AddressMissing) return kExitNotYet;
 }
 
 int Run(int argc, char** argv) {

@@ -11,6 +11,8 @@ inline constexpr int kExitToolkit = 1;
 inline constexpr int kExitRefused = 69;
 inline constexpr int kExitFailure = 70;
 inline constexpr int kExitDisplayLost = 71;
+// What the start lacks can come by itself, as a network or a display does that is up later than we are.
+inline constexpr int kExitNotYet = 75;
 
 // The meanings, as --help, the manual and the manual page tell them.
 struct cExitCode {
@@ -23,6 +25,7 @@ inline constexpr std::array kExitCodes{
     cExitCode{kExitRefused, "the start was refused for a reason that was told"},
     cExitCode{kExitFailure, "an unexpected failure, told in a message"},
     cExitCode{kExitDisplayLost, "the display was lost"},
+    cExitCode{kExitNotYet, "the display or the address is not there yet"},
 };
 
 }  // namespace vigrel

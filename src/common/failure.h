@@ -15,6 +15,7 @@ enum class eFailure {
     TypeMismatch = 13,
     FileNotFound = 53,
     FileExists = 58,
+    Unavailable = 68,  // for now: it can come by itself
     DiskFull = 61,
     PermissionDenied = 70,
     PathAccess = 75,

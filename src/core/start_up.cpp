@@ -53,7 +53,8 @@ eStartUp cVigrelReceiverMain::LoadInOrder() {
     m_View.SetSortOrder();
     LoadAlarms();
     m_Senders.LogSenders();
-    if (!OpenPort()) return eStartUp::PortTaken;
+    const eStartUp opened = OpenPort();
+    if (opened != eStartUp::Running) return opened;
     m_LastWindowState = m_Ports.mainWindow.State();
     m_Log.WriteLog(m_Texts.GetText(10011));
     m_Ports.runningApps.SetRunningApps(kApplication, -1);
@@ -170,17 +171,22 @@ void cVigrelReceiverMain::LoadAlarms() {
     if (!m_Store.FolderProblem().empty()) m_Ports.list.SetEmptyText("(" + m_Texts.GetText(10053) + ")");
 }
 
-bool cVigrelReceiverMain::OpenPort() {
+eStartUp cVigrelReceiverMain::OpenPort() {
     const std::int32_t port = ReadPort(m_Ini);
     const std::string address = ReadAddress(m_Ini);
     const std::string name = (address.empty() ? "" : address + " ") + std::to_string(port);
-    if (!SkipFailure([&] { m_Link.Listen(address, port); })) {
-        m_Ports.messageBox.Show(m_Texts.GetText(10015) + " (" + name + ") " + m_Texts.GetText(10016),
-                                eMessageIcon::Warning, eMessageButtons::Ok);
-        return false;
+    const auto failure = CatchFailure([&] { m_Link.Listen(address, port); });
+    if (!failure) {
+        m_Log.WriteLog(m_Texts.GetText(10017) + " " + name + " " + m_Texts.GetText(10018));
+        return eStartUp::Running;
     }
-    m_Log.WriteLog(m_Texts.GetText(10017) + " " + name + " " + m_Texts.GetText(10018));
-    return true;
+    const std::string text = m_Texts.GetText(10015) + " (" + name + ") " + m_Texts.GetText(10016);
+    if (failure->Number() != eFailure::Unavailable) {
+        m_Ports.messageBox.Show(text, eMessageIcon::Warning, eMessageButtons::Ok);
+        return eStartUp::PortTaken;
+    }
+    m_Ports.messageBox.ShowForAWhile(text, eMessageIcon::Warning);
+    return eStartUp::AddressMissing;
 }
 
 }  // namespace vigrel

@@ -39,7 +39,8 @@ enum class eStartUp {
     SecondInstance,
     NoSuiteLibrary,
     PortTaken,
-    Stopped,  // told to end while it started
+    AddressMissing,  // which can come by itself
+    Stopped,         // told to end while it started
 };
 
 // The receiver: its main window's events, and through them everything that it does. The name is that of its
@@ -115,7 +116,7 @@ class cVigrelReceiverMain {
     void PlaceWindow();
     void ShowAbout();
     void LoadAlarms();
-    bool OpenPort();
+    eStartUp OpenPort();
 
     void Timer_KeepAlive_Tick();
     void Timer_Play_Tick();

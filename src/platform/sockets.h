@@ -19,7 +19,8 @@ class cListener {
     // Number of one of the machine's addresses; empty, as without a call, for all of them, IPv4 and IPv6.
     virtual void SetLocalAddress(std::string_view address) = 0;
     virtual void SetLocalPort(std::int32_t port) = 0;
-    // Throws cFailure when the port can't be opened at the address.
+    // Throws cFailure when the port can't be opened at the address; Unavailable while the machine has no such
+    // address, which can come by itself.
     virtual void Listen() = 0;
 
     std::function<void(std::int32_t requestId)> OnConnectionRequest;

@@ -93,6 +93,9 @@ class cMessageBox {
     virtual ~cMessageBox() = default;
     // Blocks the caller until the operator has answered; closing the box without an answer is Ok, or No.
     virtual eMessageAnswer Show(std::string_view text, eMessageIcon icon, eMessageButtons buttons) = 0;
+    // A message that need not be answered: after a minute it goes by itself, so that a program that nobody
+    // watches gets on.
+    virtual void ShowForAWhile(std::string_view text, eMessageIcon icon) = 0;
 };
 
 class cClipboard {

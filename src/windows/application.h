@@ -26,7 +26,7 @@ class cApplication : public QApplication {
     // since windows there can be placed, stacked and raised. Without any display the program runs unseen.
     static void ChoosePlatform();
 
-    // Ends the program with kExitRefused when there is no display where one was asked for.
+    // Ends the program as cDisplayGuard tells when there is no display where one was asked for.
     cApplication(int& argc, char** argv, cDisplayGuard&& guard = cDisplayGuard());
 
     // Whether anybody can see a window of the program.

@@ -41,7 +41,9 @@ void cDisplayGuard::Refuse() const {
     const std::string program = PathText(program_invocation_short_name);
     PrintError(program, reason + ". Unset DISPLAY and WAYLAND_DISPLAY to run without windows.");
     for (const auto& [type, text] : m_Messages) PrintError(program, PathText(text.toStdString()));
-    std::_Exit(kExitRefused);
+    const bool named =
+        !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+    std::_Exit(named ? kExitNotYet : kExitRefused);
 }
 
 }  // namespace vigrel

@@ -8,8 +8,9 @@
 namespace vigrel {
 
 // Stands by while the toolkit looks for the display: where it finds none it aborts the program, with the
-// reasons among other words. Here that ends the program with kExitRefused and one message that says which
-// display was wanted and why there is none. What the toolkit says otherwise goes its usual way afterwards.
+// reasons among other words. Here that ends the program with one message that says which display was
+// wanted and why there is none, and with kExitNotYet when the session named one, which may just not be up
+// yet, or else with kExitRefused. What the toolkit says otherwise goes its usual way afterwards.
 //
 // One at a time, since the toolkit's messages go to a function.
 class cDisplayGuard {

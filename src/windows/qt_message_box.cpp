@@ -1,8 +1,9 @@
 #include "windows/qt_message_box.h"
 
-#include <QApplication>
+#include <QTimer>
 
 #include "adapters/qt/qt_text.h"
+#include "windows/application.h"
 #include "windows/plain_text.h"
 
 namespace vigrel {
@@ -28,15 +29,19 @@ QWidget* Owner() {
 
 }  // namespace
 
-eMessageAnswer cQtMessageBox::Show(std::string_view text, eMessageIcon icon, eMessageButtons buttons) {
-    cPlainMessageBox box(Owner());
+void cQtMessageBox::Furnish(QMessageBox& box, std::string_view text, eMessageIcon icon) const {
     box.setObjectName("Vigrel_MessageBox");
     box.setWindowTitle(ToQString(m_Title));
     box.setText(WithPathsToQString(text));
     box.setIcon(IconOf(icon));
     box.setWindowModality(Qt::ApplicationModal);
+    box.setStandardButtons(QMessageBox::Ok);
+}
+
+eMessageAnswer cQtMessageBox::Show(std::string_view text, eMessageIcon icon, eMessageButtons buttons) {
+    cPlainMessageBox box(Owner());
+    Furnish(box, text, icon);
     if (buttons == eMessageButtons::Ok) {
-        box.setStandardButtons(QMessageBox::Ok);
         box.exec();
         return eMessageAnswer::Ok;
     }
@@ -44,6 +49,13 @@ eMessageAnswer cQtMessageBox::Show(std::string_view text, eMessageIcon icon, eMe
     box.setDefaultButton(QMessageBox::No);
     box.setEscapeButton(QMessageBox::No);
     return box.exec() == QMessageBox::Yes ? eMessageAnswer::Yes : eMessageAnswer::No;
+}
+
+void cQtMessageBox::ShowForAWhile(std::string_view text, eMessageIcon icon) {
+    cPlainMessageBox box(Owner());
+    Furnish(box, text, icon);
+    QTimer::singleShot(cApplication::kFailureBoxMilliseconds, &box, &QDialog::reject);
+    box.exec();
 }
 
 }  // namespace vigrel

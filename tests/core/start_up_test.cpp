@@ -116,6 +116,14 @@ TEST_F(StartUp, APortThatCannotBeOpenedIsNamedAndEndsTheStart) {
     EXPECT_EQ(runningApps.m_States, (std::map<std::int32_t, std::int32_t>{{8, 0}}));
 }
 
+TEST_F(StartUp, AnAddressThatIsNotThereYetIsNamedForAWhileAndToldApart) {
+    Ini("", "[TCPIP]\r\nAddress=192.168.1.10\r\n");
+    listener.m_AddressMissing = true;
+    EXPECT_EQ(Load(), eStartUp::AddressMissing);
+    EXPECT_EQ(messageBox.m_Shown,
+              std::vector<std::string>{"warning, ok: for a while: T10015 (192.168.1.10 12412) T10016"});
+}
+
 TEST_F(StartUp, WithoutALightLibraryNothingIsLogged) {
     light.m_Missing = true;
     EXPECT_EQ(Load(), eStartUp::Running);

@@ -13,7 +13,7 @@ namespace {
 using testing::cStation;
 using testing::ReadAll;
 
-constexpr int kRefused = 69;
+constexpr int kRefused = 69, kNotYet = 75;
 
 TEST(Ending, EveryStopSignalEndsItInOrder) {
     for (const int signal : {SIGTERM, SIGHUP}) {
@@ -141,7 +141,10 @@ TEST(Display, OneThatDoesNotAnswerEndsTheProgramWithTheReason) {
         for (const auto& [name, value] : display) station.m_Environment[name] = value;
         std::filesystem::remove(station.Folder() / "stderr.txt");
         station.Launch();
-        EXPECT_EQ(station.WaitForEnd(), kRefused);
+        // One that the session names may come; what the toolkit has no name for will not.
+        const bool named =
+            !station.m_Environment["DISPLAY"].empty() || !station.m_Environment["WAYLAND_DISPLAY"].empty();
+        EXPECT_EQ(station.WaitForEnd(), named ? kNotYet : kRefused);
         const std::string error = station.StandardError();
         EXPECT_TRUE(error.starts_with("vigrel-receiver: No display can be opened: ")) << error;
         EXPECT_NE(error.find("4711"), std::string::npos) << error;

@@ -18,6 +18,7 @@ class cFakeListener : public cListener {
     void SetLocalAddress(std::string_view address) override { m_Address = address; }
     void SetLocalPort(std::int32_t port) override { m_Port = port; }
     void Listen() override {
+        if (m_AddressMissing) throw cFailure(eFailure::Unavailable, m_Address + ": no such address");
         if (m_PortInUse) {
             throw cFailure(eFailure::Device, "Port " + std::to_string(m_Port) + ": address in use");
         }
@@ -38,6 +39,7 @@ class cFakeListener : public cListener {
     std::int32_t m_Port = 0;
     bool m_Listening = false;
     bool m_PortInUse = false;
+    bool m_AddressMissing = false;
 
   private:
     cTranscript* m_Transcript;

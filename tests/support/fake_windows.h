@@ -143,6 +143,9 @@ using cFakeWindow = cFakeWindowOf<cWindow>;
 class cFakeMessageBox : public cMessageBox {
   public:
     explicit cFakeMessageBox(cTranscript* transcript = nullptr) : m_Transcript(transcript) {}
+    void ShowForAWhile(std::string_view text, eMessageIcon icon) override {
+        Show("for a while: " + std::string(text), icon, eMessageButtons::Ok);
+    }
     eMessageAnswer Show(std::string_view text, eMessageIcon icon, eMessageButtons buttons) override {
         constexpr const char* kIcons[] = {"warning", "stop", "question"};
         const bool yesNo = buttons == eMessageButtons::YesNo;

@@ -20,6 +20,9 @@ class cStandardErrorBox : public cMessageBox {
     cStandardErrorBox(std::string program, std::string folder)
         : m_Program(std::move(program)), m_Folder(std::move(folder)) {}
     eMessageAnswer Show(std::string_view text, eMessageIcon icon, eMessageButtons buttons) override;
+    void ShowForAWhile(std::string_view text, eMessageIcon icon) override {
+        Show(text, icon, eMessageButtons::Ok);
+    }
 
   private:
     std::string m_Program, m_Folder;

@@ -1,5 +1,6 @@
 #include "adapters/linux/tcp_port.h"
 
+#include <arpa/inet.h>
 #include <netdb.h>
 #include <netinet/in.h>
 #include <sys/socket.h>
@@ -31,6 +32,14 @@ cBoundPort Bind(const sockaddr* address, socklen_t size) {
     return {std::move(descriptor), 0, ""};
 }
 
+// Whether it is the number of an address at a device of the network that the machine doesn't have now.
+bool IsOfMissingDevice(const std::string& address) {
+    const std::size_t device = address.find('%');
+    in6_addr number{};
+    return device != std::string::npos &&
+           inet_pton(AF_INET6, address.substr(0, device).c_str(), &number) == 1;
+}
+
 cBoundPort BindAll(std::uint16_t port) {
     sockaddr_in6 both{};
     both.sin6_family = AF_INET6;
@@ -53,6 +62,7 @@ cBoundPort BindTcpPort(const std::string& address, std::uint16_t port) {
     hints.ai_flags = AI_NUMERICHOST | AI_NUMERICSERV;
     addrinfo* found = nullptr;
     if (getaddrinfo(address.c_str(), std::to_string(port).c_str(), &hints, &found) != 0) {
+        if (IsOfMissingDevice(address)) return Failed(EADDRNOTAVAIL);
         return {cFileHandle(), EINVAL, address + " is not the number of an address"};
     }
     const std::unique_ptr<addrinfo, void (*)(addrinfo*)> addresses(found, freeaddrinfo);

@@ -9,7 +9,7 @@ namespace vigrel {
 
 struct cBoundPort {
     cFileHandle descriptor;  // not blocking, not yet listening
-    int failure = 0;         // errno, 0 for none
+    int failure = 0;         // errno, 0 for none; EADDRNOTAVAIL while the machine has no such address
     std::string reason;      // of a failure, in the operating system's words
 };
 

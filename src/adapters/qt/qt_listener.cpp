@@ -17,8 +17,9 @@ namespace {
 // The machine can run out of descriptors or memory for a while.
 constexpr int kAcceptAgainMilliseconds = 1000;
 
-[[noreturn]] void FailListen(std::int32_t port, const std::string& reason) {
-    throw cFailure(eFailure::Device, "Port " + std::to_string(port) + " can't be listened on: " + reason);
+[[noreturn]] void FailListen(std::int32_t port, const std::string& reason,
+                             eFailure number = eFailure::Device) {
+    throw cFailure(number, "Port " + std::to_string(port) + " can't be listened on: " + reason);
 }
 
 // Whether the peer had gone before it was accepted, or nobody knocks any more; anything else will last.
@@ -39,6 +40,7 @@ void cQtListener::Listen() {
         FailListen(m_Port, "a port is a number from 0 to 65535");
     }
     cBoundPort bound = BindTcpPort(m_Address, static_cast<std::uint16_t>(m_Port));
+    if (bound.failure == EADDRNOTAVAIL) FailListen(m_Port, bound.reason, eFailure::Unavailable);
     if (bound.failure != 0) FailListen(m_Port, bound.reason);
     // A port that two have bound is the one's who listens first.
     if (listen(bound.descriptor.Get(), SOMAXCONN) != 0) {
