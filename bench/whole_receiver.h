@@ -72,12 +72,13 @@ class cWholeReceiver {
     testing::cFakeOtherWindows otherWindows{transcript};
     testing::cFakeStatus status;
     cDeliveredTexts deliveredTexts;
+    testing::cFakeServiceManager serviceManager;
     cVigrelReceiverMain receiver{
-        {files,        ownFiles,     clock,          random,        locale,    singleInstance,
-         listener,     data,         timerKeepAlive, timerPlay,     timerSave, mainWindow.List(),
-         mainWindow,   mainWindow,   screen,         windows,       popups,    messageBox,
-         clipboard,    beeper,       waveDevice,     trayArea,      light,     runningApps,
-         printerPorts, otherWindows, status,         deliveredTexts},
+        {files,        ownFiles,     clock,          random,         locale,        singleInstance,
+         listener,     data,         timerKeepAlive, timerPlay,      timerSave,     mainWindow.List(),
+         mainWindow,   mainWindow,   screen,         windows,        popups,        messageBox,
+         clipboard,    beeper,       waveDevice,     trayArea,       light,         runningApps,
+         printerPorts, otherWindows, status,         deliveredTexts, serviceManager},
         m_Folder.Folder(),
         ""};
 };

@@ -60,8 +60,9 @@ property() { systemctl --user show vigrel-receiver -p "$1" --value; }
 answers() { "$programs/vigrel-send" --port "$port" --keepalive --timeout 2 --quiet 2>/dev/null; }
 restarted() { [ "$(property NRestarts)" -ge "$1" ] && [ "$(property SubState)" = running ] && answers; }
 state_is() { [ "$(property ActiveState)" = "$1" ]; }
+status_is() { case "$(property StatusText)" in *"$1"*) ;; *) return 1 ;; esac }
 # Longer than the service waits before it starts again.
-stays_down() { sleep 4 && [ "$(property MainPID)" = 0 ]; }
+stays_down() { sleep 7 && [ "$(property MainPID)" = 0 ]; }
 # instead COMMAND: what the service runs from now on in place of the station.
 instead() {
     printf '[Service]\nExecStart=\nExecStart=%s\n' "$1" >"$units/vigrel-receiver.service.d/instead.conf"
@@ -79,6 +80,8 @@ check "a service manager runs" until_true manager_answers
 systemctl --user enable vigrel-receiver 2>/dev/null
 systemctl --user start desktop.target
 check "the station starts with the desktop" until_true answers
+check "it is started when it answers" [ "$(property ActiveState)" = active ]
+check "its status tells the port" until_true status_is "Listening on port $port; alarms: 0"
 for times in 1 2 3 4 5 6 7; do
     kill -KILL "$(property MainPID)"
     check "killed for the ${times}. time, it starts again" until_true restarted $times
@@ -87,14 +90,14 @@ kill -TERM "$(property MainPID)"
 check "told to end, it ends" until_true state_is inactive
 check "and stays away" stays_down
 
-for code in 1 70 71; do
+for code in 1 70 71 75; do
     instead "/bin/sh -c 'exit $code'"
-    systemctl --user start vigrel-receiver
+    systemctl --user start --no-block vigrel-receiver
     check "after exit code $code it starts again" until_true eval '[ "$(property NRestarts)" -ge 2 ]'
     systemctl --user stop vigrel-receiver
 done
 instead "/bin/sh -c 'echo started >>$work/starts; exit 69'"
-systemctl --user start vigrel-receiver
+systemctl --user start --no-block vigrel-receiver
 check "after exit code 69, the reason was told" until_true state_is failed
 check "it stays away" stays_down
 check "it was started once" [ "$(wc -l <"$work/starts")" -eq 1 ]
@@ -103,6 +106,13 @@ rm "$units/vigrel-receiver.service.d/instead.conf"
 systemctl --user daemon-reload
 systemctl --user start vigrel-receiver
 check "it can be started by hand" until_true answers
+printf '[Service]\nWatchdogSec=3\nTimeoutAbortSec=1\n' >"$units/vigrel-receiver.service.d/watchdog.conf"
+systemctl --user daemon-reload
+systemctl --user restart vigrel-receiver
+restarts=$(property NRestarts)
+check "one that is at work is left alone" eval 'sleep 8 && [ "$(property NRestarts)" = "$restarts" ]'
+kill -STOP "$(property MainPID)"
+check "one that stands still starts again" until_true restarted $((restarts + 1))
 systemctl --user stop desktop.target graphical-session.target
 check "it ends with the desktop" until_true state_is inactive
 check "in order" [ "$(property ExecMainStatus)" = 0 ]

@@ -14,6 +14,7 @@
 #include "adapters/linux/linux_files.h"
 #include "adapters/linux/linux_printer_ports.h"
 #include "adapters/linux/local_running_apps.h"
+#include "adapters/linux/notify_socket.h"
 #include "adapters/linux/standard_error_box.h"
 #include "adapters/linux/standard_random.h"
 #include "adapters/linux/stream_status.h"
@@ -86,11 +87,11 @@ cFirstStartHints FirstStartHints() {
             screen.height()};
 }
 
-int RunStation(cApplication& application, const std::string& commandLine) {
+int RunStation(cApplication& application, cServiceManager& serviceManager, const std::string& commandLine) {
     const cFolderHints hints = ReadFolderHints();
     const std::string applicationPath = FindApplicationFolder(hints);
-    cLinuxFiles files;
     application.SetFolder(NativePath(applicationPath));
+    cLinuxFiles files;
     cLinuxFiles ownFiles(cLinuxFiles::eNames::Exact);
     cQtMessageBox windowBox(kProductName);
     cStandardErrorBox unseenBox(kProgramName, NativePath(applicationPath));
@@ -152,11 +153,11 @@ int RunStation(cApplication& application, const std::string& commandLine) {
     const cDeliveredTexts deliveredTexts = BuiltInTexts();
     cStreamStatus status(stderr, "vigrel-receiver");
     cVigrelReceiverMain receiver(
-        {files,          ownFiles,     clock,          random,        locale,      singleInstance,
-         winsockConnect, winsockData,  timerKeepAlive, timerPlay,     timerSave,   mainWindow.List(),
-         mainWindow,     mainWindow,   screen,         windows,       popups,      messageBox,
-         clipboard,      beeper,       waveDevice,     trayArea,      signalLight, runningApps,
-         printerPorts,   otherWindows, status,         deliveredTexts},
+        {files,          ownFiles,     clock,          random,         locale,        singleInstance,
+         winsockConnect, winsockData,  timerKeepAlive, timerPlay,      timerSave,     mainWindow.List(),
+         mainWindow,     mainWindow,   screen,         windows,        popups,        messageBox,
+         clipboard,      beeper,       waveDevice,     trayArea,       signalLight,   runningApps,
+         printerPorts,   otherWindows, status,         deliveredTexts, serviceManager},
         applicationPath, commandLine);
     cStopSignals stopSignals;
     stopSignals.OnStop = [&](eCloseReason reason) { receiver.Stop(reason); };
@@ -167,8 +168,8 @@ int RunStation(cApplication& application, const std::string& commandLine) {
     // While what the station consists of is still there for the message of a failure to be shown over.
     application.Guard([&] { started = receiver.Start(); });
     if (started == eStartUp::Running) return cApplication::exec();
-    return started == eStartUp::Stopped ? kExitInOrder : kExitRefused;
     if (started == eStartUp::AddressMissing) return kExitNotYet;
+    return started == eStartUp::Stopped ? kExitInOrder : kExitRefused;
 }
 
 int Run(int argc, char** argv) {
@@ -180,8 +181,11 @@ int Run(int argc, char** argv) {
     application.SetMessageTitle(kProductName);
     // Of every window, message boxes included.
     cApplication::setWindowIcon(QIcon(":/icons/vigrel-receiver.svg"));
+    // Outlives the station: it is told that the event loop turns while a failure's message stands too.
+    cNotifySocket serviceManager;
+    application.Repeat(serviceManager.AliveInterval(), [&] { serviceManager.Alive(); });
     int code = kExitFailure;
-    application.Guard([&] { code = RunStation(application, CommandLine(argc, argv)); });
+    application.Guard([&] { code = RunStation(application, serviceManager, CommandLine(argc, argv)); });
     return code;
 }
 

@@ -110,10 +110,13 @@ void cVigrelReceiverMain::Run() {
     m_Ports.timerPlay.SetEnabled(true);
     // For what was done to the window in the start.
     Form_Resize();
+    m_StationStatus.Tick();
+    m_Ports.serviceManager.Ready();
 }
 
 void cVigrelReceiverMain::End() {
     m_Life.End();
+    m_Ports.serviceManager.Stopping();
     m_Ports.timerKeepAlive.SetEnabled(false);
     m_Ports.timerPlay.SetEnabled(false);
 }

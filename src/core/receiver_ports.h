@@ -13,6 +13,7 @@
 #include "platform/popup_window.h"
 #include "platform/random.h"
 #include "platform/report_list.h"
+#include "platform/service_manager.h"
 #include "platform/signal_light.h"
 #include "platform/single_instance.h"
 #include "platform/sockets.h"
@@ -78,6 +79,7 @@ struct cReceiverPorts {
     cOtherWindows& otherWindows;
     cStatus& status;
     const cDeliveredTexts& deliveredTexts;
+    cServiceManager& serviceManager;
 };
 
 }  // namespace vigrel

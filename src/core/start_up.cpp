@@ -178,6 +178,7 @@ eStartUp cVigrelReceiverMain::OpenPort() {
     const auto failure = CatchFailure([&] { m_Link.Listen(address, port); });
     if (!failure) {
         m_Log.WriteLog(m_Texts.GetText(10017) + " " + name + " " + m_Texts.GetText(10018));
+        m_StationStatus.SetPort(name);
         return eStartUp::Running;
     }
     const std::string text = m_Texts.GetText(10015) + " (" + name + ") " + m_Texts.GetText(10016);

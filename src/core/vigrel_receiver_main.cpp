@@ -58,8 +58,8 @@ cVigrelReceiverMain::cVigrelReceiverMain(const cReceiverPorts& ports, std::strin
                  [this](const AlarmPtr& alarm) { ProcessAlarm(alarm); },
                  [this](std::string_view reply) { m_Link.SendReply(reply); }}),
       m_Link(ports.winsockConnect, ports.winsockData, m_State),
-      m_UnsavedNotice(
-          {m_Store, m_Texts, m_Settings, m_Forms, ports.clock, ports.otherWindows, ports.status}) {
+      m_UnsavedNotice({m_Store, m_Texts, m_Settings, m_Forms, ports.clock, ports.otherWindows, ports.status}),
+      m_StationStatus({m_Store, ports.printerPorts, ports.serviceManager}) {
     ConnectEvents();
 }
 
@@ -83,6 +83,7 @@ void cVigrelReceiverMain::Timer_KeepAlive_Tick() {
     DailyHousekeeping();
     m_Store.RetryUnsaved();
     m_Log.WriteRepeats();
+    m_StationStatus.Tick();
 }
 
 void cVigrelReceiverMain::DailyHousekeeping() {
@@ -152,7 +153,6 @@ void cVigrelReceiverMain::ShowWithoutTray() {
     window.Show();
 }
 
-bool cVigrelReceiverMain::Form_QueryUnload(eCloseReason unloadMode) {
 // Asked again while the question stands, nobody gets a second one: the first is still to be answered.
 bool cVigrelReceiverMain::AskForTheEnd() {
     if (m_Asking) return false;
@@ -163,6 +163,7 @@ bool cVigrelReceiverMain::AskForTheEnd() {
     return answer == eMessageAnswer::Yes;
 }
 
+bool cVigrelReceiverMain::Form_QueryUnload(eCloseReason unloadMode) {
     if (!m_Life.Running()) return false;
     const bool sessionEnds = unloadMode == eCloseReason::SessionEnd;
     if (!sessionEnds) {

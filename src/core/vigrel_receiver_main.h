@@ -13,6 +13,7 @@
 #include "common/texts.h"
 #include "core/life.h"
 #include "core/receiver_ports.h"
+#include "core/station_status.h"
 #include "core/unsaved_notice.h"
 #include "events/acknowledgement.h"
 #include "events/alarm_list_view.h"
@@ -98,9 +99,9 @@ class cVigrelReceiverMain {
     void ForEachEvent(Visit visit);
     void Run();
     void End();
+    bool AskForTheEnd();
 
     // The steps of the start, in their order.
-    bool AskForTheEnd();
     eStartUp LoadInOrder();
     void PrepareFolders();
     bool LoadLanguage();
@@ -157,12 +158,13 @@ class cVigrelReceiverMain {
     cRecordDecoder m_Decoder;
     cServerLink m_Link;
     cUnsavedNotice m_UnsavedNotice;
+    cStationStatus m_StationStatus;
 
     bool m_SplashShown = false;
+    bool m_Asking = false;  // whether the program is to end
     eWindowState m_LastWindowState = eWindowState::Normal;
     DateTime m_LastHousekeepingDate = 0;
     bool m_ToldOfMissingTray = false;
-    bool m_Asking = false;  // whether the program is to end
 };
 
 }  // namespace vigrel

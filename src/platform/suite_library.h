@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace vigrel {
@@ -22,6 +23,8 @@ class cPrinterPorts {
     // below 0 fails. Every wait is bounded. Each line stands alone: one that failed is lost, the next is
     // tried.
     virtual std::int16_t SendPRN(std::string_view line, std::int16_t port) = 0;
+    // The port, counted from 1, that failed at its last line, and why; empty when none did.
+    virtual std::string Problem() const = 0;
 };
 
 }  // namespace vigrel

@@ -6,18 +6,20 @@
 #include <QSessionManager>
 #include <QThread>
 #include <QTimer>
+#include <QTimerEvent>
 #include <QWindow>
-#include <cstdio>
 #include <cerrno>
+#include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <utility>
 
 #include "adapters/qt/qt_text.h"
 #include "common/code_page.h"
 #include "common/exit_codes.h"
+#include "common/path_text.h"
 #include "common/standard_error.h"
 #include "windows/plain_text.h"
-#include "common/path_text.h"
 
 namespace vigrel {
 namespace {
@@ -116,6 +118,17 @@ bool cApplication::event(QEvent* event) {
     return handled;
 }
 
+void cApplication::Repeat(int milliseconds, std::function<void()> step) {
+    m_RepeatTimer.stop();
+    m_RepeatedStep = std::move(step);
+    if (milliseconds > 0) m_RepeatTimer.start(milliseconds, this);
+}
+
+void cApplication::timerEvent(QTimerEvent* event) {
+    if (event->timerId() != m_RepeatTimer.timerId()) return QApplication::timerEvent(event);
+    m_RepeatedStep();
+}
+
 void cApplication::Guard(const std::function<void()>& step) {
     try {
         step();
@@ -134,6 +147,10 @@ bool cApplication::notify(QObject* receiver, QEvent* event) {
     }
 }
 
+void cApplication::SetFolder(const std::string& folder) {
+    m_Origin = PathText(folder) + ": ";
+}
+
 void cApplication::End(const std::string& failure) {
     PrintError(PathText(program_invocation_short_name), m_Origin + "Failure: " + failure);
     // A failure while one is shown leaves it at that.
@@ -147,10 +164,6 @@ void cApplication::ShowFailure(const std::string& failure) {
     if (!HasDisplay()) return;
     const QString title = m_MessageTitle.empty() ? applicationDisplayName() : ToQString(m_MessageTitle);
     cPlainMessageBox box(QMessageBox::Critical, title, WithPathsToQString(failure), QMessageBox::Ok);
-void cApplication::SetFolder(const std::string& folder) {
-    m_Origin = PathText(folder) + ": ";
-}
-
     box.setObjectName("Vigrel_FailureBox");
     box.setInformativeText("The program ends.");
     box.setWindowFlag(Qt::WindowStaysOnTopHint);

@@ -45,13 +45,13 @@ class cApplication : public QApplication {
     // The title of the message box of a failure; without one it is the program's display name, which would
     // stand in the titles of all windows too.
     void SetMessageTitle(const std::string& title) { m_MessageTitle = title; }
-    // How long the message box of a failure stands.
     // The folder of the program's files, as the machine spells it: the line of a failure on standard error
     // names it behind the program.
     void SetFolder(const std::string& folder);
     // Calls the step again and again as long as the event loop turns, boxes or not, that of a failure
     // included. One step at a time; 0 milliseconds: none.
     void Repeat(int milliseconds, std::function<void()> step);
+    // How long the message box of a failure stands.
     void SetFailureBoxTime(int milliseconds) { m_FailureBoxMilliseconds = milliseconds; }
 
     // The toolkit is about to end the program, whose display is gone. What is on the stack is still there;
@@ -64,6 +64,8 @@ class cApplication : public QApplication {
 
   protected:
     bool event(QEvent* event) override;
+    // For the step that is repeated: events of the application itself are served whatever else stands still.
+    void timerEvent(QTimerEvent* event) override;
 
   private:
     void MakeHintsReadable();

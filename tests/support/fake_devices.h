@@ -203,6 +203,8 @@ class cFakePrinterPorts : public cPrinterPorts {
         m_Lines.push_back(std::to_string(port) + ":" + std::string(line));
         return m_FailLines.contains(m_Lines.size()) ? std::int16_t{0} : m_Success;
     }
+    std::string Problem() const override { return m_Problem; }
+    std::string m_Problem;
     std::vector<std::string> m_Lines;   // "port:line"
     std::set<std::size_t> m_FailLines;  // numbers of the lines that fail, from 1
     std::int16_t m_Success = 1;         // the result of the others

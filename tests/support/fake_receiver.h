@@ -60,6 +60,14 @@ class cFakeStatus : public cStatus {
     std::vector<std::string> m_Texts;
 };
 
+class cFakeServiceManager : public cServiceManager {
+  public:
+    void Ready() override { m_Told.emplace_back("ready"); }
+    void Stopping() override { m_Told.emplace_back("stopping"); }
+    void SetStatus(std::string_view line) override { m_Told.emplace_back(line); }
+    std::vector<std::string> m_Told;
+};
+
 // A whole receiver over fakes. What a test changes before Load is found by the start.
 class cFakeReceiver {
   public:
@@ -84,12 +92,12 @@ class cFakeReceiver {
     cVigrelReceiverMain& Make(const std::string& commandLine = "") {
         receiver.reset();
         receiver = std::make_unique<cVigrelReceiverMain>(
-            cReceiverPorts{files,          files,    clock,         random,         locale,
-                           singleInstance, listener, data,          timerKeepAlive, timerPlay,
-                           timerSave,      list,     mainWindow,    menus,          screen,
-                           windows,        popups,   messageBox,    clipboard,      beeper,
-                           waveDevice,     trayArea, light,         runningApps,    printerPorts,
-                           otherWindows,   status,   deliveredTexts},
+            cReceiverPorts{files,          files,    clock,          random,         locale,
+                           singleInstance, listener, data,           timerKeepAlive, timerPlay,
+                           timerSave,      list,     mainWindow,     menus,          screen,
+                           windows,        popups,   messageBox,     clipboard,      beeper,
+                           waveDevice,     trayArea, light,          runningApps,    printerPorts,
+                           otherWindows,   status,   deliveredTexts, serviceManager},
             "C:\\App\\", commandLine);
         return *receiver;
     }
@@ -139,6 +147,7 @@ class cFakeReceiver {
     cFakeOtherWindows otherWindows{transcript};
     cFakeStatus status;
     cDeliveredTexts deliveredTexts;
+    cFakeServiceManager serviceManager;
     std::unique_ptr<cVigrelReceiverMain> receiver;
 };
 

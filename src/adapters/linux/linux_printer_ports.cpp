@@ -29,6 +29,13 @@ std::int16_t cLinuxPrinterPorts::SendPRN(std::string_view line, std::int16_t por
     return problem.empty() ? 1 : 0;
 }
 
+std::string cLinuxPrinterPorts::Problem() const {
+    const auto failed = std::find_if(m_Ports.begin(), m_Ports.end(),
+                                     [](const auto& port) { return !port.second.problem.empty(); });
+    if (failed == m_Ports.end()) return "";
+    return "port " + std::to_string(failed->first) + ": " + failed->second.problem;
+}
+
 cLinuxPrinterPorts::cPort& cLinuxPrinterPorts::Port(int number) {
     std::string entry = m_Ini.GetIniString(kSection, std::to_string(number), "");
     const auto found = m_Ports.find(number);

@@ -32,6 +32,7 @@ class cLinuxPrinterPorts : public cPrinterPorts {
                        std::string deviceFolder = "/dev");
 
     std::int16_t SendPRN(std::string_view line, std::int16_t port) override;
+    std::string Problem() const override;
 
   private:
     struct cPort {
