@@ -29,7 +29,7 @@ class cPendingSaves {
     };
     // The longest that a turn lasts, but for what its last file takes; and the most files of one.
     static constexpr double kTurnSeconds = 0.02;
-    static constexpr int kTurnFiles = 250;
+    static constexpr int kTurnFiles = 1000;
 
     explicit cPendingSaves(cServices services) : m_Services(std::move(services)) {}
 

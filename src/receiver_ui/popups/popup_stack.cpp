@@ -75,7 +75,7 @@ void cPopupStack::Turn(qint64 milliseconds) {
         if (popup.ReachScreen()) Erase(m_OnScreen, popup);
     }
     BringInOrder();
-    m_Rest = turn.elapsed() * 3 / 2;
+    m_Rest = turn.elapsed() * kRestsPerTurn;
     m_SinceTurn.start();
     m_NewWishes = false;
 }

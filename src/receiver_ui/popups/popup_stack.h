@@ -31,11 +31,13 @@ class cStackedPopup {
 // many popups at once cost one pass.
 //
 // Many popups come up in the order of the wishes, in short turns. Between the turns everything else has its
-// own: while alarms keep coming in, a rest that is longer than the turn was.
+// own: while alarms keep coming in, a rest of several times what the turn took, in which the X server and the
+// window manager, too, are done with the windows and leave the processors to the link.
 class cPopupStack {
   public:
     // The longest that a turn lasts, but for what its last popup takes.
     static constexpr int kTurnMilliseconds = 20;
+    static constexpr int kRestsPerTurn = 4;
 
     cPopupStack();
     // On top of all.
