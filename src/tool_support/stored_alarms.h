@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -22,8 +23,11 @@ struct cStoredAlarm {
     cVigrelRecieverAlarm alarm;
     std::string problem;  // what is wrong with the file; empty: nothing
 };
-// What can be read of an alarm file. Does not fail.
-cStoredAlarm ReadStoredAlarm(const cFileReader& files, const std::string& path);
+// What can be read of each of these files of a folder (with its separator), in the order of the names. No
+// file keeps the others away.
+using TakeStoredAlarm = std::function<void(const std::string& name, const cStoredAlarm& stored)>;
+void ReadStoredAlarms(const cFileReader& files, const std::string& folder,
+                      const std::vector<std::string>& names, const TakeStoredAlarm& take);
 
 // "inactive", "active", "acked", "message"; empty for another number.
 std::string StateName(std::int16_t status);

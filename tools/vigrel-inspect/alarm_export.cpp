@@ -48,14 +48,15 @@ cExportResult ExportAlarms(const cFileReader& files, const std::string& alarmFol
     const std::vector<std::string> names = AlarmFileNames(files, alarmFolder);
     cExportResult result;
     std::vector<cRow> rows;
-    for (const std::string& name : names) {
-        const auto [alarm, problem] = ReadStoredAlarm(files, alarmFolder + name);
+    rows.reserve(names.size());
+    ReadStoredAlarms(files, alarmFolder, names, [&](const std::string& name, const cStoredAlarm& stored) {
+        const auto& [alarm, problem] = stored;
         result.damaged += problem.empty() ? 0 : 1;
         if (!problem.empty() || wish.filter.Wants(alarm)) {
             rows.push_back({alarm.m_CreatedTime, RowLine(name, alarm, problem, wish)});
         }
         onProgress(++result.files, names.size());
-    }
+    });
     std::stable_sort(rows.begin(), rows.end(),
                      [](const cRow& a, const cRow& b) { return Earlier(a.created, b.created); });
     result.alarms = rows.size();

@@ -57,10 +57,10 @@ class cFolderReader {
         ReadConfiguration();
         const std::size_t all = logs.size() + alarms.size();
         std::size_t done = 0;
-        for (const std::string& name : alarms) {
-            ReadAlarm(alarmFolder, name);
+        ReadStoredAlarms(m_Files, alarmFolder, alarms, [&](const std::string&, const cStoredAlarm& stored) {
+            TakeAlarm(stored);
             onFile(++done, all);
-        }
+        });
         cLogReader reader(m_Zone, m_Forms, m_Names, m_Record);
         for (const auto& [day, name] : logs) {
             ReadLog(reader, day, name);
@@ -107,8 +107,7 @@ class cFolderReader {
         }
     }
 
-    void ReadAlarm(const std::string& alarmFolder, const std::string& name) {
-        const cStoredAlarm stored = ReadStoredAlarm(m_Files, alarmFolder + name);
+    void TakeAlarm(const cStoredAlarm& stored) {
         const cVigrelRecieverAlarm& alarm = stored.alarm;
         const bool hasTime = alarm.m_CreatedTime > 1 && alarm.m_CreatedTime < 2e6;
         if (!stored.problem.empty() || !hasTime) {
