@@ -33,6 +33,8 @@ const std::string kConfiguration =
     "[General]\r\nColumns=StateIcon,DateTime,StateText,t2,t0,t1,t3,Observed\r\nBackColor_Active=255,230,"
     "230\r\n"
     "ForeColor_Active=120,0,0\r\nIcon_Active=2,3\r\nMaxEvents=0\r\nMaxDays=0\r\n";
+// A sender that is not among the station's adds a line to the log with each frame.
+const std::string kSenders = "[Senders]\r\nPLC1=5\r\n";
 const std::string kPopups =
     "ViewPopupForm=1\r\nEventPopupFormat=[DATE] [TIME] [T0] {ACTIVE?active} [OBJECT]\r\n";
 
@@ -57,7 +59,7 @@ class cOnMemory {
 std::unique_ptr<cStation> StartedStation(const std::string& further, int stored) {
     auto station = std::make_unique<cStation>();
     UseDisplay(*station);
-    station->Configure(kConfiguration + further);
+    station->Configure(kConfiguration + further + kSenders);
     StoreAlarms(station->Folder() / "Alarms", stored);
     if (!station->Start())
         throw std::runtime_error("the station does not start: " + station->StandardError());

@@ -21,7 +21,7 @@ namespace vigrel {
 // are only noted, and what has come together goes to the view in one flush every 40 ms.
 class cQtReportList : public cReportList {
   public:
-    static constexpr int kFlushMilliseconds = 40;
+    static constexpr int kFlushMilliseconds = 80;
 
     // The icons must outlive the list.
     cQtReportList(QWidget* parent, const cIconStrip& icons);

@@ -37,7 +37,7 @@ class cPopupStack {
   public:
     // The longest that a turn lasts, but for what its last popup takes.
     static constexpr int kTurnMilliseconds = 20;
-    static constexpr int kRestsPerTurn = 4;
+    static constexpr int kRestsPerTurn = 6;
 
     cPopupStack();
     // On top of all.
