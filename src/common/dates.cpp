@@ -38,18 +38,21 @@ constexpr std::int64_t kLastDay = 2958465;   // 9999-12-31
 // sum keeps 52 bits; in the year 9999 one step of it is 0.04 ms. Clocks keep away from it (platform/clock.h).
 constexpr double kTraceOfSum = 1e-4;
 
+[[noreturn]] void FailOutside() {
+    throw cFailure(eFailure::Overflow, "a date-time lies outside the years 100 to 9999");
+}
+
 }  // namespace
 
 cDateParts SplitDateTime(DateTime value) {
-    const cFailure outside(eFailure::Overflow, "a date-time lies outside the years 100 to 9999");
     if (!(value > static_cast<double>(kFirstDay) - 1 && value < static_cast<double>(kLastDay) + 1))
-        throw outside;
+        FailOutside();
     const double whole = std::trunc(value);
     auto days = static_cast<std::int64_t>(whole);
     auto seconds = static_cast<std::int64_t>(std::fabs(value - whole) * 86400 + kTraceOfSum);
     if (seconds == 86400) {
         seconds = 0;
-        if (++days > kLastDay) throw outside;
+        if (++days > kLastDay) FailOutside();
     }
     cDateParts parts;
     CivilFromDays(days - kEpoch, parts);

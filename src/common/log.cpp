@@ -10,6 +10,17 @@
 #include "common/text.h"
 
 namespace vigrel {
+namespace {
+
+std::string FileDate(const cDateParts& now) {
+    return Digits(now.year, 4) + Digits(now.month, 2) + Digits(now.day, 2);
+}
+
+std::string TimeOfDay(const cDateParts& now) {
+    return Digits(now.hour, 2) + ":" + Digits(now.minute, 2) + ":" + Digits(now.second, 2);
+}
+
+}  // namespace
 
 cLog::cLog(cFiles& files, const cClock& clock, const cTexts& texts, std::string applicationPath)
     : m_Files(files), m_Clock(clock), m_Texts(texts), m_Folder(std::move(applicationPath) + "LogFiles\\") {}
@@ -56,12 +67,10 @@ void cLog::WriteRepeats() {
 
 void cLog::Append(std::string_view text) {
     SkipFailure([&] {
-        const cLocaleForms forms;
-        const std::string name = FormatDateTime(m_Clock.Now(), "yyyymmdd", forms) + ".Log";
+        const std::string name = FileDate(SplitDateTime(m_Clock.Now()));
         // The time is read anew: a call that runs across midnight may stamp 00:00:00 into the old day's file.
-        const std::string line =
-            FormatDateTime(m_Clock.Now(), "hh\\:nn\\:ss", forms) + " " + std::string(text);
-        m_Files.AppendFile(m_Folder + name, line + "\r\n");
+        const std::string line = TimeOfDay(SplitDateTime(m_Clock.Now())) + " " + std::string(text);
+        m_Files.AppendFile(m_Folder + name + ".Log", line + "\r\n");
     });
 }
 

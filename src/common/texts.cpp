@@ -20,7 +20,7 @@ std::string cTexts::Content(const std::string& path, const std::string& language
 }
 
 bool cTexts::LoadTexts() {
-    m_TextIndex.clear();
+    m_Texts.clear();
     const std::string language = m_Ini.GetIniString("General", "Language", "");
     if (language.empty()) return false;
     const std::string path = m_Ini.FullPath(kTextFile) + language;
@@ -37,18 +37,14 @@ bool cTexts::LoadTexts() {
 void cTexts::TakeLine(const std::string& line) {
     const std::size_t equals = line.find('=');
     if (equals == std::string::npos) return;
-    const std::string text = line.substr(equals + 1);
-    m_TextIndex.push_back({TextIdOf(line), static_cast<std::int32_t>(m_Texts.size()) + 1,
-                           static_cast<std::int32_t>(text.size())});
-    m_Texts += text;
+    m_Texts.emplace(TextIdOf(line), line.substr(equals + 1));
 }
 
 std::string cTexts::GetText(std::int32_t id) const {
-    const auto row =
-        std::find_if(m_TextIndex.begin(), m_TextIndex.end(), [id](const cRow& r) { return r.id == id; });
-    if (row == m_TextIndex.end()) return "*** Invalid Text (" + std::to_string(id) + ")";
-    if (row->length == 0) return "*** Missing text (" + std::to_string(id) + ")";
-    return Mid(m_Texts, static_cast<std::size_t>(row->start), static_cast<std::size_t>(row->length));
+    const auto row = m_Texts.find(id);
+    if (row == m_Texts.end()) return "*** Invalid Text (" + std::to_string(id) + ")";
+    if (row->second.empty()) return "*** Missing text (" + std::to_string(id) + ")";
+    return row->second;
 }
 
 }  // namespace vigrel

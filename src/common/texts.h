@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
+#include <unordered_map>
 
 #include "common/delivered_texts.h"
 #include "common/ini.h"
@@ -35,15 +35,11 @@ class cTexts {
     std::string Content(const std::string& path, const std::string& language);
     void TakeLine(const std::string& line);
 
-    struct cRow {
-        std::int32_t id, start, length;
-    };
     const cFileReader& m_Files;
     const cIni& m_Ini;
     const cDeliveredTexts* m_Delivered;
     std::string m_Problem;
-    std::string m_Texts;            // all texts, one behind the other
-    std::vector<cRow> m_TextIndex;  // start counts from 1
+    std::unordered_map<std::int32_t, std::string> m_Texts;  // of lines with one id the first
 };
 
 }  // namespace vigrel

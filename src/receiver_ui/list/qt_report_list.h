@@ -18,7 +18,7 @@
 namespace vigrel {
 
 // The report list on the screen. It stays quick with a hundred thousand rows under a flood of alarms: records
-// are only noted, and what has come together goes to the view in one flush every 40 ms.
+// are only noted, and what has come together goes to the view in one flush every 80 ms.
 class cQtReportList : public cReportList {
   public:
     static constexpr int kFlushMilliseconds = 80;
