@@ -25,7 +25,6 @@ namespace vigrel {
 namespace {
 
 constexpr int kPlacingTime = 100;  // milliseconds
-constexpr std::int32_t kFirstHeading = 611, kLastHeading = 617;
 
 QStringList ReadCommandLine(const QCoreApplication& application) {
     QCommandLineParser parser;
@@ -43,8 +42,8 @@ std::function<std::string(std::int32_t)> TextSource(cTexts& texts, const cLocale
     bool loaded = false;
     SkipFailure([&] { loaded = texts.LoadTexts(); });
     return [&texts, &forms, loaded](std::int32_t id) {
-        if (loaded || id < kFirstHeading || id > kLastHeading) return texts.GetText(id);
-        return forms.dayNames[static_cast<std::size_t>(id - kFirstHeading + 1) % 7];
+        if (loaded || id < TextMonday || id > TextSunday) return texts.GetText(id);
+        return forms.dayNames[static_cast<std::size_t>(id - TextMonday + 1) % 7];
     };
 }
 

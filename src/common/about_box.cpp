@@ -6,8 +6,8 @@ namespace vigrel {
 
 std::string AboutText(const cTexts& texts) {
     const std::string paragraph = "\r\n\r\n";
-    return texts.GetText(10000) + paragraph + texts.GetText(13) + " " + kVersion + paragraph +
-           texts.GetText(14) + " Kelmora AB";
+    return texts.GetText(TextTitle) + paragraph + texts.GetText(TextVersion) + " " + kVersion + paragraph +
+           texts.GetText(TextDevelopedBy) + " Kelmora AB";
 }
 
 cAboutBox::cAboutBox(cTimer& timerUnload) : m_TimerUnload(timerUnload) {

@@ -62,7 +62,7 @@ void cLog::WriteRefusal(std::string_view text) {
 
 void cLog::WriteRepeats() {
     const std::int64_t count = std::exchange(m_Counted, 0);
-    if (count > 0) Append("... " + std::to_string(count) + " " + m_Texts.GetText(10048));
+    if (count > 0) Append("... " + std::to_string(count) + " " + m_Texts.GetText(TextMoreAlike));
 }
 
 void cLog::Append(std::string_view text) {
@@ -93,7 +93,7 @@ void cLog::CleanLogFiles(std::string_view mask, std::int16_t keepForDays) {
         if (age <= keepForDays) continue;
         const std::string path = m_Folder + stem + ".LOG";
         RemoveLog(path);
-        WriteLog(m_Texts.GetText(141) + " " + WithPathsInCodePage(path) + ")");
+        WriteLog(m_Texts.GetText(TextLogDeleted) + " " + WithPathsInCodePage(path) + ")");
     }
 }
 

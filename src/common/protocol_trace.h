@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "common/receiver_state.h"
+#include "common/text_ids.h"
 #include "platform/clock.h"
 #include "platform/files.h"
 #include "platform/setting_store.h"
@@ -59,12 +60,12 @@ class cProtocolTrace {
 
 // The columns of the debug list. Widths are in twips.
 struct cTraceColumn {
-    std::int32_t caption;  // text id
+    eText caption;
     double width;
     bool centred;
 };
 inline constexpr std::array<cTraceColumn, 3> kTraceColumns{
-    {{272, 823, false}, {273, 853, true}, {274, 2000, false}}};
+    {{TextTraceTime, 823, false}, {TextTraceDirection, 853, true}, {TextTraceText, 2000, false}}};
 
 // The width of column 1, 2 or 3: the one that the user's settings hold, or else its present one; at least
 // 100.

@@ -7,6 +7,7 @@
 
 #include "common/delivered_texts.h"
 #include "common/ini.h"
+#include "common/text_ids.h"
 
 namespace vigrel {
 

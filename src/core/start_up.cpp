@@ -30,11 +30,11 @@ eStartUp cVigrelReceiverMain::LoadInOrder() {
         CompleteTextFiles(m_Ports.files, m_ApplicationPath, m_Ports.deliveredTexts);
     if (!LoadLanguage()) return eStartUp::NoLanguage;
     m_Log.WriteLog(std::string(kSeparatorLength, '-'));
-    m_Log.WriteLog(m_Texts.GetText(10040));
+    m_Log.WriteLog(m_Texts.GetText(TextProgramStart));
     TellOfTexts(completed);
     const std::int16_t devices = m_Light.ScanDevices();
     m_View.SetUpColumns(m_Settings);
-    m_Ports.list.SetEmptyText("(" + m_Texts.GetText(10035) + ")");
+    m_Ports.list.SetEmptyText("(" + m_Texts.GetText(TextNoAlarms) + ")");
     ReadCategories(devices);
     SetCaptions();
     if (!IsOnlyInstance()) return eStartUp::SecondInstance;
@@ -56,7 +56,7 @@ eStartUp cVigrelReceiverMain::LoadInOrder() {
     const eStartUp opened = OpenPort();
     if (opened != eStartUp::Running) return opened;
     m_LastWindowState = m_Ports.mainWindow.State();
-    m_Log.WriteLog(m_Texts.GetText(10011));
+    m_Log.WriteLog(m_Texts.GetText(TextStartFinished));
     m_Ports.runningApps.SetRunningApps(kApplication, -1);
     return eStartUp::Running;
 }
@@ -96,13 +96,13 @@ void cVigrelReceiverMain::ReadCategories(std::int16_t devices) {
 
 void cVigrelReceiverMain::SetCaptions() {
     cMenus& menus = m_Ports.menus;
-    menus.SetCaption("Menu_File", m_Texts.GetText(10004));
-    menus.SetCaption("Menu_StopSound", m_Texts.GetText(10034));
-    menus.SetCaption("Menu_StopLight", m_Texts.GetText(10019));
-    menus.SetCaption("Menu_AckAll", m_Texts.GetText(10006));
-    menus.SetCaption("Menu_Exit", m_Texts.GetText(10007) + "\tAlt+F4");
-    menus.SetCaption("Menu_Simulate", m_Texts.GetText(10008));
-    menus.SetCaption("Menu_SimAlarm", m_Texts.GetText(10009));
+    menus.SetCaption("Menu_File", m_Texts.GetText(TextFileMenu));
+    menus.SetCaption("Menu_StopSound", m_Texts.GetText(TextStopSound));
+    menus.SetCaption("Menu_StopLight", m_Texts.GetText(TextStopLight));
+    menus.SetCaption("Menu_AckAll", m_Texts.GetText(TextAcknowledgeAll));
+    menus.SetCaption("Menu_Exit", m_Texts.GetText(TextExit) + "\tAlt+F4");
+    menus.SetCaption("Menu_Simulate", m_Texts.GetText(TextSimulateMenu));
+    menus.SetCaption("Menu_SimAlarm", m_Texts.GetText(TextSimulateAlarm));
 }
 
 bool cVigrelReceiverMain::IsOnlyInstance() {
@@ -110,7 +110,7 @@ bool cVigrelReceiverMain::IsOnlyInstance() {
         TellOfMissingLock(m_Ports.singleInstance.Problem());
         return true;
     }
-    m_Ports.messageBox.Show(m_Texts.GetText(10010), eMessageIcon::Warning, eMessageButtons::Ok);
+    m_Ports.messageBox.Show(m_Texts.GetText(TextAlreadyRunning), eMessageIcon::Warning, eMessageButtons::Ok);
     return false;
 }
 
@@ -124,12 +124,12 @@ void cVigrelReceiverMain::TellOfMissingLock(const std::string& problem) {
 bool cVigrelReceiverMain::ReachSuiteLibrary() {
     // The answer doesn't matter; that there is one does.
     if (SkipFailure([&] { m_Ports.runningApps.GetRunningApps(kApplication); })) return true;
-    m_Ports.messageBox.Show(m_Texts.GetText(208), eMessageIcon::Stop, eMessageButtons::Ok);
+    m_Ports.messageBox.Show(m_Texts.GetText(TextNoSuiteLibrary), eMessageIcon::Stop, eMessageButtons::Ok);
     return false;
 }
 
 void cVigrelReceiverMain::SetTitle() {
-    m_Ports.mainWindow.SetCaption(m_Texts.GetText(10000) + " (" +
+    m_Ports.mainWindow.SetCaption(m_Texts.GetText(TextTitle) + " (" +
                                   cSettingReader(m_Ini, "General").Text("Object") + ") - Version " +
                                   kVersion);
 }
@@ -168,7 +168,8 @@ void cVigrelReceiverMain::LoadAlarms() {
     const cIniMoment moment(m_Ini);
     m_Alarms.LoadAlarms();
     // A folder that can't be read must not be taken for one without alarms.
-    if (!m_Store.FolderProblem().empty()) m_Ports.list.SetEmptyText("(" + m_Texts.GetText(10053) + ")");
+    if (!m_Store.FolderProblem().empty())
+        m_Ports.list.SetEmptyText("(" + m_Texts.GetText(TextFolderUnreadable) + ")");
 }
 
 eStartUp cVigrelReceiverMain::OpenPort() {
@@ -177,11 +178,12 @@ eStartUp cVigrelReceiverMain::OpenPort() {
     const std::string name = (address.empty() ? "" : address + " ") + std::to_string(port);
     const auto failure = CatchFailure([&] { m_Link.Listen(address, port); });
     if (!failure) {
-        m_Log.WriteLog(m_Texts.GetText(10017) + " " + name + " " + m_Texts.GetText(10018));
+        m_Log.WriteLog(m_Texts.GetText(TextPortOpen) + " " + name + " " + m_Texts.GetText(TextPortOpenEnd));
         m_StationStatus.SetPort(name);
         return eStartUp::Running;
     }
-    const std::string text = m_Texts.GetText(10015) + " (" + name + ") " + m_Texts.GetText(10016);
+    const std::string text =
+        m_Texts.GetText(TextPortRefused) + " (" + name + ") " + m_Texts.GetText(TextPortRefusedEnd);
     if (failure->Number() != eFailure::Unavailable) {
         m_Ports.messageBox.Show(text, eMessageIcon::Warning, eMessageButtons::Ok);
         return eStartUp::PortTaken;

@@ -17,13 +17,13 @@ std::string cUnsavedNotice::Summary() const {
     const auto format = [&](const std::string& pattern) {
         return FormatDateTime(m_Services.store.UnsavedSince(), pattern, m_Services.forms);
     };
-    return texts.GetText(10049) + " " + std::to_string(m_Services.store.UnsavedCount()) + ", " +
-           texts.GetText(10050) + " " + format(m_Services.settings.m_DateFormat) + " " +
+    return texts.GetText(TextUnsaved) + " " + std::to_string(m_Services.store.UnsavedCount()) + ", " +
+           texts.GetText(TextUnsavedSince) + " " + format(m_Services.settings.m_DateFormat) + " " +
            format(m_Services.settings.m_TimeFormat);
 }
 
 std::string cUnsavedNotice::FolderText() const {
-    return m_Services.store.FolderProblem().empty() ? "" : m_Services.texts.GetText(10053);
+    return m_Services.store.FolderProblem().empty() ? "" : m_Services.texts.GetText(TextFolderUnreadable);
 }
 
 void cUnsavedNotice::TellOfFolder() {
@@ -36,14 +36,14 @@ void cUnsavedNotice::Tick() {
     TellOfFolder();
     const std::size_t count = m_Services.store.UnsavedCount();
     if (count != m_Shown) {
-        const std::string advice = m_Services.texts.GetText(10051);
+        const std::string advice = m_Services.texts.GetText(TextUnsavedAdvice);
         m_Services.windows.ShowNotice(count == 0 ? FolderText() : Summary() + "\r\n\r\n" + advice);
         m_Shown = count;
     }
     const bool changes = count == 0 || m_Told == 0;
     const double now = m_Services.clock.Steady();
     if (count == m_Told || (!changes && now < m_ToldSteady + kStatusPause)) return;
-    m_Services.status.SetStatus(count == 0 ? m_Services.texts.GetText(10052)
+    m_Services.status.SetStatus(count == 0 ? m_Services.texts.GetText(TextAllSaved)
                                            : Summary() + " (" + m_Services.store.UnsavedReason() + ")");
     m_Told = count;
     m_ToldSteady = now;

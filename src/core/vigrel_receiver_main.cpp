@@ -102,7 +102,7 @@ void cVigrelReceiverMain::Timer_Play_Tick() {
 }
 
 void cVigrelReceiverMain::Menu_File() {
-    m_Ports.menus.SetEnabled("Menu_StopSound", m_State.m_SoundState != 0);
+    m_Ports.menus.SetEnabled("Menu_StopSound", m_State.m_SoundState != SoundSilent);
     m_Ports.menus.SetEnabled("Menu_AckAll_AndClosePopups", m_State.m_PopupFormCount > 0);
 }
 
@@ -157,8 +157,8 @@ void cVigrelReceiverMain::ShowWithoutTray() {
 bool cVigrelReceiverMain::AskForTheEnd() {
     if (m_Asking) return false;
     m_Asking = true;
-    const eMessageAnswer answer =
-        m_Ports.messageBox.Show(m_Texts.GetText(10022), eMessageIcon::Question, eMessageButtons::YesNo);
+    const eMessageAnswer answer = m_Ports.messageBox.Show(m_Texts.GetText(TextCloseQuestion),
+                                                          eMessageIcon::Question, eMessageButtons::YesNo);
     m_Asking = false;
     return answer == eMessageAnswer::Yes;
 }
@@ -172,7 +172,7 @@ bool cVigrelReceiverMain::Form_QueryUnload(eCloseReason unloadMode) {
         if (!m_Life.Running()) return false;
     }
     End();
-    m_Log.WriteLog(m_Texts.GetText(sessionEnds ? 10020 : 10021));
+    m_Log.WriteLog(m_Texts.GetText(sessionEnds ? TextEndBySession : TextEndByOperator));
     return true;
 }
 

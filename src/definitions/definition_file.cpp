@@ -50,7 +50,7 @@ std::int16_t InventIdentity(const cDefinitionServices& services, const cDefiniti
 
 using eNote = cDefinitionNote::eKind;
 
-void Log(const cDefinitionServices& services, eNote kind, std::int32_t text, const std::string& rest) {
+void Log(const cDefinitionServices& services, eNote kind, eText text, const std::string& rest) {
     const cDefinitionNote note{kind, services.texts.GetText(text) + rest};
     services.log.WriteLog(WithPathsInCodePage(note.line));
     if (services.m_OnNote) services.m_OnNote(note);
@@ -66,12 +66,12 @@ void LogUpgrade(const cDefinitionServices& services, const cDefinitionKind& kind
 void LogUnknownVersion(const cDefinitionServices& services, const cDefinitionKind& kind,
                        const std::string& fileName, std::int16_t version) {
     const std::string name = kind.namesFileByNumber ? kFileNumber : fileName;
-    Log(services, eNote::Failed, 803,
+    Log(services, eNote::Failed, TextUnknownVersion,
         " '" + name + "' (" + std::to_string(version) + ") " +
             services.texts.GetText(kind.textUnknownVersion));
 }
 
-void LogFailure(const cDefinitionServices& services, std::int32_t text, const std::string& what,
+void LogFailure(const cDefinitionServices& services, eText text, const std::string& what,
                 const cFailure& failure) {
     Log(services, eNote::Failed, text, what + " Err:" + failure.what());
 }

@@ -48,8 +48,7 @@ constexpr std::size_t kDefinitionFiller = 2048;
 struct cDefinitionKind {
     std::string_view folderAndStem;  // below the application folder: "Receivers\Receiver_"
     std::int16_t oldestVersion;
-    std::int32_t textUpgraded, textUnknownVersion, textLoadFailed, textSaveFailed, textRemoved,
-        textRemoveFailed;
+    eText textUpgraded, textUnknownVersion, textLoadFailed, textSaveFailed, textRemoved, textRemoveFailed;
     // Whether the log line about an unknown version names the open file by its number, not by its name.
     bool namesFileByNumber;
 };

@@ -34,12 +34,12 @@ std::unique_ptr<cTimeSchedule> CopyOf(const std::unique_ptr<cTimeSchedule>& sche
 
 constexpr cDefinitionKind cProfile::kKind = {.folderAndStem = "Profiles\\Profile_",
                                              .oldestVersion = 4,
-                                             .textUpgraded = 930,
-                                             .textUnknownVersion = 805,
-                                             .textLoadFailed = 982,
-                                             .textSaveFailed = 980,
-                                             .textRemoved = 981,
-                                             .textRemoveFailed = 981,
+                                             .textUpgraded = TextProfileUpgraded,
+                                             .textUnknownVersion = TextProfileOfUnknownVersion,
+                                             .textLoadFailed = TextProfileNotLoaded,
+                                             .textSaveFailed = TextProfileNotSaved,
+                                             .textRemoved = TextProfileRemoval,
+                                             .textRemoveFailed = TextProfileRemoval,
                                              .namesFileByNumber = false};
 
 template <class Profile>

@@ -21,12 +21,12 @@ std::size_t SettingIndex(std::int16_t index) {
 
 constexpr cDefinitionKind cReceiver::kKind = {.folderAndStem = "Receivers\\Receiver_",
                                               .oldestVersion = 3,
-                                              .textUpgraded = 888,
-                                              .textUnknownVersion = 804,
-                                              .textLoadFailed = 978,
-                                              .textSaveFailed = 979,
-                                              .textRemoved = 976,
-                                              .textRemoveFailed = 977,
+                                              .textUpgraded = TextReceiverUpgraded,
+                                              .textUnknownVersion = TextReceiverOfUnknownVersion,
+                                              .textLoadFailed = TextReceiverNotLoaded,
+                                              .textSaveFailed = TextReceiverNotSaved,
+                                              .textRemoved = TextReceiverRemoved,
+                                              .textRemoveFailed = TextReceiverNotRemoved,
                                               .namesFileByNumber = true};
 std::string cReceiver::CreateFileName(std::int16_t DiskIdentity) const {
     return DefinitionFileName(m_Services, kKind, DiskIdentity);
@@ -76,7 +76,8 @@ void cReceiver::SetReceiverTypeId(std::int16_t TypeId) {
     m_ReceiverTypeId = TypeId;
     m_ReceiverTypeIndex = m_Services.receiverTypes.RowOf(TypeId);
     if (m_ReceiverTypeIndex < 0) {
-        m_ReceiverTypeName = "(" + m_Services.texts.GetText(1088) + ": " + Digits(TypeId, 4) + ")";
+        m_ReceiverTypeName =
+            "(" + m_Services.texts.GetText(TextUnknownReceiverType) + ": " + Digits(TypeId, 4) + ")";
     } else {
         const cReceiverType& type =
             m_Services.receiverTypes.m_ReceiverTypes[static_cast<std::size_t>(m_ReceiverTypeIndex)];

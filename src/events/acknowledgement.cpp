@@ -6,7 +6,7 @@ namespace vigrel {
 
 void cAcknowledgement::EndSound() {
     if (!m_Services.settings.m_EventSignalUntilNoMorePopupForms || m_Services.state.m_PopupFormCount == 0) {
-        m_Services.state.m_SoundState = 0;
+        m_Services.state.m_SoundState = SoundSilent;
     }
 }
 
@@ -15,7 +15,7 @@ void cAcknowledgement::AckAlarm(RecordId row, const AlarmPtr& alarm) {
     if (!found) return;
     EndSound();
     if (found->m_Observed == False16) {
-        m_Services.log.WriteLog(m_Services.texts.GetText(10039) + " " + found->SysLogText());
+        m_Services.log.WriteLog(m_Services.texts.GetText(TextAcknowledged) + " " + found->SysLogText());
         found->m_Observed = True16;
         m_Services.view.UpdateAlarmRow(*found);
         m_Services.store.SaveAlarm(found);

@@ -10,6 +10,13 @@
 
 namespace vigrel {
 
+// The condition texts that mean something to the station; the others are the senders' own.
+enum eCondition : int {
+    ConditionText = 0,      // what happened
+    ConditionCategory = 2,  // by which it looks, sounds and shines
+    ConditionDetail = 4     // of the station's own alarms: which sender
+};
+
 // States of an event, as records, files and settings number them.
 enum eStatus : std::int16_t { StatusInactive = 0, StatusActive = 1, StatusAcked = 2, StatusMessage = 3 };
 

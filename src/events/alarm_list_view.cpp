@@ -7,6 +7,7 @@
 #include "common/failure.h"
 #include "common/numbers.h"
 #include "common/text.h"
+#include "events/status_text.h"
 
 namespace vigrel {
 namespace {
@@ -89,11 +90,6 @@ void cAlarmListView::RemoveAlarmRow(cVigrelRecieverAlarm& alarm) {
     if (alarm.m_Record != 0) m_Services.list.RemoveRecord(std::exchange(alarm.m_Record, 0));
 }
 
-std::string cAlarmListView::StateText(std::int16_t status) const {
-    if (status < StatusInactive || status > StatusAcked) return {};
-    return Trim(m_Services.texts.GetText(837 + status));
-}
-
 std::string cAlarmListView::Format(DateTime value, const std::string& pattern) const {
     return FormatDateTime(value, pattern, m_Services.forms);
 }
@@ -110,7 +106,7 @@ std::string cAlarmListView::CellText(const cVigrelRecieverAlarm& alarm, eColumnK
         case eColumnKind::StateIcon:
             return std::to_string(event.m_Status);
         case eColumnKind::StateText:
-            return StateText(event.m_Status);
+            return Trim(StatusText(m_Services.texts, event.m_Status));
         case eColumnKind::AlarmDate:
             return Format(event.m_TimeStampFromSCADA, settings.m_DateFormat);
         case eColumnKind::AlarmTime:
@@ -125,7 +121,7 @@ std::string cAlarmListView::CellText(const cVigrelRecieverAlarm& alarm, eColumnK
             return DateAndTime(alarm.m_CreatedTime);
         case eColumnKind::t2:
             if (alarm.m_CategoryText != nullptr) return *alarm.m_CategoryText;
-            return event.GetCondition(2).substr(0, kMostValueCharacters);
+            return event.GetCondition(ConditionCategory).substr(0, kMostValueCharacters);
         case eColumnKind::ExtraText:
             return alarm.m_CategorySpecificSetting.get().m_ExtraText;
         case eColumnKind::Observed:
@@ -171,7 +167,8 @@ const std::string* cAlarmListView::Translation(const std::string& category) {
 // All that a row shows is made when it is shown, but for what the configuration says at this moment.
 void cAlarmListView::UpdateAlarmRow(cVigrelRecieverAlarm& alarm) {
     if (m_ShowsCategory) {
-        SkipFailure([&] { alarm.m_CategoryText = Translation(alarm.m_Alarm.GetCondition(2)); });
+        SkipFailure(
+            [&] { alarm.m_CategoryText = Translation(alarm.m_Alarm.GetCondition(ConditionCategory)); });
     }
     SkipFailure([&] { m_Services.list.RecordChanged(alarm.m_Record); });
 }

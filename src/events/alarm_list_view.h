@@ -98,7 +98,6 @@ class cAlarmListView {
     std::string CellText(const cVigrelRecieverAlarm& alarm, eColumnKind kind) const;
     int CellIcon(const cVigrelRecieverAlarm& alarm, eColumnKind kind) const;
     const std::string* Translation(const std::string& category);
-    std::string StateText(std::int16_t status) const;
     std::string Format(DateTime value, const std::string& pattern) const;
     std::string DateAndTime(DateTime value) const;
     std::string CopyText(const ItemValue& value) const;

@@ -21,7 +21,7 @@ void cListedAlarms::LoadAlarms() {
     list.SetVisible(true);
     LogRemoved(removed);
     m_Services.log.WriteLog(std::to_string(m_Services.store.m_Alarms.size()) + " " +
-                            m_Services.texts.GetText(10041));
+                            m_Services.texts.GetText(TextAlarmsLoaded));
     m_Services.state.m_ListChanged = true;
 }
 
@@ -39,7 +39,7 @@ void cListedAlarms::SweepOldAlarms() {
 
 void cListedAlarms::LogRemoved(std::int32_t removed) {
     if (removed <= 0) return;
-    m_Services.log.WriteLog(std::to_string(removed) + " " + m_Services.texts.GetText(10036));
+    m_Services.log.WriteLog(std::to_string(removed) + " " + m_Services.texts.GetText(TextAlarmsRemoved));
 }
 
 }  // namespace vigrel

@@ -11,7 +11,8 @@ std::string_view StateWord(std::int16_t status) {
 }  // namespace
 
 std::string cVigrelRecieverAlarm::SysLogText() const {
-    std::string text = std::string(StateWord(m_Alarm.m_Status)) + " - " + m_Alarm.GetCondition(0) + " (";
+    std::string text =
+        std::string(StateWord(m_Alarm.m_Status)) + " - " + m_Alarm.GetCondition(ConditionText) + " (";
     for (int i = 1; i <= 4; ++i) text += m_Alarm.GetCondition(i) + (i < 4 ? "/" : ")");
     return text;
 }

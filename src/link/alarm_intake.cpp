@@ -24,7 +24,7 @@ bool cAlarmIntake::OpensPopup(const cVigrelRecieverAlarm& alarm) const {
     if (!settings.m_ViewPopupForm) return false;
     const std::string& categories = settings.m_ViewOnlyPopupFormForCategory;
     // The list is enclosed in commas, so that only whole names match.
-    const std::string wanted = "," + alarm.m_Alarm.GetCondition(2) + ",";
+    const std::string wanted = "," + alarm.m_Alarm.GetCondition(ConditionCategory) + ",";
     if (!categories.empty() && FindNoCase(categories, wanted) == 0) return false;
     return alarm.m_Alarm.m_Status == StatusActive || !settings.m_PopupFormOnlyForActive;
 }
@@ -42,7 +42,8 @@ void cAlarmIntake::RestoreWindow() {
 void cAlarmIntake::Print(const cVigrelRecieverAlarm& alarm) {
     bool printed = true;
     SkipFailure([&] { printed = m_Services.signalling.PrintEvent(alarm); });
-    if (!printed) m_Services.log.WriteLog(m_Services.texts.GetText(10038) + " " + alarm.SysLogText());
+    if (!printed)
+        m_Services.log.WriteLog(m_Services.texts.GetText(TextPrintFailed) + " " + alarm.SysLogText());
 }
 
 }  // namespace vigrel

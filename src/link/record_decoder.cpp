@@ -91,7 +91,7 @@ bool cRecordDecoder::Take(cFrame& frame) {
 }
 
 void cRecordDecoder::LogUnknown(const cFrame& frame) {
-    const std::string line = LoggedName(frame.sender) + m_Services.texts.GetText(10029);
+    const std::string line = LoggedName(frame.sender) + m_Services.texts.GetText(TextUnknownSender);
     frame.valid ? m_Services.log.WriteLog(line) : m_Services.log.WriteRefusal(line);
 }
 
@@ -113,14 +113,15 @@ void cRecordDecoder::TakeRecord(cFrame& frame) {
     SkipFailure([&] { ReplaceText(frame.text, std::string(1, kLineBreakInText), "\n"); });
     if (frame.text.empty()) return;
     if (frame.kind == StatusMessage) {
-        m_Services.log.WriteLog(LoggedName(frame.sender) + " " + m_Services.texts.GetText(10042) + " -> " +
+        m_Services.log.WriteLog(LoggedName(frame.sender) + " " +
+                                m_Services.texts.GetText(TextMessageReceived) + " -> " +
                                 SubField(frame.text, 2));
         return;
     }
     const AlarmPtr alarm = m_Services.maker.Make([&](cVigrelRecieverAlarm& made) { Decode(frame, made); });
     SkipFailure([&] { m_Services.ProcessAlarm(alarm); });
-    m_Services.log.WriteLog(LoggedName(frame.sender) + " " + m_Services.texts.GetText(10030) + " " +
-                            alarm->SysLogText());
+    m_Services.log.WriteLog(LoggedName(frame.sender) + " " + m_Services.texts.GetText(TextAlarmReceived) +
+                            " " + alarm->SysLogText());
 }
 
 void cRecordDecoder::Decode(const cFrame& frame, cVigrelRecieverAlarm& alarm) const {

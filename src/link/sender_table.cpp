@@ -14,7 +14,8 @@ constexpr double kMinutesPerDay = 1440;
 }  // namespace
 
 void cSenderTable::WarnTooMany() {
-    m_Services.messageBox.Show(m_Services.texts.GetText(10025), eMessageIcon::Warning, eMessageButtons::Ok);
+    m_Services.messageBox.Show(m_Services.texts.GetText(TextTooManySenders), eMessageIcon::Warning,
+                               eMessageButtons::Ok);
 }
 
 void cSenderTable::MarkSeen(cSender& sender) const {
@@ -52,10 +53,11 @@ void cSenderTable::LogSenders() {
     for (std::int16_t i = 0; i < m_SenderCount; ++i) {
         const cSender& sender = m_Senders[static_cast<std::size_t>(i)];
         const std::string minutes = std::to_string(sender.KeepAliveMinutes);
-        m_Services.log.WriteLog(sender.SenderName + " - " +
-                                (sender.KeepAliveMinutes == 0
-                                     ? texts.GetText(10012)
-                                     : texts.GetText(10013) + " " + minutes + " " + texts.GetText(10014)));
+        m_Services.log.WriteLog(
+            sender.SenderName + " - " +
+            (sender.KeepAliveMinutes == 0
+                 ? texts.GetText(TextNotSupervised)
+                 : texts.GetText(TextSupervised) + " " + minutes + " " + texts.GetText(TextMinutes)));
     }
 }
 
@@ -67,11 +69,11 @@ bool cSenderTable::IsDue(const cSender& sender) const {
 }
 
 std::string cSenderTable::StateText(const cSender& sender) const {
-    if (sender.NotYetSeen) return sender.SenderName + " - " + m_Services.texts.GetText(10032);
+    if (sender.NotYetSeen) return sender.SenderName + " - " + m_Services.texts.GetText(TextSenderNeverHeard);
     const auto format = [&](const std::string& pattern) {
         return FormatDateTime(sender.LastSeen, pattern, m_Services.forms);
     };
-    return sender.SenderName + " - " + m_Services.texts.GetText(10031) + " " +
+    return sender.SenderName + " - " + m_Services.texts.GetText(TextSenderLost) + " " +
            format(m_Services.settings.m_DateFormat) + " " + format(m_Services.settings.m_TimeFormat);
 }
 
@@ -81,9 +83,9 @@ void cSenderTable::Raise(const cSender& sender, std::int16_t status) {
         alarm.m_Sender = sender.SenderName;
         alarm.m_Alarm.m_TimeStampFromSCADA = m_Services.clock.Now();
         alarm.m_Alarm.m_Status = status;
-        alarm.m_Alarm.SetCondition(0, "VigrelAlarmReceiver");
-        alarm.m_Alarm.SetCondition(2, m_Services.settings.m_SystemErrorCategory);
-        alarm.m_Alarm.SetCondition(4, text);
+        alarm.m_Alarm.SetCondition(ConditionText, "VigrelAlarmReceiver");
+        alarm.m_Alarm.SetCondition(ConditionCategory, m_Services.settings.m_SystemErrorCategory);
+        alarm.m_Alarm.SetCondition(ConditionDetail, text);
     }));
 }
 
@@ -114,7 +116,7 @@ eHeard cSenderTable::Heard(std::string_view name, std::string_view text) {
     if (!text.empty()) return eHeard::Known;
     // One that returns is called what the station calls it, not as it spells itself.
     m_Services.log.WriteLog((returns ? found->SenderName : std::string(name)) + " " +
-                            m_Services.texts.GetText(10028));
+                            m_Services.texts.GetText(TextKeepAlive));
     return eHeard::KeepAlive;
 }
 

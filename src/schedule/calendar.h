@@ -25,7 +25,7 @@ struct cCalendarSurroundings {
     const cClock& m_Clock;
     const cLocaleForms& m_Forms;
     const cHolidays& m_Holidays;
-    // The language's texts by number: 611 to 617 are the headings, Monday first.
+    // The language's texts by number: TextMonday to TextSunday are the headings.
     std::function<std::string(std::int32_t)> GetText;
 };
 

@@ -1,6 +1,7 @@
 #include "common/dates.h"
 #include "common/numbers.h"
 #include "common/text.h"
+#include "common/text_ids.h"
 #include "schedule/calendar.h"
 #include "schedule/calendar_geometry.h"
 
@@ -10,7 +11,6 @@ namespace {
 constexpr std::int32_t kBlack = Rgb(0, 0, 0);
 constexpr std::int32_t kWhite = Rgb(255, 255, 255);
 constexpr std::int32_t kBarEnd = Rgb(128, 128, 128);
-constexpr std::int32_t kFirstHeading = 611;
 constexpr int kHeadingRoom = 4;  // more than the height of a line
 constexpr int kNumberGap = 2;    // between a week's number and the grid
 constexpr int kBandWidth = 14;
@@ -64,7 +64,7 @@ void cCalendar::PaintFrame(cPaintObject& paintObject) const {
 
 void cCalendar::PaintHeadings(cPaintObject& paintObject) const {
     for (int column = 0; column < kGridColumns; ++column) {
-        const std::string heading = Mid(m_Surroundings.GetText(kFirstHeading + column), 1, 3);
+        const std::string heading = Mid(m_Surroundings.GetText(TextMonday + column), 1, 3);
         const double x = kGridLeft + column * kCellWidth + (kCellWidth - paintObject.TextWidth(heading)) / 2;
         paintObject.SetCurrentPosition(x, kGridTop - paintObject.TextHeight("8") - kHeadingRoom / 2.0);
         paintObject.Print(heading);

@@ -11,6 +11,7 @@
 #include "common/failure.h"
 #include "common/numbers.h"
 #include "common/text.h"
+#include "events/status_text.h"
 #include "signals/conditional_forms.h"
 #include "signals/text_scan.h"
 #include "signals/value_shape.h"
@@ -36,13 +37,6 @@ struct cSource {
     }
 };
 
-std::string StatusName(const cSource& source) {
-    constexpr std::array<std::int32_t, 3> kTexts{837, 838, 839};  // inactive, active, acknowledged
-    const std::int16_t status = source.Event().m_Status;
-    if (status < 0 || status >= static_cast<std::int16_t>(kTexts.size())) return "";
-    return source.texts.GetText(kTexts[static_cast<std::size_t>(status)]);
-}
-
 struct cField {
     std::string_view name;
     std::string (*value)(const cSource& source);
@@ -56,7 +50,7 @@ constexpr std::array<cField, 11> kFields{{
     {"DATE", [](const cSource& s) { return s.Format(s.Event().m_TimeStampFromPC, s.settings.m_DateFormat); }},
     {"TIME", [](const cSource& s) { return s.Format(s.Event().m_TimeStampFromPC, s.settings.m_TimeFormat); }},
     {"STATUS", [](const cSource& s) { return std::to_string(s.Event().m_Status); }},
-    {"STATUS$", StatusName},
+    {"STATUS$", [](const cSource& s) { return StatusText(s.texts, s.Event().m_Status); }},
     {"OBJECT", [](const cSource& s) { return s.ini.GetIniString("General", "Object", ""); }},
     {"ALARMID", [](const cSource& s) { return s.Event().ViewEventIdAsHex(); }},
     {"SENDER", [](const cSource& s) { return s.alarm.m_Sender; }},
@@ -144,8 +138,8 @@ std::string cEventText::ExpandEventText(const cVigrelRecieverAlarm& alarm, std::
                                         std::string_view extraText) const {
     const cSource source{m_Settings, m_Texts, m_Ini, m_Forms, alarm, extraText};
     const std::int16_t status = source.Event().m_Status;
-    const std::string expanded =
-        ExpandConditionalForms(status == StatusMessage ? source.Event().GetCondition(0) : text, status);
+    const std::string expanded = ExpandConditionalForms(
+        status == StatusMessage ? source.Event().GetCondition(ConditionText) : text, status);
     cTextScan scan(expanded, '[', ']');
     cModifiers modifiers;
     while (!scan.AtEnd()) {

@@ -27,7 +27,7 @@ std::int16_t cLight::ScanDevices() {
     SkipFailure([&] { version = m_Services.library.DelcomGetDLLVersion(); });
     m_Services.state.m_DelcomDllVersion = version;
     if (version == 0) return 0;
-    m_Services.log.WriteLog(m_Services.texts.GetText(10027) + " " + NumberText(version));
+    m_Services.log.WriteLog(m_Services.texts.GetText(TextLightLibrary) + " " + NumberText(version));
     std::int16_t devices = 0;
     for (std::int32_t type = 1; type <= kDeviceTypes; ++type) {
         std::int32_t count = 0;
@@ -36,7 +36,7 @@ std::int16_t cLight::ScanDevices() {
         SkipFailure([&] { devices = ToInt16(static_cast<double>(count) + devices); });
         LogNames(type);
     }
-    if (devices == 0) m_Services.log.WriteLog(m_Services.texts.GetText(10046));
+    if (devices == 0) m_Services.log.WriteLog(m_Services.texts.GetText(TextNoLight));
     return devices;
 }
 
@@ -44,7 +44,7 @@ void cLight::LogNames(std::int32_t type) {
     for (std::int32_t index = 0; index < kMostDevices; ++index) {
         const std::string name = DeviceName(type, index);
         if (name.empty()) return;
-        m_Services.log.WriteLog(m_Services.texts.GetText(10047) + " (type " + std::to_string(type) +
+        m_Services.log.WriteLog(m_Services.texts.GetText(TextLightFound) + " (type " + std::to_string(type) +
                                 "): " + name);
     }
 }

@@ -12,7 +12,7 @@ namespace vigrel {
 namespace {
 
 const std::string& CategoryOf(const cVigrelRecieverAlarm& alarm) {
-    return alarm.m_Alarm.GetCondition(2);
+    return alarm.m_Alarm.GetCondition(ConditionCategory);
 }
 
 }  // namespace
@@ -74,7 +74,7 @@ std::int32_t cPopups::ShowPopup(const AlarmPtr& alarm) {
     window.SetLabelText(m_Services.expandEventText(*alarm, setting.m_EventPopupFormat, setting.m_ExtraText));
     SetColours(window, *alarm);
     SetFont(window);
-    m_Services.log.WriteLog(m_Services.texts.GetText(10043) + " " + alarm->SysLogText());
+    m_Services.log.WriteLog(m_Services.texts.GetText(TextPopupOpened) + " " + alarm->SysLogText());
     window.SetPictureVisible(alarm->m_Alarm.m_Status, true);
     SetPlace(window, size);
 

@@ -7,18 +7,16 @@
 namespace vigrel {
 namespace {
 
-// Values of m_SoundState.
-constexpr std::int16_t kSilent = 0, kPlayOnce = 1, kPlayingOnce = 2, kRepeatPause = 3, kRepeatPlaying = 4;
 // Values of m_EventSignal; any other is no signal.
 constexpr std::int16_t kSignalBeep = 1, kSignalOnce = 2, kSignalRepeated = 3;
 
 bool IsRepeating(std::int16_t state) {
-    return state == kRepeatPause || state == kRepeatPlaying;
+    return state == SoundRepeatPause || state == SoundRepeatPlaying;
 }
 
 // A single play that is running is left out: only the device's word ends it.
 bool WantsPlay(std::int16_t state) {
-    return state == kPlayOnce || IsRepeating(state);
+    return state == SoundPlayOnce || IsRepeating(state);
 }
 
 }  // namespace
@@ -53,9 +51,9 @@ void cSound::StartSignal(const cCategorySpecificSetting& setting) {
     if (setting.m_EventSignal == kSignalBeep) {
         SkipFailure([&] { m_Services.beeper.Beep(); });
     } else if (setting.m_EventSignal == kSignalOnce) {
-        if (!IsRepeating(state.m_SoundState)) state.m_SoundState = kPlayOnce;
+        if (!IsRepeating(state.m_SoundState)) state.m_SoundState = SoundPlayOnce;
     } else if (setting.m_EventSignal == kSignalRepeated) {
-        state.m_SoundState = kRepeatPause;
+        state.m_SoundState = SoundRepeatPause;
         // The pause counts as over, so that the first play starts at the next tick.
         state.m_SoundDelayCounter = m_Services.settings.m_EventSoundFileDelay;
     }
@@ -75,7 +73,7 @@ bool cSound::TickSound() {
 }
 
 void cSound::StopSilenced() {
-    if (m_Services.state.m_SoundState != kSilent || !m_SoundBusy) return;
+    if (m_Services.state.m_SoundState != SoundSilent || !m_SoundBusy) return;
     m_Services.timerPlay.SetEnabled(false);
     Command("Stop");
     m_SoundBusy = false;
@@ -102,20 +100,20 @@ void cSound::StartPlay() {
     Command("Play");
     m_Services.timerPlay.SetEnabled(true);
     std::int16_t& state = m_Services.state.m_SoundState;
-    if (state == kPlayOnce) state = kPlayingOnce;
-    if (state == kRepeatPause) state = kRepeatPlaying;
+    if (state == SoundPlayOnce) state = SoundPlayingOnce;
+    if (state == SoundRepeatPause) state = SoundRepeatPlaying;
 }
 
 void cSound::PlayHasEnded() {
     std::int16_t& state = m_Services.state.m_SoundState;
-    if (state == kPlayingOnce) state = kSilent;
-    if (state == kRepeatPlaying) state = kRepeatPause;
+    if (state == SoundPlayingOnce) state = SoundSilent;
+    if (state == SoundRepeatPlaying) state = SoundRepeatPause;
     m_SoundBusy = false;
 }
 
 void cSound::Menu_StopSound() {
-    m_Services.state.m_SoundState = kSilent;
-    m_Services.log.WriteLog(m_Services.texts.GetText(10044));
+    m_Services.state.m_SoundState = SoundSilent;
+    m_Services.log.WriteLog(m_Services.texts.GetText(TextSoundStopped));
 }
 
 void cSound::Shutdown() {

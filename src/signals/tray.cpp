@@ -73,7 +73,7 @@ void cTray::UpdateToolTip() {
 }
 
 void cTray::Click() {
-    if (m_Services.settings.m_EventSignalStopByNotifyClick) m_Services.state.m_SoundState = 0;
+    if (m_Services.settings.m_EventSignalStopByNotifyClick) m_Services.state.m_SoundState = SoundSilent;
 }
 
 void cTray::Open() {

@@ -8,7 +8,7 @@ namespace vigrel {
 void Vigrel_Receiver_Popup::Load() {
     m_PriorityIndex = kUnlistedPriority;
     const std::string object = cSettingReader(m_Services.ini, "General").Text("Object");
-    m_Window.SetCaption(m_Services.texts.GetText(10000) + " (" + object + ")");
+    m_Window.SetCaption(m_Services.texts.GetText(TextTitle) + " (" + object + ")");
     m_Services.state.m_PopupFormCount = ToInt16(m_Services.state.m_PopupFormCount + 1);
 }
 
@@ -26,21 +26,21 @@ void Vigrel_Receiver_Popup::Picture_Alarm_Click() {
     m_Window.Close();
 }
 
-void Vigrel_Receiver_Popup::LogClose(std::int32_t text) {
+void Vigrel_Receiver_Popup::LogClose(eText text) {
     m_Services.log.WriteLog(m_Services.texts.GetText(text) + " " + (m_Alarm ? m_Alarm->SysLogText() : ""));
 }
 
 void Vigrel_Receiver_Popup::Unload(const std::function<void()>& selectNext) {
     cReceiverState& state = m_Services.state;
     const bool last = state.m_PopupFormCount < 2;
-    if (!m_Services.settings.m_EventSignalUntilNoMorePopupForms || last) state.m_SoundState = 0;
+    if (!m_Services.settings.m_EventSignalUntilNoMorePopupForms || last) state.m_SoundState = SoundSilent;
     if (m_UnloadMode == eCloseReason::Control || m_UnloadMode == eCloseReason::Code) {
-        SkipFailure([&] { LogClose(10037); });
+        SkipFailure([&] { LogClose(TextPopupClosed); });
         if (m_Services.settings.m_AckEventWhenPopupFormIsClosed) {
             SkipFailure([&] { m_Services.ackAlarm(m_Alarm); });
         }
     } else {
-        SkipFailure([&] { LogClose(10038); });
+        SkipFailure([&] { LogClose(TextPopupClosedBySystem); });
     }
     SkipFailure(selectNext);
     --state.m_PopupFormCount;

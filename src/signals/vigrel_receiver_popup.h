@@ -60,7 +60,7 @@ class Vigrel_Receiver_Popup {
     eCloseReason m_UnloadMode = eCloseReason::Control;
 
   private:
-    void LogClose(std::int32_t text);
+    void LogClose(eText text);
 
     cPopupServices& m_Services;
 };

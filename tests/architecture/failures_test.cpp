@@ -4,17 +4,20 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <regex>
 #include <set>
 #include <string>
 
+#include "common/text_ids.h"
+
 namespace vigrel {
 namespace {
 
-// The files below src with a line that fits; tests may name the only ones.
-std::set<std::string> FilesWith(const std::string& pattern) {
+// The files below a folder with a line that fits; tests may name the only ones.
+std::set<std::string> FilesWith(const std::string& pattern, const std::string& folder = "src") {
     const std::regex expression(pattern);
-    const std::filesystem::path root = std::filesystem::path(VIGREL_PROJECT_DIR) / "src";
+    const std::filesystem::path root = std::filesystem::path(VIGREL_PROJECT_DIR) / folder;
     std::set<std::string> files;
     for (const auto& entry : std::filesystem::recursive_directory_iterator(root)) {
         const std::string extension = entry.path().extension().string();
@@ -55,6 +58,26 @@ TEST(Text, IsUnicodeInFewPlacesOfTheLogic) {
     EXPECT_EQ(logic, (std::set<std::string>{"common/code_page.cpp", "common/code_page.h",
                                             "common/path_text.cpp", "common/path_text.h",
                                             "common/printable.cpp", "schedule/public_holidays.cpp"}));
+}
+
+// A number says nothing of the text, and nobody finds who asks for it.
+TEST(Text, IsAskedForByName) {
+    for (const char* folder : {"src", "apps", "tools"}) {
+        EXPECT_EQ(FilesWith(R"(GetText\([^()]*\b[0-9])", folder), std::set<std::string>()) << folder;
+    }
+}
+
+TEST(Text, EveryNamedNumberIsAmongThoseThatLanguagesMustHave) {
+    std::ifstream file(std::filesystem::path(VIGREL_PROJECT_DIR) / "src/common/text_ids.h");
+    const std::string header{std::istreambuf_iterator<char>(file), {}};
+    const std::regex named(R"(Text\w+ = (\d+),)");
+    std::set<std::string> numbers;
+    for (std::sregex_iterator match(header.begin(), header.end(), named), end; match != end; ++match) {
+        numbers.insert((*match)[1]);
+    }
+    std::set<std::string> listed;
+    for (const int id : kTextIds) listed.insert(std::to_string(id));
+    EXPECT_EQ(numbers, listed);
 }
 
 }  // namespace

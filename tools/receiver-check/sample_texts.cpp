@@ -67,9 +67,9 @@ class cSamples {
         cVigrelRecieverAlarm alarm(m_Clock, kNoCategorySetting);
         alarm.m_Sender = "PLC1";
         alarm.m_Alarm.m_Status = status;
-        alarm.m_Alarm.SetCondition(0, "Fan 3 tripped");
+        alarm.m_Alarm.SetCondition(ConditionText, "Fan 3 tripped");
         alarm.m_Alarm.SetCondition(1, "Building A");
-        alarm.m_Alarm.SetCondition(2, category);
+        alarm.m_Alarm.SetCondition(ConditionCategory, category);
         for (std::int16_t i = 3; i <= 5; ++i) alarm.m_Alarm.SetCondition(i, "Text " + std::to_string(i));
         return cEventText(m_Settings, m_Texts, m_Installation.Ini(), m_Forms)
             .ExpandEventText(alarm, text, extraText);

@@ -28,8 +28,8 @@ bool cAlarmFilter::Wants(const cVigrelRecieverAlarm& alarm) const {
     if (from && Earlier(created, *from)) return false;
     if (before && !Earlier(created, *before)) return false;
     if (observed && (alarm.m_Observed != 0) != *observed) return false;
-    return IsOneOf(categories, alarm.m_Alarm.GetCondition(2)) && IsOneOf(senders, alarm.m_Sender) &&
-           IsOneOf(states, alarm.m_Alarm.m_Status);
+    return IsOneOf(categories, alarm.m_Alarm.GetCondition(ConditionCategory)) &&
+           IsOneOf(senders, alarm.m_Sender) && IsOneOf(states, alarm.m_Alarm.m_Status);
 }
 
 }  // namespace vigrel

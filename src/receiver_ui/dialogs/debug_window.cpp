@@ -22,7 +22,7 @@ cDebugWindow::cDebugWindow(cOpenWindows& windows, cProtocolTrace& trace, const c
       m_Trace(trace),
       m_Model(trace, texts),
       m_List(new QTableView(this)) {
-    cDebugWindow::SetCaption(texts.GetText(400));
+    cDebugWindow::SetCaption(texts.GetText(TextTraceTitle));
     AddMenu(texts);
     SetUpList();
     SetColumnWidths(settings);
@@ -40,7 +40,7 @@ cDebugWindow::~cDebugWindow() {
 }
 
 void cDebugWindow::AddMenu(const cTexts& texts) {
-    QMenu* file = menuBar()->addMenu(ToQString(texts.GetText(401)));
+    QMenu* file = menuBar()->addMenu(ToQString(texts.GetText(TextTraceFileMenu)));
     file->setObjectName("Menu_File");
     QAction* save = file->addAction("&Save to DEBUG.TXT");
     save->setObjectName("Menu_Save");

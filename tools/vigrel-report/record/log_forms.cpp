@@ -131,35 +131,35 @@ bool IsRuler(std::string_view text) {
 }  // namespace
 
 cLogPhrases PhrasesOf(const cTexts& texts) {
-    const auto text = [&](std::int32_t id, const char* before = "", const char* behind = "") {
+    const auto text = [&](eText id, const char* before = "", const char* behind = "") {
         return Around(before, TextOrNothing(texts, id), behind);
     };
     cLogPhrases p;
-    p.start = text(10040);
-    p.started = text(10011);
-    p.endBySession = text(10020);
-    p.endByOperator = text(10021);
-    p.acknowledged = text(10039, "", " ");
-    p.popupOpened = text(10043, "", " ");
-    p.popupClosed = text(10037, "", " ");
-    p.printFailed = text(10038, "", " ");
-    p.port = text(10017, "", " ");
-    p.light = text(10047, "", " (");
-    p.deleted = text(141, "", " ");
-    p.soundStopped = text(10044);
-    p.noLight = text(10046);
-    p.alarm = text(10030, " ", " ");
-    p.message = text(10042, " ", " -> ");
-    p.keepAlive = text(10028, " ");
-    p.unknownSender = text(10029);
-    p.removed = text(10036, " ");
-    p.loaded = text(10041, " ");
-    p.unsupervised = text(10012, " - ");
-    p.moreAlike = text(10048, " ");
-    p.supervised = text(10013, " - ", " ");
-    p.minutes = text(10014, " ");
-    p.lost = text(10031, " - ", " ");
-    p.neverHeard = text(10032, " - ");
+    p.start = text(TextProgramStart);
+    p.started = text(TextStartFinished);
+    p.endBySession = text(TextEndBySession);
+    p.endByOperator = text(TextEndByOperator);
+    p.acknowledged = text(TextAcknowledged, "", " ");
+    p.popupOpened = text(TextPopupOpened, "", " ");
+    p.popupClosed = text(TextPopupClosed, "", " ");
+    p.printFailed = text(TextPrintFailed, "", " ");
+    p.port = text(TextPortOpen, "", " ");
+    p.light = text(TextLightFound, "", " (");
+    p.deleted = text(TextLogDeleted, "", " ");
+    p.soundStopped = text(TextSoundStopped);
+    p.noLight = text(TextNoLight);
+    p.alarm = text(TextAlarmReceived, " ", " ");
+    p.message = text(TextMessageReceived, " ", " -> ");
+    p.keepAlive = text(TextKeepAlive, " ");
+    p.unknownSender = text(TextUnknownSender);
+    p.removed = text(TextAlarmsRemoved, " ");
+    p.loaded = text(TextAlarmsLoaded, " ");
+    p.unsupervised = text(TextNotSupervised, " - ");
+    p.moreAlike = text(TextMoreAlike, " ");
+    p.supervised = text(TextSupervised, " - ", " ");
+    p.minutes = text(TextMinutes, " ");
+    p.lost = text(TextSenderLost, " - ", " ");
+    p.neverHeard = text(TextSenderNeverHeard, " - ");
     return p;
 }
 
