@@ -27,7 +27,7 @@ struct cName {
 constexpr cName kNames[] = {
     {"Section", "Key"}, {"Section", "Other"}, {"Other", "Key"}, {"General", "Object"}};
 
-std::vector<std::string> Values(const cIni& ini) {
+std::vector<std::string> Values(const cIniReader& ini) {
     std::vector<std::string> values;
     for (const cName& name : kNames) values.push_back(ini.GetIniString(name.section, name.key, "default"));
     return values;

@@ -12,7 +12,7 @@ namespace {
 // One key of a section and state.
 class cStateKeys {
   public:
-    cStateKeys(const cIni& ini, std::string_view section, std::string_view suffix)
+    cStateKeys(const cIniReader& ini, std::string_view section, std::string_view suffix)
         : m_Ini(ini), m_Section(section), m_Suffix(suffix) {}
     // What another section has, when this one has nothing.
     std::string Text(std::string_view prefix, std::string_view inherited) const {
@@ -29,7 +29,7 @@ class cStateKeys {
   private:
     std::string Key(std::string_view prefix) const { return std::string(prefix) + std::string(m_Suffix); }
 
-    const cIni& m_Ini;
+    const cIniReader& m_Ini;
     std::string_view m_Section, m_Suffix;
 };
 
@@ -48,7 +48,7 @@ const cCategorySpecificSetting::cState& cCategorySpecificSetting::At(int status)
 }
 
 void cCategorySpecificSetting::GetStateSettings(std::size_t status, std::string_view sectionName,
-                                                const cState& parent, const cIni& ini) {
+                                                const cState& parent, const cIniReader& ini) {
     const cStateKeys keys(ini, sectionName, kStateSuffixes[status]);
     cState& state = m_States[status];
 
@@ -85,7 +85,7 @@ void cCategorySpecificSetting::GetStateSettings(std::size_t status, std::string_
 
 void cCategorySpecificSetting::GetSettings(std::string_view sectionName,
                                            const cCategorySpecificSetting* defaultCategorySetting,
-                                           const cIni& ini) {
+                                           const cIniReader& ini) {
     const cCategorySpecificSetting nothing;
     const cCategorySpecificSetting& parent =
         defaultCategorySetting != nullptr ? *defaultCategorySetting : nothing;
@@ -102,11 +102,11 @@ void cCategorySpecificSetting::GetSettings(std::string_view sectionName,
     m_ExtraText = ini.GetIniString(sectionName, "ExtraText", parent.m_ExtraText);
 }
 
-void cCategorySettings::ReadDefault(const cIni& ini) {
+void cCategorySettings::ReadDefault(const cIniReader& ini) {
     m_DefaultCategorySetting.GetSettings("General", nullptr, ini);
 }
 
-void cCategorySettings::ReadCategories(const cFileReader& files, const cIni& ini) {
+void cCategorySettings::ReadCategories(const cFileReader& files, const cIniReader& ini) {
     const cIniEntries sections = ReadIniEntries(files, "", kSectionNamesBuffer, ini.FullPath(kIniFile));
     for (const std::string& section : sections.entries) {
         if (!IsCategorySection(section)) continue;

@@ -47,7 +47,7 @@ class cCategorySpecificSetting {
     // object (or is 0 and empty without one), but for the signal light's keys, which are never inherited. A
     // step that fails is skipped.
     void GetSettings(std::string_view sectionName, const cCategorySpecificSetting* defaultCategorySetting,
-                     const cIni& ini);
+                     const cIniReader& ini);
 
   private:
     struct cState {
@@ -60,7 +60,7 @@ class cCategorySpecificSetting {
     };
     const cState& At(int status) const;
     void GetStateSettings(std::size_t status, std::string_view sectionName, const cState& parent,
-                          const cIni& ini);
+                          const cIniReader& ini);
 
     std::array<cState, 4> m_States;
 };
@@ -72,10 +72,10 @@ inline const cCategorySpecificSetting kNoCategorySetting;
 class cCategorySettings {
   public:
     // Reads section "General".
-    void ReadDefault(const cIni& ini);
+    void ReadDefault(const cIniReader& ini);
     // Reads all sections whose names begin with "CategorySpecificSetting_"; the names are read from the file
     // at the full path through a buffer of 8,192 characters.
-    void ReadCategories(const cFileReader& files, const cIni& ini);
+    void ReadCategories(const cFileReader& files, const cIniReader& ini);
     // The first object of the category, case apart, or the default object.
     const cCategorySpecificSetting& Find(std::string_view category) const;
 

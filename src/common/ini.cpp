@@ -88,10 +88,13 @@ std::optional<cIniKeyLine> ReadIniKeyLine(std::string_view line) {
     return cIniKeyLine{std::string(TrimSpace(trimmed.substr(0, equals))), std::string(value)};
 }
 
-cIni::cIni(cFiles& files, std::string applicationPath)
+cIniReader::cIniReader(const cFileReader& files, std::string applicationPath)
     : m_Files(files), m_ApplicationPath(std::move(applicationPath)) {}
 
-const cIni::cParsed& cIni::Parsed(std::string_view fileName) const {
+cIni::cIni(cFiles& files, std::string applicationPath)
+    : cIniReader(files, std::move(applicationPath)), m_Files(files) {}
+
+const cIniReader::cParsed& cIniReader::Parsed(std::string_view fileName) const {
     auto cached = m_Cache.find(fileName);
     if (cached == m_Cache.end()) cached = m_Cache.try_emplace(std::string(fileName)).first;
     cParsed& parsed = cached->second;
@@ -118,8 +121,8 @@ const cIni::cParsed& cIni::Parsed(std::string_view fileName) const {
     return parsed;
 }
 
-std::string cIni::GetIniString(std::string_view section, std::string_view key, std::string_view defaultValue,
-                               std::string_view fileName) const {
+std::string cIniReader::GetIniString(std::string_view section, std::string_view key,
+                                     std::string_view defaultValue, std::string_view fileName) const {
     const cParsed& parsed = Parsed(fileName);
     std::string_view value = defaultValue;
     if (const auto found = parsed.sections.find(TrimSpace(section)); found != parsed.sections.end()) {
@@ -127,6 +130,10 @@ std::string cIni::GetIniString(std::string_view section, std::string_view key, s
         if (entry != found->second.end()) value = entry->second;
     }
     return std::string(value.substr(0, kMostValueCharacters));
+}
+
+void cIniReader::Forget(std::string_view fileName) {
+    if (const auto cached = m_Cache.find(fileName); cached != m_Cache.end()) m_Cache.erase(cached);
 }
 
 void cIni::PutIniString(std::string_view section, std::string_view key, std::string_view value,
@@ -140,12 +147,12 @@ void cIni::PutIniString(std::string_view section, std::string_view key, std::str
     const std::string entry = std::string(key) + "=" + std::string(value);
     SkipFailure([&] { ReplaceFile(m_Files, path, WithKey(std::move(content), section, key, entry)); });
     // A file system may stamp two contents written in quick succession alike.
-    if (const auto cached = m_Cache.find(fileName); cached != m_Cache.end()) m_Cache.erase(cached);
+    Forget(fileName);
 }
 
 template <class Integer>
-Integer cIni::Number(std::string_view section, std::string_view key, std::string_view text,
-                     Integer (*convert)(double)) const {
+Integer cIniReader::Number(std::string_view section, std::string_view key, std::string_view text,
+                           Integer (*convert)(double)) const {
     Integer number{};
     if (const auto failure = CatchFailure([&] { number = convert(Val(text)); })) {
         throw cFailure(failure->Number(), FullPath(kIniFile) + ": key " + std::string(key) + " of section " +
@@ -155,10 +162,10 @@ Integer cIni::Number(std::string_view section, std::string_view key, std::string
     return number;
 }
 
-std::int16_t cIni::Int16(std::string_view section, std::string_view key, std::string_view text) const {
+std::int16_t cIniReader::Int16(std::string_view section, std::string_view key, std::string_view text) const {
     return Number(section, key, text, ToInt16);
 }
-std::int32_t cIni::Int32(std::string_view section, std::string_view key, std::string_view text) const {
+std::int32_t cIniReader::Int32(std::string_view section, std::string_view key, std::string_view text) const {
     return Number(section, key, text, ToInt32);
 }
 

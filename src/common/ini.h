@@ -28,17 +28,17 @@ struct cIniKeyLine {
 };
 std::optional<cIniKeyLine> ReadIniKeyLine(std::string_view line);
 
-// Reads and writes INI-shaped files of the application folder.
+// Reads INI-shaped files of the application folder.
 //
 // Sections and keys match without regard to case; of a repeated section or key only the first counts. A value
 // is what stands behind the first "=" without the blanks around it and without one pair of enclosing quotes.
 // Lines whose first non-blank is ";" are comments. Every read sees the file as it is now; an unchanged file
 // is not read again, and within one cIniMoment it is looked at once.
-class cIni {
+class cIniReader {
   public:
     // m_ApplicationPath ends in a backslash.
-    cIni(cFiles& files, std::string applicationPath);
-    virtual ~cIni() = default;
+    cIniReader(const cFileReader& files, std::string applicationPath);
+    virtual ~cIniReader() = default;
 
     const std::string& ApplicationPath() const { return m_ApplicationPath; }
     std::string FullPath(std::string_view fileName) const {
@@ -50,14 +50,15 @@ class cIni {
     virtual std::string GetIniString(std::string_view section, std::string_view key,
                                      std::string_view defaultValue,
                                      std::string_view fileName = kIniFile) const;
-    // Creates file, section and key as needed, and keeps every other line. A failed write is silent.
-    void PutIniString(std::string_view section, std::string_view key, std::string_view value,
-                      std::string_view fileName = kIniFile);
 
     // The number in the text of a key, rounded. One beyond the range throws cFailure (Overflow) that names
     // file, section, key and text: nobody finds a number without its key.
     std::int16_t Int16(std::string_view section, std::string_view key, std::string_view text) const;
     std::int32_t Int32(std::string_view section, std::string_view key, std::string_view text) const;
+
+  protected:
+    // The next read looks at the file again, whatever its stamp.
+    void Forget(std::string_view fileName);
 
   private:
     template <class Integer>
@@ -72,18 +73,30 @@ class cIni {
     };
     const cParsed& Parsed(std::string_view fileName) const;
 
-    cFiles& m_Files;
+    const cFileReader& m_Files;
     std::string m_ApplicationPath;
     mutable std::map<std::string, cParsed, cLessNoCase> m_Cache;
     mutable int m_Moments = 0;           // how many are open, one within the other
     mutable std::uint64_t m_Moment = 0;  // the number of the outermost one
 };
 
+// Writes them too.
+class cIni : public cIniReader {
+  public:
+    cIni(cFiles& files, std::string applicationPath);
+    // Creates file, section and key as needed, and keeps every other line. A failed write is silent.
+    void PutIniString(std::string_view section, std::string_view key, std::string_view value,
+                      std::string_view fileName = kIniFile);
+
+  private:
+    cFiles& m_Files;
+};
+
 // One moment in the life of the system, such as the arrival of an alarm: while it lasts, all keys come from
 // the files as they were when the first of them was read. The next moment sees an edit.
 class cIniMoment {
   public:
-    explicit cIniMoment(const cIni& ini) : m_Ini(ini) {
+    explicit cIniMoment(const cIniReader& ini) : m_Ini(ini) {
         if (m_Ini.m_Moments++ == 0) ++m_Ini.m_Moment;
     }
     ~cIniMoment() { --m_Ini.m_Moments; }
@@ -91,7 +104,7 @@ class cIniMoment {
     cIniMoment& operator=(const cIniMoment&) = delete;
 
   private:
-    const cIni& m_Ini;
+    const cIniReader& m_Ini;
 };
 
 // Reads section names (an empty section), or the lines of one section, from a file into the caller's buffer,

@@ -61,7 +61,7 @@ const cSettingKey* FindSettingKey(std::string_view section, std::string_view nam
 // default. A key that the table does not have throws cFailure (InvalidCall).
 class cSettingReader {
   public:
-    cSettingReader(const cIni& ini, std::string_view section) : m_Ini(ini), m_Section(section) {}
+    cSettingReader(const cIniReader& ini, std::string_view section) : m_Ini(ini), m_Section(section) {}
 
     std::string Text(std::string_view key) const;
     bool Flag(std::string_view key) const { return Decimal(key) == 1; }
@@ -71,7 +71,7 @@ class cSettingReader {
     std::int32_t Int32(std::string_view key) const { return m_Ini.Int32(m_Section, key, Text(key)); }
 
   private:
-    const cIni& m_Ini;
+    const cIniReader& m_Ini;
     std::string m_Section;
 };
 

@@ -18,7 +18,7 @@ inline constexpr std::string_view kTextFile = "Vigrel_Texts.";
 class cTexts {
   public:
     // Without delivered texts the file alone counts.
-    cTexts(const cFileReader& files, const cIni& ini, const cDeliveredTexts* delivered = nullptr)
+    cTexts(const cFileReader& files, const cIniReader& ini, const cDeliveredTexts* delivered = nullptr)
         : m_Files(files), m_Ini(ini), m_Delivered(delivered) {}
 
     // Reads the file of the language that the settings name. False when no language is set or its file is
@@ -37,7 +37,7 @@ class cTexts {
     void TakeLine(const std::string& line);
 
     const cFileReader& m_Files;
-    const cIni& m_Ini;
+    const cIniReader& m_Ini;
     const cDeliveredTexts* m_Delivered;
     std::string m_Problem;
     std::unordered_map<std::int32_t, std::string> m_Texts;  // of lines with one id the first

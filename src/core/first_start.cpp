@@ -24,11 +24,11 @@ struct cShare {
 };
 constexpr std::array<cShare, 3> kShares{{{"t0", 50}, {"t1", 20}, {"t4", 30}}};
 
-int ColumnWidth(const cIni& ini, std::string_view column) {
+int ColumnWidth(const cIniReader& ini, std::string_view column) {
     return static_cast<int>(Val(ini.GetIniString(column, "ColumnWidth", "100")));
 }
 
-int WidthOfAllColumns(const cIni& ini) {
+int WidthOfAllColumns(const cIniReader& ini) {
     const std::string columns = ini.GetIniString("General", "Columns", "");
     int width = 0;
     for (std::int16_t i = 0; !GetField(columns, i, ",").empty(); ++i) {

@@ -19,7 +19,7 @@ void SaveFormGeometry(const cWindow& form, cIni& ini) {
     put("Width", form.Width());
 }
 
-void RestoreFormGeometry(cWindow& form, const cIni& ini, const cScreen& screen) {
+void RestoreFormGeometry(cWindow& form, const cIniReader& ini, const cScreen& screen) {
     const cSettingReader general(ini, "General");
     const auto stored = [&](const std::string& key) { return general.Decimal(form.Name() + "." + key); };
     SkipFailure([&] { form.SetTop(stored("Top")); });

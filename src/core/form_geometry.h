@@ -10,6 +10,6 @@ namespace vigrel {
 void SaveFormGeometry(const cWindow& form, cIni& ini);
 // Brings a window that would reach beyond the screen, or stood on one that is gone, back into view; its size
 // is left as it was. Steps that fail are skipped.
-void RestoreFormGeometry(cWindow& form, const cIni& ini, const cScreen& screen);
+void RestoreFormGeometry(cWindow& form, const cIniReader& ini, const cScreen& screen);
 
 }  // namespace vigrel

@@ -40,7 +40,7 @@ void ReadGeneral(const cSettingReader& general, cSettings& s, const std::functio
 
 }  // namespace
 
-void ReadSettings(const cIni& ini, cSettings& settings, const std::function<void()>& fontRead) {
+void ReadSettings(const cIniReader& ini, cSettings& settings, const std::function<void()>& fontRead) {
     const cSettingReader general(ini, "General");
     const cSettingReader printer(ini, "Printer");
     settings.m_MaxEvents = general.Int32("MaxEvents");
@@ -52,11 +52,11 @@ void ReadSettings(const cIni& ini, cSettings& settings, const std::function<void
     settings.m_KeepForDays = general.Int16("KeepForDays");
 }
 
-std::int32_t ReadPort(const cIni& ini) {
+std::int32_t ReadPort(const cIniReader& ini) {
     return cSettingReader(ini, "TCPIP").Int32("Port");
 }
 
-std::string ReadAddress(const cIni& ini) {
+std::string ReadAddress(const cIniReader& ini) {
     return Trim(cSettingReader(ini, "TCPIP").Text("Address"));
 }
 

@@ -12,10 +12,10 @@ namespace vigrel {
 // Reads the settings of sections "General" and "Printer" (but for the columns', which the list reads). A flag
 // is true only when its number is exactly 1. A number beyond its range throws cFailure (Overflow) that names
 // file, key and value. fontRead is called as soon as the list's font is known.
-void ReadSettings(const cIni& ini, cSettings& settings, const std::function<void()>& fontRead);
+void ReadSettings(const cIniReader& ini, cSettings& settings, const std::function<void()>& fontRead);
 
 // The listening port, and the number of the address that it is opened at; empty: at all of them.
-std::int32_t ReadPort(const cIni& ini);
-std::string ReadAddress(const cIni& ini);
+std::int32_t ReadPort(const cIniReader& ini);
+std::string ReadAddress(const cIniReader& ini);
 
 }  // namespace vigrel

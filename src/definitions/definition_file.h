@@ -32,7 +32,7 @@ struct cDefinitionServices {
     cRandom& random;
     const cTexts& texts;
     cLog& log;
-    const cIni& ini;
+    const cIniReader& ini;
     const cReceiverTypes& receiverTypes;
     // Whether "@" in the name of a profile parts a parent from its child.
     bool m_ProfileNesting = false;

@@ -26,7 +26,7 @@ eVariantType TypeFromWord(std::string_view word) {
 
 }  // namespace
 
-SettingForms ReadSettingForms(const cIni& ini, const cReceiverType& type) {
+SettingForms ReadSettingForms(const cIniReader& ini, const cReceiverType& type) {
     SettingForms forms;
     if (type.m_SettingsFile.empty()) return forms;
     for (std::size_t i = 0; i < forms.size(); ++i) {

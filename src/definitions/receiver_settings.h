@@ -20,6 +20,6 @@ using SettingForms = std::array<cSettingForm, cReceiver::kSettings>;
 // The forms of a type, from the keys "Setting0" to "Setting3" (captions) and "Setting0Type" to "Setting3Type"
 // of section "ReceiverTypeSettings" in the type's settings file (docs/formats/receiver-types.md). A type word
 // that isn't known means a text.
-SettingForms ReadSettingForms(const cIni& ini, const cReceiverType& type);
+SettingForms ReadSettingForms(const cIniReader& ini, const cReceiverType& type);
 
 }  // namespace vigrel

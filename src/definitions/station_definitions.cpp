@@ -18,7 +18,7 @@ bool Lists(const std::string& receivers, std::int16_t identity) {
 }  // namespace
 
 cStationDefinitions::cStationDefinitions(cFiles& files, const cClock& clock, cRandom& random,
-                                         const cTexts& texts, const cIni& ini)
+                                         const cTexts& texts, const cIniReader& ini)
     : m_Log(files, clock, texts, ini.ApplicationPath()), m_Services{files, clock, random, texts,
                                                                     m_Log, ini,   m_Types} {
     m_Services.m_OnNote = [this](const cDefinitionNote& note) { m_Notes.push_back(note); };

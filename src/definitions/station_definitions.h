@@ -20,7 +20,7 @@ class cStationDefinitions {
   public:
     // What is handed in outlives the object. The ini's application path is the folder.
     cStationDefinitions(cFiles& files, const cClock& clock, cRandom& random, const cTexts& texts,
-                        const cIni& ini);
+                        const cIniReader& ini);
     cStationDefinitions(const cStationDefinitions&) = delete;
     cStationDefinitions& operator=(const cStationDefinitions&) = delete;
 

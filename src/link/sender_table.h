@@ -36,7 +36,7 @@ class cSenderTable {
         const cFileReader& files;
         const cClock& clock;
         const cAlarmMaker& maker;
-        const cIni& ini;
+        const cIniReader& ini;
         const cTexts& texts;
         cLog& log;
         const cSettings& settings;

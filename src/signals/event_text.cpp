@@ -26,7 +26,7 @@ constexpr char kModifierEnd = '\xFF';
 struct cSource {
     const cSettings& settings;
     const cTexts& texts;
-    const cIni& ini;
+    const cIniReader& ini;
     const cLocaleForms& forms;
     const cVigrelRecieverAlarm& alarm;
     std::string_view extraText;

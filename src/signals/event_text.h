@@ -22,7 +22,8 @@ namespace vigrel {
 // not expanded. A token that is none of these stays as it stands. There is no escape character.
 class cEventText {
   public:
-    cEventText(const cSettings& settings, const cTexts& texts, const cIni& ini, const cLocaleForms& forms)
+    cEventText(const cSettings& settings, const cTexts& texts, const cIniReader& ini,
+               const cLocaleForms& forms)
         : m_Settings(settings), m_Texts(texts), m_Ini(ini), m_Forms(forms) {}
 
     // The text that a person reads. A message (status 3) is its own template: its condition 0 is expanded in
@@ -35,7 +36,7 @@ class cEventText {
   private:
     const cSettings& m_Settings;
     const cTexts& m_Texts;
-    const cIni& m_Ini;
+    const cIniReader& m_Ini;
     const cLocaleForms& m_Forms;
 };
 

@@ -21,7 +21,7 @@ namespace vigrel {
 struct cPopupServices {
     const cSettings& settings;
     cReceiverState& state;
-    const cIni& ini;
+    const cIniReader& ini;
     const cTexts& texts;
     cLog& log;
     const cClock& clock;

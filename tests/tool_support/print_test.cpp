@@ -2,10 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "common/failure.h"
-#include "support/fake_files.h"
 #include "tool_support/json.h"
-#include "tool_support/read_only_files.h"
 
 namespace vigrel {
 namespace {
@@ -19,17 +16,6 @@ TEST(JsonList, HasALineForEachItem) {
     const auto write = [](int number) { return std::to_string(number); };
     EXPECT_EQ(JsonList(std::vector<int>{}, write), "[]");
     EXPECT_EQ(JsonList(std::vector{1, 2}, write), "[\n    1,\n    2\n  ]");
-}
-
-TEST(ReadOnlyFiles, PassReadsOnAndRefuseTheRest) {
-    testing::cFakeFiles files;
-    files.Put("C:\\App\\a.txt", "content");
-    cReadOnlyFiles readOnly(files);
-    EXPECT_EQ(readOnly.ReadFile("C:\\App\\a.txt"), "content");
-    const auto failure = CatchFailure([&] { readOnly.WriteFile("C:\\App\\a.txt", "", true); });
-    ASSERT_TRUE(failure);
-    EXPECT_EQ(failure->Number(), eFailure::PermissionDenied);
-    EXPECT_EQ(files.m_Calls, 0);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "common/failure.h"
 #include "common/numbers.h"
 #include "common/setting_keys.h"
 

@@ -9,7 +9,6 @@
 #include "common/ini.h"
 #include "receiver-check/finding.h"
 #include "receiver-check/ini_document.h"
-#include "tool_support/read_only_files.h"
 
 namespace vigrel {
 
@@ -20,7 +19,7 @@ class cInstallation {
     cInstallation(const cFileReader& files, std::string applicationPath);
 
     const cFileReader& Files() const { return m_Files; }
-    const cIni& Ini() const { return m_Ini; }
+    const cIniReader& Ini() const { return m_Ini; }
     const std::string& Path() const { return m_Ini.ApplicationPath(); }
     std::string IniPath() const { return m_Ini.FullPath(kIniFile); }
     const cCategorySettings& Categories() const { return m_Categories; }
@@ -43,8 +42,8 @@ class cInstallation {
     static cPlace WholeFile() { return {std::string(kIniFile), 0, "", "", ""}; }
 
   private:
-    cReadOnlyFiles m_Files;
-    cIni m_Ini;
+    const cFileReader& m_Files;
+    cIniReader m_Ini;
     cCategorySettings m_Categories;
     bool m_Configured = false;
     std::string m_Content;

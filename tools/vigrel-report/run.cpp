@@ -1,7 +1,6 @@
 #include "vigrel-report/run.h"
 
 #include "common/setting_keys.h"
-#include "tool_support/read_only_files.h"
 #include "vigrel-report/page/writers.h"
 
 namespace vigrel::report {
@@ -9,8 +8,7 @@ namespace {
 
 eLanguage LanguageOf(const cOptions& options, const cFileReader& files, const std::string& folder) {
     if (options.language) return *options.language;
-    cReadOnlyFiles readOnly(files);
-    const cIni ini(readOnly, folder);
+    const cIniReader ini(files, folder);
     return LanguageFromNumber(cSettingReader(ini, "General").Text("Language")).value_or(eLanguage::English);
 }
 

@@ -15,7 +15,7 @@ constexpr double Days(Duration duration) {
 
 }  // namespace
 
-cLinuxPrinterPorts::cLinuxPrinterPorts(const cIni& ini, const cClock& clock, Report report,
+cLinuxPrinterPorts::cLinuxPrinterPorts(const cIniReader& ini, const cClock& clock, Report report,
                                        std::string deviceFolder)
     : m_Ini(ini), m_Clock(clock), m_Report(std::move(report)), m_DeviceFolder(std::move(deviceFolder)) {}
 

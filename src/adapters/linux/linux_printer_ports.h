@@ -28,7 +28,7 @@ class cLinuxPrinterPorts : public cPrinterPorts {
 
     // report gets a line of text whenever the state of a port changes for the worse or the better.
     using Report = std::function<void(const std::string& text)>;
-    cLinuxPrinterPorts(const cIni& ini, const cClock& clock, Report report = nullptr,
+    cLinuxPrinterPorts(const cIniReader& ini, const cClock& clock, Report report = nullptr,
                        std::string deviceFolder = "/dev");
 
     std::int16_t SendPRN(std::string_view line, std::int16_t port) override;
@@ -48,7 +48,7 @@ class cLinuxPrinterPorts : public cPrinterPorts {
     PrintProblem Print(cPort& port, std::string_view line);
     void Tell(cPort& port, int number, const PrintProblem& problem);
 
-    const cIni& m_Ini;
+    const cIniReader& m_Ini;
     const cClock& m_Clock;
     Report m_Report;
     std::string m_DeviceFolder;

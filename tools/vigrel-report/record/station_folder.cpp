@@ -8,7 +8,6 @@
 #include "common/numbers.h"
 #include "common/setting_keys.h"
 #include "common/text.h"
-#include "tool_support/read_only_files.h"
 #include "tool_support/stored_alarms.h"
 #include "vigrel-report/record/log_reader.h"
 
@@ -20,10 +19,10 @@ constexpr std::size_t kSectionBuffer = 1 << 16;
 
 // Settings whose language is the one that is asked for, so that every text file can be loaded as the station
 // does.
-class cOneLanguage : public cIni {
+class cOneLanguage : public cIniReader {
   public:
-    cOneLanguage(cFiles& files, std::string folder, std::string number)
-        : cIni(files, std::move(folder)), m_Number(std::move(number)) {}
+    cOneLanguage(const cFileReader& files, std::string folder, std::string number)
+        : cIniReader(files, std::move(folder)), m_Number(std::move(number)) {}
     std::string GetIniString(std::string_view, std::string_view, std::string_view,
                              std::string_view) const override {
         return m_Number;
@@ -92,8 +91,7 @@ class cFolderReader {
     }
 
     void ReadConfiguration() {
-        cReadOnlyFiles readOnly(m_Files);
-        const cIni ini(readOnly, m_Folder);
+        const cIniReader ini(m_Files, m_Folder);
         const cSettingReader general(ini, "General");
         SkipFailure([&] {
             m_Record.name = general.Text("Object");
@@ -174,15 +172,14 @@ class cFolderReader {
 }  // namespace
 
 std::vector<cLogPhrases> ReadPhrases(const cFileReader& files, const std::string& folder) {
-    cReadOnlyFiles readOnly(files);
     std::vector<std::string> names = files.ListFiles(folder, std::string(kTextFile) + "???");
     std::sort(names.begin(), names.end());
     std::vector<cLogPhrases> phrases;
     for (const std::string& name : names) {
         const std::string number = name.substr(kTextFile.size());
         if (!IsNumeric(number)) continue;
-        const cOneLanguage ini(readOnly, folder, number);
-        cTexts texts(readOnly, ini);
+        const cOneLanguage ini(files, folder, number);
+        cTexts texts(files, ini);
         bool loaded = false;
         SkipFailure([&] { loaded = texts.LoadTexts(); });
         if (loaded) phrases.push_back(PhrasesOf(texts));
