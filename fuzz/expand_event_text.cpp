@@ -4,6 +4,7 @@
 #include "fuzz/fuzz_target.h"
 
 #include "common/numbers.h"
+#include "common/text.h"
 #include "signals/conditional_forms.h"
 #include "signals/event_text_station.h"
 #include "signals/templates_by_the_word.h"
@@ -13,7 +14,6 @@ namespace {
 
 using namespace vigrel;
 
-constexpr std::size_t kLastPosition = 32767;
 
 void CheckForms(const std::string& text, std::int16_t status) {
     const std::string expanded = ExpandConditionalForms(text, status);

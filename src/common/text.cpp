@@ -10,18 +10,20 @@
 namespace vigrel {
 namespace {
 
-constexpr std::size_t kLastPosition = 32767;
-
-// Position (from 1) of find at or behind start, 0 for none; positions are 16 bits wide.
+// Position of find at or behind start, 0 for none.
 std::size_t FindFrom(std::string_view text, std::string_view find, std::size_t start) {
     if (start > text.size() + 1) return 0;
     const std::size_t found = text.find(find, start - 1);
     if (found == std::string_view::npos) return 0;
-    if (found + 1 > kLastPosition) throw cFailure(eFailure::Overflow, "a text position is beyond 32767");
-    return found + 1;
+    return static_cast<std::size_t>(PositionAt(found));
 }
 
 }  // namespace
+
+std::int16_t PositionAt(std::size_t offset) {
+    if (offset >= kLastPosition) throw cFailure(eFailure::Overflow, "a text position is beyond 32767");
+    return static_cast<std::int16_t>(offset + 1);
+}
 
 std::string Trim(std::string_view text) {
     const std::size_t first = text.find_first_not_of(' ');
@@ -86,8 +88,7 @@ void ReplaceText(std::string& text, std::string_view find, std::string_view repl
     std::size_t from = 0;
     for (std::size_t found = text.find(find); found != std::string::npos; found = text.find(find, from)) {
         out.append(text, from, found - from);
-        if (out.size() + 1 > kLastPosition)
-            throw cFailure(eFailure::Overflow, "a text position is beyond 32767");
+        PositionAt(out.size());
         out.append(replacement);
         from = found + find.size();
     }

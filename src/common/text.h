@@ -9,6 +9,12 @@ namespace vigrel {
 
 // Text is a sequence of single-byte characters of the code page (common/code_page.h). Positions count from 1.
 
+// Positions that a search gives are 16 bits wide: what begins behind this one is not found. A step that would
+// need it fails with Overflow, and who skips failures goes on as if nothing were there.
+inline constexpr std::size_t kLastPosition = 32767;
+// The position of an offset from 0; throws cFailure (Overflow) behind the last one.
+std::int16_t PositionAt(std::size_t offset);
+
 // Without the blanks (character 32) at its beginning and end.
 std::string Trim(std::string_view text);
 bool EqualsNoCase(std::string_view a, std::string_view b);

@@ -4,13 +4,15 @@
 #include <string>
 #include <string_view>
 
+#include "common/text.h"
+
 namespace vigrel {
 
 // One walk from left to right over a template, which is rewritten on the way. The work is that of reading the
 // text once, however many brackets it holds.
 //
-// Positions count in the text as it stands with the replacements made so far and are 16 bits wide: what
-// stands behind position 32,767 is neither looked at nor found, and stays as it is.
+// Positions count in the text as it stands with the replacements made so far: what stands behind the last
+// one is neither looked at nor found, and stays as it is.
 class cTextScan {
   public:
     cTextScan(std::string_view text, char open, char close);
@@ -43,7 +45,6 @@ class cTextScan {
         char m_Character;
         std::size_t m_Found;
     };
-    static constexpr std::size_t kLastPosition = 32767;
 
     std::string_view m_Text;
     std::size_t m_From = 0;  // what stands in front of it has been moved to m_Out

@@ -12,8 +12,6 @@
 namespace vigrel {
 namespace {
 
-constexpr std::size_t kLastPosition = 32767;
-
 std::string ApplyRange(std::string value, const std::string& range) {
     if (range.empty()) return value;
     std::int16_t from = 0;
@@ -36,10 +34,12 @@ std::string ApplyWidth(std::string value, const std::string& width) {
     return value;
 }
 
-// Position of the first occurrence, case apart; 0 for none that a 16-bit position can tell.
+// Position of the first occurrence, case apart; 0 for none that a position can tell.
 std::int16_t FirstPosition(std::string_view value, std::string_view find) {
     const std::size_t found = ToUpper(value).find(ToUpper(find));
-    return found < kLastPosition ? static_cast<std::int16_t>(found + 1) : std::int16_t{0};
+    std::int16_t position = 0;
+    SkipFailure([&] { position = PositionAt(found); });
+    return position;
 }
 
 std::string CutUntil(std::string value, std::string_view find, const std::string& offset) {
