@@ -143,6 +143,11 @@ std::string Digits(std::int64_t value, int width) {
     return digits;
 }
 
+std::string LastDigits(std::string_view digits, std::size_t count) {
+    const std::string padded = std::string(count, '0') + std::string(digits);
+    return padded.substr(padded.size() - count);
+}
+
 std::string HexText(std::uint32_t value) {
     std::array<char, 8> buffer{};
     const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, 16);

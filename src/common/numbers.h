@@ -25,6 +25,9 @@ std::string NumberText(double value);
 std::string SingleText(float value);
 // Decimal digits with leading zeros to at least that many characters: Digits(7, 3) is "007".
 std::string Digits(std::int64_t value, int width);
+// The last count characters of zeros with the digits behind them: LastDigits("1234", 2) is "34",
+// LastDigits("7", 2) is "07".
+std::string LastDigits(std::string_view digits, std::size_t count);
 // Upper-case hexadecimal without leading zeros.
 std::string HexText(std::uint32_t value);
 

@@ -111,8 +111,7 @@ std::int16_t TimeTextToMinutes(std::string_view text) {
     } else {
         std::string digits(text);
         if (!digits.empty() && digits[0] != '0' && digits.size() < 3) digits += "00";
-        digits = "0000" + digits;
-        digits = digits.substr(digits.size() - 4);
+        digits = LastDigits(digits, 4);
         minutes = 60 * Val(digits.substr(0, 2)) + Val(digits.substr(2, 2));
     }
     return ToInt16(std::clamp(RoundEven(minutes), 0.0, 1440.0));

@@ -99,8 +99,7 @@ void RequireComplete(const cBinaryReader& file) {
 
 std::string DefinitionFileName(const cDefinitionServices& services, const cDefinitionKind& kind,
                                std::int16_t diskIdentity) {
-    const std::string digits = "0000" + std::to_string(diskIdentity);
-    return services.ini.FullPath(kind.folderAndStem) + digits.substr(digits.size() - 4) + ".dat";
+    return services.ini.FullPath(kind.folderAndStem) + LastDigits(std::to_string(diskIdentity), 4) + ".dat";
 }
 
 std::vector<std::int16_t> DefinitionIdentities(const cDefinitionServices& services,

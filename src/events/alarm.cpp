@@ -48,8 +48,7 @@ void cAlarm::CopyFromOtherObject(const cAlarm& copyObject) {
 }
 
 std::string cAlarm::ViewEventIdAsHex() const {
-    const std::string hex = "0000" + HexText(static_cast<std::uint32_t>(m_EventId));
-    return hex.substr(hex.size() - 4);
+    return LastDigits(HexText(static_cast<std::uint32_t>(m_EventId)), 4);
 }
 
 void cAlarm::SetCondition(int conditionNumber, std::string_view newCondition) {

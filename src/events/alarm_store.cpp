@@ -19,8 +19,7 @@ constexpr std::string_view kMask = "A???????.Alm";
 constexpr double kLargestFileId = 9'999'999;
 
 std::string OwnName(std::int32_t fileId) {
-    const std::string number = "00000000" + std::to_string(fileId);
-    return "A" + number.substr(number.size() - 7) + ".alm";
+    return "A" + LastDigits(std::to_string(fileId), 7) + ".alm";
 }
 
 int CompareTimes(DateTime a, DateTime b) {

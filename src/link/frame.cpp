@@ -8,8 +8,7 @@ namespace vigrel {
 std::string CalcChecksum(std::string_view text) {
     unsigned sum = 0;
     for (const char character : text) sum = (sum + static_cast<unsigned>(Code(character))) % 256;
-    const std::string hex = "00" + HexText(sum);
-    return hex.substr(hex.size() - 2);
+    return LastDigits(HexText(sum), 2);
 }
 
 std::string MakeFrame(std::string_view sender, std::string_view second) {
