@@ -206,6 +206,14 @@ void NoteNotUpgraded(const cDefinitionServices& services, const cDefinitionKind&
     services.m_OnNote({eNote::NotUpgraded, DefinitionFileName(services, kind, identity)});
 }
 
+std::size_t CheckedIndex(std::int16_t index, int count, const char* what) {
+    if (index < 0 || index >= count) {
+        throw cFailure(eFailure::OutOfBounds, std::string(what) + " " + std::to_string(index) +
+                                                  " is not one of 0 to " + std::to_string(count - 1));
+    }
+    return static_cast<std::size_t>(index);
+}
+
 bool RemoveDefinition(const cDefinitionServices& services, const cDefinitionKind& kind, std::int16_t identity,
                       std::string_view name) {
     const std::string fileName = DefinitionFileName(services, kind, identity);

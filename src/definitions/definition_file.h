@@ -98,6 +98,30 @@ bool SaveDefinition(const cDefinitionServices& services, const cDefinitionKind& 
 // Tells, without a line of the log of its own, that an upgraded file could not be written.
 void NoteNotUpgraded(const cDefinitionServices& services, const cDefinitionKind& kind, std::int16_t identity);
 
+// Loads and saves an object that is kept in such a file. A file of an older version is saved in the current
+// one at once. What was loaded or saved last is the object's original from then on.
+template <class Definition>
+bool LoadObject(const cDefinitionServices& services, Definition& object, std::int16_t diskIdentity,
+                const std::function<void(cBinaryReader&, std::int16_t version)>& readRecord) {
+    const cLoadResult result =
+        LoadDefinition(services, Definition::kKind, diskIdentity, object.m_DiskIdentity, readRecord);
+    if (result.outdated && !object.SaveToDisk()) NoteNotUpgraded(services, Definition::kKind, diskIdentity);
+    object.RememberOriginalSettings();
+    return result.loaded;
+}
+template <class Definition>
+bool SaveObject(const cDefinitionServices& services, Definition& object,
+                const std::function<void(cBinaryWriter&)>& writeRecord) {
+    const bool saved = SaveDefinition(services, Definition::kKind, object.m_DiskIdentity,
+                                      object.m_HasUpdatedDiskIdentity, writeRecord);
+    if (saved) object.RememberOriginalSettings();
+    return saved;
+}
+
+// An index of a definition's own arrays; throws cFailure (OutOfBounds) that says what has none of that
+// number.
+std::size_t CheckedIndex(std::int16_t index, int count, const char* what);
+
 bool RemoveDefinition(const cDefinitionServices& services, const cDefinitionKind& kind, std::int16_t identity,
                       std::string_view name);
 

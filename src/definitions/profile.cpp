@@ -8,14 +8,6 @@
 namespace vigrel {
 namespace {
 
-std::size_t CheckedIndex(std::int16_t index, int count, const char* what) {
-    if (index < 0 || index >= count) {
-        throw cFailure(eFailure::OutOfBounds, std::string(what) + " " + std::to_string(index) +
-                                                  " is not one of 0 to " + std::to_string(count - 1));
-    }
-    return static_cast<std::size_t>(index);
-}
-
 // The text form by which schedules are copied and compared; empty for none.
 std::string PeriodText(const std::unique_ptr<cTimeSchedule>& schedule) {
     std::string text;
@@ -30,6 +22,74 @@ std::unique_ptr<cTimeSchedule> CopyOf(const std::unique_ptr<cTimeSchedule>& sche
     return copy;
 }
 
+// Bytes of the record that carry nothing.
+struct cGap {
+    std::size_t bytes;
+};
+
+void ReadValue(cBinaryReader& file, std::int16_t& value) {
+    value = file.Int16();
+}
+void ReadValue(cBinaryReader& file, std::string& value) {
+    value = file.String();
+}
+template <class Value, std::size_t Size>
+void ReadValue(cBinaryReader& file, std::array<Value, Size>& values) {
+    for (Value& value : values) ReadValue(file, value);
+}
+void WriteValue(cBinaryWriter& file, std::int16_t value) {
+    file.Int16(value);
+}
+void WriteValue(cBinaryWriter& file, const std::string& value) {
+    file.String(value);
+}
+template <class Value, std::size_t Size>
+void WriteValue(cBinaryWriter& file, const std::array<Value, Size>& values) {
+    for (const Value& value : values) WriteValue(file, value);
+}
+
+// What happens to a field of a record, and to a gap.
+struct cReadField {
+    cBinaryReader& file;
+    cProfile& profile;
+    void operator()(cGap gap) const { file.Skip(gap.bytes); }
+    template <class Value>
+    void operator()(Value cProfile::*field) const {
+        ReadValue(file, profile.*field);
+    }
+};
+struct cWriteField {
+    cBinaryWriter& file;
+    const cProfile& profile;
+    void operator()(cGap gap) const { file.Zeros(gap.bytes); }
+    template <class Value>
+    void operator()(Value cProfile::*field) const {
+        WriteValue(file, profile.*field);
+    }
+};
+struct cCopyField {
+    const cProfile& from;
+    cProfile& to;
+    void operator()(cGap) const {}
+    template <class Value>
+    void operator()(Value cProfile::*field) const {
+        to.*field = from.*field;
+    }
+};
+struct cSameField {
+    const cProfile &a, &b;
+    bool operator()(cGap) const { return true; }
+    template <class Value>
+    bool operator()(Value cProfile::*field) const {
+        return a.*field == b.*field;
+    }
+};
+
+template <class Fields, class Step>
+void ForEachField(const Fields& fields, const Step& step) {
+    std::apply([&](const auto&... field) { (step(field), ...); }, fields);
+}
+
 }  // namespace
 
 constexpr cDefinitionKind cProfile::kKind = {.folderAndStem = "Profiles\\Profile_",
@@ -42,31 +102,24 @@ constexpr cDefinitionKind cProfile::kKind = {.folderAndStem = "Profiles\\Profile
                                              .textRemoveFailed = TextProfileRemoval,
                                              .namesFileByNumber = false};
 
-template <class Profile>
-auto cProfile::Fields(Profile& p) {
-    return std::tie(p.m_Name, p.m_Enabled, p.m_ParentName, p.m_NestingLevels, p.m_State, p.m_UseTimeSchedule,
-                    p.m_ParallellReceivers, p.m_SequentialReceivers, p.m_Condition,
-                    p.m_TimeSchedule_ViewDayType, p.m_Calendar_ViewTimeAxis, p.m_UseExternalTag,
-                    p.m_ExternalTagName, p.m_IgnoreExternalTagInOtherProfiles, p.m_UseExternalFile,
-                    p.m_ExternalFileName, p.m_ExternalFileText, p.m_ScanSpecificSystems, p.m_System,
-                    p.m_OffDutyAlarmBehaviour);
+constexpr auto cProfile::FieldsOfVersion4() {
+    return std::make_tuple(cGap{2}, &cProfile::m_Enabled, &cProfile::m_Name, &cProfile::m_State,
+                           &cProfile::m_UseTimeSchedule, cGap{4}, &cProfile::m_ParallellReceivers,
+                           &cProfile::m_SequentialReceivers, &cProfile::m_Condition,
+                           &cProfile::m_TimeSchedule_ViewDayType, &cProfile::m_Calendar_ViewTimeAxis,
+                           &cProfile::m_UseExternalTag, &cProfile::m_ExternalTagName,
+                           &cProfile::m_IgnoreExternalTagInOtherProfiles, &cProfile::m_UseExternalFile,
+                           &cProfile::m_ExternalFileName, &cProfile::m_ExternalFileText,
+                           &cProfile::m_ScanSpecificSystems, &cProfile::m_System);
 }
 
-template <class Profile>
-auto cProfile::OriginalFields(Profile& p) {
-    return std::tie(
-        p.m_Original_Name, p.m_Original_Enabled, p.m_Original_ParentName, p.m_Original_NestingLevels,
-        p.m_Original_State, p.m_Original_UseTimeSchedule, p.m_Original_ParallellReceivers,
-        p.m_Original_SequentialReceivers, p.m_Original_Condition, p.m_Original_TimeSchedule_ViewDayType,
-        p.m_Original_Calendar_ViewTimeAxis, p.m_Original_UseExternalTag, p.m_Original_ExternalTagName,
-        p.m_Original_IgnoreExternalTagInOtherProfiles, p.m_Original_UseExternalFile,
-        p.m_Original_ExternalFileName, p.m_Original_ExternalFileText, p.m_Original_ScanSpecificSystems,
-        p.m_Original_System, p.m_Original_OffDutyAlarmBehaviour);
+constexpr auto cProfile::Fields() {
+    return std::tuple_cat(FieldsOfVersion4(), std::make_tuple(&cProfile::m_OffDutyAlarmBehaviour));
 }
 
 void cProfile::RememberOriginalSettings() {
-    OriginalFields(*this) = Fields(*this);
-    m_Original_TimeSchedule = CopyOf(m_TimeSchedule);
+    m_Original = std::make_unique<cProfile>(m_Services);
+    m_Original->CopyFrom(*this);
 }
 
 std::string cProfile::CreateFileName(std::int16_t DiskIdentity) const {
@@ -74,16 +127,26 @@ std::string cProfile::CreateFileName(std::int16_t DiskIdentity) const {
 }
 
 bool cProfile::HasChangedSinceLastLoadFromDisk() const {
-    return Fields(*this) != OriginalFields(*this) ||
-           PeriodText(m_TimeSchedule) != PeriodText(m_Original_TimeSchedule);
+    if (m_Original) return !HasSameContentAs(*m_Original);
+    cProfile none(m_Services);
+    none.m_Enabled = False16;
+    return !HasSameContentAs(none);
 }
 
 bool cProfile::HasSameContentAs(const cProfile& other) const {
-    return Fields(*this) == Fields(other) && PeriodText(m_TimeSchedule) == PeriodText(other.m_TimeSchedule);
+    const bool same = std::apply(
+        [&](const auto&... field) {
+            return (cSameField{*this, other}(field) && ...);
+        },
+        Fields());
+    return same && m_ParentName == other.m_ParentName && m_NestingLevels == other.m_NestingLevels &&
+           PeriodText(m_TimeSchedule) == PeriodText(other.m_TimeSchedule);
 }
 
 void cProfile::CopyFrom(const cProfile& other) {
-    Fields(*this) = Fields(other);
+    ForEachField(Fields(), cCopyField{other, *this});
+    m_ParentName = other.m_ParentName;
+    m_NestingLevels = other.m_NestingLevels;
     m_TimeSchedule = CopyOf(other.m_TimeSchedule);
 }
 
@@ -127,77 +190,30 @@ bool cProfile::RemoveFromDisk() {
 }
 
 bool cProfile::LoadFromDisk(std::int16_t DiskIdentity) {
-    const cLoadResult result =
-        LoadDefinition(m_Services, kKind, DiskIdentity, m_DiskIdentity,
-                       [this](cBinaryReader& file, std::int16_t version) { ReadRecord(file, version); });
-    if (result.outdated && !SaveToDisk()) NoteNotUpgraded(m_Services, kKind, DiskIdentity);
-    RememberOriginalSettings();
-    return result.loaded;
+    return LoadObject(m_Services, *this, DiskIdentity,
+                      [this](cBinaryReader& file, std::int16_t version) { ReadRecord(file, version); });
 }
 
 void cProfile::ReadRecord(cBinaryReader& file, std::int16_t version) {
-    ReadFields(file);
     if (version == kDefinitionVersion) {
-        m_OffDutyAlarmBehaviour = file.Int16();
+        ForEachField(Fields(), cReadField{file, *this});
         m_FileDateTimeStamp = file.Double();
         file.Skip(kDefinitionFiller);
+    } else {
+        ForEachField(FieldsOfVersion4(), cReadField{file, *this});
     }
+    SetName(std::string(m_Name));
     m_TimeSchedule = std::make_unique<cTimeSchedule>();
     m_TimeSchedule->ReadFromDisk(file);
 }
 
-// What versions 4 and 5 have in common.
-void cProfile::ReadFields(cBinaryReader& file) {
-    file.Skip(2);
-    m_Enabled = file.Int16();
-    SetName(file.String());
-    for (std::int16_t& state : m_State) state = file.Int16();
-    m_UseTimeSchedule = file.Int16();
-    file.Skip(4);
-    m_ParallellReceivers = file.String();
-    m_SequentialReceivers = file.String();
-    for (std::string& condition : m_Condition) condition = file.String();
-    m_TimeSchedule_ViewDayType = file.Int16();
-    m_Calendar_ViewTimeAxis = file.Int16();
-    m_UseExternalTag = file.Int16();
-    m_ExternalTagName = file.String();
-    m_IgnoreExternalTagInOtherProfiles = file.Int16();
-    m_UseExternalFile = file.Int16();
-    m_ExternalFileName = file.String();
-    m_ExternalFileText = file.String();
-    m_ScanSpecificSystems = file.Int16();
-    for (std::int16_t& system : m_System) system = file.Int16();
-}
-
 bool cProfile::SaveToDisk() {
-    const bool saved = SaveDefinition(m_Services, kKind, m_DiskIdentity, m_HasUpdatedDiskIdentity,
-                                      [this](cBinaryWriter& file) { WriteRecord(file); });
-    if (saved) RememberOriginalSettings();
-    return saved;
+    return SaveObject(m_Services, *this, [this](cBinaryWriter& file) { WriteRecord(file); });
 }
 
 void cProfile::WriteRecord(cBinaryWriter& file) const {
     if (!m_TimeSchedule) throw cFailure(eFailure::ObjectMissing, "the profile has no time schedule");
-    file.Zeros(2);
-    file.Int16(m_Enabled);
-    file.String(m_Name);
-    for (const std::int16_t state : m_State) file.Int16(state);
-    file.Int16(m_UseTimeSchedule);
-    file.Zeros(4);
-    file.String(m_ParallellReceivers);
-    file.String(m_SequentialReceivers);
-    for (const std::string& condition : m_Condition) file.String(condition);
-    file.Int16(m_TimeSchedule_ViewDayType);
-    file.Int16(m_Calendar_ViewTimeAxis);
-    file.Int16(m_UseExternalTag);
-    file.String(m_ExternalTagName);
-    file.Int16(m_IgnoreExternalTagInOtherProfiles);
-    file.Int16(m_UseExternalFile);
-    file.String(m_ExternalFileName);
-    file.String(m_ExternalFileText);
-    file.Int16(m_ScanSpecificSystems);
-    for (const std::int16_t system : m_System) file.Int16(system);
-    file.Int16(m_OffDutyAlarmBehaviour);
+    ForEachField(Fields(), cWriteField{file, *this});
     file.Double(m_Services.clock.Now());
     file.Zeros(kDefinitionFiller);
     m_TimeSchedule->SaveToDisk(file);

@@ -49,24 +49,9 @@ class cProfile {
 
     DateTime m_FileDateTimeStamp = 0;  // of the last save, as the file told at the last load
 
-    // At the last load or save. A profile that had neither differs from these.
-    Boolean16 m_Original_Enabled = False16;
-    std::string m_Original_ParentName;
-    std::int16_t m_Original_NestingLevels = 0;
-    Boolean16 m_Original_UseTimeSchedule = False16;
-    std::string m_Original_ParallellReceivers;
-    std::string m_Original_SequentialReceivers;
-    std::int16_t m_Original_TimeSchedule_ViewDayType = 0;
-    std::int16_t m_Original_Calendar_ViewTimeAxis = 0;
-    Boolean16 m_Original_UseExternalTag = False16;
-    std::string m_Original_ExternalTagName;
-    Boolean16 m_Original_IgnoreExternalTagInOtherProfiles = False16;
-    Boolean16 m_Original_UseExternalFile = False16;
-    std::string m_Original_ExternalFileName;
-    std::string m_Original_ExternalFileText;
-    Boolean16 m_Original_ScanSpecificSystems = False16;
-    std::int16_t m_Original_OffDutyAlarmBehaviour = 0;
-    std::unique_ptr<cTimeSchedule> m_Original_TimeSchedule;
+    // As it was at the last load or save; none for a profile that had neither, which differs from a disabled
+    // one without content.
+    std::unique_ptr<cProfile> m_Original;
 
     Boolean16 m_HasUpdatedDiskIdentity = False16;  // the last save had to invent m_DiskIdentity
 
@@ -95,24 +80,17 @@ class cProfile {
 
   private:
     void ReadRecord(cBinaryReader& file, std::int16_t version);
-    void ReadFields(cBinaryReader& file);
     void WriteRecord(cBinaryWriter& file) const;
-    // All stored values but the schedule, as references; and their copies of the last load or save.
-    template <class Profile>
-    static auto Fields(Profile& profile);
-    template <class Profile>
-    static auto OriginalFields(Profile& profile);
+    // The fields of the record in the order of the file, the one list for reading, writing, comparing and
+    // copying: those of version 4, and all of them.
+    static constexpr auto FieldsOfVersion4();
+    static constexpr auto Fields();
 
     const cDefinitionServices& m_Services;
     std::string m_Name;
     std::array<std::int16_t, kStates> m_State{};
     std::array<std::string, kConditions> m_Condition;
     std::array<std::int16_t, kSystems> m_System{};
-
-    std::string m_Original_Name;
-    std::array<std::int16_t, kStates> m_Original_State{};
-    std::array<std::string, kConditions> m_Original_Condition;
-    std::array<std::int16_t, kSystems> m_Original_System{};
 };
 
 }  // namespace vigrel

@@ -11,10 +11,7 @@ namespace {
 constexpr std::size_t kReserved = 10;
 
 std::size_t SettingIndex(std::int16_t index) {
-    if (index < 0 || index >= cReceiver::kSettings) {
-        throw cFailure(eFailure::OutOfBounds, "setting " + std::to_string(index) + " is not one of 0 to 3");
-    }
-    return static_cast<std::size_t>(index);
+    return CheckedIndex(index, cReceiver::kSettings, "setting");
 }
 
 }  // namespace
@@ -28,6 +25,7 @@ constexpr cDefinitionKind cReceiver::kKind = {.folderAndStem = "Receivers\\Recei
                                               .textRemoved = TextReceiverRemoved,
                                               .textRemoveFailed = TextReceiverNotRemoved,
                                               .namesFileByNumber = true};
+
 std::string cReceiver::CreateFileName(std::int16_t DiskIdentity) const {
     return DefinitionFileName(m_Services, kKind, DiskIdentity);
 }
@@ -45,23 +43,15 @@ void cReceiver::SaveSetting(std::int16_t Index, const cVariant& NewValue) {
 }
 
 bool cReceiver::HasChangedSinceLastLoadFromDisk() const {
-    return m_ReceiverName != m_Original_ReceiverName || m_ReceiverTypeId != m_Original_ReceiverTypeId ||
-           m_ParallellNumbers != m_Original_ParallellNumbers || m_Enabled != m_Original_Enabled ||
-           m_Settings != m_Original_Settings;
+    return Fields(*this) != m_Original;
 }
 
 void cReceiver::RememberOriginalSettings() {
-    m_Original_ReceiverName = m_ReceiverName;
-    m_Original_ReceiverTypeId = m_ReceiverTypeId;
-    m_Original_ParallellNumbers = m_ParallellNumbers;
-    m_Original_Enabled = m_Enabled;
-    m_Original_Settings = m_Settings;
+    m_Original = Fields(*this);
 }
 
 bool cReceiver::HasSameContentAs(const cReceiver& other) const {
-    return m_ReceiverName == other.m_ReceiverName && m_ReceiverTypeId == other.m_ReceiverTypeId &&
-           m_ParallellNumbers == other.m_ParallellNumbers && m_Enabled == other.m_Enabled &&
-           m_Settings == other.m_Settings;
+    return Fields(*this) == Fields(other);
 }
 
 void cReceiver::CopyFrom(const cReceiver& other) {
@@ -99,12 +89,8 @@ void cReceiver::ReadKeepAliveInterval(const cReceiverType& type) {
 }
 
 bool cReceiver::LoadFromDisk(std::int16_t DiskIdentity) {
-    const cLoadResult result =
-        LoadDefinition(m_Services, kKind, DiskIdentity, m_DiskIdentity,
-                       [this](cBinaryReader& file, std::int16_t version) { ReadRecord(file, version); });
-    if (result.outdated && !SaveToDisk()) NoteNotUpgraded(m_Services, kKind, DiskIdentity);
-    RememberOriginalSettings();
-    return result.loaded;
+    return LoadObject(m_Services, *this, DiskIdentity,
+                      [this](cBinaryReader& file, std::int16_t version) { ReadRecord(file, version); });
 }
 
 void cReceiver::ReadRecord(cBinaryReader& file, std::int16_t version) {
@@ -137,10 +123,7 @@ void cReceiver::ReadVersion4And5(cBinaryReader& file, std::int16_t version) {
 }
 
 bool cReceiver::SaveToDisk() {
-    const bool saved = SaveDefinition(m_Services, kKind, m_DiskIdentity, m_HasUpdatedDiskIdentity,
-                                      [this](cBinaryWriter& file) { WriteRecord(file); });
-    if (saved) RememberOriginalSettings();
-    return saved;
+    return SaveObject(m_Services, *this, [this](cBinaryWriter& file) { WriteRecord(file); });
 }
 
 void cReceiver::WriteRecord(cBinaryWriter& file) const {

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <tuple>
 
 #include "common/binary.h"
 #include "definitions/definition_file.h"
@@ -65,12 +66,14 @@ class cReceiver {
     std::int16_t m_ReceiverTypeId = -1;
     Settings m_Settings;
 
-    // At the last load or save. A receiver that had neither differs from these.
-    Boolean16 m_Original_Enabled = False16;
-    std::int16_t m_Original_ReceiverTypeId = 0;
-    std::string m_Original_ReceiverName;
-    std::string m_Original_ParallellNumbers;
-    Settings m_Original_Settings;
+    // What is stored, compared and copied, as references.
+    template <class Receiver>
+    static auto Fields(Receiver& receiver) {
+        return std::tie(receiver.m_Enabled, receiver.m_ReceiverTypeId, receiver.m_ReceiverName,
+                        receiver.m_ParallellNumbers, receiver.m_Settings);
+    }
+    // Those of the last load or save. A receiver that had neither differs from these.
+    std::tuple<Boolean16, std::int16_t, std::string, std::string, Settings> m_Original;
 };
 
 }  // namespace vigrel

@@ -331,10 +331,10 @@ TEST_F(ProfileTest, AChangeOfOnePeriodInTheScheduleIsAChange) {
 TEST_F(ProfileTest, TheCopyOfTheScheduleIsAScheduleOfItsOwn) {
     cProfile profile(m_Services);
     Load(profile, kProfileVersion5);
-    ASSERT_TRUE(profile.m_Original_TimeSchedule);
-    EXPECT_NE(profile.m_Original_TimeSchedule.get(), profile.m_TimeSchedule.get());
-    EXPECT_EQ(profile.m_Original_Enabled, True16);
-    EXPECT_EQ(profile.m_Original_ParallellReceivers, "7;8");
+    ASSERT_TRUE(profile.m_Original->m_TimeSchedule);
+    EXPECT_NE(profile.m_Original->m_TimeSchedule.get(), profile.m_TimeSchedule.get());
+    EXPECT_EQ(profile.m_Original->m_Enabled, True16);
+    EXPECT_EQ(profile.m_Original->m_ParallellReceivers, "7;8");
 }
 
 TEST_F(ProfileTest, CopyFromTakesEverythingButTheIdentityAndSharesNothing) {
