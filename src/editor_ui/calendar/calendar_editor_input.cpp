@@ -5,6 +5,7 @@
 #include "adapters/qt/qt_text.h"
 #include "common/dates.h"
 #include "editor_ui/calendar/calendar_editor.h"
+#include "editor_ui/pages/editor_action.h"
 #include "schedule/calendar_geometry.h"
 
 namespace vigrel {
@@ -22,12 +23,8 @@ void cCalendarEditor::MakeActions() {
 
 QAction* cCalendarEditor::MakeAction(const char* name, const QString& text, const QKeySequence& keys,
                                      const std::function<void()>& chosen) {
-    auto* action = new QAction(text, this);
-    action->setObjectName(QString("Menu_Calendar_") + name);
-    action->setShortcut(keys);
-    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    QAction* action = MakeEditorAction(*this, QString("Menu_Calendar_") + name, text, keys);
     connect(action, &QAction::triggered, this, chosen);
-    addAction(action);
     return action;
 }
 

@@ -14,6 +14,7 @@
 #include "common/failure.h"
 #include "common/numbers.h"
 #include "editor_ui/colours/colour_preview.h"
+#include "editor_ui/pages/editor_action.h"
 #include "windows/colours.h"
 #include "windows/plain_text.h"
 
@@ -106,12 +107,8 @@ cColourRulesEditor::cColourRulesEditor(cEditorServices& services, QWidget* paren
 
 QAction* cColourRulesEditor::MakeAction(const char* objectName, const QString& text, const QString& keys,
                                         void (cColourRulesEditor::*press)()) {
-    auto* action = new QAction(text, this);
-    action->setObjectName(objectName);
-    action->setShortcut(keys);
-    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    QAction* action = MakeEditorAction(*this, objectName, text, keys);
     connect(action, &QAction::triggered, this, press);
-    addAction(action);
     return action;
 }
 

@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "editor_ui/pages/editor_action.h"
 #include "editor_ui/pages/note_bar.h"
 #include "editor_ui/pages/scrolled.h"
 #include "windows/plain_text.h"
@@ -82,13 +83,9 @@ void cDefinitionPage::SetUp(cPageWords words, cPageForm form) {
 
 QAction* cDefinitionPage::MakeAction(const char* objectName, const QString& text, const QString& tip,
                                      const QKeySequence& keys, void (cDefinitionPage::*press)()) {
-    auto* action = new QAction(text, this);
-    action->setObjectName(objectName);
+    QAction* action = MakeEditorAction(*this, objectName, text, keys);
     action->setToolTip(keys.isEmpty() ? tip : tip + " (" + keys.toString(QKeySequence::NativeText) + ")");
-    action->setShortcut(keys);
-    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     connect(action, &QAction::triggered, this, press);
-    addAction(action);
     return action;
 }
 

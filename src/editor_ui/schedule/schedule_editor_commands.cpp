@@ -1,6 +1,7 @@
 #include <utility>
 
 #include "adapters/qt/qt_text.h"
+#include "editor_ui/pages/editor_action.h"
 #include "editor_ui/schedule/schedule_editor.h"
 #include "schedule/time_text.h"
 
@@ -29,12 +30,8 @@ void cScheduleEditor::MakeActions() {
 // The keys work while the focus is in the page.
 QAction* cScheduleEditor::MakeAction(const char* name, const QString& text, const QKeySequence& keys,
                                      void (cScheduleEditor::*chosen)()) {
-    auto* action = new QAction(text, this);
-    action->setObjectName(QString("Menu_TimeSchedulePopup_") + name);
-    action->setShortcut(keys);
-    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    QAction* action = MakeEditorAction(*this, QString("Menu_TimeSchedulePopup_") + name, text, keys);
     connect(action, &QAction::triggered, this, chosen);
-    addAction(action);
     return action;
 }
 
