@@ -1,4 +1,4 @@
-#include "adapters/qt/sample_source.h"
+#include "adapters/sound/sample_source.h"
 
 #include <gtest/gtest.h>
 #include <sndfile.h>

@@ -7,7 +7,7 @@
 #include <thread>
 #include <utility>
 
-#include "adapters/qt/pulse_play.h"
+#include "adapters/sound/pulse_play.h"
 
 namespace vigrel {
 

@@ -6,7 +6,7 @@
 #include <functional>
 #include <memory>
 
-#include "adapters/qt/sample_source.h"
+#include "adapters/sound/sample_source.h"
 
 namespace vigrel {
 

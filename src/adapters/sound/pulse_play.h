@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "adapters/qt/sample_source.h"
+#include "adapters/sound/sample_source.h"
 
 namespace vigrel {
 

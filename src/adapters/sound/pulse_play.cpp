@@ -1,4 +1,4 @@
-#include "adapters/qt/pulse_play.h"
+#include "adapters/sound/pulse_play.h"
 
 #include <pulse/pulseaudio.h>
 
