@@ -9,46 +9,25 @@
 
 #include "adapters/linux/application_folder.h"
 #include "adapters/linux/file_rights.h"
-#include "adapters/linux/folder_lock.h"
-#include "adapters/linux/hid_signal_light.h"
 #include "adapters/linux/linux_files.h"
-#include "adapters/linux/linux_printer_ports.h"
-#include "adapters/linux/local_running_apps.h"
 #include "adapters/linux/notify_socket.h"
 #include "adapters/linux/standard_error_box.h"
-#include "adapters/linux/standard_random.h"
-#include "adapters/linux/stream_status.h"
-#include "adapters/linux/system_clock.h"
-#include "adapters/qt/qt_data_socket.h"
-#include "adapters/qt/qt_listener.h"
 #include "adapters/qt/qt_locale.h"
-#include "adapters/qt/qt_setting_store.h"
-#include "adapters/qt/qt_timer.h"
-#include "adapters/qt/qt_wave_device.h"
 #include "adapters/qt/stop_signals.h"
-#include "adapters/qt/tone_player.h"
 #include "common/exit_codes.h"
 #include "common/settings.h"
 #include "common/standard_error.h"
 #include "core/first_start.h"
 #include "core/vigrel_receiver_main.h"
+#include "receiver/station_machine.h"
 #include "receiver_ui/dialogs/operator_page.h"
-#include "receiver_ui/dialogs/other_windows.h"
-#include "receiver_ui/main/main_window.h"
-#include "receiver_ui/popups/popup_widget.h"
-#include "receiver_ui/tray/notification_icon.h"
 #include "windows/application.h"
-#include "windows/built_in_texts.h"
-#include "windows/desktop.h"
 #include "windows/qt_message_box.h"
 
 namespace vigrel {
 namespace {
 
 constexpr const char* kProgramName = "vigrel-receiver";
-constexpr int kKeepAliveInterval = 10000;  // milliseconds
-constexpr int kPlayInterval = 500;         // milliseconds
-constexpr int kSaveInterval = 10;          // milliseconds, while many files are written
 
 constexpr const char* kHelp = R"(vigrel-receiver [/SWITCH]...
 
@@ -87,12 +66,20 @@ cFirstStartHints FirstStartHints() {
             screen.height()};
 }
 
+// Why the station's files lie elsewhere than by the program, when they do.
+void TellElsewhere(const cFolderHints& hints, bool isNew, cMessageBox& box) {
+    const auto why = WhyElsewhere(hints);
+    if (!why) return;
+    PrintError(kProgramName, *why);
+    // Once: later starts find the folder in use.
+    if (isNew && cApplication::HasDisplay()) box.Show(*why, eMessageIcon::Warning, eMessageButtons::Ok);
+}
+
 int RunStation(cApplication& application, cServiceManager& serviceManager, const std::string& commandLine) {
     const cFolderHints hints = ReadFolderHints();
     const std::string applicationPath = FindApplicationFolder(hints);
     application.SetFolder(NativePath(applicationPath));
     cLinuxFiles files;
-    cLinuxFiles ownFiles(cLinuxFiles::eNames::Exact);
     cQtMessageBox windowBox(kProductName);
     cStandardErrorBox unseenBox(kProgramName, NativePath(applicationPath));
     cMessageBox& messageBox = cApplication::HasDisplay() ? static_cast<cMessageBox&>(windowBox) : unseenBox;
@@ -102,63 +89,21 @@ int RunStation(cApplication& application, cServiceManager& serviceManager, const
     }
     const bool isNew = FillApplicationFolder(files, applicationPath, FindInstalledFolder(hints.programFolder),
                                              FormerFolder(hints));
-
     const cQtLocale locale;
     cIni ini(files, applicationPath);
     cFirstStart firstStart(files, ini, locale, FirstStartHints());
     firstStart.Prepare();
 
-    const cSystemClock clock;
-    cStandardRandom random;
-    cFolderLock singleInstance(applicationPath);
-    cQtListener winsockConnect;
-    cQtDataSocket winsockData(winsockConnect);
-    cQtTimer timerKeepAlive(kKeepAliveInterval);
-    cQtTimer timerPlay(kPlayInterval);
-    cQtTimer timerSave(kSaveInterval, false);
-    cOpenWindows windows;
-    cMainWindow mainWindow(windows);
-    cPopupWidgetMaker popups(windows);
-    cQtScreen screen;
-    if (const auto why = WhyElsewhere(hints)) {
-        PrintError(kProgramName, *why);
-        // Once: later starts find the folder in use.
-        if (isNew && cApplication::HasDisplay()) {
-            windowBox.Show(*why, eMessageIcon::Warning, eMessageButtons::Ok);
-        }
-    }
-    cQtClipboard clipboard;
-    cQtWaveDevice waveDevice(NativePath);
-    cTonePlayer tone;
-    // The bell is for stations that can play no sound.
-    tone.OnSilent = [] { QApplication::beep(); };
-    cQtBeeper beeper([&] {
-        tone.Play();
-        return true;
-    });
-    cNotificationIcon trayArea;
-    cHidSignalLight signalLight(clock);
-    cLocalRunningApps runningApps;
-    cLinuxPrinterPorts printerPorts(ini, clock,
-                                    [](const std::string& text) { PrintError(kProgramName, text); });
-    const cQtSettingStore settingStore;
-    cQtOtherWindows otherWindows(
-        {files, clock, locale, screen, settingStore, windows, application, messageBox}, applicationPath);
-    mainWindow.OnHelp = [&] {
+    cStationMachine machine(
+        {application, files, ini, locale, messageBox, serviceManager, kProgramName, applicationPath});
+    TellElsewhere(hints, isNew, windowBox);
+    machine.mainWindow.OnHelp = [&] {
         const std::string language = ini.GetIniString("General", "Language", "");
-        cOperatorPage::Show(FindOperatorPage(NativePath(hints.programFolder), language), mainWindow);
+        cOperatorPage::Show(FindOperatorPage(NativePath(hints.programFolder), language), machine.mainWindow);
     };
-    otherWindows.OnLanguageChosen = [&] { firstStart.FollowChoice(); };
+    machine.otherWindows.OnLanguageChosen = [&] { firstStart.FollowChoice(); };
 
-    const cDeliveredTexts deliveredTexts = BuiltInTexts();
-    cStreamStatus status(stderr, "vigrel-receiver");
-    cVigrelReceiverMain receiver(
-        {files,          ownFiles,     clock,          random,         locale,        singleInstance,
-         winsockConnect, winsockData,  timerKeepAlive, timerPlay,      timerSave,     mainWindow.List(),
-         mainWindow,     mainWindow,   screen,         windows,        popups,        messageBox,
-         clipboard,      beeper,       waveDevice,     trayArea,       signalLight,   runningApps,
-         printerPorts,   otherWindows, status,         deliveredTexts, serviceManager},
-        applicationPath, commandLine);
+    cVigrelReceiverMain receiver(machine.Ports(), applicationPath, commandLine);
     cStopSignals stopSignals;
     stopSignals.OnStop = [&](eCloseReason reason) { receiver.Stop(reason); };
     application.OnSessionEnds = [&] { receiver.Stop(eCloseReason::SessionEnd); };

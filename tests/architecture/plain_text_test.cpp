@@ -11,7 +11,7 @@
 
 #include "support/temporary_folder.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 using Complaints = std::vector<std::string>;
@@ -69,7 +69,7 @@ Complaints Check(const std::filesystem::path& folder) {
 // What says a text of its own, or shows figures alone.
 bool SaysItself(const std::string& line) {
     for (const char* said :
-         {"fputs(\"", "fflush(stderr)", "\"%s%zu of %zu frames", "cStreamStatus status("}) {
+         {"fputs(\"", "fflush(stderr)", "\"%s%zu of %zu frames", "cStreamStatus status"}) {
         if (line.find(said) != std::string::npos) return true;
     }
     return false;
@@ -164,4 +164,4 @@ TEST(PlainText, AComplaintTellsFileLineAndCall) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -37,7 +37,7 @@ std::vector<cInclude> cSourceTree::IncludesOf(const std::string& file) const {
 }
 
 std::optional<std::string> cSourceTree::Resolve(const std::string& header) const {
-    for (const std::string root : {"", "tests/", "tools/"}) {
+    for (const std::string root : {"", "tests/", "tools/", "apps/"}) {
         if (m_Files.contains(root + header)) return root + header;
     }
     return std::nullopt;
