@@ -1,5 +1,7 @@
 #include "events/acknowledgement.h"
 
+#include <vector>
+
 #include "common/failure.h"
 
 namespace vigrel {
@@ -13,23 +15,30 @@ void cAcknowledgement::EndSound() {
 void cAcknowledgement::AckAlarm(RecordId row, const AlarmPtr& alarm) {
     const AlarmPtr found = alarm ? alarm : m_Services.view.AlarmOf(row);
     if (!found) return;
+    if (Observe(*found)) m_Services.store.SaveAlarm(found);
+}
+
+bool cAcknowledgement::Observe(cVigrelRecieverAlarm& alarm) {
     EndSound();
-    if (found->m_Observed == False16) {
-        m_Services.log.WriteLog(m_Services.texts.GetText(TextAcknowledged) + " " + found->SysLogText());
-        found->m_Observed = True16;
-        m_Services.view.UpdateAlarmRow(*found);
-        m_Services.store.SaveAlarm(found);
-    }
     m_Services.state.m_ListChanged = true;
+    if (alarm.m_Observed != False16) return false;
+    m_Services.log.WriteLog(m_Services.texts.GetText(TextAcknowledged) + " " + alarm.SysLogText());
+    alarm.m_Observed = True16;
+    m_Services.view.UpdateAlarmRow(alarm);
+    return true;
 }
 
 void cAcknowledgement::Menu_AckAll() {
-    m_Services.store.SaveTogether([&] {
+    std::vector<AlarmPtr> observed;
+    const auto observeAll = [&] {
         for (const RecordId row : m_Services.list.Rows()) {
             const AlarmPtr alarm = m_Services.view.AlarmOf(row);
-            if (alarm && alarm->m_Observed == False16) AckAlarm(row, nullptr);
+            if (alarm && alarm->m_Observed == False16 && Observe(*alarm)) observed.push_back(alarm);
         }
-    });
+    };
+    // What was answered in front of a failure is answered.
+    CleanUpBehind(observeAll, [&] { m_Services.store.SaveAlarms(observed); });
+    m_Services.store.SaveAlarms(observed);
     EndSound();
 }
 

@@ -33,6 +33,8 @@ class cAcknowledgement {
     void Menu_AckAll_AndClosePopups(const std::function<void()>& closePopups);
 
   private:
+    // Ends the sound and marks the alarm; whether it was not marked before and so is to be saved.
+    bool Observe(cVigrelRecieverAlarm& alarm);
     void EndSound();
 
     cServices m_Services;

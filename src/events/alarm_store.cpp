@@ -117,10 +117,6 @@ bool cAlarmStore::TrySave(cVigrelRecieverAlarm& alarm) {
 void cAlarmStore::SaveAlarm(const AlarmPtr& alarm) {
     // Its number may be another alarm's by now.
     if (alarm->m_Removed) return;
-    if (m_Collecting) {
-        m_Collected.push_back(alarm);
-        return;
-    }
     if (TrySave(*alarm)) {
         std::erase(m_Unsaved, alarm);
     } else {
@@ -128,18 +124,11 @@ void cAlarmStore::SaveAlarm(const AlarmPtr& alarm) {
     }
 }
 
-void cAlarmStore::SaveTogether(const std::function<void()>& steps) {
-    m_Collecting = true;
-    CleanUpBehind(steps, [this] { SaveCollected(); });
-    SaveCollected();
-}
-
-void cAlarmStore::SaveCollected() {
-    m_Collecting = false;
-    const std::vector<AlarmPtr> collected = std::exchange(m_Collected, {});
-    if (collected.size() == 1) return SaveAlarm(collected.front());
-    if (collected.empty()) return;
-    m_Pending.Add(collected);
+void cAlarmStore::SaveAlarms(std::vector<AlarmPtr> alarms) {
+    std::erase_if(alarms, [](const AlarmPtr& alarm) { return alarm->m_Removed; });
+    if (alarms.empty()) return;
+    if (alarms.size() == 1) return SaveAlarm(alarms.front());
+    m_Pending.Add(alarms);
     m_Services.timerSave.SetEnabled(true);
 }
 

@@ -55,8 +55,9 @@ class cAlarmStore {
     // survives a crash. Never fails: a file that can't be written is tried again by RetryUnsaved. An alarm
     // that the store has removed is not written.
     void SaveAlarm(const AlarmPtr& alarm);
-    // What the steps save is collected and written behind them: in short turns, each at a tick of timerSave.
-    void SaveTogether(const std::function<void()>& steps);
+    // The same for several, but written behind the call: in short turns, each at a tick of timerSave. One
+    // alone is written at once.
+    void SaveAlarms(std::vector<AlarmPtr> alarms);
     void Timer_Save_Tick();
     // Writes now what still waits for its turn.
     void FinishSaves();
@@ -89,7 +90,6 @@ class cAlarmStore {
     void DrawFileId(cVigrelRecieverAlarm& alarm);
     std::string Bytes(cVigrelRecieverAlarm& alarm);
     bool TrySave(cVigrelRecieverAlarm& alarm);
-    void SaveCollected();
     void TellUnreadable(const std::vector<cFileReader::cUnreadable>& unreadable) const;
     std::optional<std::int32_t> FileIdOf(const std::string& name);
     // Each gives how many alarms were removed.
@@ -106,8 +106,6 @@ class cAlarmStore {
     DateTime m_UnsavedSince = 0;
     std::string m_UnsavedReason;
     std::string m_FolderProblem;
-    bool m_Collecting = false;
-    std::vector<AlarmPtr> m_Collected;
     cPendingSaves m_Pending;
 };
 

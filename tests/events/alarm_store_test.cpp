@@ -272,12 +272,8 @@ TEST_F(AlarmStore, AFailedFolderSyncIsTriedAgain) {
 
 // Marks alarms as seen and saves them, as the command that acknowledges all does.
 void SeeAll(cFakeStation& station, const std::vector<AlarmPtr>& alarms) {
-    station.store.SaveTogether([&] {
-        for (const AlarmPtr& alarm : alarms) {
-            alarm->m_Observed = True16;
-            station.store.SaveAlarm(alarm);
-        }
-    });
+    for (const AlarmPtr& alarm : alarms) alarm->m_Observed = True16;
+    station.store.SaveAlarms(alarms);
 }
 
 // Ticks until the timer is off.
