@@ -10,8 +10,9 @@ namespace vigrel {
 // Where the store's search puts a newcomer among elements 0 to count - 1. side(i) tells how the newcomer
 // stands to element i: below 0 earlier, 0 equal, above 0 later.
 //
-// A binary search that comes back to the neighbour it came from; among equal times the newcomer stands behind
-// the element that the search met first.
+// A binary search between two bounds that are elements themselves: it ends when it comes back to the one that
+// it came from. Among equal times the newcomer stands behind the element that the search met first. With the
+// elements a b c d, all of one time, the search begins at c (index 2 of 4): a fifth one stands as a b c e d.
 template <class Side>
 std::size_t FindInsertionPlace(std::size_t count, Side side) {
     if (count == 0) return 0;

@@ -56,8 +56,8 @@ std::string CutFrom(std::string value, std::string_view find, const std::string&
     return position > 0 ? Mid(value, 1, static_cast<std::size_t>(position - 1)) : "";
 }
 
-// How many rounds a replacement has. The search behind each inserted text meets what stood there before, so
-// that it finds the occurrences of the value as it was; only their positions move with every round.
+// How many rounds a replacement has: as long as the next occurrence, with what the rounds before it made of
+// its position, lies within 16 bits, and the value stays as long as a value may be.
 std::int64_t CountRounds(std::string_view value, std::string_view upperFind, std::size_t insertedSize) {
     const std::string upper = ToUpper(value);
     const auto growth = static_cast<std::int64_t>(insertedSize) - static_cast<std::int64_t>(upperFind.size());
@@ -90,8 +90,9 @@ class cPrefixMatcher {
     std::vector<std::size_t> m_Fallback;
 };
 
-// Replaces the first occurrence so many times over, each time in what the last time left. What is inserted
-// goes back to what is still to be read; what was read without an occurrence is never read again.
+// Replaces the first occurrence so many times over, each time in what the last time left, reading each
+// character once: what is inserted goes back to what is still to be read, and what was read without an
+// occurrence holds the beginning of one at most.
 std::string ReplaceFirst(std::string_view value, std::string_view upperFind, std::string_view replacement,
                          std::int64_t rounds) {
     const cPrefixMatcher matcher(upperFind);
@@ -111,6 +112,10 @@ std::string ReplaceFirst(std::string_view value, std::string_view upperFind, std
     return read.append(toRead.rbegin(), toRead.rend());
 }
 
+// Each round puts the replacement in place of the first occurrence in the whole value, what earlier rounds put in
+// included. How many rounds there are is told by a search that passes over what a round put in: as many as the
+// value had occurrences to begin with. So [R:a:xa] makes of "banana", in three rounds, "bxanana", "bxxanana" and
+// "bxxxanana"; one replacement for each occurrence would give "bxanxanxa".
 std::string Replace(std::string value, const std::string& find, const std::string& replacement) {
     // Case counts in this one comparison.
     if (replacement == find) return value;

@@ -7,13 +7,23 @@
 #include "windows/fonts.h"
 
 namespace vigrel {
+namespace {
+
+// The view has its model before anybody listens to it or keeps its selection.
+std::unique_ptr<cReportView> MakeView(QWidget* parent, cReportModel& model) {
+    auto view = std::make_unique<cReportView>(parent);
+    view->setModel(&model);
+    return view;
+}
+
+}  // namespace
 
 cQtReportList::cQtReportList(QWidget* parent, const cIconStrip& icons)
-    : m_View(std::make_unique<cReportView>(parent)),
+    : m_View(MakeView(parent, m_Model)),
       m_Header(m_View->Header()),
       m_Delegate(
           m_Model, icons, [this](const cReportRecord& record) { return StyleOf(record); }, nullptr),
-      m_Keeper((m_View->setModel(&m_Model), *m_View), m_Model),
+      m_Keeper(*m_View, m_Model),
       m_FontPoints(m_View->font().pointSizeF()) {
     m_View->setItemDelegate(&m_Delegate);
     m_Delegate.SetFont(m_View->font());
