@@ -19,8 +19,10 @@ class cFileHandle {
 
     explicit operator bool() const { return m_Descriptor >= 0; }
     int Get() const { return m_Descriptor; }
+    // The descriptor is the caller's from now on.
+    int Release() { return std::exchange(m_Descriptor, -1); }
     void Reset() {
-        if (m_Descriptor >= 0) close(std::exchange(m_Descriptor, -1));
+        if (m_Descriptor >= 0) close(Release());
     }
 
   private:

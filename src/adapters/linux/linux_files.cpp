@@ -80,20 +80,16 @@ constexpr int kNeverWait = O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
 // As the umask allows.
 constexpr mode_t kFileMode = 0666, kFolderMode = 0777;
 
-class cDescriptor {
+// An open file, and its path for what fails with it.
+class cOpenFile {
   public:
-    cDescriptor(std::string_view path, int descriptor) : m_Path(path), m_Descriptor(descriptor) {
-        if (m_Descriptor < 0) Fail(path);
+    cOpenFile(std::string_view path, int descriptor) : m_Path(path), m_File(descriptor) {
+        if (!m_File) Fail(path);
     }
-    ~cDescriptor() {
-        if (m_Descriptor >= 0) close(m_Descriptor);
-    }
-    cDescriptor(const cDescriptor&) = delete;
-    cDescriptor& operator=(const cDescriptor&) = delete;
 
     void Write(std::string_view bytes) {
         while (!bytes.empty()) {
-            const ssize_t written = write(m_Descriptor, bytes.data(), bytes.size());
+            const ssize_t written = write(m_File.Get(), bytes.data(), bytes.size());
             if (written < 0 && errno == EINTR) continue;
             if (written < 0) Fail(m_Path);
             bytes.remove_prefix(static_cast<std::size_t>(written));
@@ -103,14 +99,14 @@ class cDescriptor {
     // makes up say that they are empty.
     std::string ReadAll() {
         struct stat status {};
-        if (fstat(m_Descriptor, &status) != 0) Fail(m_Path);
+        if (fstat(m_File.Get(), &status) != 0) Fail(m_Path);
         if (const char* reason = WhyNoFile(status)) FailAsNoFile(m_Path, reason);
         constexpr std::size_t kUnknownSize = 65536;
         const auto told = static_cast<std::size_t>(status.st_size);
         std::string content(told > 0 ? told + 1 : kUnknownSize, '\0');
         std::size_t size = 0;
         while (true) {
-            const ssize_t count = read(m_Descriptor, content.data() + size, content.size() - size);
+            const ssize_t count = read(m_File.Get(), content.data() + size, content.size() - size);
             if (count < 0 && errno == EINTR) continue;
             if (count < 0) Fail(m_Path);
             size += static_cast<std::size_t>(count);
@@ -122,20 +118,18 @@ class cDescriptor {
         content.resize(size);
         return content;
     }
-    void TakeAttributes(const std::string& like) { GiveAttributes(m_Descriptor, like); }
+    void TakeAttributes(const std::string& like) { GiveAttributes(m_File.Get(), like); }
     void Sync() {
-        if (fsync(m_Descriptor) != 0) Fail(m_Path);
+        if (fsync(m_File.Get()) != 0) Fail(m_Path);
     }
     // Some file systems report a full disk only here.
     void Close() {
-        const int descriptor = m_Descriptor;
-        m_Descriptor = -1;
-        if (close(descriptor) != 0 && errno != EINTR) Fail(m_Path);
+        if (close(m_File.Release()) != 0 && errno != EINTR) Fail(m_Path);
     }
 
   private:
     std::string m_Path;
-    int m_Descriptor = -1;
+    cFileHandle m_File;
 };
 
 int OpenFolder(const char* native) {
@@ -186,7 +180,7 @@ void ClearName(const std::string& native, std::string_view path) {
 }
 
 // A file that nobody else has made, so that nobody else holds it open or has chosen where it lies.
-cDescriptor OpenNew(std::string_view path, const std::string& native) {
+cOpenFile OpenNew(std::string_view path, const std::string& native) {
     RequireOwnFolder(native);
     const auto open = [&] {
         return ::open(native.c_str(), O_WRONLY | O_CREAT | O_EXCL | kNeverWait, kFileMode);
@@ -304,7 +298,7 @@ std::string cLinuxFiles::ReadFile(std::string_view path) const {
         if (native.empty()) Fail(path);
         if (const char* reason = WhyNoFile(status)) FailAsNoFile(path, reason);
     }
-    return cDescriptor(path, open(native.c_str(), O_RDONLY | kNeverWait)).ReadAll();
+    return cOpenFile(path, open(native.c_str(), O_RDONLY | kNeverWait)).ReadAll();
 }
 
 void cLinuxFiles::ReadFiles(const std::string& folder, const std::vector<std::string>& names,
@@ -352,14 +346,14 @@ cFileReader::cStamp cLinuxFiles::Stamp(std::string_view path) const {
 }
 
 void cLinuxFiles::WriteFile(std::string_view path, std::string_view bytes, bool sync) {
-    cDescriptor file = OpenNew(path, Native(path));
+    cOpenFile file = OpenNew(path, Native(path));
     file.Write(bytes);
     if (sync) file.Sync();
     file.Close();
 }
 
 void cLinuxFiles::WriteFileLike(std::string_view path, std::string_view bytes, std::string_view like) {
-    cDescriptor file = OpenNew(path, Native(path));
+    cOpenFile file = OpenNew(path, Native(path));
     file.Write(bytes);
     file.TakeAttributes(Native(like));
     file.Sync();
@@ -376,7 +370,7 @@ void cLinuxFiles::AppendFile(std::string_view path, std::string_view bytes) {
         RequireOwnFolder(native);
         descriptor = open(native.c_str(), kAppend | O_CREAT, kFileMode);
     }
-    cDescriptor file(path, descriptor);
+    cOpenFile file(path, descriptor);
     file.Write(bytes);
     file.Close();
 }
@@ -398,7 +392,7 @@ void cLinuxFiles::RenameFile(std::string_view from, std::string_view to) {
 }
 
 void cLinuxFiles::SyncFolder(std::string_view folder) {
-    cDescriptor(folder, AsSpelledOrFound(folder, OpenFolder)).Sync();
+    cOpenFile(folder, AsSpelledOrFound(folder, OpenFolder)).Sync();
 }
 
 std::unique_ptr<cPendingSync> cLinuxFiles::StartSync(std::string_view folder) {
