@@ -12,10 +12,8 @@
 #include "common/path_text.h"
 #include "support/temporary_folder.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::cTemporaryFolder;
 
 class ApplicationFolder : public ::testing::Test {
   protected:
@@ -231,4 +229,4 @@ TEST_F(ApplicationFolder, TheInstallationLiesBesideTheProgramOrUnderItsPrefix) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

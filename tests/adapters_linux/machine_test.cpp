@@ -21,10 +21,8 @@
 #include "common/dates.h"
 #include "support/temporary_folder.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::cTemporaryFolder;
 
 TEST(SystemClock, TellsTheLocalTime) {
     const cSystemClock clock;
@@ -228,4 +226,4 @@ TEST(RunningApps, StatesAreKeptPerApplication) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -12,7 +12,7 @@
 #include "adapters/linux/file_handle.h"
 #include "support/temporary_folder.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 // A service manager's end of the socket.
@@ -95,4 +95,4 @@ TEST_F(NotifySocket, TheManagerHearsOfItThreeTimesInWhatItWaits) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 cLocaleForms FormsOf(QLocale::Language language, QLocale::Territory territory) {
@@ -37,7 +37,7 @@ TEST(PatternFromFormat, TheNarrowBlankOfNewerTimeFormatsIsABlank) {
     EXPECT_EQ(PatternFromFormat(QString("h:mm:ss") + QChar(0x202F) + "AP"), "h:nn:ss AMPM");
 }
 
-TEST(cQtLocale, SwedishForms) {
+TEST(QtLocale, SwedishForms) {
     const cLocaleForms forms = FormsOf(QLocale::Swedish, QLocale::Sweden);
     EXPECT_EQ(forms.shortDate, "yyyy-mm-dd");
     EXPECT_EQ(forms.longTime, "hh:nn:ss");
@@ -48,28 +48,28 @@ TEST(cQtLocale, SwedishForms) {
     EXPECT_EQ(forms.monthNames[0], "januari");
     EXPECT_EQ(forms.monthNames[11], "december");
 }
-TEST(cQtLocale, BritishForms) {
+TEST(QtLocale, BritishForms) {
     const cLocaleForms forms = FormsOf(QLocale::English, QLocale::UnitedKingdom);
     EXPECT_EQ(forms.shortDate, "dd/mm/yyyy");
     EXPECT_EQ(forms.dateSeparator, "/");
     EXPECT_EQ(forms.shortDayNames[6], "Sat");
 }
-TEST(cQtLocale, AmericanTimesKeepTheirTwelveHourClock) {
+TEST(QtLocale, AmericanTimesKeepTheirTwelveHourClock) {
     const cLocaleForms forms = FormsOf(QLocale::English, QLocale::UnitedStates);
     EXPECT_EQ(forms.longTime, "h:nn:ss AMPM");
     EXPECT_EQ(forms.pm, "PM");
 }
-TEST(cQtLocale, DanishTimesKeepTheirPoints) {
+TEST(QtLocale, DanishTimesKeepTheirPoints) {
     const cLocaleForms forms = FormsOf(QLocale::Danish, QLocale::Denmark);
     EXPECT_EQ(forms.longTime, "hh.nn.ss");
     EXPECT_EQ(forms.timeSeparator, ".");
 }
-TEST(cQtLocale, NamesThatTheCodePageCannotShowStayEnglish) {
+TEST(QtLocale, NamesThatTheCodePageCannotShowStayEnglish) {
     const cLocaleForms forms = FormsOf(QLocale::Russian, QLocale::Russia);
     EXPECT_EQ(forms.monthNames[0], "January");
     EXPECT_EQ(forms.dayNames[0], "Sunday");
 }
-TEST(cQtLocale, NoLocaleOfTheMachineGivesAFormThatTheCodePageLacks) {
+TEST(QtLocale, NoLocaleOfTheMachineGivesAFormThatTheCodePageLacks) {
     for (const QLocale& locale :
          QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyTerritory)) {
         const cLocaleForms forms = cQtLocale(locale).Forms();
@@ -81,7 +81,7 @@ TEST(cQtLocale, NoLocaleOfTheMachineGivesAFormThatTheCodePageLacks) {
     }
 }
 
-TEST(cQtLocale, WeeksBeginAsTheCountryCountsThem) {
+TEST(QtLocale, WeeksBeginAsTheCountryCountsThem) {
     const cLocaleForms swedish = FormsOf(QLocale::Swedish, QLocale::Sweden);
     EXPECT_EQ(swedish.firstDayOfWeek, 2);
     EXPECT_EQ(swedish.firstWeekOfYear, eFirstWeek::FirstFourDays);
@@ -92,18 +92,18 @@ TEST(cQtLocale, WeeksBeginAsTheCountryCountsThem) {
     EXPECT_EQ(arabic.firstDayOfWeek, 7);
 }
 
-TEST(cQtLocale, NamesOfLanguageAndCountry) {
+TEST(QtLocale, NamesOfLanguageAndCountry) {
     const cQtLocale swedish(QLocale(QLocale::Swedish, QLocale::Sweden));
     EXPECT_EQ(swedish.EnglishLanguageName(), "Swedish");
     EXPECT_EQ(swedish.NativeLanguageName(), "svenska");
     EXPECT_EQ(swedish.EnglishCountryName(), "Sweden");
 }
-TEST(cQtLocale, TheLanguageHasOneNameInAllItsCountries) {
+TEST(QtLocale, TheLanguageHasOneNameInAllItsCountries) {
     for (const QLocale::Territory country : {QLocale::Germany, QLocale::Austria, QLocale::Switzerland}) {
         EXPECT_EQ(cQtLocale(QLocale(QLocale::German, country)).NativeLanguageName(), "Deutsch");
     }
 }
-TEST(cQtLocale, AMachineWithoutALocaleHasNoNames) {
+TEST(QtLocale, AMachineWithoutALocaleHasNoNames) {
     const cQtLocale none(QLocale::c());
     EXPECT_EQ(none.EnglishLanguageName(), "");
     EXPECT_EQ(none.NativeLanguageName(), "");
@@ -111,4 +111,4 @@ TEST(cQtLocale, AMachineWithoutALocaleHasNoNames) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

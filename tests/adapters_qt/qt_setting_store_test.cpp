@@ -7,13 +7,13 @@
 #include <QSettings>
 #include <QTemporaryDir>
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 // The store of a user whose configuration folder is a temporary one.
-class cQtSettingStoreTest : public ::testing::Test {
+class QtSettingStore : public ::testing::Test {
   protected:
-    cQtSettingStoreTest() {
+    QtSettingStore() {
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_Folder.path());
         QDir(m_Folder.path()).mkpath("Vigrel");
     }
@@ -29,30 +29,30 @@ class cQtSettingStoreTest : public ::testing::Test {
     cQtSettingStore m_Store;
 };
 
-TEST_F(cQtSettingStoreTest, AStoreWithoutTheSettingGivesTheDefault) {
+TEST_F(QtSettingStore, AStoreWithoutTheSettingGivesTheDefault) {
     EXPECT_EQ(Get("Width"), "default");
 }
 
-TEST_F(cQtSettingStoreTest, ReadsASettingOfTheApplicationsSection) {
+TEST_F(QtSettingStore, ReadsASettingOfTheApplicationsSection) {
     Write("[Parameters]\nWidth=853\nText=two words\n[Other]\nWidth=1\n");
     EXPECT_EQ(Get("Width"), "853");
     EXPECT_EQ(Get("Text"), "two words");
 }
 
-TEST_F(cQtSettingStoreTest, AnEmptySettingIsNotTheDefault) {
+TEST_F(QtSettingStore, AnEmptySettingIsNotTheDefault) {
     Write("[Parameters]\nWidth=\n");
     EXPECT_EQ(Get("Width"), "");
 }
 
-TEST_F(cQtSettingStoreTest, AValueWithACommaStaysOneText) {
+TEST_F(QtSettingStore, AValueWithACommaStaysOneText) {
     Write("[Parameters]\nWidth=1, 2\n");
     EXPECT_EQ(Get("Width"), "1, 2");
 }
 
-TEST_F(cQtSettingStoreTest, NeverWritesToTheStore) {
+TEST_F(QtSettingStore, NeverWritesToTheStore) {
     EXPECT_EQ(Get("Width"), "default");
     EXPECT_TRUE(QDir(m_Folder.filePath("Vigrel")).isEmpty());
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -110,9 +110,9 @@ class cBluntPeer {
     bool m_Connected = false;
 };
 
-class cQtSocketsTest : public ::testing::Test {
+class QtSockets : public ::testing::Test {
   protected:
-    cQtSocketsTest() {
+    QtSockets() {
         m_Rig.m_Listener.OnConnectionRequest = [this](std::int32_t id) {
             m_Rig.m_Data.Close();
             m_Rig.m_Data.Accept(id);
@@ -131,7 +131,7 @@ class cQtSocketsTest : public ::testing::Test {
     int m_Errors = 0, m_Closed = 0;
 };
 
-TEST_F(cQtSocketsTest, APortInUseIsAFailureThatNamesPortAndReason) {
+TEST_F(QtSockets, APortInUseIsAFailureThatNamesPortAndReason) {
     cQtListener second;
     second.SetLocalPort(m_Rig.m_Listener.LocalPort());
     try {
@@ -144,7 +144,7 @@ TEST_F(cQtSocketsTest, APortInUseIsAFailureThatNamesPortAndReason) {
     }
 }
 
-TEST_F(cQtSocketsTest, APortOutOfRangeIsAFailure) {
+TEST_F(QtSockets, APortOutOfRangeIsAFailure) {
     for (const std::int32_t port : {-1, 65536, 70000}) {
         cQtListener listener;
         listener.SetLocalPort(port);
@@ -152,7 +152,7 @@ TEST_F(cQtSocketsTest, APortOutOfRangeIsAFailure) {
     }
 }
 
-TEST_F(cQtSocketsTest, ThePortCanBeTakenAgainAtOnceAfterTheProgramEnded) {
+TEST_F(QtSockets, ThePortCanBeTakenAgainAtOnceAfterTheProgramEnded) {
     auto first = std::make_unique<cQtListener>();
     first->Listen();
     const std::int32_t port = first->LocalPort();
@@ -170,7 +170,7 @@ TEST_F(cQtSocketsTest, ThePortCanBeTakenAgainAtOnceAfterTheProgramEnded) {
     EXPECT_NO_THROW(second.Listen());
 }
 
-TEST_F(cQtSocketsTest, ConnectionsComeByEveryAddressFamily) {
+TEST_F(QtSockets, ConnectionsComeByEveryAddressFamily) {
     m_Rig.Connect(QHostAddress::LocalHost);
     EXPECT_NE(m_Rig.m_Data.State(), 0);
     m_Rig.m_Data.Close();
@@ -178,7 +178,7 @@ TEST_F(cQtSocketsTest, ConnectionsComeByEveryAddressFamily) {
     EXPECT_NE(m_Rig.m_Data.State(), 0);
 }
 
-TEST_F(cQtSocketsTest, AFloodComesInSmallTurnsBetweenWhichTheLoopServesOthers) {
+TEST_F(QtSockets, AFloodComesInSmallTurnsBetweenWhichTheLoopServesOthers) {
     const int peer = m_Rig.Connect();
     std::string flood(300000, 'x');
     for (std::size_t i = 99; i < flood.size(); i += 100) flood[i] = '\n';
@@ -202,7 +202,7 @@ TEST_F(cQtSocketsTest, AFloodComesInSmallTurnsBetweenWhichTheLoopServesOthers) {
     EXPECT_EQ(std::adjacent_find(turnOfChunk.begin(), turnOfChunk.end()), turnOfChunk.end());
 }
 
-TEST_F(cQtSocketsTest, BytesThatArriveWithThePeersCloseAreAllDelivered) {
+TEST_F(QtSockets, BytesThatArriveWithThePeersCloseAreAllDelivered) {
     const int peer = m_Rig.Connect();
     std::string bytes(50000, 'y');
     for (std::size_t i = 0; i < bytes.size(); i += 1000) bytes[i] = '\n';
@@ -213,7 +213,7 @@ TEST_F(cQtSocketsTest, BytesThatArriveWithThePeersCloseAreAllDelivered) {
     EXPECT_EQ(m_Errors, 0);
 }
 
-TEST_F(cQtSocketsTest, AStreamOfMoreThanOneMebibyteWithoutLineFeedIsAnError) {
+TEST_F(QtSockets, AStreamOfMoreThanOneMebibyteWithoutLineFeedIsAnError) {
     const int peer = m_Rig.Connect();
     const std::string line(cQtDataSocket::kMaxLine, 'z');
     m_Rig.Peer(peer).write(line.data(), static_cast<qint64>(line.size()));
@@ -226,7 +226,7 @@ TEST_F(cQtSocketsTest, AStreamOfMoreThanOneMebibyteWithoutLineFeedIsAnError) {
     EXPECT_EQ(Arrived(), line.size());
 }
 
-TEST_F(cQtSocketsTest, LineFeedsLetAStreamGoOnForEver) {
+TEST_F(QtSockets, LineFeedsLetAStreamGoOnForEver) {
     const int peer = m_Rig.Connect();
     const std::string half = std::string(700000, 'a') + "\n";
     for (int i = 0; i < 3; ++i) m_Rig.Peer(peer).write(half.data(), static_cast<qint64>(half.size()));
@@ -234,7 +234,7 @@ TEST_F(cQtSocketsTest, LineFeedsLetAStreamGoOnForEver) {
     EXPECT_EQ(m_Errors, 0);
 }
 
-TEST_F(cQtSocketsTest, ANewConnectionBeginsANewLine) {
+TEST_F(QtSockets, ANewConnectionBeginsANewLine) {
     const std::string line(cQtDataSocket::kMaxLine, 'z');
     for (int i = 0; i < 2; ++i) {
         m_Chunks.clear();
@@ -246,7 +246,7 @@ TEST_F(cQtSocketsTest, ANewConnectionBeginsANewLine) {
 }
 
 // A reset is the peer's end or an error, as the machine tells it; the link treats the two alike.
-TEST_F(cQtSocketsTest, AResetConnectionIsOneEvent) {
+TEST_F(QtSockets, AResetConnectionIsOneEvent) {
     const int peer = m_Rig.Connect();
     const linger reset{1, 0};
     setsockopt(static_cast<int>(m_Rig.Peer(peer).socketDescriptor()), SOL_SOCKET, SO_LINGER, &reset,
@@ -258,7 +258,7 @@ TEST_F(cQtSocketsTest, AResetConnectionIsOneEvent) {
     EXPECT_THROW(m_Rig.m_Data.Send("x"), cFailure);
 }
 
-TEST_F(cQtSocketsTest, RepliesReachAPeerWhoseFurtherFramesWereNotReadAnyMore) {
+TEST_F(QtSockets, RepliesReachAPeerWhoseFurtherFramesWereNotReadAnyMore) {
     const int peer = m_Rig.Connect();
     m_Rig.m_Data.OnDataArrival = [&] {
         m_Rig.m_Data.Fetch();
@@ -276,7 +276,7 @@ TEST_F(cQtSocketsTest, RepliesReachAPeerWhoseFurtherFramesWereNotReadAnyMore) {
     EXPECT_EQ(m_Rig.Peer(peer).error(), QAbstractSocket::RemoteHostClosedError);
 }
 
-TEST_F(cQtSocketsTest, AThousandConnectionsLeaveNothingBehind) {
+TEST_F(QtSockets, AThousandConnectionsLeaveNothingBehind) {
     const std::size_t before = OpenDescriptors();
     for (int i = 0; i < 1000; ++i) {
         QTcpSocket peer;
@@ -293,7 +293,7 @@ TEST_F(cQtSocketsTest, AThousandConnectionsLeaveNothingBehind) {
 
 // --- a peer that doesn't wait
 
-TEST_F(cQtSocketsTest, WhatArrivedIsDeliveredThoughThePeerLeftWithoutReadingReplies) {
+TEST_F(QtSockets, WhatArrivedIsDeliveredThoughThePeerLeftWithoutReadingReplies) {
     m_Rig.m_Data.OnDataArrival = [&] {
         m_Chunks.push_back(m_Rig.m_Data.Fetch());
         SkipFailure([&] { m_Rig.m_Data.Send("reply"); });
@@ -314,7 +314,7 @@ TEST_F(cQtSocketsTest, WhatArrivedIsDeliveredThoughThePeerLeftWithoutReadingRepl
     }
 }
 
-TEST_F(cQtSocketsTest, APeerThatOnlyEndedItsSendingGetsAllReplies) {
+TEST_F(QtSockets, APeerThatOnlyEndedItsSendingGetsAllReplies) {
     std::string expected;
     m_Rig.m_Data.OnDataArrival = [&] {
         m_Chunks.push_back(m_Rig.m_Data.Fetch());
@@ -332,7 +332,7 @@ TEST_F(cQtSocketsTest, APeerThatOnlyEndedItsSendingGetsAllReplies) {
 
 // A long line and what follows it in the same breath; what came before it is short, so that no reading ends
 // where the line does.
-TEST_F(cQtSocketsTest, NoLineIsMadeTooLongByWhatFollowsIt) {
+TEST_F(QtSockets, NoLineIsMadeTooLongByWhatFollowsIt) {
     const cBluntPeer peer(m_Rig.m_Listener.LocalPort());
     const std::string begin(4000, 'x');
     peer.Send(begin);
@@ -353,9 +353,9 @@ TEST_F(cQtSocketsTest, NoLineIsMadeTooLongByWhatFollowsIt) {
 // --- one connection after the other
 
 // What the socket's peers have sent by the time that the next one is accepted.
-class cQtNextConnectionTest : public cQtSocketsTest {
+class QtNextConnection : public QtSockets {
   protected:
-    cQtNextConnectionTest() {
+    QtNextConnection() {
         m_Rig.m_Listener.OnConnectionRequest = [this](std::int32_t id) {
             m_ArrivedAtRequest.push_back(Arrived());
             m_Rig.m_Data.Close();
@@ -369,7 +369,7 @@ class cQtNextConnectionTest : public cQtSocketsTest {
     std::vector<std::size_t> m_ArrivedAtRequest;
 };
 
-TEST_F(cQtNextConnectionTest, ComesBehindAllThatAPeerSentWhichHasLeft) {
+TEST_F(QtNextConnection, ComesBehindAllThatAPeerSentWhichHasLeft) {
     for (int i = 0; i < 3; ++i) {
         cBluntPeer peer(m_Rig.m_Listener.LocalPort());
         peer.Send(std::string(200'000, '\n'));
@@ -380,7 +380,7 @@ TEST_F(cQtNextConnectionTest, ComesBehindAllThatAPeerSentWhichHasLeft) {
     EXPECT_TRUE(WaitUntil([&] { return Arrived() == 600'000; }));
 }
 
-TEST_F(cQtNextConnectionTest, ComesBehindAllThatHadArrivedOfOneThatStays) {
+TEST_F(QtNextConnection, ComesBehindAllThatHadArrivedOfOneThatStays) {
     const cBluntPeer stays(m_Rig.m_Listener.LocalPort());
     ASSERT_TRUE(WaitForRequests(1));
     stays.Send(std::string(120'000, '\n'));
@@ -389,7 +389,7 @@ TEST_F(cQtNextConnectionTest, ComesBehindAllThatHadArrivedOfOneThatStays) {
     EXPECT_EQ(m_ArrivedAtRequest[1], 120'000u);
 }
 
-TEST_F(cQtNextConnectionTest, IsNotKeptWaitingByOneThatGoesOnSending) {
+TEST_F(QtNextConnection, IsNotKeptWaitingByOneThatGoesOnSending) {
     const cBluntPeer floods(m_Rig.m_Listener.LocalPort());
     ASSERT_TRUE(WaitForRequests(1));
     floods.Send(std::string(50'000, '\n'));
@@ -403,7 +403,7 @@ TEST_F(cQtNextConnectionTest, IsNotKeptWaitingByOneThatGoesOnSending) {
 }
 
 // A byte sent urgently counts among what has arrived, and is never read.
-TEST_F(cQtNextConnectionTest, IsNotKeptWaitingByAnUrgentByte) {
+TEST_F(QtNextConnection, IsNotKeptWaitingByAnUrgentByte) {
     const cBluntPeer hasty(m_Rig.m_Listener.LocalPort());
     ASSERT_TRUE(WaitForRequests(1));
     hasty.SendUrgently("a\nb");
@@ -411,7 +411,7 @@ TEST_F(cQtNextConnectionTest, IsNotKeptWaitingByAnUrgentByte) {
     EXPECT_TRUE(WaitForRequests(2));
 }
 
-TEST_F(cQtNextConnectionTest, IsAcceptedWhereTheOneBeforeWasNoSenders) {
+TEST_F(QtNextConnection, IsAcceptedWhereTheOneBeforeWasNoSenders) {
     const cBluntPeer endless(m_Rig.m_Listener.LocalPort());
     ASSERT_TRUE(WaitForRequests(1));
     for (std::size_t sent = 0; sent <= cQtDataSocket::kMaxLine; sent += 100'000) {
@@ -422,7 +422,7 @@ TEST_F(cQtNextConnectionTest, IsAcceptedWhereTheOneBeforeWasNoSenders) {
     EXPECT_TRUE(WaitForRequests(2));
 }
 
-TEST_F(cQtSocketsTest, APeerThatReadsNoReplyCostsABoundedMemory) {
+TEST_F(QtSockets, APeerThatReadsNoReplyCostsABoundedMemory) {
     m_Rig.Connect();
     EXPECT_THROW(m_Rig.m_Data.Send(std::string(cTcpConnection::kMostUnsent + 1, 'r')), cFailure);
     EXPECT_NO_THROW(m_Rig.m_Data.Send("reply"));
@@ -430,7 +430,7 @@ TEST_F(cQtSocketsTest, APeerThatReadsNoReplyCostsABoundedMemory) {
 
 // --- a storm of connections
 
-TEST_F(cQtSocketsTest, EachTurnOfTheLoopDeliversOneRequest) {
+TEST_F(QtSockets, EachTurnOfTheLoopDeliversOneRequest) {
     std::vector<std::unique_ptr<cBluntPeer>> peers;
     for (int i = 0; i < 20; ++i) {
         peers.push_back(std::make_unique<cBluntPeer>(m_Rig.m_Listener.LocalPort()));
@@ -445,7 +445,7 @@ TEST_F(cQtSocketsTest, EachTurnOfTheLoopDeliversOneRequest) {
     EXPECT_EQ(requests, 20);
 }
 
-TEST_F(cQtSocketsTest, ConnectionsThatCarriedNothingAreGoneAtOnce) {
+TEST_F(QtSockets, ConnectionsThatCarriedNothingAreGoneAtOnce) {
     const std::size_t before = OpenDescriptors();
     std::vector<std::unique_ptr<cBluntPeer>> peers;
     for (int i = 0; i < 50; ++i) {
@@ -457,7 +457,7 @@ TEST_F(cQtSocketsTest, ConnectionsThatCarriedNothingAreGoneAtOnce) {
     EXPECT_EQ(m_Rig.m_Data.Lingering(), 0u);
 }
 
-TEST_F(cQtSocketsTest, OnlySoManyConnectionsAreWaitedFor) {
+TEST_F(QtSockets, OnlySoManyConnectionsAreWaitedFor) {
     std::vector<std::unique_ptr<cBluntPeer>> peers;
     for (std::size_t i = 0; i < cLingeringConnections::kMost + 20; ++i) {
         m_Chunks.clear();
@@ -469,7 +469,7 @@ TEST_F(cQtSocketsTest, OnlySoManyConnectionsAreWaitedFor) {
     EXPECT_TRUE(WaitUntil([&] { return m_Rig.m_Data.Lingering() == 0; }, 5000));
 }
 
-TEST_F(cQtSocketsTest, RequestsThatNobodyTakesLeaveNoDescriptor) {
+TEST_F(QtSockets, RequestsThatNobodyTakesLeaveNoDescriptor) {
     m_Rig.m_Listener.OnConnectionRequest = nullptr;
     const std::size_t before = OpenDescriptors();
     for (int i = 0; i < 100; ++i) {
@@ -480,7 +480,7 @@ TEST_F(cQtSocketsTest, RequestsThatNobodyTakesLeaveNoDescriptor) {
     EXPECT_TRUE(WaitUntil([&] { return OpenDescriptors() == before; }));
 }
 
-TEST_F(cQtSocketsTest, AMachineWithoutDescriptorsIsAskedAgain) {
+TEST_F(QtSockets, AMachineWithoutDescriptorsIsAskedAgain) {
     rlimit usual{};
     getrlimit(RLIMIT_NOFILE, &usual);
     const cBluntPeer peer(m_Rig.m_Listener.LocalPort());
@@ -500,7 +500,7 @@ TEST_F(cQtSocketsTest, AMachineWithoutDescriptorsIsAskedAgain) {
 
 // --- one address of several
 
-TEST_F(cQtSocketsTest, AnAddressKeepsTheOthersShut) {
+TEST_F(QtSockets, AnAddressKeepsTheOthersShut) {
     cQtListener listener;
     listener.SetLocalAddress("127.0.0.1");
     listener.Listen();
@@ -509,7 +509,7 @@ TEST_F(cQtSocketsTest, AnAddressKeepsTheOthersShut) {
     EXPECT_TRUE(cBluntPeer(m_Rig.m_Listener.LocalPort(), "127.0.0.2").Connected());
 }
 
-TEST_F(cQtSocketsTest, AnAddressOfIPv6Works) {
+TEST_F(QtSockets, AnAddressOfIPv6Works) {
     cQtListener listener;
     listener.SetLocalAddress("::1");
     listener.Listen();
@@ -517,7 +517,7 @@ TEST_F(cQtSocketsTest, AnAddressOfIPv6Works) {
     EXPECT_FALSE(cBluntPeer(listener.LocalPort()).Connected());
 }
 
-TEST_F(cQtSocketsTest, AnAddressThatTheMachineLacksIsAFailure) {
+TEST_F(QtSockets, AnAddressThatTheMachineLacksIsAFailure) {
     for (const char* address : {"192.0.2.1", "localhost", "300.1.1.1", "nonsense"}) {
         cQtListener listener;
         listener.SetLocalAddress(address);

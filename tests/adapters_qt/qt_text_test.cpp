@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 TEST(QtText, EveryCharacterOfTheCodePageComesBack) {
@@ -34,4 +34,4 @@ TEST(QtText, WhatTheCodePageLacksIsAQuestionMark) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -9,7 +9,7 @@
 namespace vigrel::testing {
 namespace {
 
-TEST(cQtTimer, TicksAgainAndAgain) {
+TEST(QtTimer, TicksAgainAndAgain) {
     cQtTimer timer(10);
     int ticks = 0;
     timer.OnTick = [&] { ++ticks; };
@@ -17,7 +17,7 @@ TEST(cQtTimer, TicksAgainAndAgain) {
     EXPECT_TRUE(WaitUntil([&] { return ticks >= 3; }));
 }
 
-TEST(cQtTimer, ADisabledTimerDoesNotTick) {
+TEST(QtTimer, ADisabledTimerDoesNotTick) {
     cQtTimer timer(5, false);
     int ticks = 0;
     timer.OnTick = [&] { ++ticks; };
@@ -26,7 +26,7 @@ TEST(cQtTimer, ADisabledTimerDoesNotTick) {
     EXPECT_FALSE(timer.Enabled());
 }
 
-TEST(cQtTimer, DisablingAndEnablingStartsAFullInterval) {
+TEST(QtTimer, DisablingAndEnablingStartsAFullInterval) {
     cQtTimer timer(200);
     int ticks = 0;
     timer.OnTick = [&] { ++ticks; };
@@ -38,7 +38,7 @@ TEST(cQtTimer, DisablingAndEnablingStartsAFullInterval) {
     EXPECT_TRUE(WaitUntil([&] { return ticks == 1; }));
 }
 
-TEST(cQtTimer, EnablingAnEnabledTimerDoesNotDelayItsTick) {
+TEST(QtTimer, EnablingAnEnabledTimerDoesNotDelayItsTick) {
     cQtTimer timer(100);
     int ticks = 0;
     timer.OnTick = [&] { ++ticks; };
@@ -50,7 +50,7 @@ TEST(cQtTimer, EnablingAnEnabledTimerDoesNotDelayItsTick) {
     EXPECT_GE(ticks, 1);
 }
 
-TEST(cQtTimer, TicksThatCameDueWhileTheLoopWasBusyArriveAsOne) {
+TEST(QtTimer, TicksThatCameDueWhileTheLoopWasBusyArriveAsOne) {
     cQtTimer timer(20);
     int ticks = 0;
     timer.OnTick = [&] { ++ticks; };
@@ -59,7 +59,7 @@ TEST(cQtTimer, TicksThatCameDueWhileTheLoopWasBusyArriveAsOne) {
     EXPECT_EQ(ticks, 1);
 }
 
-TEST(cQtTimer, ItsIntervalCanBeReadAndSet) {
+TEST(QtTimer, ItsIntervalCanBeReadAndSet) {
     cQtTimer timer(500);
     EXPECT_EQ(timer.Interval(), 500);
     timer.SetInterval(10000);

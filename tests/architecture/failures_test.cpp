@@ -11,7 +11,7 @@
 
 #include "common/text_ids.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 // The files below a folder with a line that fits; tests may name the only ones.
@@ -81,4 +81,4 @@ TEST(Text, EveryNamedNumberIsAmongThoseThatLanguagesMustHave) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -7,14 +7,8 @@
 #include "architecture/unit_cycles.h"
 #include "support/temporary_folder.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::CheckIncludes;
-using testing::cIncludeRules;
-using testing::cSourceTree;
-using testing::FindUnitCycles;
-using testing::ReadIncludeRules;
 
 using Complaints = std::vector<std::string>;
 
@@ -138,4 +132,4 @@ TEST_F(UnitCycles, AHeaderAndItsSourceAreOne) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

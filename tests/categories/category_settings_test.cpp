@@ -4,10 +4,8 @@
 #include "common/failure.h"
 #include "support/fake_files.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::cFakeFiles;
 
 class CategorySettings : public ::testing::Test {
   protected:
@@ -224,4 +222,4 @@ TEST_F(CategorySettings, AStatusOutsideItsRangeIsRefused) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

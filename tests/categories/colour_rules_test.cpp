@@ -5,7 +5,7 @@
 #include "common/failure.h"
 #include "support/fake_files.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 const char* const kPath = "C:\\App\\ColourRules.txt";
@@ -161,4 +161,4 @@ TEST_F(ColourRules, AFailedSaveLeavesTheOldFile) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -2,7 +2,7 @@
 
 #include "categories/colours.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 TEST(Contrast, BlackOnWhiteIs21AndOfAColourWithItself1) {
@@ -22,4 +22,4 @@ TEST(Contrast, RedGreenAndBlueWeighAsPublished) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -5,7 +5,7 @@
 #include "categories/user_color.h"
 #include "common/failure.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 // A rule for the tags that the pattern fits, in all categories and areas.
@@ -181,4 +181,4 @@ TEST(UserColorColours, ANumberThatIsNoColourIsAFailure) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -39,20 +39,20 @@ int TicksUntilClosed(cFakeTimer& timer, cAboutBox& box) {
     return ticks;
 }
 
-TEST(cAboutBox, ClosesAtTheTwentyFirstTick) {
+TEST(AboutBox, ClosesAtTheTwentyFirstTick) {
     cFakeTimer timer(cAboutBox::kTickInterval);
     cAboutBox box(timer);
     EXPECT_EQ(TicksUntilClosed(timer, box), 21);
 }
 
-TEST(cAboutBox, CountsAnewAfterItsTime) {
+TEST(AboutBox, CountsAnewAfterItsTime) {
     cFakeTimer timer(cAboutBox::kTickInterval);
     cAboutBox box(timer);
     EXPECT_EQ(TicksUntilClosed(timer, box), 21);
     EXPECT_EQ(TicksUntilClosed(timer, box), 21);
 }
 
-TEST(cAboutBox, AnotherIntervalChangesTheTicksAndNotTheTime) {
+TEST(AboutBox, AnotherIntervalChangesTheTicksAndNotTheTime) {
     cFakeTimer timer(3000);
     cAboutBox box(timer);
     EXPECT_EQ(TicksUntilClosed(timer, box), 4);
@@ -60,7 +60,7 @@ TEST(cAboutBox, AnotherIntervalChangesTheTicksAndNotTheTime) {
     EXPECT_EQ(TicksUntilClosed(timer, box), 3);
 }
 
-TEST(cAboutBox, AnUnloadStopsTheTimer) {
+TEST(AboutBox, AnUnloadStopsTheTimer) {
     cFakeTimer timer(cAboutBox::kTickInterval);
     cAboutBox box(timer);
     box.Unload();

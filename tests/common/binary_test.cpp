@@ -4,7 +4,7 @@
 
 #include "common/failure.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 using namespace std::string_literals;
@@ -118,4 +118,4 @@ TEST(BinaryWriter, DoublesKeepEveryBit) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

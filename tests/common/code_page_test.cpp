@@ -4,7 +4,7 @@
 
 #include <set>
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 std::string AllCharacters() {
@@ -81,4 +81,4 @@ TEST(CodePage, UpperAndLowerCaseArePairs) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

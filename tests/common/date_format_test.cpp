@@ -5,7 +5,7 @@
 #include "common/dates.h"
 #include "common/failure.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 // A Sunday, the 74th day of its year, in the first quarter.
@@ -277,4 +277,4 @@ TEST(FormatDateTime, AnEmptyLocaleFormIsEmpty) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

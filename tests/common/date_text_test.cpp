@@ -4,7 +4,7 @@
 
 #include "common/dates.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 TEST(DateTimeText, ShowsYearMonthDayAndTime) {
@@ -38,4 +38,4 @@ TEST(ParseDateTimeText, RefusesWhatIsNoDate) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

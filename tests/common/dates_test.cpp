@@ -9,7 +9,7 @@
 
 #include "common/failure.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 std::string Text(const cDateParts& p) {
@@ -178,4 +178,4 @@ TEST(SplitDateTime, OutsideTheYears100To9999IsAnOverflow) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -8,7 +8,7 @@
 #include "support/fake_files.h"
 #include "support/fake_locale.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 class LanguageSelection : public ::testing::Test {
@@ -210,4 +210,4 @@ TEST_F(LanguageSelection, AnEmptyListLeavesNothingSelected) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -8,7 +8,7 @@
 
 #include "common/failure.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 struct cReading {
@@ -168,4 +168,4 @@ TEST(HexText, IsUpperCaseWithoutLeadingZeros) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 TEST(PathText, WhatTheCodePageHasStandsForItself) {
@@ -65,4 +65,4 @@ TEST(PathText, ReadersGetTheirOwnCharacters) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -14,9 +14,9 @@ namespace {
 
 constexpr std::int16_t TraceReceived = 1, TraceSent = 2;
 
-class cProtocolTraceTest : public ::testing::Test {
+class ProtocolTrace : public ::testing::Test {
   protected:
-    cProtocolTraceTest() {
+    ProtocolTrace() {
         m_State.m_DebugMode = true;
         m_Files.PutFolder("C:\\App\\LogFiles\\");
     }
@@ -36,13 +36,13 @@ class cProtocolTraceTest : public ::testing::Test {
     cProtocolTrace m_Trace{m_State, m_Clock, m_Files, "C:\\App\\"};
 };
 
-TEST_F(cProtocolTraceTest, NothingIsAddedWithoutDebugMode) {
+TEST_F(ProtocolTrace, NothingIsAddedWithoutDebugMode) {
     m_State.m_DebugMode = false;
     m_Trace.WriteTrace("abc", TraceReceived);
     EXPECT_TRUE(m_Trace.Rows().empty());
 }
 
-TEST_F(cProtocolTraceTest, AfterTheViewIsClosedNothingMoreIsAdded) {
+TEST_F(ProtocolTrace, AfterTheViewIsClosedNothingMoreIsAdded) {
     m_Trace.WriteTrace("abc", TraceReceived);
     m_Trace.Form_Unload();
     m_Trace.WriteTrace("def", TraceReceived);
@@ -50,7 +50,7 @@ TEST_F(cProtocolTraceTest, AfterTheViewIsClosedNothingMoreIsAdded) {
     EXPECT_EQ(Rows(), "V<-S/2 abc\n");
 }
 
-TEST_F(cProtocolTraceTest, EachKindHasItsTagAndIcon) {
+TEST_F(ProtocolTrace, EachKindHasItsTagAndIcon) {
     for (std::int16_t kind = 0; kind <= 7; ++kind) m_Trace.WriteTrace("x", kind);
     m_Trace.WriteTrace("x", -1);
     EXPECT_EQ(Rows(),
@@ -65,7 +65,7 @@ TEST_F(cProtocolTraceTest, EachKindHasItsTagAndIcon) {
               "V<>?/2 x\n");
 }
 
-TEST_F(cProtocolTraceTest, TheBytesOfAFrameAreMadeVisible) {
+TEST_F(ProtocolTrace, TheBytesOfAFrameAreMadeVisible) {
     m_Trace.WriteTrace(
         "\x02S0\xFFt\xFF"
         "1\x03\n",
@@ -73,34 +73,34 @@ TEST_F(cProtocolTraceTest, TheBytesOfAFrameAreMadeVisible) {
     EXPECT_EQ(Rows(), "V<-S/2 <2>S0<255>t<255>1<3><10>\n");
 }
 
-TEST_F(cProtocolTraceTest, Characters32To127StandAndTheirNeighboursDoNot) {
+TEST_F(ProtocolTrace, Characters32To127StandAndTheirNeighboursDoNot) {
     m_Trace.WriteTrace("\x1F \x7F\x80", TraceReceived);
     EXPECT_EQ(Rows(), "V<-S/2 <31> \x7F<128>\n");
 }
 
-TEST_F(cProtocolTraceTest, ALessThanSignIsNotEscapedAndAZeroIsSeen) {
+TEST_F(ProtocolTrace, ALessThanSignIsNotEscapedAndAZeroIsSeen) {
     m_Trace.WriteTrace(std::string_view("<2>\0", 4), TraceReceived);
     EXPECT_EQ(Rows(), "V<-S/2 <2><0>\n");
 }
 
-TEST_F(cProtocolTraceTest, AnEmptyTextAddsNoRow) {
+TEST_F(ProtocolTrace, AnEmptyTextAddsNoRow) {
     m_Trace.WriteTrace("", TraceReceived);
     EXPECT_TRUE(m_Trace.Rows().empty());
 }
 
-TEST_F(cProtocolTraceTest, A180CharactersAreOneRow) {
+TEST_F(ProtocolTrace, A180CharactersAreOneRow) {
     m_Trace.WriteTrace(std::string(180, 'x'), TraceSent);
     ASSERT_EQ(m_Trace.Rows().size(), 1u);
     EXPECT_EQ(m_Trace.Rows()[0].text, std::string(180, 'x'));
 }
 
-TEST_F(cProtocolTraceTest, A181CharactersAreOneRowWithNoneLeftOver) {
+TEST_F(ProtocolTrace, A181CharactersAreOneRowWithNoneLeftOver) {
     m_Trace.WriteTrace(std::string(181, 'x'), TraceSent);
     ASSERT_EQ(m_Trace.Rows().size(), 1u);
     EXPECT_EQ(m_Trace.Rows()[0].text, std::string(181, 'x'));
 }
 
-TEST_F(cProtocolTraceTest, A182CharactersAreARowOf181AndARowOfOne) {
+TEST_F(ProtocolTrace, A182CharactersAreARowOf181AndARowOfOne) {
     m_Trace.WriteTrace(std::string(182, 'x'), TraceSent);
     ASSERT_EQ(m_Trace.Rows().size(), 2u);
     EXPECT_EQ(m_Trace.Rows()[0].text, std::string(181, 'x'));
@@ -108,14 +108,14 @@ TEST_F(cProtocolTraceTest, A182CharactersAreARowOf181AndARowOfOne) {
     EXPECT_EQ(m_Trace.Rows()[1].tag, "V->S");
 }
 
-TEST_F(cProtocolTraceTest, ARenderingIsNeverSplitSoThatARowCanReach185Characters) {
+TEST_F(ProtocolTrace, ARenderingIsNeverSplitSoThatARowCanReach185Characters) {
     m_Trace.WriteTrace(std::string(180, 'x') + "\xFF" + "y", TraceReceived);
     ASSERT_EQ(m_Trace.Rows().size(), 2u);
     EXPECT_EQ(m_Trace.Rows()[0].text, std::string(180, 'x') + "<255>");
     EXPECT_EQ(m_Trace.Rows()[1].text, "y");
 }
 
-TEST_F(cProtocolTraceTest, EachRowHasItsTime) {
+TEST_F(ProtocolTrace, EachRowHasItsTime) {
     m_Trace.WriteTrace("a", TraceReceived);
     m_Clock.Set(2026, 3, 15, 9, 5, 7);
     m_Trace.WriteTrace("b", TraceReceived);
@@ -123,7 +123,7 @@ TEST_F(cProtocolTraceTest, EachRowHasItsTime) {
     EXPECT_EQ(m_Trace.Rows()[1].time, "09:05:07");
 }
 
-TEST_F(cProtocolTraceTest, With400RowsOneMoreTakesTheOldestAway) {
+TEST_F(ProtocolTrace, With400RowsOneMoreTakesTheOldestAway) {
     for (int i = 0; i < 400; ++i) m_Trace.WriteTrace(std::to_string(i), TraceReceived);
     EXPECT_EQ(m_Trace.Rows().size(), 400u);
     EXPECT_EQ(m_Trace.Rows().front().text, "0");
@@ -135,14 +135,14 @@ TEST_F(cProtocolTraceTest, With400RowsOneMoreTakesTheOldestAway) {
     EXPECT_EQ(m_Trace.RowsGone(), 1u);
 }
 
-TEST_F(cProtocolTraceTest, ATextOfMoreThan400RowsKeepsItsLast400) {
+TEST_F(ProtocolTrace, ATextOfMoreThan400RowsKeepsItsLast400) {
     m_Trace.WriteTrace(std::string(181 * 402, 'x') + "y", TraceReceived);
     EXPECT_EQ(m_Trace.Rows().size(), 400u);
     EXPECT_EQ(m_Trace.Rows().back().text, "y");
     EXPECT_EQ(m_Trace.RowsGone(), 3u);
 }
 
-TEST_F(cProtocolTraceTest, TellsItsViewOfEachCall) {
+TEST_F(ProtocolTrace, TellsItsViewOfEachCall) {
     int changes = 0;
     m_Trace.OnChange = [&] { ++changes; };
     m_Trace.WriteTrace(std::string(400, 'x'), TraceReceived);
@@ -154,7 +154,7 @@ TEST_F(cProtocolTraceTest, TellsItsViewOfEachCall) {
 
 // --- saving
 
-TEST_F(cProtocolTraceTest, ASaveOfAnEmptyListWritesTheFourHeaderLines) {
+TEST_F(ProtocolTrace, ASaveOfAnEmptyListWritesTheFourHeaderLines) {
     m_Trace.Menu_Save();
     EXPECT_EQ(Saved(), std::string(120, '-') +
                            "\r\nDEBUG INFO\r\n"
@@ -162,7 +162,7 @@ TEST_F(cProtocolTraceTest, ASaveOfAnEmptyListWritesTheFourHeaderLines) {
                            std::string(80, '-') + "\r\n");
 }
 
-TEST_F(cProtocolTraceTest, ASaveNumbersTheRowsFromZero) {
+TEST_F(ProtocolTrace, ASaveNumbersTheRowsFromZero) {
     for (int i = 0; i < 7; ++i) m_Trace.WriteTrace("x", TraceSent);
     m_Trace.WriteTrace("\x02S0\xFF", TraceReceived);
     m_Trace.Menu_Save();
@@ -173,7 +173,7 @@ TEST_F(cProtocolTraceTest, ASaveNumbersTheRowsFromZero) {
     EXPECT_TRUE(Saved().ends_with("<255>\r\n"));
 }
 
-TEST_F(cProtocolTraceTest, EverySaveAddsABlock) {
+TEST_F(ProtocolTrace, EverySaveAddsABlock) {
     m_Files.Put("C:\\App\\LogFiles\\Debug.txt", "before\r\n");
     m_Trace.Menu_Save();
     m_Trace.Menu_Save();
@@ -181,7 +181,7 @@ TEST_F(cProtocolTraceTest, EverySaveAddsABlock) {
     EXPECT_EQ(SplitLines(Saved())[0], "before");
 }
 
-TEST_F(cProtocolTraceTest, AFileThatCantBeWrittenIsAFailure) {
+TEST_F(ProtocolTrace, AFileThatCantBeWrittenIsAFailure) {
     m_Files.m_DiskFull = true;
     EXPECT_THROW(m_Trace.Menu_Save(), cFailure);
 }

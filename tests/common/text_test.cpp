@@ -4,7 +4,7 @@
 
 #include "common/failure.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 TEST(GetField, AnEmptySeparatorBecomesASemicolonInTheCallersVariable) {
@@ -190,4 +190,4 @@ TEST(SplitLines, AnyLineEndEndsALine) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

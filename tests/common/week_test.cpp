@@ -2,7 +2,7 @@
 
 #include "common/dates.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 struct cWeek {
@@ -44,4 +44,4 @@ TEST(WeekOfYear, TheTimeOfDayPlaysNoPart) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

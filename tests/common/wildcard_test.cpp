@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 struct cCase {
@@ -90,4 +90,4 @@ TEST(WildcardMatch, AStarAsTheThirtyFirstPartIsTheLast) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

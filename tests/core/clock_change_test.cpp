@@ -5,7 +5,7 @@
 #include "link/frame.h"
 #include "support/fake_receiver.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 class ClockChange : public ::testing::Test, public testing::cFakeReceiver {
@@ -129,4 +129,4 @@ TEST_F(ClockChange, ADateThatComesTwiceKeepsItsLog) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -9,11 +9,8 @@
 #include "support/fake_files.h"
 #include "support/fake_locale.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::cFakeFiles;
-using testing::cFakeLocale;
 
 const std::string kFolder = "C:\\App\\";
 
@@ -159,4 +156,4 @@ TEST_F(FirstStart, ColumnsKeepTheirWidthOnASmallScreen) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

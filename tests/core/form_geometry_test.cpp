@@ -6,12 +6,8 @@
 #include "support/fake_files.h"
 #include "support/fake_windows.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::cFakeFiles;
-using testing::cFakeScreen;
-using testing::cFakeWindow;
 
 class FormGeometry : public ::testing::Test {
   protected:
@@ -121,4 +117,4 @@ TEST_F(FormGeometry, AWindowLargerThanTheScreenStandsAtTheEdgeAndKeepsItsSize) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

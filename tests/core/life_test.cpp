@@ -6,10 +6,8 @@
 #include "link/frame.h"
 #include "support/fake_receiver.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::cFakeReceiver;
 
 class Life : public ::testing::Test, public cFakeReceiver {
   protected:
@@ -282,4 +280,4 @@ TEST_F(Life, NoEventReachesAReceiverThatIsGone) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

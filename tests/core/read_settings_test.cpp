@@ -5,12 +5,10 @@
 #include "common/failure.h"
 #include "support/fake_files.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
-using testing::cFakeFiles;
-
-class ReadSettingsTest : public ::testing::Test {
+class SettingsReading : public ::testing::Test {
   protected:
     cSettings Read(const std::string& content) {
         files.Put("C:\\App\\VigrelReceiver.INI", content);
@@ -57,20 +55,20 @@ void ExpectDefaults(const cSettings& s) {
     EXPECT_EQ(s.m_KeepForDays, 0);
 }
 
-TEST_F(ReadSettingsTest, AnEmptyFileGivesAllDefaults) {
+TEST_F(SettingsReading, AnEmptyFileGivesAllDefaults) {
     ExpectDefaults(Read(""));
     EXPECT_EQ(ReadPort(ini), 12412);
     EXPECT_EQ(fontReads, 1);
 }
 
-TEST_F(ReadSettingsTest, AMissingFileGivesAllDefaults) {
+TEST_F(SettingsReading, AMissingFileGivesAllDefaults) {
     cSettings read;
     ReadSettings(ini, read, [] {});
     ExpectDefaults(read);
     EXPECT_EQ(ReadPort(ini), 12412);
 }
 
-TEST_F(ReadSettingsTest, AFlagIsTrueOnlyAtExactlyOne) {
+TEST_F(SettingsReading, AFlagIsTrueOnlyAtExactlyOne) {
     EXPECT_FALSE(General("ShowInTaskBar=2").m_ShowInTaskBar);
     EXPECT_FALSE(General("ShowInTaskBar=-1").m_ShowInTaskBar);
     EXPECT_FALSE(General("ShowInTaskBar=yes").m_ShowInTaskBar);
@@ -82,7 +80,7 @@ TEST_F(ReadSettingsTest, AFlagIsTrueOnlyAtExactlyOne) {
     EXPECT_TRUE(General("SHOWINTASKBAR=1.0").m_ShowInTaskBar);
 }
 
-TEST_F(ReadSettingsTest, EveryFlagIsReadFromItsOwnKey) {
+TEST_F(SettingsReading, EveryFlagIsReadFromItsOwnKey) {
     const std::pair<const char*, bool cSettings::*> flags[] = {
         {"ViewOnlyOnePopupForm", &cSettings::m_ViewOnlyOnePopupForm},
         {"ShowInTaskBar", &cSettings::m_ShowInTaskBar},
@@ -109,7 +107,7 @@ TEST_F(ReadSettingsTest, EveryFlagIsReadFromItsOwnKey) {
     }
 }
 
-TEST_F(ReadSettingsTest, NumbersAndTextsAreRead) {
+TEST_F(SettingsReading, NumbersAndTextsAreRead) {
     const cSettings s = General(
         "MaxEvents=5\r\nMaxDays=-1\r\nEventSoundFileDelay=700\r\nDateFormat=yyyy-mm-dd\r\nTimeFormat=hh:"
         "nn\r\n"
@@ -125,25 +123,25 @@ TEST_F(ReadSettingsTest, NumbersAndTextsAreRead) {
     EXPECT_EQ(s.m_KeepForDays, 14);
 }
 
-TEST_F(ReadSettingsTest, ACommaEndsANumber) {
+TEST_F(SettingsReading, ACommaEndsANumber) {
     EXPECT_EQ(General("EventFontSize=10,5").m_EventFontSize, 10);
 }
 
-TEST_F(ReadSettingsTest, RubbishBehindANumberIsIgnoredAndRubbishAloneIsZero) {
+TEST_F(SettingsReading, RubbishBehindANumberIsIgnoredAndRubbishAloneIsZero) {
     EXPECT_EQ(General("MaxEvents=50 alarms").m_MaxEvents, 50);
     EXPECT_EQ(General("MaxEvents=many").m_MaxEvents, 0);
     EXPECT_EQ(General("MaxEvents=2.5").m_MaxEvents, 2);
     EXPECT_EQ(General("MaxEvents=3.5").m_MaxEvents, 4);
 }
 
-TEST_F(ReadSettingsTest, CategoryListsAreFoldedAndTheFilterEnclosedInCommas) {
+TEST_F(SettingsReading, CategoryListsAreFoldedAndTheFilterEnclosedInCommas) {
     const cSettings s =
         General("PopupFormTopMostCategory=\" Fire,Gas \"\r\nViewOnlyPopupFormForCategory=Fire, Gas");
     EXPECT_EQ(s.m_PopupFormTopMostCategory, "FIRE,GAS");
     EXPECT_EQ(s.m_ViewOnlyPopupFormForCategory, ",FIRE, GAS,");
 }
 
-TEST_F(ReadSettingsTest, ThePrintersPortAndTheLinksPortAreDifferentKeys) {
+TEST_F(SettingsReading, ThePrintersPortAndTheLinksPortAreDifferentKeys) {
     const cSettings s =
         Read("[Printer]\r\nPort=3\r\nISOLatConv=0\r\nFormat=[T0]\r\n[TCPIP]\r\nPort=12500\r\n");
     EXPECT_EQ(s.m_PrinterPort, 3);
@@ -152,13 +150,13 @@ TEST_F(ReadSettingsTest, ThePrintersPortAndTheLinksPortAreDifferentKeys) {
     EXPECT_EQ(ReadPort(ini), 12500);
 }
 
-TEST_F(ReadSettingsTest, TheConversionIsOnForAnyNumberButZero) {
+TEST_F(SettingsReading, TheConversionIsOnForAnyNumberButZero) {
     EXPECT_TRUE(Printer("ISOLatConv=2").m_PrinterISOLatConv);
     EXPECT_TRUE(Printer("ISOLatConv=-1").m_PrinterISOLatConv);
     EXPECT_FALSE(Printer("ISOLatConv=no").m_PrinterISOLatConv);
 }
 
-TEST_F(ReadSettingsTest, ANumberOutOfRangeNamesFileKeyAndValue) {
+TEST_F(SettingsReading, ANumberOutOfRangeNamesFileKeyAndValue) {
     const auto message = [this](const std::string& content) -> std::string {
         try {
             Read(content);
@@ -180,7 +178,7 @@ TEST_F(ReadSettingsTest, ANumberOutOfRangeNamesFileKeyAndValue) {
     EXPECT_NE(message("[General]\r\nMaxDays=9999999999\r\n").find("\"9999999999\""), std::string::npos);
 }
 
-TEST_F(ReadSettingsTest, OddLinesAreNoKeys) {
+TEST_F(SettingsReading, OddLinesAreNoKeys) {
     const cSettings s = Read(
         "MaxEvents=1\r\n[General\r\nMaxEvents=2\r\n[ General ]\r\n;MaxEvents=3\r\n=5\r\nMaxEvents\r\n"
         "MaxEvents = 7 \r\nMaxEvents=8\r\n[General]\r\nMaxDays=9\r\n");
@@ -188,4 +186,4 @@ TEST_F(ReadSettingsTest, OddLinesAreNoKeys) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -5,10 +5,8 @@
 #include "link/frame.h"
 #include "support/fake_receiver.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::cFakeReceiver;
 
 const std::string kPositiveReply =
     "\x04"
@@ -489,4 +487,4 @@ TEST_F(Running, AHiddenWindowComesBackWithAnEventInItsFormerSize) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -19,10 +19,8 @@
 #include "support/fake_report_list.h"
 #include "support/popup_station.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::cPopupStation;
 
 // Key by section, with the default that the reader gave.
 using Asked = std::map<std::pair<std::string, std::string>, std::string>;
@@ -47,7 +45,7 @@ std::string AllColumns() {
 }
 
 // Everything that reads the configuration of a receiver, over one file.
-class SettingKeysTest : public ::testing::Test, protected cPopupStation {
+class SettingKeyTable : public ::testing::Test, protected cPopupStation {
   protected:
     void Configure(const std::string& content) { m_Files.Put("C:\\App\\VigrelReceiver.INI", content); }
 
@@ -109,7 +107,7 @@ std::string AskingContent() {
 
 using Names = std::set<std::string>;
 
-TEST_F(SettingKeysTest, TheTableHasEveryKeyThatSomebodyReadsAndNoOther) {
+TEST_F(SettingKeyTable, TheTableHasEveryKeyThatSomebodyReadsAndNoOther) {
     Configure(AskingContent());
     ReadAll();
     Names asked;
@@ -124,7 +122,7 @@ TEST_F(SettingKeysTest, TheTableHasEveryKeyThatSomebodyReadsAndNoOther) {
     EXPECT_EQ(asked, known);
 }
 
-TEST_F(SettingKeysTest, ACategorySectionIsAskedForEveryCategoryKeyAndNoOther) {
+TEST_F(SettingKeyTable, ACategorySectionIsAskedForEveryCategoryKeyAndNoOther) {
     Configure(AskingContent());
     ReadAll();
     Names asked, known;
@@ -136,7 +134,7 @@ TEST_F(SettingKeysTest, ACategorySectionIsAskedForEveryCategoryKeyAndNoOther) {
     EXPECT_EQ(known.size(), 52u);
 }
 
-TEST_F(SettingKeysTest, ReadersGiveTheDefaultsOfTheTable) {
+TEST_F(SettingKeyTable, ReadersGiveTheDefaultsOfTheTable) {
     Configure(AskingContent());
     ReadAll();
     for (const cSettingKey& key : SettingKeys()) {
@@ -159,7 +157,7 @@ std::string Look(const cCategorySpecificSetting& setting) {
     return look;
 }
 
-TEST_F(SettingKeysTest, PicturesAndColoursOfTheTableAreThoseOfAnEmptyFile) {
+TEST_F(SettingKeyTable, PicturesAndColoursOfTheTableAreThoseOfAnEmptyFile) {
     Configure("");
     m_Categories.ReadDefault(m_Listening);
     const std::string empty = Look(m_Categories.m_DefaultCategorySetting);
@@ -185,7 +183,7 @@ std::string OtherValue(const cSettingKey& key) {
     }
 }
 
-TEST_F(SettingKeysTest, EachKeyThatTheReceiverReadsAtStartChangesItsSettings) {
+TEST_F(SettingKeyTable, EachKeyThatTheReceiverReadsAtStartChangesItsSettings) {
     const Names elsewhere{"Columns",
                           "ColumnResizable",
                           "ColumnSortable",
@@ -218,7 +216,7 @@ TEST_F(SettingKeysTest, EachKeyThatTheReceiverReadsAtStartChangesItsSettings) {
     EXPECT_EQ(keys, 28);
 }
 
-TEST_F(SettingKeysTest, KeysAreFoundInAnyCaseAndCategoryKeysInEverySectionOfACategory) {
+TEST_F(SettingKeyTable, KeysAreFoundInAnyCaseAndCategoryKeysInEverySectionOfACategory) {
     const cSettingKey* key = FindSettingKey("GENERAL", "maxevents");
     ASSERT_NE(key, nullptr);
     EXPECT_EQ(key->name, "MaxEvents");
@@ -229,7 +227,7 @@ TEST_F(SettingKeysTest, KeysAreFoundInAnyCaseAndCategoryKeysInEverySectionOfACat
     EXPECT_NE(FindSettingKey("t2", "ColumnWidth"), nullptr);
 }
 
-TEST_F(SettingKeysTest, DefaultsLieInTheRangeOfTheirKeys) {
+TEST_F(SettingKeyTable, DefaultsLieInTheRangeOfTheirKeys) {
     for (const cSettingKey& key : SettingKeys()) {
         if (key.kind == eValueKind::Text || key.kind == eValueKind::Leds || key.kind == eValueKind::LedPairs)
             continue;
@@ -239,4 +237,4 @@ TEST_F(SettingKeysTest, DefaultsLieInTheRangeOfTheirKeys) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

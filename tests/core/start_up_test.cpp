@@ -4,10 +4,8 @@
 #include "events/vigrel_reciever_alarm.h"
 #include "support/fake_receiver.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::cFakeReceiver;
 
 class StartUp : public ::testing::Test, public cFakeReceiver {
   protected:
@@ -345,4 +343,4 @@ TEST_F(StartUp, ASecondInstanceLeavesTheFirstOnesTemporariesAlone) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -7,7 +7,7 @@
 #include "link/frame.h"
 #include "support/fake_receiver.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 using cLines = std::vector<std::string>;
@@ -89,4 +89,4 @@ TEST_F(StationStatus, TheEndIsToldWhenItBegins) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

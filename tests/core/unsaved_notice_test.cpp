@@ -7,7 +7,7 @@
 #include "link/frame.h"
 #include "support/fake_receiver.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 using cLines = std::vector<std::string>;
@@ -130,4 +130,4 @@ TEST_F(UnlistedFolder, IsToldAgainWhenAFullDiskIsNoMore) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

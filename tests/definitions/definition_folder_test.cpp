@@ -4,7 +4,7 @@
 #include "definitions/receiver_list.h"
 #include "support/samples.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 using eNote = cDefinitionNote::eKind;
@@ -207,4 +207,4 @@ TEST(ReceiverList, IsIdentitiesSeparatedBySemicolons) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -8,16 +8,15 @@
 #include "definitions/profile_samples.h"
 #include "support/samples.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 using samples::kProfileFields;
 using samples::kProfileSchedule;
 using samples::kProfileVersion4;
 using samples::kProfileVersion5;
-using testing::Bytes;
 
-class ProfileTest : public DefinitionTest {
+class Profile : public DefinitionTest {
   protected:
     void Load(cProfile& profile, const std::string& bytes) {
         m_Files.Put(ProfilePath("0012"), bytes);
@@ -69,16 +68,16 @@ void ExpectNight(const cProfile& profile) {
     EXPECT_EQ(stop, 960);
 }
 
-TEST_F(ProfileTest, TheFrozenSamplesAreTheBytesWrittenByHand) {
+TEST_F(Profile, TheFrozenSamplesAreTheBytesWrittenByHand) {
     EXPECT_EQ(testing::Sample("profile_version_4.dat"), kProfileVersion4);
     EXPECT_EQ(testing::Sample("profile_version_5.dat"), kProfileVersion5);
 }
 
-TEST_F(ProfileTest, TheFileNameHoldsTheIdentityAsFourDigits) {
+TEST_F(Profile, TheFileNameHoldsTheIdentityAsFourDigits) {
     EXPECT_EQ(cProfile(m_Services).CreateFileName(12), "C:\\App\\Profiles\\Profile_0012.dat");
 }
 
-TEST_F(ProfileTest, ANewProfileIsEnabledWithoutIdentityOrSchedule) {
+TEST_F(Profile, ANewProfileIsEnabledWithoutIdentityOrSchedule) {
     const cProfile profile(m_Services);
     EXPECT_EQ(profile.m_DiskIdentity, -1);
     EXPECT_EQ(profile.m_Enabled, True16);
@@ -86,14 +85,14 @@ TEST_F(ProfileTest, ANewProfileIsEnabledWithoutIdentityOrSchedule) {
     EXPECT_TRUE(profile.HasChangedSinceLastLoadFromDisk());
 }
 
-TEST_F(ProfileTest, AVersion4FileIsRead) {
+TEST_F(Profile, AVersion4FileIsRead) {
     cProfile profile(m_Services);
     Load(profile, kProfileVersion4);
     ExpectNight(profile);
     EXPECT_EQ(profile.m_FileDateTimeStamp, 0);
 }
 
-TEST_F(ProfileTest, ALoadGivesAScheduleOfItsOwnInPlaceOfTheOldOne) {
+TEST_F(Profile, ALoadGivesAScheduleOfItsOwnInPlaceOfTheOldOne) {
     cProfile profile(m_Services);
     Load(profile, kProfileVersion5);
     const cTimeSchedule* before = profile.m_TimeSchedule.get();
@@ -102,7 +101,7 @@ TEST_F(ProfileTest, ALoadGivesAScheduleOfItsOwnInPlaceOfTheOldOne) {
     ExpectNight(profile);
 }
 
-TEST_F(ProfileTest, AVersion4FileIsRewrittenAsVersion5ByteByByte) {
+TEST_F(Profile, AVersion4FileIsRewrittenAsVersion5ByteByByte) {
     cProfile profile(m_Services);
     profile.m_OffDutyAlarmBehaviour = 2;
     Load(profile, kProfileVersion4);
@@ -112,7 +111,7 @@ TEST_F(ProfileTest, AVersion4FileIsRewrittenAsVersion5ByteByByte) {
               "12:30:15 Profile brought up 'C:\\App\\Profiles\\Profile_0012.dat' (version 4 -> 5)\r\n");
 }
 
-TEST_F(ProfileTest, OffDutyBehaviourKeepsItsValueOverAVersion4Load) {
+TEST_F(Profile, OffDutyBehaviourKeepsItsValueOverAVersion4Load) {
     cProfile profile(m_Services);
     profile.m_OffDutyAlarmBehaviour = 7;
     Load(profile, kProfileVersion4);
@@ -121,7 +120,7 @@ TEST_F(ProfileTest, OffDutyBehaviourKeepsItsValueOverAVersion4Load) {
     EXPECT_EQ(profile.m_OffDutyAlarmBehaviour, 2);
 }
 
-TEST_F(ProfileTest, AVersion5FileIsReadWithoutALogLineAndWithoutRewriting) {
+TEST_F(Profile, AVersion5FileIsReadWithoutALogLineAndWithoutRewriting) {
     m_Clock.Set(2027, 1, 1);
     cProfile profile(m_Services);
     Load(profile, kProfileVersion5);
@@ -132,7 +131,7 @@ TEST_F(ProfileTest, AVersion5FileIsReadWithoutALogLineAndWithoutRewriting) {
     EXPECT_EQ(m_Files.m_Calls, 0);
 }
 
-TEST_F(ProfileTest, AnUnchangedLoadHasNotChangedAlsoAfterARewrite) {
+TEST_F(Profile, AnUnchangedLoadHasNotChangedAlsoAfterARewrite) {
     for (const std::string& bytes : {kProfileVersion4, kProfileVersion5}) {
         cProfile profile(m_Services);
         Load(profile, bytes);
@@ -140,20 +139,20 @@ TEST_F(ProfileTest, AnUnchangedLoadHasNotChangedAlsoAfterARewrite) {
     }
 }
 
-TEST_F(ProfileTest, AFileOfLength0Or1LoadsAsFalseAndStays) {
+TEST_F(Profile, AFileOfLength0Or1LoadsAsFalseAndStays) {
     ExpectRefused("");
     ExpectRefused("\x05");
     EXPECT_EQ(Log(), "");
 }
 
-TEST_F(ProfileTest, LoadingAMissingFileLeavesAnEmptyOne) {
+TEST_F(Profile, LoadingAMissingFileLeavesAnEmptyOne) {
     cProfile profile(m_Services);
     EXPECT_FALSE(profile.LoadFromDisk(12));
     EXPECT_EQ(profile.m_DiskIdentity, -1);
     EXPECT_EQ(OnDisk(), "");
 }
 
-TEST_F(ProfileTest, AnUnknownVersionIsRefusedWithTheNameOfTheFileAndNotChanged) {
+TEST_F(Profile, AnUnknownVersionIsRefusedWithTheNameOfTheFileAndNotChanged) {
     for (const char version : {'\x03', '\x06'}) {
         std::string bytes = kProfileVersion5;
         bytes[0] = version;
@@ -164,7 +163,7 @@ TEST_F(ProfileTest, AnUnknownVersionIsRefusedWithTheNameOfTheFileAndNotChanged) 
               "12:30:15 File 'C:\\App\\Profiles\\Profile_0012.dat' (6) is no profile\r\n");
 }
 
-TEST_F(ProfileTest, AFileCutAtAnyLengthIsRefusedAndStaysAsItIs) {
+TEST_F(Profile, AFileCutAtAnyLengthIsRefusedAndStaysAsItIs) {
     for (const std::string& bytes : {kProfileVersion4, kProfileVersion5}) {
         for (std::size_t length = 0; length < bytes.size(); ++length) {
             // Nothing is told apart inside the filler.
@@ -178,7 +177,7 @@ TEST_F(ProfileTest, AFileCutAtAnyLengthIsRefusedAndStaysAsItIs) {
               std::string::npos);
 }
 
-TEST_F(ProfileTest, AFileWithFlippedBytesNeverDoesWorseThanAFalseResult) {
+TEST_F(Profile, AFileWithFlippedBytesNeverDoesWorseThanAFalseResult) {
     for (std::size_t place = 0; place < kProfileVersion4.size(); ++place) {
         for (const int pattern : {0x01, 0x80, 0xFF}) {
             std::string bytes = kProfileVersion4;
@@ -191,7 +190,7 @@ TEST_F(ProfileTest, AFileWithFlippedBytesNeverDoesWorseThanAFalseResult) {
     }
 }
 
-TEST_F(ProfileTest, AProfileThatWasNeverGivenConditionsHoldsSixEmptyStrings) {
+TEST_F(Profile, AProfileThatWasNeverGivenConditionsHoldsSixEmptyStrings) {
     m_Random.m_Values = {0};
     cProfile profile(m_Services);
     profile.m_TimeSchedule = std::make_unique<cTimeSchedule>();
@@ -209,7 +208,7 @@ TEST_F(ProfileTest, AProfileThatWasNeverGivenConditionsHoldsSixEmptyStrings) {
                                 128 + 2 + 8 + 2048 + 186);
 }
 
-TEST_F(ProfileTest, AProfileWithoutScheduleCantBeSaved) {
+TEST_F(Profile, AProfileWithoutScheduleCantBeSaved) {
     cProfile profile(m_Services);
     EXPECT_FALSE(profile.SaveToDisk());
     EXPECT_EQ(profile.m_DiskIdentity, -1);
@@ -218,7 +217,7 @@ TEST_F(ProfileTest, AProfileWithoutScheduleCantBeSaved) {
     EXPECT_NE(Log().find("Err:the profile has no time schedule"), std::string::npos);
 }
 
-TEST_F(ProfileTest, ASaveOfANewProfileNeverOverwritesAFileOfAnotherIdentity) {
+TEST_F(Profile, ASaveOfANewProfileNeverOverwritesAFileOfAnotherIdentity) {
     m_Files.Put(ProfilePath("0001"), "first");
     m_Random.m_Values = {0, 0, 0.5};
     cProfile profile(m_Services);
@@ -228,7 +227,7 @@ TEST_F(ProfileTest, ASaveOfANewProfileNeverOverwritesAFileOfAnotherIdentity) {
     EXPECT_EQ(m_Files.ReadFile(ProfilePath("0001")), "first");
 }
 
-TEST_F(ProfileTest, AFailureAtAnyCallOfASaveLeavesTheOldFileOrTheNewOneWhole) {
+TEST_F(Profile, AFailureAtAnyCallOfASaveLeavesTheOldFileOrTheNewOneWhole) {
     for (int call = 0;; ++call) {
         cProfile profile(m_Services);
         Load(profile, kProfileVersion5);
@@ -248,7 +247,7 @@ TEST_F(ProfileTest, AFailureAtAnyCallOfASaveLeavesTheOldFileOrTheNewOneWhole) {
     }
 }
 
-TEST_F(ProfileTest, AFailedSaveIsALogLineWithTheDescription) {
+TEST_F(Profile, AFailedSaveIsALogLineWithTheDescription) {
     cProfile profile(m_Services);
     Load(profile, kProfileVersion5);
     m_Files.m_DiskFull = true;
@@ -261,7 +260,7 @@ TEST_F(ProfileTest, AFailedSaveIsALogLineWithTheDescription) {
               "Err:C:\\App\\Profiles\\Profile_0012.dat.$~: the disk is full\r\n");
 }
 
-TEST_F(ProfileTest, RemovingIsALogLineWithNameAndFile) {
+TEST_F(Profile, RemovingIsALogLineWithNameAndFile) {
     cProfile profile(m_Services);
     Load(profile, kProfileVersion5);
     EXPECT_TRUE(profile.RemoveFromDisk());
@@ -269,7 +268,7 @@ TEST_F(ProfileTest, RemovingIsALogLineWithNameAndFile) {
     EXPECT_EQ(Log(), "12:30:15 Profile removed 'Night' C:\\App\\Profiles\\Profile_0012.dat\r\n");
 }
 
-TEST_F(ProfileTest, AFailedRemovalIsTheSameLineWithTheDescriptionBehind) {
+TEST_F(Profile, AFailedRemovalIsTheSameLineWithTheDescriptionBehind) {
     cProfile profile(m_Services);
     profile.SetName("Gone");
     profile.m_DiskIdentity = 3;
@@ -279,7 +278,7 @@ TEST_F(ProfileTest, AFailedRemovalIsTheSameLineWithTheDescriptionBehind) {
               "Err:C:\\App\\Profiles\\Profile_0003.dat: the file does not exist\r\n");
 }
 
-TEST_F(ProfileTest, EveryStoredFieldCountsAsAChange) {
+TEST_F(Profile, EveryStoredFieldCountsAsAChange) {
     const std::vector<std::function<void(cProfile&)>> changes = {
         [](cProfile& p) { p.SetName("x"); },
         [](cProfile& p) { p.m_Enabled = False16; },
@@ -317,7 +316,7 @@ TEST_F(ProfileTest, EveryStoredFieldCountsAsAChange) {
     }
 }
 
-TEST_F(ProfileTest, AChangeOfOnePeriodInTheScheduleIsAChange) {
+TEST_F(Profile, AChangeOfOnePeriodInTheScheduleIsAChange) {
     cProfile profile(m_Services);
     Load(profile, kProfileVersion5);
     std::int16_t start = 0;
@@ -328,7 +327,7 @@ TEST_F(ProfileTest, AChangeOfOnePeriodInTheScheduleIsAChange) {
     EXPECT_FALSE(profile.HasChangedSinceLastLoadFromDisk());
 }
 
-TEST_F(ProfileTest, TheCopyOfTheScheduleIsAScheduleOfItsOwn) {
+TEST_F(Profile, TheCopyOfTheScheduleIsAScheduleOfItsOwn) {
     cProfile profile(m_Services);
     Load(profile, kProfileVersion5);
     ASSERT_TRUE(profile.m_Original->m_TimeSchedule);
@@ -337,7 +336,7 @@ TEST_F(ProfileTest, TheCopyOfTheScheduleIsAScheduleOfItsOwn) {
     EXPECT_EQ(profile.m_Original->m_ParallellReceivers, "7;8");
 }
 
-TEST_F(ProfileTest, CopyFromTakesEverythingButTheIdentityAndSharesNothing) {
+TEST_F(Profile, CopyFromTakesEverythingButTheIdentityAndSharesNothing) {
     cProfile source(m_Services);
     Load(source, kProfileVersion5);
     cProfile copy(m_Services);
@@ -355,7 +354,7 @@ TEST_F(ProfileTest, CopyFromTakesEverythingButTheIdentityAndSharesNothing) {
     EXPECT_EQ(OnDisk(), kProfileVersion5);
 }
 
-TEST_F(ProfileTest, CopyFromAProfileWithoutScheduleHasNone) {
+TEST_F(Profile, CopyFromAProfileWithoutScheduleHasNone) {
     const cProfile source(m_Services);
     cProfile copy(m_Services);
     copy.m_TimeSchedule = std::make_unique<cTimeSchedule>();
@@ -363,7 +362,7 @@ TEST_F(ProfileTest, CopyFromAProfileWithoutScheduleHasNone) {
     EXPECT_FALSE(copy.m_TimeSchedule);
 }
 
-TEST_F(ProfileTest, AnIndexOutsideItsRangeIsABoundsFailure) {
+TEST_F(Profile, AnIndexOutsideItsRangeIsABoundsFailure) {
     cProfile profile(m_Services);
     const std::vector<std::function<void()>> calls = {
         [&] { profile.GetCondition(6); },     [&] { profile.GetCondition(-1); },
@@ -377,7 +376,7 @@ TEST_F(ProfileTest, AnIndexOutsideItsRangeIsABoundsFailure) {
     }
 }
 
-TEST_F(ProfileTest, WithoutNestingANameHasNoParent) {
+TEST_F(Profile, WithoutNestingANameHasNoParent) {
     cProfile profile(m_Services);
     profile.SetName("Building@Floor@Room");
     EXPECT_EQ(profile.GetName(), "Building@Floor@Room");
@@ -385,7 +384,7 @@ TEST_F(ProfileTest, WithoutNestingANameHasNoParent) {
     EXPECT_EQ(profile.m_NestingLevels, 0);
 }
 
-TEST_F(ProfileTest, WithNestingANameOfThreePartsHasTheFirstTwoAsParentAndLevel2) {
+TEST_F(Profile, WithNestingANameOfThreePartsHasTheFirstTwoAsParentAndLevel2) {
     m_Services.m_ProfileNesting = true;
     cProfile profile(m_Services);
     profile.SetName("Byggnad@V\xE5ning@Rum");
@@ -396,7 +395,7 @@ TEST_F(ProfileTest, WithNestingANameOfThreePartsHasTheFirstTwoAsParentAndLevel2)
     EXPECT_EQ(profile.m_NestingLevels, 1);
 }
 
-TEST_F(ProfileTest, WithNestingANameWithoutSignHasLevel0) {
+TEST_F(Profile, WithNestingANameWithoutSignHasLevel0) {
     m_Services.m_ProfileNesting = true;
     cProfile profile(m_Services);
     profile.SetName("Building@Floor");
@@ -406,4 +405,4 @@ TEST_F(ProfileTest, WithNestingANameWithoutSignHasLevel0) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

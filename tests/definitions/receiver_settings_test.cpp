@@ -3,12 +3,12 @@
 #include "definitions/definition_fixture.h"
 #include "support/samples.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
-using SettingFormsTest = DefinitionTest;
+using SettingFormsReading = DefinitionTest;
 
-TEST_F(SettingFormsTest, CaptionsAndTypesStandInTheSettingsFileOfTheType) {
+TEST_F(SettingFormsReading, CaptionsAndTypesStandInTheSettingsFileOfTheType) {
     m_Files.Put("C:\\App\\Tele.INI",
                 "[ReceiverTypeSettings]\r\nSetting0=Address\r\nSetting1=Port\r\nSetting1Type=integer32\r\n"
                 "Setting3=Night\r\nSetting3Type=YesNo\r\n");
@@ -19,13 +19,13 @@ TEST_F(SettingFormsTest, CaptionsAndTypesStandInTheSettingsFileOfTheType) {
     EXPECT_EQ(forms[3], (cSettingForm{"Night", eVariantType::Boolean}));
 }
 
-TEST_F(SettingFormsTest, AnUnknownTypeWordMeansAText) {
+TEST_F(SettingFormsReading, AnUnknownTypeWordMeansAText) {
     m_Files.Put("C:\\App\\Tele.INI",
                 "[ReceiverTypeSettings]\r\nSetting0=Address\r\nSetting0Type=Whatever\r\n");
     EXPECT_EQ(ReadSettingForms(m_Ini, m_Types.m_ReceiverTypes[3])[0].type, eVariantType::String);
 }
 
-TEST_F(SettingFormsTest, ATypeWithoutSettingsFileUsesNoSetting) {
+TEST_F(SettingFormsReading, ATypeWithoutSettingsFileUsesNoSetting) {
     EXPECT_EQ(ReadSettingForms(m_Ini, m_Types.m_ReceiverTypes[0]), SettingForms());
 }
 
@@ -63,4 +63,4 @@ TEST_F(InstalledReceiverTypes, CoverTheKindsWithAKeepAlive) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

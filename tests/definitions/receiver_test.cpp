@@ -6,15 +6,14 @@
 #include "definitions/receiver_samples.h"
 #include "support/samples.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 using samples::kReceiverVersion3;
 using samples::kReceiverVersion4;
 using samples::kReceiverVersion5;
-using testing::Bytes;
 
-class ReceiverTest : public DefinitionTest {
+class Receiver : public DefinitionTest {
   protected:
     cReceiver Loaded(const std::string& bytes) {
         m_Files.Put(ReceiverPath("0007"), bytes);
@@ -31,14 +30,14 @@ class ReceiverTest : public DefinitionTest {
     }
 };
 
-TEST_F(ReceiverTest, TheFileNameHoldsTheIdentityAsFourDigits) {
+TEST_F(Receiver, TheFileNameHoldsTheIdentityAsFourDigits) {
     const cReceiver receiver(m_Services);
     EXPECT_EQ(receiver.CreateFileName(7), "C:\\App\\Receivers\\Receiver_0007.dat");
     EXPECT_EQ(receiver.CreateFileName(9991), "C:\\App\\Receivers\\Receiver_9991.dat");
     EXPECT_EQ(receiver.CreateFileName(12345), "C:\\App\\Receivers\\Receiver_2345.dat");
 }
 
-TEST_F(ReceiverTest, ANewReceiverIsEnabledWithoutIdentityOrType) {
+TEST_F(Receiver, ANewReceiverIsEnabledWithoutIdentityOrType) {
     const cReceiver receiver(m_Services);
     EXPECT_EQ(receiver.m_DiskIdentity, -1);
     EXPECT_EQ(receiver.m_Enabled, True16);
@@ -48,13 +47,13 @@ TEST_F(ReceiverTest, ANewReceiverIsEnabledWithoutIdentityOrType) {
     EXPECT_TRUE(m_Files.ListFiles("C:\\App\\Receivers\\", "*").empty());
 }
 
-TEST_F(ReceiverTest, TheFrozenSamplesAreTheBytesWrittenByHand) {
+TEST_F(Receiver, TheFrozenSamplesAreTheBytesWrittenByHand) {
     EXPECT_EQ(testing::Sample("receiver_version_3.dat"), kReceiverVersion3);
     EXPECT_EQ(testing::Sample("receiver_version_4.dat"), kReceiverVersion4);
     EXPECT_EQ(testing::Sample("receiver_version_5.dat"), kReceiverVersion5);
 }
 
-TEST_F(ReceiverTest, AVersion3FileEnablesTheObjectThatLoadsItAndEmptiesItsNumbers) {
+TEST_F(Receiver, AVersion3FileEnablesTheObjectThatLoadsItAndEmptiesItsNumbers) {
     m_Files.Put(ReceiverPath("0007"), kReceiverVersion3);
     cReceiver receiver(m_Services);
     receiver.m_Enabled = False16;
@@ -64,7 +63,7 @@ TEST_F(ReceiverTest, AVersion3FileEnablesTheObjectThatLoadsItAndEmptiesItsNumber
     EXPECT_EQ(receiver.m_ParallellNumbers, "");
 }
 
-TEST_F(ReceiverTest, AVersion3FileIsReadWithEmptyNumbersAndEnabled) {
+TEST_F(Receiver, AVersion3FileIsReadWithEmptyNumbersAndEnabled) {
     const cReceiver receiver = Loaded(kReceiverVersion3);
     EXPECT_EQ(receiver.m_DiskIdentity, 7);
     EXPECT_EQ(receiver.m_Enabled, True16);
@@ -80,7 +79,7 @@ TEST_F(ReceiverTest, AVersion3FileIsReadWithEmptyNumbersAndEnabled) {
     EXPECT_FALSE(receiver.HasChangedSinceLastLoadFromDisk());
 }
 
-TEST_F(ReceiverTest, AVersion3FileIsRewrittenAsVersion5ByteByByte) {
+TEST_F(Receiver, AVersion3FileIsRewrittenAsVersion5ByteByByte) {
     Loaded(kReceiverVersion3);
     EXPECT_EQ(m_Files.ReadFile(ReceiverPath("0007")), Bytes("05 00 (version)"
                                                             "07 00 (identity)"
@@ -99,7 +98,7 @@ TEST_F(ReceiverTest, AVersion3FileIsRewrittenAsVersion5ByteByByte) {
               "12:30:15 Receiver brought up 'C:\\App\\Receivers\\Receiver_0007.dat' (version 3 -> 5)\r\n");
 }
 
-TEST_F(ReceiverTest, AVersion4FileIsReadAndRewrittenAsVersion5ByteByByte) {
+TEST_F(Receiver, AVersion4FileIsReadAndRewrittenAsVersion5ByteByByte) {
     cReceiver receiver = Loaded(kReceiverVersion4);
     EXPECT_EQ(receiver.m_Enabled, False16);
     EXPECT_EQ(receiver.m_ReceiverName, "Nord");
@@ -119,7 +118,7 @@ TEST_F(ReceiverTest, AVersion4FileIsReadAndRewrittenAsVersion5ByteByByte) {
               "12:30:15 Receiver brought up 'C:\\App\\Receivers\\Receiver_0007.dat' (version 4 -> 5)\r\n");
 }
 
-TEST_F(ReceiverTest, AVersion5FileIsReadWithoutALogLineAndWithoutRewriting) {
+TEST_F(Receiver, AVersion5FileIsReadWithoutALogLineAndWithoutRewriting) {
     m_Clock.Set(2027, 1, 1);
     const cReceiver receiver = Loaded(kReceiverVersion5);
     EXPECT_EQ(receiver.m_ReceiverName, "\xD6st");
@@ -133,14 +132,14 @@ TEST_F(ReceiverTest, AVersion5FileIsReadWithoutALogLineAndWithoutRewriting) {
     EXPECT_FALSE(receiver.HasChangedSinceLastLoadFromDisk());
 }
 
-TEST_F(ReceiverTest, TheNameOfTheFileDecidesTheIdentity) {
+TEST_F(Receiver, TheNameOfTheFileDecidesTheIdentity) {
     m_Files.Put(ReceiverPath("0012"), kReceiverVersion5);
     cReceiver receiver(m_Services);
     EXPECT_TRUE(receiver.LoadFromDisk(12));
     EXPECT_EQ(receiver.m_DiskIdentity, 12);
 }
 
-TEST_F(ReceiverTest, AFileOfLength0Or1LoadsAsFalseAndStays) {
+TEST_F(Receiver, AFileOfLength0Or1LoadsAsFalseAndStays) {
     for (const std::string bytes : {"", "\x05"}) {
         m_Files.Put(ReceiverPath("0007"), bytes);
         cReceiver receiver(m_Services);
@@ -154,14 +153,14 @@ TEST_F(ReceiverTest, AFileOfLength0Or1LoadsAsFalseAndStays) {
     EXPECT_EQ(Log(), "");
 }
 
-TEST_F(ReceiverTest, LoadingAMissingFileLeavesAnEmptyOne) {
+TEST_F(Receiver, LoadingAMissingFileLeavesAnEmptyOne) {
     cReceiver receiver(m_Services);
     EXPECT_FALSE(receiver.LoadFromDisk(7));
     EXPECT_EQ(m_Files.ReadFile(ReceiverPath("0007")), "");
     EXPECT_EQ(Log(), "");
 }
 
-TEST_F(ReceiverTest, LoadingWithoutTheFolderIsALogLine) {
+TEST_F(Receiver, LoadingWithoutTheFolderIsALogLine) {
     testing::cFakeFiles empty;
     empty.PutFolder("C:\\App\\LogFiles");
     const cDefinitionServices services{empty, m_Clock, m_Random, m_Texts, m_Log, m_Ini, m_Types};
@@ -173,7 +172,7 @@ TEST_F(ReceiverTest, LoadingWithoutTheFolderIsALogLine) {
               "Err:C:\\App\\Receivers\\Receiver_0007.dat: the folder does not exist\r\n");
 }
 
-TEST_F(ReceiverTest, AnUnreadableFileIsALogLine) {
+TEST_F(Receiver, AnUnreadableFileIsALogLine) {
     m_Files.Put(ReceiverPath("0007"), kReceiverVersion5);
     m_Files.SetUnreadable(ReceiverPath("0007"), true);
     cReceiver receiver(m_Services);
@@ -183,28 +182,28 @@ TEST_F(ReceiverTest, AnUnreadableFileIsALogLine) {
               "Err:C:\\App\\Receivers\\Receiver_0007.dat: the file can't be read\r\n");
 }
 
-TEST_F(ReceiverTest, AVersion6FileIsRefusedWithTheNumberOfTheOpenFileAndNotChanged) {
+TEST_F(Receiver, AVersion6FileIsRefusedWithTheNumberOfTheOpenFileAndNotChanged) {
     std::string bytes = kReceiverVersion5;
     bytes[0] = 6;
     ExpectRefused(bytes);
     EXPECT_EQ(Log(), "12:30:15 File '1' (6) is no receiver\r\n");
 }
 
-TEST_F(ReceiverTest, AVersionBelow3IsRefusedToo) {
+TEST_F(Receiver, AVersionBelow3IsRefusedToo) {
     std::string bytes = kReceiverVersion3;
     bytes[0] = 2;
     ExpectRefused(bytes);
     EXPECT_EQ(Log(), "12:30:15 File '1' (2) is no receiver\r\n");
 }
 
-TEST_F(ReceiverTest, ARefusedFileStillGivesItsIdentity) {
+TEST_F(Receiver, ARefusedFileStillGivesItsIdentity) {
     m_Files.Put(ReceiverPath("0007"), Bytes("06 00"));
     cReceiver receiver(m_Services);
     EXPECT_FALSE(receiver.LoadFromDisk(7));
     EXPECT_EQ(receiver.m_DiskIdentity, 7);
 }
 
-TEST_F(ReceiverTest, AVersion3TypeIdBeyond16BitsIsAFailureAndTheFileStays) {
+TEST_F(Receiver, AVersion3TypeIdBeyond16BitsIsAFailureAndTheFileStays) {
     std::string bytes = kReceiverVersion3;
     bytes[4] = 1;
     ExpectRefused(bytes);
@@ -213,7 +212,7 @@ TEST_F(ReceiverTest, AVersion3TypeIdBeyond16BitsIsAFailureAndTheFileStays) {
               "Err:the number 65543 does not fit 16 bits\r\n");
 }
 
-TEST_F(ReceiverTest, AnUnknownVariantTypeIsAFailureThatNamesIt) {
+TEST_F(Receiver, AnUnknownVariantTypeIsAFailureThatNamesIt) {
     std::string bytes = kReceiverVersion3;
     bytes[13] = 9;
     ExpectRefused(bytes);
@@ -222,7 +221,7 @@ TEST_F(ReceiverTest, AnUnknownVariantTypeIsAFailureThatNamesIt) {
               "Err:a value has the unknown type code 9\r\n");
 }
 
-TEST_F(ReceiverTest, AFileCutAtAnyLengthIsRefusedAndStaysAsItIs) {
+TEST_F(Receiver, AFileCutAtAnyLengthIsRefusedAndStaysAsItIs) {
     // What follows the last field of a version carries nothing and may be missing.
     const struct {
         std::string bytes;
@@ -239,7 +238,7 @@ TEST_F(ReceiverTest, AFileCutAtAnyLengthIsRefusedAndStaysAsItIs) {
     }
 }
 
-TEST_F(ReceiverTest, AFileWithFlippedBytesNeverDoesWorseThanAFalseResult) {
+TEST_F(Receiver, AFileWithFlippedBytesNeverDoesWorseThanAFalseResult) {
     for (const std::string& version : {kReceiverVersion3, kReceiverVersion4, kReceiverVersion5}) {
         for (std::size_t place = 0; place < std::min<std::size_t>(version.size(), 120); ++place) {
             for (const int pattern : {0x01, 0x80, 0xFF}) {
@@ -256,12 +255,12 @@ TEST_F(ReceiverTest, AFileWithFlippedBytesNeverDoesWorseThanAFalseResult) {
     }
 }
 
-TEST_F(ReceiverTest, AFileOfManyMegabytesIsNotTakenIntoMemory) {
+TEST_F(Receiver, AFileOfManyMegabytesIsNotTakenIntoMemory) {
     ExpectRefused(kReceiverVersion5 + std::string(9 << 20, '\0'));
     EXPECT_NE(Log().find("Err:a file of 9439"), std::string::npos) << Log();
 }
 
-TEST_F(ReceiverTest, AFirstSaveInventsAnIdentityOf1To9991) {
+TEST_F(Receiver, AFirstSaveInventsAnIdentityOf1To9991) {
     for (const auto& [random, digits] : {std::pair{0.0, "0001"}, {0.5, "4996"}, {0.99999, "9991"}}) {
         m_Random.m_Values = {random};
         cReceiver receiver(m_Services);
@@ -273,7 +272,7 @@ TEST_F(ReceiverTest, AFirstSaveInventsAnIdentityOf1To9991) {
     }
 }
 
-TEST_F(ReceiverTest, ASaveOfANewObjectNeverOverwritesAFileOfAnotherIdentity) {
+TEST_F(Receiver, ASaveOfANewObjectNeverOverwritesAFileOfAnotherIdentity) {
     m_Files.Put(ReceiverPath("0001"), "first");
     m_Files.Put(ReceiverPath("4996"), "second");
     m_Random.m_Values = {0, 0.5, 0, 0.5, 0.25};
@@ -284,7 +283,7 @@ TEST_F(ReceiverTest, ASaveOfANewObjectNeverOverwritesAFileOfAnotherIdentity) {
     EXPECT_EQ(m_Files.ReadFile(ReceiverPath("4996")), "second");
 }
 
-TEST_F(ReceiverTest, TheLastFreeIdentityIsFoundAndAFullFolderIsAFailure) {
+TEST_F(Receiver, TheLastFreeIdentityIsFoundAndAFullFolderIsAFailure) {
     const cReceiver name(m_Services);
     for (std::int16_t i = 1; i <= 9991; ++i) {
         if (i != 9990) m_Files.Put(name.CreateFileName(i), "taken");
@@ -299,7 +298,7 @@ TEST_F(ReceiverTest, TheLastFreeIdentityIsFoundAndAFullFolderIsAFailure) {
     EXPECT_NE(Log().find("Err:all numbers for new files are taken"), std::string::npos);
 }
 
-TEST_F(ReceiverTest, ASaveStampsTheMomentInTheFileAndNotInTheObject) {
+TEST_F(Receiver, ASaveStampsTheMomentInTheFileAndNotInTheObject) {
     cReceiver receiver = Loaded(kReceiverVersion5);
     const DateTime before = receiver.m_FileDateTimeStamp;
     m_Clock.Set(2026, 4, 1, 8);
@@ -309,7 +308,7 @@ TEST_F(ReceiverTest, ASaveStampsTheMomentInTheFileAndNotInTheObject) {
     EXPECT_EQ(receiver.m_FileDateTimeStamp, m_Clock.Now());
 }
 
-TEST_F(ReceiverTest, AFailureAtAnyCallOfASaveLeavesTheOldFileOrTheNewOneWhole) {
+TEST_F(Receiver, AFailureAtAnyCallOfASaveLeavesTheOldFileOrTheNewOneWhole) {
     for (int call = 0;; ++call) {
         m_Files.Put(ReceiverPath("0007"), kReceiverVersion5);
         cReceiver receiver(m_Services);
@@ -334,7 +333,7 @@ TEST_F(ReceiverTest, AFailureAtAnyCallOfASaveLeavesTheOldFileOrTheNewOneWhole) {
     }
 }
 
-TEST_F(ReceiverTest, AFailedSaveIsALogLineWithTheDescription) {
+TEST_F(Receiver, AFailedSaveIsALogLineWithTheDescription) {
     cReceiver receiver = Loaded(kReceiverVersion5);
     m_Files.m_FailCall = 0;
     m_Files.m_Calls = 0;
@@ -344,7 +343,7 @@ TEST_F(ReceiverTest, AFailedSaveIsALogLineWithTheDescription) {
               "Err:C:\\App\\Receivers\\Receiver_0007.dat.$~: made to fail\r\n");
 }
 
-TEST_F(ReceiverTest, AFailedFirstSaveLeavesTheObjectWithoutIdentity) {
+TEST_F(Receiver, AFailedFirstSaveLeavesTheObjectWithoutIdentity) {
     cReceiver receiver(m_Services);
     m_Files.m_FailCall = 0;
     EXPECT_FALSE(receiver.SaveToDisk());
@@ -354,14 +353,14 @@ TEST_F(ReceiverTest, AFailedFirstSaveLeavesTheObjectWithoutIdentity) {
     EXPECT_EQ(receiver.m_HasUpdatedDiskIdentity, True16);
 }
 
-TEST_F(ReceiverTest, AFirstSaveWhoseFolderCantBeSyncedKeepsTheNumberOfItsFile) {
+TEST_F(Receiver, AFirstSaveWhoseFolderCantBeSyncedKeepsTheNumberOfItsFile) {
     cReceiver receiver(m_Services);
     m_Files.m_FailCall = 2;
     EXPECT_FALSE(receiver.SaveToDisk());
     EXPECT_TRUE(m_Files.FileExists(receiver.CreateFileName(receiver.m_DiskIdentity)));
 }
 
-TEST_F(ReceiverTest, AnUpgradeThatCantBeWrittenLeavesTheOldFileAndTheLoadedObject) {
+TEST_F(Receiver, AnUpgradeThatCantBeWrittenLeavesTheOldFileAndTheLoadedObject) {
     m_Files.Put(ReceiverPath("0007"), kReceiverVersion3);
     m_Files.m_OnCall = [this](std::string_view operation, std::string_view) {
         m_Files.m_DiskFull = operation == "write";
@@ -373,26 +372,26 @@ TEST_F(ReceiverTest, AnUpgradeThatCantBeWrittenLeavesTheOldFileAndTheLoadedObjec
     EXPECT_NE(Log().find("Receiver not saved C:\\App\\Receivers\\Receiver_0007.dat Err:"), std::string::npos);
 }
 
-TEST_F(ReceiverTest, ATextTooLongForItsFieldIsAFailedSave) {
+TEST_F(Receiver, ATextTooLongForItsFieldIsAFailedSave) {
     cReceiver receiver = Loaded(kReceiverVersion5);
     receiver.m_ParallellNumbers = std::string(65536, '1');
     EXPECT_FALSE(receiver.SaveToDisk());
     EXPECT_EQ(m_Files.ReadFile(ReceiverPath("0007")), kReceiverVersion5);
 }
 
-TEST_F(ReceiverTest, RemovingDeletesTheFileForGoodAndLogsTheName) {
+TEST_F(Receiver, RemovingDeletesTheFileForGoodAndLogsTheName) {
     cReceiver receiver = Loaded(kReceiverVersion5);
     EXPECT_TRUE(receiver.RemoveFromDisk());
     m_Files.Crash();
     EXPECT_FALSE(m_Files.FileExists(ReceiverPath("0007")));
 }
 
-TEST_F(ReceiverTest, RemovingIsALogLineWithNameAndFile) {
+TEST_F(Receiver, RemovingIsALogLineWithNameAndFile) {
     Loaded(kReceiverVersion5).RemoveFromDisk();
     EXPECT_EQ(Log(), "12:30:15 Receiver removed '\xD6st' C:\\App\\Receivers\\Receiver_0007.dat\r\n");
 }
 
-TEST_F(ReceiverTest, AFailedRemovalIsALogLineWithTheDescription) {
+TEST_F(Receiver, AFailedRemovalIsALogLineWithTheDescription) {
     cReceiver receiver(m_Services);
     receiver.m_ReceiverName = "Lost";
     receiver.m_DiskIdentity = 33;
@@ -402,7 +401,7 @@ TEST_F(ReceiverTest, AFailedRemovalIsALogLineWithTheDescription) {
               "Err:C:\\App\\Receivers\\Receiver_0033.dat: the file does not exist\r\n");
 }
 
-TEST_F(ReceiverTest, EveryStoredFieldCountsAsAChange) {
+TEST_F(Receiver, EveryStoredFieldCountsAsAChange) {
     cReceiver receiver = Loaded(kReceiverVersion5);
     const auto changes = [&](auto&& change) {
         cReceiver changed = receiver;
@@ -420,7 +419,7 @@ TEST_F(ReceiverTest, EveryStoredFieldCountsAsAChange) {
     EXPECT_FALSE(changes([](cReceiver& r) { r.m_DiskIdentity = 8; }));
 }
 
-TEST_F(ReceiverTest, CopyFromTakesEverythingButTheIdentity) {
+TEST_F(Receiver, CopyFromTakesEverythingButTheIdentity) {
     const cReceiver source = Loaded(kReceiverVersion4);
     cReceiver copy(m_Services);
     copy.m_DiskIdentity = 99;
@@ -434,7 +433,7 @@ TEST_F(ReceiverTest, CopyFromTakesEverythingButTheIdentity) {
     for (std::int16_t i = 0; i < 4; ++i) EXPECT_EQ(copy.GetSetting(i), source.GetSetting(i));
 }
 
-TEST_F(ReceiverTest, ASettingOutside0To3IsABoundsFailure) {
+TEST_F(Receiver, ASettingOutside0To3IsABoundsFailure) {
     cReceiver receiver(m_Services);
     for (const std::int16_t index : {std::int16_t{-1}, std::int16_t{4}}) {
         const auto read = CatchFailure([&] { receiver.GetSetting(index); });
@@ -445,7 +444,7 @@ TEST_F(ReceiverTest, ASettingOutside0To3IsABoundsFailure) {
     }
 }
 
-TEST_F(ReceiverTest, AnUnknownTypeIdShowsTheBracketedNameWithFourDigits) {
+TEST_F(Receiver, AnUnknownTypeIdShowsTheBracketedNameWithFourDigits) {
     cReceiver receiver(m_Services);
     receiver.SetReceiverTypeId(42);
     EXPECT_EQ(receiver.m_ReceiverTypeName, "(Unknown type: 0042)");
@@ -453,7 +452,7 @@ TEST_F(ReceiverTest, AnUnknownTypeIdShowsTheBracketedNameWithFourDigits) {
     EXPECT_EQ(receiver.GetReceiverTypeId(), 42);
 }
 
-TEST_F(ReceiverTest, TheKeepAliveOfAnXrtIsItsSetting1InAnyCaseOfTheKind) {
+TEST_F(Receiver, TheKeepAliveOfAnXrtIsItsSetting1InAnyCaseOfTheKind) {
     for (const std::int16_t type : {std::int16_t{7}, std::int16_t{8}}) {
         cReceiver receiver(m_Services);
         receiver.SaveSetting(1, cVariant::String("30.5"));
@@ -463,7 +462,7 @@ TEST_F(ReceiverTest, TheKeepAliveOfAnXrtIsItsSetting1InAnyCaseOfTheKind) {
     }
 }
 
-TEST_F(ReceiverTest, ASetting1ThatIsNoNumberLeavesTheKeepAliveAtZero) {
+TEST_F(Receiver, ASetting1ThatIsNoNumberLeavesTheKeepAliveAtZero) {
     cReceiver receiver(m_Services);
     receiver.SaveSetting(1, cVariant::Int16(30));
     receiver.SetReceiverTypeId(7);
@@ -477,7 +476,7 @@ TEST_F(ReceiverTest, ASetting1ThatIsNoNumberLeavesTheKeepAliveAtZero) {
     }
 }
 
-TEST_F(ReceiverTest, TheKeepAliveOfATeleUnitStandsInTheSettingsFileOfItsType) {
+TEST_F(Receiver, TheKeepAliveOfATeleUnitStandsInTheSettingsFileOfItsType) {
     cReceiver receiver(m_Services);
     receiver.SaveSetting(1, cVariant::Int16(30));
     receiver.SetReceiverTypeId(9);
@@ -488,7 +487,7 @@ TEST_F(ReceiverTest, TheKeepAliveOfATeleUnitStandsInTheSettingsFileOfItsType) {
     EXPECT_EQ(receiver.m_LastKeepAlive, m_Clock.Now());
 }
 
-TEST_F(ReceiverTest, OtherKindsHaveNoKeepAlive) {
+TEST_F(Receiver, OtherKindsHaveNoKeepAlive) {
     cReceiver receiver(m_Services);
     receiver.SaveSetting(1, cVariant::Int16(30));
     receiver.SetReceiverTypeId(7);
@@ -497,7 +496,7 @@ TEST_F(ReceiverTest, OtherKindsHaveNoKeepAlive) {
     EXPECT_EQ(receiver.m_LastKeepAlive, 0);
 }
 
-TEST_F(ReceiverTest, AnUnknownTypeKeepsTheIntervalAndCountsItFromNow) {
+TEST_F(Receiver, AnUnknownTypeKeepsTheIntervalAndCountsItFromNow) {
     cReceiver receiver(m_Services);
     receiver.SetReceiverTypeId(42);
     EXPECT_EQ(receiver.m_KeepAliveInterval, 0);
@@ -510,7 +509,7 @@ TEST_F(ReceiverTest, AnUnknownTypeKeepsTheIntervalAndCountsItFromNow) {
     EXPECT_EQ(receiver.m_LastKeepAlive, m_Clock.Now());
 }
 
-TEST_F(ReceiverTest, ALoadWorksOutTheKeepAliveBeforeItTakesTheSettings) {
+TEST_F(Receiver, ALoadWorksOutTheKeepAliveBeforeItTakesTheSettings) {
     cReceiver receiver(m_Services);
     receiver.SaveSetting(1, cVariant::Int16(15));
     m_Files.Put(ReceiverPath("0007"), kReceiverVersion3);
@@ -521,4 +520,4 @@ TEST_F(ReceiverTest, ALoadWorksOutTheKeepAliveBeforeItTakesTheSettings) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

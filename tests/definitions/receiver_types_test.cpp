@@ -4,7 +4,7 @@
 
 #include "support/fake_files.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 const char* const kPath = "C:\\App\\ReceiverTypes.txt";
@@ -85,4 +85,4 @@ TEST_F(ReceiverTypesFile, AMissingFileGivesAnEmptyTableAndSaysSo) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

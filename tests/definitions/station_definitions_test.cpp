@@ -3,7 +3,7 @@
 #include "definitions/definition_fixture.h"
 #include "support/samples.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 class StationDefinitions : public DefinitionTest {
@@ -71,4 +71,4 @@ TEST_F(StationDefinitions, OpeningOneKindAgainGivesUpItsChangesAndKeepsTheOthers
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -8,10 +8,8 @@
 #include "common/failure.h"
 #include "support/bytes.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::Bytes;
 
 struct cForm {
     const char* name;
@@ -43,7 +41,7 @@ const cForm kForms[] = {
     {"byte", cVariant::Byte(200), eVariantType::Byte, Bytes("11 00 C8"), "200"},
 };
 
-TEST(cVariant, EveryTypeIsWrittenAsItsCodeThenItsValue) {
+TEST(Variant, EveryTypeIsWrittenAsItsCodeThenItsValue) {
     for (const cForm& form : kForms) {
         cBinaryWriter file;
         form.value.Write(file);
@@ -51,7 +49,7 @@ TEST(cVariant, EveryTypeIsWrittenAsItsCodeThenItsValue) {
     }
 }
 
-TEST(cVariant, EveryTypeIsReadBackEqual) {
+TEST(Variant, EveryTypeIsReadBackEqual) {
     for (const cForm& form : kForms) {
         cBinaryReader file(form.bytes);
         const cVariant value = cVariant::Read(file);
@@ -62,13 +60,13 @@ TEST(cVariant, EveryTypeIsReadBackEqual) {
     }
 }
 
-TEST(cVariant, NoTwoFormsAreEqual) {
+TEST(Variant, NoTwoFormsAreEqual) {
     for (const cForm& a : kForms) {
         for (const cForm& b : kForms) EXPECT_EQ(a.value == b.value, &a == &b) << a.name << ", " << b.name;
     }
 }
 
-TEST(cVariant, AnUnknownTypeCodeIsAFailureThatNamesTheCode) {
+TEST(Variant, AnUnknownTypeCodeIsAFailureThatNamesTheCode) {
     for (const int code : {9, 10, 12, 13, 14, 16, 18, 36, 8192, -1}) {
         cBinaryWriter file;
         file.Int16(static_cast<std::int16_t>(code));
@@ -83,7 +81,7 @@ TEST(cVariant, AnUnknownTypeCodeIsAFailureThatNamesTheCode) {
     }
 }
 
-TEST(cVariant, AValueCutAtAnyLengthLeavesTheReaderIncomplete) {
+TEST(Variant, AValueCutAtAnyLengthLeavesTheReaderIncomplete) {
     for (const cForm& form : kForms) {
         for (std::size_t length = 0; length < form.bytes.size(); ++length) {
             cBinaryReader file(std::string_view(form.bytes).substr(0, length));
@@ -93,7 +91,7 @@ TEST(cVariant, AValueCutAtAnyLengthLeavesTheReaderIncomplete) {
     }
 }
 
-TEST(cVariant, ATextOfMoreThan65535BytesCantBeWritten) {
+TEST(Variant, ATextOfMoreThan65535BytesCantBeWritten) {
     cBinaryWriter file;
     cVariant::String(std::string(65535, 'x')).Write(file);
     EXPECT_EQ(file.Bytes().size(), 65539u);
@@ -101,12 +99,12 @@ TEST(cVariant, ATextOfMoreThan65535BytesCantBeWritten) {
     EXPECT_EQ(cVariant::String(std::string(65536, 'x')), cVariant::String(std::string(65536, 'x')));
 }
 
-TEST(cVariant, ANumberThatIsNoneStillEqualsItself) {
+TEST(Variant, ANumberThatIsNoneStillEqualsItself) {
     const double none = std::numeric_limits<double>::quiet_NaN();
     EXPECT_EQ(cVariant::Double(none), cVariant::Double(none));
 }
 
-TEST(cVariant, ATrueOfAnotherBitPatternKeepsIt) {
+TEST(Variant, ATrueOfAnotherBitPatternKeepsIt) {
     const std::string bytes = Bytes("0B 00 01 00");
     cBinaryReader file(bytes);
     const cVariant value = cVariant::Read(file);
@@ -116,7 +114,7 @@ TEST(cVariant, ATrueOfAnotherBitPatternKeepsIt) {
     EXPECT_EQ(written.Bytes(), bytes);
 }
 
-TEST(cVariant, NumberTellsWhatIsNumeric) {
+TEST(Variant, NumberTellsWhatIsNumeric) {
     EXPECT_EQ(cVariant().Number(), 0);
     EXPECT_EQ(cVariant::Null().Number(), std::nullopt);
     EXPECT_EQ(cVariant::Int16(-2).Number(), -2);
@@ -129,20 +127,20 @@ TEST(cVariant, NumberTellsWhatIsNumeric) {
     EXPECT_EQ(cVariant::Byte(200).Number(), 200);
 }
 
-TEST(cVariant, TheTextOfEveryTypeReadsBack) {
+TEST(Variant, TheTextOfEveryTypeReadsBack) {
     for (const cForm& form : kForms) {
         EXPECT_EQ(form.value.Text(), form.text) << form.name;
         EXPECT_EQ(VariantFromText(form.type, form.text), form.value) << form.name;
     }
 }
 
-TEST(cVariant, TheLargestCurrencyHasItsText) {
+TEST(Variant, TheLargestCurrencyHasItsText) {
     EXPECT_EQ(cVariant::Currency(std::numeric_limits<std::int64_t>::min()).Text(), "-922337203685477.5808");
     EXPECT_EQ(cVariant::Currency(5).Text(), "0.0005");
     EXPECT_EQ(cVariant::Currency(-70000).Text(), "-7");
 }
 
-TEST(cVariant, ADateOutsideTheCalendarShowsItsDayCount) {
+TEST(Variant, ADateOutsideTheCalendarShowsItsDayCount) {
     EXPECT_EQ(cVariant::Date(1e9).Text(), "1000000000");
 }
 
@@ -170,4 +168,4 @@ TEST(VariantFromText, BlanksAroundANumberDontMatter) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

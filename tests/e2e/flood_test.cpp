@@ -19,10 +19,8 @@
 #include "e2e/station.h"
 #include "link/frame.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::cStation;
 
 constexpr std::string_view kPositiveReply =
     "\x04"
@@ -125,4 +123,4 @@ TEST(Flood, EndsWithTheLinesOfTheEndAndEveryAnswerHasItsFile) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -12,12 +12,10 @@
 
 #include "e2e/station.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::cStation;
-using testing::ReadAll;
 
 constexpr int kRefused = 69;
 
@@ -175,4 +173,4 @@ TEST_F(Terminal, IsNotSteeredByTheNameOfADisplay) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

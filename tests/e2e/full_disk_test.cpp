@@ -10,10 +10,8 @@
 
 #include "e2e/station.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::cStation;
 
 // The program inherits that a refused write is an error and no signal.
 class FullDisk : public ::testing::Test {
@@ -51,4 +49,4 @@ TEST_F(FullDisk, IsToldWhileAlarmsAreNotOnDiskAndNothingIsLost) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -14,10 +14,9 @@
 #include "e2e/station.h"
 #include "link/frame.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
-using testing::cStation;
 using Clock = std::chrono::steady_clock;
 
 constexpr const char* kNoLimit = "[General]\r\nMaxEvents=0\r\n";
@@ -231,4 +230,4 @@ TEST_F(HastySenders, AStationAtOneAddressIsReachedThereAlone) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -7,11 +7,8 @@
 
 #include "e2e/station.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::cStation;
-using testing::ReadAll;
 
 constexpr int kRefused = 69, kNotYet = 75;
 
@@ -153,4 +150,4 @@ TEST(Display, OneThatDoesNotAnswerEndsTheProgramWithTheReason) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

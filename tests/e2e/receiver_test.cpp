@@ -11,12 +11,8 @@
 #include "e2e/station.h"
 #include "vigrel-send/connection.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::cResult;
-using testing::cStation;
-using testing::ReadAll;
 
 std::vector<std::string> Behind(const std::vector<std::string>& lines, std::size_t count) {
     return {lines.begin() + static_cast<std::ptrdiff_t>(std::min(count, lines.size())), lines.end()};
@@ -195,4 +191,4 @@ TEST(Receiver, AFloodWithoutLineEndEndsTheConnectionAndTheNextOneWorks) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -15,10 +15,9 @@
 
 #include "e2e/station.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
-using testing::cStation;
 using Clock = std::chrono::steady_clock;
 using cLines = std::vector<std::string>;
 
@@ -123,4 +122,4 @@ TEST(ServiceManager, IsAskedToTryAgainWhileTheAddressIsNotThere) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

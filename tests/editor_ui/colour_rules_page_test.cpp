@@ -11,7 +11,7 @@
 
 #include "editor_ui/page_fixture.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 const char* const kContent = "# rules\r\nP* | 5;7-9 | * | 255,255,255 | 10,20,30 | 15\r\n";
@@ -159,4 +159,4 @@ TEST_F(ColourRulesPage, AFileThatCantBeReadIsNotOpened) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

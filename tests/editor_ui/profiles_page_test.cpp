@@ -16,7 +16,7 @@
 #include "editor_ui/page_fixture.h"
 #include "editor_ui/pages/file_document.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 class ProfilesPage : public PageTest {
@@ -335,4 +335,4 @@ TEST_F(ProfilesPage, InASmallWindowEveryFieldIsReachedAndTheTabsStayInSight) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -9,7 +9,7 @@
 
 #include "editor_ui/page_fixture.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 const std::string kEast = "\xC3\x96st | (Unknown type: 0009) | 0007\n";
@@ -572,4 +572,4 @@ TEST_F(ReceiversPage, InAHighWindowASettingStaysOneLine) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -4,11 +4,8 @@
 
 #include "support/fake_station.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::cFakeStation;
-using testing::kApp;
 
 class Acknowledgement : public ::testing::Test, public cFakeStation {
   protected:
@@ -187,4 +184,4 @@ TEST_F(Acknowledgement, KeepsRowColoursAndPlace) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -7,11 +7,8 @@
 #include "common/failure.h"
 #include "support/fake_station.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::cFakeStation;
-using testing::kApp;
 
 class AlarmListView : public ::testing::Test, public cFakeStation {
   protected:
@@ -304,4 +301,4 @@ TEST_F(AlarmListView, ARowOfAnAlarmWithAnOddStatusLacksOnlyWhatFails) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -4,7 +4,7 @@
 
 #include "support/fake_clock.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 class AlarmMaker : public ::testing::Test {
@@ -39,4 +39,4 @@ TEST_F(AlarmMaker, AnAlarmIsCreatedNow) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -6,10 +6,8 @@
 #include "events/vigrel_reciever_alarm.h"
 #include "support/fake_clock.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::cFakeClock;
 
 std::string Written(const cVigrelRecieverAlarm& alarm) {
     cBinaryWriter file;
@@ -202,4 +200,4 @@ TEST(AlarmObjects, ACopyLeavesTheFieldsOfTheSendingItself) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -13,11 +13,8 @@
 #include "common/text.h"
 #include "support/fake_station.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::cFakeStation;
-using testing::kApp;
 
 class AlarmStore : public ::testing::Test, public cFakeStation {
   protected:
@@ -687,4 +684,4 @@ TEST_F(AlarmStore, TheSweepStopsAtTheFirstAlarmThatIsYoungEnough) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

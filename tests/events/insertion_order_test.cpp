@@ -7,7 +7,7 @@
 
 #include "common/dates.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 // The rule itself: one element after the other goes into its place.
@@ -66,4 +66,4 @@ TEST(InsertionOrder, TellsWhetherTimesAreEqual) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

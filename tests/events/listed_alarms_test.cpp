@@ -4,10 +4,8 @@
 
 #include "support/fake_station.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::cFakeStation;
 
 class ListedAlarms : public ::testing::Test, public cFakeStation {
   protected:
@@ -116,4 +114,4 @@ TEST_F(ListedAlarms, TheSweepTakesTheRowsAlongAndLogsHowMany) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

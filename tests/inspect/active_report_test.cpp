@@ -8,7 +8,7 @@
 #include "schedule/schedule_builder.h"
 #include "support/samples.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 const testing::cContent kWeek = testing::cContent()
@@ -76,4 +76,4 @@ TEST(ActiveReport, WhatCantAnswerIsRefusedByName) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

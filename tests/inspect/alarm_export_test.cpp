@@ -13,7 +13,7 @@
 #include "support/fake_files.h"
 #include "tool_support/stored_alarms.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 const std::string kHeader =
@@ -211,4 +211,4 @@ TEST(AlarmFilter, ASecondThatIsShownIsIncludedByFromAndLeftOutByTheEndBeforeIt) 
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

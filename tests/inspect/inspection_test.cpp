@@ -7,11 +7,10 @@
 #include "support/samples.h"
 #include "vigrel-inspect/print.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 using samples::kAlarm;
-using testing::Sample;
 
 std::string Problems(const cInspection& inspection) {
     std::string text;
@@ -244,4 +243,4 @@ TEST(InspectionJson, IsOneObjectWithFieldsAndProblems) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -6,7 +6,7 @@
 #include "common/failure.h"
 #include "common/path_text.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 std::string RefusalOf(const std::vector<std::string>& words) {
@@ -95,4 +95,4 @@ TEST(InspectOptions, HelpNeedsNothingElseAndNamesEveryOption) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -5,10 +5,8 @@
 #include "common/failure.h"
 #include "support/fake_station.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::cFakeStation;
 
 class AlarmIntake : public ::testing::Test, public cFakeStation {
   protected:
@@ -187,4 +185,4 @@ TEST_F(AlarmIntake, TheOperatorsSelectionGoesAtTheNextEvent) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 TEST(Frame, TheChecksumIsThePlainSumInTwoUpperCaseDigits) {
@@ -21,4 +21,4 @@ TEST(Frame, AFrameIsMadeByteForByte) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

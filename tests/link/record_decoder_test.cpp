@@ -9,11 +9,8 @@
 #include "link/frame.h"
 #include "support/fake_station.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::cFakeStation;
-using testing::kApp;
 
 const std::string kPositiveReply =
     "\x04"
@@ -343,4 +340,4 @@ TEST_F(RecordDecoder, WhatIsAcceptedIsLoggedEachTime) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -7,10 +7,8 @@
 #include "common/failure.h"
 #include "support/fake_station.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::cFakeStation;
 
 class SenderTable : public ::testing::Test, public cFakeStation {
   protected:
@@ -235,4 +233,4 @@ TEST_F(SenderTable, ASilenceIsNoticedAcrossAClockSetBack) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -7,11 +7,8 @@
 #include "common/failure.h"
 #include "support/fake_sockets.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::cFakeDataSocket;
-using testing::cFakeListener;
 
 class ServerLink : public ::testing::Test {
   protected:
@@ -147,4 +144,4 @@ TEST_F(ServerLink, ALongLineWithoutCarriageReturnIsTaken) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -2,14 +2,12 @@
 
 #include "receiver_check/checked_station.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::kApp;
 
 const std::string kFire = " [CategorySpecificSetting_Fire] ";
 
-class CheckCategoriesTest : public testing::cCheckedStation {
+class CategoriesCheck : public testing::cCheckedStation {
   protected:
     // The base without its colours in General.
     static std::string WithoutColours(const std::string& rest = "") {
@@ -18,17 +16,17 @@ class CheckCategoriesTest : public testing::cCheckedStation {
     }
 };
 
-TEST_F(CheckCategoriesTest, ABackColourWithoutForeColourIsTold) {
+TEST_F(CategoriesCheck, ABackColourWithoutForeColourIsTold) {
     EXPECT_EQ(Rest("BackColor_Active=255,255,255"), "warning back-without-fore" + kFire + "BackColor_Active");
 }
 
-TEST_F(CheckCategoriesTest, AForeColourWithoutBackColourDoesNothing) {
+TEST_F(CategoriesCheck, AForeColourWithoutBackColourDoesNothing) {
     EXPECT_EQ(Rest("ForeColor_Active=255,255,255"), "warning fore-without-back" + kFire + "ForeColor_Active");
     EXPECT_EQ(RestMessage("BackColor_Active=\r\nForeColor_Active=255,255,255"),
               "does nothing without BackColor_Active in the same section");
 }
 
-TEST_F(CheckCategoriesTest, WithoutColoursTheListIsBlackOnBlack) {
+TEST_F(CategoriesCheck, WithoutColoursTheListIsBlackOnBlack) {
     EXPECT_EQ(Whole(WithoutColours()),
               "error no-contrast [General] BackColor_Inactive\n"
               "error no-contrast [General] BackColor_Active\n"
@@ -38,7 +36,7 @@ TEST_F(CheckCategoriesTest, WithoutColoursTheListIsBlackOnBlack) {
               "text and ground of state Inactive have the same colour, black: nothing can be read");
 }
 
-TEST_F(CheckCategoriesTest, AWeakContrastIsToldWhereTheGroundIsSet) {
+TEST_F(CategoriesCheck, AWeakContrastIsToldWhereTheGroundIsSet) {
     const std::string line = "BackColor_Active=255,255,255\r\nForeColor_Active=";
     EXPECT_EQ(Rest(line + "118,118,118"), "");
     EXPECT_EQ(Rest(line + "128,128,128"), "warning weak-contrast" + kFire + "BackColor_Active");
@@ -48,7 +46,7 @@ TEST_F(CheckCategoriesTest, AWeakContrastIsToldWhereTheGroundIsSet) {
               "text and ground of state Active have the same colour: nothing can be read");
 }
 
-TEST_F(CheckCategoriesTest, ASoundThatIsNotThereStaysSilent) {
+TEST_F(CategoriesCheck, ASoundThatIsNotThereStaysSilent) {
     EXPECT_EQ(Rest("EventSignal=3\r\nEventSoundFile=Sounds\\bell.wav"), "");
     EXPECT_EQ(Rest("EventSignal=2\r\nEventSoundFile=sounds/BELL.wav"), "");
     EXPECT_EQ(Rest("EventSignal=3\r\nEventSoundFile=Sounds\\bel.wav"),
@@ -59,45 +57,45 @@ TEST_F(CheckCategoriesTest, ASoundThatIsNotThereStaysSilent) {
               "warning sound-missing" + kFire + "EventSoundFile");
 }
 
-TEST_F(CheckCategoriesTest, ASignalThatPlaysNeedsASoundFile) {
+TEST_F(CategoriesCheck, ASignalThatPlaysNeedsASoundFile) {
     EXPECT_EQ(Rest("EventSignal=2"), "error sound-not-set" + kFire + "EventSignal");
     EXPECT_EQ(Rest("EventSignal=3"), "error sound-not-set" + kFire + "EventSignal");
     EXPECT_EQ(Rest("EventSignal=1"), "");
     EXPECT_EQ(General("EventSignal=3"), "error sound-not-set [General] EventSignal");
 }
 
-TEST_F(CheckCategoriesTest, AnInheritedSoundIsToldOnceInGeneral) {
+TEST_F(CategoriesCheck, AnInheritedSoundIsToldOnceInGeneral) {
     EXPECT_EQ(General("EventSignal=3\r\nEventSoundFile=Sounds\\bel.wav"),
               "error sound-missing [General] EventSoundFile");
     EXPECT_EQ(Lines(Check(Content("EventSoundFile=Sounds\\bell.wav", "EventSignal=3"))), "");
 }
 
-TEST_F(CheckCategoriesTest, AFileThatIsNoWaveFileIsTold) {
+TEST_F(CategoriesCheck, AFileThatIsNoWaveFileIsTold) {
     m_Files.Put(kApp + "Sounds\\song.mp3", "ID3");
     EXPECT_EQ(Rest("EventSignal=3\r\nEventSoundFile=Sounds\\song.mp3"),
               "warning sound-not-wave" + kFire + "EventSoundFile");
 }
 
-TEST_F(CheckCategoriesTest, ASoundThatCantBeReadIsAnError) {
+TEST_F(CategoriesCheck, ASoundThatCantBeReadIsAnError) {
     m_Files.SetUnreadable(kApp + "Sounds\\bell.wav", true);
     EXPECT_EQ(Rest("EventSignal=3\r\nEventSoundFile=Sounds\\bell.wav"),
               "error sound-unreadable" + kFire + "EventSoundFile");
 }
 
-TEST_F(CheckCategoriesTest, LightKeysWithoutALightDoNothing) {
+TEST_F(CategoriesCheck, LightKeysWithoutALightDoNothing) {
     EXPECT_EQ(Rest("USBLED_Control_Active=0/2/0/0\r\nUSBLED_Power_Active=50/50/50/50"),
               "warning light-without-name" + kFire + "USBLED_Control_Active");
     EXPECT_EQ(Rest("USBLED_DeviceName_Acked=A\r\nUSBLED_Control_Active=0/2/0/0"),
               "warning light-without-name" + kFire + "USBLED_Control_Active");
 }
 
-TEST_F(CheckCategoriesTest, ALightThatOnlyGeneralNamesIsNeverOfferedToBeStopped) {
+TEST_F(CategoriesCheck, ALightThatOnlyGeneralNamesIsNeverOfferedToBeStopped) {
     EXPECT_EQ(General("USBLED_DeviceName_Active=A"),
               "warning light-in-general-only [General] USBLED_DeviceName_Active");
     EXPECT_EQ(Lines(Check(Content("USBLED_DeviceName_Active=A", "USBLED_DeviceName_Active=A"))), "");
 }
 
-TEST_F(CheckCategoriesTest, TheCategoryOfLostSendersShouldHaveASection) {
+TEST_F(CategoriesCheck, TheCategoryOfLostSendersShouldHaveASection) {
     EXPECT_EQ(General("SystemErrorCategory=vigrel"), "");
     EXPECT_EQ(General("SystemErrorCategory=Lost"),
               "remark category-without-section [General] SystemErrorCategory");
@@ -105,4 +103,4 @@ TEST_F(CheckCategoriesTest, TheCategoryOfLostSendersShouldHaveASection) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -13,12 +13,10 @@
 #include "receiver_check/checked_station.h"
 #include "support/temporary_folder.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
-using testing::kApp;
-
-class CheckFolderTest : public testing::cCheckedStation {
+class FolderCheck : public testing::cCheckedStation {
   protected:
     void Alarm(const std::string& name, const std::string& bytes) {
         m_Files.Put(kApp + "Alarms\\" + name, bytes);
@@ -26,7 +24,7 @@ class CheckFolderTest : public testing::cCheckedStation {
     std::string Found() { return Whole(Content()); }
 };
 
-TEST_F(CheckFolderTest, ALanguageWithoutFileIsAnError) {
+TEST_F(FolderCheck, ALanguageWithoutFileIsAnError) {
     const std::string content = Content("Language=46");
     m_Files.Put(kApp + "Vigrel_Texts.046", AllTexts());
     EXPECT_EQ(Lines(Check(content)).substr(0, 42), "error language-missing [General] Language\n");
@@ -35,18 +33,18 @@ TEST_F(CheckFolderTest, ALanguageWithoutFileIsAnError) {
               "are 044, 046");
 }
 
-TEST_F(CheckFolderTest, ALanguageThatIsNotSetIsAskedFor) {
+TEST_F(FolderCheck, ALanguageThatIsNotSetIsAskedFor) {
     const cFindings findings = Check(Content("Language="));
     EXPECT_EQ(findings.m_All[0].name, "language-not-set");
     EXPECT_EQ(findings.m_All[0].severity, eSeverity::Remark);
 }
 
-TEST_F(CheckFolderTest, AFolderWithoutTextsIsAnError) {
+TEST_F(FolderCheck, AFolderWithoutTextsIsAnError) {
     m_Files.RemoveFile(kApp + "Vigrel_Texts.044");
     EXPECT_EQ(Found(), "error no-texts Vigrel_Texts.NNN");
 }
 
-TEST_F(CheckFolderTest, TextsThatTheProgramAsksForAreMissed) {
+TEST_F(FolderCheck, TextsThatTheProgramAsksForAreMissed) {
     m_Files.Put(kApp + "Vigrel_Texts.044", AllTexts(10006) + "10006=\r\n");
     m_Files.Put(kApp + "Vigrel_Texts.046", AllTexts(10007));
     const cFindings findings = Check(Content());
@@ -56,12 +54,12 @@ TEST_F(CheckFolderTest, TextsThatTheProgramAsksForAreMissed) {
               "lacks texts that the program shows: 10006; the next start of the station adds them");
 }
 
-TEST_F(CheckFolderTest, TextsThatCantBeReadAreAnError) {
+TEST_F(FolderCheck, TextsThatCantBeReadAreAnError) {
     m_Files.Put(kApp + "Vigrel_Texts.044", "99999999999=x\r\n");
     EXPECT_EQ(Found(), "error texts-unreadable Vigrel_Texts.044");
 }
 
-TEST_F(CheckFolderTest, LinesOfListsThatAreSkippedAreTold) {
+TEST_F(FolderCheck, LinesOfListsThatAreSkippedAreTold) {
     m_Files.Put(kApp + "ColourRules.txt", "# a remark\r\n* | 1 | 1 | 0,0,0 | 255,255,255\r\n");
     m_Files.Put(kApp + "ReceiverTypes.txt", "nonsense\r\n");
     const cFindings findings = Check(Content());
@@ -71,12 +69,12 @@ TEST_F(CheckFolderTest, LinesOfListsThatAreSkippedAreTold) {
     EXPECT_NE(findings.m_All[0].message.find("a rule has six fields"), std::string::npos);
 }
 
-TEST_F(CheckFolderTest, AGoodAlarmIsLeftAlone) {
+TEST_F(FolderCheck, AGoodAlarmIsLeftAlone) {
     Alarm("A0042917.alm", samples::kAlarm);
     EXPECT_EQ(Found(), "");
 }
 
-TEST_F(CheckFolderTest, AnAlarmThatIsCutOrTooLongIsDamaged) {
+TEST_F(FolderCheck, AnAlarmThatIsCutOrTooLongIsDamaged) {
     Alarm("A0042917.alm", samples::kAlarm.substr(0, 30));
     const cFindings cut = Check(Content());
     EXPECT_EQ(Lines(cut), "warning alarm-damaged Alarms\\A0042917.alm");
@@ -85,7 +83,7 @@ TEST_F(CheckFolderTest, AnAlarmThatIsCutOrTooLongIsDamaged) {
     EXPECT_EQ(Found(), "warning alarm-damaged Alarms\\A0042917.alm");
 }
 
-TEST_F(CheckFolderTest, AnAlarmThatCantBeReadEndsTheStart) {
+TEST_F(FolderCheck, AnAlarmThatCantBeReadEndsTheStart) {
     Alarm("A0042917.alm", samples::kAlarm);
     m_Files.SetUnreadable(kApp + "Alarms\\A0042917.alm", true);
     EXPECT_EQ(Found(), "error alarm-unreadable Alarms\\A0042917.alm");
@@ -96,7 +94,7 @@ TEST_F(CheckFolderTest, AnAlarmThatCantBeReadEndsTheStart) {
               "error alarm-unreadable Alarms\\A0000001.alm\nerror alarm-unreadable Alarms\\A0042917.alm");
 }
 
-TEST_F(CheckFolderTest, AlarmsWithoutNumberAndStrangersAreNotRead) {
+TEST_F(FolderCheck, AlarmsWithoutNumberAndStrangersAreNotRead) {
     Alarm("A004291X.alm", samples::kAlarm);
     Alarm("A42917.alm", samples::kAlarm);
     Alarm("notes.txt", "");
@@ -108,7 +106,7 @@ TEST_F(CheckFolderTest, AlarmsWithoutNumberAndStrangersAreNotRead) {
               "remark not-an-alarm Alarms\\notes.txt");
 }
 
-TEST_F(CheckFolderTest, MoreAlarmsThanAreKeptAreRemarked) {
+TEST_F(FolderCheck, MoreAlarmsThanAreKeptAreRemarked) {
     for (int i = 1; i <= 3; ++i) Alarm("A004291" + std::to_string(i) + ".alm", samples::kAlarm);
     const cFindings findings = Check(Content("MaxEvents=2"));
     EXPECT_EQ(findings.m_All[0].name, "more-than-max-events");
@@ -116,7 +114,7 @@ TEST_F(CheckFolderTest, MoreAlarmsThanAreKeptAreRemarked) {
     EXPECT_EQ(Lines(Check(Content("MaxEvents=0"))).find("more-than"), std::string::npos);
 }
 
-TEST_F(CheckFolderTest, APortInUseMayBeTheStationItself) {
+TEST_F(FolderCheck, APortInUseMayBeTheStationItself) {
     m_Machine.m_Trial = {cMachine::ePort::InUse, ""};
     EXPECT_EQ(Rest("[TCPIP]\r\nPort=12500"), "warning port-in-use [TCPIP] Port");
     EXPECT_EQ(RestMessage("[TCPIP]\r\nPort=12500"),
@@ -125,20 +123,20 @@ TEST_F(CheckFolderTest, APortInUseMayBeTheStationItself) {
     EXPECT_EQ(Message(Check(Content())), "TCP port 12412 is in use (perhaps by the station itself)");
 }
 
-TEST_F(CheckFolderTest, AnAddressIsTriedWithThePort) {
+TEST_F(FolderCheck, AnAddressIsTriedWithThePort) {
     m_Machine.m_Trial = {cMachine::ePort::Failed, "Cannot assign requested address"};
     EXPECT_EQ(RestMessage("[TCPIP]\r\nPort=12500\r\nAddress= 192.0.2.1"),
               "TCP port 12500 of address 192.0.2.1 can't be opened: Cannot assign requested address");
     EXPECT_EQ(m_Machine.m_Tried.back(), "192.0.2.1:12500");
 }
 
-TEST_F(CheckFolderTest, APortThatCantBeOpenedIsAnError) {
+TEST_F(FolderCheck, APortThatCantBeOpenedIsAnError) {
     m_Machine.m_Trial = {cMachine::ePort::Failed, "Permission denied"};
     EXPECT_EQ(Rest("[TCPIP]\r\nPort=80"), "error port-not-opened [TCPIP] Port");
     EXPECT_EQ(RestMessage("[TCPIP]\r\nPort=80"), "TCP port 80 can't be opened: Permission denied");
 }
 
-TEST_F(CheckFolderTest, APortOutOfRangeIsNotTried) {
+TEST_F(FolderCheck, APortOutOfRangeIsNotTried) {
     for (const std::string port : {"0", "-1", "65536"}) {
         EXPECT_NE(Rest("[TCPIP]\r\nPort=" + port).find("error port-out-of-range [TCPIP] Port"),
                   std::string::npos);
@@ -147,13 +145,13 @@ TEST_F(CheckFolderTest, APortOutOfRangeIsNotTried) {
     EXPECT_EQ(Rest("[TCPIP]\r\nPort=3000000000"), "error number-overflow [TCPIP] Port");
 }
 
-TEST_F(CheckFolderTest, AlarmsThatCantBeWrittenAreAnErrorAndLogsAWarning) {
+TEST_F(FolderCheck, AlarmsThatCantBeWrittenAreAnErrorAndLogsAWarning) {
     m_Machine.m_NotWritable = {{kApp + "Alarms", "Permission denied"}, {kApp + "LogFiles", "Read-only"}};
     EXPECT_EQ(Found(), "error folder-not-writable Alarms\nwarning folder-not-writable LogFiles");
     EXPECT_EQ(Check(Content()).m_All[0].message, "Permission denied: no alarm is kept over a restart");
 }
 
-TEST_F(CheckFolderTest, MissingFoldersAreMadeWhereTheFolderAboveCanBeWritten) {
+TEST_F(FolderCheck, MissingFoldersAreMadeWhereTheFolderAboveCanBeWritten) {
     m_Machine.m_Missing = {kApp + "Alarms", kApp + "LogFiles"};
     EXPECT_EQ(Found(), "");
     m_Machine.m_NotWritable = {{kApp, "Permission denied"}};
@@ -163,14 +161,14 @@ TEST_F(CheckFolderTest, MissingFoldersAreMadeWhereTheFolderAboveCanBeWritten) {
               "warning folder-missing LogFiles");
 }
 
-TEST_F(CheckFolderTest, WithoutAMachineOnlyFilesAreLookedAt) {
+TEST_F(FolderCheck, WithoutAMachineOnlyFilesAreLookedAt) {
     m_Machine.m_Trial = {cMachine::ePort::InUse, ""};
     m_Files.Put(kApp + "VigrelReceiver.INI", Content());
     EXPECT_EQ(Lines(CheckInstallation(m_Files, kApp, nullptr)), "");
     EXPECT_TRUE(m_Machine.m_Tried.empty());
 }
 
-TEST_F(CheckFolderTest, NothingIsEverWritten) {
+TEST_F(FolderCheck, NothingIsEverWritten) {
     Alarm("A0042917.alm", samples::kAlarm);
     const int calls = m_Files.m_Calls;
     CheckInstallation(m_Files, kApp, &m_Machine);
@@ -255,4 +253,4 @@ TEST(PosixMachine, ASoundIsDecodedForItsLength) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -4,12 +4,12 @@
 #include "receiver-check/names.h"
 #include "receiver_check/checked_station.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
-class CheckKeysTest : public testing::cCheckedStation {};
+class KeysCheck : public testing::cCheckedStation {};
 
-TEST_F(CheckKeysTest, AFlagIsZeroOrOne) {
+TEST_F(KeysCheck, AFlagIsZeroOrOne) {
     for (const std::string value : {"yes", "true", "on", "2", "-1", "1.5", "no", ""}) {
         EXPECT_EQ(General("ShowInTaskBar=" + value), "warning flag-not-0-or-1 [General] ShowInTaskBar")
             << value;
@@ -21,26 +21,26 @@ TEST_F(CheckKeysTest, AFlagIsZeroOrOne) {
     }
 }
 
-TEST_F(CheckKeysTest, ARemarkBehindAFlagIsTold) {
+TEST_F(KeysCheck, ARemarkBehindAFlagIsTold) {
     EXPECT_EQ(General("ShowInTaskBar=1 ; button"), "warning number-with-rest [General] ShowInTaskBar");
     EXPECT_EQ(GeneralMessage("ShowInTaskBar=0 ; no button"),
               "only the number at the beginning counts: it means off");
 }
 
-TEST_F(CheckKeysTest, RubbishBehindANumberIsTold) {
+TEST_F(KeysCheck, RubbishBehindANumberIsTold) {
     EXPECT_EQ(General("MaxDays=30 days"), "warning number-with-rest [General] MaxDays");
     EXPECT_EQ(GeneralMessage("MaxDays=30 days"), "only the number at the beginning counts: it means 30");
     EXPECT_EQ(GeneralMessage("EventFontSize=10,5"),
               "only the number at the beginning counts: it means 10; the decimal sign is \".\"");
 }
 
-TEST_F(CheckKeysTest, AValueWithoutNumberMeansZero) {
+TEST_F(KeysCheck, AValueWithoutNumberMeansZero) {
     EXPECT_EQ(General("MaxDays=many"), "warning number-unreadable [General] MaxDays");
     EXPECT_EQ(General("MaxDays="), "warning number-missing [General] MaxDays");
     EXPECT_EQ(General("MaxDays=-1"), "");
 }
 
-TEST_F(CheckKeysTest, ANumberBeyondItsBitsEndsTheStart) {
+TEST_F(KeysCheck, ANumberBeyondItsBitsEndsTheStart) {
     EXPECT_EQ(General("KeepForDays=32768"), "error number-overflow [General] KeepForDays");
     EXPECT_EQ(GeneralMessage("KeepForDays=32768"), "does not fit 16 bits: the start ends with a message");
     EXPECT_EQ(General("KeepForDays=32767"), "");
@@ -48,31 +48,31 @@ TEST_F(CheckKeysTest, ANumberBeyondItsBitsEndsTheStart) {
     EXPECT_EQ(Rest("[t0]\r\nColumnWidth=3000000000"), "error number-overflow [t0] ColumnWidth");
 }
 
-TEST_F(CheckKeysTest, ANumberBeyondItsBitsIsSkippedAmongCategoryKeysAndOfAColumnThatIsNotShown) {
+TEST_F(KeysCheck, ANumberBeyondItsBitsIsSkippedAmongCategoryKeysAndOfAColumnThatIsNotShown) {
     EXPECT_EQ(Rest("FontBold_Active=99999"),
               "warning number-overflow [CategorySpecificSetting_Fire] FontBold_Active");
     EXPECT_EQ(General("FontBold_Active=99999"), "warning number-overflow [General] FontBold_Active");
     EXPECT_EQ(Rest("[t5]\r\nColumnWidth=3000000000"), "warning number-overflow [t5] ColumnWidth");
 }
 
-TEST_F(CheckKeysTest, ANumberBeyondItsBitsStopsPopups) {
+TEST_F(KeysCheck, ANumberBeyondItsBitsStopsPopups) {
     EXPECT_EQ(RestMessage("[PopupForm]\r\nX_Start=3000000000"), "does not fit 32 bits: no popup opens");
 }
 
-TEST_F(CheckKeysTest, ANumberOutsideItsRangeIsTold) {
+TEST_F(KeysCheck, ANumberOutsideItsRangeIsTold) {
     EXPECT_EQ(General("KeepForDays=-1"), "warning number-out-of-range [General] KeepForDays");
     EXPECT_EQ(GeneralMessage("EventSignal=4"), "is not in 0 to 3");
     EXPECT_EQ(Rest("USBLED_DeviceName_Active=A\r\nUSBLED_PreScalar_Active=0"),
               "warning number-out-of-range [CategorySpecificSetting_Fire] USBLED_PreScalar_Active");
 }
 
-TEST_F(CheckKeysTest, AFractionOfAWholeNumberIsRounded) {
+TEST_F(KeysCheck, AFractionOfAWholeNumberIsRounded) {
     EXPECT_EQ(General("MaxDays=2.5"), "remark number-rounded [General] MaxDays");
     EXPECT_EQ(GeneralMessage("MaxDays=2.5"), "is rounded to 2");
     EXPECT_EQ(General("EventFontSize=10.5"), "");
 }
 
-TEST_F(CheckKeysTest, AColourIsThreeNumbersUpTo255) {
+TEST_F(KeysCheck, AColourIsThreeNumbersUpTo255) {
     const auto lines = [](const std::string& value) {
         return "BackColor_Active=" + value + "\r\nForeColor_Active=0,0,0";
     };
@@ -88,7 +88,7 @@ TEST_F(CheckKeysTest, AColourIsThreeNumbersUpTo255) {
     EXPECT_EQ(RestMessage(lines("255,40000,255")), "\"40000\" is not in 0 to 255: the colour becomes white");
 }
 
-TEST_F(CheckKeysTest, PicturesAreTwoNumbersOfTheStrip) {
+TEST_F(KeysCheck, PicturesAreTwoNumbersOfTheStrip) {
     EXPECT_EQ(General("Icon_Active=2,47"), "");
     EXPECT_EQ(General("Icon_Active=5"), "warning icon-alone [General] Icon_Active");
     EXPECT_EQ(General("Icon_Active=2,48"), "warning part-out-of-range [General] Icon_Active");
@@ -97,7 +97,7 @@ TEST_F(CheckKeysTest, PicturesAreTwoNumbersOfTheStrip) {
     EXPECT_EQ(General("Icon_Active="), "");
 }
 
-TEST_F(CheckKeysTest, ALightHasFourLeds) {
+TEST_F(KeysCheck, ALightHasFourLeds) {
     const auto light = [&](const std::string& line) {
         return Rest("USBLED_DeviceName_Active=A\r\nUSBLED_" + line);
     };
@@ -114,7 +114,7 @@ TEST_F(CheckKeysTest, ALightHasFourLeds) {
               "warning part-out-of-range" + place + "FreqDuty_Active");
 }
 
-TEST_F(CheckKeysTest, AnUnknownKeyComesWithTheNearestKnownOne) {
+TEST_F(KeysCheck, AnUnknownKeyComesWithTheNearestKnownOne) {
     EXPECT_EQ(General("MaxEvent=5"), "warning unknown-key [General] MaxEvent");
     EXPECT_EQ(GeneralMessage("MaxEvent=5"), "nobody reads a key of this name here; is \"MaxEvents\" meant?");
     EXPECT_EQ(GeneralMessage("Colour=5"), "nobody reads a key of this name here");
@@ -122,14 +122,14 @@ TEST_F(CheckKeysTest, AnUnknownKeyComesWithTheNearestKnownOne) {
               "nobody reads a key of this name here; is \"BackColor_Active\" meant?");
 }
 
-TEST_F(CheckKeysTest, AKeyInTheWrongSectionIsToldWhereItBelongs) {
+TEST_F(KeysCheck, AKeyInTheWrongSectionIsToldWhereItBelongs) {
     EXPECT_EQ(GeneralMessage("WindowPosition=STATIC"),
               "nobody reads a key of this name here; it belongs to section PopupForm");
     EXPECT_EQ(Rest("MaxDays=3"), "warning unknown-key [CategorySpecificSetting_Fire] MaxDays");
     EXPECT_EQ(Rest("[t0]\r\nMaxDays=3"), "warning unknown-key [t0] MaxDays");
 }
 
-TEST_F(CheckKeysTest, AnUnknownSectionComesWithTheNearestKnownOne) {
+TEST_F(KeysCheck, AnUnknownSectionComesWithTheNearestKnownOne) {
     EXPECT_EQ(Rest("[PopupForms]\r\nX_Size=none"), "warning unknown-section [PopupForms]");
     EXPECT_EQ(RestMessage("[PopupForms]"), "nobody reads a section of this name; is \"PopupForm\" meant?");
     EXPECT_EQ(RestMessage("[ColumnWidth]\r\nt0=5"),
@@ -138,11 +138,11 @@ TEST_F(CheckKeysTest, AnUnknownSectionComesWithTheNearestKnownOne) {
               "nobody reads a section of this name: a category's is named CategorySpecificSetting_NAME");
 }
 
-TEST_F(CheckKeysTest, KeysOfTheInstallersChoiceAreNotUnknown) {
+TEST_F(KeysCheck, KeysOfTheInstallersChoiceAreNotUnknown) {
     EXPECT_EQ(Rest("[CategoryTranslations]\r\nFire=Brand\r\n[Senders]\r\nPLC1=5"), "");
 }
 
-TEST_F(CheckKeysTest, EveryKeyOfTheTableIsKnownWithItsDefault) {
+TEST_F(KeysCheck, EveryKeyOfTheTableIsKnownWithItsDefault) {
     std::string section, general, rest;
     for (const cSettingKey& key : SettingKeys()) {
         // What these defaults mean is told by other tests.
@@ -178,4 +178,4 @@ TEST(NameDistance, CountsStepsCaseApart) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

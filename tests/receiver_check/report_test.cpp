@@ -9,12 +9,10 @@
 #include "receiver-check/print.h"
 #include "receiver_check/checked_station.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
-using testing::kApp;
-
-class CheckReportTest : public testing::cCheckedStation {
+class ReportCheck : public testing::cCheckedStation {
   protected:
     cFindings OddStation() {
         m_Machine.m_Trial = {cMachine::ePort::InUse, ""};
@@ -36,7 +34,7 @@ class CheckReportTest : public testing::cCheckedStation {
     }
 };
 
-TEST_F(CheckReportTest, AReportIsOneLineForEachFindingAndACount) {
+TEST_F(ReportCheck, AReportIsOneLineForEachFindingAndACount) {
     EXPECT_EQ(
         ReportText(OddStation()),
         R"(VigrelReceiver.INI: warning: [TCPIP] Port: TCP port 12412 is in use (perhaps by the station itself) [port-in-use]
@@ -52,7 +50,7 @@ Alarms\A0042917.alm: warning: byte 29, t1: the file ends inside this field [alar
 )");
 }
 
-TEST_F(CheckReportTest, AReportForScriptsIsOneJsonObject) {
+TEST_F(ReportCheck, AReportForScriptsIsOneJsonObject) {
     EXPECT_EQ(ReportJson("/srv/G\xE4vle", Check(Content("ShowInTaskBar=\"y\\es\"\r\nDateFormat=\"\""))),
               R"({
   "folder": "/srv/Gävle",
@@ -69,7 +67,7 @@ TEST_F(CheckReportTest, AReportForScriptsIsOneJsonObject) {
               "0,\n  \"findings\": []\n}\n");
 }
 
-TEST_F(CheckReportTest, WhatAFindingDoesNotHaveIsNullInJson) {
+TEST_F(ReportCheck, WhatAFindingDoesNotHaveIsNullInJson) {
     m_Machine.m_NotWritable = {{kApp + "Alarms", "Permission denied"}};
     const std::string json = ReportJson("x", Check(Content()));
     EXPECT_NE(
@@ -78,11 +76,11 @@ TEST_F(CheckReportTest, WhatAFindingDoesNotHaveIsNullInJson) {
         << json;
 }
 
-TEST_F(CheckReportTest, WithoutFindingsItSaysSo) {
+TEST_F(ReportCheck, WithoutFindingsItSaysSo) {
     EXPECT_EQ(ReportText({}), "Nothing to remark.\n");
 }
 
-TEST_F(CheckReportTest, NoFileCanSteerTheTerminal) {
+TEST_F(ReportCheck, NoFileCanSteerTheTerminal) {
     const std::string text = ReportText(Check(Content("ShowInTaskBar=\x1B[2J")));
     EXPECT_EQ(text.find('\x1B'), std::string::npos);
     EXPECT_NE(text.find("ShowInTaskBar=\\x1B[2J"), std::string::npos);
@@ -90,7 +88,7 @@ TEST_F(CheckReportTest, NoFileCanSteerTheTerminal) {
 
 // --- the delivered configuration
 
-TEST_F(CheckReportTest, TheDeliveredConfigurationHasRemarksAtMost) {
+TEST_F(ReportCheck, TheDeliveredConfigurationHasRemarksAtMost) {
     const std::string share = Utf8ToCodePage(VIGREL_SHARE_DIR);
     const cLinuxFiles delivered;
     for (const std::string folder : {"", "Sounds\\"}) {
@@ -135,4 +133,4 @@ TEST(CheckOptions, HelpHasExamplesAndExitCodes) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -1,9 +1,9 @@
 #include "receiver_check/checked_station.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
-class CheckSendersTest : public testing::cCheckedStation {
+class SendersCheck : public testing::cCheckedStation {
   protected:
     std::string Senders(const std::string& lines) { return Rest("[Senders]\r\n" + lines); }
     std::string SendersMessage(const std::string& lines) { return RestMessage("[Senders]\r\n" + lines); }
@@ -14,11 +14,11 @@ class CheckSendersTest : public testing::cCheckedStation {
     }
 };
 
-TEST_F(CheckSendersTest, GoodLinesAreLeftAlone) {
+TEST_F(SendersCheck, GoodLinesAreLeftAlone) {
     EXPECT_EQ(Senders("PLC1=5\r\n; a remark\r\n  ; another\r\n\r\nGuest house=0"), "");
 }
 
-TEST_F(CheckSendersTest, OuterBlanksArePartOfAName) {
+TEST_F(SendersCheck, OuterBlanksArePartOfAName) {
     EXPECT_EQ(Senders(" PLC1=5"), "warning sender-blanks [Senders]  PLC1");
     EXPECT_EQ(Senders("PLC1 =5"), "warning sender-blanks [Senders] PLC1 ");
     EXPECT_EQ(SendersMessage("PLC1 =5"),
@@ -26,13 +26,13 @@ TEST_F(CheckSendersTest, OuterBlanksArePartOfAName) {
               "without them");
 }
 
-TEST_F(CheckSendersTest, ALineWithoutMinutesIsTold) {
+TEST_F(SendersCheck, ALineWithoutMinutesIsTold) {
     EXPECT_EQ(Senders("PLC1"), "warning sender-without-minutes [Senders]");
     EXPECT_EQ(Senders("PLC1="), "warning sender-without-minutes [Senders] PLC1");
     EXPECT_EQ(SendersMessage("PLC1="), "has no minutes and is not supervised");
 }
 
-TEST_F(CheckSendersTest, MinutesAreANumberOf16Bits) {
+TEST_F(SendersCheck, MinutesAreANumberOf16Bits) {
     EXPECT_EQ(Senders("PLC1=five"), "warning number-unreadable [Senders] PLC1");
     EXPECT_EQ(Senders("PLC1=5 min"), "warning number-with-rest [Senders] PLC1");
     EXPECT_EQ(Senders("PLC1=-5"), "warning number-out-of-range [Senders] PLC1");
@@ -40,11 +40,11 @@ TEST_F(CheckSendersTest, MinutesAreANumberOf16Bits) {
     EXPECT_EQ(Senders("PLC1=5=6"), "warning sender-second-equals [Senders] PLC1");
 }
 
-TEST_F(CheckSendersTest, ALineWithoutNameIsTold) {
+TEST_F(SendersCheck, ALineWithoutNameIsTold) {
     EXPECT_EQ(Senders("=5"), "warning sender-without-name [Senders]");
 }
 
-TEST_F(CheckSendersTest, ARepeatedSenderIsNeverHeard) {
+TEST_F(SendersCheck, ARepeatedSenderIsNeverHeard) {
     const cFindings findings = Check(Content("", "[Senders]\r\nPLC1=5\r\nplc1=6"));
     EXPECT_EQ(Lines(findings), "error sender-repeated [Senders] plc1");
     EXPECT_EQ(findings.m_All[0].place.line, 17u);
@@ -52,13 +52,13 @@ TEST_F(CheckSendersTest, ARepeatedSenderIsNeverHeard) {
               "stands in line 16 already, which counts; this line's sender is never heard");
 }
 
-TEST_F(CheckSendersTest, TheTableTakes100Senders) {
+TEST_F(SendersCheck, TheTableTakes100Senders) {
     EXPECT_EQ(Senders(Many(99)), "");
     EXPECT_EQ(Senders(Many(100)), "remark senders-full [Senders] PLC99");
     EXPECT_EQ(Senders(Many(102)), "error senders-too-many [Senders] PLC100");
 }
 
-TEST_F(CheckSendersTest, ASectionThatDoesNotFitItsBufferIsCut) {
+TEST_F(SendersCheck, ASectionThatDoesNotFitItsBufferIsCut) {
     // Each line takes 64 characters with its zero.
     const std::string tail(57, 'x');
     const std::string lines = Many(10, tail + "y") + Many(60, tail);
@@ -67,4 +67,4 @@ TEST_F(CheckSendersTest, ASectionThatDoesNotFitItsBufferIsCut) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

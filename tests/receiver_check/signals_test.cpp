@@ -2,15 +2,14 @@
 
 #include "receiver_check/checked_station.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
-class CheckPopupsTest : public testing::cCheckedStation {};
-using testing::kApp;
+class PopupsCheck : public testing::cCheckedStation {};
 
-class CheckPrinterTest : public testing::cCheckedStation {};
+class PrinterCheck : public testing::cCheckedStation {};
 
-TEST_F(CheckPopupsTest, ABlankBehindACommaClosesACategoryOutOfPopups) {
+TEST_F(PopupsCheck, ABlankBehindACommaClosesACategoryOutOfPopups) {
     const std::string on = "ViewPopupForm=1\r\nViewOnlyPopupFormForCategory=";
     EXPECT_EQ(General(on + "Fire,Vigrel"), "");
     EXPECT_EQ(General(on + "fire,VIGREL"), "");
@@ -20,17 +19,17 @@ TEST_F(CheckPopupsTest, ABlankBehindACommaClosesACategoryOutOfPopups) {
               "the blank beside \"Vigrel\" counts: alarms of this category open no popup");
 }
 
-TEST_F(CheckPopupsTest, ABlankBehindACommaKeepsAPopupFromTheTop) {
+TEST_F(PopupsCheck, ABlankBehindACommaKeepsAPopupFromTheTop) {
     EXPECT_EQ(General("PopupFormTopMostCategory=Fire, Vigrel"),
               "warning category-list-blank [General] PopupFormTopMostCategory");
 }
 
-TEST_F(CheckPopupsTest, ACategoryMissingBesideACommaIsTold) {
+TEST_F(PopupsCheck, ACategoryMissingBesideACommaIsTold) {
     EXPECT_EQ(General("PopupFormTopMostCategory=Fire,,Vigrel"),
               "warning category-list-empty [General] PopupFormTopMostCategory");
 }
 
-TEST_F(CheckPopupsTest, ACategoryWithoutSectionIsARemarkAndAMisspeltOneAWarning) {
+TEST_F(PopupsCheck, ACategoryWithoutSectionIsARemarkAndAMisspeltOneAWarning) {
     EXPECT_EQ(General("PopupFormTopMostCategory=Gas"),
               "remark category-without-section [General] PopupFormTopMostCategory");
     EXPECT_EQ(General("PopupFormTopMostCategory=Frie"),
@@ -39,7 +38,7 @@ TEST_F(CheckPopupsTest, ACategoryWithoutSectionIsARemarkAndAMisspeltOneAWarning)
               "the category \"Frie\" has no section; is \"Fire\" meant?");
 }
 
-TEST_F(CheckPopupsTest, SizesAndPlacesThatNoScreenShows) {
+TEST_F(PopupsCheck, SizesAndPlacesThatNoScreenShows) {
     const auto popups = [&](const std::string& lines) { return Rest("[PopupForm]\r\n" + lines); };
     EXPECT_EQ(popups("X_Size=640\r\nY_Size=200"), "");
     EXPECT_EQ(popups("X_Size=0\r\nY_Size=200"), "warning popup-size [PopupForm] X_Size");
@@ -51,7 +50,7 @@ TEST_F(CheckPopupsTest, SizesAndPlacesThatNoScreenShows) {
               "warning popup-step [PopupForm] X_Step");
 }
 
-TEST_F(CheckPrinterTest, APrinterThatDoesNotAnswerIsTold) {
+TEST_F(PrinterCheck, APrinterThatDoesNotAnswerIsTold) {
     const std::string lines =
         "[Printer]\r\nPort=2\r\nFormat=[T0]\r\n[PrinterPorts]\r\n1=/dev/lp0\r\n2=tcp:p:9100";
     EXPECT_EQ(Rest(lines), "");
@@ -62,7 +61,7 @@ TEST_F(CheckPrinterTest, APrinterThatDoesNotAnswerIsTold) {
     EXPECT_EQ(Rest("[PrinterPorts]\r\n1=tcp:p:9100"), "") << "nothing is printed";
 }
 
-TEST_F(CheckPopupsTest, SoundsThatCantBeDecodedOrNeverEnd) {
+TEST_F(PopupsCheck, SoundsThatCantBeDecodedOrNeverEnd) {
     const std::string lines = "EventSignal=2\r\nEventSoundFile=Sounds\\bell.wav";
     EXPECT_EQ(Rest(lines), "");
     m_Machine.m_Seconds = 31;
@@ -71,12 +70,12 @@ TEST_F(CheckPopupsTest, SoundsThatCantBeDecodedOrNeverEnd) {
     EXPECT_EQ(Rest(lines), "error sound-not-decoded [CategorySpecificSetting_Fire] EventSoundFile");
 }
 
-TEST_F(CheckPopupsTest, CategoriesOfPopupsDoNothingWhilePopupsAreOff) {
+TEST_F(PopupsCheck, CategoriesOfPopupsDoNothingWhilePopupsAreOff) {
     EXPECT_EQ(General("ViewOnlyPopupFormForCategory=Fire"),
               "remark popups-off [General] ViewOnlyPopupFormForCategory");
 }
 
-TEST_F(CheckPopupsTest, MovingPopupsNeedStops) {
+TEST_F(PopupsCheck, MovingPopupsNeedStops) {
     EXPECT_EQ(Rest("[PopupForm]\r\nWindowPosition=MOVING"),
               "warning moving-without-way [PopupForm] WindowPosition");
     EXPECT_EQ(RestMessage("[PopupForm]\r\nWindowPosition=moving\r\nX_Stop=400"),
@@ -86,7 +85,7 @@ TEST_F(CheckPopupsTest, MovingPopupsNeedStops) {
               "warning moving-without-way [PopupForm] WindowPosition");
 }
 
-TEST_F(CheckPopupsTest, AnUnknownPositionActsAsDefault) {
+TEST_F(PopupsCheck, AnUnknownPositionActsAsDefault) {
     EXPECT_EQ(Rest("[PopupForm]\r\nWindowPosition=FIXED"),
               "warning window-position-unknown [PopupForm] WindowPosition");
     EXPECT_EQ(RestMessage("[PopupForm]\r\nWindowPosition=Movin"),
@@ -94,18 +93,18 @@ TEST_F(CheckPopupsTest, AnUnknownPositionActsAsDefault) {
     EXPECT_EQ(Rest("[PopupForm]\r\nWindowPosition=static"), "");
 }
 
-TEST_F(CheckPopupsTest, OneSizeAloneDoesNothing) {
+TEST_F(PopupsCheck, OneSizeAloneDoesNothing) {
     EXPECT_EQ(Rest("[PopupForm]\r\nX_Size=500"), "warning size-without-other [PopupForm] X_Size");
     EXPECT_EQ(Rest("[PopupForm]\r\nY_Size=500"), "warning size-without-other [PopupForm] Y_Size");
     EXPECT_EQ(Rest("[PopupForm]\r\nX_Size=500\r\nY_Size=100"), "");
 }
 
-TEST_F(CheckPrinterTest, NothingIsPrintedOnPortZero) {
+TEST_F(PrinterCheck, NothingIsPrintedOnPortZero) {
     EXPECT_EQ(Rest("[Printer]\r\nPort=0"), "");
     EXPECT_EQ(Rest("[Printer]\r\nPort=0\r\nFormat=[T0]"), "warning printing-off [Printer] Port");
 }
 
-TEST_F(CheckPrinterTest, APortWithoutALineIsRemarkedWhenThereIsAFormat) {
+TEST_F(PrinterCheck, APortWithoutALineIsRemarkedWhenThereIsAFormat) {
     EXPECT_EQ(Rest("[Printer]\r\nFormat=[T0]\r\nPort=2"), "remark printer-port-unset [Printer] Port");
     EXPECT_EQ(RestMessage("[Printer]\r\nFormat=[T0]\r\nPort=2"),
               "section PrinterPorts has no line for port 2: it is the first that is there of /dev/lp1, "
@@ -113,7 +112,7 @@ TEST_F(CheckPrinterTest, APortWithoutALineIsRemarkedWhenThereIsAFormat) {
     EXPECT_EQ(Rest("[Printer]\r\nFormat=[T0]\r\nPort=2\r\n[PrinterPorts]\r\n2=/dev/usb/lp0"), "");
 }
 
-TEST_F(CheckPrinterTest, ADeviceIsAPathAHostOrAQueue) {
+TEST_F(PrinterCheck, ADeviceIsAPathAHostOrAQueue) {
     const auto device = [&](const std::string& line) { return Rest("[PrinterPorts]\r\n" + line); };
     for (const std::string good :
          {"/dev/usb/lp0", "tcp:192.168.1.20:9100", "tcp:[fe80::1]:9100", "cups:Alarm"}) {
@@ -126,7 +125,7 @@ TEST_F(CheckPrinterTest, ADeviceIsAPathAHostOrAQueue) {
     EXPECT_EQ(device("1="), "remark printer-port-empty [PrinterPorts] 1");
 }
 
-TEST_F(CheckPrinterTest, PortsAreNumbersFromOne) {
+TEST_F(PrinterCheck, PortsAreNumbersFromOne) {
     for (const std::string name : {"LPT1", "0", "01", "-1", "99999"}) {
         EXPECT_EQ(Rest("[PrinterPorts]\r\n" + name + "=/dev/lp0"),
                   "warning printer-port-name [PrinterPorts] " + name);
@@ -134,4 +133,4 @@ TEST_F(CheckPrinterTest, PortsAreNumbersFromOne) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -2,10 +2,8 @@
 #include "receiver_check/checked_station.h"
 #include "support/fake_clock.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::kApp;
 
 class CheckedTemplates : public testing::cCheckedStation {
   protected:
@@ -92,4 +90,4 @@ TEST_F(CheckedTemplates, ASampleShowsWhatThePopupsAndThePrinterWouldShow) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

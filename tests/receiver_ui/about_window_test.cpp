@@ -15,7 +15,7 @@
 namespace vigrel::testing {
 namespace {
 
-class cAboutWindowTest : public ::testing::Test {
+class AboutWindow : public ::testing::Test {
   protected:
     cAboutWindow& Open() {
         auto timer = std::make_unique<cFakeTimer>(cAboutBox::kTickInterval);
@@ -35,7 +35,7 @@ class cAboutWindowTest : public ::testing::Test {
     std::unique_ptr<cAboutWindow> m_Window;
 };
 
-TEST_F(cAboutWindowTest, ShowsItsLabelWhole) {
+TEST_F(AboutWindow, ShowsItsLabelWhole) {
     const cAboutWindow& window = Open();
     EXPECT_EQ(window.Name(), "Vigrel_Receiver_About");
     EXPECT_EQ(window.windowTitle(), "Vigrel - Larmmottagare");
@@ -47,13 +47,13 @@ TEST_F(cAboutWindowTest, ShowsItsLabelWhole) {
     EXPECT_GE(label->height(), label->sizeHint().height());
 }
 
-TEST_F(cAboutWindowTest, StandsInTheMiddleOfTheScreen) {
+TEST_F(AboutWindow, StandsInTheMiddleOfTheScreen) {
     const cAboutWindow& window = Open();
     EXPECT_NEAR(window.Left() + window.Width() / 2, m_Screen.Width() / 2, 4 * kTwipsPerPixel);
     EXPECT_NEAR(window.Top() + window.Height() / 2, m_Screen.Height() / 2, 4 * kTwipsPerPixel);
 }
 
-TEST_F(cAboutWindowTest, ClosesByItselfAtTheTwentyFirstTick) {
+TEST_F(AboutWindow, ClosesByItselfAtTheTwentyFirstTick) {
     const cAboutWindow& window = Open();
     for (int i = 0; i < 20; ++i) m_Timer->Tick();
     EXPECT_TRUE(window.isVisible());
@@ -64,14 +64,14 @@ TEST_F(cAboutWindowTest, ClosesByItselfAtTheTwentyFirstTick) {
     EXPECT_FALSE(m_Timer->Enabled());
 }
 
-TEST_F(cAboutWindowTest, ClosedByHandItsTimerStops) {
+TEST_F(AboutWindow, ClosedByHandItsTimerStops) {
     cAboutWindow& window = Open();
     window.close();
     EXPECT_FALSE(m_Timer->Enabled());
     EXPECT_TRUE(m_Windows.OpenWindows().empty());
 }
 
-TEST_F(cAboutWindowTest, EscapeClosesIt) {
+TEST_F(AboutWindow, EscapeClosesIt) {
     cAboutWindow& window = Open();
     QTest::keyClick(&window, Qt::Key_A);
     EXPECT_TRUE(window.isVisible());
@@ -80,7 +80,7 @@ TEST_F(cAboutWindowTest, EscapeClosesIt) {
     EXPECT_FALSE(m_Timer->Enabled());
 }
 
-TEST_F(cAboutWindowTest, TakesNoKeyboard) {
+TEST_F(AboutWindow, TakesNoKeyboard) {
     EXPECT_TRUE(Open().testAttribute(Qt::WA_ShowWithoutActivating));
 }
 

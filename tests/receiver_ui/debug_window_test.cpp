@@ -32,9 +32,9 @@ class cFixedSettings : public cSettingStore {
     std::map<std::string, std::string> m_Values;
 };
 
-class cDebugWindowTest : public ::testing::Test {
+class DebugWindow : public ::testing::Test {
   protected:
-    cDebugWindowTest() {
+    DebugWindow() {
         m_Files.Put("C:\\App\\VigrelReceiver.INI", "[General]\nLanguage=001\n");
         m_Files.Put("C:\\App\\Vigrel_Texts.001", "272=Time\n273=Way\n274=Text\n400=Debug view\n401=&File\n");
         m_Files.PutFolder("C:\\App\\LogFiles\\");
@@ -70,7 +70,7 @@ class cDebugWindowTest : public ::testing::Test {
     int m_Next = 0;
 };
 
-TEST_F(cDebugWindowTest, HasItsNamesAndCaptions) {
+TEST_F(DebugWindow, HasItsNamesAndCaptions) {
     cDebugWindow& window = Open();
     EXPECT_EQ(window.Name(), "Vigrel_Receiver_Debug");
     EXPECT_EQ(window.windowTitle(), "Debug view");
@@ -83,7 +83,7 @@ TEST_F(cDebugWindowTest, HasItsNamesAndCaptions) {
     EXPECT_EQ(m_Windows.OpenWindows(), (std::vector<cWindow*>{&window}));
 }
 
-TEST_F(cDebugWindowTest, ShowsTimeTagTextAndIcon) {
+TEST_F(DebugWindow, ShowsTimeTagTextAndIcon) {
     Open();
     m_Trace.WriteTrace("\x02\xE5", 1);
     m_Trace.WriteTrace("x", 2);
@@ -103,21 +103,21 @@ TEST_F(cDebugWindowTest, ShowsTimeTagTextAndIcon) {
     EXPECT_TRUE(List().model()->index(0, 2).data(Qt::TextAlignmentRole).toInt() & Qt::AlignLeft);
 }
 
-TEST_F(cDebugWindowTest, TheTextStandsInAFixedWidthFont) {
+TEST_F(DebugWindow, TheTextStandsInAFixedWidthFont) {
     Open();
     Trace(1);
     const QFont font = List().model()->index(0, 2).data(Qt::FontRole).value<QFont>();
     EXPECT_TRUE(QFontInfo(font).fixedPitch());
 }
 
-TEST_F(cDebugWindowTest, TextThatDoesNotFitCanBeReadWhole) {
+TEST_F(DebugWindow, TextThatDoesNotFitCanBeReadWhole) {
     Open();
     m_Trace.WriteTrace(std::string(181, 'x'), 1);
     QCoreApplication::processEvents();
     EXPECT_EQ(List().model()->index(0, 2).data(Qt::ToolTipRole).toString().size(), 181);
 }
 
-TEST_F(cDebugWindowTest, ColumnsAreWideEnoughForWhatStandsInThem) {
+TEST_F(DebugWindow, ColumnsAreWideEnoughForWhatStandsInThem) {
     Open();
     Trace(1);
     for (int column = 0; column < 2; ++column) {
@@ -126,14 +126,14 @@ TEST_F(cDebugWindowTest, ColumnsAreWideEnoughForWhatStandsInThem) {
     }
 }
 
-TEST_F(cDebugWindowTest, ColumnsTakeTheUsersWidths) {
+TEST_F(DebugWindow, ColumnsTakeTheUsersWidths) {
     m_Settings.m_Values = {{"DebugViewColWidth1", "1500"}, {"DebugViewColWidth2", "50"}};
     Open();
     EXPECT_EQ(List().columnWidth(0), 100);
     EXPECT_EQ(List().columnWidth(1), 7);  // 100 twips at least
 }
 
-TEST_F(cDebugWindowTest, TheLastColumnFillsTheWindowAtEachResize) {
+TEST_F(DebugWindow, TheLastColumnFillsTheWindowAtEachResize) {
     cDebugWindow& window = Open();
     for (const int width : {900, 500}) {
         window.resize(width, 300);
@@ -144,7 +144,7 @@ TEST_F(cDebugWindowTest, TheLastColumnFillsTheWindowAtEachResize) {
     }
 }
 
-TEST_F(cDebugWindowTest, AWindowTooNarrowForTheColumnsKeepsTheLastOne) {
+TEST_F(DebugWindow, AWindowTooNarrowForTheColumnsKeepsTheLastOne) {
     m_Settings.m_Values = {{"DebugViewColWidth1", "6000"}, {"DebugViewColWidth2", "6000"}};
     cDebugWindow& window = Open();
     window.resize(1000, 300);
@@ -155,7 +155,7 @@ TEST_F(cDebugWindowTest, AWindowTooNarrowForTheColumnsKeepsTheLastOne) {
     EXPECT_EQ(List().columnWidth(2), 180);
 }
 
-TEST_F(cDebugWindowTest, FollowsTheNewestRow) {
+TEST_F(DebugWindow, FollowsTheNewestRow) {
     Open();
     Trace(100);
     EXPECT_TRUE(ShowsRow(99));
@@ -166,7 +166,7 @@ TEST_F(cDebugWindowTest, FollowsTheNewestRow) {
     EXPECT_TRUE(ShowsRow(399));
 }
 
-TEST_F(cDebugWindowTest, DoesNotFollowAnOperatorWhoReadsFurtherUp) {
+TEST_F(DebugWindow, DoesNotFollowAnOperatorWhoReadsFurtherUp) {
     Open();
     Trace(400);
     List().verticalScrollBar()->setValue(100);
@@ -180,7 +180,7 @@ TEST_F(cDebugWindowTest, DoesNotFollowAnOperatorWhoReadsFurtherUp) {
     EXPECT_TRUE(ShowsRow(399));
 }
 
-TEST_F(cDebugWindowTest, RowsThatCameAndWentBetweenTwoLooksLeaveTheRightOnes) {
+TEST_F(DebugWindow, RowsThatCameAndWentBetweenTwoLooksLeaveTheRightOnes) {
     Open();
     Trace(10);
     Trace(1000);
@@ -189,14 +189,14 @@ TEST_F(cDebugWindowTest, RowsThatCameAndWentBetweenTwoLooksLeaveTheRightOnes) {
     EXPECT_EQ(Cell(399, 2), "row 1009");
 }
 
-TEST_F(cDebugWindowTest, RowsThatWereThereBeforeTheWindowShow) {
+TEST_F(DebugWindow, RowsThatWereThereBeforeTheWindowShow) {
     m_State.m_DebugMode = true;
     m_Trace.WriteTrace("early", 1);
     Open();
     EXPECT_EQ(Cell(0, 2), "early");
 }
 
-TEST_F(cDebugWindowTest, TheMenuSavesTheRows) {
+TEST_F(DebugWindow, TheMenuSavesTheRows) {
     cDebugWindow& window = Open();
     Trace(1);
     window.findChild<QAction*>("Menu_Save")->trigger();
@@ -205,7 +205,7 @@ TEST_F(cDebugWindowTest, TheMenuSavesTheRows) {
     EXPECT_EQ(lines[4], "000 12:30:15 V<-S row 0");
 }
 
-TEST_F(cDebugWindowTest, SelectedRowsCanBeCopied) {
+TEST_F(DebugWindow, SelectedRowsCanBeCopied) {
     Open();
     Trace(3);
     List().selectAll();
@@ -214,7 +214,7 @@ TEST_F(cDebugWindowTest, SelectedRowsCanBeCopied) {
               "12:30:15\tV<-S\trow 0\n12:30:15\tV<-S\trow 1\n12:30:15\tV<-S\trow 2");
 }
 
-TEST_F(cDebugWindowTest, ClosingItEndsTheTrace) {
+TEST_F(DebugWindow, ClosingItEndsTheTrace) {
     cDebugWindow& window = Open();
     Trace(1);
     window.close();

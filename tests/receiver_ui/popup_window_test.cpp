@@ -49,7 +49,7 @@ TEST(PopupText, TheWholeCodePageShows) {
 
 // --- one window
 
-class cPopupWidgetTest : public ::testing::Test {
+class PopupWidget : public ::testing::Test {
   protected:
     // With what it shows inside, as if it had been shown.
     cPopupWidget& Make() {
@@ -76,7 +76,7 @@ class cPopupWidgetTest : public ::testing::Test {
     cPopupWidgetMaker m_Maker{m_Windows};
 };
 
-TEST_F(cPopupWidgetTest, HasTheDesignGeometryAndShowsNoPicture) {
+TEST_F(PopupWidget, HasTheDesignGeometryAndShowsNoPicture) {
     cPopupWidget& popup = Make();
     EXPECT_EQ(popup.Name(), "Vigrel_Receiver_Popup");
     EXPECT_EQ(popup.objectName(), "Vigrel_Receiver_Popup");
@@ -93,20 +93,20 @@ TEST_F(cPopupWidgetTest, HasTheDesignGeometryAndShowsNoPicture) {
     EXPECT_THROW(popup.PictureLeft(-1), cFailure);
 }
 
-TEST_F(cPopupWidgetTest, IsAmongTheOpenWindowsFromTheStart) {
+TEST_F(PopupWidget, IsAmongTheOpenWindowsFromTheStart) {
     cPopupWidget& first = Make();
     cPopupWidget& second = Make();
     EXPECT_EQ(m_Windows.OpenWindows(), (std::vector<cWindow*>{&first, &second}));
 }
 
-TEST_F(cPopupWidgetTest, BearsTheProgramsIconInOneSizeAlone) {
+TEST_F(PopupWidget, BearsTheProgramsIconInOneSizeAlone) {
     const QIcon icon = Make().windowIcon();
     EXPECT_EQ(icon.availableSizes(), QList<QSize>{QSize(32, 32)});
     EXPECT_EQ(icon.pixmap(32).toImage(), QIcon(":/icons/vigrel-receiver.svg").pixmap(32).toImage());
     EXPECT_NE(icon.pixmap(32).toImage().pixelColor(16, 16).alpha(), 0);
 }
 
-TEST_F(cPopupWidgetTest, TakesItsColours) {
+TEST_F(PopupWidget, TakesItsColours) {
     cPopupWidget& popup = Make();
     EXPECT_EQ(PixelAt(popup, {2, 2}), QColor(240, 240, 240));
     popup.SetBackColour(0x0000FF);
@@ -124,13 +124,13 @@ TEST_F(cPopupWidgetTest, TakesItsColours) {
     EXPECT_EQ(Label(popup).palette().color(QPalette::Text), QColor(3, 2, 1));
 }
 
-TEST_F(cPopupWidgetTest, TextIsNeverTakenAsMarkup) {
+TEST_F(PopupWidget, TextIsNeverTakenAsMarkup) {
     cPopupWidget& popup = Make();
     popup.SetLabelText("<b>a</b> & b\r\nc");
     EXPECT_EQ(Label(popup).toPlainText(), "<b>a</b> & b\nc");
 }
 
-TEST_F(cPopupWidgetTest, AShortTextNeedsNoScrollBarAndALongOneGetsIt) {
+TEST_F(PopupWidget, AShortTextNeedsNoScrollBarAndALongOneGetsIt) {
     cPopupWidget& popup = MakeShown();
     popup.SetLabelFont("MS Sans Serif", 8);
     popup.SetLabelText("Short");
@@ -140,7 +140,7 @@ TEST_F(cPopupWidgetTest, AShortTextNeedsNoScrollBarAndALongOneGetsIt) {
     EXPECT_EQ(Label(popup).horizontalScrollBar()->maximum(), 0);
 }
 
-TEST_F(cPopupWidgetTest, TheLabelTakesItsFont) {
+TEST_F(PopupWidget, TheLabelTakesItsFont) {
     cPopupWidget& popup = Make();
     popup.SetLabelFontStyle(true, true);
     popup.SetLabelFont("MS Sans Serif", 9.5);
@@ -155,7 +155,7 @@ TEST_F(cPopupWidgetTest, TheLabelTakesItsFont) {
     EXPECT_EQ(Label(popup).font().pointSizeF(), 9.5);
 }
 
-TEST_F(cPopupWidgetTest, AFontSizeThatNobodyCanReadIsRaised) {
+TEST_F(PopupWidget, AFontSizeThatNobodyCanReadIsRaised) {
     cPopupWidget& popup = Make();
     popup.SetLabelFont("MS Sans Serif", 0);
     EXPECT_EQ(Label(popup).font().pointSizeF(), 5);
@@ -163,7 +163,7 @@ TEST_F(cPopupWidgetTest, AFontSizeThatNobodyCanReadIsRaised) {
     EXPECT_EQ(Label(popup).font().pointSizeF(), 5);
 }
 
-TEST_F(cPopupWidgetTest, TheLabelGoesWhereItIsPutAndRefusesNegativeSizes) {
+TEST_F(PopupWidget, TheLabelGoesWhereItIsPutAndRefusesNegativeSizes) {
     cPopupWidget& popup = Make();
     popup.SetLabelTop(150);
     popup.SetLabelLeft(300);
@@ -175,7 +175,7 @@ TEST_F(cPopupWidgetTest, TheLabelGoesWhereItIsPutAndRefusesNegativeSizes) {
     EXPECT_EQ(Label(popup).geometry(), QRect(20, 10, 100, 40));
 }
 
-TEST_F(cPopupWidgetTest, TellsOfItsResizes) {
+TEST_F(PopupWidget, TellsOfItsResizes) {
     cPopupWidget& popup = Make();
     int resizes = 0;
     popup.OnResize = [&] { ++resizes; };
@@ -188,7 +188,7 @@ TEST_F(cPopupWidgetTest, TellsOfItsResizes) {
     EXPECT_EQ(popup.Width(), 9000);
 }
 
-TEST_F(cPopupWidgetTest, StaysLargeEnoughToBeSeen) {
+TEST_F(PopupWidget, StaysLargeEnoughToBeSeen) {
     cPopupWidget& popup = Make();
     popup.SetWidth(0);
     popup.SetHeight(0);
@@ -197,7 +197,7 @@ TEST_F(cPopupWidgetTest, StaysLargeEnoughToBeSeen) {
 
 // --- closing
 
-TEST_F(cPopupWidgetTest, AClickOnThePictureIsTold) {
+TEST_F(PopupWidget, AClickOnThePictureIsTold) {
     cPopupWidget& popup = MakeShown();
     popup.SetPictureVisible(1, true);
     int clicked = -1;
@@ -208,14 +208,14 @@ TEST_F(cPopupWidgetTest, AClickOnThePictureIsTold) {
     EXPECT_EQ(clicked, 1);
 }
 
-TEST_F(cPopupWidgetTest, TheLabelTakesNoClick) {
+TEST_F(PopupWidget, TheLabelTakesNoClick) {
     cPopupWidget& popup = MakeShown();
     popup.OnPictureClick = [](int) { FAIL(); };
     QTest::mouseClick(Label(popup).viewport(), Qt::LeftButton);
     EXPECT_TRUE(m_Windows.Holds(popup));
 }
 
-TEST_F(cPopupWidgetTest, ThePictureWorksByKeyboardAndIgnoresAKeyHeldDown) {
+TEST_F(PopupWidget, ThePictureWorksByKeyboardAndIgnoresAKeyHeldDown) {
     cPopupWidget& popup = MakeShown();
     popup.SetPictureVisible(3, true);
     int clicks = 0;
@@ -234,7 +234,7 @@ TEST_F(cPopupWidgetTest, ThePictureWorksByKeyboardAndIgnoresAKeyHeldDown) {
     EXPECT_EQ(clicks, 3);
 }
 
-TEST_F(cPopupWidgetTest, TheKeyboardReachesTheTextFirstAndThenThePicture) {
+TEST_F(PopupWidget, TheKeyboardReachesTheTextFirstAndThenThePicture) {
     cPopupWidget& popup = MakeShown();
     popup.SetPictureVisible(0, true);
     popup.activateWindow();
@@ -244,7 +244,7 @@ TEST_F(cPopupWidgetTest, TheKeyboardReachesTheTextFirstAndThenThePicture) {
     EXPECT_EQ(popup.focusWidget(), &Picture(popup, 0));
 }
 
-TEST_F(cPopupWidgetTest, AssistiveToolsFindAButtonWithAName) {
+TEST_F(PopupWidget, AssistiveToolsFindAButtonWithAName) {
     cPopupWidget& popup = MakeShown();
     popup.SetPictureVisible(1, true);
     QAccessibleInterface* picture = QAccessible::queryAccessibleInterface(&Picture(popup, 1));
@@ -281,7 +281,7 @@ bool CloseByWindowManager(cPopupWidget& popup) {
     return event.isAccepted();
 }
 
-TEST_F(cPopupWidgetTest, AClosedPopupIsGoneAtTheNextTurnOfTheLoop) {
+TEST_F(PopupWidget, AClosedPopupIsGoneAtTheNextTurnOfTheLoop) {
     cPopupWidget& popup = MakeShown();
     const QPointer<QWidget> widget(&popup);
     const cCloseReasons reasons(popup);
@@ -293,21 +293,21 @@ TEST_F(cPopupWidgetTest, AClosedPopupIsGoneAtTheNextTurnOfTheLoop) {
     EXPECT_TRUE(WaitUntil([&] { return widget.isNull(); }));
 }
 
-TEST_F(cPopupWidgetTest, ACloseByTheWindowManagerHasReason0) {
+TEST_F(PopupWidget, ACloseByTheWindowManagerHasReason0) {
     cPopupWidget& popup = MakeShown();
     const cCloseReasons reasons(popup);
     EXPECT_TRUE(CloseByWindowManager(popup));
     EXPECT_EQ(reasons.m_Text, "0 unload ");
 }
 
-TEST_F(cPopupWidgetTest, ACloseByTheEndOfTheDesktopSessionHasReason2) {
+TEST_F(PopupWidget, ACloseByTheEndOfTheDesktopSessionHasReason2) {
     cPopupWidget& popup = MakeShown();
     const cCloseReasons reasons(popup);
     QApplication::closeAllWindows();
     EXPECT_EQ(reasons.m_Text, "2 unload ");
 }
 
-TEST_F(cPopupWidgetTest, AltF4ClosesAsTheWindowsOwnControlDoes) {
+TEST_F(PopupWidget, AltF4ClosesAsTheWindowsOwnControlDoes) {
     cPopupWidget& popup = MakeShown();
     const cCloseReasons reasons(popup);
     QTest::keyClick(&Label(popup), Qt::Key_F4);
@@ -317,7 +317,7 @@ TEST_F(cPopupWidgetTest, AltF4ClosesAsTheWindowsOwnControlDoes) {
     EXPECT_FALSE(popup.isVisible());
 }
 
-TEST_F(cPopupWidgetTest, ARefusedCloseLeavesThePopup) {
+TEST_F(PopupWidget, ARefusedCloseLeavesThePopup) {
     cPopupWidget& popup = MakeShown();
     cCloseReasons reasons(popup);
     reasons.m_Allow = false;
@@ -328,7 +328,7 @@ TEST_F(cPopupWidgetTest, ARefusedCloseLeavesThePopup) {
     EXPECT_TRUE(m_Windows.Holds(popup));
 }
 
-TEST_F(cPopupWidgetTest, AHiddenPopupCloses) {
+TEST_F(PopupWidget, AHiddenPopupCloses) {
     cPopupWidget& popup = Make();
     const cCloseReasons reasons(popup);
     popup.Close();
@@ -354,7 +354,7 @@ class cScreenNotes : public QObject {
     QWidget& m_Widget;
 };
 
-TEST_F(cPopupWidgetTest, APopupThatWasElsewhereForAMomentIsNeverSeenThere) {
+TEST_F(PopupWidget, APopupThatWasElsewhereForAMomentIsNeverSeenThere) {
     cPopupWidget& popup = Make();
     const cScreenNotes notes(popup);
     popup.SetLeft(288000);
@@ -374,7 +374,7 @@ TEST_F(cPopupWidgetTest, APopupThatWasElsewhereForAMomentIsNeverSeenThere) {
     EXPECT_TRUE(place.contains(notes.m_Seen));
 }
 
-TEST_F(cPopupWidgetTest, APopupThatWasShownForAMomentIsNeverSeen) {
+TEST_F(PopupWidget, APopupThatWasShownForAMomentIsNeverSeen) {
     cPopupWidget& popup = Make();
     const cScreenNotes notes(popup);
     popup.Show();
@@ -384,7 +384,7 @@ TEST_F(cPopupWidgetTest, APopupThatWasShownForAMomentIsNeverSeen) {
     EXPECT_FALSE(popup.Visible());
 }
 
-TEST_F(cPopupWidgetTest, APopupThatWasNeverShownHasNothingInside) {
+TEST_F(PopupWidget, APopupThatWasNeverShownHasNothingInside) {
     auto& popup = dynamic_cast<cPopupWidget&>(m_Maker.MakePopup());
     popup.SetLabelText("Pump 1");
     popup.SetPictureVisible(1, true);
@@ -399,7 +399,7 @@ TEST_F(cPopupWidgetTest, APopupThatWasNeverShownHasNothingInside) {
     EXPECT_FALSE(Picture(popup, 0).isVisible());
 }
 
-TEST_F(cPopupWidgetTest, ManyPopupsComeUpInTheirOrderInTurnsThatLetOthersWork) {
+TEST_F(PopupWidget, ManyPopupsComeUpInTheirOrderInTurnsThatLetOthersWork) {
     constexpr int kMany = 150;
     std::vector<cPopupWidget*> popups;
     for (int i = 0; i < kMany; ++i) {
@@ -423,7 +423,7 @@ TEST_F(cPopupWidgetTest, ManyPopupsComeUpInTheirOrderInTurnsThatLetOthersWork) {
     EXPECT_FALSE(m_Maker.Stack().Waits());
 }
 
-TEST_F(cPopupWidgetTest, APopupThatIsClosedWhileItWaitsIsForgotten) {
+TEST_F(PopupWidget, APopupThatIsClosedWhileItWaitsIsForgotten) {
     for (int i = 0; i < 3; ++i) m_Maker.MakePopup().Show();
     for (cWindow* window : m_Windows.OpenWindows()) window->Close();
     EXPECT_FALSE(m_Maker.Stack().Waits());
@@ -431,7 +431,7 @@ TEST_F(cPopupWidgetTest, APopupThatIsClosedWhileItWaitsIsForgotten) {
     EXPECT_TRUE(m_Maker.Stack().Order().empty());
 }
 
-TEST_F(cPopupWidgetTest, HideAndShowKeepPlaceAndSize) {
+TEST_F(PopupWidget, HideAndShowKeepPlaceAndSize) {
     cPopupWidget& popup = MakeShown();
     popup.SetLeft(3000);
     popup.SetTop(1500);
@@ -447,7 +447,7 @@ TEST_F(cPopupWidgetTest, HideAndShowKeepPlaceAndSize) {
     EXPECT_EQ(popup.Width(), 7500);
 }
 
-TEST_F(cPopupWidgetTest, APlaceOnNoScreenIsBroughtBack) {
+TEST_F(PopupWidget, APlaceOnNoScreenIsBroughtBack) {
     cPopupWidget& popup = Make();
     popup.SetLeft(300000);
     popup.SetTop(300);
@@ -456,7 +456,7 @@ TEST_F(cPopupWidgetTest, APlaceOnNoScreenIsBroughtBack) {
     EXPECT_TRUE(QGuiApplication::primaryScreen()->geometry().contains(popup.frameGeometry().center()));
 }
 
-TEST_F(cPopupWidgetTest, NewPopupsStandOnAStairThatStaysOnTheScreen) {
+TEST_F(PopupWidget, NewPopupsStandOnAStairThatStaysOnTheScreen) {
     const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
     double last = 0;
     int fresh = 0;
@@ -470,7 +470,7 @@ TEST_F(cPopupWidgetTest, NewPopupsStandOnAStairThatStaysOnTheScreen) {
     EXPECT_GE(fresh, 1);
 }
 
-TEST_F(cPopupWidgetTest, TopmostIsAskedOfTheWindowSystem) {
+TEST_F(PopupWidget, TopmostIsAskedOfTheWindowSystem) {
     cPopupWidget& popup = Make();
     popup.SetTopMost(true);
     popup.Show();
@@ -485,7 +485,7 @@ TEST_F(cPopupWidgetTest, TopmostIsAskedOfTheWindowSystem) {
 
 // --- the whole
 
-class cPopupScreen : public ::testing::Test, protected cPopupStation {
+class PopupScreen : public ::testing::Test, protected cPopupStation {
   protected:
     cPopupWidget& Show(const std::string& category, std::int16_t status = StatusActive) {
         m_Clock.AddSeconds(1);
@@ -513,7 +513,7 @@ class cPopupScreen : public ::testing::Test, protected cPopupStation {
     std::vector<QPointer<cPopupWidget>> m_Shown;
 };
 
-TEST_F(cPopupScreen, AnAlarmShowsWithItsTextPictureAndPlace) {
+TEST_F(PopupScreen, AnAlarmShowsWithItsTextPictureAndPlace) {
     Configure("X_Size=500\nY_Size=120\nWindowPosition=STATIC\nX_Start=30\nY_Start=40\nFontSize=11\n");
     m_Setting = Setting("BackColor_Active=255,0,0\nForeColor_Active=255,255,255\nEventPopupFormat=F\n");
     cPopupWidget& popup = Show("C");
@@ -531,13 +531,13 @@ TEST_F(cPopupScreen, AnAlarmShowsWithItsTextPictureAndPlace) {
     EXPECT_NEAR(label.bottom(), popup.height(), 2);
 }
 
-TEST_F(cPopupScreen, SixPopupsStandInTheirOrder) {
+TEST_F(PopupScreen, SixPopupsStandInTheirOrder) {
     m_Settings.m_PopupFormTopMostCategory = "A,B";
     for (const char* category : {"X", "B", "A", "B", "A", "Y"}) Show(category);
     EXPECT_EQ(Stacked(), "536421");
 }
 
-TEST_F(cPopupScreen, OneOfSixShowsAndTheNextComesWithEachClick) {
+TEST_F(PopupScreen, OneOfSixShowsAndTheNextComesWithEachClick) {
     m_Settings.m_PopupFormTopMostCategory = "A,B";
     m_Settings.m_ViewOnlyOnePopupForm = true;
     m_Settings.m_AckEventWhenPopupFormIsClosed = true;
@@ -556,7 +556,7 @@ TEST_F(cPopupScreen, OneOfSixShowsAndTheNextComesWithEachClick) {
               "acknowledge Alarm 4\nacknowledge Alarm 1\nacknowledge Alarm 6\n");
 }
 
-TEST_F(cPopupScreen, AllAreClosedAtOnce) {
+TEST_F(PopupScreen, AllAreClosedAtOnce) {
     for (int i = 0; i < 6; ++i) Show("C");
     m_Popups.ClosePopups();
     EXPECT_EQ(m_State.m_PopupFormCount, 0);
@@ -565,7 +565,7 @@ TEST_F(cPopupScreen, AllAreClosedAtOnce) {
     EXPECT_TRUE(WaitUntil([&] { return m_Shown[5].isNull(); }));
 }
 
-TEST_F(cPopupScreen, AMinimisedPopupComesBackWhenItIsNext) {
+TEST_F(PopupScreen, AMinimisedPopupComesBackWhenItIsNext) {
     cPopupWidget& first = Show("C");
     cPopupWidget& second = Show("C");
     first.showMinimized();

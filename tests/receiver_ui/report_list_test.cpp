@@ -31,9 +31,9 @@ class cQtReportListRig {
 INSTANTIATE_TYPED_TEST_SUITE_P(Qt, ReportListContract, cQtReportListRig);
 
 // A list of three columns (an icon, a text, the hidden time stamp) that shows 20 rows or so.
-class cReportListTest : public ::testing::Test {
+class ReportList : public ::testing::Test {
   protected:
-    cReportListTest() {
+    ReportList() {
         m_List.AddColumn("State", 50);
         m_List.AddColumn("Text", 300);
         m_List.AddColumn("CreatedTimeStamp", 0);
@@ -86,7 +86,7 @@ class cReportListTest : public ::testing::Test {
 
 // --- flush
 
-TEST_F(cReportListTest, ABurstOfArrivalsIsPaintedOnceAndStandsWithinTheFlushTime) {
+TEST_F(ReportList, ABurstOfArrivalsIsPaintedOnceAndStandsWithinTheFlushTime) {
     Fill(1);
     RunEvents(cQtReportList::kFlushMilliseconds + 10);
     QSignalSpy inserted(View().model(), &QAbstractItemModel::rowsInserted);
@@ -96,7 +96,7 @@ TEST_F(cReportListTest, ABurstOfArrivalsIsPaintedOnceAndStandsWithinTheFlushTime
     EXPECT_EQ(inserted.count(), 1);
 }
 
-TEST_F(cReportListTest, ALoneArrivalShowsAtTheNextTurnOfTheLoop) {
+TEST_F(ReportList, ALoneArrivalShowsAtTheNextTurnOfTheLoop) {
     Fill(1);
     RunEvents(cQtReportList::kFlushMilliseconds + 10);
     Arrive("lone", 1000);
@@ -105,7 +105,7 @@ TEST_F(cReportListTest, ALoneArrivalShowsAtTheNextTurnOfTheLoop) {
     EXPECT_EQ(View().model()->rowCount(), 2);
 }
 
-TEST_F(cReportListTest, AnArrivalIsScrolledIntoView) {
+TEST_F(ReportList, AnArrivalIsScrolledIntoView) {
     Fill(200);
     RunEvents(60);
     EXPECT_EQ(View().verticalScrollBar()->value(), 0);
@@ -115,7 +115,7 @@ TEST_F(cReportListTest, AnArrivalIsScrolledIntoView) {
     EXPECT_TRUE(m_List.SelectedRows().empty());
 }
 
-TEST_F(cReportListTest, ScrollingToAnArrivalLeavesTheColumnsWhereTheyAre) {
+TEST_F(ReportList, ScrollingToAnArrivalLeavesTheColumnsWhereTheyAre) {
     m_List.SetColumnWidth(1, 2000);
     Fill(200);
     RunEvents(60);
@@ -125,7 +125,7 @@ TEST_F(cReportListTest, ScrollingToAnArrivalLeavesTheColumnsWhereTheyAre) {
     EXPECT_EQ(View().horizontalScrollBar()->value(), 300);
 }
 
-TEST_F(cReportListTest, TheNewestRowStandsOnTopOfADescendingList) {
+TEST_F(ReportList, TheNewestRowStandsOnTopOfADescendingList) {
     Fill(50);
     m_List.ClearSortOrder();
     m_List.AddSortColumn(2, false);
@@ -136,7 +136,7 @@ TEST_F(cReportListTest, TheNewestRowStandsOnTopOfADescendingList) {
 
 // --- columns
 
-TEST_F(cReportListTest, AColumnOfWidth0DoesNotShow) {
+TEST_F(ReportList, AColumnOfWidth0DoesNotShow) {
     QHeaderView* header = View().horizontalHeader();
     EXPECT_TRUE(header->isSectionHidden(2));
     EXPECT_EQ(header->length(), 350);
@@ -146,7 +146,7 @@ TEST_F(cReportListTest, AColumnOfWidth0DoesNotShow) {
     EXPECT_TRUE(header->isSectionHidden(2));
 }
 
-TEST_F(cReportListTest, HeadersCarryTheColumnsCaptionsAndPlacement) {
+TEST_F(ReportList, HeadersCarryTheColumnsCaptionsAndPlacement) {
     m_List.AddColumn("\xC5tg\xE4rd", 80);
     m_List.SetColumnPlacement(3, 1, 1);
     QAbstractItemModel* model = View().model();
@@ -158,9 +158,9 @@ TEST_F(cReportListTest, HeadersCarryTheColumnsCaptionsAndPlacement) {
     EXPECT_TRUE(alignment(1).testFlag(Qt::AlignLeft));
 }
 
-class cReportListResizeTest : public cReportListTest {
+class ReportListResizing : public ReportList {
   protected:
-    cReportListResizeTest() {
+    ReportListResizing() {
         m_List.OnColumnWidthChanged = [this](int column) { m_Told.push_back(column); };
     }
     // Takes hold of the right edge of a column and moves it in steps of ten pixels.
@@ -183,25 +183,25 @@ class cReportListResizeTest : public cReportListTest {
     std::vector<int> m_Told;
 };
 
-TEST_F(cReportListResizeTest, ADraggedWidthIsToldOnceWhenTheMouseIsLetGo) {
+TEST_F(ReportListResizing, ADraggedWidthIsToldOnceWhenTheMouseIsLetGo) {
     Drag(1, 5);
     EXPECT_EQ(m_Told, std::vector<int>{1});
     EXPECT_EQ(m_List.ColumnWidth(1), 350);
 }
 
-TEST_F(cReportListResizeTest, AColumnCannotBeDraggedOutOfReach) {
+TEST_F(ReportListResizing, AColumnCannotBeDraggedOutOfReach) {
     Drag(0, -20);
     EXPECT_GE(m_List.ColumnWidth(0), 8);
 }
 
-TEST_F(cReportListResizeTest, AFixedColumnDoesNotFollowTheMouse) {
+TEST_F(ReportListResizing, AFixedColumnDoesNotFollowTheMouse) {
     m_List.SetColumnResizable(1, false);
     Drag(1, 5);
     EXPECT_TRUE(m_Told.empty());
     EXPECT_EQ(m_List.ColumnWidth(1), 300);
 }
 
-TEST_F(cReportListResizeTest, ShowingAndResizingTheWindowChangesNoWidth) {
+TEST_F(ReportListResizing, ShowingAndResizingTheWindowChangesNoWidth) {
     View().resize(900, 500);
     RunEvents(20);
     View().hide();
@@ -210,7 +210,7 @@ TEST_F(cReportListResizeTest, ShowingAndResizingTheWindowChangesNoWidth) {
     EXPECT_TRUE(m_Told.empty());
 }
 
-TEST_F(cReportListResizeTest, CtrlWithPlusAndMinusResizesTheColumnThatSorts) {
+TEST_F(ReportListResizing, CtrlWithPlusAndMinusResizesTheColumnThatSorts) {
     QTest::keyClick(&View(), Qt::Key_Plus, Qt::ControlModifier);
     EXPECT_TRUE(m_Told.empty());  // none sorts yet
     QTest::keyClick(&View(), Qt::Key_2, Qt::ControlModifier);
@@ -225,7 +225,7 @@ TEST_F(cReportListResizeTest, CtrlWithPlusAndMinusResizesTheColumnThatSorts) {
     EXPECT_EQ(m_List.ColumnWidth(1), 280);
 }
 
-TEST_F(cReportListResizeTest, AColumnCannotBeMadeUnreachableByKeys) {
+TEST_F(ReportListResizing, AColumnCannotBeMadeUnreachableByKeys) {
     QTest::keyClick(&View(), Qt::Key_1, Qt::ControlModifier);
     for (int i = 0; i < 10; ++i) QTest::keyClick(&View(), Qt::Key_Minus, Qt::ControlModifier);
     EXPECT_EQ(m_List.ColumnWidth(0), 8);
@@ -233,7 +233,7 @@ TEST_F(cReportListResizeTest, AColumnCannotBeMadeUnreachableByKeys) {
 
 // --- sorting by the headers
 
-TEST_F(cReportListTest, CtrlWithADigitSortsByTheColumnThatShowsThereAndTurnsTheOrder) {
+TEST_F(ReportList, CtrlWithADigitSortsByTheColumnThatShowsThereAndTurnsTheOrder) {
     const RecordId b = Add("b", 1), a = Add("a", 2);
     m_List.TakeOverRecords();
     m_List.Rows();
@@ -253,7 +253,7 @@ TEST_F(cReportListTest, CtrlWithADigitSortsByTheColumnThatShowsThereAndTurnsTheO
     EXPECT_EQ(m_List.Rows(), (std::vector<RecordId>{a, b}));
 }
 
-TEST_F(cReportListTest, AClickOnAHeaderSortsByItAndASecondClickTurnsTheOrder) {
+TEST_F(ReportList, AClickOnAHeaderSortsByItAndASecondClickTurnsTheOrder) {
     const RecordId b = Add("b", 1), a = Add("a", 2);
     m_List.TakeOverRecords();
     m_List.Rows();
@@ -267,7 +267,7 @@ TEST_F(cReportListTest, AClickOnAHeaderSortsByItAndASecondClickTurnsTheOrder) {
     EXPECT_EQ(View().horizontalHeader()->sortIndicatorOrder(), Qt::DescendingOrder);
 }
 
-TEST_F(cReportListTest, TheOperatorsOrderSurvivesNewAlarms) {
+TEST_F(ReportList, TheOperatorsOrderSurvivesNewAlarms) {
     Fill(3);
     ClickHeader(1);
     const RecordId first = Arrive("aaa", 1000);
@@ -275,7 +275,7 @@ TEST_F(cReportListTest, TheOperatorsOrderSurvivesNewAlarms) {
     EXPECT_EQ(View().horizontalHeader()->sortIndicatorSection(), 1);
 }
 
-TEST_F(cReportListTest, AListThatIsNotSortableIgnoresClicks) {
+TEST_F(ReportList, AListThatIsNotSortableIgnoresClicks) {
     Fill(3);
     for (int column = 0; column < 3; ++column) m_List.SetColumnSortable(column, false);
     const auto rows = m_List.Rows();
@@ -286,7 +286,7 @@ TEST_F(cReportListTest, AListThatIsNotSortableIgnoresClicks) {
     EXPECT_FALSE(View().horizontalHeader()->sectionsClickable());
 }
 
-TEST_F(cReportListTest, AColumnThatIsNotSortableLeavesOrderAndMarkAlone) {
+TEST_F(ReportList, AColumnThatIsNotSortableLeavesOrderAndMarkAlone) {
     Fill(3);
     m_List.SetColumnSortable(0, false);
     ClickHeader(1);
@@ -296,7 +296,7 @@ TEST_F(cReportListTest, AColumnThatIsNotSortableLeavesOrderAndMarkAlone) {
     EXPECT_EQ(View().horizontalHeader()->sortIndicatorSection(), 1);
 }
 
-TEST_F(cReportListTest, SortingByAClickTakesNothingOver) {
+TEST_F(ReportList, SortingByAClickTakesNothingOver) {
     Fill(2);
     Add("not taken over", 5);
     ClickHeader(1);
@@ -305,9 +305,9 @@ TEST_F(cReportListTest, SortingByAClickTakesNothingOver) {
 
 // --- keys
 
-class cReportListKeyTest : public cReportListTest {
+class ReportListKeys : public ReportList {
   protected:
-    cReportListKeyTest() {
+    ReportListKeys() {
         m_List.OnKeyDown = [this](int code, int shift) {
             const bool shiftKey = code >= 16 && code <= 18;
             if (!shiftKey) m_Keys.emplace_back(code, shift);
@@ -320,7 +320,7 @@ class cReportListKeyTest : public cReportListTest {
     std::vector<RecordId> m_Chosen;
 };
 
-TEST_F(cReportListKeyTest, KeysComeAsVirtualKeyCodesWithTheirShiftState) {
+TEST_F(ReportListKeys, KeysComeAsVirtualKeyCodesWithTheirShiftState) {
     QTest::keyClick(&View(), Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(&View(), Qt::Key_C, Qt::ControlModifier);
     QTest::keyClick(&View(), Qt::Key_Escape);
@@ -329,7 +329,7 @@ TEST_F(cReportListKeyTest, KeysComeAsVirtualKeyCodesWithTheirShiftState) {
     EXPECT_EQ(m_Keys, (Keys{{65, 2}, {67, 2}, {27, 0}, {120, 1}, {40, 7}}));
 }
 
-TEST_F(cReportListKeyTest, TheOwnersKeysHaveNoEffectOfTheToolkits) {
+TEST_F(ReportListKeys, TheOwnersKeysHaveNoEffectOfTheToolkits) {
     QTest::keyClick(&View(), Qt::Key_A, Qt::ControlModifier);
     EXPECT_TRUE(m_List.SelectedRows().empty());
     m_List.SelectAllRows();
@@ -337,7 +337,7 @@ TEST_F(cReportListKeyTest, TheOwnersKeysHaveNoEffectOfTheToolkits) {
     EXPECT_EQ(m_List.SelectedRows().size(), 5u);
 }
 
-TEST_F(cReportListKeyTest, NoOtherKeyCopies) {
+TEST_F(ReportListKeys, NoOtherKeyCopies) {
     QGuiApplication::clipboard()->setText("before");
     View().setCurrentIndex(Cell(1, 1));
     m_List.SelectAllRows();
@@ -348,14 +348,14 @@ TEST_F(cReportListKeyTest, NoOtherKeyCopies) {
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "before");
 }
 
-TEST_F(cReportListKeyTest, TheArrowKeysMoveTheCurrentRow) {
+TEST_F(ReportListKeys, TheArrowKeysMoveTheCurrentRow) {
     View().setCurrentIndex(Cell(1, 1));
     QTest::keyClick(&View(), Qt::Key_Down);
     EXPECT_EQ(View().currentIndex().row(), 2);
     EXPECT_EQ(m_List.SelectedRows(), std::vector<RecordId>{m_Records[2]});
 }
 
-TEST_F(cReportListKeyTest, EnterAndSpaceChooseTheCurrentRow) {
+TEST_F(ReportListKeys, EnterAndSpaceChooseTheCurrentRow) {
     View().setCurrentIndex(Cell(3, 1));
     QTest::keyClick(&View(), Qt::Key_Return);
     QTest::keyClick(&View(), Qt::Key_Enter, Qt::KeypadModifier);
@@ -363,19 +363,19 @@ TEST_F(cReportListKeyTest, EnterAndSpaceChooseTheCurrentRow) {
     EXPECT_EQ(m_Chosen, std::vector<RecordId>(3, m_Records[3]));
 }
 
-TEST_F(cReportListKeyTest, AHeldEnterChoosesOnce) {
+TEST_F(ReportListKeys, AHeldEnterChoosesOnce) {
     View().setCurrentIndex(Cell(3, 1));
     QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
     QCoreApplication::sendEvent(&View(), &repeat);
     EXPECT_TRUE(m_Chosen.empty());
 }
 
-TEST_F(cReportListKeyTest, EnterWithoutACurrentRowDoesNothing) {
+TEST_F(ReportListKeys, EnterWithoutACurrentRowDoesNothing) {
     QTest::keyClick(&View(), Qt::Key_Return);
     EXPECT_TRUE(m_Chosen.empty());
 }
 
-TEST_F(cReportListKeyTest, EnterOnARowThatAnArrivalDeselectedDoesNothing) {
+TEST_F(ReportListKeys, EnterOnARowThatAnArrivalDeselectedDoesNothing) {
     View().setCurrentIndex(Cell(3, 1));
     m_List.ClearSelection();
     ASSERT_TRUE(m_List.SelectedRows().empty());
@@ -384,7 +384,7 @@ TEST_F(cReportListKeyTest, EnterOnARowThatAnArrivalDeselectedDoesNothing) {
     EXPECT_TRUE(m_Chosen.empty());
 }
 
-TEST_F(cReportListKeyTest, EnterOnARowWhoseRecordHasJustGoneDoesNothing) {
+TEST_F(ReportListKeys, EnterOnARowWhoseRecordHasJustGoneDoesNothing) {
     View().setCurrentIndex(Cell(3, 1));
     m_List.RemoveRecord(m_Records[3]);
     QTest::keyClick(&View(), Qt::Key_Return);
@@ -393,18 +393,18 @@ TEST_F(cReportListKeyTest, EnterOnARowWhoseRecordHasJustGoneDoesNothing) {
 
 // --- mouse
 
-TEST_F(cReportListKeyTest, ADoubleClickChoosesItsRow) {
+TEST_F(ReportListKeys, ADoubleClickChoosesItsRow) {
     QTest::mouseClick(View().viewport(), Qt::LeftButton, Qt::NoModifier, Middle(2, 1));
     QTest::mouseDClick(View().viewport(), Qt::LeftButton, Qt::NoModifier, Middle(2, 1));
     EXPECT_EQ(m_Chosen, std::vector<RecordId>{m_Records[2]});
 }
 
-TEST_F(cReportListKeyTest, ADoubleClickWithAnotherButtonChoosesNothing) {
+TEST_F(ReportListKeys, ADoubleClickWithAnotherButtonChoosesNothing) {
     QTest::mouseDClick(View().viewport(), Qt::RightButton, Qt::NoModifier, Middle(2, 1));
     EXPECT_TRUE(m_Chosen.empty());
 }
 
-TEST_F(cReportListKeyTest, ARowThatSlipsUnderThePointerBetweenTheClicksIsNotChosen) {
+TEST_F(ReportListKeys, ARowThatSlipsUnderThePointerBetweenTheClicksIsNotChosen) {
     const QPoint pointer = Middle(2, 1);
     QTest::mouseClick(View().viewport(), Qt::LeftButton, Qt::NoModifier, pointer);
     Add("in front", -1);
@@ -414,7 +414,7 @@ TEST_F(cReportListKeyTest, ARowThatSlipsUnderThePointerBetweenTheClicksIsNotChos
     EXPECT_TRUE(m_Chosen.empty());
 }
 
-TEST_F(cReportListKeyTest, AClickSelectsTheWholeRow) {
+TEST_F(ReportListKeys, AClickSelectsTheWholeRow) {
     QTest::mouseClick(View().viewport(), Qt::LeftButton, Qt::NoModifier, Middle(1, 1));
     QTest::mouseClick(View().viewport(), Qt::LeftButton, Qt::ControlModifier, Middle(3, 0));
     EXPECT_EQ(m_List.SelectedRows(), (std::vector<RecordId>{m_Records[1], m_Records[3]}));
@@ -422,7 +422,7 @@ TEST_F(cReportListKeyTest, AClickSelectsTheWholeRow) {
 
 // --- focus
 
-TEST_F(cReportListTest, LosingTheFocusIsTold) {
+TEST_F(ReportList, LosingTheFocusIsTold) {
     int told = 0;
     m_List.OnFocusChange = [&] { ++told; };
     QWidget other;
@@ -432,7 +432,7 @@ TEST_F(cReportListTest, LosingTheFocusIsTold) {
     EXPECT_EQ(told, 1);
 }
 
-TEST_F(cReportListTest, AMenuOfTheWindowDoesNotCountAsLosingTheFocus) {
+TEST_F(ReportList, AMenuOfTheWindowDoesNotCountAsLosingTheFocus) {
     int told = 0;
     m_List.OnFocusChange = [&] { ++told; };
     for (const Qt::FocusReason reason : {Qt::PopupFocusReason, Qt::MenuBarFocusReason}) {
@@ -444,7 +444,7 @@ TEST_F(cReportListTest, AMenuOfTheWindowDoesNotCountAsLosingTheFocus) {
 
 // --- look
 
-TEST_F(cReportListTest, TheRowHeightIsAskedForWhenTheFontChanges) {
+TEST_F(ReportList, TheRowHeightIsAskedForWhenTheFontChanges) {
     Fill(2);
     EXPECT_EQ(View().visualRect(Cell(0, 1)).height(), 21);
     m_List.OnRowHeight = [] { return 37; };
@@ -453,7 +453,7 @@ TEST_F(cReportListTest, TheRowHeightIsAskedForWhenTheFontChanges) {
     EXPECT_EQ(View().horizontalHeader()->font().pointSizeF(), 24);
 }
 
-class cReportListPictureTest : public cReportListTest {
+class ReportListPicture : public ReportList {
   protected:
     // The cell as it stands on the screen.
     QImage Picture(int row, int column) {
@@ -475,28 +475,28 @@ class cReportListPictureTest : public cReportListTest {
     }
 };
 
-TEST_F(cReportListPictureTest, AColouredCellIsDrawnInItsColours) {
+TEST_F(ReportListPicture, AColouredCellIsDrawnInItsColours) {
     Fill(2);
     const QImage cell = Picture(0, 1);
     EXPECT_GT(Count(cell, Qt::red), cell.width() * cell.height() / 2);
     EXPECT_GT(Count(cell, Qt::white), 20);
 }
 
-TEST_F(cReportListPictureTest, ACellWithoutCaptionAndColoursShowsTheListsOwnColourAlone) {
+TEST_F(ReportListPicture, ACellWithoutCaptionAndColoursShowsTheListsOwnColourAlone) {
     Fill(2);
     m_Items.SetIcon(m_Records[1], 0, -1);
     const QImage cell = Picture(1, 0);
     EXPECT_EQ(Count(cell, View().palette().color(QPalette::Base)), cell.width() * (cell.height() - 1));
 }
 
-TEST_F(cReportListPictureTest, ACellWithIconShowsItsPicture) {
+TEST_F(ReportListPicture, ACellWithIconShowsItsPicture) {
     Fill(2);
     m_Items.SetIcon(m_Records[1], 0, 2);
     m_List.Redraw();
     EXPECT_NE(Picture(1, 0), Picture(0, 0));
 }
 
-TEST_F(cReportListPictureTest, ASelectedRowIsFramedOnEveryColour) {
+TEST_F(ReportListPicture, ASelectedRowIsFramedOnEveryColour) {
     Fill(2);
     const QImage plain = Picture(1, 1);
     m_List.SelectAndShow(m_Records[1]);
@@ -505,14 +505,14 @@ TEST_F(cReportListPictureTest, ASelectedRowIsFramedOnEveryColour) {
     EXPECT_LT(Count(plain, Qt::black), plain.width());
 }
 
-TEST_F(cReportListPictureTest, TheRowOfTheKeysIsMarked) {
+TEST_F(ReportListPicture, TheRowOfTheKeysIsMarked) {
     Fill(3);
     const QImage plain = Picture(1, 1);
     View().selectionModel()->setCurrentIndex(Cell(1, 1), QItemSelectionModel::NoUpdate);
     EXPECT_NE(Picture(1, 1), plain);
 }
 
-TEST_F(cReportListPictureTest, BoldRowsAreDrawnBold) {
+TEST_F(ReportListPicture, BoldRowsAreDrawnBold) {
     Fill(2);
     const int plain = Count(Picture(1, 1), Qt::white);
     std::vector<RecordId> asked;
@@ -525,7 +525,7 @@ TEST_F(cReportListPictureTest, BoldRowsAreDrawnBold) {
     EXPECT_NE(std::find(asked.begin(), asked.end(), m_Records[1]), asked.end());
 }
 
-TEST_F(cReportListPictureTest, TheListsOwnStyleIsWhereARowStartsFrom) {
+TEST_F(ReportListPicture, TheListsOwnStyleIsWhereARowStartsFrom) {
     Fill(1);
     m_List.SetFontStyle(true, true);
     bool bold = false, italic = false;
@@ -538,7 +538,7 @@ TEST_F(cReportListPictureTest, TheListsOwnStyleIsWhereARowStartsFrom) {
     EXPECT_TRUE(italic);
 }
 
-TEST_F(cReportListPictureTest, AnEmptyListShowsItsText) {
+TEST_F(ReportListPicture, AnEmptyListShowsItsText) {
     RunEvents(60);
     const QImage blank = View().viewport()->grab().toImage();
     m_List.SetEmptyText("(nothing to show)");
@@ -550,7 +550,7 @@ TEST_F(cReportListPictureTest, AnEmptyListShowsItsText) {
     EXPECT_NE(View().viewport()->grab().toImage(), blank);
 }
 
-TEST_F(cReportListPictureTest, ARowOfARemovedRecordCanStillBePainted) {
+TEST_F(ReportListPicture, ARowOfARemovedRecordCanStillBePainted) {
     Fill(3);
     m_List.OnBeforeDrawRow = [&](RecordId record, cReportList::cFontStyle&) { m_List.RecordTagOf(record); };
     m_List.RemoveRecord(m_Records[1]);
@@ -579,7 +579,7 @@ TEST(ColourFromNumber, RedIsInTheLowByte) {
 
 // --- assistive tools
 
-TEST_F(cReportListTest, ACellWithoutCaptionIsReadByItsValue) {
+TEST_F(ReportList, ACellWithoutCaptionIsReadByItsValue) {
     Fill(1);
     EXPECT_EQ(Cell(0, 0).data(Qt::AccessibleTextRole).toString(), "1");
     EXPECT_EQ(Cell(0, 1).data(Qt::AccessibleTextRole).toString(), "alarm 0");

@@ -5,7 +5,7 @@
 
 #include "resources/picture.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 constexpr int kLastStripNumber = 47;
@@ -131,4 +131,4 @@ TEST(Pictures, ServeAsIconsOfTheToolkit) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

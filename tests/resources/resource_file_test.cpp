@@ -7,7 +7,7 @@
 
 #include "resources/picture.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 QString ReadText(const QString& path) {
@@ -71,4 +71,4 @@ TEST(ResourceFile, ItsSheetShowsEveryPictureOnce) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

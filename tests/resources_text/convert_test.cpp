@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 TEST(ToCodePage, LettersOfTheCodePageBecomeOneByteEach) {
@@ -44,4 +44,4 @@ TEST(ToCodePage, AQuestionMarkOfTheTextIsNoMisfit) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

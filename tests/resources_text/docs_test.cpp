@@ -16,7 +16,7 @@
 #include "resources_text/doc_pages.h"
 #include "support/fake_clock.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 using vigrel::testing::ReadPage;
@@ -161,4 +161,4 @@ TEST(TextFilePage, TellsWhatEveryNumberIsFor) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

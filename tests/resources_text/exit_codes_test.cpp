@@ -11,10 +11,8 @@
 
 #include "resources_text/doc_pages.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::ReadPage;
 
 std::string Packaged(const std::string& name) {
     std::ifstream file(std::string(VIGREL_PACKAGING_DIR) + "/" + name);
@@ -60,4 +58,4 @@ TEST(ExitCodes, TheServiceStaysDownAfterARefusalAndAnOrderlyEndAlone) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -15,7 +15,7 @@
 #include "resources_text/share_files.h"
 #include "support/fake_files.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 // A language file, with the upper-cased name by which desktops set to that language call it.
@@ -150,4 +150,4 @@ INSTANTIATE_TEST_SUITE_P(Delivered, Languages,
                          NameOf);
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -16,7 +16,7 @@
 #include "signals/event_text.h"
 #include "support/fake_clock.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 using namespace vigrel::testing;
@@ -121,4 +121,4 @@ TEST_F(ManualPage, ItsTemplatesGiveTheResultsItSays) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

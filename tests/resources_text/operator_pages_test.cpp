@@ -7,7 +7,7 @@
 #include "resources_text/default_configuration.h"
 #include "resources_text/doc_pages.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 using namespace vigrel::testing;
@@ -81,4 +81,4 @@ TEST_P(OperatorPage, TellsAsMuchAsTheEnglishOne) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

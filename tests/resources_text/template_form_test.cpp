@@ -8,7 +8,7 @@
 #include "resources_text/default_configuration.h"
 #include "resources_text/doc_pages.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 using namespace vigrel::testing;
@@ -158,4 +158,4 @@ TEST_P(EveryTemplate, WhatTheProgramWritesReplacesALineInPlace) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

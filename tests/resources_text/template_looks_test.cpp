@@ -10,7 +10,7 @@
 #include "events/alarm_list_view.h"
 #include "resources_text/default_configuration.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 using namespace vigrel::testing;
@@ -208,4 +208,4 @@ TEST(ImageStrip, HasAPictureForEachNumberUpToTheLast) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -5,7 +5,7 @@
 #include "signals/event_text.h"
 #include "support/fake_clock.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 using namespace vigrel::testing;
@@ -61,4 +61,4 @@ TEST_P(DefaultTemplates, TheExampleOfAPrintedLineFitsALine) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

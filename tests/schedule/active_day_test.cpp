@@ -5,16 +5,15 @@
 #include "common/dates.h"
 #include "schedule/schedule_builder.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
-using testing::cContent;
 using eReason = cActiveDay::eReason;
 using Periods = std::vector<std::pair<int, int>>;
 
-class ActiveDayTest : public ::testing::Test {
+class ActiveDays : public ::testing::Test {
   protected:
-    ActiveDayTest() {
+    ActiveDays() {
         testing::Load(m_Schedule, cContent()
                                       .Day(0, {{960, 1200}, {420, 700}})
                                       .Day(1, {{960, 1200}, {420, 700}})
@@ -25,7 +24,7 @@ class ActiveDayTest : public ::testing::Test {
     cTimeSchedule m_Schedule;
 };
 
-TEST_F(ActiveDayTest, WithoutACalendarTheWeekdayCounts) {
+TEST_F(ActiveDays, WithoutACalendarTheWeekdayCounts) {
     const cActiveDay day = ActiveDay(m_Schedule, 0, 0);
     EXPECT_EQ(day.dayType, 0);
     EXPECT_EQ(day.reason, eReason::Weekday);
@@ -34,7 +33,7 @@ TEST_F(ActiveDayTest, WithoutACalendarTheWeekdayCounts) {
     EXPECT_EQ(day.group, std::vector<std::int16_t>{1});
 }
 
-TEST_F(ActiveDayTest, ADayTypeOfTheCalendarTakesItsPlaceWhenTheScheduleUsesIt) {
+TEST_F(ActiveDays, ADayTypeOfTheCalendarTakesItsPlaceWhenTheScheduleUsesIt) {
     const cActiveDay special = ActiveDay(m_Schedule, 8, 0);
     EXPECT_EQ(special.dayType, 7);
     EXPECT_EQ(special.reason, eReason::Calendar);
@@ -49,7 +48,7 @@ TEST_F(ActiveDayTest, ADayTypeOfTheCalendarTakesItsPlaceWhenTheScheduleUsesIt) {
     EXPECT_EQ(ActiveDay(m_Schedule, -1, 0).dayType, 0);
 }
 
-TEST_F(ActiveDayTest, AWeekdayThatTheScheduleDoesNotUseHasNoPeriods) {
+TEST_F(ActiveDays, AWeekdayThatTheScheduleDoesNotUseHasNoPeriods) {
     m_Schedule.SetActive(0, 0);
     const cActiveDay day = ActiveDay(m_Schedule, 1, 0);
     EXPECT_FALSE(day.used);
@@ -57,7 +56,7 @@ TEST_F(ActiveDayTest, AWeekdayThatTheScheduleDoesNotUseHasNoPeriods) {
     EXPECT_TRUE(day.periods.empty());
 }
 
-TEST_F(ActiveDayTest, APeriodCoversItsStartAndNotItsStop) {
+TEST_F(ActiveDays, APeriodCoversItsStartAndNotItsStop) {
     const cActiveDay day = ActiveDay(m_Schedule, 0, 0);
     EXPECT_FALSE(day.IsActiveAt(419));
     EXPECT_TRUE(day.IsActiveAt(420));
@@ -69,7 +68,7 @@ TEST_F(ActiveDayTest, APeriodCoversItsStartAndNotItsStop) {
     EXPECT_EQ(day.NextChange(1200), 1440);
 }
 
-TEST_F(ActiveDayTest, WeekdaysAreThoseOfTheCalendarOfTheWorld) {
+TEST_F(ActiveDays, WeekdaysAreThoseOfTheCalendarOfTheWorld) {
     EXPECT_EQ(WeekDayOf(DateSerial(2026, 12, 24)), 3);
     EXPECT_EQ(WeekDayOf(DateSerial(2000, 1, 1)), 5);
     EXPECT_EQ(WeekDayOf(DateSerial(1999, 12, 31)), 4);
@@ -80,4 +79,4 @@ TEST_F(ActiveDayTest, WeekdaysAreThoseOfTheCalendarOfTheWorld) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

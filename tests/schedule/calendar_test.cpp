@@ -3,11 +3,8 @@
 #include "common/failure.h"
 #include "schedule/calendar_bench.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::cCalendarBench;
-using testing::cContent;
 
 constexpr const char* kFile = "C:\\App\\Calendar.dat";
 
@@ -661,4 +658,4 @@ TEST(CalendarResolving, ADateOfAnInactiveTypeShowsThePeriodsOfItsWeekday) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

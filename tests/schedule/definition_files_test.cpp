@@ -6,13 +6,8 @@
 #include "schedule/calendar_bench.h"
 #include "support/samples.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::cCalendarBench;
-using testing::cContent;
-using testing::cFakeFiles;
-using testing::Saved;
 
 constexpr const char* kPath = "C:\\App\\Office.sch";
 
@@ -198,4 +193,4 @@ TEST(CalendarDefinition, TheFrozenSampleIsTheCalendarItWas) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -10,7 +10,7 @@
 #include "common/dates.h"
 #include "common/numbers.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 std::string DateText(std::int32_t day) {
@@ -213,4 +213,4 @@ TEST(Holidays, ADayOutsideTheSpanIsLeftOut) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -2,13 +2,8 @@
 
 #include "schedule/schedule_bench.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::cContent;
-using testing::cScheduleBench;
-using testing::IsGrouped;
-using testing::Periods;
 
 // --- mouse sequences: what Monday holds, what the mouse does in its row, what comes of it.
 
@@ -665,4 +660,4 @@ TEST(ScheduleMenu, WithoutASelectedDayNoEntryDoesAnything) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -6,13 +6,8 @@
 #include "schedule/schedule_builder.h"
 #include "schedule/time_schedule.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::cContent;
-using testing::Load;
-using testing::Periods;
-using testing::Saved;
 
 PeriodPtr Next(const cTimeSchedule& schedule, std::int16_t dayType, const PeriodPtr& previous = nullptr) {
     std::int16_t start = 0, stop = 0;
@@ -248,4 +243,4 @@ TEST(TimeSchedule, ATextCutAtAnyLengthReadsAsWhatIsThereAndZeros) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

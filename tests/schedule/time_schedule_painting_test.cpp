@@ -2,11 +2,8 @@
 
 #include "schedule/schedule_bench.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::cContent;
-using testing::cScheduleBench;
 
 // Fifteen lines of falling colours, written down one by one.
 std::string Gradient(int x1, int x2, int y0, const std::vector<std::string>& colours) {
@@ -309,4 +306,4 @@ TEST(ScheduleLayout, TheContainersPaintObjectIsSetOnceOnly) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

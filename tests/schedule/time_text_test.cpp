@@ -4,7 +4,7 @@
 
 #include "common/text.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 TEST(TimeText, WhatIsATimeIsAccepted) {
@@ -42,4 +42,4 @@ TEST(TimeText, AnAcceptedTextMeansTheMinutesThatItSays) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

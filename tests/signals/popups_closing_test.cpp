@@ -4,9 +4,9 @@
 namespace vigrel::testing {
 namespace {
 
-class cClosePopup : public cPopupsTest {};
+class ClosePopup : public cPopupsTest {};
 
-TEST_F(cClosePopup, AClickOnThePictureClosesFromCode) {
+TEST_F(ClosePopup, AClickOnThePictureClosesFromCode) {
     m_Settings.m_AckEventWhenPopupFormIsClosed = true;
     Show("C");
     Show("C");
@@ -23,7 +23,7 @@ TEST_F(cClosePopup, AClickOnThePictureClosesFromCode) {
               "closed Active - Alarm 1 (/C//)\n");
 }
 
-TEST_F(cClosePopup, TheWindowsOwnCloseAcknowledgesWhenThatIsSet) {
+TEST_F(ClosePopup, TheWindowsOwnCloseAcknowledgesWhenThatIsSet) {
     m_Settings.m_AckEventWhenPopupFormIsClosed = true;
     Show("C");
     m_Transcript.Take();
@@ -31,13 +31,13 @@ TEST_F(cClosePopup, TheWindowsOwnCloseAcknowledgesWhenThatIsSet) {
     EXPECT_EQ(m_Transcript.Take(), "acknowledge Alarm 1\npopup 1: closed\n");
 }
 
-TEST_F(cClosePopup, WithoutTheSettingNothingIsAcknowledged) {
+TEST_F(ClosePopup, WithoutTheSettingNothingIsAcknowledged) {
     Show("C");
     m_Maker[1].Close();
     EXPECT_EQ(m_Transcript.Take().find("acknowledge"), std::string::npos);
 }
 
-TEST_F(cClosePopup, ACloseByTheSystemDoesNotAcknowledge) {
+TEST_F(ClosePopup, ACloseByTheSystemDoesNotAcknowledge) {
     m_Settings.m_AckEventWhenPopupFormIsClosed = true;
     for (const auto reason :
          {eCloseReason::SessionEnd, eCloseReason::TaskManager, static_cast<eCloseReason>(5)}) {
@@ -55,7 +55,7 @@ TEST_F(cClosePopup, ACloseByTheSystemDoesNotAcknowledge) {
               "ended Active - Alarm 3 (/C//)\n");
 }
 
-TEST_F(cClosePopup, TheNextOneIsSelectedWhileTheClosingOneStillCounts) {
+TEST_F(ClosePopup, TheNextOneIsSelectedWhileTheClosingOneStillCounts) {
     m_Settings.m_ViewOnlyOnePopupForm = true;
     Show("C");
     Show("C");
@@ -67,7 +67,7 @@ TEST_F(cClosePopup, TheNextOneIsSelectedWhileTheClosingOneStillCounts) {
     EXPECT_EQ(m_State.m_PopupFormCount, 1);
 }
 
-TEST_F(cClosePopup, AFailedAcknowledgementStillBringsTheNextPopup) {
+TEST_F(ClosePopup, AFailedAcknowledgementStillBringsTheNextPopup) {
     m_Settings.m_AckEventWhenPopupFormIsClosed = true;
     m_Settings.m_ViewOnlyOnePopupForm = true;
     m_FailAck = true;
@@ -78,7 +78,7 @@ TEST_F(cClosePopup, AFailedAcknowledgementStillBringsTheNextPopup) {
     EXPECT_EQ(m_State.m_PopupFormCount, 1);
 }
 
-TEST_F(cClosePopup, AnAlarmOutlivesItsStoreInThePopup) {
+TEST_F(ClosePopup, AnAlarmOutlivesItsStoreInThePopup) {
     m_Settings.m_AckEventWhenPopupFormIsClosed = true;
     AlarmPtr alarm = Alarm("C");
     m_Popups.ShowPopup(alarm);
@@ -89,7 +89,7 @@ TEST_F(cClosePopup, AnAlarmOutlivesItsStoreInThePopup) {
 
 // --- the signal
 
-TEST_F(cClosePopup, AnyClosedPopupEndsTheSignal) {
+TEST_F(ClosePopup, AnyClosedPopupEndsTheSignal) {
     Show("C");
     Show("C");
     m_State.m_SoundState = 4;
@@ -97,7 +97,7 @@ TEST_F(cClosePopup, AnyClosedPopupEndsTheSignal) {
     EXPECT_EQ(m_State.m_SoundState, 0);
 }
 
-TEST_F(cClosePopup, UntilNoMorePopupsTheLastOneAloneEndsTheSignal) {
+TEST_F(ClosePopup, UntilNoMorePopupsTheLastOneAloneEndsTheSignal) {
     m_Settings.m_EventSignalUntilNoMorePopupForms = true;
     Show("C");
     Show("C");
@@ -108,7 +108,7 @@ TEST_F(cClosePopup, UntilNoMorePopupsTheLastOneAloneEndsTheSignal) {
     EXPECT_EQ(m_State.m_SoundState, 0);
 }
 
-TEST_F(cClosePopup, HiddenPopupsKeepTheSignalOn) {
+TEST_F(ClosePopup, HiddenPopupsKeepTheSignalOn) {
     m_Settings.m_EventSignalUntilNoMorePopupForms = true;
     m_Settings.m_ViewOnlyOnePopupForm = true;
     Show("C");
@@ -120,9 +120,9 @@ TEST_F(cClosePopup, HiddenPopupsKeepTheSignalOn) {
 
 // --- closing all
 
-class cClosePopups : public cPopupsTest {};
+class ClosePopups : public cPopupsTest {};
 
-TEST_F(cClosePopups, ThreePopupsGoOneByOneAndOtherWindowsStay) {
+TEST_F(ClosePopups, ThreePopupsGoOneByOneAndOtherWindowsStay) {
     cFakeWindow debug("Vigrel_Receiver_Debug");
     Show("C");
     m_List.Add(debug);
@@ -140,7 +140,7 @@ TEST_F(cClosePopups, ThreePopupsGoOneByOneAndOtherWindowsStay) {
     EXPECT_EQ(m_State.m_PopupFormCount, 0);
 }
 
-TEST_F(cClosePopups, HiddenPopupsGoToo) {
+TEST_F(ClosePopups, HiddenPopupsGoToo) {
     m_Settings.m_ViewOnlyOnePopupForm = true;
     for (int i = 0; i < 3; ++i) Show("C");
     m_Popups.ClosePopups();
@@ -148,7 +148,7 @@ TEST_F(cClosePopups, HiddenPopupsGoToo) {
     EXPECT_EQ(m_State.m_PopupFormCount, 0);
 }
 
-TEST_F(cClosePopups, EachOneIsLoggedAndAcknowledgedInTurn) {
+TEST_F(ClosePopups, EachOneIsLoggedAndAcknowledgedInTurn) {
     m_Settings.m_AckEventWhenPopupFormIsClosed = true;
     Show("C");
     Show("D");
@@ -161,7 +161,7 @@ TEST_F(cClosePopups, EachOneIsLoggedAndAcknowledgedInTurn) {
               "closed Active - Alarm 2 (/D//)\n");
 }
 
-TEST_F(cClosePopups, OneThatRefusesStaysAndTheOthersGo) {
+TEST_F(ClosePopups, OneThatRefusesStaysAndTheOthersGo) {
     for (int i = 0; i < 3; ++i) Show("C");
     m_Maker[2].m_RefuseClose = true;
     m_Popups.ClosePopups();
@@ -169,14 +169,14 @@ TEST_F(cClosePopups, OneThatRefusesStaysAndTheOthersGo) {
     EXPECT_EQ(m_State.m_PopupFormCount, 1);
 }
 
-TEST_F(cClosePopups, WithACountOfZeroNothingIsWalked) {
+TEST_F(ClosePopups, WithACountOfZeroNothingIsWalked) {
     Show("C");
     m_State.m_PopupFormCount = 0;
     m_Popups.ClosePopups();
     EXPECT_EQ(m_Maker.Open(), "1");
 }
 
-TEST_F(cClosePopups, PopupsThatAreOpenAtTheEndAreLetGo) {
+TEST_F(ClosePopups, PopupsThatAreOpenAtTheEndAreLetGo) {
     {
         cPopups popups(Services(m_List, m_Maker));
         popups.ShowPopup(Alarm("C"));

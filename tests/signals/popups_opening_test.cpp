@@ -7,7 +7,7 @@
 namespace vigrel::testing {
 namespace {
 
-class cShowPopup : public cPopupsTest {
+class ShowPopup : public cPopupsTest {
   protected:
     // The places of the next popups in pixels: "50,50 100,100".
     std::string Places(int count) {
@@ -21,7 +21,7 @@ class cShowPopup : public cPopupsTest {
     }
 };
 
-TEST_F(cShowPopup, RunsItsStepsInOneOrder) {
+TEST_F(ShowPopup, RunsItsStepsInOneOrder) {
     Configure(
         "X_Size=200\nY_Size=100\nWindowPosition=Static\nX_Start=10\nY_Start=20\n"
         "FontName= Verdana \nFontSize=9.5\nFontBold=1\n");
@@ -58,7 +58,7 @@ TEST_F(cShowPopup, RunsItsStepsInOneOrder) {
     EXPECT_EQ(m_State.m_PopupFormCount, 1);
 }
 
-TEST_F(cShowPopup, KeepsWhatTheOrderNeedsOfTheEvent) {
+TEST_F(ShowPopup, KeepsWhatTheOrderNeedsOfTheEvent) {
     m_Settings.m_PopupFormTopMostCategory = "A,B";
     const AlarmPtr alarm = Alarm("B");
     m_Popups.ShowPopup(alarm);
@@ -70,7 +70,7 @@ TEST_F(cShowPopup, KeepsWhatTheOrderNeedsOfTheEvent) {
     EXPECT_EQ(popup->m_PriorityIndex, 1);
 }
 
-TEST_F(cShowPopup, ASecondEventOpensASecondPopupEvenForTheSameAlarm) {
+TEST_F(ShowPopup, ASecondEventOpensASecondPopupEvenForTheSameAlarm) {
     const AlarmPtr alarm = Alarm("C");
     m_Popups.ShowPopup(alarm);
     m_Popups.ShowPopup(alarm);
@@ -78,7 +78,7 @@ TEST_F(cShowPopup, ASecondEventOpensASecondPopupEvenForTheSameAlarm) {
     EXPECT_EQ(m_State.m_PopupFormCount, 2);
 }
 
-TEST_F(cShowPopup, EachStatusShowsItsOwnPictureAlone) {
+TEST_F(ShowPopup, EachStatusShowsItsOwnPictureAlone) {
     for (std::int16_t status = 0; status < 4; ++status) {
         const int number = Show("C", status);
         for (int picture = 0; picture < 4; ++picture) {
@@ -87,7 +87,7 @@ TEST_F(cShowPopup, EachStatusShowsItsOwnPictureAlone) {
     }
 }
 
-TEST_F(cShowPopup, TheCaptionNamesTheInstallationAsTheFileHasItNow) {
+TEST_F(ShowPopup, TheCaptionNamesTheInstallationAsTheFileHasItNow) {
     Show("C");
     Configure("", "Object=Other\n");
     Show("C");
@@ -98,7 +98,7 @@ TEST_F(cShowPopup, TheCaptionNamesTheInstallationAsTheFileHasItNow) {
     EXPECT_EQ(m_Maker[3].m_Caption, "Title (none)");
 }
 
-TEST_F(cShowPopup, NumbersGiveOneFirstAndAFailedCallTakesOneToo) {
+TEST_F(ShowPopup, NumbersGiveOneFirstAndAFailedCallTakesOneToo) {
     EXPECT_EQ(m_Popups.ShowPopup(Alarm("C")), 1);
     m_Maker.m_FailNext = true;
     SkipFailure([&] { m_Popups.ShowPopup(Alarm("C")); });
@@ -114,12 +114,12 @@ TEST(NextFormId, BehindTenMillionComesZero) {
 
 // --- font
 
-TEST_F(cShowPopup, TheFontHasItsDefaults) {
+TEST_F(ShowPopup, TheFontHasItsDefaults) {
     Show("C");
     EXPECT_EQ(Steps("label font"), "label font MS Sans Serif 8, label font style plain");
 }
 
-TEST_F(cShowPopup, BoldAndItalicAreAnyNumberButZero) {
+TEST_F(ShowPopup, BoldAndItalicAreAnyNumberButZero) {
     Configure("FontBold=-1\nFontItalic=2x\n");
     Show("C");
     EXPECT_EQ(Steps("label font style"), "label font style bold italic");
@@ -128,7 +128,7 @@ TEST_F(cShowPopup, BoldAndItalicAreAnyNumberButZero) {
     EXPECT_EQ(Steps("label font style"), "label font style italic");
 }
 
-TEST_F(cShowPopup, BoldAndItalicAreRoundedAsAllWholeNumbersAre) {
+TEST_F(ShowPopup, BoldAndItalicAreRoundedAsAllWholeNumbersAre) {
     Configure("FontBold=0.5\nFontItalic=0.6\n");
     Show("C");
     EXPECT_EQ(Steps("label font style"), "label font style italic");
@@ -136,7 +136,7 @@ TEST_F(cShowPopup, BoldAndItalicAreRoundedAsAllWholeNumbersAre) {
 
 // --- place
 
-TEST_F(cShowPopup, ByDefaultTheWindowKeepsItsPlaceAndIsMovedAwayAroundTheShow) {
+TEST_F(ShowPopup, ByDefaultTheWindowKeepsItsPlaceAndIsMovedAwayAroundTheShow) {
     Show("C");
     std::string steps;
     for (const std::string& line : SplitLines(m_Transcript.Take())) {
@@ -148,7 +148,7 @@ TEST_F(cShowPopup, ByDefaultTheWindowKeepsItsPlaceAndIsMovedAwayAroundTheShow) {
     EXPECT_EQ(steps, "left 288000;top 230400;show;left 1800;top 2300;");
 }
 
-TEST_F(cShowPopup, APlaceThatIsNoWholeTwipIsRoundedToTheEvenNeighbour) {
+TEST_F(ShowPopup, APlaceThatIsNoWholeTwipIsRoundedToTheEvenNeighbour) {
     m_Screen.m_TwipsPerPixel = 12.5;
     Configure("WindowPosition=STATIC\nX_Start=1\nY_Start=3\n");
     Show("C");
@@ -156,46 +156,46 @@ TEST_F(cShowPopup, APlaceThatIsNoWholeTwipIsRoundedToTheEvenNeighbour) {
     EXPECT_EQ(m_Maker[1].Top(), 38);
 }
 
-TEST_F(cShowPopup, AStaticPlaceIsThatOfEveryPopup) {
+TEST_F(ShowPopup, AStaticPlaceIsThatOfEveryPopup) {
     Configure("WindowPosition=sTaTiC\nX_Start=7\nY_Start=9\n");
     EXPECT_EQ(Places(2), "7,9 7,9");
 }
 
-TEST_F(cShowPopup, AStaticPlaceBesideTheLeftEdgeIsTheMakers) {
+TEST_F(ShowPopup, AStaticPlaceBesideTheLeftEdgeIsTheMakers) {
     Configure("WindowPosition=STATIC\nX_Start=-1\nY_Start=9\n");
     Show("C");
     EXPECT_EQ(m_Maker[1].Left(), 1800);
     EXPECT_EQ(m_Maker[1].Top(), 2300);
 }
 
-TEST_F(cShowPopup, AnUpperEdgeAboveTheScreenIsTakenAsItIs) {
+TEST_F(ShowPopup, AnUpperEdgeAboveTheScreenIsTakenAsItIs) {
     Configure("WindowPosition=STATIC\nX_Start=0\nY_Start=-4\n");
     EXPECT_EQ(Places(1), "0,-4");
 }
 
-TEST_F(cShowPopup, MovingWithoutBoundsFallsBackToTheStartAtOnce) {
+TEST_F(ShowPopup, MovingWithoutBoundsFallsBackToTheStartAtOnce) {
     Configure("WindowPosition=MOVING\n");
     EXPECT_EQ(Places(3), "50,50 50,50 50,50");
 }
 
-TEST_F(cShowPopup, MovingRunsToItsBoundAndStartsAnew) {
+TEST_F(ShowPopup, MovingRunsToItsBoundAndStartsAnew) {
     Configure("WindowPosition=MOVING\nX_Stop=500\nY_Stop=2000\n");
     EXPECT_EQ(Places(11),
               "50,50 100,100 150,150 200,200 250,250 300,300 350,350 400,400 450,450 500,500 50,50");
 }
 
-TEST_F(cShowPopup, MovingTakesBothAxesBackWhenOnePassesItsBound) {
+TEST_F(ShowPopup, MovingTakesBothAxesBackWhenOnePassesItsBound) {
     Configure("WindowPosition=MOVING\nX_Start=0\nY_Start=10\nX_Step=5\nY_Step=20\nX_Stop=500\nY_Stop=50\n");
     EXPECT_EQ(Places(5), "0,10 5,30 10,50 0,10 5,30");
 }
 
-TEST_F(cShowPopup, MovingWithANegativeStepNeverStartsAnew) {
+TEST_F(ShowPopup, MovingWithANegativeStepNeverStartsAnew) {
     Configure(
         "WindowPosition=MOVING\nX_Start=30\nY_Start=30\nX_Step=0\nY_Step=-20\nX_Stop=500\nY_Stop=500\n");
     EXPECT_EQ(Places(5), "30,30 30,10 30,-10 30,-30 30,-50");
 }
 
-TEST_F(cShowPopup, MovingBeyondTheLeftEdgeLeavesThePlaceToTheMaker) {
+TEST_F(ShowPopup, MovingBeyondTheLeftEdgeLeavesThePlaceToTheMaker) {
     Configure("WindowPosition=MOVING\nX_Start=10\nY_Start=0\nX_Step=-20\nY_Step=0\nX_Stop=99\nY_Stop=99\n");
     EXPECT_EQ(Places(1), "10,0");
     Show("C");
@@ -203,7 +203,7 @@ TEST_F(cShowPopup, MovingBeyondTheLeftEdgeLeavesThePlaceToTheMaker) {
     EXPECT_EQ(m_Maker[2].Top(), 2600);
 }
 
-TEST_F(cShowPopup, MovingStartsOnlyOnceAndGoesOnFromAnotherKindsPlace) {
+TEST_F(ShowPopup, MovingStartsOnlyOnceAndGoesOnFromAnotherKindsPlace) {
     Configure("WindowPosition=MOVING\nX_Stop=900\nY_Stop=900\n");
     EXPECT_EQ(Places(2), "50,50 100,100");
     Configure("");
@@ -212,26 +212,26 @@ TEST_F(cShowPopup, MovingStartsOnlyOnceAndGoesOnFromAnotherKindsPlace) {
     EXPECT_EQ(Places(1), "49,49");
 }
 
-TEST_F(cShowPopup, ABoundThatIsReachedIsNotPassed) {
+TEST_F(ShowPopup, ABoundThatIsReachedIsNotPassed) {
     Configure("WindowPosition=MOVING\nX_Stop=100\nY_Stop=100\n");
     EXPECT_EQ(Places(3), "50,50 100,100 50,50");
 }
 
-TEST_F(cShowPopup, AnEditOfTheFileTakesEffectAtTheNextPopup) {
+TEST_F(ShowPopup, AnEditOfTheFileTakesEffectAtTheNextPopup) {
     Configure("WindowPosition=STATIC\nX_Start=1\nY_Start=2\n");
     EXPECT_EQ(Places(1), "1,2");
     Configure("WindowPosition=STATIC\nX_Start=3\nY_Start=4\n");
     EXPECT_EQ(Places(1), "3,4");
 }
 
-TEST_F(cShowPopup, NumbersAreTheirLeadingPartRounded) {
+TEST_F(ShowPopup, NumbersAreTheirLeadingPartRounded) {
     Configure("WindowPosition=STATIC\nX_Start=2.5 pixels\nY_Start=none\n");
     EXPECT_EQ(Places(1), "2,0");
 }
 
 // --- size
 
-TEST_F(cShowPopup, WithOneSizeOnlyTheDesignSizeStaysOnBothAxes) {
+TEST_F(ShowPopup, WithOneSizeOnlyTheDesignSizeStaysOnBothAxes) {
     for (const char* size : {"X_Size=300\n", "Y_Size=300\n", "X_Size=300\nY_Size=-1\n", ""}) {
         Configure(size);
         const int number = Show("C");
@@ -240,7 +240,7 @@ TEST_F(cShowPopup, WithOneSizeOnlyTheDesignSizeStaysOnBothAxes) {
     }
 }
 
-TEST_F(cShowPopup, ASizeOfZeroIsASize) {
+TEST_F(ShowPopup, ASizeOfZeroIsASize) {
     Configure("X_Size=0\nY_Size=0\n");
     Show("C");
     EXPECT_EQ(m_Maker[1].Width(), 0);
@@ -249,34 +249,34 @@ TEST_F(cShowPopup, ASizeOfZeroIsASize) {
 
 // --- failing steps
 
-TEST_F(cShowPopup, ASettingOutOfRangeOpensNoPopup) {
+TEST_F(ShowPopup, ASettingOutOfRangeOpensNoPopup) {
     Configure("X_Size=99999999999\n");
     EXPECT_THROW(m_Popups.ShowPopup(Alarm("C")), cFailure);
     EXPECT_EQ(m_Maker.Open(), "");
     EXPECT_EQ(m_State.m_PopupFormCount, 0);
 }
 
-TEST_F(cShowPopup, AWindowThatCantBeMadeLeavesNothing) {
+TEST_F(ShowPopup, AWindowThatCantBeMadeLeavesNothing) {
     m_Maker.m_FailNext = true;
     EXPECT_THROW(m_Popups.ShowPopup(Alarm("C")), cFailure);
     EXPECT_EQ(m_State.m_PopupFormCount, 0);
     EXPECT_EQ(m_Popups.SelectTopPopup(nullptr), nullptr);
 }
 
-TEST_F(cShowPopup, AFailureHalfWayLeavesALoadedPopupThatDoesNotShow) {
+TEST_F(ShowPopup, AFailureHalfWayLeavesALoadedPopupThatDoesNotShow) {
     EXPECT_THROW(m_Popups.ShowPopup(Alarm("C", 7)), cFailure);
     EXPECT_EQ(m_Maker.Open(), "1");
     EXPECT_EQ(m_Maker.Visible(), "");
     EXPECT_EQ(m_State.m_PopupFormCount, 1);
 }
 
-TEST_F(cShowPopup, AStatusWithoutColoursStopsBehindTheText) {
+TEST_F(ShowPopup, AStatusWithoutColoursStopsBehindTheText) {
     EXPECT_THROW(m_Popups.ShowPopup(Alarm("C", 7)), cFailure);
     EXPECT_EQ(m_Maker[1].m_LabelText, "Alarm 1//");
     EXPECT_EQ(m_Maker.Visible(), "");
 }
 
-TEST_F(cShowPopup, APopupLeftHalfPreparedCloses) {
+TEST_F(ShowPopup, APopupLeftHalfPreparedCloses) {
     SkipFailure([&] { m_Popups.ShowPopup(Alarm("C", 7)); });
     m_Settings.m_AckEventWhenPopupFormIsClosed = true;
     m_Transcript.Take();
@@ -288,7 +288,7 @@ TEST_F(cShowPopup, APopupLeftHalfPreparedCloses) {
 
 // --- resize
 
-TEST_F(cShowPopup, AResizePutsTheLabelBesideThePicture) {
+TEST_F(ShowPopup, AResizePutsTheLabelBesideThePicture) {
     Show("C");
     m_Transcript.Take();
     m_Maker[1].SetWidth(5120);
@@ -300,7 +300,7 @@ TEST_F(cShowPopup, AResizePutsTheLabelBesideThePicture) {
               "popup 1: label height 1160\n");
 }
 
-TEST_F(cShowPopup, AWindowNarrowerThanTheLabelsLeftKeepsTheWidthAlone) {
+TEST_F(ShowPopup, AWindowNarrowerThanTheLabelsLeftKeepsTheWidthAlone) {
     Show("C");
     m_Maker[1].SetHeight(1510);
     m_Transcript.Take();
@@ -308,7 +308,7 @@ TEST_F(cShowPopup, AWindowNarrowerThanTheLabelsLeftKeepsTheWidthAlone) {
     EXPECT_EQ(Steps("label"), "label top 100, label left 674, label height 900");
 }
 
-TEST_F(cShowPopup, AWindowLowerThanTheLabelsTopKeepsTheHeightAlone) {
+TEST_F(ShowPopup, AWindowLowerThanTheLabelsTopKeepsTheHeightAlone) {
     Show("C");
     m_Transcript.Take();
     m_Maker[1].SetHeight(560);

@@ -6,15 +6,15 @@ namespace {
 
 // --- one popup at a time
 
-class cOnePopup : public cPopupsTest {
+class OnePopup : public cPopupsTest {
   protected:
-    cOnePopup() {
+    OnePopup() {
         m_Settings.m_ViewOnlyOnePopupForm = true;
         m_Settings.m_PopupFormTopMostCategory = "A,B";
     }
 };
 
-TEST_F(cOnePopup, TheBestCategoryTakesOverAndTheOthersComeBackInTurn) {
+TEST_F(OnePopup, TheBestCategoryTakesOverAndTheOthersComeBackInTurn) {
     Show("C");
     EXPECT_EQ(m_Maker.Visible(), "1");
     Show("B");
@@ -29,7 +29,7 @@ TEST_F(cOnePopup, TheBestCategoryTakesOverAndTheOthersComeBackInTurn) {
     EXPECT_EQ(m_Maker.Visible(), "");
 }
 
-TEST_F(cOnePopup, OfOneCategoryTheOlderStaysAndTheNewerWaits) {
+TEST_F(OnePopup, OfOneCategoryTheOlderStaysAndTheNewerWaits) {
     Show("B");
     Show("B");
     EXPECT_EQ(m_Maker.Visible(), "1");
@@ -38,19 +38,19 @@ TEST_F(cOnePopup, OfOneCategoryTheOlderStaysAndTheNewerWaits) {
     EXPECT_EQ(m_Maker.Visible(), "2");
 }
 
-TEST_F(cOnePopup, OfUnlistedCategoriesTheOlderStays) {
+TEST_F(OnePopup, OfUnlistedCategoriesTheOlderStays) {
     Show("X");
     Show("Y");
     EXPECT_EQ(m_Maker.Visible(), "1");
 }
 
-TEST_F(cOnePopup, OfOneStampTheLastOpenedShows) {
+TEST_F(OnePopup, OfOneStampTheLastOpenedShows) {
     m_Popups.ShowPopup(Alarm("B"));
     m_Popups.ShowPopup(Alarm("B"));
     EXPECT_EQ(m_Maker.Visible(), "2");
 }
 
-TEST_F(cOnePopup, ACategoryBehindAnEmptyFieldHasNoPriority) {
+TEST_F(OnePopup, ACategoryBehindAnEmptyFieldHasNoPriority) {
     m_Settings.m_PopupFormTopMostCategory = "A,,B";
     Show("C");
     Show("B");
@@ -59,7 +59,7 @@ TEST_F(cOnePopup, ACategoryBehindAnEmptyFieldHasNoPriority) {
     EXPECT_EQ(m_Maker.Visible(), "3");
 }
 
-TEST_F(cOnePopup, FieldsOfTheListAreTrimmedAndCategoriesAreNot) {
+TEST_F(OnePopup, FieldsOfTheListAreTrimmedAndCategoriesAreNot) {
     m_Settings.m_PopupFormTopMostCategory = "A , B";
     Show("X");
     Show(" B");
@@ -68,7 +68,7 @@ TEST_F(cOnePopup, FieldsOfTheListAreTrimmedAndCategoriesAreNot) {
     EXPECT_EQ(m_Maker.Visible(), "3");
 }
 
-TEST_F(cOnePopup, TheNewWindowIsHiddenAgainBeforeTheSelection) {
+TEST_F(OnePopup, TheNewWindowIsHiddenAgainBeforeTheSelection) {
     Show("B");
     m_Transcript.Take();
     Show("B");
@@ -83,7 +83,7 @@ TEST_F(cOnePopup, TheNewWindowIsHiddenAgainBeforeTheSelection) {
               "popup 2: top 2600\n");
 }
 
-TEST_F(cOnePopup, TheNewWindowOfAnUnlistedCategoryIsNotTopmost) {
+TEST_F(OnePopup, TheNewWindowOfAnUnlistedCategoryIsNotTopmost) {
     Show("C");
     EXPECT_FALSE(m_Maker[1].m_TopMost);
     EXPECT_EQ(Steps("not topmost"), "not topmost");
@@ -91,13 +91,13 @@ TEST_F(cOnePopup, TheNewWindowOfAnUnlistedCategoryIsNotTopmost) {
     EXPECT_TRUE(m_Maker[2].m_TopMost);
 }
 
-TEST_F(cOnePopup, WithoutAListEveryNewWindowIsTopmost) {
+TEST_F(OnePopup, WithoutAListEveryNewWindowIsTopmost) {
     m_Settings.m_PopupFormTopMostCategory = "";
     Show("C");
     EXPECT_TRUE(m_Maker[1].m_TopMost);
 }
 
-TEST_F(cOnePopup, TheTopmostTestTakesTheListAsWritten) {
+TEST_F(OnePopup, TheTopmostTestTakesTheListAsWritten) {
     // Category " B" has no priority, since fields are trimmed, and yet is found in the list as it is written.
     m_Settings.m_PopupFormTopMostCategory = "A, B";
     Show(" b");
@@ -109,7 +109,7 @@ TEST_F(cOnePopup, TheTopmostTestTakesTheListAsWritten) {
     EXPECT_EQ(m_Popups.SelectTopPopup(nullptr)->m_PriorityIndex, 1);
 }
 
-TEST_F(cOnePopup, TheTopmostTestLeavesOuterBlanksOfTheListAlone) {
+TEST_F(OnePopup, TheTopmostTestLeavesOuterBlanksOfTheListAlone) {
     m_Settings.m_PopupFormTopMostCategory = " A,B ";
     Show("A");
     Show("B");
@@ -117,13 +117,13 @@ TEST_F(cOnePopup, TheTopmostTestLeavesOuterBlanksOfTheListAlone) {
     EXPECT_TRUE(m_Maker[2].m_TopMost);
 }
 
-TEST_F(cOnePopup, ACategoryBehindAnEmptyFieldIsTopmostAllTheSame) {
+TEST_F(OnePopup, ACategoryBehindAnEmptyFieldIsTopmostAllTheSame) {
     m_Settings.m_PopupFormTopMostCategory = "A,,B";
     Show("B");
     EXPECT_TRUE(m_Maker[1].m_TopMost);
 }
 
-TEST_F(cOnePopup, ASelectedPopupThatWasMinimisedBecomesNormal) {
+TEST_F(OnePopup, ASelectedPopupThatWasMinimisedBecomesNormal) {
     Show("B");
     Show("C");
     m_Maker[1].m_State = eWindowState::Minimised;
@@ -134,7 +134,7 @@ TEST_F(cOnePopup, ASelectedPopupThatWasMinimisedBecomesNormal) {
     EXPECT_EQ(m_Maker[1].m_State, eWindowState::Maximised);
 }
 
-TEST_F(cOnePopup, TheExcludedPopupIsNeitherChosenNorHidden) {
+TEST_F(OnePopup, TheExcludedPopupIsNeitherChosenNorHidden) {
     Show("A");
     Show("B");
     Show("C");
@@ -143,12 +143,12 @@ TEST_F(cOnePopup, TheExcludedPopupIsNeitherChosenNorHidden) {
     EXPECT_EQ(m_Maker.Visible(), "1 2");
 }
 
-TEST_F(cOnePopup, AStampOfThisVeryMomentIsEarlyEnough) {
+TEST_F(OnePopup, AStampOfThisVeryMomentIsEarlyEnough) {
     Show("X");
     EXPECT_EQ(&m_Popups.SelectTopPopup(nullptr)->m_Window, &m_Maker[1]);
 }
 
-TEST_F(cOnePopup, AnUnlistedPopupFromAheadOfTheClockWaitsUntilTheClockReachesIt) {
+TEST_F(OnePopup, AnUnlistedPopupFromAheadOfTheClockWaitsUntilTheClockReachesIt) {
     Show("X");
     Show("Y");
     m_Clock.AddSeconds(-3600);
@@ -160,7 +160,7 @@ TEST_F(cOnePopup, AnUnlistedPopupFromAheadOfTheClockWaitsUntilTheClockReachesIt)
     EXPECT_EQ(m_Maker.Visible(), "2");
 }
 
-TEST_F(cOnePopup, AListedPopupFromAheadOfTheClockStaysInSight) {
+TEST_F(OnePopup, AListedPopupFromAheadOfTheClockStaysInSight) {
     Show("B");
     Show("B");
     m_Clock.AddSeconds(-3600);
@@ -168,26 +168,26 @@ TEST_F(cOnePopup, AListedPopupFromAheadOfTheClockStaysInSight) {
     EXPECT_EQ(m_Maker.Visible(), "2");
 }
 
-TEST_F(cOnePopup, BehindAClockSetBackTheNewestUnlistedPopupTakesOver) {
+TEST_F(OnePopup, BehindAClockSetBackTheNewestUnlistedPopupTakesOver) {
     Show("X");
     m_Clock.AddSeconds(-3600);
     Show("Y");
     EXPECT_EQ(m_Maker.Visible(), "2");
 }
 
-TEST_F(cOnePopup, WithoutPopupsNothingIsSelected) {
+TEST_F(OnePopup, WithoutPopupsNothingIsSelected) {
     EXPECT_EQ(m_Popups.SelectTopPopup(nullptr), nullptr);
     EXPECT_FALSE(m_Main.m_Visible);
 }
 
 // --- all popups showing
 
-class cAllPopups : public cPopupsTest {
+class AllPopups : public cPopupsTest {
   protected:
-    cAllPopups() { m_Settings.m_PopupFormTopMostCategory = "A,B"; }
+    AllPopups() { m_Settings.m_PopupFormTopMostCategory = "A,B"; }
 };
 
-TEST_F(cAllPopups, WithoutAListEveryPopupLiesOverTheOlderOnes) {
+TEST_F(AllPopups, WithoutAListEveryPopupLiesOverTheOlderOnes) {
     m_Settings.m_PopupFormTopMostCategory = "";
     Show("X");
     Show("Y");
@@ -196,14 +196,14 @@ TEST_F(cAllPopups, WithoutAListEveryPopupLiesOverTheOlderOnes) {
     EXPECT_EQ(m_Maker.Visible(), "1 2 3");
 }
 
-TEST_F(cAllPopups, UnlistedPopupsAloneLieNewestOnTop) {
+TEST_F(AllPopups, UnlistedPopupsAloneLieNewestOnTop) {
     Show("X");
     Show("Y");
     EXPECT_EQ(m_Maker.Stacked(), "2 1");
     EXPECT_EQ(Steps("behind"), "");
 }
 
-TEST_F(cAllPopups, APopupOfTheFirstCategoryLiesOverAll) {
+TEST_F(AllPopups, APopupOfTheFirstCategoryLiesOverAll) {
     Show("A");
     Show("X");
     Show("A");
@@ -211,7 +211,7 @@ TEST_F(cAllPopups, APopupOfTheFirstCategoryLiesOverAll) {
     EXPECT_EQ(Steps("behind"), "behind popup 1");
 }
 
-TEST_F(cAllPopups, OthersGoBehindTheOldestOfTheBestCategory) {
+TEST_F(AllPopups, OthersGoBehindTheOldestOfTheBestCategory) {
     Show("A");
     Show("A");
     Show("X");
@@ -220,7 +220,7 @@ TEST_F(cAllPopups, OthersGoBehindTheOldestOfTheBestCategory) {
     EXPECT_EQ(m_Maker.Stacked(), "2 1 4 3");
 }
 
-TEST_F(cAllPopups, ABetterPopupThatIsNotOfTheFirstCategoryGoesBehindTheChosenOneAllTheSame) {
+TEST_F(AllPopups, ABetterPopupThatIsNotOfTheFirstCategoryGoesBehindTheChosenOneAllTheSame) {
     m_Settings.m_PopupFormTopMostCategory = "A,B,C";
     Show("C");
     Show("B");
@@ -230,7 +230,7 @@ TEST_F(cAllPopups, ABetterPopupThatIsNotOfTheFirstCategoryGoesBehindTheChosenOne
     EXPECT_EQ(Steps("behind"), "behind popup 2");
 }
 
-TEST_F(cAllPopups, OfOneStampTheLastOpenedIsChosen) {
+TEST_F(AllPopups, OfOneStampTheLastOpenedIsChosen) {
     m_Popups.ShowPopup(Alarm("B"));
     m_Popups.ShowPopup(Alarm("B"));
     m_Transcript.Take();
@@ -238,7 +238,7 @@ TEST_F(cAllPopups, OfOneStampTheLastOpenedIsChosen) {
     EXPECT_EQ(Steps("behind"), "behind popup 2");
 }
 
-TEST_F(cAllPopups, AnEmptyCategoryIsTheFirstOfAnEmptyList) {
+TEST_F(AllPopups, AnEmptyCategoryIsTheFirstOfAnEmptyList) {
     m_Settings.m_PopupFormTopMostCategory = "";
     Show("");
     EXPECT_EQ(Steps("behind"), "");
@@ -252,18 +252,18 @@ TEST_F(cAllPopups, AnEmptyCategoryIsTheFirstOfAnEmptyList) {
     EXPECT_EQ(Steps("behind"), "behind popup 2");
 }
 
-TEST_F(cAllPopups, TheFirstCategoryIsComparedWithoutRegardToCase) {
+TEST_F(AllPopups, TheFirstCategoryIsComparedWithoutRegardToCase) {
     Show("B");
     Show("a");
     EXPECT_EQ(m_Maker.Stacked(), "2 1");
 }
 
-TEST_F(cAllPopups, EveryNewPopupIsTopmost) {
+TEST_F(AllPopups, EveryNewPopupIsTopmost) {
     Show("X");
     EXPECT_TRUE(m_Maker[1].m_TopMost);
 }
 
-TEST_F(cAllPopups, AClosedPopupRestoresTheNextOneAndHidesNone) {
+TEST_F(AllPopups, AClosedPopupRestoresTheNextOneAndHidesNone) {
     Show("X");
     Show("A");
     Show("B");

@@ -6,7 +6,7 @@
 
 #include "common/code_page.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 // The rounds of REPLACE written down as they are told, each searching and replacing in the whole value.
@@ -99,4 +99,4 @@ TEST(ApplyModifier, LeavesTheValueToAnUnknownName) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

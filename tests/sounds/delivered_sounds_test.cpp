@@ -11,7 +11,7 @@
 
 // The files as a station plays them, read here without the code that wrote them.
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 constexpr int kRate = 44100;
@@ -163,4 +163,4 @@ TEST(DeliveredSounds, AreTheLouderTheMoreTheyPress) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

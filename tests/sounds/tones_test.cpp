@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 const cTimbre kPure{1.0};
@@ -71,4 +71,4 @@ TEST(Tones, TakeTheWantedPeak) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

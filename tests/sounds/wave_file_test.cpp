@@ -8,11 +8,8 @@
 #include "support/bytes.h"
 #include "support/temporary_folder.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::Bytes;
-using testing::cTemporaryFolder;
 
 TEST(WaveFile, IsOneChannelOf16BitsAt44100) {
     EXPECT_EQ(
@@ -42,4 +39,4 @@ TEST(WaveFile, NamesTheFileThatCannotBeWritten) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -7,7 +7,7 @@
 #include "common/path_text.h"
 #include "tool_support/csv.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 class OptionWords : public ::testing::Test {
@@ -60,4 +60,4 @@ TEST(CsvLine, QuotesCellsAndDisarmsFormulas) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -4,7 +4,7 @@
 #include "common/printable.h"
 #include "tool_support/json.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 TEST(PrintablePath, APathIsShownInItsOwnScript) {
@@ -28,4 +28,4 @@ TEST(PrintablePath, WhatIsNoTextOrSteersATerminalIsEscaped) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

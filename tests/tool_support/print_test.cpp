@@ -4,7 +4,7 @@
 
 #include "tool_support/json.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 TEST(JsonString, EscapesWhatWouldEndOrSteerIt) {
@@ -19,4 +19,4 @@ TEST(JsonList, HasALineForEachItem) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -4,7 +4,7 @@
 
 #include "support/fake_clock.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 // What is printed for ten files of 0.35 seconds each, and for the end.
@@ -34,4 +34,4 @@ TEST(Progress, IsRewrittenInPlaceOnATerminal) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <string>
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 // What is offered for the last word of a command line, separated by blanks.
@@ -37,4 +37,4 @@ TEST(Completion, OffersTheSwitchesOfTheReceiver) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

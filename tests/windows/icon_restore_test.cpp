@@ -6,7 +6,7 @@
 
 #include "support/qt_wait.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 class IconRestore : public ::testing::Test {
@@ -57,4 +57,4 @@ TEST_F(IconRestore, AWindowHiddenMeanwhileStaysAsItIs) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 using eState = cResizeNotice::eState;
@@ -54,4 +54,4 @@ TEST_F(ResizeNotice, ALateListenerIsTold) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

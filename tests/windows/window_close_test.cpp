@@ -4,7 +4,7 @@
 
 #include "support/fake_windows.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 using eState = cWindowClose::eState;
@@ -82,4 +82,4 @@ TEST_F(WindowClose, TheQueryIsToldTheReason) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -4,7 +4,7 @@
 
 #include <QWidget>
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 using eState = cWindowFrame::eState;
@@ -77,4 +77,4 @@ TEST_F(WindowFrame, AWindowThatDoesNotShowHasNoFrameToMeet) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

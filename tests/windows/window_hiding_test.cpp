@@ -4,7 +4,7 @@
 
 #include <QWidget>
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 // The off-screen platform gives windows no frame of its own.
@@ -85,4 +85,4 @@ TEST_F(WindowHiding, AMaximisedWindowIsRememberedAsWhatItWasBefore) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -14,16 +14,16 @@ namespace vigrel::testing {
 namespace {
 
 // Popups on a real screen, over a window in which the operator is typing.
-class cPopupsUnderX : public ::testing::Test, protected cPopupStation {
+class PopupsUnderX : public ::testing::Test, protected cPopupStation {
   protected:
-    cPopupsUnderX() {
+    PopupsUnderX() {
         m_Typing.resize(600, 400);
         m_Typing.show();
         // Its first show makes it active. Were that asked for besides, a busy window manager would do so at
         // any time later, and bring it to the front again over what came in between.
         EXPECT_TRUE(WaitUntil([&] { return m_Screen.ActiveWindow() == IdOf(m_Typing); }));
     }
-    ~cPopupsUnderX() override {
+    ~PopupsUnderX() override {
         m_Popups.ClosePopups();
         EXPECT_TRUE(WaitUntil([&] { return Stacked().empty(); }));
     }
@@ -67,13 +67,13 @@ class cPopupsUnderX : public ::testing::Test, protected cPopupStation {
     std::vector<QPointer<cPopupWidget>> m_Opened;
 };
 
-TEST_F(cPopupsUnderX, SixInABurstStandInTheirOrder) {
+TEST_F(PopupsUnderX, SixInABurstStandInTheirOrder) {
     m_Settings.m_PopupFormTopMostCategory = "A,B";
     OpenAll({"X", "B", "A", "B", "A", "Y"});
     EXPECT_TRUE(StacksAs("536421")) << Stacked();
 }
 
-TEST_F(cPopupsUnderX, SixOneByOneStandInTheirOrder) {
+TEST_F(PopupsUnderX, SixOneByOneStandInTheirOrder) {
     m_Settings.m_PopupFormTopMostCategory = "A,B";
     const char* expected[] = {"1", "21", "321", "3421", "53421", "536421"};
     int step = 0;
@@ -84,7 +84,7 @@ TEST_F(cPopupsUnderX, SixOneByOneStandInTheirOrder) {
     }
 }
 
-TEST_F(cPopupsUnderX, WithoutAListTheNewestLiesOnTop) {
+TEST_F(PopupsUnderX, WithoutAListTheNewestLiesOnTop) {
     for (int i = 0; i < 6; ++i) {
         Open("X");
         RunEvents(20);
@@ -92,7 +92,7 @@ TEST_F(cPopupsUnderX, WithoutAListTheNewestLiesOnTop) {
     EXPECT_TRUE(StacksAs("654321")) << Stacked();
 }
 
-TEST_F(cPopupsUnderX, OneOfSixShowsAndTheNextComesWithEachClose) {
+TEST_F(PopupsUnderX, OneOfSixShowsAndTheNextComesWithEachClose) {
     m_Settings.m_PopupFormTopMostCategory = "A,B";
     m_Settings.m_ViewOnlyOnePopupForm = true;
     OpenAll({"X", "B", "A", "B", "A", "Y"});
@@ -103,7 +103,7 @@ TEST_F(cPopupsUnderX, OneOfSixShowsAndTheNextComesWithEachClose) {
     EXPECT_TRUE(StacksAs(""));
 }
 
-TEST_F(cPopupsUnderX, AClosedPopupLeavesTheOthersInTheirOrder) {
+TEST_F(PopupsUnderX, AClosedPopupLeavesTheOthersInTheirOrder) {
     m_Settings.m_PopupFormTopMostCategory = "A";
     OpenAll({"X", "A", "X", "A"});
     ASSERT_TRUE(StacksAs("4231")) << Stacked();
@@ -113,7 +113,7 @@ TEST_F(cPopupsUnderX, AClosedPopupLeavesTheOthersInTheirOrder) {
     EXPECT_TRUE(StacksAs("4531")) << Stacked();
 }
 
-TEST_F(cPopupsUnderX, PopupsLieOverOtherWindowsWithoutTakingTheKeyboard) {
+TEST_F(PopupsUnderX, PopupsLieOverOtherWindowsWithoutTakingTheKeyboard) {
     OpenAll({"X", "Y"});
     ASSERT_TRUE(StacksAs("21"));
     RunEvents(100);
@@ -126,7 +126,7 @@ TEST_F(cPopupsUnderX, PopupsLieOverOtherWindowsWithoutTakingTheKeyboard) {
     EXPECT_EQ(m_Screen.RootWindows("_NET_CLIENT_LIST_STACKING").front(), IdOf(m_Typing));
 }
 
-TEST_F(cPopupsUnderX, APopupOfAnUnlistedCategoryIsNotTopmostWhenOneShows) {
+TEST_F(PopupsUnderX, APopupOfAnUnlistedCategoryIsNotTopmostWhenOneShows) {
     m_Settings.m_PopupFormTopMostCategory = "A";
     m_Settings.m_ViewOnlyOnePopupForm = true;
     Open("X");
@@ -139,7 +139,7 @@ TEST_F(cPopupsUnderX, APopupOfAnUnlistedCategoryIsNotTopmostWhenOneShows) {
         [&] { return m_Screen.RootWindows("_NET_CLIENT_LIST_STACKING").back() == IdOf(Popup(1)); }));
 }
 
-TEST_F(cPopupsUnderX, TheNextPopupTakesNoKeyboardEither) {
+TEST_F(PopupsUnderX, TheNextPopupTakesNoKeyboardEither) {
     m_Settings.m_ViewOnlyOnePopupForm = true;
     OpenAll({"X", "Y"});
     ASSERT_TRUE(StacksAs("1"));
@@ -149,7 +149,7 @@ TEST_F(cPopupsUnderX, TheNextPopupTakesNoKeyboardEither) {
     EXPECT_EQ(m_Screen.ActiveWindow(), IdOf(m_Typing));
 }
 
-TEST_F(cPopupsUnderX, TheFrameStandsWhereTheFileSays) {
+TEST_F(PopupsUnderX, TheFrameStandsWhereTheFileSays) {
     Configure(
         "X_Size=400\nY_Size=150\nWindowPosition=MOVING\nX_Start=100\nY_Start=200\nX_Stop=900\nY_Stop=900\n");
     OpenAll({"X", "X", "X"});
@@ -164,7 +164,7 @@ TEST_F(cPopupsUnderX, TheFrameStandsWhereTheFileSays) {
     }
 }
 
-TEST_F(cPopupsUnderX, APopupThatWasHiddenComesBackWhereItStood) {
+TEST_F(PopupsUnderX, APopupThatWasHiddenComesBackWhereItStood) {
     m_Settings.m_PopupFormTopMostCategory = "A";
     m_Settings.m_ViewOnlyOnePopupForm = true;
     Configure("X_Size=400\nY_Size=150\nWindowPosition=STATIC\nX_Start=100\nY_Start=200\n");
@@ -186,7 +186,7 @@ TEST_F(cPopupsUnderX, APopupThatWasHiddenComesBackWhereItStood) {
     }
 }
 
-TEST_F(cPopupsUnderX, NoPopupIsSeenWhereItWillNotStay) {
+TEST_F(PopupsUnderX, NoPopupIsSeenWhereItWillNotStay) {
     Configure("WindowPosition=STATIC\nX_Start=100\nY_Start=200\n");
     m_Screen.WatchPlaces();
     OpenAll({"X", "X"});
@@ -200,7 +200,7 @@ TEST_F(cPopupsUnderX, NoPopupIsSeenWhereItWillNotStay) {
     }
 }
 
-TEST_F(cPopupsUnderX, AMinimisedPopupComesBackWhenItIsNext) {
+TEST_F(PopupsUnderX, AMinimisedPopupComesBackWhenItIsNext) {
     OpenAll({"X", "Y"});
     ASSERT_TRUE(StacksAs("21"));
     Popup(1).showMinimized();

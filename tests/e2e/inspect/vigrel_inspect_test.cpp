@@ -19,7 +19,7 @@
 #include "support/fake_clock.h"
 #include "support/samples.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 namespace fs = std::filesystem;
@@ -189,4 +189,4 @@ TEST_F(VigrelInspect, AFolderIsAnsweredByWhatCanBeDoneWithIt) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

@@ -15,7 +15,7 @@
 #include "inspect/alarm_samples.h"
 #include "support/temporary_folder.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
 
 namespace fs = std::filesystem;
@@ -179,4 +179,4 @@ TEST_F(VigrelReceiverCheck, PrintsHelp) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

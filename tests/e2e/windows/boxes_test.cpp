@@ -12,12 +12,8 @@
 #include "e2e/windows/operator.h"
 #include "vigrel-send/connection.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::cStation;
-using testing::FindWindow;
-using testing::Press;
 
 using Lines = std::vector<std::string>;
 
@@ -122,4 +118,4 @@ TEST(BoxesWhileRunning, AFailureBoxThatNobodyAnswersClosesByItself) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

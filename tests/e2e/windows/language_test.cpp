@@ -11,13 +11,8 @@
 #include "e2e/station.h"
 #include "e2e/windows/operator.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::cStation;
-using testing::FindWindow;
-using testing::Press;
-using testing::ReadAll;
 
 // The text of an id in a delivered language.
 std::string DeliveredText(const std::string& language, int id) {
@@ -151,4 +146,4 @@ TEST(FirstStart, AStopSignalEndsAProgramThatStillAsksForItsLanguage) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing

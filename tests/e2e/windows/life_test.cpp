@@ -15,14 +15,8 @@
 #include "e2e/windows/operator.h"
 #include "x11/x_server.h"
 
-namespace vigrel {
+namespace vigrel::testing {
 namespace {
-
-using testing::cStation;
-using testing::cXServer;
-using testing::FindWindow;
-using testing::Press;
-using testing::ReadAll;
 
 void OnScreen(cStation& station) {
     station.m_Environment["QT_QPA_PLATFORM"] = "xcb";
@@ -157,4 +151,4 @@ TEST(LostDisplay, TheLogSaysSoAndTheCodeLetsAServiceStartItAgain) {
 }
 
 }  // namespace
-}  // namespace vigrel
+}  // namespace vigrel::testing
