@@ -14,7 +14,6 @@ namespace {
 
 using namespace vigrel;
 
-
 void CheckForms(const std::string& text, std::int16_t status) {
     const std::string expanded = ExpandConditionalForms(text, status);
     fuzz::Require(expanded.size() <= text.size(), "forms make no text longer");
