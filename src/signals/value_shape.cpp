@@ -112,10 +112,10 @@ std::string ReplaceFirst(std::string_view value, std::string_view upperFind, std
     return read.append(toRead.rbegin(), toRead.rend());
 }
 
-// Each round puts the replacement in place of the first occurrence in the whole value, what earlier rounds put in
-// included. How many rounds there are is told by a search that passes over what a round put in: as many as the
-// value had occurrences to begin with. So [R:a:xa] makes of "banana", in three rounds, "bxanana", "bxxanana" and
-// "bxxxanana"; one replacement for each occurrence would give "bxanxanxa".
+// Each round puts the replacement in place of the first occurrence in the whole value, what earlier rounds
+// put in included. How many rounds there are is told by a search that passes over what a round put in: as
+// many as the value had occurrences to begin with. So [R:a:xa] makes of "banana", in three rounds, "bxanana",
+// "bxxanana" and "bxxxanana"; one replacement for each occurrence would give "bxanxanxa".
 std::string Replace(std::string value, const std::string& find, const std::string& replacement) {
     // Case counts in this one comparison.
     if (replacement == find) return value;

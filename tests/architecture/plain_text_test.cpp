@@ -68,8 +68,7 @@ Complaints Check(const std::filesystem::path& folder) {
 
 // What says a text of its own, or shows figures alone.
 bool SaysItself(const std::string& line) {
-    for (const char* said :
-         {"fputs(\"", "fflush(stderr)", "\"%s%zu of %zu frames", "cStreamStatus status"}) {
+    for (const char* said : {"fputs(\"", "fflush(stderr)", "\"%s%zu of %zu frames", "cStreamStatus status"}) {
         if (line.find(said) != std::string::npos) return true;
     }
     return false;
