@@ -92,10 +92,20 @@ void cAlarmStore::RemoveOldest() {
     GiveUp(*oldest);
 }
 
+// An alarm that is not on disk yet has its number all the same: given to another one, one of the two would
+// take the other's file.
+bool cAlarmStore::IsTaken(std::int32_t fileId) const {
+    return m_Services.ownFiles.FileExists(FileName(fileId)) ||
+           std::any_of(m_Unsaved.begin(), m_Unsaved.end(),
+                       [&](const AlarmPtr& unsaved) { return unsaved->m_FileId == fileId; });
+}
+
 void cAlarmStore::DrawFileId(cVigrelRecieverAlarm& alarm) {
+    std::int32_t drawn = 0;
     do {
-        alarm.m_FileId = ToInt32(m_Services.random.Next() * kLargestFileId);
-    } while (m_Services.ownFiles.FileExists(FileName(alarm.m_FileId)));
+        drawn = ToInt32(m_Services.random.Next() * kLargestFileId);
+    } while (IsTaken(drawn));
+    alarm.m_FileId = drawn;
 }
 
 std::string cAlarmStore::Bytes(cVigrelRecieverAlarm& alarm) {

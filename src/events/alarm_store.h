@@ -87,6 +87,7 @@ class cAlarmStore {
     std::size_t FindPlace(const cVigrelRecieverAlarm& alarm) const;
     void GiveUp(cVigrelRecieverAlarm& alarm);
     void RemoveOldest();
+    bool IsTaken(std::int32_t fileId) const;
     void DrawFileId(cVigrelRecieverAlarm& alarm);
     std::string Bytes(cVigrelRecieverAlarm& alarm);
     bool TrySave(cVigrelRecieverAlarm& alarm);

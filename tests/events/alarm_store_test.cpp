@@ -257,6 +257,18 @@ TEST_F(AlarmStore, AFileThatCanNeverBeWrittenKeepsNoOtherFromTheDisk) {
     EXPECT_EQ(AlarmFiles().size(), 3u);
 }
 
+TEST_F(AlarmStore, ANumberThatWaitsForTheDiskIsGivenToNoOtherAlarm) {
+    random.m_Values = {0.5, 0.5, 0.25};
+    files.m_DiskFull = true;
+    const AlarmPtr first = Take(MakeAlarm("first"));
+    const AlarmPtr second = Take(MakeAlarm("second"));
+    EXPECT_EQ(first->m_FileId, 5000000);
+    EXPECT_EQ(second->m_FileId, 2500000);
+    files.m_DiskFull = false;
+    store.RetryUnsaved();
+    EXPECT_EQ(AlarmFiles().size(), 2u);
+}
+
 TEST_F(AlarmStore, AFailedFolderSyncIsTriedAgain) {
     files.m_FailCall = files.m_Calls + 2;  // write, rename, sync
     Take(MakeAlarm());
