@@ -10,6 +10,7 @@
 #include <cstdlib>
 
 #include "adapters/linux/file_handle.h"
+#include "common/path_text.h"
 #include "support/temporary_folder.h"
 
 namespace vigrel::testing {
@@ -59,6 +60,14 @@ TEST_F(NotifySocket, EachMessageIsADatagramToTheNamedSocket) {
         EXPECT_EQ(Heard(), "STOPPING=1") << name;
         EXPECT_EQ(Heard(), "") << name;
     }
+}
+
+// A disk's trouble names its folder, which can be in any script.
+TEST_F(NotifySocket, APathInTheStatusIsShownInItsOwnScript) {
+    Listen((m_Folder.Path() / "notify").string());
+    cNotifySocket manager;
+    manager.SetStatus("not on disk (" + PathText("/home/\xD0\xB8\xD0\xB2\xD0\xB0\xD0\xBD") + ": full)");
+    EXPECT_EQ(Heard(), "STATUS=not on disk (/home/\xD0\xB8\xD0\xB2\xD0\xB0\xD0\xBD: full)");
 }
 
 TEST_F(NotifySocket, WithoutAManagerOrWithOneThatIsGoneNothingHappens) {

@@ -50,7 +50,7 @@ cNotifySocket::cNotifySocket() : m_Path(Variable("NOTIFY_SOCKET")) {
 }
 
 void cNotifySocket::SetStatus(std::string_view line) {
-    Send("STATUS=" + Printable(line));
+    Send("STATUS=" + PrintablePath(line));
 }
 
 void cNotifySocket::Send(const std::string& message) const {
