@@ -115,7 +115,7 @@ TEST(FirstStart, HelpTellsSwitchesSurroundingsAndExitCodes) {
     EXPECT_EQ(help.exitCode, 0);
     for (const char* word :
          {"/TOPMOST", "/DEBUG", "/MAXIMIZE", "/MINIMIZE", "/SIMULATE", "VIGREL_APPLICATION_PATH",
-          "VIGREL_LANGUAGE", "\n   0  ", "\n   1  ", "\n  69  ", "\n  70  ", "\n  71  "}) {
+          "VIGREL_LANGUAGE", "\n   0  ", "\n   1  ", "\n  69  ", "\n  70  ", "\n  71  ", "\n  75  "}) {
         EXPECT_NE(help.output.find(word), std::string::npos) << word;
     }
     const testing::cResult version = testing::RunProgram("vigrel-receiver", {"--version"});
