@@ -26,12 +26,9 @@ bool cVigrelReceiverMain::HasSwitch(std::string_view name) const {
 eStartUp cVigrelReceiverMain::LoadInOrder() {
     m_Ports.random.Seed(m_Ports.clock.Now());
     PrepareFolders();
-    const std::vector<std::string> completed =
-        CompleteTextFiles(m_Ports.files, m_ApplicationPath, m_Ports.deliveredTexts);
     if (!LoadLanguage()) return eStartUp::NoLanguage;
     m_Log.WriteLog(std::string(kSeparatorLength, '-'));
     m_Log.WriteLog(m_Texts.GetText(TextProgramStart));
-    TellOfTexts(completed);
     const std::int16_t devices = m_Light.ScanDevices();
     m_View.SetUpColumns(m_Settings);
     m_Ports.list.SetEmptyText("(" + m_Texts.GetText(TextNoAlarms) + ")");
@@ -40,6 +37,7 @@ eStartUp cVigrelReceiverMain::LoadInOrder() {
     if (!IsOnlyInstance()) return eStartUp::SecondInstance;
     // Not before: another instance could be writing one.
     RemoveTemporaries(m_Ports.files, m_ApplicationPath);
+    TellOfTexts(CompleteTextFiles(m_Ports.files, m_ApplicationPath, m_Ports.deliveredTexts));
     if (!ReachSuiteLibrary()) return eStartUp::NoSuiteLibrary;
     SetTitle();
     ReadSettings(m_Ini, m_Settings, [this] { SetListFont(); });

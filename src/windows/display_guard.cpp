@@ -1,5 +1,6 @@
 #include "windows/display_guard.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 
@@ -33,6 +34,16 @@ void cDisplayGuard::Take(QtMsgType type, const QMessageLogContext&, const QStrin
     s_Current->m_Messages.emplace_back(type, text);
 }
 
+// A display that the session names may come; a platform that the toolkit hasn't got will not.
+bool cDisplayGuard::MayCome() const {
+    const bool named =
+        !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+    const QString missing =
+        "Could not find the Qt platform plugin \"" + qEnvironmentVariable("QT_QPA_PLATFORM") + '"';
+    return named && std::none_of(m_Messages.begin(), m_Messages.end(),
+                                 [&](const auto& message) { return message.second.contains(missing); });
+}
+
 void cDisplayGuard::Refuse() const {
     std::string reason = "No display can be opened:";
     for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
@@ -41,9 +52,7 @@ void cDisplayGuard::Refuse() const {
     const std::string program = PathText(program_invocation_short_name);
     PrintError(program, reason + ". Unset DISPLAY and WAYLAND_DISPLAY to run without windows.");
     for (const auto& [type, text] : m_Messages) PrintError(program, PathText(text.toStdString()));
-    const bool named =
-        !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
-    std::_Exit(named ? kExitNotYet : kExitRefused);
+    std::_Exit(MayCome() ? kExitNotYet : kExitRefused);
 }
 
 }  // namespace vigrel
