@@ -15,12 +15,15 @@ TEST(PrintablePath, APathIsShownInItsOwnScript) {
 }
 
 TEST(PrintablePath, WhatIsNoTextOrSteersATerminalIsEscaped) {
-    EXPECT_EQ(PrintablePath(PathText("\xFF/x")), "\\x1AFF/x");
+    EXPECT_EQ(PrintablePath(PathText("no\xFFtext/\xFEx")), "no\\xFFtext/\\xFEx");
+    EXPECT_EQ(PrintablePath(PathText("a\\\xFF")), "a\\x5C\\xFF");
+    EXPECT_EQ(PrintablePath(PathText("a\x1A")), "a\\x1A");
     EXPECT_EQ(PrintablePath(PathText("\x1B[31m")), "\\x1B[31m");
     // U+009B starts a control sequence.
     EXPECT_EQ(PrintablePath(PathText("\xC2\x9B"
                                      "31m")),
-              "\\x1AC2\\x1A9B31m");
+              "\\xC2\\x9B31m");
+    // No escape of a path: what a file or a peer holds stands as it is.
     EXPECT_EQ(PrintablePath("\x1A"
                             "07"),
               "\\x1A07");

@@ -266,7 +266,7 @@ attack_names() {
             *) check "$name: it names the folder" grep -qF "${name//\\/\\\\}" "$work/output" ;;
         esac
         run "$programs/vigrel-send" --port 1 --file "$folder/none"
-        check "$name: vigrel-send names a file" grep -qF "$name" "$work/output"
+        check "$name: vigrel-send names a file" grep -qF "${name//$'\xff'/\\xFF}" "$work/output"
         rm -rf "$work/names"
 
         # The user's own folder, filled at the first start.
