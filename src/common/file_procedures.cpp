@@ -89,4 +89,22 @@ void RemoveTemporaries(cFiles& files, std::string_view folder) {
     }
 }
 
+void RemoveTemporaryOf(cFiles& files, std::string_view path) {
+    SkipFailure([&] {
+        const std::string temporary = TemporaryName(files.LinkTarget(path));
+        // A name that differs in case only is not ours.
+        if (SplitPath(files.Spelling(temporary)).name == SplitPath(temporary).name)
+            files.RemoveFile(temporary);
+    });
+}
+
+void RemoveTemporariesOfLinks(cFiles& files, std::string_view folder, std::string_view mask) {
+    for (const std::string& name : files.ListFiles(folder, mask)) {
+        const std::string path = std::string(folder) + name;
+        SkipFailure([&] {
+            if (files.LinkTarget(path) != path) RemoveTemporaryOf(files, path);
+        });
+    }
+}
+
 }  // namespace vigrel

@@ -60,5 +60,10 @@ std::string TemporaryName(std::string_view path);
 inline constexpr std::string_view kTemporaryMask = "*.$~";
 // Removes them. Failures are skipped.
 void RemoveTemporaries(cFiles& files, std::string_view folder);
+// Removes the one that ReplaceFile would write for a file: beside it or, of a link, beside what the link
+// leads to. No other name there, which may be somebody else's, and nothing where another user's link leads.
+void RemoveTemporaryOf(cFiles& files, std::string_view path);
+// The same for the links among the files of a folder that a mask matches.
+void RemoveTemporariesOfLinks(cFiles& files, std::string_view folder, std::string_view mask);
 
 }  // namespace vigrel

@@ -36,7 +36,7 @@ eStartUp cVigrelReceiverMain::LoadInOrder() {
     SetCaptions();
     if (!IsOnlyInstance()) return eStartUp::SecondInstance;
     // Not before: another instance could be writing one.
-    RemoveTemporaries(m_Ports.files, m_ApplicationPath);
+    RemoveLeftovers();
     TellOfTexts(CompleteTextFiles(m_Ports.files, m_ApplicationPath, m_Ports.deliveredTexts));
     if (!ReachSuiteLibrary()) return eStartUp::NoSuiteLibrary;
     SetTitle();
@@ -63,6 +63,12 @@ void cVigrelReceiverMain::PrepareFolders() {
     CopyMissingFiles(m_Ports.files, m_ApplicationPath + "Templates\\", m_ApplicationPath, "*", "oni", "ini");
     SkipFailure([&] { m_Ports.files.MakeFolder(m_ApplicationPath + "LogFiles"); });
     SkipFailure([&] { m_Ports.files.MakeFolder(m_ApplicationPath + "Alarms"); });
+}
+
+void cVigrelReceiverMain::RemoveLeftovers() {
+    RemoveTemporaries(m_Ports.files, m_ApplicationPath);
+    for (const std::string_view written : {"VigrelReceiver.ini", "Vigrel_Texts.*"})
+        RemoveTemporariesOfLinks(m_Ports.files, m_ApplicationPath, written);
 }
 
 bool cVigrelReceiverMain::LoadLanguage() {

@@ -104,6 +104,8 @@ class cVigrelReceiverMain {
     // The steps of the start, in their order.
     eStartUp LoadInOrder();
     void PrepareFolders();
+    // What a crash left of files that were being replaced.
+    void RemoveLeftovers();
     bool LoadLanguage();
     void TellOfTexts(const std::vector<std::string>& completed);
     void ReadCategories(std::int16_t devices);

@@ -112,7 +112,9 @@ std::vector<std::int16_t> DefinitionIdentities(const cDefinitionServices& servic
 }
 
 void RemoveDefinitionTemporaries(const cDefinitionServices& services, const cDefinitionKind& kind) {
-    RemoveTemporaries(services.files, SplitPath(services.ini.FullPath(kind.folderAndStem)).folder);
+    const cPathParts parts = SplitPath(services.ini.FullPath(kind.folderAndStem));
+    RemoveTemporaries(services.files, parts.folder);
+    RemoveTemporariesOfLinks(services.files, parts.folder, parts.name + "????.dat");
 }
 
 std::vector<cUnreadableFile> DefinitionsWithTheSameNumber(const cDefinitionServices& services,

@@ -74,7 +74,7 @@ std::vector<cUnreadableFile> DefinitionsWithTheSameNumber(const cDefinitionServi
 std::string ReasonNotLoaded(const cDefinitionServices& services, const cDefinitionKind& kind,
                             const std::string& fileName);
 
-// Takes away what a crash left of a save in the folder of a kind.
+// Takes away what a crash left of a save in the folder of a kind, and where the links in it lead.
 void RemoveDefinitionTemporaries(const cDefinitionServices& services, const cDefinitionKind& kind);
 
 struct cLoadResult {

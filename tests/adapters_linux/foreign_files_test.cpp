@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <filesystem>
+#include <fstream>
 
 #include "adapters/linux/kept_file.h"
 #include "adapters/linux/linux_files.h"
@@ -153,6 +154,21 @@ TEST_F(ForeignFiles, AReplacedLinkLeadsToItsFileStill) {
     EXPECT_FALSE(fs::is_symlink(Native("etc/shared.ini")));
     EXPECT_EQ(Content("etc\\shared.ini"), "new");
     EXPECT_EQ(m_Files.ListFiles(Path("etc"), "*").size(), 1u);
+}
+
+TEST_F(ForeignFiles, WhatACrashLeftBesideALinksTargetGoesUnlessAnotherUserMadeTheLink) {
+    fs::create_directory(Native("etc"));
+    for (const char* name : {"shared.ini", "shared.ini.$~", "Shared.INI.$~", "other.ini.$~"})
+        std::ofstream(Native("etc") / name) << "x";
+    fs::create_symlink("etc/shared.ini", Native("VigrelReceiver.INI"));
+    const bool planted = lchown(Native("VigrelReceiver.INI").c_str(), 4711, 4711) == 0;
+    RemoveTemporariesOfLinks(m_Files, Path(""), "vigrelreceiver.ini");
+    EXPECT_EQ(fs::exists(Native("etc/shared.ini.$~")), planted);
+    if (planted) lchown(Native("VigrelReceiver.INI").c_str(), geteuid(), getegid());
+    RemoveTemporariesOfLinks(m_Files, Path(""), "vigrelreceiver.ini");
+    RemoveTemporariesOfLinks(m_Files, Path(""), "vigrelreceiver.ini");
+    EXPECT_FALSE(fs::exists(Native("etc/shared.ini.$~")));
+    EXPECT_EQ(m_Files.ListFiles(Path("etc"), "*").size(), 3u);
 }
 
 TEST_F(ForeignFiles, ALinkWhoseFileIsGoneGetsItBack) {

@@ -244,5 +244,41 @@ TEST(RemoveTemporaries, AFailureSkipsThatFileAlone) {
     EXPECT_EQ(files.AllPaths(), Paths{kFolder + "a.dat.$~"});
 }
 
+TEST(RemoveTemporaries, OfALinkTheOneBesideItsTargetGoes) {
+    cFakeFiles files;
+    const std::string target = "C:\\Shared\\a.dat";
+    files.m_Links[kFile] = target;
+    for (const std::string& path : {kFile, target, target + ".$~", std::string("C:\\Shared\\b.dat.$~")})
+        files.Put(path, "");
+    RemoveTemporariesOfLinks(files, kFolder, "b*");
+    EXPECT_EQ(files.AllPaths().size(), 4u);
+    RemoveTemporariesOfLinks(files, kFolder, "*.dat");
+    EXPECT_EQ(files.AllPaths(), (Paths{kFile, target, "C:\\Shared\\b.dat.$~"}));
+}
+
+TEST(RemoveTemporaries, OfAnOrdinaryFileOnlyItsOwnGoes) {
+    cFakeFiles files;
+    for (const char* name : {"a.dat", "a.dat.$~", "b.dat", "b.dat.$~", "C.DAT.$~"})
+        files.Put(kFolder + name, "");
+    RemoveTemporariesOfLinks(files, kFolder, "*.dat");
+    EXPECT_EQ(files.AllPaths().size(), 5u);
+    RemoveTemporaryOf(files, kFile);
+    RemoveTemporaryOf(files, kFolder + "c.dat");
+    EXPECT_EQ(files.AllPaths(),
+              (Paths{kFile, kFolder + "b.dat", kFolder + "b.dat.$~", kFolder + "C.DAT.$~"}));
+}
+
+TEST(RemoveTemporaries, ALinkThatIsNotFollowedTakesNothingAway) {
+    cFakeFiles files;
+    files.m_Links[kFile] = "";
+    files.Put(kFile, "");
+    files.Put(kFolder + "b.dat", "");
+    files.m_Links[kFolder + "b.dat"] = "C:\\Shared\\b.dat";
+    files.Put("C:\\Shared\\b.dat.$~", "");
+    RemoveTemporariesOfLinks(files, kFolder, "*.dat");
+    RemoveTemporaryOf(files, kFile);
+    EXPECT_EQ(files.AllPaths(), (Paths{kFile, kFolder + "b.dat"}));
+}
+
 }  // namespace
 }  // namespace vigrel::testing

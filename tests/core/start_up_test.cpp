@@ -326,6 +326,16 @@ TEST_F(StartUp, LeftoverTemporariesAreCleared) {
     EXPECT_FALSE(files.FileExists("C:\\App\\VigrelReceiver.INI.$~"));
 }
 
+TEST_F(StartUp, LeftoverTemporariesOfLinkedFilesAreCleared) {
+    files.Put("C:\\App\\Vigrel_Texts.047", "0=Test\r\n");
+    files.m_Links = {{"C:\\App\\VigrelReceiver.INI", "C:\\Shared\\station.ini"},
+                     {"C:\\App\\Vigrel_Texts.047", "C:\\Shared\\norsk"}};
+    for (const char* name : {"station.ini.$~", "norsk.$~", "other.ini.$~"})
+        files.Put(std::string("C:\\Shared\\") + name, "half");
+    Load();
+    EXPECT_EQ(files.ListFiles("C:\\Shared\\", "*.$~"), std::vector<std::string>{"other.ini.$~"});
+}
+
 TEST_F(StartUp, AFolderThatCannotBeLockedIsToldAndTheStartGoesOn) {
     singleInstance.m_Problem = "C:\\App\\x.lock: no locks";
     EXPECT_EQ(Load(), eStartUp::Running);

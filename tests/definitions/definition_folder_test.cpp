@@ -38,8 +38,13 @@ TEST_F(DefinitionFolder, WhatACrashLeftOfASaveGoesAtTheNextLoad) {
     cProfileFolder profiles(m_Services);
     const std::string profile = profiles.At(profiles.Add("Day")).CreateFileName(5);
     m_Files.Put(profile + ".$~", "x");
+    m_Files.m_Links[ReceiverPath("0009")] = "C:\\Shared\\nine.dat";
+    m_Files.Put("C:\\Shared\\nine.dat.$~", "x");
+    m_Files.Put("C:\\Shared\\other.dat.$~", "x");
     m_Receivers.Load();
     profiles.Load();
+    EXPECT_FALSE(m_Files.FileExists("C:\\Shared\\nine.dat.$~"));
+    EXPECT_TRUE(m_Files.FileExists("C:\\Shared\\other.dat.$~"));
     EXPECT_FALSE(m_Files.FileExists(ReceiverPath("0007") + ".$~"));
     EXPECT_FALSE(m_Files.FileExists(profile + ".$~"));
     EXPECT_TRUE(m_Files.FileExists(ReceiverPath("00x1")));

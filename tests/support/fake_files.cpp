@@ -206,6 +206,13 @@ void cFakeFiles::SetNormalAttributes(std::string_view path) {
     SetReadOnly(path, false);
 }
 
+std::string cFakeFiles::LinkTarget(std::string_view path) const {
+    const auto link = m_Links.find(std::string(path));
+    if (link == m_Links.end()) return std::string(path);
+    if (link->second.empty()) Fail(eFailure::PermissionDenied, "the link is not followed", path);
+    return link->second;
+}
+
 void cFakeFiles::Put(std::string_view path, std::string_view bytes) {
     PutFolder(SplitPath(path).folder);
     const auto name = m_Names.find(Fold(path));

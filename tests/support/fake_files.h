@@ -33,7 +33,7 @@ class cFakeFiles : public cFiles {
     std::unique_ptr<cPendingSync> StartSync(std::string_view folder) override;
     void MakeFolder(std::string_view path) override;
     void SetNormalAttributes(std::string_view path) override;
-    std::string LinkTarget(std::string_view path) const override { return std::string(path); }
+    std::string LinkTarget(std::string_view path) const override;
 
     // --- for tests
     // Puts a durable file in place, with its folders.
@@ -50,6 +50,8 @@ class cFakeFiles : public cFiles {
     std::map<std::string, std::vector<cUnreadable>> m_Unreadable;
     // Why a folder can't be listed, which is empty then.
     std::map<std::string, std::string> m_FolderProblems;
+    // Where links lead that stand in place of files; an empty target is that of a link which is not followed.
+    std::map<std::string, std::string> m_Links;
 
     int m_Calls = 0;                // mutating calls so far
     int m_FailCall = -1;            // the call of this number (from 0) fails; -1: none
