@@ -63,8 +63,8 @@ class cWidgetWindow : public Widget, public Port {
     }
     double Left() const override { return ToTwips(Place().x()); }
     double Top() const override { return ToTwips(Place().y()); }
-    double Width() const override { return ToTwips(m_Frame.Size().width()); }
-    double Height() const override { return ToTwips(m_Frame.Size().height()); }
+    double Width() const override { return ToTwips(m_Hiding.Size().width()); }
+    double Height() const override { return ToTwips(m_Hiding.Size().height()); }
     void SetLeft(double twips) override { PlaceAt({ToPixels(twips), Place().y()}); }
     void SetTop(double twips) override { PlaceAt({Place().x(), ToPixels(twips)}); }
     void SetWidth(double twips) override { m_Frame.SetSize({ToPixels(twips), m_Frame.Size().height()}); }

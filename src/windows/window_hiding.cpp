@@ -4,7 +4,16 @@
 
 namespace vigrel {
 
+const QRect* cWindowHiding::HiddenMaximised() const {
+    return m_Maximised && m_Window.isMaximized() ? &*m_Maximised : nullptr;
+}
+
+QSize cWindowHiding::Size() const {
+    return HiddenMaximised() != nullptr ? HiddenMaximised()->size() : m_Frame.Size();
+}
+
 QPoint cWindowHiding::Place() const {
+    if (HiddenMaximised() != nullptr) return HiddenMaximised()->topLeft();
     if (m_HiddenPlace) return *m_HiddenPlace;
     // The toolkit's own answer is without the frame now and then.
     const bool frameSeen = m_Frame.State() == cWindowFrame::eState::Seen;
@@ -14,6 +23,7 @@ QPoint cWindowHiding::Place() const {
 void cWindowHiding::PlaceAt(QPoint place) {
     if (m_HiddenPlace) {
         m_HiddenPlace = place;
+        m_Maximised.reset();
     } else {
         m_Window.move(place);
     }
@@ -23,7 +33,9 @@ void cWindowHiding::Vanish() {
     if (!m_Window.isVisible()) return;
     const bool maximised = m_Window.isMaximized();
     const QRect restored = m_Window.normalGeometry();  // of the inside
-    m_HiddenPlace = maximised ? restored.topLeft() - m_Frame.Corner() : Place();
+    const QPoint place = Place();
+    if (maximised) m_Maximised = QRect(place, m_Frame.Size());
+    m_HiddenPlace = maximised ? restored.topLeft() - m_Frame.Corner() : place;
     m_Window.hide();
     m_GiveUp();
     if (maximised) m_Window.resize(restored.size());
@@ -34,6 +46,7 @@ void cWindowHiding::Reappear() {
     // By the inside, for which the toolkit needs to know nothing of the frame.
     m_Window.setGeometry(QRect(*m_HiddenPlace + m_Frame.Corner(), m_Window.size()));
     m_HiddenPlace.reset();
+    m_Maximised.reset();
 }
 
 }  // namespace vigrel

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QPoint>
+#include <QRect>
+#include <QSize>
 #include <functional>
 #include <optional>
 #include <utility>
@@ -22,6 +24,10 @@ namespace vigrel {
 //         what was set since
 //
 // A window that was never shown is There, at what the toolkit was told.
+//
+// What is maximised while it hides comes back so, whatever it is as an icon meanwhile, and has the place and
+// the size of its frame on the screen. Those that it has as an ordinary window count as soon as it is told to
+// be one, or another place is set.
 class cWindowHiding {
   public:
     // giveUp lets go of the native window.
@@ -31,6 +37,7 @@ class cWindowHiding {
     bool Hidden() const { return m_HiddenPlace.has_value(); }
     // The frame's upper left corner.
     QPoint Place() const;
+    QSize Size() const;  // the frame's
     void PlaceAt(QPoint place);
     // Does nothing to a window that doesn't show.
     void Vanish();
@@ -38,10 +45,13 @@ class cWindowHiding {
     void Reappear();
 
   private:
+    const QRect* HiddenMaximised() const;
+
     QWidget& m_Window;
     const cWindowFrame& m_Frame;
     std::function<void()> m_GiveUp;
-    std::optional<QPoint> m_HiddenPlace;
+    std::optional<QPoint> m_HiddenPlace;  // as an ordinary window
+    std::optional<QRect> m_Maximised;     // the frame of one that is hidden maximised
 };
 
 }  // namespace vigrel

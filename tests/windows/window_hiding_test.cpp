@@ -80,8 +80,22 @@ TEST_F(WindowHiding, AMaximisedWindowIsRememberedAsWhatItWasBefore) {
     m_Window.show();
     m_Window.setWindowState(Qt::WindowMaximized);
     m_Hiding.Vanish();
+    m_Window.setWindowState(Qt::WindowNoState);
     EXPECT_EQ(m_Hiding.Place(), QPoint(100, 80));
-    EXPECT_EQ(m_Window.size(), QSize(300, 200));
+    EXPECT_EQ(m_Hiding.Size(), QSize(300, 200));
+    m_Hiding.Reappear();
+    EXPECT_EQ(m_Window.geometry(), QRect(100, 80, 300, 200));
+}
+
+TEST_F(WindowHiding, HiddenMaximisedItReappearsSoAndBecomesWhatItWasBefore) {
+    ShowWithFrame();
+    const QRect inside = m_Window.geometry();
+    m_Window.setWindowState(Qt::WindowMaximized);
+    m_Hiding.Vanish();
+    m_Hiding.Reappear();
+    EXPECT_TRUE(m_Window.isMaximized());
+    EXPECT_EQ(m_Window.geometry(), inside);
+    EXPECT_EQ(m_Hiding.Place(), inside.topLeft() - QPoint(2, 20));
 }
 
 }  // namespace

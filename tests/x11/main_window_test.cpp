@@ -280,6 +280,24 @@ TEST_F(ComingToTheFront, FromHiddenAfterTheWindowManagerHadRestoredIt) {
     EXPECT_TRUE(IsInFront());
 }
 
+TEST_F(MainWindowUnderX, AMaximisedWindowThatHidesAsAnIconKeepsItsGeometry) {
+    m_Main.SetState(eWindowState::Maximised);
+    ShowMain();
+    ASSERT_TRUE(WaitUntil([&] { return m_Main.frameGeometry().width() >= 1280; }));
+    RunEvents(100);
+    const cGeometry maximised = GeometryOf(m_Main);
+    m_Main.OnResize = [&] {
+        if (m_Main.State() == eWindowState::Minimised) m_Main.Hide();
+    };
+    m_Main.SetState(eWindowState::Minimised);
+    ASSERT_TRUE(WaitUntil([&] { return !m_Main.isVisible(); }));
+    EXPECT_EQ(GeometryOf(m_Main), maximised);
+    m_Main.SetState(eWindowState::Normal);
+    EXPECT_LT(m_Main.Width(), maximised.width);
+    ShowMain();
+    EXPECT_TRUE(WaitUntil([&] { return m_Main.frameGeometry().width() < 1000; }));
+}
+
 TEST_F(ComingToTheFront, AMaximisedWindowStaysMaximised) {
     m_Main.SetState(eWindowState::Maximised);
     ShowMain();
