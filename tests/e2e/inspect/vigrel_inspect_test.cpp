@@ -2,7 +2,6 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -10,7 +9,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 
 #include "common/binary.h"
 #include "common/numbers.h"
@@ -18,43 +16,26 @@
 #include "inspect/alarm_samples.h"
 #include "support/fake_clock.h"
 #include "support/samples.h"
+#include "support/tool_run.h"
 
 namespace vigrel::testing {
 namespace {
 
 namespace fs = std::filesystem;
 
-struct cRun {
-    int exitCode = -1;
-    std::string output, errors;
-};
+using cRun = cToolRun;
 
-class VigrelInspect : public ::testing::Test {
+class VigrelInspect : public ::testing::Test, protected cToolFolder {
   protected:
-    VigrelInspect() {
-        std::string pattern = (fs::temp_directory_path() / "vigrel-inspect-XXXXXX").string();
-        m_Folder = mkdtemp(pattern.data());
-        fs::create_directories(m_Folder / "App" / "Alarms");
-    }
-    ~VigrelInspect() override { fs::remove_all(m_Folder); }
-
-    static std::string Content(const fs::path& path) {
-        std::ifstream file(path, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    using cToolFolder::Run;
+    VigrelInspect() : cToolFolder(VIGREL_INSPECT) {
+        fs::create_directories(m_Folder.Path() / "App" / "Alarms");
     }
     fs::path Put(const std::string& name, const std::string& bytes) {
-        std::ofstream(m_Folder / name, std::ios::binary) << bytes;
-        return m_Folder / name;
+        const fs::path path = m_Folder.Path() / name;
+        std::ofstream(path, std::ios::binary) << bytes;
+        return path;
     }
-    // Runs the program in the folder, with words as a shell takes them.
-    cRun Run(const std::string& arguments, const std::string& output = "out.txt") {
-        const std::string command = "cd '" + m_Folder.string() + "' && " VIGREL_INSPECT " " + arguments +
-                                    " >" + output + " 2>errors.txt";
-        const int status = std::system(command.c_str());
-        return {WEXITSTATUS(status), Content(m_Folder / "out.txt"), Content(m_Folder / "errors.txt")};
-    }
-
-    fs::path m_Folder;
 };
 
 TEST_F(VigrelInspect, PrintsAFileAndLeavesItAsItIs) {
@@ -65,8 +46,7 @@ TEST_F(VigrelInspect, PrintsAFileAndLeavesItAsItIs) {
     EXPECT_EQ(run.exitCode, 0);
     EXPECT_EQ(run.output.substr(0, 48), "Receiver_0007.dat: receiver, version 3, 30 bytes");
     EXPECT_NE(run.output.find("Everything fits."), std::string::npos);
-    EXPECT_EQ(run.errors, "");
-    EXPECT_EQ(Content(path), testing::Sample("receiver_version_3.dat"));
+    EXPECT_EQ(Content("Receiver_0007.dat"), testing::Sample("receiver_version_3.dat"));
     EXPECT_EQ(fs::last_write_time(path), before);
 }
 
@@ -80,12 +60,12 @@ TEST_F(VigrelInspect, PrintsSeveralFilesAsOneJsonArray) {
     EXPECT_TRUE(
         run.output.ends_with("\"problems\": [\n    {\"offset\": 29, \"field\": \"t1\", "
                              "\"description\": \"the file ends inside this field\"}\n  ]\n}\n]\n"));
-    EXPECT_EQ(Run("--json missing.alm").output, "[]\n");
+    EXPECT_EQ(RunTelling("--json missing.alm").output, "[]\n");
 }
 
 TEST_F(VigrelInspect, GoesOnBehindAFileThatCantBeRead) {
     Put("A0042917.alm", samples::kAlarm);
-    const cRun run = Run("missing.alm A0042917.alm");
+    const cRun run = RunTelling("missing.alm A0042917.alm");
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_NE(run.errors.find("missing.alm: No such file"), std::string::npos) << run.errors;
     EXPECT_NE(run.output.find("A0042917.alm: alarm, 193 bytes"), std::string::npos);
@@ -105,7 +85,7 @@ TEST_F(VigrelInspect, PrintsHelpWithExamples) {
 }
 
 TEST_F(VigrelInspect, RefusesAWrongCommandLine) {
-    const cRun run = Run("--nonsense");
+    const cRun run = RunTelling("--nonsense");
     EXPECT_EQ(run.exitCode, 2);
     EXPECT_EQ(run.output, "");
     EXPECT_EQ(run.errors, "vigrel-inspect: the option --nonsense is not known\nTry vigrel-inspect --help\n");
@@ -113,7 +93,7 @@ TEST_F(VigrelInspect, RefusesAWrongCommandLine) {
 
 TEST_F(VigrelInspect, SaysThatItsOutputCantBeWritten) {
     Put("A0042917.alm", samples::kAlarm);
-    const cRun run = Run("A0042917.alm", "/dev/full");
+    const cRun run = RunTelling("A0042917.alm", "/dev/full");
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_EQ(run.errors, "vigrel-inspect: standard output can't be written\n");
 }
@@ -121,18 +101,17 @@ TEST_F(VigrelInspect, SaysThatItsOutputCantBeWritten) {
 TEST_F(VigrelInspect, ExportsTheAlarmsOfAnApplicationFolder) {
     Put("App/Alarms/A0042917.alm", samples::kAlarm);
     const cRun run =
-        Run("App --alarms --csv --from 2026-03-15 --to 2026-03-15 --status active --observed no");
+        RunTelling("App --alarms --csv --from 2026-03-15 --to 2026-03-15 --status active --observed no");
     EXPECT_EQ(run.exitCode, 0) << run.errors;
     EXPECT_NE(run.output.find("\"A0042917.alm\",\"2026-03-15 12:30:15\",\"\xC3\x96st\",\"active\""),
               std::string::npos);
     EXPECT_EQ(run.errors, "1 file read, 1 alarm exported, 0 files damaged\n");
-    EXPECT_EQ(Run("App --alarms --csv --from 2026-03-16 --quiet").errors, "");
-    EXPECT_EQ(Run("App --alarms --csv --from 2026-03-16").output.find("A0042917"), std::string::npos);
-    EXPECT_EQ(Run("App --alarms --csv --bom").output.substr(0, 3), "\xEF\xBB\xBF");
+    EXPECT_EQ(Run("App --alarms --csv --from 2026-03-16 --quiet").output.find("A0042917"), std::string::npos);
+    EXPECT_EQ(RunTelling("App --alarms --csv --bom").output.substr(0, 3), "\xEF\xBB\xBF");
 }
 
 TEST_F(VigrelInspect, SaysThatAFolderHoldsNoAlarms) {
-    const cRun run = Run("App --alarms --csv");
+    const cRun run = RunTelling("App --alarms --csv");
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_EQ(run.errors, "vigrel-inspect: App: there is no alarm file here, nor in its folder Alarms\n");
 }
@@ -140,7 +119,7 @@ TEST_F(VigrelInspect, SaysThatAFolderHoldsNoAlarms) {
 TEST_F(VigrelInspect, ExportsEveryAlarmOfALargeFolder) {
     constexpr int kAlarms = 2500;
     for (int i = 0; i < kAlarms; ++i) Put("App/Alarms/A" + Digits(i, 7) + ".alm", samples::kAlarm);
-    const cRun run = Run("App --alarms --csv");
+    const cRun run = RunTelling("App --alarms --csv");
     EXPECT_EQ(run.exitCode, 0);
     std::size_t at = 0;
     for (int i = 0; i < kAlarms && at != std::string::npos; ++i) {
@@ -174,14 +153,14 @@ TEST_F(VigrelInspect, ATableOnATerminalSteersItByNoAlarm) {
     alarm.WriteToDisk(bytes);
     Put("App/Alarms/A0000001.alm", bytes.Bytes());
     const std::string shown =
-        OnATerminal("cd '" + m_Folder.string() + "' && " VIGREL_INSPECT " App --alarms --csv");
+        OnATerminal("cd '" + m_Folder.Path().string() + "' && " VIGREL_INSPECT " App --alarms --csv");
     EXPECT_NE(shown.find("\\x1B]0;owned\\x07"), std::string::npos) << shown;
     EXPECT_EQ(shown.find('\x1B'), std::string::npos);
-    EXPECT_NE(Run("App --alarms --csv").output.find('\x1B'), std::string::npos);
+    EXPECT_NE(RunTelling("App --alarms --csv").output.find('\x1B'), std::string::npos);
 }
 
 TEST_F(VigrelInspect, AFolderIsAnsweredByWhatCanBeDoneWithIt) {
-    const cRun run = Run("App");
+    const cRun run = RunTelling("App");
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_NE(run.errors.find("App is a folder: \"vigrel-inspect App --alarms --csv\""), std::string::npos)
         << run.errors;
