@@ -317,6 +317,29 @@ TEST_F(PopupWidget, AltF4ClosesAsTheWindowsOwnControlDoes) {
     EXPECT_FALSE(popup.isVisible());
 }
 
+TEST_F(PopupWidget, EscClosesAsTheWindowsOwnControlDoesWhereverTheKeyboardIs) {
+    for (const bool inText : {true, false}) {
+        cPopupWidget& popup = MakeShown();
+        popup.SetPictureVisible(1, true);
+        const cCloseReasons reasons(popup);
+        QWidget& place = inText ? static_cast<QWidget&>(Label(popup)) : Picture(popup, 1);
+        QTest::keyClick(&place, Qt::Key_Escape);
+        EXPECT_EQ(reasons.m_Text, "0 unload ");
+        EXPECT_FALSE(popup.isVisible());
+    }
+}
+
+TEST_F(PopupWidget, ACloseKeyThatIsHeldDownOrHasOthersWithItClosesNothing) {
+    cPopupWidget& popup = MakeShown();
+    const cCloseReasons reasons(popup);
+    QKeyEvent heldEsc(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, "", true);
+    QKeyEvent heldF4(QEvent::KeyPress, Qt::Key_F4, Qt::AltModifier, "", true);
+    for (QKeyEvent* held : {&heldEsc, &heldF4}) QCoreApplication::sendEvent(&Label(popup), held);
+    QTest::keyClick(&Label(popup), Qt::Key_Escape, Qt::ControlModifier);
+    EXPECT_EQ(reasons.m_Text, "");
+    EXPECT_TRUE(popup.isVisible());
+}
+
 TEST_F(PopupWidget, ARefusedCloseLeavesThePopup) {
     cPopupWidget& popup = MakeShown();
     cCloseReasons reasons(popup);

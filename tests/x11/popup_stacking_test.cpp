@@ -58,6 +58,17 @@ class PopupsUnderX : public ::testing::Test, protected cPopupStation {
     bool StacksAs(const std::string& order) {
         return WaitUntil([&] { return Stacked() == order; }) || (RunEvents(10), Stacked() == order);
     }
+    // As the operator does with Alt+Tab.
+    void GiveKeyboard(int number) {
+        Popup(number).activateWindow();
+        EXPECT_TRUE(HasKeyboard(number));
+    }
+    bool HasKeyboard(int number) {
+        const auto has = [&] {
+            return Popup(number).isActiveWindow() && m_Screen.ActiveWindow() == IdOf(Popup(number));
+        };
+        return WaitUntil(has, 5000);
+    }
 
     cXScreen m_Screen;
     QLineEdit m_Typing;
@@ -145,6 +156,65 @@ TEST_F(PopupsUnderX, TheNextPopupTakesNoKeyboardEither) {
     ASSERT_TRUE(StacksAs("1"));
     Popup(1).Close();
     ASSERT_TRUE(StacksAs("2"));
+    RunEvents(100);
+    EXPECT_EQ(m_Screen.ActiveWindow(), IdOf(m_Typing));
+}
+
+// Not the window behind, where the next key would do something else.
+TEST_F(PopupsUnderX, TheKeyboardOfAClosedPopupGoesToTheUppermostOfTheOthers) {
+    OpenAll({"X", "Y", "Z"});
+    ASSERT_TRUE(StacksAs("321"));
+    GiveKeyboard(3);
+    Popup(3).Close();
+    EXPECT_TRUE(HasKeyboard(2));
+    Popup(2).Close();
+    EXPECT_TRUE(HasKeyboard(1));
+    Popup(1).Close();
+    EXPECT_TRUE(WaitUntil([&] { return m_Screen.ActiveWindow() == IdOf(m_Typing); }));
+}
+
+TEST_F(PopupsUnderX, TheKeyboardOfAClosedPopupGoesToTheOneThatShowsInItsPlace) {
+    m_Settings.m_ViewOnlyOnePopupForm = true;
+    OpenAll({"X", "Y", "Z"});
+    for (const int number : {1, 2}) {
+        ASSERT_TRUE(StacksAs(std::to_string(number)));
+        GiveKeyboard(number);
+        Popup(number).Close();
+        ASSERT_TRUE(StacksAs(std::to_string(number + 1)));
+        EXPECT_TRUE(HasKeyboard(number + 1));
+    }
+}
+
+TEST_F(PopupsUnderX, TheKeyboardPassesOverAnIcon) {
+    OpenAll({"X", "Y", "Z"});
+    ASSERT_TRUE(StacksAs("321"));
+    Popup(2).showMinimized();
+    ASSERT_TRUE(WaitUntil([&] { return m_Screen.HasState(IdOf(Popup(2)), "_NET_WM_STATE_HIDDEN"); }));
+    GiveKeyboard(3);
+    Popup(3).Close();
+    EXPECT_TRUE(HasKeyboard(1));
+    EXPECT_TRUE(m_Screen.HasState(IdOf(Popup(2)), "_NET_WM_STATE_HIDDEN"));
+}
+
+TEST_F(PopupsUnderX, APopupThatComesBesideTheOneWithTheKeyboardDoesNotTakeIt) {
+    OpenAll({"X"});
+    ASSERT_TRUE(StacksAs("1"));
+    GiveKeyboard(1);
+    OpenAll({"Y"});
+    ASSERT_TRUE(StacksAs("21"));
+    RunEvents(100);
+    EXPECT_TRUE(HasKeyboard(1));
+}
+
+TEST_F(PopupsUnderX, AllClosedAtOnceLeaveTheKeyboardToTheWindowBehind) {
+    OpenAll({"X", "Y", "Z"});
+    ASSERT_TRUE(StacksAs("321"));
+    GiveKeyboard(3);
+    m_Popups.ClosePopups();
+    EXPECT_TRUE(WaitUntil([&] { return m_Screen.ActiveWindow() == IdOf(m_Typing); }));
+    // Nor is it kept for a popup of a later alarm.
+    Open("X");
+    ASSERT_TRUE(StacksAs("4"));
     RunEvents(100);
     EXPECT_EQ(m_Screen.ActiveWindow(), IdOf(m_Typing));
 }

@@ -38,6 +38,8 @@ void cPopupStack::Remove(const cStackedPopup& popup) {
     Erase(m_Order, popup);
     Erase(m_OnScreen, popup);
     std::erase(m_Waiting, &popup);
+    // The popup of a later alarm is no heir.
+    if (m_Order.empty()) m_SinceKeyboardLeft.invalidate();
 }
 
 void cPopupStack::Schedule(cStackedPopup& popup) {
@@ -45,6 +47,12 @@ void cPopupStack::Schedule(cStackedPopup& popup) {
     if (!popup.m_Waits) m_Waiting.push_back(&popup);
     popup.m_Waits = true;
     // Not 0: such a timer waits for a moment without sockets, which a busy link never gives.
+    if (!m_Timer.isActive()) m_Timer.start(1);
+}
+
+void cPopupStack::PassKeyboardOn() {
+    if (m_Order.empty()) return;
+    m_SinceKeyboardLeft.start();
     if (!m_Timer.isActive()) m_Timer.start(1);
 }
 
@@ -75,6 +83,7 @@ void cPopupStack::Turn(qint64 milliseconds) {
         if (popup.ReachScreen()) Erase(m_OnScreen, popup);
     }
     BringInOrder();
+    GiveKeyboard();
     m_Rest = turn.elapsed() * kRestsPerTurn;
     m_SinceTurn.start();
     m_NewWishes = false;
@@ -94,6 +103,18 @@ void cPopupStack::BringInOrder() {
         std::mismatch(wished.rbegin(), wished.rend(), m_OnScreen.rbegin(), m_OnScreen.rend()).first;
     std::for_each(changed, wished.rend(), [](cStackedPopup* popup) { popup->RaiseOnScreen(); });
     m_OnScreen = wished;
+    FlushToScreen();
+}
+
+void cPopupStack::GiveKeyboard() {
+    if (!m_SinceKeyboardLeft.isValid()) return;
+    const auto next = std::find_if(m_OnScreen.begin(), m_OnScreen.end(),
+                                   [](const cStackedPopup* popup) { return popup->CanTakeKeyboard(); });
+    const bool late = m_SinceKeyboardLeft.hasExpired(kPassOnMilliseconds);
+    if (next == m_OnScreen.end() && Waits() && !late) return;
+    m_SinceKeyboardLeft.invalidate();
+    if (next == m_OnScreen.end() || late) return;
+    (*next)->TakeKeyboard();
     FlushToScreen();
 }
 

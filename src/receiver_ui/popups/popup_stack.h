@@ -15,6 +15,9 @@ class cStackedPopup {
     virtual void RaiseOnScreen() = 0;
     // Brings place and visibility to the screen. Whether the visibility changed.
     virtual bool ReachScreen() = 0;
+    // Whether the operator can type into it: it shows, and is no icon.
+    virtual bool CanTakeKeyboard() const = 0;
+    virtual void TakeKeyboard() = 0;
 
   private:
     friend class cPopupStack;
@@ -38,12 +41,19 @@ class cPopupStack {
     // The longest that a turn lasts, but for what its last popup takes.
     static constexpr int kTurnMilliseconds = 20;
     static constexpr int kRestsPerTurn = 6;
+    // As long as the next popup may take to show and still gets the keyboard: later the operator may be at
+    // something else.
+    static constexpr int kPassOnMilliseconds = 1000;
 
     cPopupStack();
     // On top of all.
     void Raise(cStackedPopup& popup);
     void PlaceBehind(cStackedPopup& popup, const cStackedPopup& other);
     void Remove(const cStackedPopup& popup);
+
+    // The popup that had the keyboard is gone: the uppermost of the others gets it, and not the window
+    // behind, where the next key would do something else. Nothing when none shows soon.
+    void PassKeyboardOn();
 
     // Something of the popup is to reach the screen.
     void Schedule(cStackedPopup& popup);
@@ -59,6 +69,7 @@ class cPopupStack {
     void Due();
     void Turn(qint64 milliseconds);
     void BringInOrder();
+    void GiveKeyboard();
     qint64 RestLeft() const;
     std::vector<cStackedPopup*> VisibleOrder() const;
 
@@ -69,6 +80,7 @@ class cPopupStack {
     QElapsedTimer m_SinceTurn;               // since the end of the last one
     qint64 m_Rest = 0;                       // behind it, milliseconds
     bool m_NewWishes = false;                // since it
+    QElapsedTimer m_SinceKeyboardLeft;       // valid while the keyboard is to be passed on
 };
 
 }  // namespace vigrel

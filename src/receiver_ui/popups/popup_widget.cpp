@@ -11,7 +11,11 @@
 namespace vigrel {
 namespace {
 
-constexpr Qt::Key kCloseKey = Qt::Key_F4;
+// Esc, and Alt+F4 for window managers that leave the key to the window.
+bool IsCloseKey(const QKeyEvent& key) {
+    const bool escape = key.key() == Qt::Key_Escape && key.modifiers() == Qt::NoModifier;
+    return escape || (key.key() == Qt::Key_F4 && key.modifiers() == Qt::AltModifier);
+}
 
 int LabelLength(double twips, const char* what) {
     if (twips < 0) throw cFailure(eFailure::InvalidCall, std::string("label: negative ") + what);
@@ -123,13 +127,14 @@ void cPopupWidget::Map() {
 void cPopupWidget::Closed() {
     m_Shown = false;
     m_Stack.Remove(*this);
+    if (isActiveWindow()) m_Stack.PassKeyboardOn();
     deleteLater();
 }
 
 void cPopupWidget::keyPressEvent(QKeyEvent* event) {
-    // For window managers that leave the key to the window.
-    const bool closes = event->key() == kCloseKey && event->modifiers() == Qt::AltModifier;
-    if (closes && TryClose(eCloseReason::Control)) hide();
+    if (!IsCloseKey(*event)) return QWidget::keyPressEvent(event);
+    // A key that is held down must not close one popup after the other.
+    if (!event->isAutoRepeat() && TryClose(eCloseReason::Control)) hide();
 }
 
 // --- look

@@ -14,7 +14,8 @@
 
 namespace vigrel {
 
-// A popup on the screen. It never takes the keyboard from what the operator is doing. Until it is shown for
+// A popup on the screen. It never takes the keyboard from what the operator is doing; the one that has it
+// leaves it to the next popup when it is closed. Until it is shown for
 // the first time it is little more than a note of what it will be: in a flood of alarms most wait, and of
 // popups of which one shows at a time most are never seen.
 class cPopupWidget : public cWidgetWindow<cPopupWindow>, public cStackedPopup {
@@ -57,6 +58,8 @@ class cPopupWidget : public cWidgetWindow<cPopupWindow>, public cStackedPopup {
     bool OnScreen() const override { return isVisible(); }
     void RaiseOnScreen() override { raise(); }
     bool ReachScreen() override;
+    bool CanTakeKeyboard() const override { return isVisible() && !isMinimized(); }
+    void TakeKeyboard() override { activateWindow(); }
 
   protected:
     void Closed() override;

@@ -3,6 +3,7 @@
 #include <array>
 #include <chrono>
 #include <cstdio>
+#include <numeric>
 #include <thread>
 
 namespace vigrel::testing {
@@ -18,6 +19,12 @@ std::string Output(const std::string& command) {
     pclose(pipe);
     while (!output.empty() && output.back() == '\n') output.pop_back();
     return output;
+}
+
+std::string KeyCommands(const std::vector<std::string>& keys) {
+    return std::accumulate(
+        keys.begin(), keys.end(), std::string(),
+        [](std::string all, const std::string& key) { return all + " key --delay 50 " + key; });
 }
 
 }  // namespace
@@ -37,10 +44,16 @@ std::string TitleOf(const std::string& window) {
     return Output("xdotool getwindowname " + window);
 }
 
+std::string ActiveWindow() {
+    return Output("xdotool getactivewindow");
+}
+
 void Press(const std::string& window, const std::vector<std::string>& keys) {
-    std::string command = "xdotool windowactivate --sync " + window;
-    for (const std::string& key : keys) command += " key --delay 50 " + key;
-    Output(command);
+    Output("xdotool windowactivate --sync " + window + KeyCommands(keys));
+}
+
+void PressHere(const std::vector<std::string>& keys) {
+    Output("xdotool" + KeyCommands(keys));
 }
 
 }  // namespace vigrel::testing
