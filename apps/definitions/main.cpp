@@ -79,6 +79,7 @@ int Run(int argc, char** argv) {
     const cSystemClock clock;
     const cLocaleForms forms = cQtLocale().Forms();
     cIni ini(files, applicationPath);
+    application.SpeakLanguage(ini.GetIniString("General", "Language", ""));
     const cDeliveredTexts deliveredTexts = BuiltInTexts();
     cTexts texts(files, ini, &deliveredTexts);
     cDialogPrompts prompts;

@@ -93,6 +93,10 @@ int RunStation(cApplication& application, cServiceManager& serviceManager, const
     cIni ini(files, applicationPath);
     cFirstStart firstStart(files, ini, locale, FirstStartHints());
     firstStart.Prepare();
+    const auto speakLanguage = [&] {
+        application.SpeakLanguage(ini.GetIniString("General", "Language", ""));
+    };
+    speakLanguage();
 
     cStationMachine machine(
         {application, files, ini, locale, messageBox, serviceManager, kProgramName, applicationPath});
@@ -101,7 +105,10 @@ int RunStation(cApplication& application, cServiceManager& serviceManager, const
         const std::string language = ini.GetIniString("General", "Language", "");
         cOperatorPage::Show(FindOperatorPage(NativePath(hints.programFolder), language), machine.mainWindow);
     };
-    machine.otherWindows.OnLanguageChosen = [&] { firstStart.FollowChoice(); };
+    machine.otherWindows.OnLanguageChosen = [&] {
+        firstStart.FollowChoice();
+        speakLanguage();
+    };
 
     cVigrelReceiverMain receiver(machine.Ports(), applicationPath, commandLine);
     cStopSignals stopSignals;

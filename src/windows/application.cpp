@@ -58,9 +58,7 @@ cApplication::cApplication(int& argc, char** argv, cDisplayGuard&& guard) : QApp
     if (!HasDisplay()) HearNothingOfWindows();
     // The main window can be hidden while the last popup is closed.
     setQuitOnLastWindowClosed(false);
-    if (m_Translator.load(QLocale(), "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-        installTranslator(&m_Translator);
-    }
+    LoadToolkitTexts(QLocale());
     MakeHintsReadable();
     // The session must not start the program again at the next login; whoever wants that sets it up.
     const auto neverRestart = [](QSessionManager& session) {
@@ -74,6 +72,23 @@ cApplication::cApplication(int& argc, char** argv, cDisplayGuard&& guard) : QApp
             if (OnSessionEnds) OnSessionEnds();
         },
         Qt::DirectConnection);
+}
+
+void cApplication::LoadToolkitTexts(const QLocale& locale) {
+    removeTranslator(&m_Translator);
+    if (m_Translator.load(locale, "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        installTranslator(&m_Translator);
+    }
+}
+
+void cApplication::SpeakLanguage(const std::string& language) {
+    const QString toolkit = ToolkitLanguage(language);
+    if (toolkit.isEmpty()) return;
+    LoadToolkitTexts(QLocale(toolkit));
+    removeTranslator(&m_Words);
+    m_Words.SetLanguage(language);
+    // The one that is installed last is asked first.
+    installTranslator(&m_Words);
 }
 
 bool cApplication::HasDisplay() {

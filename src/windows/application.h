@@ -2,12 +2,14 @@
 
 #include <QApplication>
 #include <QBasicTimer>
+#include <QLocale>
 #include <QTimer>
 #include <QTranslator>
 #include <functional>
 #include <string>
 
 #include "windows/display_guard.h"
+#include "windows/toolkit_words.h"
 
 class QMessageBox;
 
@@ -42,6 +44,10 @@ class cApplication : public QApplication {
     // Dialogs are asked again.
     void AllowDialogs() { m_RefuseTimer.stop(); }
 
+    // The words that the toolkit writes by itself follow a language of the configuration ("046") from now on.
+    // Until then, and with a language that isn't delivered, they are the desktop's.
+    void SpeakLanguage(const std::string& language);
+
     // The title of the message box of a failure; without one it is the program's display name, which would
     // stand in the titles of all windows too.
     void SetMessageTitle(const std::string& title) { m_MessageTitle = title; }
@@ -68,6 +74,7 @@ class cApplication : public QApplication {
     void timerEvent(QTimerEvent* event) override;
 
   private:
+    void LoadToolkitTexts(const QLocale& locale);
     void MakeHintsReadable();
     static void HandleExit();
     [[noreturn]] void End(const std::string& failure);
@@ -75,6 +82,7 @@ class cApplication : public QApplication {
     bool ServesFailureBox(QObject* receiver, const QEvent& event) const;
 
     QTranslator m_Translator;
+    cToolkitWords m_Words;
     QTimer m_RefuseTimer;
     QBasicTimer m_RepeatTimer;
     std::function<void()> m_RepeatedStep;

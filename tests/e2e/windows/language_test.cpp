@@ -98,6 +98,27 @@ TEST(FirstStart, AWishedLanguageIsNotAskedFor) {
     EXPECT_TRUE(station.WaitForLog(DeliveredText("358", 10040))) << station.StandardError();
 }
 
+// Whatever the desktop speaks: the answer's letter is that of the station's language.
+TEST(LanguageOfABox, YesHasTheLetterOfTheStationsLanguage) {
+    const std::map<std::string, std::string> letters{{"044", "y"}, {"045", "j"}, {"046", "j"},
+                                                     {"047", "j"}, {"049", "j"}, {"358", "k"}};
+    for (const auto& [language, letter] : letters) {
+        cStation station;
+        PutDeliveredTexts(station);
+        std::ofstream(station.Folder() / "VigrelReceiver.INI", std::ios::app)
+            << "[General]\r\nLanguage=" << language << "\r\n";
+        station.m_Environment = {{"QT_QPA_PLATFORM", "xcb"}, {"LC_ALL", "C.UTF-8"}};
+        station.Launch();
+        ASSERT_TRUE(station.WaitForLog(DeliveredText(language, 10011))) << station.StandardError();
+        kill(station.Process(), SIGINT);
+        const std::string box = FindWindow(station.Process(), "^Vigrel Alarm Receiver$");
+        ASSERT_NE(box, "") << language;
+        Press(box, {"alt+" + letter});
+        EXPECT_EQ(station.WaitForEnd(), 0) << language;
+        EXPECT_EQ(station.Log().back(), DeliveredText(language, 10021));
+    }
+}
+
 TEST(FirstStart, WithoutAChoiceTheProgramEndsWithoutAWord) {
     cStation station;
     PutDeliveredTexts(station);

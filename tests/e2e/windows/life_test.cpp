@@ -88,7 +88,7 @@ TEST(BoxesLeftStanding, AnInterruptAsksItsQuestionOnTheScreen) {
     ASSERT_NE(box, "");
     // Alarms are received while it stands.
     EXPECT_EQ(station.Send({"--t0", "meanwhile"}).exitCode, 0);
-    Press(box, {"alt+y"});
+    Press(box, {"alt+j"});  // ja
     EXPECT_EQ(station.WaitForEnd(), 0);
     EXPECT_EQ(station.Log().back(), "T10021");
 }
@@ -106,7 +106,7 @@ TEST(BoxesLeftStanding, ASecondInterruptAsksNoSecondQuestion) {
         kill(station.Process(), SIGINT);
         EXPECT_EQ(station.Send({"--t0", "meanwhile"}).exitCode, 0);
     }
-    Press(box, {"alt+y"});
+    Press(box, {"alt+j"});  // ja
     EXPECT_EQ(station.WaitForEnd(), 0);
     EXPECT_EQ(station.Log().back(), "T10021");
 }
