@@ -1,3 +1,6 @@
+#include <map>
+#include <string>
+
 #include "receiver-check/sample_texts.h"
 #include "receiver_check/checked_station.h"
 #include "support/fake_clock.h"
@@ -50,6 +53,36 @@ TEST_F(CheckedTemplates, AFormThatVanishesOrIsPlainText) {
     EXPECT_EQ(Told("{ACTIVE}"), "\"{ACTIVE}\" has no \"?\" and is plain text");
     EXPECT_EQ(Told("{ACTIVE?a{ACKED?b}c}"),
               "\"{ACTIVE?a{ACKED?b}c}\": forms don't nest; only the inner one is one");
+}
+
+// What people write who have the manual's page open and another system's in mind.
+TEST_F(CheckedTemplates, TheTenTypicalSlipsAreAllFound) {
+    const std::map<std::string, std::string> slips{
+        {"[DATE [TIME]", "bracket"},  // a forgotten bracket between two fields
+        {"[T0] at [T1", "bracket"},   // and at the end
+        {"[T9]", "field"},            // a text that there is not
+        {"[TO]", "field"},            // the letter for the digit
+        {"[STATUSS]", "field"},       // misspelt
+        {"{ACTIV?x}", "form"},        // misspelt
+        {"{ACTIVE x}", "form"},       // no question mark
+        {"{T0}", "form"},             // the brackets of a form around a field
+        {"[TIME:hh.mm]", "range"},    // a format in place of a range
+        {"[T0]\\n[T1]", "line"},      // another language's new line
+    };
+    ASSERT_EQ(slips.size(), 10u);
+    for (const auto& [text, kind] : slips) {
+        EXPECT_EQ(Names(text), "warning template-" + kind + " [General] EventPopupFormat") << text;
+    }
+}
+
+TEST_F(CheckedTemplates, AFieldInTheBracketsOfAFormAndAFormWithoutItsMark) {
+    EXPECT_EQ(Told("{T0:0-9}"), "\"{T0:0-9}\" is plain text; is \"[T0:0-9]\" meant?");
+    EXPECT_EQ(Told("{ACTIVE: now}"), "\"{ACTIVE: now}\" has no \"?\" and is plain text");
+    EXPECT_EQ(Names("{see the plan} {[T0]} {ACTIVES}"), "");
+}
+
+TEST_F(CheckedTemplates, ANewLineOfAnotherLanguage) {
+    EXPECT_EQ(Told("[T0]\\n"), "\"\\n\" is plain text; a new line is \"[13][10]\"");
 }
 
 TEST_F(CheckedTemplates, ARangeThatIsNone) {

@@ -98,22 +98,34 @@ bool BeginsWithWord(std::string_view text) {
     });
 }
 
+bool IsOneOf(const std::vector<std::string>& names, std::string_view name) {
+    return std::find(names.begin(), names.end(), ToUpper(name)) != names.end();
+}
+
+// A form without "?" is plain text, which may be meant, unless it begins as a form does or holds a field.
+void CheckPlainForm(const std::string& form, cSlips& slips) {
+    if (IsOneOf(kWords, form.substr(0, form.find_first_of(" :;,=|")))) {
+        slips.Add("template-form", Quoted("{" + form + "}") + " has no \"?\" and is plain text");
+    } else if (IsOneOf(EventFieldNames(), Trim(form.substr(0, form.find(':'))))) {
+        slips.Add("template-form",
+                  Quoted("{" + form + "}") + " is plain text; is \"[" + Trim(form) + "]\" meant?");
+    }
+}
+
+void CheckForm(const std::string& form, cSlips& slips) {
+    const std::size_t mark = form.find('?');
+    if (mark == std::string::npos) return CheckPlainForm(form, slips);
+    const std::string word = form.substr(0, mark);
+    if (IsOneOf(kWords, word)) return;
+    slips.Add("template-form", Quoted("{" + form + "}") +
+                                   " is removed with its text: the word isn't one of ACTIVE, INACTIVE, "
+                                   "ACKED, MESSAGE" +
+                                   MeantPerhaps(Trim(word), kWords));
+}
+
 void FindSlipsOfForms(std::string_view text, cSlips& slips) {
     const cBrackets brackets(text, '{', '}');
-    for (const std::string_view form : brackets.m_Inside) {
-        const std::size_t mark = form.find('?');
-        const std::string word(form.substr(0, mark));
-        if (std::find(kWords.begin(), kWords.end(), ToUpper(word)) != kWords.end()) {
-            if (mark != std::string_view::npos) continue;
-            slips.Add("template-form", Quoted("{" + word + "}") + " has no \"?\" and is plain text");
-        } else if (mark != std::string_view::npos) {
-            slips.Add("template-form",
-                      Quoted("{" + std::string(form) + "}") +
-                          " is removed with its text: the word isn't one of ACTIVE, INACTIVE, "
-                          "ACKED, MESSAGE" +
-                          MeantPerhaps(Trim(word), kWords));
-        }
-    }
+    for (const std::string_view form : brackets.m_Inside) CheckForm(std::string(form), slips);
     for (const std::size_t place : brackets.m_Outer) {
         const bool closes = text.find('}', place) != std::string_view::npos;
         if (!closes || !BeginsWithWord(text.substr(place + 1))) continue;
@@ -178,6 +190,9 @@ void FindSlipsOfFields(std::string_view text, cSlips& slips) {
 
 std::vector<cTemplateSlip> TemplateSlips(std::string_view text) {
     cSlips slips;
+    if (text.find("\\n") != std::string_view::npos) {
+        slips.Add("template-line", "\"\\n\" is plain text; a new line is \"[13][10]\"");
+    }
     FindSlipsOfForms(text, slips);
     for (const std::int16_t status : {StatusActive, StatusInactive, StatusAcked}) {
         FindSlipsOfFields(ExpandConditionalForms(text, status), slips);
