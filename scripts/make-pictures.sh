@@ -2,10 +2,11 @@
 # Makes the pictures of the documents from running stations: docs/operator/list.NNN.png and popup.NNN.png in each
 # language. Run twice, it makes the same pictures: the alarms bring their times along.
 #
-#   scripts/make-pictures.sh [BUILD FOLDER]      build/release unless given
+#   scripts/make-pictures.sh [BUILD FOLDER [FOLDER]]      build/release, docs/operator unless given
 set -euo pipefail
 cd "$(dirname "$0")/.."
 build=${1:-build/release}
+pictures=${2:-docs/operator}
 work=$(mktemp -d)
 display=:$((200 + RANDOM % 500))
 station=
@@ -57,16 +58,37 @@ start() {
     VIGREL_APPLICATION_PATH=$folder "$build/bin/vigrel-receiver" >/dev/null 2>&1 &
     station=$!
     for _ in $(seq 100); do "$build/bin/vigrel-send" --port $port --keepalive --quiet 2>/dev/null && break; sleep 0.1; done
+    # The about box comes, and goes by itself. An alarm that came in before would have the list's mark for the keyboard or
+    # not, as it happens.
+    wait_for_windows 2
+    wait_for_windows 1
+}
+# wait_for_windows COUNT
+wait_for_windows() {
+    for _ in $(seq 300); do
+        [ "$(xprop -root _NET_CLIENT_LIST | grep -o 0x | wc -l)" -eq "$1" ] && return
+        sleep 0.1
+    done
+    echo "There are not $1 windows on the screen." >&2
+    exit 1
 }
 end() {
     kill $station
     wait $station || true
 }
 
-# picture FILE [PLACE]: the screen, or a part of it, without anything that tells when it was made.
+# picture FILE [PLACE]: the screen, or a part of it, when nothing moves there any more, without anything that tells when it
+# was made.
 picture() {
-    sleep 12 # the about box goes by itself
-    import -window root ${2:+-crop "$2"} +repage -strip -define png:exclude-chunks=date,time "$1"
+    : >"$work/before.png"
+    for _ in $(seq 30); do
+        sleep 2
+        import -window root ${2:+-crop "$2"} +repage -strip -define png:exclude-chunks=date,time "$1"
+        cmp -s "$1" "$work/before.png" && return
+        cp "$1" "$work/before.png"
+    done
+    echo "$1: the screen doesn't come to rest." >&2
+    exit 1
 }
 
 second=0
@@ -122,12 +144,12 @@ screen 1120x500
 for language in 044 045 046 047 049 358; do
     start $language 1120 260 0
     events $language
-    picture docs/operator/list.$language.png 1120x260+0+0
+    picture $pictures/list.$language.png 1120x260+0+0
     end
     start $language 1120 260 1
     events $language
     # Three are active; the fire's popup is the third, above the others.
-    picture docs/operator/popup.$language.png 640x210+68+232
+    picture $pictures/popup.$language.png 640x210+68+232
     end
 done
 end_screen
