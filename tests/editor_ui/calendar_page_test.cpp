@@ -1,5 +1,6 @@
 #include "editor_ui/editor_bench.h"
 #include "schedule/calendar_geometry.h"
+#include "support/qt_wait.h"
 
 namespace vigrel::testing {
 namespace {
@@ -256,6 +257,16 @@ TEST_F(CalendarPage, BandsAndBoxesStandWhereTheyShould) {
     EXPECT_EQ(Pixel(30 + 6 * 40 + 2 + 13, 20 + 25 + 2 + 21), QColor(255, 129, 129));
     EXPECT_EQ(Pixel(30 + 40, 100), QColor(0, 0, 0));
     EXPECT_EQ(Pixel(31 + 40, 100), QColor(255, 255, 255));
+}
+
+TEST_F(CalendarPage, TheDrawingFillsItsFrameAtEveryScale) {
+    auto& frame = Find<QFrame>(m_Page, "Picture_Calendar_Frame");
+    EXPECT_GT(frame.frameWidth(), 0);
+    for (const double zoom : {1.0, 1.5, 1.0}) {
+        m_Page.SetZoom(zoom);
+        QCoreApplication::sendPostedEvents();
+        EXPECT_TRUE(WaitUntil([&] { return View().geometry() == frame.contentsRect(); })) << zoom;
+    }
 }
 
 TEST_F(CalendarPage, ADaysNumberAndItsShortNameFitIntoItsBox) {

@@ -8,6 +8,7 @@
 #include <QStyle>
 #include <QTableWidget>
 #include <QUndoStack>
+#include <map>
 
 #include "editor_ui/page_fixture.h"
 
@@ -40,6 +41,22 @@ TEST_F(ColourRulesPage, TheCaptionsOfThePreviewAreSeenWhole) {
         const QString caption = Preview().horizontalHeaderItem(column)->text();
         EXPECT_GE(header.sectionSize(column), header.fontMetrics().horizontalAdvance(caption))
             << caption.toStdString();
+    }
+}
+
+// White is seen on a light ground, black on a dark one, and either as it is while its row is chosen.
+TEST_F(ColourRulesPage, TheSampleOfAColourHasABorder) {
+    Put("ColourRules.txt", "* | * | * | 255,255,255 | 0,0,0 | 0\r\n");
+    const std::map<int, QColor> colours{{3, Qt::white}, {4, Qt::black}};
+    for (const auto& [column, colour] : colours) {
+        for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Selected}) {
+            const QImage sample = Rules().item(0, column)->icon().pixmap(16, mode).toImage();
+            ASSERT_EQ(sample.size(), QSize(16, 16));
+            EXPECT_EQ(sample.pixelColor(8, 8), colour) << column << " " << mode;
+            for (const QPoint edge : {QPoint(0, 0), QPoint(15, 15), QPoint(8, 0), QPoint(0, 8)}) {
+                EXPECT_EQ(sample.pixelColor(edge), QColor(128, 128, 128)) << column << " " << mode;
+            }
+        }
     }
 }
 

@@ -657,6 +657,18 @@ TEST_F(SchedulePage, OnADarkDesktopTheDrawingStaysLight) {
     EXPECT_EQ(view.palette().color(QPalette::WindowText), QColor(Qt::black));
 }
 
+TEST_F(SchedulePage, TheDrawingStaysLightWhenTheDesktopBecomesDark) {
+    auto& view = Find<QWidget>(NewSchedule(), "Picture_TimeSchedule");
+    const QPalette usual = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(49, 54, 59), QColor(42, 46, 50)));
+    QCoreApplication::sendPostedEvents();
+    QImage image(view.size(), QImage::Format_RGB32);
+    view.render(&image);
+    QApplication::setPalette(usual);
+    EXPECT_EQ(image.pixelColor(2, 2), QColor(240, 240, 240));
+    EXPECT_EQ(view.palette().color(QPalette::WindowText), QColor(Qt::black));
+}
+
 TEST_F(SchedulePage, SpecialDayTypesShowTheirImageInTheRow) {
     Find<QCheckBox>(m_Page, "Check_TimeSchedule_UseCalendar").click();
     Find<QListWidget>(m_Page, "List_DayTypes").item(7)->setCheckState(Qt::Checked);

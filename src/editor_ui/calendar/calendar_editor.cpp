@@ -51,7 +51,7 @@ void cCalendarEditor::MakeLayout() {
     m_View.Surface().SetFontSize(kFontSize);
     auto* drawing = new QVBoxLayout;
     drawing->addLayout(MakeMonthBar());
-    drawing->addWidget(&m_View);
+    drawing->addWidget(MakeViewFrame(), 0, Qt::AlignLeft);
     auto* hint =
         new cPlainLabel(tr("Choose a day type and paint it over the days with the left mouse button."));
     hint->setWordWrap(true);
@@ -251,6 +251,18 @@ void cCalendarEditor::Restore(const std::string& state) {
     cBinaryReader reader(state);
     for (std::int32_t i = 0; i < kCalendarDays; ++i) m_Calendar.SetDayType(i, reader.Int16());
     m_View.update();
+}
+
+// The drawing stays light where the desktop is dark.
+QWidget* cCalendarEditor::MakeViewFrame() {
+    auto* frame = new QFrame;
+    frame->setObjectName("Picture_Calendar_Frame");
+    frame->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    auto* inside = new QVBoxLayout(frame);
+    inside->setContentsMargins(0, 0, 0, 0);
+    inside->setSizeConstraint(QLayout::SetFixedSize);
+    inside->addWidget(&m_View);
+    return frame;
 }
 
 void cCalendarEditor::SetZoom(double zoom) {

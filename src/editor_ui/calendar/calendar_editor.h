@@ -64,6 +64,7 @@ class cCalendarEditor : public cContentEditor, private cCalendarContainer {
                         const std::function<void()>& chosen);
     void MakeLayout();
     QLayout* MakeMonthBar();
+    QWidget* MakeViewFrame();
     QWidget* MakeToolBox();
     void FillDayTypes();
     void FillCountries();

@@ -14,12 +14,15 @@
 #include "common/failure.h"
 #include "common/numbers.h"
 #include "editor_ui/colours/colour_preview.h"
+#include "editor_ui/colours/swatch.h"
 #include "editor_ui/pages/editor_action.h"
 #include "windows/colours.h"
 #include "windows/plain_text.h"
 
 namespace vigrel {
 namespace {
+
+constexpr int kColourRole = Qt::UserRole;
 
 enum eColumn { Tag, Categories, Areas, ForeColor, BackColor, Fade, Columns };
 
@@ -62,6 +65,11 @@ void SetField(cColourRule& rule, int column, const std::string& text) {
             // What is no number is refused with the whole rule.
             rule.m_ZebraFade = IsNumeric(text) ? ToInt32(Val(text)) : -1;
     }
+}
+
+void ShowColour(QTableWidgetItem& item, const QColor& colour) {
+    item.setIcon(Swatch(colour));
+    item.setData(kColourRole, colour);
 }
 
 cColourRule NewRule() {
@@ -179,8 +187,8 @@ void cColourRulesEditor::FillRow(int row) {
         if (m_Table->item(row, column) == nullptr) m_Table->setItem(row, column, new QTableWidgetItem);
         QTableWidgetItem* item = m_Table->item(row, column);
         item->setText(ToQString(FieldText(rule, column)));
-        if (column == ForeColor) item->setData(Qt::DecorationRole, ColourFromNumber(color.m_ForeColor));
-        if (column == BackColor) item->setData(Qt::DecorationRole, ColourFromNumber(color.m_BackColor));
+        if (column == ForeColor) ShowColour(*item, ColourFromNumber(color.m_ForeColor));
+        if (column == BackColor) ShowColour(*item, ColourFromNumber(color.m_BackColor));
     }
 }
 
@@ -253,7 +261,7 @@ void cColourRulesEditor::Move(int by) {
 void cColourRulesEditor::ChooseColour() {
     QTableWidgetItem* item = m_Table->currentItem();
     if (item == nullptr) return;
-    const QColor before = item->data(Qt::DecorationRole).value<QColor>();
+    const QColor before = item->data(kColourRole).value<QColor>();
     const QColor chosen = QColorDialog::getColor(before, this, tr("Colour"));
     if (!chosen.isValid()) return;
     item->setText(QString("%1,%2,%3").arg(chosen.red()).arg(chosen.green()).arg(chosen.blue()));

@@ -19,21 +19,29 @@ std::int16_t ShiftNumber(Qt::KeyboardModifiers modifiers) {
                                      (modifiers & Qt::AltModifier ? 4 : 0));
 }
 
-QPalette LightPalette(QPalette palette) {
-    if (palette.color(QPalette::Window).lightness() >= 128) return palette;
-    palette.setColor(QPalette::Window, QColor(240, 240, 240));
-    palette.setColor(QPalette::WindowText, Qt::black);
-    return palette;
-}
-
 }  // namespace
 
 cDrawingView::cDrawingView(const char* name, QWidget* parent) : QWidget(parent), m_Surface(*this) {
     setObjectName(name);
-    setPalette(LightPalette(palette()));
+    KeepLight();
     setAutoFillBackground(true);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
+}
+
+// What is drawn has colours of its own, which are for a light ground.
+void cDrawingView::KeepLight() {
+    QPalette light = palette();
+    if (light.color(QPalette::Window).lightness() >= 128) return;
+    light.setColor(QPalette::Window, QColor(240, 240, 240));
+    light.setColor(QPalette::WindowText, Qt::black);
+    setPalette(light);
+}
+
+void cDrawingView::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    // The desktop can become dark at nightfall.
+    if (event->type() == QEvent::PaletteChange) KeepLight();
 }
 
 void cDrawingView::paintEvent(QPaintEvent*) {

@@ -28,6 +28,7 @@ class cDrawingView : public QWidget {
     std::function<bool(const QKeyEvent&)> OnKey;
 
   protected:
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -36,6 +37,7 @@ class cDrawingView : public QWidget {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
+    void KeepLight();
     void Hand(const MouseEvent& handler, const QMouseEvent& event, Qt::MouseButtons button);
 
     cPaintSurface m_Surface;
