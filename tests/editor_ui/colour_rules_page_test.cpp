@@ -167,6 +167,18 @@ TEST_F(ColourRulesPage, LinesThatWereNotUnderstoodAreToldAndStayInTheFile) {
               "# rules\r\nP* | 5;7-9 | * | 255,255,255 | 10,20,30 | 16\r\nnonsense\r\n");
 }
 
+TEST_F(ColourRulesPage, WhatACrashLeftOfASaveGoesWhenTheFileIsOpened) {
+    const std::string target = "C:\\Shared\\rules";
+    for (const char* name : {"ColourRules.txt", "ColourRules.txt.$~", "Other.txt.$~"}) Put(name, kContent);
+    for (const std::string& left : {target + ".$~", target + "2.$~"}) m_Files.Put(left, "half");
+    Page();
+    EXPECT_EQ(m_Files.ListFiles("C:\\App\\", "*.$~"), std::vector<std::string>{"Other.txt.$~"});
+    EXPECT_EQ(m_Files.ListFiles("C:\\Shared\\", "*.$~").size(), 2u);
+    m_Files.m_Links[Path("ColourRules.txt")] = target;
+    EXPECT_TRUE(Page().Open(Path("ColourRules.txt")));
+    EXPECT_EQ(m_Files.ListFiles("C:\\Shared\\", "*.$~"), std::vector<std::string>{"rules2.$~"});
+}
+
 TEST_F(ColourRulesPage, AFileThatCantBeReadIsNotOpened) {
     Put("ColourRules.txt", kContent);
     m_Files.SetUnreadable(Path("ColourRules.txt"), true);

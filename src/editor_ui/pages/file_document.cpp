@@ -53,6 +53,7 @@ bool cFileDocument::Open(const std::string& path) {
         m_Services.m_Prompts.ShowFailure(m_Owner, ShownFailure(*failure));
         return false;
     }
+    RemoveTemporaryOf(m_Services.m_Files, path);
     Take(path);
     emit Opened();
     return true;

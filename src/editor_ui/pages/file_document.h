@@ -36,6 +36,7 @@ class cFileDocument : public QObject {
     // The content has changed, or has come to be what it was.
     void NoteChange();
 
+    // What a crash left of a save of the file is taken away when it is opened.
     // Each is false, after telling why, when the file can't be read or written, and when the user refuses.
     bool Open(const std::string& path);
     bool Save();
