@@ -13,6 +13,7 @@
 
 #include "e2e/station.h"
 #include "e2e/windows/operator.h"
+#include "support/child_process.h"
 #include "x11/x_server.h"
 
 namespace vigrel::testing {
@@ -111,6 +112,17 @@ TEST(BoxesLeftStanding, ASecondInterruptAsksNoSecondQuestion) {
     EXPECT_EQ(station.Log().back(), "T10021");
 }
 
+// In twips; none is less than any.
+int StoredWidth(const cStation& station) {
+    const std::string ini = ReadAll(station.Folder() / "VigrelReceiver.INI");
+    const std::string key = "Vigrel_Receiver_Main.Width=";
+    const std::size_t at = ini.find(key);
+    return at == std::string::npos ? -1 : std::stoi(ini.substr(at + key.size()));
+}
+
+// The screen is 1280 pixels wide, of 15 twips each; by design the window takes 8000 twips.
+constexpr int kNearlyTheScreen = 1200 * 15;
+
 TEST(MaximisedStart, SurvivesItsMinimisingAndTheStoredSizeIsTheLargeOne) {
     cStation station;
     OnScreen(station);
@@ -118,11 +130,23 @@ TEST(MaximisedStart, SurvivesItsMinimisingAndTheStoredSizeIsTheLargeOne) {
     // The first activation makes an icon of it and shows the about box.
     std::this_thread::sleep_for(std::chrono::seconds(2));
     EXPECT_EQ(station.Stop(SIGTERM), 0);
-    const std::string ini = ReadAll(station.Folder() / "VigrelReceiver.INI");
-    const std::size_t at = ini.find("Vigrel_Receiver_Main.Width=");
-    ASSERT_NE(at, std::string::npos);
-    // The screen is 1280 pixels wide, of 15 twips each; by design the window takes 8000 twips.
-    EXPECT_GT(std::stoi(ini.substr(at + 27)), 1200 * 15) << ini;
+    EXPECT_GT(StoredWidth(station), kNearlyTheScreen);
+}
+
+// Hidden it has no window on the screen that could tell its size.
+TEST(MaximisedStart, SurvivesItsHidingAsAnIconToo) {
+    const cChildProcess tray({"trayer", "--edge", "bottom", "--align", "right", "--widthtype", "request"});
+    ASSERT_EQ(std::system("timeout 20 xdotool search --sync --onlyvisible --class trayer >/dev/null 2>&1"),
+              0);
+    cStation station;
+    station.Configure("[General]\r\nShowInTaskBar=0\r\n");
+    OnScreen(station);
+    ASSERT_TRUE(station.Start({"/MAXIMIZE", "/MINIMIZE"})) << station.StandardError();
+    std::this_thread::sleep_for(std::chrono::seconds(2));
+    EXPECT_EQ(FindWindow(station.Process(), "^T10000 .* - Version", 0.5), "");
+    EXPECT_FALSE(station.WaitForLog("No notification area: the minimised window is not hidden", 0.1));
+    EXPECT_EQ(station.Stop(SIGTERM), 0);
+    EXPECT_GT(StoredWidth(station), kNearlyTheScreen);
 }
 
 TEST(LostDisplay, TheLogSaysSoAndTheCodeLetsAServiceStartItAgain) {
