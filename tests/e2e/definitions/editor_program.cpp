@@ -1,6 +1,7 @@
 #include "e2e/definitions/editor_program.h"
 
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -19,6 +20,7 @@ namespace vigrel::testing {
 namespace {
 
 constexpr const char* kTitle = "Vigrel Definitions";
+constexpr const char* kErrors = "config/stderr.txt";
 
 template <class Condition>
 bool Eventually(Condition&& condition) {
@@ -46,6 +48,19 @@ std::string Content(const std::string& path) {
 
 }  // namespace
 
+// What the program meets when it starts, in its own process.
+void cEditorProgram::TakeSurroundings() const {
+    setenv("VIGREL_APPLICATION_PATH", m_Folder.Path().c_str(), 1);
+    setenv("XDG_CONFIG_HOME", Path("config").c_str(), 1);
+    // The toolkit asks for one, and for its owner alone.
+    std::filesystem::permissions(m_Runtime.Path(), std::filesystem::perms::owner_all);
+    setenv("XDG_RUNTIME_DIR", m_Runtime.Path().c_str(), 1);
+    setenv("QT_QPA_PLATFORM", "xcb", 1);
+    setenv("QT_SCALE_FACTOR", std::to_string(m_Scale).c_str(), 1);
+    setenv("LC_ALL", "C.UTF-8", 1);
+    dup2(open(Path(kErrors).c_str(), O_WRONLY | O_CREAT | O_APPEND, 0666), STDERR_FILENO);
+}
+
 void cEditorProgram::Start(int zoom, const std::vector<std::string>& files) {
     m_Zoom = zoom;
     std::filesystem::create_directories(m_Folder.Path() / "config/Vigrel");
@@ -53,11 +68,7 @@ void cEditorProgram::Start(int zoom, const std::vector<std::string>& files) {
         << "[General]\nZoom=" << zoom << "\n";
     m_Process = fork();
     if (m_Process == 0) {
-        setenv("VIGREL_APPLICATION_PATH", m_Folder.Path().c_str(), 1);
-        setenv("XDG_CONFIG_HOME", Path("config").c_str(), 1);
-        setenv("QT_QPA_PLATFORM", "xcb", 1);
-        setenv("QT_SCALE_FACTOR", std::to_string(m_Scale).c_str(), 1);
-        setenv("LC_ALL", "C.UTF-8", 1);
+        TakeSurroundings();
         std::vector<std::string> words{VIGREL_DEFINITIONS};
         words.insert(words.end(), files.begin(), files.end());
         std::vector<char*> arguments;
@@ -76,9 +87,11 @@ void cEditorProgram::StartScaled(int scale) {
 }
 
 cEditorProgram::~cEditorProgram() {
-    if (m_Process <= 0) return;
-    kill(m_Process, SIGKILL);
-    waitpid(m_Process, nullptr, 0);
+    if (m_Process > 0) {
+        kill(m_Process, SIGKILL);
+        waitpid(m_Process, nullptr, 0);
+    }
+    EXPECT_EQ(Bytes(kErrors), "");
 }
 
 int cEditorProgram::WaitForEnd() {

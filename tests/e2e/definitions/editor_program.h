@@ -10,7 +10,8 @@
 
 namespace vigrel::testing {
 
-// The real editor on an application folder of its own, with somebody at mouse and keyboard.
+// The real editor on an application folder of its own, with somebody at mouse and keyboard. Nothing that is
+// done with it here has a reason to print: a line on its standard error fails the test.
 class cEditorProgram {
   public:
     ~cEditorProgram();
@@ -52,7 +53,9 @@ class cEditorProgram {
     void RightClick(cPixelPlace place) const;
 
   private:
-    cTemporaryFolder m_Folder;
+    void TakeSurroundings() const;
+
+    cTemporaryFolder m_Folder, m_Runtime;
     pid_t m_Process = -1;
     int m_Zoom = 1, m_Scale = 1;
     std::string m_Window;  // that has the keyboard
