@@ -34,14 +34,17 @@ void cDisplayGuard::Take(QtMsgType type, const QMessageLogContext&, const QStrin
     s_Current->m_Messages.emplace_back(type, text);
 }
 
-// A display that the session names may come; a platform that the toolkit hasn't got will not.
-bool cDisplayGuard::MayCome() const {
+// A display that the session names may come, and a service manager is there to try again; a platform that the
+// toolkit hasn't got will not.
+bool cDisplayGuard::IsTriedAgain() const {
     const bool named =
         !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+    const bool service = !qEnvironmentVariableIsEmpty("NOTIFY_SOCKET");
     const QString missing =
         "Could not find the Qt platform plugin \"" + qEnvironmentVariable("QT_QPA_PLATFORM") + '"';
-    return named && std::none_of(m_Messages.begin(), m_Messages.end(),
-                                 [&](const auto& message) { return message.second.contains(missing); });
+    return named && service && std::none_of(m_Messages.begin(), m_Messages.end(), [&](const auto& message) {
+               return message.second.contains(missing);
+           });
 }
 
 void cDisplayGuard::Refuse() const {
@@ -52,7 +55,7 @@ void cDisplayGuard::Refuse() const {
     const std::string program = PathText(program_invocation_short_name);
     PrintError(program, reason + ". Unset DISPLAY and WAYLAND_DISPLAY to run without windows.");
     for (const auto& [type, text] : m_Messages) PrintError(program, PathText(text.toStdString()));
-    std::_Exit(MayCome() ? kExitNotYet : kExitRefused);
+    std::_Exit(IsTriedAgain() ? kExitNotYet : kExitRefused);
 }
 
 }  // namespace vigrel

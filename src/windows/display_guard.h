@@ -9,9 +9,8 @@ namespace vigrel {
 
 // Stands by while the toolkit looks for the display: where it finds none it aborts the program, with the
 // reasons among other words. Here that ends the program with one message that says which display was
-// wanted and why there is none, and with kExitNotYet when the session named one, which may just not be up
-// yet, or else, and where the toolkit lacks the platform, with kExitRefused. What the toolkit says otherwise
-// goes its usual way afterwards.
+// wanted and why there is none, and with kExitRefused; with kExitNotYet as a service whose session named a
+// display, which may just not be up yet. What the toolkit says otherwise goes its usual way afterwards.
 //
 // One at a time, since the toolkit's messages go to a function.
 class cDisplayGuard {
@@ -25,7 +24,7 @@ class cDisplayGuard {
 
   private:
     static void Take(QtMsgType type, const QMessageLogContext& context, const QString& text);
-    bool MayCome() const;
+    bool IsTriedAgain() const;
     [[noreturn]] void Refuse() const;
 
     static cDisplayGuard* s_Current;

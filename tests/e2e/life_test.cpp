@@ -4,6 +4,10 @@
 #include <signal.h>
 
 #include <algorithm>
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "e2e/station.h"
 
@@ -134,13 +138,19 @@ TEST(Display, OneThatDoesNotAnswerEndsTheProgramWithTheReason) {
         {{"DISPLAY", ":4711"}, {"WAYLAND_DISPLAY", ""}, {"QT_QPA_PLATFORM", "xcb"}},
         {{"DISPLAY", ":99"}, {"WAYLAND_DISPLAY", ""}, {"QT_QPA_PLATFORM", "name4711"}},
         {{"DISPLAY", ""}, {"WAYLAND_DISPLAY", ""}, {"QT_QPA_PLATFORM", "name4711"}}};
+    std::vector<std::pair<std::map<std::string, std::string>, bool>> starts;
     for (const auto& display : displays) {
-        station.m_Environment = {{"QT_QPA_PLATFORM", ""}};
+        for (const bool service : {false, true}) starts.emplace_back(display, service);
+    }
+    for (const auto& [display, service] : starts) {
+        station.m_Environment = {{"QT_QPA_PLATFORM", ""},
+                                 {"NOTIFY_SOCKET", service ? "/nowhere/notify" : ""}};
         for (const auto& [name, value] : display) station.m_Environment[name] = value;
         std::filesystem::remove(station.Folder() / "stderr.txt");
         station.Launch();
-        // One that the session names may come; a platform that the toolkit hasn't got will not.
-        const bool may = station.m_Environment["QT_QPA_PLATFORM"] != "name4711";
+        // One that the session names may come, and a service manager tries again; a platform that the toolkit
+        // hasn't got will not.
+        const bool may = service && station.m_Environment["QT_QPA_PLATFORM"] != "name4711";
         EXPECT_EQ(station.WaitForEnd(), may ? kNotYet : kRefused);
         const std::string error = station.StandardError();
         EXPECT_TRUE(error.starts_with("vigrel-receiver: No display can be opened: ")) << error;

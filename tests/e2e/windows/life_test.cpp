@@ -164,11 +164,13 @@ TEST(LostDisplay, TheLogSaysSoAndTheCodeLetsAServiceStartItAgain) {
     EXPECT_EQ(station.WaitForEnd(), 71);
     EXPECT_EQ(station.Log().back(), "The display is gone: the program ends");
     EXPECT_EQ(station.AlarmFiles().size(), 1u);
-    // Until it is back a start is one to be tried again.
+    // Until it is back a start of the service is one to be tried again.
     station.m_Environment["DISPLAY"] = ":4711";
+    station.m_Environment["NOTIFY_SOCKET"] = "/nowhere/notify";
     station.Launch();
     EXPECT_EQ(station.WaitForEnd(), 75);
     station.m_Environment.erase("DISPLAY");
+    station.m_Environment.erase("NOTIFY_SOCKET");
     setenv("DISPLAY", ours.c_str(), 1);
     ASSERT_TRUE(station.Start()) << station.StandardError();
     EXPECT_EQ(station.Stop(SIGTERM), 0);
