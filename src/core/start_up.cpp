@@ -29,6 +29,7 @@ eStartUp cVigrelReceiverMain::LoadInOrder() {
     if (!LoadLanguage()) return eStartUp::NoLanguage;
     m_Log.WriteLog(std::string(kSeparatorLength, '-'));
     m_Log.WriteLog(m_Texts.GetText(TextProgramStart));
+    TellOfTexts();
     const std::int16_t devices = m_Light.ScanDevices();
     m_View.SetUpColumns(m_Settings);
     m_Ports.list.SetEmptyText("(" + m_Texts.GetText(TextNoAlarms) + ")");
@@ -37,7 +38,7 @@ eStartUp cVigrelReceiverMain::LoadInOrder() {
     if (!IsOnlyInstance()) return eStartUp::SecondInstance;
     // Not before: another instance could be writing one.
     RemoveLeftovers();
-    TellOfTexts(CompleteTextFiles(m_Ports.files, m_ApplicationPath, m_Ports.deliveredTexts));
+    CompleteTexts();
     if (!ReachSuiteLibrary()) return eStartUp::NoSuiteLibrary;
     SetTitle();
     ReadSettings(m_Ini, m_Settings, [this] { SetListFont(); });
@@ -77,8 +78,14 @@ bool cVigrelReceiverMain::LoadLanguage() {
     return m_Texts.LoadTexts();
 }
 
-void cVigrelReceiverMain::TellOfTexts(const std::vector<std::string>& completed) {
-    for (const std::string& line : completed) m_Log.WriteLog(line);
+void cVigrelReceiverMain::CompleteTexts() {
+    for (const std::string& line :
+         CompleteTextFiles(m_Ports.files, m_ApplicationPath, m_Ports.deliveredTexts)) {
+        m_Log.WriteLog(line);
+    }
+}
+
+void cVigrelReceiverMain::TellOfTexts() {
     if (m_Texts.Problem().empty()) return;
     const std::string text =
         "The texts can't be read, the program's own stand for them: " + m_Texts.Problem();

@@ -107,7 +107,8 @@ class cVigrelReceiverMain {
     // What a crash left of files that were being replaced.
     void RemoveLeftovers();
     bool LoadLanguage();
-    void TellOfTexts(const std::vector<std::string>& completed);
+    void TellOfTexts();
+    void CompleteTexts();
     void ReadCategories(std::int16_t devices);
     void SetCaptions();
     bool IsOnlyInstance();

@@ -115,7 +115,7 @@ std::string SpelledPath(std::string_view path) {
 }
 
 std::string NativePath(std::string_view path) {
-    const std::string rest = SpelledPath(path);
+    std::string rest = SpelledPath(path);
     if (IsOfKind(rest, S_IFREG)) return rest;
     // The usual case of a new file: only the last part is in question.
     const std::size_t last = rest.rfind('/') + 1;
