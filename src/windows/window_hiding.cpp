@@ -9,7 +9,9 @@ const QRect* cWindowHiding::HiddenMaximised() const {
 }
 
 QSize cWindowHiding::Size() const {
-    return HiddenMaximised() != nullptr ? HiddenMaximised()->size() : m_Frame.Size();
+    if (HiddenMaximised() != nullptr) return HiddenMaximised()->size();
+    const bool becomes = m_ToBeGivenUp && m_SizeBehind.isValid();
+    return becomes ? m_SizeBehind + (m_Frame.Size() - m_Window.size()) : m_Frame.Size();
 }
 
 QPoint cWindowHiding::Place() const {
@@ -37,12 +39,21 @@ void cWindowHiding::Vanish() {
     if (maximised) m_Maximised = QRect(place, m_Frame.Size());
     m_HiddenPlace = maximised ? restored.topLeft() - m_Frame.Corner() : place;
     m_Window.hide();
+    m_SizeBehind = maximised ? restored.size() : QSize();
+    m_ToBeGivenUp = true;
+    QMetaObject::invokeMethod(
+        &m_Window, [this] { GiveUp(); }, Qt::QueuedConnection);
+}
+
+void cWindowHiding::GiveUp() {
+    if (!std::exchange(m_ToBeGivenUp, false)) return;
     m_GiveUp();
-    if (maximised) m_Window.resize(restored.size());
+    if (m_SizeBehind.isValid()) m_Window.resize(m_SizeBehind);
 }
 
 void cWindowHiding::Reappear() {
     if (!m_HiddenPlace) return;
+    GiveUp();
     // By the inside, for which the toolkit needs to know nothing of the frame.
     m_Window.setGeometry(QRect(*m_HiddenPlace + m_Frame.Corner(), m_Window.size()));
     m_HiddenPlace.reset();

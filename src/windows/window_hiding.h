@@ -23,6 +23,9 @@ namespace vigrel {
 // Hidden  where the frame stood, or    is kept              Reappear -> There
 //         what was set since
 //
+// The native window goes when the event is over in which the window hides: the toolkit, which delivers it,
+// goes on with that window behind the handler.
+//
 // A window that was never shown is There, at what the toolkit was told.
 //
 // What is maximised while it hides comes back so, whatever it is as an icon meanwhile, and has the place and
@@ -46,12 +49,15 @@ class cWindowHiding {
 
   private:
     const QRect* HiddenMaximised() const;
+    void GiveUp();
 
     QWidget& m_Window;
     const cWindowFrame& m_Frame;
     std::function<void()> m_GiveUp;
     std::optional<QPoint> m_HiddenPlace;  // as an ordinary window
     std::optional<QRect> m_Maximised;     // the frame of one that is hidden maximised
+    bool m_ToBeGivenUp = false;
+    QSize m_SizeBehind;  // behind that, of one that was maximised; else not valid
 };
 
 }  // namespace vigrel

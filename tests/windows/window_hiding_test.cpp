@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
 #include <QWidget>
 
 namespace vigrel::testing {
@@ -42,6 +43,9 @@ TEST_F(WindowHiding, HiddenItGivesItsNativeWindowUpAndRemembersItsPlace) {
     m_Hiding.Vanish();
     EXPECT_TRUE(m_Hiding.Hidden());
     EXPECT_FALSE(m_Window.isVisible());
+    // Not within the event in which it hides.
+    EXPECT_EQ(m_GivenUp, 0);
+    QCoreApplication::processEvents();
     EXPECT_EQ(m_GivenUp, 1);
     m_Window.move(0, 0);
     EXPECT_EQ(m_Hiding.Place(), place);
