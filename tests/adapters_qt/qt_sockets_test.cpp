@@ -156,13 +156,14 @@ TEST_F(QtSockets, ThePortCanBeTakenAgainAtOnceAfterTheProgramEnded) {
     auto first = std::make_unique<cQtListener>();
     first->Listen();
     const std::int32_t port = first->LocalPort();
-    cQtDataSocket data(*first);
-    first->OnConnectionRequest = [&](std::int32_t id) { data.Accept(id); };
+    auto data = std::make_unique<cQtDataSocket>(*first);
+    first->OnConnectionRequest = [&](std::int32_t id) { data->Accept(id); };
     QTcpSocket peer;
     peer.connectToHost(QHostAddress::LocalHost, static_cast<quint16>(port));
-    ASSERT_TRUE(WaitUntil([&] { return data.State() != 0; }));
+    ASSERT_TRUE(WaitUntil([&] { return data->State() != 0; }));
     // This side closes first, so its end of the connection stays in the machine's tables for a minute.
-    data.Close();
+    data->Close();
+    data.reset();
     first.reset();
     RunEvents(20);
     cQtListener second;
