@@ -7,6 +7,7 @@
 #include "adapters/linux/application_folder.h"
 #include "adapters/linux/file_rights.h"
 #include "adapters/linux/linux_files.h"
+#include "adapters/linux/native_path.h"
 #include "adapters/linux/standard_error_box.h"
 #include "adapters/linux/standard_random.h"
 #include "adapters/linux/system_clock.h"

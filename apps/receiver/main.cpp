@@ -10,6 +10,7 @@
 #include "adapters/linux/application_folder.h"
 #include "adapters/linux/file_rights.h"
 #include "adapters/linux/linux_files.h"
+#include "adapters/linux/native_path.h"
 #include "adapters/linux/notify_socket.h"
 #include "adapters/linux/standard_error_box.h"
 #include "adapters/qt/qt_locale.h"

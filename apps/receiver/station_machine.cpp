@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "adapters/linux/application_folder.h"
+#include "adapters/linux/native_path.h"
 #include "common/standard_error.h"
 
 namespace vigrel {

@@ -8,7 +8,7 @@
 #include <fstream>
 #include <string>
 
-#include "adapters/linux/linux_files.h"
+#include "adapters/linux/native_path.h"
 #include "adapters/qt/qt_wave_device.h"
 #include "sound/sound_server.h"
 #include "support/qt_wait.h"

@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "adapters/linux/linux_files.h"
+#include "adapters/linux/native_path.h"
 #include "adapters/linux/system_clock.h"
 #include "common/code_page.h"
 #include "common/failure.h"

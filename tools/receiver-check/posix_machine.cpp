@@ -7,12 +7,12 @@
 
 #include <cerrno>
 #include <chrono>
-#include <cstring>
 #include <filesystem>
 #include <memory>
 
-#include "adapters/linux/linux_files.h"
+#include "adapters/linux/native_path.h"
 #include "adapters/linux/printer.h"
+#include "adapters/linux/system_error_text.h"
 #include "adapters/linux/tcp_port.h"
 #include "common/code_page.h"
 
@@ -25,7 +25,7 @@ constexpr std::chrono::seconds kPatience{2};
 // Why the user has no such rights to a path.
 std::optional<std::string> WhyNot(std::string_view path, int rights) {
     if (faccessat(AT_FDCWD, NativePath(path).c_str(), rights, AT_EACCESS) == 0) return std::nullopt;
-    return Utf8ToCodePage(std::strerror(errno));
+    return SystemErrorText(errno);
 }
 
 // Written to when a line is printed; a plain file is made then, a device is there before.

@@ -9,6 +9,7 @@
 #include <system_error>
 
 #include "adapters/linux/linux_files.h"
+#include "adapters/linux/native_path.h"
 #include "common/code_page.h"
 #include "common/failure.h"
 #include "common/file_procedures.h"

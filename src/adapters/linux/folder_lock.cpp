@@ -3,10 +3,9 @@
 #include <fcntl.h>
 
 #include <cerrno>
-#include <cstring>
 
-#include "adapters/linux/linux_files.h"
-#include "common/code_page.h"
+#include "adapters/linux/native_path.h"
+#include "adapters/linux/system_error_text.h"
 #include "common/path_text.h"
 
 namespace vigrel {
@@ -16,7 +15,7 @@ bool cFolderLock::AnotherIsRunning() {
     constexpr mode_t kMode = 0666;  // as the umask allows
     const std::string path = NativePath(m_Folder + kFile);
     const auto problem = [&] {
-        m_Problem = PathText(path) + ": " + Utf8ToCodePage(std::strerror(errno));
+        m_Problem = PathText(path) + ": " + SystemErrorText(errno);
         return false;
     };
     if (!m_File) m_File = cFileHandle(open(path.c_str(), kFlags, kMode));

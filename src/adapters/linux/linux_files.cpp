@@ -1,136 +1,36 @@
 #include "adapters/linux/linux_files.h"
 
-#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <atomic>
 #include <cerrno>
-#include <cstring>
-#include <functional>
+#include <cstdint>
 #include <memory>
 #include <thread>
 #include <utility>
 
+#include "adapters/linux/file_failure.h"
 #include "adapters/linux/file_handle.h"
-#include "adapters/linux/kept_file.h"
+#include "adapters/linux/folder_entries.h"
 #include "adapters/linux/links.h"
+#include "adapters/linux/native_path.h"
+#include "adapters/linux/open_file.h"
 #include "adapters/linux/read_ahead.h"
-#include "common/code_page.h"
 #include "common/failure.h"
 #include "common/path_text.h"
 
 namespace vigrel {
 namespace {
 
-eFailure FailureNumber(int error) {
-    switch (error) {
-        case ENOENT:
-            return eFailure::FileNotFound;
-        case EEXIST:
-            return eFailure::FileExists;
-        case ENOSPC:
-        case EDQUOT:
-        case EFBIG:
-            return eFailure::DiskFull;
-        case EACCES:
-        case EPERM:
-        case EROFS:
-            return eFailure::PermissionDenied;
-        case ENOTDIR:
-        case EISDIR:
-            return eFailure::PathAccess;
-        default:
-            return eFailure::InputOutput;
-    }
-}
-
 // Also where a file stands in the way of a folder: that can have another spelling.
 bool IsMissing(int error) {
     return error == ENOENT || error == ENOTDIR;
 }
 
-// The operating system's words, in the language of the surroundings.
-std::string Reason(int error) {
-    return Utf8ToCodePage(std::strerror(error));
-}
-
-[[noreturn]] void Fail(std::string_view path) {
-    const int error = errno;
-    throw cFailure(FailureNumber(error), std::string(path) + ": " + Reason(error));
-}
-
-// Far above every file of the system; nothing larger is taken into memory.
-constexpr off_t kLargestFile = 64 << 20;
-
-// Why a file must not be read, whatever its rights: what waits for a partner, has no end or fills the memory
-// would take the program with it.
-const char* WhyNoFile(const struct stat& status) {
-    if (!S_ISREG(status.st_mode)) return "no ordinary file";
-    return status.st_size > kLargestFile ? "larger than 64 MB" : nullptr;
-}
-
-[[noreturn]] void FailAsNoFile(std::string_view path, const char* reason) {
-    throw cFailure(eFailure::PathAccess, std::string(path) + ": " + reason);
-}
-
-// Nothing that is opened may make the program wait.
-constexpr int kNeverWait = O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
 // As the umask allows.
 constexpr mode_t kFileMode = 0666, kFolderMode = 0777;
-
-// An open file, and its path for what fails with it.
-class cOpenFile {
-  public:
-    cOpenFile(std::string_view path, int descriptor) : m_Path(path), m_File(descriptor) {
-        if (!m_File) Fail(path);
-    }
-
-    void Write(std::string_view bytes) {
-        while (!bytes.empty()) {
-            const ssize_t written = write(m_File.Get(), bytes.data(), bytes.size());
-            if (written < 0 && errno == EINTR) continue;
-            if (written < 0) Fail(m_Path);
-            bytes.remove_prefix(static_cast<std::size_t>(written));
-        }
-    }
-    // Asks for a byte more than there should be, so that one call meets the end too. Files that the machine
-    // makes up say that they are empty.
-    std::string ReadAll() {
-        struct stat status {};
-        if (fstat(m_File.Get(), &status) != 0) Fail(m_Path);
-        if (const char* reason = WhyNoFile(status)) FailAsNoFile(m_Path, reason);
-        constexpr std::size_t kUnknownSize = 65536;
-        const auto told = static_cast<std::size_t>(status.st_size);
-        std::string content(told > 0 ? told + 1 : kUnknownSize, '\0');
-        std::size_t size = 0;
-        while (true) {
-            const ssize_t count = read(m_File.Get(), content.data() + size, content.size() - size);
-            if (count < 0 && errno == EINTR) continue;
-            if (count < 0) Fail(m_Path);
-            size += static_cast<std::size_t>(count);
-            if (count == 0 || size < content.size()) break;
-            // Somebody can make it grow after it was looked at.
-            if (content.size() > kLargestFile) FailAsNoFile(m_Path, "larger than 64 MB");
-            content.resize(2 * content.size());
-        }
-        content.resize(size);
-        return content;
-    }
-    void TakeAttributes(const std::string& like) { GiveAttributes(m_File.Get(), like); }
-    void Sync() {
-        if (fsync(m_File.Get()) != 0) Fail(m_Path);
-    }
-    // Some file systems report a full disk only here.
-    void Close() {
-        if (close(m_File.Release()) != 0 && errno != EINTR) Fail(m_Path);
-    }
-
-  private:
-    std::string m_Path;
-    cFileHandle m_File;
-};
 
 int OpenFolder(const char* native) {
     return open(native, O_RDONLY | O_DIRECTORY | kNeverWait);
@@ -176,7 +76,7 @@ void ClearName(const std::string& native, std::string_view path) {
     struct stat status {};
     if (lstat(native.c_str(), &status) != 0) return;
     if (!S_ISREG(status.st_mode) && !S_ISLNK(status.st_mode)) FailAsNoFile(path, WhyNoFile(status));
-    if (unlink(native.c_str()) != 0) Fail(path);
+    if (unlink(native.c_str()) != 0) FailByErrno(path);
 }
 
 // A file that nobody else has made, so that nobody else holds it open or has chosen where it lies.
@@ -191,73 +91,6 @@ cOpenFile OpenNew(std::string_view path, const std::string& native) {
         descriptor = open();
     }
     return {path, descriptor};
-}
-
-// Whether a name fits a mask of "?" and "*" in upper case. "*" tries the shortest run first and comes
-// back.
-bool FitsMask(std::string_view name, std::string_view mask) {
-    std::size_t n = 0;
-    std::size_t m = 0;
-    std::size_t star = std::string_view::npos;
-    std::size_t resume = 0;
-    while (n < name.size()) {
-        if (m < mask.size() && mask[m] == '*') {
-            star = m++;
-            resume = n;
-        } else if (m < mask.size() && (mask[m] == '?' || mask[m] == ToUpper(name[n]))) {
-            ++n;
-            ++m;
-        } else if (star != std::string_view::npos) {
-            m = star + 1;
-            n = ++resume;
-        } else {
-            return false;
-        }
-    }
-    return mask.find_first_not_of('*', m) == std::string_view::npos;
-}
-
-bool IsRegular(int folder, const dirent& entry) {
-    if (entry.d_type == DT_REG) return true;
-    if (entry.d_type != DT_UNKNOWN && entry.d_type != DT_LNK) return false;
-    struct stat status {};
-    return fstatat(folder, entry.d_name, &status, 0) == 0 && S_ISREG(status.st_mode);
-}
-
-// Why an entry of a folder can't be read; empty when it can.
-std::string WhyUnreadable(int folder, const char* name) {
-    struct stat status {};
-    if (fstatat(folder, name, &status, 0) != 0) return Reason(errno);
-    if (const char* reason = WhyNoFile(status)) return reason;
-    return faccessat(folder, name, R_OK, AT_EACCESS) == 0 ? "" : Reason(errno);
-}
-
-bool IsThere(const std::string& native) {
-    struct stat status {};
-    return lstat(native.substr(0, native.find_last_not_of('/') + 1).c_str(), &status) == 0;
-}
-
-using TakeEntry = std::function<void(int folder, const dirent& entry, std::string name)>;
-
-// The entries of a folder that fit the mask, hidden ones excepted; none of a folder that is not there.
-void ForEachEntry(std::string_view path, std::string_view mask, const TakeEntry& take) {
-    const std::string native = NativePath(path);
-    RequireOwnFolder(native);
-    const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(native.empty() ? "." : native.c_str()),
-                                                     closedir);
-    // A link that leads nowhere is no missing folder: a disk that is not there can have what it leads to.
-    if (!stream && errno == ENOENT && !IsThere(native)) return;
-    if (!stream) Fail(PathText(native));
-    const std::string wanted = ToUpper(mask);
-    while (true) {
-        errno = 0;
-        const dirent* entry = readdir(stream.get());
-        if (entry == nullptr && errno != 0) Fail(PathText(native));
-        if (entry == nullptr) return;
-        if (entry->d_name[0] == '.') continue;
-        std::string name = PathText(entry->d_name);
-        if (FitsMask(name, wanted)) take(dirfd(stream.get()), *entry, std::move(name));
-    }
 }
 
 }  // namespace
@@ -295,7 +128,7 @@ std::string cLinuxFiles::ReadFile(std::string_view path) const {
     if (m_Names == eNames::AnyCase) {
         struct stat status {};
         native = LookFor(path, status);
-        if (native.empty()) Fail(path);
+        if (native.empty()) FailByErrno(path);
         if (const char* reason = WhyNoFile(status)) FailAsNoFile(path, reason);
     }
     return cOpenFile(path, open(native.c_str(), O_RDONLY | kNeverWait)).ReadAll();
@@ -312,7 +145,7 @@ void cLinuxFiles::ReadFiles(const std::string& folder, const std::vector<std::st
 std::vector<std::string> cLinuxFiles::ListFiles(std::string_view folder, std::string_view mask) const {
     std::vector<std::string> names;
     SkipFailure([&] {
-        ForEachEntry(folder, mask, [&](int opened, const dirent& entry, std::string name) {
+        ForEachEntry(NativePath(folder), mask, [&](int opened, const dirent& entry, std::string name) {
             if (IsRegular(opened, entry)) names.push_back(std::move(name));
         });
     });
@@ -329,7 +162,7 @@ cFileReader::cListing cLinuxFiles::List(std::string_view folder, std::string_vie
             listing.unreadable.push_back({std::move(name), std::move(reason)});
         }
     };
-    if (const auto failure = CatchFailure([&] { ForEachEntry(folder, mask, take); }))
+    if (const auto failure = CatchFailure([&] { ForEachEntry(NativePath(folder), mask, take); }))
         listing.problem = failure->what();
     return listing;
 }
@@ -380,7 +213,7 @@ void cLinuxFiles::RemoveFile(std::string_view path) {
         RequireOwnFolder(native);
         return unlink(native);
     };
-    if (AsSpelledOrFound(path, remove) != 0) Fail(path);
+    if (AsSpelledOrFound(path, remove) != 0) FailByErrno(path);
 }
 
 void cLinuxFiles::RenameFile(std::string_view from, std::string_view to) {
@@ -388,7 +221,7 @@ void cLinuxFiles::RenameFile(std::string_view from, std::string_view to) {
     const std::string target = Native(to);
     RequireOwnFolder(source);
     RequireOwnFolder(target);
-    if (rename(source.c_str(), target.c_str()) != 0) Fail(to);
+    if (rename(source.c_str(), target.c_str()) != 0) FailByErrno(to);
 }
 
 void cLinuxFiles::SyncFolder(std::string_view folder) {
@@ -397,12 +230,12 @@ void cLinuxFiles::SyncFolder(std::string_view folder) {
 
 std::unique_ptr<cPendingSync> cLinuxFiles::StartSync(std::string_view folder) {
     cFileHandle opened(AsSpelledOrFound(folder, OpenFolder));
-    if (!opened) Fail(folder);
+    if (!opened) FailByErrno(folder);
     return std::make_unique<cSyncThread>(std::move(opened));
 }
 
 void cLinuxFiles::MakeFolder(std::string_view path) {
-    if (mkdir(NativePath(path).c_str(), kFolderMode) != 0) Fail(path);
+    if (mkdir(NativePath(path).c_str(), kFolderMode) != 0) FailByErrno(path);
 }
 
 void cLinuxFiles::SetNormalAttributes(std::string_view path) {
@@ -411,7 +244,7 @@ void cLinuxFiles::SetNormalAttributes(std::string_view path) {
     const cFileHandle file(open(native.c_str(), O_RDONLY | O_NOFOLLOW | kNeverWait));
     struct stat status {};
     if (!file || fstat(file.Get(), &status) != 0 || fchmod(file.Get(), status.st_mode | S_IWUSR) != 0)
-        Fail(path);
+        FailByErrno(path);
 }
 
 std::string cLinuxFiles::LinkTarget(std::string_view path) const {

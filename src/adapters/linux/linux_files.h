@@ -47,12 +47,4 @@ class cLinuxFiles : public cFiles {
     eNames m_Names;
 };
 
-// The path as the operating system knows it, byte by byte, spelled as given: separators mapped.
-std::string SpelledPath(std::string_view path);
-
-// The same with every part that exists under another case spelled as it stands on disk. Where a name has
-// several spellings, the given one is preferred to others; but one that is no ordinary file (no folder,
-// inside the path) counts only where no other spelling is one.
-std::string NativePath(std::string_view path);
-
 }  // namespace vigrel

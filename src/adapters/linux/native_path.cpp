@@ -1,12 +1,13 @@
+#include "adapters/linux/native_path.h"
+
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <memory>
-#include <optional>
+#include <vector>
 
-#include "adapters/linux/linux_files.h"
+#include "adapters/linux/file_handle.h"
 #include "common/code_page.h"
 #include "common/path_text.h"
 #include "common/text.h"
@@ -30,20 +31,15 @@ bool IsOfKind(const std::string& path, mode_t kind) {
 class cFolder {
   public:
     explicit cFolder(const std::string& path)
-        : m_Descriptor(open(path.empty() ? "." : path.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC)) {}
-    ~cFolder() {
-        if (m_Descriptor >= 0) close(m_Descriptor);
-    }
-    cFolder(const cFolder&) = delete;
-    cFolder& operator=(const cFolder&) = delete;
+        : m_Folder(open(path.empty() ? "." : path.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC)) {}
 
     bool Has(const std::string& name) const {
         struct stat status {};
-        return fstatat(m_Descriptor, name.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0;
+        return fstatat(m_Folder.Get(), name.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0;
     }
 
   private:
-    int m_Descriptor;
+    cFileHandle m_Folder;
 };
 
 // Up to this many letters every spelling of a name is tried, which beats reading a folder of thousands of

@@ -6,16 +6,15 @@
 #include <sys/socket.h>
 
 #include <cerrno>
-#include <cstring>
 #include <memory>
 
-#include "common/code_page.h"
+#include "adapters/linux/system_error_text.h"
 
 namespace vigrel {
 namespace {
 
 cBoundPort Failed(int failure) {
-    return {cFileHandle(), failure, Utf8ToCodePage(std::strerror(failure))};
+    return {cFileHandle(), failure, SystemErrorText(failure)};
 }
 
 void Set(int descriptor, int level, int option, int value) {

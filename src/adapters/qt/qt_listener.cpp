@@ -4,11 +4,10 @@
 #include <sys/socket.h>
 
 #include <cerrno>
-#include <cstring>
 #include <limits>
 
+#include "adapters/linux/system_error_text.h"
 #include "adapters/linux/tcp_port.h"
-#include "common/code_page.h"
 #include "common/failure.h"
 
 namespace vigrel {
@@ -44,7 +43,7 @@ void cQtListener::Listen() {
     if (bound.failure != 0) FailListen(m_Port, bound.reason);
     // A port that two have bound is the one's who listens first.
     if (listen(bound.descriptor.Get(), SOMAXCONN) != 0) {
-        FailListen(m_Port, Utf8ToCodePage(std::strerror(errno)));
+        FailListen(m_Port, SystemErrorText(errno));
     }
     m_Descriptor = std::move(bound.descriptor);
     m_Notifier = std::make_unique<QSocketNotifier>(m_Descriptor.Get(), QSocketNotifier::Read);
