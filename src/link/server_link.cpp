@@ -27,13 +27,24 @@ void cServerLink::Trace(std::string_view text, std::int16_t kind) const {
 void cServerLink::ConnectionRequest(std::int32_t requestId) {
     if (m_WinsockData.State() != 0) m_WinsockData.Close();
     m_ReceiveBuffer.clear();
+    m_LineLength.BeginConnection();
     m_WinsockData.Accept(requestId);
 }
 
 void cServerLink::DataArrival() {
     const std::string data = m_WinsockData.Fetch();
     Trace(data, FromSender);
-    m_ReceiveBuffer += data;
+    std::string_view rest = data;
+    do {
+        const std::string_view together = rest.substr(0, m_LineLength.Together(rest));
+        if (!m_LineLength.Count(together)) return m_WinsockData.Close();
+        Take(together);
+        rest.remove_prefix(together.size());
+    } while (!rest.empty());
+}
+
+void cServerLink::Take(std::string_view arrived) {
+    m_ReceiveBuffer += arrived;
     ReplaceText(m_ReceiveBuffer, "\r", "");
     for (std::size_t end = m_ReceiveBuffer.find('\n'); end != std::string::npos;
          end = m_ReceiveBuffer.find('\n')) {

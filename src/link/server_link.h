@@ -6,12 +6,13 @@
 #include <string_view>
 
 #include "common/receiver_state.h"
+#include "link/line_length.h"
 #include "platform/sockets.h"
 
 namespace vigrel {
 
 // The link to the alarm server: one listening port, one connection at most, lines cut from the byte stream,
-// one reply to each. It speaks only in answer.
+// one reply to each. It speaks only in answer. A stream that is no sender's is closed.
 class cServerLink {
   public:
     // Direction of a trace.
@@ -33,12 +34,14 @@ class cServerLink {
   private:
     void ConnectionRequest(std::int32_t requestId);
     void DataArrival();
+    void Take(std::string_view arrived);
     void Trace(std::string_view text, std::int16_t kind) const;
 
     cListener& m_WinsockConnect;
     cDataSocket& m_WinsockData;
     const cReceiverState& m_State;
     std::string m_ReceiveBuffer;
+    cLineLength m_LineLength;
 };
 
 }  // namespace vigrel

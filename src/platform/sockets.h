@@ -43,8 +43,7 @@ class cDataSocket {
     // connected.
     virtual void Send(std::string_view bytes) = 0;
 
-    // Events, delivered from the event loop. OnError comes also for a stream that went on for more than 1 MiB
-    // without a line feed.
+    // Events, delivered from the event loop.
     std::function<void()> OnDataArrival;
     std::function<void()> OnClosed;
     std::function<void()> OnError;

@@ -214,38 +214,6 @@ TEST_F(QtSockets, BytesThatArriveWithThePeersCloseAreAllDelivered) {
     EXPECT_EQ(m_Errors, 0);
 }
 
-TEST_F(QtSockets, AStreamOfMoreThanOneMebibyteWithoutLineFeedIsAnError) {
-    const int peer = m_Rig.Connect();
-    const std::string line(cQtDataSocket::kMaxLine, 'z');
-    m_Rig.Peer(peer).write(line.data(), static_cast<qint64>(line.size()));
-    ASSERT_TRUE(WaitUntil([&] { return Arrived() == line.size(); }));
-    EXPECT_EQ(m_Errors, 0);
-    m_Rig.PeerSend(peer, "z");
-    EXPECT_TRUE(WaitUntil([&] { return m_Errors == 1; }));
-    m_Rig.PeerSend(peer, "more");
-    EXPECT_EQ(m_Errors, 1);
-    EXPECT_EQ(Arrived(), line.size());
-}
-
-TEST_F(QtSockets, LineFeedsLetAStreamGoOnForEver) {
-    const int peer = m_Rig.Connect();
-    const std::string half = std::string(700000, 'a') + "\n";
-    for (int i = 0; i < 3; ++i) m_Rig.Peer(peer).write(half.data(), static_cast<qint64>(half.size()));
-    ASSERT_TRUE(WaitUntil([&] { return Arrived() == 3 * half.size(); }));
-    EXPECT_EQ(m_Errors, 0);
-}
-
-TEST_F(QtSockets, ANewConnectionBeginsANewLine) {
-    const std::string line(cQtDataSocket::kMaxLine, 'z');
-    for (int i = 0; i < 2; ++i) {
-        m_Chunks.clear();
-        const int peer = m_Rig.Connect();
-        m_Rig.Peer(peer).write(line.data(), static_cast<qint64>(line.size()));
-        ASSERT_TRUE(WaitUntil([&] { return Arrived() == line.size(); }));
-    }
-    EXPECT_EQ(m_Errors, 0);
-}
-
 // A reset is the peer's end or an error, as the machine tells it; the link treats the two alike.
 TEST_F(QtSockets, AResetConnectionIsOneEvent) {
     const int peer = m_Rig.Connect();
@@ -331,26 +299,6 @@ TEST_F(QtSockets, APeerThatOnlyEndedItsSendingGetsAllReplies) {
     EXPECT_EQ(m_Rig.m_Data.State(), 0);
 }
 
-// A long line and what follows it in the same breath; what came before it is short, so that no reading ends
-// where the line does.
-TEST_F(QtSockets, NoLineIsMadeTooLongByWhatFollowsIt) {
-    const cBluntPeer peer(m_Rig.m_Listener.LocalPort());
-    const std::string begin(4000, 'x');
-    peer.Send(begin);
-    ASSERT_TRUE(WaitUntil([&] { return Arrived() == begin.size(); }));
-    const std::string end = std::string(cQtDataSocket::kLongestLine - begin.size() - 2, 'x') + "\r\n";
-    std::string more;
-    while (more.size() < cTcpConnection::kBytesPerTurn) more += "short line\r\n";
-    peer.Send(end + more);
-    ASSERT_TRUE(WaitUntil([&] { return Arrived() == begin.size() + end.size() + more.size(); }));
-    std::size_t waiting = 0;
-    for (const std::string& chunk : m_Chunks) {
-        EXPECT_LE(waiting + chunk.size(), cQtDataSocket::kLongestLine);
-        const std::size_t lineFeed = chunk.rfind('\n');
-        waiting = lineFeed == std::string::npos ? waiting + chunk.size() : chunk.size() - lineFeed - 1;
-    }
-}
-
 // --- one connection after the other
 
 // What the socket's peers have sent by the time that the next one is accepted.
@@ -408,17 +356,6 @@ TEST_F(QtNextConnection, IsNotKeptWaitingByAnUrgentByte) {
     const cBluntPeer hasty(m_Rig.m_Listener.LocalPort());
     ASSERT_TRUE(WaitForRequests(1));
     hasty.SendUrgently("a\nb");
-    const cBluntPeer next(m_Rig.m_Listener.LocalPort());
-    EXPECT_TRUE(WaitForRequests(2));
-}
-
-TEST_F(QtNextConnection, IsAcceptedWhereTheOneBeforeWasNoSenders) {
-    const cBluntPeer endless(m_Rig.m_Listener.LocalPort());
-    ASSERT_TRUE(WaitForRequests(1));
-    for (std::size_t sent = 0; sent <= cQtDataSocket::kMaxLine; sent += 100'000) {
-        endless.Send(std::string(100'000, 'x'));
-        RunEvents(5);
-    }
     const cBluntPeer next(m_Rig.m_Listener.LocalPort());
     EXPECT_TRUE(WaitForRequests(2));
 }

@@ -143,5 +143,64 @@ TEST_F(ServerLink, ALongLineWithoutCarriageReturnIsTaken) {
     EXPECT_EQ(lines[0].size(), 40000u);
 }
 
+// A line of the longest length, what came of it before being short, and lines right behind it.
+TEST_F(ServerLink, ALineAtTheLimitIsNotMadeTooLongByWhatFollowsIt) {
+    const std::string line(32'765, 'x');
+    listener.Knock(1);
+    data.Arrive(line.substr(0, 4000));
+    data.Arrive(line.substr(4000) + "\r\nshort\r\nhalf\r");
+    EXPECT_EQ(lines, (std::vector<std::string>{line, "short"}));
+    EXPECT_EQ(data.TakeSent(), "ok1ok2");
+}
+
+TEST_F(ServerLink, ABurstOfAnySizeIsTakenLineByLine) {
+    std::string burst;
+    for (int i = 0; i < 20'000; ++i) burst += "line\r\n";
+    listener.Knock(1);
+    data.Arrive(burst);
+    EXPECT_EQ(lines, std::vector<std::string>(20'000, "line"));
+}
+
+TEST_F(ServerLink, ALineBeyondTheLimitThatEndsInCarriageReturnIsAFailure) {
+    listener.Knock(1);
+    EXPECT_THROW(data.Arrive(std::string(32'767, 'x') + "\r\n"), cFailure);
+}
+
+TEST_F(ServerLink, AStreamOfMoreThanOneMebibyteWithoutLineFeedIsClosed) {
+    listener.Knock(1);
+    data.Arrive(std::string(1'048'576, 'z'));
+    EXPECT_NE(data.State(), 0);
+    data.Arrive("z");
+    EXPECT_EQ(data.State(), 0);
+    EXPECT_TRUE(lines.empty());
+    listener.Knock(2);
+    data.Arrive("whole\n");
+    EXPECT_EQ(lines, std::vector<std::string>{"whole"});
+}
+
+// Dropped, it takes no memory, and is no line all the same.
+TEST_F(ServerLink, AStreamOfCarriageReturnsIsClosedToo) {
+    listener.Knock(1);
+    for (int i = 0; i < 1024; ++i) data.Arrive(std::string(1024, '\r'));
+    EXPECT_NE(data.State(), 0);
+    data.Arrive("\r");
+    EXPECT_EQ(data.State(), 0);
+}
+
+TEST_F(ServerLink, LineFeedsLetAStreamGoOnForEver) {
+    listener.Knock(1);
+    for (int i = 0; i < 3; ++i) data.Arrive(std::string(700'000, 'a') + "\n" + std::string(700'000, 'b'));
+    EXPECT_NE(data.State(), 0);
+    EXPECT_EQ(lines.size(), 3u);
+}
+
+TEST_F(ServerLink, ANewConnectionBeginsANewLine) {
+    for (int i = 1; i < 3; ++i) {
+        listener.Knock(i);
+        data.Arrive(std::string(1'048'576, 'z'));
+        EXPECT_NE(data.State(), 0);
+    }
+}
+
 }  // namespace
 }  // namespace vigrel::testing

@@ -22,7 +22,6 @@ void cQtDataSocket::Accept(std::int32_t requestId) {
     }
     m_Connection = std::make_unique<cTcpConnection>(m_Listener.TakeRequest(requestId));
     m_Connection->OnReadable = [this] { ReadTurn(); };
-    m_LineBytes = 0;
     m_Ended = false;
     m_BeforeTheNext.reset();
 }
@@ -37,33 +36,14 @@ void cQtDataSocket::ReadTurn() {
     std::string bytes;
     const auto read = m_Connection->Read(bytes);
     if (read == cTcpConnection::eRead::Nothing) return;
-    if (read == cTcpConnection::eRead::Bytes) return Take(bytes);
+    if (read == cTcpConnection::eRead::Bytes) return Deliver(bytes);
     m_Ended = true;
     const auto& notice = read == cTcpConnection::eRead::End ? OnClosed : OnError;
     if (notice) notice();
 }
 
-// Positions in the bytes that wait for a line's end are 16 bits wide where they are looked at. A line that is
-// not too long by itself must not become so by what follows it: it is handed over alone.
-void cQtDataSocket::Take(std::string_view bytes) {
-    if (m_BeforeTheNext) *m_BeforeTheNext -= std::min(bytes.size(), *m_BeforeTheNext);
-    const std::size_t lineFeed = bytes.find('\n');
-    if (m_LineBytes + bytes.size() <= kLongestLine || lineFeed == std::string_view::npos) {
-        return Deliver(bytes);
-    }
-    Deliver(bytes.substr(0, lineFeed + 1));
-    const std::string_view rest = bytes.substr(lineFeed + 1);
-    if (m_Connection && !m_Ended && !rest.empty()) Deliver(rest);
-}
-
 void cQtDataSocket::Deliver(std::string_view bytes) {
-    CountLine(bytes);
-    if (m_LineBytes > kMaxLine) {
-        m_Ended = true;
-        m_Connection->StopReading();
-        if (OnError) OnError();
-        return;
-    }
+    if (m_BeforeTheNext) *m_BeforeTheNext -= std::min(bytes.size(), *m_BeforeTheNext);
     m_Received += bytes;
     if (OnDataArrival) OnDataArrival();
 }
@@ -79,12 +59,6 @@ bool cQtDataSocket::HoldsBackTheNext() {
     }
     m_BeforeTheNext.reset();
     return false;
-}
-
-void cQtDataSocket::CountLine(std::string_view chunk) {
-    const std::size_t lineFeed = chunk.rfind('\n');
-    m_LineBytes =
-        lineFeed == std::string_view::npos ? m_LineBytes + chunk.size() : chunk.size() - lineFeed - 1;
 }
 
 std::string cQtDataSocket::Fetch() {

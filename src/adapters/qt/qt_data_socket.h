@@ -15,10 +15,6 @@ class cQtListener;
 
 class cQtDataSocket : public cDataSocket {
   public:
-    // A stream without a line end that has grown to more than this is no sender's.
-    static constexpr std::size_t kMaxLine = 1'048'576;
-    // The longest line that a sender may send, its end included.
-    static constexpr std::size_t kLongestLine = 32'767;
     // So much of what comes in without a pause behind a knock may have been sent before it, by a peer that
     // has left: what the socket has no room for waits in the peer's machine.
     static constexpr std::size_t kMostOnItsWay = 262'144;
@@ -42,16 +38,13 @@ class cQtDataSocket : public cDataSocket {
     // Reads a turn's bytes and delivers them, or the end.
     void ReadTurn();
     bool HoldsBackTheNext();
-    void Take(std::string_view bytes);
     void Deliver(std::string_view bytes);
-    void CountLine(std::string_view chunk);
 
     cQtListener& m_Listener;
     std::unique_ptr<cTcpConnection> m_Connection;
     cLingeringConnections m_Lingering;
-    std::string m_Received;       // and not yet fetched
-    std::size_t m_LineBytes = 0;  // since the last line feed
-    bool m_Ended = false;         // by the peer, or by an error
+    std::string m_Received;  // and not yet fetched
+    bool m_Ended = false;    // by the peer, or by an error
     // While somebody knocks: how many bytes may still be read before he is let in.
     std::optional<std::size_t> m_BeforeTheNext;
 };

@@ -28,7 +28,6 @@ class cTcpConnection {
     enum class eRead { Bytes, Nothing, End, Failed };
     // Appends what one turn may read. After End and Failed no more notices come.
     eRead Read(std::string& bytes);
-    void StopReading() { m_Readable->setEnabled(false); }
     // What has arrived and was not read yet, in bytes.
     std::size_t Arrived() const;
     // The peer has ended its sending side, or all of the connection; what it sent before may wait to be read.
