@@ -60,8 +60,7 @@ class cSender {
     }
     // Everything until the station ends the connection, or nothing comes for ten seconds.
     std::string ReadToTheEnd() const {
-        const timeval patience{10, 0};
-        setsockopt(m_Socket, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
+        SetPatience();
         std::string received;
         char chunk[4096];
         for (ssize_t count = 1; count > 0;) {
@@ -70,8 +69,19 @@ class cSender {
         }
         return received;
     }
+    // Ended by the station within ten seconds, without a reply.
+    bool IsEndedInSilence() const {
+        SetPatience();
+        char byte = 0;
+        return recv(m_Socket, &byte, 1, 0) == 0;
+    }
 
   private:
+    void SetPatience() const {
+        const timeval patience{10, 0};
+        setsockopt(m_Socket, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
+    }
+
     int m_Socket;
     bool m_Connected = false;
 };
@@ -79,8 +89,22 @@ class cSender {
 // In memory, where an alarm is stored in a tenth of the time that a disk takes.
 class HastySenders : public ::testing::Test {
   protected:
-    HastySenders() { setenv("TMPDIR", "/dev/shm", 1); }
-    ~HastySenders() override { unsetenv("TMPDIR"); }
+    void StartStation() {
+        m_Station.Configure(kNoLimit);
+        ASSERT_TRUE(m_Station.Start()) << m_Station.StandardError();
+    }
+
+  private:
+    struct cTemporaryInMemory {
+        cTemporaryInMemory() { setenv("TMPDIR", "/dev/shm", 1); }
+        ~cTemporaryInMemory() { unsetenv("TMPDIR"); }
+        cTemporaryInMemory(const cTemporaryInMemory&) = delete;
+        cTemporaryInMemory& operator=(const cTemporaryInMemory&) = delete;
+    };
+    cTemporaryInMemory m_TemporaryInMemory;  // when the station makes its folder
+
+  protected:
+    cStation m_Station;
 };
 
 // Waits until the station has so many alarms on disk, and a little longer for one too many.
@@ -95,111 +119,108 @@ std::size_t StoredAlarms(const cStation& station, std::size_t expected) {
 
 TEST_F(HastySenders, ABurstThatIsSentAndClosedAtOnceIsStoredWhole) {
     std::size_t expected = 0;
-    cStation station;
-    station.Configure(kNoLimit);
-    ASSERT_TRUE(station.Start()) << station.StandardError();
+    ASSERT_NO_FATAL_FAILURE(StartStation());
     for (const int count : {100, 500, 1000, 2000}) {
-        cSender sender(station.m_Port);
+        cSender sender(m_Station.m_Port);
         sender.Send(Burst(count));
         sender.Leave();
         expected += static_cast<std::size_t>(count);
-        EXPECT_EQ(StoredAlarms(station, expected), expected) << count;
+        EXPECT_EQ(StoredAlarms(m_Station, expected), expected) << count;
     }
-    EXPECT_EQ(station.Stop(SIGTERM), 0);
+    EXPECT_EQ(m_Station.Stop(SIGTERM), 0);
 }
 
 TEST_F(HastySenders, OneThatEndedItsSendingGetsEveryReply) {
-    cStation station;
-    station.Configure(kNoLimit);
-    ASSERT_TRUE(station.Start()) << station.StandardError();
-    const cSender sender(station.m_Port);
+    ASSERT_NO_FATAL_FAILURE(StartStation());
+    const cSender sender(m_Station.m_Port);
     sender.Send(Burst(500));
     sender.EndSending();
     std::string expected;
     for (int i = 0; i < 500; ++i) expected += std::string(kPositive) + std::string(kReplyEnd);
     EXPECT_EQ(sender.ReadToTheEnd(), expected);
-    EXPECT_EQ(station.AlarmFiles().size(), 500u);
+    EXPECT_EQ(m_Station.AlarmFiles().size(), 500u);
 }
 
 TEST_F(HastySenders, OneThatLeavesWhileItsBurstIsWorkedOnLosesNothing) {
-    cStation station;
-    station.Configure(kNoLimit);
-    ASSERT_TRUE(station.Start()) << station.StandardError();
-    cSender sender(station.m_Port);
+    ASSERT_NO_FATAL_FAILURE(StartStation());
+    cSender sender(m_Station.m_Port);
     sender.Send(Burst(1000));
     // Some replies have come and lie unread: the close that follows is a reset.
-    ASSERT_GT(StoredAlarms(station, 50), 0u);
+    ASSERT_GT(StoredAlarms(m_Station, 50), 0u);
     sender.Leave();
-    EXPECT_EQ(StoredAlarms(station, 1000), 1000u);
+    EXPECT_EQ(StoredAlarms(m_Station, 1000), 1000u);
 }
 
 TEST_F(HastySenders, AShortCallIsStoredThoughTheNextOneComesAtOnce) {
-    cStation station;
-    station.Configure(kNoLimit);
-    ASSERT_TRUE(station.Start()) << station.StandardError();
+    ASSERT_NO_FATAL_FAILURE(StartStation());
     for (int i = 0; i < 200; ++i) {
-        cSender sender(station.m_Port);
+        cSender sender(m_Station.m_Port);
         sender.Send(Burst(3));
         sender.Leave();
     }
-    EXPECT_EQ(StoredAlarms(station, 600), 600u);
+    EXPECT_EQ(StoredAlarms(m_Station, 600), 600u);
 }
 
 // Far more than one turn of the station takes in: two thousand frames are some 100 KB.
 TEST_F(HastySenders, BurstsFromOneConnectionAfterTheOtherAreStoredWhole) {
-    cStation station;
-    station.Configure(kNoLimit);
-    ASSERT_TRUE(station.Start()) << station.StandardError();
+    ASSERT_NO_FATAL_FAILURE(StartStation());
     for (int i = 0; i < 2; ++i) {
-        cSender sender(station.m_Port);
+        cSender sender(m_Station.m_Port);
         sender.Send(Burst(2000));
         sender.Leave();
     }
-    EXPECT_EQ(StoredAlarms(station, 4000), 4000u);
+    EXPECT_EQ(StoredAlarms(m_Station, 4000), 4000u);
 }
 
 TEST_F(HastySenders, WhatAConnectionDeliveredIsStoredThoughAnotherTakesItsPlace) {
-    cStation station;
-    station.Configure(kNoLimit);
-    ASSERT_TRUE(station.Start()) << station.StandardError();
-    const cSender stays(station.m_Port);
+    ASSERT_NO_FATAL_FAILURE(StartStation());
+    const cSender stays(m_Station.m_Port);
     stays.Send(Burst(2000));
-    const cSender next(station.m_Port);
+    const cSender next(m_Station.m_Port);
     next.Send(Burst(1));
     next.EndSending();
     EXPECT_EQ(next.ReadToTheEnd(), std::string(kPositive) + std::string(kReplyEnd));
-    EXPECT_EQ(station.AlarmFiles().size(), 2001u);
+    EXPECT_EQ(m_Station.AlarmFiles().size(), 2001u);
 }
 
 // The longest line that a sender may send, in two pieces, and lines with CR LF right behind it.
 TEST_F(HastySenders, ALineAtTheLimitIsNotMadeTooLongByTheLinesBehindIt) {
-    cStation station;
-    station.Configure(kNoLimit);
-    ASSERT_TRUE(station.Start()) << station.StandardError();
+    ASSERT_NO_FATAL_FAILURE(StartStation());
     std::string longest = MakeFrame("PLC1", "S1|||" + std::string(32'767 - 17, 'x'));
     longest.insert(longest.size() - 1, "\r");
     ASSERT_EQ(longest.size(), 32'767u);
     std::string behind;
     for (int i = 0; i < 200; ++i) behind += MakeFrame("PLC1", "S1|||behind").insert(20, "\r");
-    const cSender sender(station.m_Port);
+    const cSender sender(m_Station.m_Port);
     sender.Send(longest.substr(0, 4000));
     std::this_thread::sleep_for(std::chrono::milliseconds(300));
     sender.Send(longest.substr(4000) + behind);
     sender.EndSending();
     EXPECT_EQ(sender.ReadToTheEnd().size(), 201u * 5);
-    EXPECT_EQ(station.AlarmFiles().size(), 201u);
-    EXPECT_EQ(station.Stop(SIGTERM), 0);
+    EXPECT_EQ(m_Station.AlarmFiles().size(), 201u);
+    EXPECT_EQ(m_Station.Stop(SIGTERM), 0);
+}
+
+// Nobody's line: it is given up, and the next sender is served.
+TEST_F(HastySenders, AStreamThatNeverEndsALineIsClosed) {
+    ASSERT_NO_FATAL_FAILURE(StartStation());
+    const cSender endless(m_Station.m_Port);
+    for (int i = 0; i < 1024; ++i) endless.Send(std::string(1024, 'x'));
+    endless.TrySend("x");
+    EXPECT_TRUE(endless.IsEndedInSilence());
+    const cSender next(m_Station.m_Port);
+    next.Send(Burst(1));
+    next.EndSending();
+    EXPECT_EQ(next.ReadToTheEnd(), std::string(kPositive) + std::string(kReplyEnd));
 }
 
 // Two thousand silent connections a second, each of which replaces the one before.
 TEST_F(HastySenders, AStormOfConnectionsKeepsNoAlarmFromTheDisk) {
-    cStation station;
-    station.Configure(kNoLimit);
-    ASSERT_TRUE(station.Start()) << station.StandardError();
+    ASSERT_NO_FATAL_FAILURE(StartStation());
     std::atomic<bool> over = false;
     std::thread storm([&] {
         while (!over) {
-            const cSender knock(station.m_Port);
+            const cSender knock(m_Station.m_Port);
             std::this_thread::sleep_for(std::chrono::microseconds(300));
         }
     });
@@ -207,26 +228,25 @@ TEST_F(HastySenders, AStormOfConnectionsKeepsNoAlarmFromTheDisk) {
     // again.
     std::size_t answered = 0;
     for (int i = 0; i < 3000 && answered < 50; ++i) {
-        const cSender sender(station.m_Port);
+        const cSender sender(m_Station.m_Port);
         if (!sender.TrySend(Burst(1))) continue;
         sender.EndSending();
         if (sender.ReadToTheEnd() == std::string(kPositive) + std::string(kReplyEnd)) ++answered;
     }
     EXPECT_EQ(answered, 50u);
-    EXPECT_GE(StoredAlarms(station, answered), answered);
+    EXPECT_GE(StoredAlarms(m_Station, answered), answered);
     over = true;
     storm.join();
-    EXPECT_EQ(station.Send({"--t0", "after"}).exitCode, 0);
+    EXPECT_EQ(m_Station.Send({"--t0", "after"}).exitCode, 0);
 }
 
 TEST_F(HastySenders, AStationAtOneAddressIsReachedThereAlone) {
-    cStation station;
-    station.Configure("[General]\r\n");
-    station.m_Address = "127.0.0.2";
-    ASSERT_TRUE(station.Start()) << station.StandardError();
-    EXPECT_FALSE(cSender(station.m_Port).Connected());
-    EXPECT_EQ(station.Send({"--host", "127.0.0.2", "--t0", "alarm"}).exitCode, 0);
-    EXPECT_TRUE(station.WaitForLog("T10017 127.0.0.2 " + std::to_string(station.m_Port) + " T10018"));
+    m_Station.Configure("[General]\r\n");
+    m_Station.m_Address = "127.0.0.2";
+    ASSERT_TRUE(m_Station.Start()) << m_Station.StandardError();
+    EXPECT_FALSE(cSender(m_Station.m_Port).Connected());
+    EXPECT_EQ(m_Station.Send({"--host", "127.0.0.2", "--t0", "alarm"}).exitCode, 0);
+    EXPECT_TRUE(m_Station.WaitForLog("T10017 127.0.0.2 " + std::to_string(m_Station.m_Port) + " T10018"));
 }
 
 }  // namespace
