@@ -2,12 +2,7 @@
 
 #include <functional>
 
-#include "common/log.h"
-#include "common/receiver_state.h"
-#include "common/settings.h"
-#include "common/texts.h"
-#include "events/alarm_list_view.h"
-#include "events/alarm_store.h"
+#include "events/listed_alarm_services.h"
 
 namespace vigrel {
 
@@ -15,16 +10,7 @@ namespace vigrel {
 // file and the log, and can end the running sound.
 class cAcknowledgement {
   public:
-    struct cServices {
-        cAlarmStore& store;
-        cAlarmListView& view;
-        cReportList& list;
-        cLog& log;
-        const cTexts& texts;
-        const cSettings& settings;
-        cReceiverState& state;
-    };
-    explicit cAcknowledgement(const cServices& services) : m_Services(services) {}
+    explicit cAcknowledgement(const cListedAlarmServices& services) : m_Services(services) {}
 
     // Either may be nothing (0, null); a popup passes the alarm, the list its row.
     void AckAlarm(RecordId row, const AlarmPtr& alarm);
@@ -37,7 +23,7 @@ class cAcknowledgement {
     bool Observe(cVigrelRecieverAlarm& alarm);
     void EndSound();
 
-    cServices m_Services;
+    cListedAlarmServices m_Services;
 };
 
 }  // namespace vigrel

@@ -4,7 +4,7 @@
 
 namespace vigrel {
 
-cListedAlarms::cListedAlarms(const cServices& services) : m_Services(services) {
+cListedAlarms::cListedAlarms(const cListedAlarmServices& services) : m_Services(services) {
     m_Services.store.OnGivenUp = [this](cVigrelRecieverAlarm& alarm) {
         m_Services.view.RemoveAlarmRow(alarm);
     };

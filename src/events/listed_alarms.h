@@ -1,12 +1,6 @@
 #pragma once
 
-#include "common/log.h"
-#include "common/receiver_state.h"
-#include "common/settings.h"
-#include "common/texts.h"
-#include "events/alarm_list_view.h"
-#include "events/alarm_store.h"
-#include "platform/report_list.h"
+#include "events/listed_alarm_services.h"
 
 namespace vigrel {
 
@@ -14,16 +8,7 @@ namespace vigrel {
 // that the store gives up goes with it.
 class cListedAlarms {
   public:
-    struct cServices {
-        cAlarmStore& store;
-        cAlarmListView& view;
-        cReportList& list;
-        cLog& log;
-        const cTexts& texts;
-        const cSettings& settings;
-        cReceiverState& state;
-    };
-    explicit cListedAlarms(const cServices& services);
+    explicit cListedAlarms(const cListedAlarmServices& services);
     ~cListedAlarms() { m_Services.store.OnGivenUp = nullptr; }
     cListedAlarms(const cListedAlarms&) = delete;
     cListedAlarms& operator=(const cListedAlarms&) = delete;
@@ -39,7 +24,7 @@ class cListedAlarms {
   private:
     void LogRemoved(std::int32_t removed);
 
-    cServices m_Services;
+    cListedAlarmServices m_Services;
 };
 
 }  // namespace vigrel
