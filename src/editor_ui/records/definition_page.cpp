@@ -1,41 +1,18 @@
 #include "editor_ui/records/definition_page.h"
 
 #include <QApplication>
-#include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLineEdit>
-#include <QSortFilterProxyModel>
 #include <QSplitter>
 #include <QTabWidget>
-#include <QTableView>
-#include <QToolButton>
 #include <QVBoxLayout>
-#include <algorithm>
 
-#include "editor_ui/pages/editor_action.h"
 #include "editor_ui/pages/note_bar.h"
 #include "editor_ui/pages/scrolled.h"
-#include "windows/plain_text.h"
 
 namespace vigrel {
 namespace {
 
 constexpr int kUndoSteps = 200;
-
-// Finds a text in any column.
-QSortFilterProxyModel* MakeFilter(cDefinitionModel& model, QObject* parent) {
-    auto* filter = new QSortFilterProxyModel(parent);
-    filter->setSortRole(cDefinitionModel::PlainTextRole);
-    filter->setFilterRole(cDefinitionModel::PlainTextRole);
-    filter->setSortCaseSensitivity(Qt::CaseInsensitive);
-    filter->setSortLocaleAware(true);
-    filter->setFilterCaseSensitivity(Qt::CaseInsensitive);
-    filter->setFilterKeyColumn(-1);
-    // A row must not jump away, or vanish, while its name is typed.
-    filter->setDynamicSortFilter(false);
-    filter->setSourceModel(&model);
-    return filter;
-}
 
 }  // namespace
 
@@ -46,11 +23,9 @@ cDefinitionPage::cDefinitionPage(cEditorServices& services, std::unique_ptr<cDef
       m_Source(std::move(source)),
       m_TakeNotes(std::move(takeNotes)),
       m_Model(*m_Source),
-      m_Filter(MakeFilter(m_Model, this)),
+      m_Actions(*this),
       m_Notes(new cNoteBar),
-      m_Search(new QLineEdit),
-      m_List(new QTableView),
-      m_Count(new cPlainLabel) {
+      m_List(new cDefinitionList(m_Model)) {
     m_UndoStack.setUndoLimit(kUndoSteps);
     connect(qApp, &QApplication::focusChanged, this, [this] { ++m_Session; });
 }
@@ -65,8 +40,10 @@ void cDefinitionPage::SetUp(cPageWords words, cPageForm form) {
     m_Words = std::move(words);
     m_Form = std::move(form);
     m_Model.SetDetailsCaption(m_Words.details);
-    MakeActions();
-    MakeList();
+    m_List->SetName(m_Words.title);
+    setFocusProxy(m_List);
+    ConnectActions();
+    connect(m_List, &cDefinitionList::ChosenChanged, this, &cDefinitionPage::ShowChosen);
     auto* splitter = new QSplitter;
     splitter->addWidget(MakeListPanel());
     splitter->addWidget(Scrolled(m_Form.widget));
@@ -77,114 +54,29 @@ void cDefinitionPage::SetUp(cPageWords words, cPageForm form) {
     layout->addWidget(m_Notes);
     layout->addWidget(splitter, 1);
     m_Notes->Show(m_TakeNotes());
-    Choose(m_Filter->rowCount() > 0 ? m_Filter->mapToSource(m_Filter->index(0, 0)).row() : -1);
-    ShowCount();
+    Choose(m_List->PositionNear(0));
 }
 
-QAction* cDefinitionPage::MakeAction(const char* objectName, const QString& text, const QString& tip,
-                                     const QKeySequence& keys, void (cDefinitionPage::*press)()) {
-    QAction* action = MakeEditorAction(*this, objectName, text, keys);
-    action->setToolTip(keys.isEmpty() ? tip : tip + " (" + keys.toString(QKeySequence::NativeText) + ")");
-    connect(action, &QAction::triggered, this, press);
-    return action;
-}
-
-void cDefinitionPage::MakeActions() {
-    m_New = MakeAction("Action_New", tr("&New"), tr("Make a new one"), tr("Ctrl+Ins"), &cDefinitionPage::New);
-    m_Copy = MakeAction("Action_Copy", tr("&Copy"), tr("Make a copy of the chosen one"), tr("Ctrl+D"),
-                        &cDefinitionPage::Copy);
-    m_Delete = MakeAction("Action_Delete", tr("&Delete"), tr("Delete the chosen one"), tr("Ctrl+Del"),
-                          &cDefinitionPage::Delete);
-    m_Save = MakeAction("Action_Save", tr("Sa&ve this"), tr("Save the chosen one; Ctrl+S saves all"), {},
-                        &cDefinitionPage::SaveChosen);
-    m_Revert = MakeAction("Action_Revert", tr("&Revert"), tr("Give up the changes of the chosen one"), {},
-                          &cDefinitionPage::Revert);
-    MakeAction("Action_Find", tr("&Find"), tr("Search in the list"), QKeySequence::Find,
-               &cDefinitionPage::Find);
-}
-
-void cDefinitionPage::Find() {
-    m_Search->setFocus();
-    m_Search->selectAll();
-}
-
-QList<QAction*> cDefinitionPage::EditActions() const {
-    return {m_New, m_Copy, m_Delete, nullptr, m_Save, m_Revert};
-}
-
-void cDefinitionPage::MakeList() {
-    m_List->setObjectName("List_Definitions");
-    setFocusProxy(m_List);
-    m_List->setAccessibleName(m_Words.title);
-    m_List->setModel(m_Filter);
-    m_List->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_List->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_List->setSortingEnabled(true);
-    m_List->sortByColumn(cDefinitionModel::Name, Qt::AscendingOrder);
-    m_List->setTabKeyNavigation(false);
-    m_List->setShowGrid(false);
-    m_List->setWordWrap(false);
-    m_List->verticalHeader()->hide();
-    m_List->horizontalHeader()->setHighlightSections(false);
-    QHeaderView& header = *m_List->horizontalHeader();
-    header.setSectionResizeMode(QHeaderView::Stretch);
-    header.setSectionResizeMode(cDefinitionModel::Number, QHeaderView::ResizeToContents);
-    // Numbers have four digits: the rows in sight tell the width.
-    header.setResizeContentsPrecision(0);
-    connect(m_List->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            [this] { ShowChosen(); });
+void cDefinitionPage::ConnectActions() {
+    connect(m_Actions.m_New, &QAction::triggered, this, &cDefinitionPage::New);
+    connect(m_Actions.m_Copy, &QAction::triggered, this, &cDefinitionPage::Copy);
+    connect(m_Actions.m_Delete, &QAction::triggered, this, &cDefinitionPage::Delete);
+    connect(m_Actions.m_Save, &QAction::triggered, this, &cDefinitionPage::SaveChosen);
+    connect(m_Actions.m_Revert, &QAction::triggered, this, &cDefinitionPage::Revert);
+    connect(m_Actions.m_Find, &QAction::triggered, m_List, &cDefinitionList::FocusSearch);
 }
 
 QWidget* cDefinitionPage::MakeListPanel() {
-    m_Search->setObjectName("Text_Search");
-    m_Search->setAccessibleName(tr("Search"));
-    m_Search->setPlaceholderText(tr("Search (Ctrl+F)"));
-    m_Search->setClearButtonEnabled(true);
-    connect(m_Search, &QLineEdit::textChanged, this, [this](const QString& text) {
-        m_Filter->setFilterFixedString(text);
-        ShowCount();
-    });
-    m_Count->setObjectName("Label_Count");
     auto* panel = new QWidget;
     auto* layout = new QVBoxLayout(panel);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_Search);
     layout->addWidget(m_List, 1);
-    layout->addWidget(m_Count);
-    layout->addWidget(MakeButtons());
+    layout->addWidget(m_Actions.MakeButtons());
     return panel;
-}
-
-QWidget* cDefinitionPage::MakeButtons() {
-    auto* panel = new QWidget;
-    auto* layout = new QHBoxLayout(panel);
-    layout->setContentsMargins(0, 0, 0, 0);
-    for (QAction* action : {m_New, m_Copy, m_Delete, m_Save, m_Revert}) {
-        auto* button = new QToolButton;
-        button->setDefaultAction(action);
-        button->setToolButtonStyle(Qt::ToolButtonTextOnly);
-        button->setFocusPolicy(Qt::TabFocus);
-        button->setObjectName(QString(action->objectName()).replace("Action_", "Button_"));
-        layout->addWidget(button);
-    }
-    layout->addStretch(1);
-    return panel;
-}
-
-int cDefinitionPage::Chosen() const {
-    const QModelIndex current = m_Filter->mapToSource(m_List->currentIndex());
-    // The files that can't be read stand behind the definitions.
-    return current.isValid() && current.row() < m_Model.Definitions() ? current.row() : -1;
 }
 
 void cDefinitionPage::Choose(int position) {
-    const auto find = [&] {
-        return position < 0 ? QModelIndex() : m_Filter->mapFromSource(m_Model.index(position, 0));
-    };
-    // A search that hides the wanted one is given up.
-    if (position >= 0 && !find().isValid()) m_Search->clear();
-    m_List->setCurrentIndex(find());
-    if (find().isValid()) m_List->scrollTo(find());
+    m_List->Choose(position);
     ShowChosen();
 }
 
@@ -210,27 +102,12 @@ void cDefinitionPage::ShowField(const QString& field) {
 
 void cDefinitionPage::UpdateActions() {
     const int chosen = Chosen();
-    const bool changed = chosen >= 0 && m_Model.HasChanges(chosen);
-    m_Copy->setEnabled(chosen >= 0);
-    m_Delete->setEnabled(chosen >= 0);
-    m_Save->setEnabled(changed);
-    m_Revert->setEnabled(changed);
-}
-
-void cDefinitionPage::ShowCount() {
-    const int all = m_Model.rowCount();
-    const int shown = m_Filter->rowCount();
-    m_Count->setText(shown == all ? tr("%1 in all").arg(all) : tr("%1 of %2").arg(shown).arg(all));
-}
-
-// Only after a save, so that no row jumps away while it is edited.
-void cDefinitionPage::Sort() {
-    m_Filter->sort(m_Filter->sortColumn(), m_Filter->sortOrder());
+    m_Actions.Enable(chosen >= 0, chosen >= 0 && m_Model.HasChanges(chosen));
 }
 
 void cDefinitionPage::Changed() {
     UpdateActions();
-    ShowCount();
+    m_List->ShowCount();
     emit StateChanged();
 }
 
@@ -298,12 +175,11 @@ void cDefinitionPage::Delete() {
 
 // The one that takes its place in the list is chosen next.
 RecordPtr cDefinitionPage::TakeOut(int position) {
-    const int row = m_Filter->mapFromSource(m_Model.index(position, 0)).row();
+    const int place = m_List->PlaceOf(position);
     const QString name = NameAt(position);
     m_Form.show(-1);
     RecordPtr record = m_Model.TakeOut(position);
-    const QModelIndex next = m_Filter->index(std::clamp(row, 0, std::max(m_Filter->rowCount() - 1, 0)), 0);
-    Choose(record ? m_Filter->mapToSource(next).row() : position);
+    Choose(record ? m_List->PositionNear(place) : position);
     Changed();
     if (record) {
         m_TakeNotes();
@@ -391,7 +267,8 @@ void cDefinitionPage::SaveChosen() {
     if (position < 0 || !SavePosition(position)) return;
     // The form shows what the file has now.
     ShowChosen();
-    Sort();
+    // Only now, so that no row jumps away while it is edited.
+    m_List->Sort();
     Changed();
     emit Message(tr("Saved \"%1\"").arg(NameAt(position)));
 }
@@ -408,7 +285,7 @@ bool cDefinitionPage::Save() {
         ++saved;
     }
     ShowChosen();
-    Sort();
+    m_List->Sort();
     Changed();
     emit Message(tr("Saved: %1").arg(saved));
     return true;

@@ -8,13 +8,10 @@
 
 #include "editor_ui/pages/editor_page.h"
 #include "editor_ui/pages/editor_services.h"
+#include "editor_ui/records/definition_actions.h"
+#include "editor_ui/records/definition_list.h"
 #include "editor_ui/records/definition_model.h"
 #include "editor_ui/records/record_commands.h"
-
-class QLabel;
-class QLineEdit;
-class QSortFilterProxyModel;
-class QTableView;
 
 namespace vigrel {
 
@@ -58,10 +55,10 @@ class cDefinitionPage : public cEditorPage, private cRecordSteps {
     // Saves every changed definition; false, with the one chosen that can't be saved, when changes remain.
     bool Save() override;
     QUndoStack* UndoStack() override { return &m_UndoStack; }
-    QList<QAction*> EditActions() const override;
+    QList<QAction*> EditActions() const override { return m_Actions.Entries(); }
 
     // The position in the source of the chosen definition, -1 for none.
-    int Chosen() const;
+    int Chosen() const { return m_List->Chosen(); }
     void Choose(int position);
 
   protected:
@@ -76,18 +73,13 @@ class cDefinitionPage : public cEditorPage, private cRecordSteps {
     void changeEvent(QEvent* event) override;
 
   private:
-    QAction* MakeAction(const char* objectName, const QString& text, const QString& tip,
-                        const QKeySequence& keys, void (cDefinitionPage::*press)());
-    void MakeActions();
-    void MakeList();
+    void ConnectActions();
     QWidget* MakeListPanel();
-    QWidget* MakeButtons();
     void New();
     void Copy();
     void Delete();
     void SaveChosen();
     void Revert();
-    void Find();
     cFieldProblem FormProblem() const;
     cFieldProblem ProblemAt(int position) const;
     bool SavePosition(int position);
@@ -106,10 +98,8 @@ class cDefinitionPage : public cEditorPage, private cRecordSteps {
     RecordPtr TakeOut(int position);
     QString DeleteQuestion(int position) const;
     void TellFailure(const QString& text);
-    void Sort();
     void Changed();
     void UpdateActions();
-    void ShowCount();
 
     cEditorServices& m_Services;
     std::unique_ptr<cDefinitionSource> m_Source;
@@ -120,12 +110,9 @@ class cDefinitionPage : public cEditorPage, private cRecordSteps {
     QUndoStack m_UndoStack;
     RecordPtr m_Before;  // the chosen one before the next edit
     int m_Session = 0;   // what is typed in one joins to one step
-    QSortFilterProxyModel* m_Filter;
+    cDefinitionActions m_Actions;
     cNoteBar* m_Notes;
-    QLineEdit* m_Search;
-    QTableView* m_List;
-    QLabel* m_Count;
-    QAction *m_New = nullptr, *m_Copy = nullptr, *m_Delete = nullptr, *m_Save = nullptr, *m_Revert = nullptr;
+    cDefinitionList* m_List;
 };
 
 }  // namespace vigrel

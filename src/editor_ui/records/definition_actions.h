@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QAction>
+#include <QList>
+
+namespace vigrel {
+
+// What can be done with the definitions of a page: actions of the page with their keys, and buttons for them.
+struct cDefinitionActions {
+    explicit cDefinitionActions(QWidget& page);
+
+    // Where one is chosen, and where it has changes.
+    void Enable(bool chosen, bool changed) const;
+    // For a menu; null for a line between.
+    QList<QAction*> Entries() const { return {m_New, m_Copy, m_Delete, nullptr, m_Save, m_Revert}; }
+    // In a row; the caller owns it.
+    QWidget* MakeButtons() const;
+
+    QAction *m_New, *m_Copy, *m_Delete, *m_Save, *m_Revert, *m_Find;
+};
+
+}  // namespace vigrel
