@@ -6,7 +6,7 @@ set -euo pipefail
 # Building and running a station.
 packages=(
     g++ cmake ninja-build pkg-config
-    qt6-base-dev qt6-svg-dev libgl-dev libxcb1-dev
+    qt6-base-dev qt6-l10n-tools qt6-svg-dev libgl-dev libxcb1-dev
     libsndfile1-dev libpulse-dev libhidapi-dev libcups2-dev
     fonts-dejavu-core qt6-translations-l10n
 )

@@ -18,9 +18,11 @@
 #include "common/texts.h"
 #include "definitions/station_definitions.h"
 #include "editor_ui/window/definitions_window.h"
+#include "editor_ui/window/editor_words.h"
 #include "windows/application.h"
 #include "windows/built_in_texts.h"
 #include "windows/qt_message_box.h"
+#include "windows/toolkit_words.h"
 
 namespace vigrel {
 namespace {
@@ -46,6 +48,12 @@ std::function<std::string(std::int32_t)> TextSource(cTexts& texts, const cLocale
         if (loaded || id < TextMonday || id > TextSunday) return texts.GetText(id);
         return forms.dayNames[static_cast<std::size_t>(id - TextMonday + 1) % 7];
     };
+}
+
+// The station's; before its first start, and with one that isn't delivered, the desktop's.
+std::string LanguageOf(const cIni& ini) {
+    std::string language = ini.GetIniString("General", "Language", "");
+    return ToolkitLanguage(language).isEmpty() ? LanguageOfDesktop(QLocale()) : language;
 }
 
 int Run(int argc, char** argv) {
@@ -80,7 +88,11 @@ int Run(int argc, char** argv) {
     const cSystemClock clock;
     const cLocaleForms forms = cQtLocale().Forms();
     cIni ini(files, applicationPath);
-    application.SpeakLanguage(ini.GetIniString("General", "Language", ""));
+    const std::string language = LanguageOf(ini);
+    application.SpeakLanguage(language);
+    cEditorWords words(language);
+    cApplication::installTranslator(&words);
+    cApplication::setApplicationDisplayName(cDefinitionsWindow::tr("Vigrel Definitions"));
     const cDeliveredTexts deliveredTexts = BuiltInTexts();
     cTexts texts(files, ini, &deliveredTexts);
     cDialogPrompts prompts;

@@ -21,8 +21,9 @@ struct cWord {
     std::array<const char16_t*, kColumns> words;  // in the order of kLanguages
 };
 
-// Where the toolkit looks them up: buttons of boxes, texts of several lines, of one line.
-constexpr std::array<std::string_view, 3> kContexts{"QPlatformTheme", "QWidgetTextControl", "QLineEdit"};
+// Where the toolkit looks them up: buttons of boxes, texts of several lines, of one line, tabs.
+constexpr std::array<std::string_view, 5> kContexts{"QPlatformTheme", "QWidgetTextControl", "QLineEdit",
+                                                    "QTabBar", "CloseButton"};
 
 constexpr cWord kWords[] = {
     {"OK", {u"OK", u"OK", u"OK", u"OK", u"OK"}},
@@ -39,6 +40,11 @@ constexpr cWord kWords[] = {
     {"&Copy", {u"&Kopiér", u"&Kopiera", u"&Kopier", u"&Kopieren", u"&Kopioi"}},
     {"&Paste", {u"&Indsæt", u"Klistra &in", u"&Lim inn", u"&Einfügen", u"L&iitä"}},
     {"Delete", {u"Slet", u"Ta bort", u"Slett", u"Löschen", u"Poista"}},
+    {"Close Tab", {u"Luk faneblad", u"Stäng flik", u"Lukk fane", u"Tab schließen", u"Sulje välilehti"}},
+    {"Scroll Left",
+     {u"Rul til venstre", u"Rulla åt vänster", u"Rull til venstre", u"Nach links", u"Vieritä vasemmalle"}},
+    {"Scroll Right",
+     {u"Rul til højre", u"Rulla åt höger", u"Rull til høyre", u"Nach rechts", u"Vieritä oikealle"}},
     {"Select All", {u"Markér alt", u"Markera allt", u"Merk alt", u"Alles auswählen", u"Valitse kaikki"}},
 };
 
@@ -52,6 +58,13 @@ auto FindLanguage(std::string_view number) {
 QString ToolkitLanguage(std::string_view language) {
     const auto found = FindLanguage(language);
     return found == kLanguages.end() ? QString() : QString(found->toolkit);
+}
+
+std::string LanguageOfDesktop(const QLocale& desktop) {
+    const auto found = std::find_if(kLanguages.begin(), kLanguages.end(), [&](const cLanguage& language) {
+        return QLocale(language.toolkit).language() == desktop.language();
+    });
+    return std::string(found == kLanguages.end() ? kLanguages.back().number : found->number);
 }
 
 void cToolkitWords::SetLanguage(std::string_view language) {

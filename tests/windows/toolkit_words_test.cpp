@@ -85,6 +85,15 @@ TEST_F(ToolkitWords, StayAsTheyAreInALanguageThatIsNotDelivered) {
     }
 }
 
+TEST_F(ToolkitWords, AreChosenByTheDesktopWhereTheStationHasNoLanguage) {
+    const std::pair<const char*, const char*> expected[] = {
+        {"sv_FI", "046"}, {"de_AT", "049"}, {"da_DK", "045"}, {"nb_NO", "047"},
+        {"fi_FI", "358"}, {"en_US", "044"}, {"C", "044"},     {"fr_FR", "044"}};
+    for (const auto& [desktop, language] : expected) {
+        EXPECT_EQ(LanguageOfDesktop(QLocale(desktop)), language) << desktop;
+    }
+}
+
 TEST_F(ToolkitWords, LeaveOtherWordsOfTheSameSpellingAlone) {
     Speak("046");
     EXPECT_EQ(QCoreApplication::translate("cDefinitionsWindow", "Close"), "Close");

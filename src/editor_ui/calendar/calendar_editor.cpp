@@ -25,6 +25,21 @@ constexpr std::int16_t kEntries = kDayTypes + 1;
 // A day's number of two digits and a short name of three letters stand side by side in a box of 37 units.
 constexpr int kFontSize = 10;
 
+// Of the calendar's own table, for those who translate.
+[[maybe_unused]] constexpr const char* kCountries[] = {
+    QT_TRANSLATE_NOOP("Country", "Germany"),
+    QT_TRANSLATE_NOOP("Country", "Denmark"),
+    QT_TRANSLATE_NOOP("Country", "Finland"),
+    QT_TRANSLATE_NOOP("Country", "Norway"),
+    QT_TRANSLATE_NOOP("Country", "Sweden"),
+    QT_TRANSLATE_NOOP("Country", "United Kingdom (England and Wales)"),
+    QT_TRANSLATE_NOOP("Country", "United Kingdom (Northern Ireland)"),
+    QT_TRANSLATE_NOOP("Country", "United Kingdom (Scotland)")};
+
+QString CountryName(const cHolidayCountry& country) {
+    return QCoreApplication::translate("Country", country.name.data());
+}
+
 }  // namespace
 
 cCalendarEditor::cCalendarEditor(cEditorServices& services, QWidget* parent)
@@ -107,8 +122,8 @@ QWidget* cCalendarEditor::MakeToolBox() {
     m_Schedule.setObjectName("Combo_Calendar_TimeSchedule");
     m_ShowTimeAxis.setObjectName("Check_Calendar_ShowTimeAxis");
     form->addRow(tr("Day &type to paint"), &m_DayType);
-    form->addRow(tr("&Holidays"), &m_Country);
-    form->addRow(tr("Time &schedule"), &m_Schedule);
+    form->addRow(tr("H&olidays"), &m_Country);
+    form->addRow(tr("T&ime schedule"), &m_Schedule);
     form->addRow(&m_ShowTimeAxis);
     return box;
 }
@@ -132,7 +147,7 @@ void cCalendarEditor::RefreshDayTypes() {
 void cCalendarEditor::FillCountries() {
     m_Country.addItem(tr("None"), QString());
     for (const cHolidayCountry& country : HolidayCountries()) {
-        m_Country.addItem(ToQString(country.name), ToQString(country.code));
+        m_Country.addItem(CountryName(country), ToQString(country.code));
     }
     const std::string chosen = m_Services.m_Ini.GetIniString(kIniSection, kIniHolidays, "?", kDefinitionsIni);
     // Nothing chosen yet: the desktop's country, when its holidays are known.

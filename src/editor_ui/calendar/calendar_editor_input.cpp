@@ -12,8 +12,8 @@ namespace vigrel {
 
 void cCalendarEditor::MakeActions() {
     m_Actions = {
-        MakeAction("HolidaysOfYear", tr("Give the year's &holidays the chosen day type"), tr("Ctrl+H"),
-                   [this] { TakeSelectedType(false); }),
+        MakeAction("HolidaysOfYear", tr("Give the year's &holidays the chosen day type"),
+                   QKeySequence("Ctrl+H"), [this] { TakeSelectedType(false); }),
         MakeAction("HolidaysOfAllYears", tr("Give &all years' holidays the chosen day type"), {},
                    [this] { TakeSelectedType(true); }),
         nullptr,

@@ -61,7 +61,7 @@ cColourPreview::cColourPreview(QWidget* parent)
 
     auto* fields = new QFormLayout;
     fields->addRow(tr("Ta&gs:"), m_Tags);
-    fields->addRow(tr("Cate&gory:"), m_Category);
+    fields->addRow(tr("&Category:"), m_Category);
     fields->addRow(tr("Are&a:"), m_Area);
     auto* box = new QGroupBox(tr("Preview"));
     auto* inside = new QVBoxLayout(box);

@@ -93,7 +93,7 @@ cColourRulesEditor::cColourRulesEditor(cEditorServices& services, QWidget* paren
     m_Actions = {
         MakeAction("Action_Add", tr("&Add rule"), "Ctrl+Ins", &cColourRulesEditor::Add),
         m_Remove = MakeAction("Action_Remove", tr("&Delete rule"), "Ctrl+Del", &cColourRulesEditor::Remove),
-        m_Up = MakeAction("Action_Up", tr("Move &up"), "Ctrl+Up", &cColourRulesEditor::MoveUp),
+        m_Up = MakeAction("Action_Up", tr("&Move up"), "Ctrl+Up", &cColourRulesEditor::MoveUp),
         m_Down = MakeAction("Action_Down", tr("Move d&own"), "Ctrl+Down", &cColourRulesEditor::MoveDown),
         m_Choose =
             MakeAction("Action_Colour", tr("&Choose colour..."), "", &cColourRulesEditor::ChooseColour)};

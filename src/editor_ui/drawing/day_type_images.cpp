@@ -1,7 +1,5 @@
 #include "editor_ui/drawing/day_type_images.h"
 
-#include <QCoreApplication>
-
 #include "common/numbers.h"
 #include "editor_ui/drawing/day_type_names.h"
 
@@ -11,9 +9,18 @@ namespace {
 constexpr std::string_view kSection = "DayTypeImages";
 
 constexpr std::array<const char*, cDayTypeImages::kDrawings> kNames{
-    "Star",       "Half day", "Fir tree", "Egg",   "Sun",      "Flag",    "Moon", "Snowflake",
-    "Heart",      "Suitcase", "Wrench",   "Book",  "Umbrella", "Bell",    "Key",  "Clock",
-    "Music note", "Cup",      "Leaf",     "House", "Rocket",   "Diamond", "Cross"};
+    QT_TRANSLATE_NOOP("cDayTypeImages", "Star"),       QT_TRANSLATE_NOOP("cDayTypeImages", "Half day"),
+    QT_TRANSLATE_NOOP("cDayTypeImages", "Fir tree"),   QT_TRANSLATE_NOOP("cDayTypeImages", "Egg"),
+    QT_TRANSLATE_NOOP("cDayTypeImages", "Sun"),        QT_TRANSLATE_NOOP("cDayTypeImages", "Flag"),
+    QT_TRANSLATE_NOOP("cDayTypeImages", "Moon"),       QT_TRANSLATE_NOOP("cDayTypeImages", "Snowflake"),
+    QT_TRANSLATE_NOOP("cDayTypeImages", "Heart"),      QT_TRANSLATE_NOOP("cDayTypeImages", "Suitcase"),
+    QT_TRANSLATE_NOOP("cDayTypeImages", "Wrench"),     QT_TRANSLATE_NOOP("cDayTypeImages", "Book"),
+    QT_TRANSLATE_NOOP("cDayTypeImages", "Umbrella"),   QT_TRANSLATE_NOOP("cDayTypeImages", "Bell"),
+    QT_TRANSLATE_NOOP("cDayTypeImages", "Key"),        QT_TRANSLATE_NOOP("cDayTypeImages", "Clock"),
+    QT_TRANSLATE_NOOP("cDayTypeImages", "Music note"), QT_TRANSLATE_NOOP("cDayTypeImages", "Cup"),
+    QT_TRANSLATE_NOOP("cDayTypeImages", "Leaf"),       QT_TRANSLATE_NOOP("cDayTypeImages", "House"),
+    QT_TRANSLATE_NOOP("cDayTypeImages", "Rocket"),     QT_TRANSLATE_NOOP("cDayTypeImages", "Diamond"),
+    QT_TRANSLATE_NOOP("cDayTypeImages", "Cross")};
 
 bool IsDrawing(double drawing) {
     return drawing >= 1 && drawing <= cDayTypeImages::kDrawings;
@@ -51,7 +58,7 @@ QPixmap cDayTypeImages::Drawing(int drawing, int size, qreal devicePixelRatio) c
 
 QString cDayTypeImages::DrawingName(int drawing) {
     if (!IsDrawing(drawing)) return {};
-    return QCoreApplication::translate("cDayTypeImages", kNames[static_cast<std::size_t>(drawing) - 1]);
+    return tr(kNames[static_cast<std::size_t>(drawing) - 1]);
 }
 
 int cDayTypeImages::DrawingOf(int number) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QIcon>
 #include <QString>
 #include <array>
@@ -18,6 +19,7 @@ namespace vigrel {
 inline constexpr int kDayTypeImageSize = 16;
 
 class cDayTypeImages {
+    Q_DECLARE_TR_FUNCTIONS(cDayTypeImages)
   public:
     static constexpr int kTypes = kDayTypes - kWeekDays;
     static constexpr int kDrawings = 23;

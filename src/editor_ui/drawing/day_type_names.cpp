@@ -1,5 +1,6 @@
 #include "editor_ui/drawing/day_type_names.h"
 
+#include "adapters/qt/qt_text.h"
 #include "schedule/day_types.h"
 
 namespace vigrel {
@@ -23,11 +24,12 @@ std::string cDayTypeNames::Name(std::int16_t dayType) const {
     const std::size_t index = DayTypeIndex(dayType);
     if (dayType < kWeekDays) return m_DayNames.m_LongNames[index];
     return m_Ini.GetIniString(kSection, std::to_string(dayType),
-                              "Special day type " + std::to_string(dayType - kWeekDays + 1), kDefinitionsIni);
+                              FromQString(tr("Special day type %1").arg(dayType - kWeekDays + 1)),
+                              kDefinitionsIni);
 }
 
 std::string cDayTypeNames::Entry(std::int16_t number) const {
-    if (number == 1) return "No special day type";
+    if (number == 1) return FromQString(tr("No special day type"));
     return Name(static_cast<std::int16_t>(number - 2));
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -19,6 +20,7 @@ cDayNames DayNamesOf(const cLocaleForms& forms);
 // The names of all day types. Those of the sixteen special types are the installation's own: keys 7 to 22 of
 // section "DayTypes".
 class cDayTypeNames {
+    Q_DECLARE_TR_FUNCTIONS(cDayTypeNames)
   public:
     cDayTypeNames(cIni& ini, const cLocaleForms& forms) : m_Ini(ini), m_DayNames(DayNamesOf(forms)) {}
 

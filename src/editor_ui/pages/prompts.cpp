@@ -1,6 +1,5 @@
 #include "editor_ui/pages/prompts.h"
 
-#include <QCoreApplication>
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QInputDialog>
@@ -10,10 +9,6 @@
 
 namespace vigrel {
 namespace {
-
-QString Tr(const char* text) {
-    return QCoreApplication::translate("cDialogPrompts", text);
-}
 
 QMessageBox::StandardButton Ask(QWidget* owner, QMessageBox::Icon icon, const QString& text,
                                 QMessageBox::StandardButtons buttons) {
@@ -25,7 +20,7 @@ QMessageBox::StandardButton Ask(QWidget* owner, QMessageBox::Icon icon, const QS
 }  // namespace
 
 cPrompts::eSave cDialogPrompts::AskToSave(QWidget* owner, const QString& title) {
-    switch (Ask(owner, QMessageBox::Warning, Tr("%1 has changes. Save them?").arg(title),
+    switch (Ask(owner, QMessageBox::Warning, tr("%1 has changes. Save them?").arg(title),
                 QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel)) {
         case QMessageBox::Save:
             return eSave::Save;
@@ -43,9 +38,9 @@ cPrompts::eConflict cDialogPrompts::AskConflict(QWidget* owner, const QString& t
     const auto add = [&box](const QString& caption) {
         return box.addButton(caption, QMessageBox::AcceptRole);
     };
-    const QAbstractButton* mine = add(Tr("&Keep mine"));
-    const QAbstractButton* theirs = add(Tr("&Take theirs"));
-    const QAbstractButton* shown = both ? add(Tr("&Show both")) : nullptr;
+    const QAbstractButton* mine = add(tr("&Keep mine"));
+    const QAbstractButton* theirs = add(tr("&Take theirs"));
+    const QAbstractButton* shown = both ? add(tr("&Show both")) : nullptr;
     box.exec();
     const QAbstractButton* pressed = box.clickedButton();
     if (pressed == mine) return eConflict::Mine;
@@ -63,13 +58,13 @@ void cDialogPrompts::ShowFailure(QWidget* owner, const QString& text) {
 }
 
 QString cDialogPrompts::AskOpenPath(QWidget* owner, const QString& folder, const QString& filter) {
-    return QFileDialog::getOpenFileName(owner, Tr("Open"), folder, filter);
+    return QFileDialog::getOpenFileName(owner, tr("Open"), folder, filter);
 }
 
 // The dialog asks before an existing file is replaced, for the name with its suffix.
 QString cDialogPrompts::AskSavePath(QWidget* owner, const QString& path, const QString& filter,
                                     const QString& suffix) {
-    QFileDialog dialog(owner, Tr("Save as"), path, filter);
+    QFileDialog dialog(owner, tr("Save as"), path, filter);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(suffix);
     dialog.selectFile(path);

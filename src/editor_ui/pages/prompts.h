@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 class QWidget;
@@ -26,6 +27,7 @@ class cPrompts {
 
 // By dialogs.
 class cDialogPrompts : public cPrompts {
+    Q_DECLARE_TR_FUNCTIONS(cDialogPrompts)
   public:
     eSave AskToSave(QWidget* owner, const QString& title) override;
     eConflict AskConflict(QWidget* owner, const QString& text, bool both) override;

@@ -1,6 +1,5 @@
 #include "editor_ui/records/definition_actions.h"
 
-#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QToolButton>
 
@@ -8,10 +7,6 @@
 
 namespace vigrel {
 namespace {
-
-QString tr(const char* text) {
-    return QCoreApplication::translate("cDefinitionActions", text);
-}
 
 QAction* MakeAction(QWidget& page, const char* objectName, const QString& text, const QString& tip,
                     const QKeySequence& keys) {
@@ -23,14 +18,16 @@ QAction* MakeAction(QWidget& page, const char* objectName, const QString& text, 
 }  // namespace
 
 cDefinitionActions::cDefinitionActions(QWidget& page)
-    : m_New(MakeAction(page, "Action_New", tr("&New"), tr("Make a new one"), tr("Ctrl+Ins"))),
-      m_Copy(MakeAction(page, "Action_Copy", tr("&Copy"), tr("Make a copy of the chosen one"), tr("Ctrl+D"))),
-      m_Delete(MakeAction(page, "Action_Delete", tr("&Delete"), tr("Delete the chosen one"), tr("Ctrl+Del"))),
-      m_Save(
-          MakeAction(page, "Action_Save", tr("Sa&ve this"), tr("Save the chosen one; Ctrl+S saves all"), {})),
-      m_Revert(
-          MakeAction(page, "Action_Revert", tr("&Revert"), tr("Give up the changes of the chosen one"), {})),
-      m_Find(MakeAction(page, "Action_Find", tr("&Find"), tr("Search in the list"), QKeySequence::Find)) {}
+    : m_New(MakeAction(page, "Action_New", tr("&New"), tr("Make a new one"), QKeySequence("Ctrl+Ins"))),
+      m_Copy(MakeAction(page, "Action_Copy", tr("&Copy"), tr("Make a copy of the chosen one"),
+                        QKeySequence("Ctrl+D"))),
+      m_Delete(MakeAction(page, "Action_Delete", tr("&Delete"), tr("Delete the chosen one"),
+                          QKeySequence("Ctrl+Del"))),
+      m_Save(MakeAction(page, "Action_Save", tr("Sa&ve this"), tr("Save the chosen one; Ctrl+S saves all"),
+                        QKeySequence())),
+      m_Revert(MakeAction(page, "Action_Revert", tr("R&evert"), tr("Give up the changes of the chosen one"),
+                          QKeySequence())),
+      m_Find(MakeAction(page, "Action_Find", tr("Find"), tr("Search in the list"), QKeySequence::Find)) {}
 
 void cDefinitionActions::Enable(bool chosen, bool changed) const {
     m_Copy->setEnabled(chosen);

@@ -1,12 +1,15 @@
 #pragma once
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QList>
 
 namespace vigrel {
 
 // What can be done with the definitions of a page: actions of the page with their keys, and buttons for them.
-struct cDefinitionActions {
+class cDefinitionActions {
+    Q_DECLARE_TR_FUNCTIONS(cDefinitionActions)
+  public:
     explicit cDefinitionActions(QWidget& page);
 
     // Where one is chosen, and where it has changes.

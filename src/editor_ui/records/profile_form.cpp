@@ -194,7 +194,7 @@ QWidget* cProfileForm::MakeExternal() {
                    m_Binder.Text("Text_ExternalTagName", tr("Tag name"), &cProfile::m_ExternalTagName));
     layout->addRow("", m_Binder.Flag("Check_IgnoreExternalTag", tr("&Ignore this tag in other profiles"),
                                      &cProfile::m_IgnoreExternalTagInOtherProfiles));
-    layout->addRow("", m_Binder.Flag("Check_UseExternalFile", tr("Use an external &file"),
+    layout->addRow("", m_Binder.Flag("Check_UseExternalFile", tr("Use an external fi&le"),
                                      &cProfile::m_UseExternalFile));
     layout->addRow(tr("File &path:"),
                    m_Binder.Text("Text_ExternalFileName", tr("File path"), &cProfile::m_ExternalFileName));

@@ -18,10 +18,10 @@ cReceiverPicker::cReceiverPicker(const char* objectName, const QString& name,
       m_Receivers(receivers),
       m_List(new QListWidget),
       m_Menu(new QMenu(this)),
-      m_Add(new QPushButton(tr("&Add"))),
-      m_Remove(new QPushButton(tr("Re&move"))),
-      m_Up(new QPushButton(tr("&Up"))),
-      m_Down(new QPushButton(tr("D&own"))) {
+      m_Add(new QPushButton(tr("Add"))),
+      m_Remove(new QPushButton(tr("Remove"))),
+      m_Up(new QPushButton(tr("Up"))),
+      m_Down(new QPushButton(tr("Down"))) {
     setObjectName(objectName);
     m_List->setObjectName(QString("List_%1").arg(objectName));
     m_List->setAccessibleName(name);
@@ -39,8 +39,9 @@ QWidget* cReceiverPicker::MakeButtons() {
     auto* layout = new QVBoxLayout(panel);
     layout->setContentsMargins(0, 0, 0, 0);
     m_Add->setMenu(m_Menu);
-    for (QPushButton* button : {m_Add, m_Remove, m_Up, m_Down}) {
-        button->setObjectName(QString("Button_%1_%2").arg(objectName(), button->text().remove('&')));
+    for (const auto& [button, name] : {std::pair{m_Add, "Add"}, std::pair{m_Remove, "Remove"},
+                                       std::pair{m_Up, "Up"}, std::pair{m_Down, "Down"}}) {
+        button->setObjectName(QString("Button_%1_%2").arg(objectName(), name));
         layout->addWidget(button);
     }
     layout->addStretch(1);

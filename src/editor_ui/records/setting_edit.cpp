@@ -25,7 +25,7 @@ QString cSettingEdit::Hint(eVariantType type) {
         case eVariantType::Currency:
             return tr("number with at most four decimals");
         case eVariantType::Date:
-            return tr("2026-03-15 12:30");
+            return "2026-03-15 12:30";
         default:
             return {};
     }

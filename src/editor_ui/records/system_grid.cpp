@@ -26,7 +26,7 @@ cSystemGrid::cSystemGrid(QWidget* parent) : QWidget(parent) {
         m_Flags[static_cast<std::size_t>(i)] = flag;
     }
     auto* all = new QPushButton(tr("&All"));
-    auto* none = new QPushButton(tr("N&one"));
+    auto* none = new QPushButton(tr("&None"));
     all->setObjectName("Button_Systems_All");
     none->setObjectName("Button_Systems_None");
     layout->addWidget(all, cProfile::kSystems / kColumns, 0, 1, 2);

@@ -25,7 +25,7 @@ cScheduleEditor::cScheduleEditor(cEditorServices& services, QWidget* parent)
       m_Hours(this),
       m_Frame(this),
       m_ViewDayType(tr("Day &names in the rows")),
-      m_UseCalendar(tr("&Special day types")),
+      m_UseCalendar(tr("Special &day types")),
       m_Popup(this),
       m_Images(tr("I&mage of the day type"), this) {
     setObjectName("Editor_Schedule");

@@ -11,12 +11,12 @@ void cScheduleEditor::MakeActions() {
     m_Copy = MakeAction("Copy", tr("&Copy the day"), QKeySequence::Copy, &cScheduleEditor::Copy);
     m_Paste = MakeAction("Paste", tr("&Paste into the day"), QKeySequence::Paste, &cScheduleEditor::Paste);
     m_Delete = MakeAction("Delete", tr("&Delete the period"), QKeySequence::Delete, &cScheduleEditor::Delete);
-    m_WholeDay = MakeAction("WholeDay", tr("&Whole day"), tr("Ctrl+D"), &cScheduleEditor::WholeDay);
-    m_Invert = MakeAction("Invert", tr("&Invert the day"), tr("Ctrl+I"), &cScheduleEditor::Invert);
-    m_Grouped = MakeAction("Grouped", tr("&Grouped"), tr("Ctrl+G"), &cScheduleEditor::Group);
-    m_GroupedMonFri = MakeAction("Grouped_MonFri", tr("Monday to &Friday grouped"), tr("Ctrl+Shift+G"),
-                                 &cScheduleEditor::GroupMonFri);
-    m_Rename = MakeAction("Rename", tr("&Rename the day type..."), {}, &cScheduleEditor::Rename);
+    m_WholeDay = MakeAction("WholeDay", tr("&Whole day"), QKeySequence("Ctrl+D"), &cScheduleEditor::WholeDay);
+    m_Invert = MakeAction("Invert", tr("&Invert the day"), QKeySequence("Ctrl+I"), &cScheduleEditor::Invert);
+    m_Grouped = MakeAction("Grouped", tr("&Grouped"), QKeySequence("Ctrl+G"), &cScheduleEditor::Group);
+    m_GroupedMonFri = MakeAction("Grouped_MonFri", tr("Monday to &Friday grouped"),
+                                 QKeySequence("Ctrl+Shift+G"), &cScheduleEditor::GroupMonFri);
+    m_Rename = MakeAction("Rename", tr("Re&name the day type..."), {}, &cScheduleEditor::Rename);
     m_Grouped->setCheckable(true);
     m_GroupedMonFri->setCheckable(true);
     m_Popup.setObjectName("Menu_TimeSchedulePopup");

@@ -30,7 +30,8 @@ QAction* cDefinitionsWindow::AddEntry(QMenu& menu, const char* name, const QStri
 void cDefinitionsWindow::MakeFileMenu() {
     QMenu& menu = *menuBar()->addMenu(tr("&File"));
     AddEntry(menu, "NewSchedule", tr("&New schedule"), QKeySequence::New, [this] { NewSchedule(); });
-    AddEntry(menu, "NewCalendar", tr("New &calendar"), tr("Ctrl+Shift+N"), [this] { NewCalendar(); });
+    AddEntry(menu, "NewCalendar", tr("New &calendar"), QKeySequence("Ctrl+Shift+N"),
+             [this] { NewCalendar(); });
     AddEntry(menu, "Open", tr("&Open..."), QKeySequence::Open, [this] { Open(); });
     m_RecentMenu = menu.addMenu(tr("Open &recent"));
     m_RecentMenu->setObjectName("Menu_Recent");
@@ -40,14 +41,14 @@ void cDefinitionsWindow::MakeFileMenu() {
         CurrentPage()->FinishTyping();
         CurrentPage()->Save();
     });
-    m_SaveAs = AddEntry(menu, "SaveAs", tr("Save &as..."), tr("Ctrl+Shift+S"), [this] {
+    m_SaveAs = AddEntry(menu, "SaveAs", tr("Save &as..."), QKeySequence("Ctrl+Shift+S"), [this] {
         CurrentPage()->FinishTyping();
         CurrentPage()->SaveAs();
     });
-    m_Close =
-        AddEntry(menu, "Close", tr("&Close"), tr("Ctrl+W"), [this] { ClosePage(m_Tabs.currentIndex()); });
+    m_Close = AddEntry(menu, "Close", tr("C&lose"), QKeySequence("Ctrl+W"),
+                       [this] { ClosePage(m_Tabs.currentIndex()); });
     menu.addSeparator();
-    AddEntry(menu, "Exit", tr("E&xit"), tr("Ctrl+Q"), [this] { close(); });
+    AddEntry(menu, "Exit", tr("E&xit"), QKeySequence("Ctrl+Q"), [this] { close(); });
 }
 
 void cDefinitionsWindow::FillRecentMenu() {
@@ -60,12 +61,20 @@ void cDefinitionsWindow::FillRecentMenu() {
 
 void cDefinitionsWindow::MakeEditMenu() {
     m_EditMenu = menuBar()->addMenu(tr("&Edit"));
-    m_Undo = m_UndoGroup.createUndoAction(this, tr("&Undo"));
-    m_Redo = m_UndoGroup.createRedoAction(this, tr("&Redo"));
-    m_Undo->setObjectName("Menu_Undo");
-    m_Redo->setObjectName("Menu_Redo");
-    m_Undo->setShortcut(QKeySequence::Undo);
-    m_Redo->setShortcuts({QKeySequence(tr("Ctrl+Y")), QKeySequence(tr("Ctrl+Shift+Z"))});
+    m_Undo = AddEntry(*m_EditMenu, "Undo", tr("&Undo"), QKeySequence::Undo, [this] { m_UndoGroup.undo(); });
+    m_Redo = AddEntry(*m_EditMenu, "Redo", tr("&Redo"), {}, [this] { m_UndoGroup.redo(); });
+    m_Redo->setShortcuts({QKeySequence("Ctrl+Y"), QKeySequence("Ctrl+Shift+Z")});
+    m_Undo->setEnabled(false);
+    m_Redo->setEnabled(false);
+    connect(&m_UndoGroup, &QUndoGroup::canUndoChanged, m_Undo, &QAction::setEnabled);
+    connect(&m_UndoGroup, &QUndoGroup::canRedoChanged, m_Redo, &QAction::setEnabled);
+    // Languages differ in where the step stands, so that the toolkit's own way, a word in front, doesn't do.
+    connect(&m_UndoGroup, &QUndoGroup::undoTextChanged, m_Undo, [this](const QString& step) {
+        m_Undo->setText(step.isEmpty() ? tr("&Undo") : tr("&Undo %1").arg(QString(step).replace('&', "&&")));
+    });
+    connect(&m_UndoGroup, &QUndoGroup::redoTextChanged, m_Redo, [this](const QString& step) {
+        m_Redo->setText(step.isEmpty() ? tr("&Redo") : tr("&Redo %1").arg(QString(step).replace('&', "&&")));
+    });
     FillEditMenu();
 }
 
@@ -112,9 +121,9 @@ void cDefinitionsWindow::MakeViewMenu() {
 
 void cDefinitionsWindow::MakeStationMenu() {
     QMenu& menu = *menuBar()->addMenu(tr("&Station"));
-    AddEntry(menu, "Receivers", tr("&Receivers"), tr("Ctrl+R"), [this] { ShowReceivers(); });
-    AddEntry(menu, "Profiles", tr("&Profiles"), tr("Ctrl+P"), [this] { ShowProfiles(); });
-    AddEntry(menu, "ColourRules", tr("&Colour rules"), tr("Ctrl+L"), [this] { ShowColourRules(); });
+    AddEntry(menu, "Receivers", tr("&Receivers"), QKeySequence("Ctrl+R"), [this] { ShowReceivers(); });
+    AddEntry(menu, "Profiles", tr("&Profiles"), QKeySequence("Ctrl+P"), [this] { ShowProfiles(); });
+    AddEntry(menu, "ColourRules", tr("&Colour rules"), QKeySequence("Ctrl+L"), [this] { ShowColourRules(); });
 }
 
 void cDefinitionsWindow::MakeHelpMenu() {
@@ -153,7 +162,7 @@ QWidget* cDefinitionsWindow::MakeStartPage() {
         connect(button, &QPushButton::clicked, this, chosen);
         layout->addWidget(button, 0, Qt::AlignHCenter);
     };
-    add("Button_NewSchedule", tr("New &schedule"), &cDefinitionsWindow::NewSchedule);
+    add("Button_NewSchedule", tr("Ne&w schedule"), &cDefinitionsWindow::NewSchedule);
     add("Button_NewCalendar", tr("New c&alendar"), &cDefinitionsWindow::NewCalendar);
     add("Button_Open", tr("&Open..."), &cDefinitionsWindow::Open);
     layout->addSpacing(12);

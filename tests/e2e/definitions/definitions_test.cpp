@@ -191,6 +191,8 @@ TEST_P(DefinitionsOfAStation, AReceiverIsMadeSavedReopenedChangedAndDeleted) {
     End();
 }
 
+class EditorsLanguage : public ::testing::Test, protected cEditorProgram {};
+
 // Where the off duty behaviour stands behind a name of five characters and otherwise empty texts.
 constexpr std::size_t kOffDuty = 187;
 
@@ -222,6 +224,16 @@ TEST_P(DefinitionsOfAStation, AProfileIsMadeSavedReopenedChangedAndDeleted) {
     DeleteChosen();
     EXPECT_TRUE(BecomesEmpty("Profiles"));
     End();
+}
+
+TEST_F(EditorsLanguage, IsThatOfTheStation) {
+    Put("VigrelReceiver.INI", "[General]\r\nLanguage=358\r\n");
+    Start(1);
+    ASSERT_TRUE(HasTitle("Vigrel-m\u00e4\u00e4ritykset"));
+    Keys({"ctrl+n"});
+    ASSERT_TRUE(HasTitle("Aikaohjelma 1 - Vigrel-m\u00e4\u00e4ritykset"));
+    Keys({"ctrl+q"});
+    EXPECT_EQ(WaitForEnd(), 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(Scale, DefinitionsOfAStation, ::testing::Values(1, 2));

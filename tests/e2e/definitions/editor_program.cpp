@@ -19,7 +19,7 @@
 namespace vigrel::testing {
 namespace {
 
-constexpr const char* kTitle = "Vigrel Definitions";
+constexpr const char* kTitle = "^Vigrel";  // in every language
 constexpr const char* kErrors = "config/stderr.txt";
 
 template <class Condition>

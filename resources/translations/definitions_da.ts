@@ -1,0 +1,1403 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="da_DK" sourcelanguage="en">
+<context>
+    <name>Country</name>
+    <message>
+        <source>Germany</source>
+        <translation>Tyskland</translation>
+    </message>
+    <message>
+        <source>Denmark</source>
+        <translation>Danmark</translation>
+    </message>
+    <message>
+        <source>Finland</source>
+        <translation>Finland</translation>
+    </message>
+    <message>
+        <source>Norway</source>
+        <translation>Norge</translation>
+    </message>
+    <message>
+        <source>Sweden</source>
+        <translation>Sverige</translation>
+    </message>
+    <message>
+        <source>United Kingdom (England and Wales)</source>
+        <translation>Storbritannien (England og Wales)</translation>
+    </message>
+    <message>
+        <source>United Kingdom (Northern Ireland)</source>
+        <translation>Storbritannien (Nordirland)</translation>
+    </message>
+    <message>
+        <source>United Kingdom (Scotland)</source>
+        <translation>Storbritannien (Skotland)</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Calendars (*.cal);;All files (*)</source>
+        <translation>Kalendere (*.cal);;Alle filer (*)</translation>
+    </message>
+    <message>
+        <source>changing %1</source>
+        <translation>ændring af %1</translation>
+    </message>
+    <message>
+        <source>The name is empty.</source>
+        <translation>Navnet er tomt.</translation>
+    </message>
+    <message>
+        <source>Choose a type.</source>
+        <translation>Vælg en type.</translation>
+    </message>
+</context>
+<context>
+    <name>cDayTypeImages</name>
+    <message>
+        <source>Star</source>
+        <translation>Stjerne</translation>
+    </message>
+    <message>
+        <source>Half day</source>
+        <translation>Halv dag</translation>
+    </message>
+    <message>
+        <source>Fir tree</source>
+        <translation>Grantræ</translation>
+    </message>
+    <message>
+        <source>Egg</source>
+        <translation>Æg</translation>
+    </message>
+    <message>
+        <source>Sun</source>
+        <translation>Sol</translation>
+    </message>
+    <message>
+        <source>Flag</source>
+        <translation>Flag</translation>
+    </message>
+    <message>
+        <source>Moon</source>
+        <translation>Måne</translation>
+    </message>
+    <message>
+        <source>Snowflake</source>
+        <translation>Snefnug</translation>
+    </message>
+    <message>
+        <source>Heart</source>
+        <translation>Hjerte</translation>
+    </message>
+    <message>
+        <source>Suitcase</source>
+        <translation>Kuffert</translation>
+    </message>
+    <message>
+        <source>Wrench</source>
+        <translation>Skruenøgle</translation>
+    </message>
+    <message>
+        <source>Book</source>
+        <translation>Bog</translation>
+    </message>
+    <message>
+        <source>Umbrella</source>
+        <translation>Paraply</translation>
+    </message>
+    <message>
+        <source>Bell</source>
+        <translation>Klokke</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Nøgle</translation>
+    </message>
+    <message>
+        <source>Clock</source>
+        <translation>Ur</translation>
+    </message>
+    <message>
+        <source>Music note</source>
+        <translation>Node</translation>
+    </message>
+    <message>
+        <source>Cup</source>
+        <translation>Kop</translation>
+    </message>
+    <message>
+        <source>Leaf</source>
+        <translation>Blad</translation>
+    </message>
+    <message>
+        <source>House</source>
+        <translation>Hus</translation>
+    </message>
+    <message>
+        <source>Rocket</source>
+        <translation>Raket</translation>
+    </message>
+    <message>
+        <source>Diamond</source>
+        <translation>Diamant</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>Kors</translation>
+    </message>
+</context>
+<context>
+    <name>cDayTypeNames</name>
+    <message>
+        <source>Special day type %1</source>
+        <translation>Særlig dagtype %1</translation>
+    </message>
+    <message>
+        <source>No special day type</source>
+        <translation>Ingen særlig dagtype</translation>
+    </message>
+</context>
+<context>
+    <name>cDefinitionActions</name>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;Ny</translation>
+    </message>
+    <message>
+        <source>Make a new one</source>
+        <translation>Opret en ny</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopiér</translation>
+    </message>
+    <message>
+        <source>Make a copy of the chosen one</source>
+        <translation>Kopiér den valgte</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Slet</translation>
+    </message>
+    <message>
+        <source>Delete the chosen one</source>
+        <translation>Slet den valgte</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve this</source>
+        <translation>Gem &amp;denne</translation>
+    </message>
+    <message>
+        <source>Save the chosen one; Ctrl+S saves all</source>
+        <translation>Gem den valgte; Ctrl+S gemmer alle</translation>
+    </message>
+    <message>
+        <source>R&amp;evert</source>
+        <translation>N&amp;ulstil</translation>
+    </message>
+    <message>
+        <source>Give up the changes of the chosen one</source>
+        <translation>Opgiv ændringerne i den valgte</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Søg</translation>
+    </message>
+    <message>
+        <source>Search in the list</source>
+        <translation>Søg i listen</translation>
+    </message>
+</context>
+<context>
+    <name>cDialogPrompts</name>
+    <message>
+        <source>%1 has changes. Save them?</source>
+        <translation>%1 har ændringer. Vil du gemme dem?</translation>
+    </message>
+    <message>
+        <source>&amp;Keep mine</source>
+        <translation>&amp;Behold min</translation>
+    </message>
+    <message>
+        <source>&amp;Take theirs</source>
+        <translation>&amp;Tag den anden</translation>
+    </message>
+    <message>
+        <source>&amp;Show both</source>
+        <translation>&amp;Vis begge</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Åbn</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>Gem som</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cCalendarEditor</name>
+    <message>
+        <source>Show the day&apos;s &amp;periods</source>
+        <translation>Vis &amp;dagens perioder</translation>
+    </message>
+    <message>
+        <source>Choose a day type and paint it over the days with the left mouse button.</source>
+        <translation>Vælg en dagtype, og mal den hen over dagene med venstre museknap.</translation>
+    </message>
+    <message>
+        <source>Previous month (Page Up)</source>
+        <translation>Forrige måned (Page Up)</translation>
+    </message>
+    <message>
+        <source>Next month (Page Down)</source>
+        <translation>Næste måned (Page Down)</translation>
+    </message>
+    <message>
+        <source>To&amp;day</source>
+        <translation>&amp;I dag</translation>
+    </message>
+    <message>
+        <source>The month of today (Home)</source>
+        <translation>Denne måned (Home)</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>År</translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation>Måned</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>Kalender</translation>
+    </message>
+    <message>
+        <source>None chosen</source>
+        <translation>Ingen valgt</translation>
+    </message>
+    <message>
+        <source>Day &amp;type to paint</source>
+        <translation>Dagtype, der &amp;males</translation>
+    </message>
+    <message>
+        <source>H&amp;olidays</source>
+        <translation>H&amp;elligdage</translation>
+    </message>
+    <message>
+        <source>T&amp;ime schedule</source>
+        <translation>&amp;Tidsprogram</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ingen</translation>
+    </message>
+    <message>
+        <source>Give the year&apos;s &amp;holidays the chosen day type</source>
+        <translation>Giv årets &amp;helligdage den valgte dagtype</translation>
+    </message>
+    <message>
+        <source>Give &amp;all years&apos; holidays the chosen day type</source>
+        <translation>Giv &amp;alle års helligdage den valgte dagtype</translation>
+    </message>
+    <message>
+        <source>&amp;Clear the year</source>
+        <translation>&amp;Ryd året</translation>
+    </message>
+    <message>
+        <source>Arrow keys choose a day, Space paints the day type</source>
+        <translation>Piletasterne vælger dag, mellemrum maler dagtypen</translation>
+    </message>
+    <message>
+        <source>Choose a day type to paint.</source>
+        <translation>Vælg en dagtype at male.</translation>
+    </message>
+    <message>
+        <source>painting days</source>
+        <translation>maling af dage</translation>
+    </message>
+    <message>
+        <source>Choose a day type to paint and the country of the holidays.</source>
+        <translation>Vælg en dagtype at male og helligdagenes land.</translation>
+    </message>
+    <message>
+        <source>painting holidays</source>
+        <translation>maling af helligdage</translation>
+    </message>
+    <message>
+        <source>Painted holidays: %1 (%2)</source>
+        <translation>Malede helligdage: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>clearing a year</source>
+        <translation>rydning af et år</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cColourPreview</name>
+    <message>
+        <source>Tags to try</source>
+        <translation>Tags, der prøves</translation>
+    </message>
+    <message>
+        <source>Tags to try, one a line</source>
+        <translation>Tags, der prøves, et pr. linje</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Eksempel</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>Regel</translation>
+    </message>
+    <message>
+        <source>Row</source>
+        <translation>Række</translation>
+    </message>
+    <message>
+        <source>Every other row</source>
+        <translation>Hver anden række</translation>
+    </message>
+    <message>
+        <source>Flashing</source>
+        <translation>Blinkende</translation>
+    </message>
+    <message>
+        <source>Ta&amp;gs:</source>
+        <translation>&amp;Tags:</translation>
+    </message>
+    <message>
+        <source>&amp;Category:</source>
+        <translation>&amp;Kategori:</translation>
+    </message>
+    <message>
+        <source>Are&amp;a:</source>
+        <translation>&amp;Område:</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Hard to read, by rule and least contrast (%1 is readable): %2</source>
+        <translation>Svært at læse, regel og laveste kontrast (%1 er læsbart): %2</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ingen</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cColourRulesEditor</name>
+    <message>
+        <source>&amp;Add rule</source>
+        <translation>&amp;Tilføj regel</translation>
+    </message>
+    <message>
+        <source>&amp;Delete rule</source>
+        <translation>&amp;Slet regel</translation>
+    </message>
+    <message>
+        <source>&amp;Move up</source>
+        <translation>Flyt &amp;op</translation>
+    </message>
+    <message>
+        <source>Move d&amp;own</source>
+        <translation>Flyt &amp;ned</translation>
+    </message>
+    <message>
+        <source>&amp;Choose colour...</source>
+        <translation>&amp;Vælg farve...</translation>
+    </message>
+    <message>
+        <source>Colour rules, tried from the first to the last</source>
+        <translation>Farveregler, prøves fra den første til den sidste</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>Kategorier</translation>
+    </message>
+    <message>
+        <source>Areas</source>
+        <translation>Områder</translation>
+    </message>
+    <message>
+        <source>Text colour</source>
+        <translation>Tekstfarve</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Baggrund</translation>
+    </message>
+    <message>
+        <source>Fade</source>
+        <translation>Toning</translation>
+    </message>
+    <message>
+        <source>A pattern: &quot;?&quot; is one character, &quot;*&quot; any run; case counts</source>
+        <translation>Et mønster: &quot;?&quot; er ét tegn, &quot;*&quot; et vilkårligt antal; der skelnes mellem store og små bogstaver</translation>
+    </message>
+    <message>
+        <source>Numbers and ranges from 0 to 255, such as 5;7-9, or * for all</source>
+        <translation>Tal og intervaller fra 0 til 255, f.eks. 5;7-9, eller * for alle</translation>
+    </message>
+    <message>
+        <source>Numbers and ranges from 0 to 999, such as 5;7-9, or * for all</source>
+        <translation>Tal og intervaller fra 0 til 999, f.eks. 5;7-9, eller * for alle</translation>
+    </message>
+    <message>
+        <source>Red, green and blue from 0 to 255, such as 255,255,255</source>
+        <translation>Rød, grøn og blå fra 0 til 255, f.eks. 255,255,255</translation>
+    </message>
+    <message>
+        <source>Red, green and blue from 0 to 255, such as 200,0,0</source>
+        <translation>Rød, grøn og blå fra 0 til 255, f.eks. 200,0,0</translation>
+    </message>
+    <message>
+        <source>By how much every other row is darker, from 0 to 255</source>
+        <translation>Hvor meget mørkere hver anden række er, fra 0 til 255</translation>
+    </message>
+    <message>
+        <source>Change rule</source>
+        <translation>ændring af regel</translation>
+    </message>
+    <message>
+        <source>Add rule</source>
+        <translation>tilføjelse af regel</translation>
+    </message>
+    <message>
+        <source>Delete rule</source>
+        <translation>sletning af regel</translation>
+    </message>
+    <message>
+        <source>Move rule</source>
+        <translation>flytning af regel</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farve</translation>
+    </message>
+    <message>
+        <source>Some lines were not understood. They stay in the file:
+%1</source>
+        <translation>Nogle linjer blev ikke forstået. De bliver i filen:
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cColourRulesPage</name>
+    <message>
+        <source>Colour rules</source>
+        <translation>Farveregler</translation>
+    </message>
+    <message>
+        <source>Colour rules (*.txt);;All files (*)</source>
+        <translation>Farveregler (*.txt);;Alle filer (*)</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cDefinitionList</name>
+    <message>
+        <source>Search</source>
+        <translation>Søg</translation>
+    </message>
+    <message>
+        <source>Search (Ctrl+F)</source>
+        <translation>Søg (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>%1 in all</source>
+        <translation>%1 i alt</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 af %2</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cDefinitionModel</name>
+    <message>
+        <source>Not saved yet</source>
+        <translation>Ikke gemt endnu</translation>
+    </message>
+    <message>
+        <source>Can&apos;t be saved: %1</source>
+        <translation>Kan ikke gemmes: %1</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Navn</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fil</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cDefinitionPage</name>
+    <message>
+        <source>adding &quot;%1&quot;</source>
+        <translation>tilføjelse af &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>copying &quot;%1&quot;</source>
+        <translation>kopiering af &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Another program has changed the file since it was read.</source>
+        <translation>Et andet program har ændret filen, siden den blev læst.</translation>
+    </message>
+    <message>
+        <source>deleting &quot;%1&quot;</source>
+        <translation>sletning af &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Deleted &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; er slettet</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was not deleted.</source>
+        <translation>&quot;%1&quot; blev ikke slettet.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be saved.
+
+%2</source>
+        <translation>&quot;%1&quot; kan ikke gemmes.
+
+%2</translation>
+    </message>
+    <message>
+        <source>Another program has changed the file of &quot;%1&quot; since it was read here. Keep your version, take the one in the file, or show both?</source>
+        <translation>Et andet program har ændret filen til &quot;%1&quot;, siden den blev læst her. Vil du beholde din version, tage den i filen eller vise begge?</translation>
+    </message>
+    <message>
+        <source>Another program has removed the file of &quot;%1&quot;. Write it again, or remove it here too?</source>
+        <translation>Et andet program har fjernet filen til &quot;%1&quot;. Vil du skrive den igen eller også fjerne den her?</translation>
+    </message>
+    <message>
+        <source>removing &quot;%1&quot;</source>
+        <translation>fjernelse af &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>The file of &quot;%1&quot; can&apos;t be read.</source>
+        <translation>Filen til &quot;%1&quot; kan ikke læses.</translation>
+    </message>
+    <message>
+        <source>showing both</source>
+        <translation>visning af begge</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was not saved.</source>
+        <translation>&quot;%1&quot; blev ikke gemt.</translation>
+    </message>
+    <message>
+        <source>Saved &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; er gemt</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Gemt: %1</translation>
+    </message>
+    <message>
+        <source>giving up the changes of &quot;%1&quot;</source>
+        <translation>opgivne ændringer i &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is as its file has it</source>
+        <translation>&quot;%1&quot; er som i sin fil</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is back without its file. Save it anew.</source>
+        <translation>&quot;%1&quot; er tilbage uden sin fil. Gem den på ny.</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cDefinitionsWindow</name>
+    <message>
+        <source>Open pages</source>
+        <translation>Åbne sider</translation>
+    </message>
+    <message>
+        <source>Schedule %1</source>
+        <translation>Tidsprogram %1</translation>
+    </message>
+    <message>
+        <source>Calendar %1</source>
+        <translation>Kalender %1</translation>
+    </message>
+    <message>
+        <source>Schedules, calendars, colour rules (*.sch *.cal ColourRules.txt);;All files (*)</source>
+        <translation>Tidsprogrammer, kalendere, farveregler (*.sch *.cal ColourRules.txt);;Alle filer (*)</translation>
+    </message>
+    <message>
+        <source>Vigrel Definitions</source>
+        <translation>Vigrel definitioner</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Filer</translation>
+    </message>
+    <message>
+        <source>&amp;New schedule</source>
+        <translation>Nyt &amp;tidsprogram</translation>
+    </message>
+    <message>
+        <source>New &amp;calendar</source>
+        <translation>Ny &amp;kalender</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>Å&amp;bn...</translation>
+    </message>
+    <message>
+        <source>Open &amp;recent</source>
+        <translation>Åb&amp;n seneste</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Gem</translation>
+    </message>
+    <message>
+        <source>Save &amp;as...</source>
+        <translation>Gem &amp;som...</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>&amp;Luk</translation>
+    </message>
+    <message>
+        <source>E&amp;xit</source>
+        <translation>&amp;Afslut</translation>
+    </message>
+    <message>
+        <source>None yet</source>
+        <translation>Ingen endnu</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Rediger</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Fortryd</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Gentag</translation>
+    </message>
+    <message>
+        <source>&amp;Undo %1</source>
+        <translation>&amp;Fortryd %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo %1</source>
+        <translation>&amp;Gentag %1</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Vis</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>&amp;Next page</source>
+        <translation>&amp;Næste side</translation>
+    </message>
+    <message>
+        <source>&amp;Previous page</source>
+        <translation>&amp;Forrige side</translation>
+    </message>
+    <message>
+        <source>&amp;Station</source>
+        <translation>&amp;Station</translation>
+    </message>
+    <message>
+        <source>&amp;Receivers</source>
+        <translation>&amp;Modtagere</translation>
+    </message>
+    <message>
+        <source>&amp;Profiles</source>
+        <translation>&amp;Profiler</translation>
+    </message>
+    <message>
+        <source>&amp;Colour rules</source>
+        <translation>&amp;Farveregler</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hjælp</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;Om</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Om</translation>
+    </message>
+    <message>
+        <source>%1 %2
+
+Schedules, calendars, receivers, profiles and colour rules of the alarm receiver.
+Application folder: %3</source>
+        <translation>%1 %2
+
+Alarmmodtagerens tidsprogrammer, kalendere, modtagere, profiler og farveregler.
+Programmets mappe: %3</translation>
+    </message>
+    <message>
+        <source>What do you want to edit?</source>
+        <translation>Hvad vil du redigere?</translation>
+    </message>
+    <message>
+        <source>Ne&amp;w schedule</source>
+        <translation>N&amp;yt tidsprogram</translation>
+    </message>
+    <message>
+        <source>New c&amp;alendar</source>
+        <translation>&amp;Ny kalender</translation>
+    </message>
+    <message>
+        <source>&amp;Receivers of the station</source>
+        <translation>Stationens &amp;modtagere</translation>
+    </message>
+    <message>
+        <source>&amp;Profiles of the station</source>
+        <translation>Stationens &amp;profiler</translation>
+    </message>
+    <message>
+        <source>&amp;Colour rules of the station</source>
+        <translation>S&amp;tationens farveregler</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cFileDocument</name>
+    <message>
+        <source>%1 was changed by somebody else since it was opened. Replace it?</source>
+        <translation>%1 er ændret af en anden, siden den blev åbnet. Vil du erstatte den?</translation>
+    </message>
+    <message>
+        <source>The file was not saved.
+%1</source>
+        <translation>Filen blev ikke gemt.
+%1</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 er gemt</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cFilePage</name>
+    <message>
+        <source>%1 can&apos;t be saved.
+
+%2</source>
+        <translation>%1 kan ikke gemmes.
+
+%2</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cNoteBar</name>
+    <message>
+        <source>What happened to files</source>
+        <translation>Hvad der skete med filer</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Detaljer</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Luk</translation>
+    </message>
+    <message>
+        <source>Files brought up to a new version: %1.</source>
+        <translation>Filer, der er opdateret til ny version: %1.</translation>
+    </message>
+    <message>
+        <source>Files of an older version that could not be written anew: %1. They stay as they are.</source>
+        <translation>Filer af ældre version, der ikke kunne skrives på ny: %1. De forbliver, som de er.</translation>
+    </message>
+    <message>
+        <source>What could not be read: %1.</source>
+        <translation>Kunne ikke læses: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cProfileCalendar</name>
+    <message>
+        <source>Calendar</source>
+        <translation>Kalender</translation>
+    </message>
+    <message>
+        <source>Another calendar...</source>
+        <translation>En anden kalender...</translation>
+    </message>
+    <message>
+        <source>This profile</source>
+        <translation>Denne profil</translation>
+    </message>
+    <message>
+        <source>A new calendar</source>
+        <translation>En ny kalender</translation>
+    </message>
+    <message>
+        <source>Calendars (*.cal);;All files (*)</source>
+        <translation>Kalendere (*.cal);;Alle filer (*)</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cProfileForm</name>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Generelt</translation>
+    </message>
+    <message>
+        <source>Conditions</source>
+        <translation>Betingelser</translation>
+    </message>
+    <message>
+        <source>Receivers</source>
+        <translation>Modtagere</translation>
+    </message>
+    <message>
+        <source>Schedule</source>
+        <translation>Tidsprogram</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>Kalender</translation>
+    </message>
+    <message>
+        <source>External</source>
+        <translation>Ekstern</translation>
+    </message>
+    <message>
+        <source>Systems</source>
+        <translation>Systemer</translation>
+    </message>
+    <message>
+        <source>Na&amp;me:</source>
+        <translation>&amp;Navn:</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Navn</translation>
+    </message>
+    <message>
+        <source>En&amp;abled: the profile takes part</source>
+        <translation>Aktiv: &amp;profilen deltager</translation>
+    </message>
+    <message>
+        <source>States:</source>
+        <translation>Tilstande:</translation>
+    </message>
+    <message>
+        <source>State %1</source>
+        <translation>Tilstand %1</translation>
+    </message>
+    <message>
+        <source>&amp;Off duty behaviour:</source>
+        <translation>&amp;Adfærd uden for vagt:</translation>
+    </message>
+    <message>
+        <source>Off duty behaviour</source>
+        <translation>Adfærd uden for vagt</translation>
+    </message>
+    <message>
+        <source>File:</source>
+        <translation>Fil:</translation>
+    </message>
+    <message>
+        <source>not saved yet</source>
+        <translation>ikke gemt endnu</translation>
+    </message>
+    <message>
+        <source>%1, saved %2</source>
+        <translation>%1, gemt %2</translation>
+    </message>
+    <message>
+        <source>Condition &amp;%1:</source>
+        <translation>Betingelse &amp;%1:</translation>
+    </message>
+    <message>
+        <source>Condition %1</source>
+        <translation>Betingelse %1</translation>
+    </message>
+    <message>
+        <source>Parallel: all at once</source>
+        <translation>Parallelt: alle på én gang</translation>
+    </message>
+    <message>
+        <source>Parallel receivers</source>
+        <translation>Parallelle modtagere</translation>
+    </message>
+    <message>
+        <source>Sequential: one after the other</source>
+        <translation>Sekventielt: en efter en</translation>
+    </message>
+    <message>
+        <source>Sequential receivers</source>
+        <translation>Sekventielle modtagere</translation>
+    </message>
+    <message>
+        <source>&amp;Use this time schedule</source>
+        <translation>&amp;Brug dette tidsprogram</translation>
+    </message>
+    <message>
+        <source>the periods in the calendar</source>
+        <translation>perioderne i kalenderen</translation>
+    </message>
+    <message>
+        <source>Use an external &amp;tag</source>
+        <translation>&amp;Brug et eksternt tag</translation>
+    </message>
+    <message>
+        <source>Tag &amp;name:</source>
+        <translation>&amp;Tagnavn:</translation>
+    </message>
+    <message>
+        <source>Tag name</source>
+        <translation>Tagnavn</translation>
+    </message>
+    <message>
+        <source>&amp;Ignore this tag in other profiles</source>
+        <translation>Ignorér &amp;dette tag i andre profiler</translation>
+    </message>
+    <message>
+        <source>Use an external fi&amp;le</source>
+        <translation>Br&amp;ug en ekstern fil</translation>
+    </message>
+    <message>
+        <source>File &amp;path:</source>
+        <translation>F&amp;ilens sti:</translation>
+    </message>
+    <message>
+        <source>File path</source>
+        <translation>Filens sti</translation>
+    </message>
+    <message>
+        <source>Te&amp;xt in the file:</source>
+        <translation>T&amp;ekst i filen:</translation>
+    </message>
+    <message>
+        <source>Text in the file</source>
+        <translation>Tekst i filen</translation>
+    </message>
+    <message>
+        <source>&amp;Only alarms of these systems:</source>
+        <translation>&amp;Kun alarmer fra disse systemer:</translation>
+    </message>
+    <message>
+        <source>System %1</source>
+        <translation>System %1</translation>
+    </message>
+    <message>
+        <source>systems</source>
+        <translation>systemer</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cProfilesPage</name>
+    <message>
+        <source>Profiles</source>
+        <translation>Profiler</translation>
+    </message>
+    <message>
+        <source>New profile</source>
+        <translation>Ny profil</translation>
+    </message>
+    <message>
+        <source>Conditions</source>
+        <translation>Betingelser</translation>
+    </message>
+    <message>
+        <source>Delete the profile &quot;%1&quot; and its file?</source>
+        <translation>Vil du slette profilen &quot;%1&quot; og dens fil?</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cReceiverForm</name>
+    <message>
+        <source>Na&amp;me:</source>
+        <translation>&amp;Navn:</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Navn</translation>
+    </message>
+    <message>
+        <source>En&amp;abled: alarms go to this receiver</source>
+        <translation>&amp;Aktiv: alarmer går til denne modtager</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>&amp;Type:</source>
+        <translation>&amp;Type:</translation>
+    </message>
+    <message>
+        <source>Parallel numbers</source>
+        <translation>Parallelle numre</translation>
+    </message>
+    <message>
+        <source>&amp;Parallel numbers:</source>
+        <translation>&amp;Parallelle numre:</translation>
+    </message>
+    <message>
+        <source>File:</source>
+        <translation>Fil:</translation>
+    </message>
+    <message>
+        <source>(choose a type)</source>
+        <translation>(vælg en type)</translation>
+    </message>
+    <message>
+        <source>Setting %1:</source>
+        <translation>Indstilling %1:</translation>
+    </message>
+    <message>
+        <source>not saved yet</source>
+        <translation>ikke gemt endnu</translation>
+    </message>
+    <message>
+        <source>%1, saved %2</source>
+        <translation>%1, gemt %2</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cReceiverPicker</name>
+    <message>
+        <source>Add</source>
+        <translation>Tilføj</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Fjern</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Op</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Ned</translation>
+    </message>
+    <message>
+        <source>No other saved receiver</source>
+        <translation>Ingen anden gemt modtager</translation>
+    </message>
+    <message>
+        <source>(not a receiver: %1)</source>
+        <translation>(ingen modtager: %1)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>(missing receiver %1)</source>
+        <translation>(modtager %1 mangler)</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cReceiversPage</name>
+    <message>
+        <source>Receivers</source>
+        <translation>Modtagere</translation>
+    </message>
+    <message>
+        <source>New receiver</source>
+        <translation>Ny modtager</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Delete the receiver &quot;%1&quot; and its file?</source>
+        <translation>Vil du slette modtageren &quot;%1&quot; og dens fil?</translation>
+    </message>
+    <message>
+        <source>These profiles send alarms to it:
+%1</source>
+        <translation>Disse profiler sender alarmer til den:
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cScheduleEditor</name>
+    <message>
+        <source>Day &amp;names in the rows</source>
+        <translation>&amp;Dagnavne i rækkerne</translation>
+    </message>
+    <message>
+        <source>Special &amp;day types</source>
+        <translation>Sær&amp;lige dagtyper</translation>
+    </message>
+    <message>
+        <source>I&amp;mage of the day type</source>
+        <translation>Dagtypens &amp;billede</translation>
+    </message>
+    <message>
+        <source>Drag in a row to make a period, drag its ends to change it. The right mouse button opens the menu.</source>
+        <translation>Træk i en række for at lave en periode, træk i enderne for at ændre den. Højre museknap åbner menuen.</translation>
+    </message>
+    <message>
+        <source>Selected period</source>
+        <translation>Valgt periode</translation>
+    </message>
+    <message>
+        <source>Time under the pointer</source>
+        <translation>Tid under markøren</translation>
+    </message>
+    <message>
+        <source>A time of day, such as 8, 0830 or 16:30</source>
+        <translation>Et klokkeslæt, f.eks. 8, 0830 eller 16:30</translation>
+    </message>
+    <message>
+        <source>S&amp;tart</source>
+        <translation>S&amp;tart</translation>
+    </message>
+    <message>
+        <source>Sto&amp;p</source>
+        <translation>St&amp;op</translation>
+    </message>
+    <message>
+        <source>Pointer at</source>
+        <translation>Markør ved</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>Rækker</translation>
+    </message>
+    <message>
+        <source>Rows for the day types that a calendar gives to dates</source>
+        <translation>Rækker for de dagtyper, som en kalender giver datoer</translation>
+    </message>
+    <message>
+        <source>Day types in use</source>
+        <translation>Dagtyper i brug</translation>
+    </message>
+    <message>
+        <source>Not taken over: %1</source>
+        <translation>Ikke overtaget: %1</translation>
+    </message>
+    <message>
+        <source>No day chosen</source>
+        <translation>Ingen dag valgt</translation>
+    </message>
+    <message>
+        <source>%1, changed together with %2</source>
+        <translation>%1, ændres sammen med %2</translation>
+    </message>
+    <message>
+        <source>&amp;Copy the day</source>
+        <translation>&amp;Kopiér dagen</translation>
+    </message>
+    <message>
+        <source>&amp;Paste into the day</source>
+        <translation>&amp;Indsæt i dagen</translation>
+    </message>
+    <message>
+        <source>&amp;Delete the period</source>
+        <translation>&amp;Slet perioden</translation>
+    </message>
+    <message>
+        <source>&amp;Whole day</source>
+        <translation>&amp;Hele dagen</translation>
+    </message>
+    <message>
+        <source>&amp;Invert the day</source>
+        <translation>Invertér &amp;dagen</translation>
+    </message>
+    <message>
+        <source>&amp;Grouped</source>
+        <translation>G&amp;rupperet</translation>
+    </message>
+    <message>
+        <source>Monday to &amp;Friday grouped</source>
+        <translation>&amp;Mandag til fredag grupperet</translation>
+    </message>
+    <message>
+        <source>Re&amp;name the day type...</source>
+        <translation>&amp;Omdøb dagtypen...</translation>
+    </message>
+    <message>
+        <source>deleting a period</source>
+        <translation>sletning af en periode</translation>
+    </message>
+    <message>
+        <source>pasting a day</source>
+        <translation>indsættelse af en dag</translation>
+    </message>
+    <message>
+        <source>the whole day</source>
+        <translation>hele dagen</translation>
+    </message>
+    <message>
+        <source>inverting a day</source>
+        <translation>invertering af en dag</translation>
+    </message>
+    <message>
+        <source>grouping a day</source>
+        <translation>gruppering af en dag</translation>
+    </message>
+    <message>
+        <source>grouping Monday to Friday</source>
+        <translation>gruppering af mandag til fredag</translation>
+    </message>
+    <message>
+        <source>typing times</source>
+        <translation>indtastning af tider</translation>
+    </message>
+    <message>
+        <source>Start: %1</source>
+        <translation>Start: %1</translation>
+    </message>
+    <message>
+        <source>Stop: %1</source>
+        <translation>Stop: %1</translation>
+    </message>
+    <message>
+        <source>special day types</source>
+        <translation>særlige dagtyper</translation>
+    </message>
+    <message>
+        <source>adding a row</source>
+        <translation>tilføjelse af en række</translation>
+    </message>
+    <message>
+        <source>removing a row</source>
+        <translation>fjernelse af en række</translation>
+    </message>
+    <message>
+        <source>Choose a special day type: only those have names and images of your own.</source>
+        <translation>Vælg en særlig dagtype: kun de har egne navne og billeder.</translation>
+    </message>
+    <message>
+        <source>Name of the day type</source>
+        <translation>Dagtypens navn</translation>
+    </message>
+    <message>
+        <source>The choice could not be stored in %1.</source>
+        <translation>Valget kunne ikke gemmes i %1.</translation>
+    </message>
+    <message>
+        <source>dragging a period</source>
+        <translation>trækning af en periode</translation>
+    </message>
+    <message>
+        <source>moving an end</source>
+        <translation>flytning af en ende</translation>
+    </message>
+    <message>
+        <source>a new period</source>
+        <translation>ny periode</translation>
+    </message>
+    <message>
+        <source>The day has no gap for another period.</source>
+        <translation>Dagen har ikke plads til endnu en periode.</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cScheduleFrame</name>
+    <message>
+        <source>Time schedule</source>
+        <translation>Tidsprogram</translation>
+    </message>
+    <message>
+        <source>Arrow keys choose a day and a period, Insert makes a period, Delete removes one</source>
+        <translation>Piletasterne vælger dag og periode, Insert laver en periode, Delete fjerner en</translation>
+    </message>
+    <message>
+        <source>Rows of the time schedule</source>
+        <translation>Tidsprogrammets rækker</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cSchedulePage</name>
+    <message>
+        <source>Time schedules (*.sch);;All files (*)</source>
+        <translation>Tidsprogrammer (*.sch);;Alle filer (*)</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cSettingEdit</name>
+    <message>
+        <source>whole number, -32768 to 32767</source>
+        <translation>heltal, -32768 til 32767</translation>
+    </message>
+    <message>
+        <source>whole number</source>
+        <translation>heltal</translation>
+    </message>
+    <message>
+        <source>whole number, 0 to 255</source>
+        <translation>heltal, 0 til 255</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>tal</translation>
+    </message>
+    <message>
+        <source>number with at most four decimals</source>
+        <translation>tal med højst fire decimaler</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nej</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cSystemGrid</name>
+    <message>
+        <source>System %1</source>
+        <translation>System %1</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>&amp;Alle</translation>
+    </message>
+    <message>
+        <source>&amp;None</source>
+        <translation>&amp;Ingen</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cTextEdit</name>
+    <message>
+        <source>Only letters and signs of Western European languages can be stored.</source>
+        <translation>Kun vesteuropæiske sprogs bogstaver og tegn kan gemmes.</translation>
+    </message>
+</context>
+</TS>

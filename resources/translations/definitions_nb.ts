@@ -1,0 +1,1403 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="nb_NO" sourcelanguage="en">
+<context>
+    <name>Country</name>
+    <message>
+        <source>Germany</source>
+        <translation>Tyskland</translation>
+    </message>
+    <message>
+        <source>Denmark</source>
+        <translation>Danmark</translation>
+    </message>
+    <message>
+        <source>Finland</source>
+        <translation>Finland</translation>
+    </message>
+    <message>
+        <source>Norway</source>
+        <translation>Norge</translation>
+    </message>
+    <message>
+        <source>Sweden</source>
+        <translation>Sverige</translation>
+    </message>
+    <message>
+        <source>United Kingdom (England and Wales)</source>
+        <translation>Storbritannia (England og Wales)</translation>
+    </message>
+    <message>
+        <source>United Kingdom (Northern Ireland)</source>
+        <translation>Storbritannia (Nord-Irland)</translation>
+    </message>
+    <message>
+        <source>United Kingdom (Scotland)</source>
+        <translation>Storbritannia (Skottland)</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Calendars (*.cal);;All files (*)</source>
+        <translation>Kalendere (*.cal);;Alle filer (*)</translation>
+    </message>
+    <message>
+        <source>changing %1</source>
+        <translation>endring av %1</translation>
+    </message>
+    <message>
+        <source>The name is empty.</source>
+        <translation>Navnet er tomt.</translation>
+    </message>
+    <message>
+        <source>Choose a type.</source>
+        <translation>Velg en type.</translation>
+    </message>
+</context>
+<context>
+    <name>cDayTypeImages</name>
+    <message>
+        <source>Star</source>
+        <translation>Stjerne</translation>
+    </message>
+    <message>
+        <source>Half day</source>
+        <translation>Halv dag</translation>
+    </message>
+    <message>
+        <source>Fir tree</source>
+        <translation>Grantre</translation>
+    </message>
+    <message>
+        <source>Egg</source>
+        <translation>Egg</translation>
+    </message>
+    <message>
+        <source>Sun</source>
+        <translation>Sol</translation>
+    </message>
+    <message>
+        <source>Flag</source>
+        <translation>Flagg</translation>
+    </message>
+    <message>
+        <source>Moon</source>
+        <translation>Måne</translation>
+    </message>
+    <message>
+        <source>Snowflake</source>
+        <translation>Snøfnugg</translation>
+    </message>
+    <message>
+        <source>Heart</source>
+        <translation>Hjerte</translation>
+    </message>
+    <message>
+        <source>Suitcase</source>
+        <translation>Koffert</translation>
+    </message>
+    <message>
+        <source>Wrench</source>
+        <translation>Skiftenøkkel</translation>
+    </message>
+    <message>
+        <source>Book</source>
+        <translation>Bok</translation>
+    </message>
+    <message>
+        <source>Umbrella</source>
+        <translation>Paraply</translation>
+    </message>
+    <message>
+        <source>Bell</source>
+        <translation>Bjelle</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Nøkkel</translation>
+    </message>
+    <message>
+        <source>Clock</source>
+        <translation>Klokke</translation>
+    </message>
+    <message>
+        <source>Music note</source>
+        <translation>Note</translation>
+    </message>
+    <message>
+        <source>Cup</source>
+        <translation>Kopp</translation>
+    </message>
+    <message>
+        <source>Leaf</source>
+        <translation>Blad</translation>
+    </message>
+    <message>
+        <source>House</source>
+        <translation>Hus</translation>
+    </message>
+    <message>
+        <source>Rocket</source>
+        <translation>Rakett</translation>
+    </message>
+    <message>
+        <source>Diamond</source>
+        <translation>Diamant</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>Kors</translation>
+    </message>
+</context>
+<context>
+    <name>cDayTypeNames</name>
+    <message>
+        <source>Special day type %1</source>
+        <translation>Spesiell dagtype %1</translation>
+    </message>
+    <message>
+        <source>No special day type</source>
+        <translation>Ingen spesiell dagtype</translation>
+    </message>
+</context>
+<context>
+    <name>cDefinitionActions</name>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;Ny</translation>
+    </message>
+    <message>
+        <source>Make a new one</source>
+        <translation>Opprett en ny</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopier</translation>
+    </message>
+    <message>
+        <source>Make a copy of the chosen one</source>
+        <translation>Kopier den valgte</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Slett</translation>
+    </message>
+    <message>
+        <source>Delete the chosen one</source>
+        <translation>Slett den valgte</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve this</source>
+        <translation>&amp;Lagre denne</translation>
+    </message>
+    <message>
+        <source>Save the chosen one; Ctrl+S saves all</source>
+        <translation>Lagre den valgte; Ctrl+S lagrer alle</translation>
+    </message>
+    <message>
+        <source>R&amp;evert</source>
+        <translation>&amp;Tilbakestill</translation>
+    </message>
+    <message>
+        <source>Give up the changes of the chosen one</source>
+        <translation>Forkast endringene i den valgte</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Søk</translation>
+    </message>
+    <message>
+        <source>Search in the list</source>
+        <translation>Søk i listen</translation>
+    </message>
+</context>
+<context>
+    <name>cDialogPrompts</name>
+    <message>
+        <source>%1 has changes. Save them?</source>
+        <translation>%1 har endringer. Vil du lagre dem?</translation>
+    </message>
+    <message>
+        <source>&amp;Keep mine</source>
+        <translation>&amp;Behold min</translation>
+    </message>
+    <message>
+        <source>&amp;Take theirs</source>
+        <translation>&amp;Ta den andre</translation>
+    </message>
+    <message>
+        <source>&amp;Show both</source>
+        <translation>&amp;Vis begge</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Åpne</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>Lagre som</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cCalendarEditor</name>
+    <message>
+        <source>Show the day&apos;s &amp;periods</source>
+        <translation>Vis &amp;dagens perioder</translation>
+    </message>
+    <message>
+        <source>Choose a day type and paint it over the days with the left mouse button.</source>
+        <translation>Velg en dagtype og mal den over dagene med venstre museknapp.</translation>
+    </message>
+    <message>
+        <source>Previous month (Page Up)</source>
+        <translation>Forrige måned (Page Up)</translation>
+    </message>
+    <message>
+        <source>Next month (Page Down)</source>
+        <translation>Neste måned (Page Down)</translation>
+    </message>
+    <message>
+        <source>To&amp;day</source>
+        <translation>&amp;I dag</translation>
+    </message>
+    <message>
+        <source>The month of today (Home)</source>
+        <translation>Denne måneden (Home)</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>År</translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation>Måned</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>Kalender</translation>
+    </message>
+    <message>
+        <source>None chosen</source>
+        <translation>Ingen valgt</translation>
+    </message>
+    <message>
+        <source>Day &amp;type to paint</source>
+        <translation>Dagtype som &amp;males</translation>
+    </message>
+    <message>
+        <source>H&amp;olidays</source>
+        <translation>H&amp;elligdager</translation>
+    </message>
+    <message>
+        <source>T&amp;ime schedule</source>
+        <translation>&amp;Tidsprogram</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ingen</translation>
+    </message>
+    <message>
+        <source>Give the year&apos;s &amp;holidays the chosen day type</source>
+        <translation>Gi årets helligdager &amp;den valgte dagtypen</translation>
+    </message>
+    <message>
+        <source>Give &amp;all years&apos; holidays the chosen day type</source>
+        <translation>Gi alle års &amp;helligdager den valgte dagtypen</translation>
+    </message>
+    <message>
+        <source>&amp;Clear the year</source>
+        <translation>&amp;Tøm året</translation>
+    </message>
+    <message>
+        <source>Arrow keys choose a day, Space paints the day type</source>
+        <translation>Piltastene velger dag, mellomrom maler dagtypen</translation>
+    </message>
+    <message>
+        <source>Choose a day type to paint.</source>
+        <translation>Velg en dagtype å male.</translation>
+    </message>
+    <message>
+        <source>painting days</source>
+        <translation>maling av dager</translation>
+    </message>
+    <message>
+        <source>Choose a day type to paint and the country of the holidays.</source>
+        <translation>Velg en dagtype å male og helligdagenes land.</translation>
+    </message>
+    <message>
+        <source>painting holidays</source>
+        <translation>maling av helligdager</translation>
+    </message>
+    <message>
+        <source>Painted holidays: %1 (%2)</source>
+        <translation>Malte helligdager: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>clearing a year</source>
+        <translation>tømming av et år</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cColourPreview</name>
+    <message>
+        <source>Tags to try</source>
+        <translation>Tagger som prøves</translation>
+    </message>
+    <message>
+        <source>Tags to try, one a line</source>
+        <translation>Tagger som prøves, én per linje</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Forhåndsvisning</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Tagg</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>Regel</translation>
+    </message>
+    <message>
+        <source>Row</source>
+        <translation>Rad</translation>
+    </message>
+    <message>
+        <source>Every other row</source>
+        <translation>Annenhver rad</translation>
+    </message>
+    <message>
+        <source>Flashing</source>
+        <translation>Blinkende</translation>
+    </message>
+    <message>
+        <source>Ta&amp;gs:</source>
+        <translation>&amp;Tagger:</translation>
+    </message>
+    <message>
+        <source>&amp;Category:</source>
+        <translation>&amp;Kategori:</translation>
+    </message>
+    <message>
+        <source>Are&amp;a:</source>
+        <translation>&amp;Område:</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Hard to read, by rule and least contrast (%1 is readable): %2</source>
+        <translation>Vanskelig å lese, regel og laveste kontrast (%1 er lesbart): %2</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ingen</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cColourRulesEditor</name>
+    <message>
+        <source>&amp;Add rule</source>
+        <translation>&amp;Legg til regel</translation>
+    </message>
+    <message>
+        <source>&amp;Delete rule</source>
+        <translation>&amp;Slett regel</translation>
+    </message>
+    <message>
+        <source>&amp;Move up</source>
+        <translation>&amp;Flytt opp</translation>
+    </message>
+    <message>
+        <source>Move d&amp;own</source>
+        <translation>Flytt &amp;ned</translation>
+    </message>
+    <message>
+        <source>&amp;Choose colour...</source>
+        <translation>&amp;Velg farge...</translation>
+    </message>
+    <message>
+        <source>Colour rules, tried from the first to the last</source>
+        <translation>Fargeregler, prøves fra den første til den siste</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Tagg</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>Kategorier</translation>
+    </message>
+    <message>
+        <source>Areas</source>
+        <translation>Områder</translation>
+    </message>
+    <message>
+        <source>Text colour</source>
+        <translation>Tekstfarge</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Bakgrunn</translation>
+    </message>
+    <message>
+        <source>Fade</source>
+        <translation>Toning</translation>
+    </message>
+    <message>
+        <source>A pattern: &quot;?&quot; is one character, &quot;*&quot; any run; case counts</source>
+        <translation>Et mønster: &quot;?&quot; er ett tegn, &quot;*&quot; et vilkårlig antall; det skilles mellom store og små bokstaver</translation>
+    </message>
+    <message>
+        <source>Numbers and ranges from 0 to 255, such as 5;7-9, or * for all</source>
+        <translation>Tall og intervaller fra 0 til 255, f.eks. 5;7-9, eller * for alle</translation>
+    </message>
+    <message>
+        <source>Numbers and ranges from 0 to 999, such as 5;7-9, or * for all</source>
+        <translation>Tall og intervaller fra 0 til 999, f.eks. 5;7-9, eller * for alle</translation>
+    </message>
+    <message>
+        <source>Red, green and blue from 0 to 255, such as 255,255,255</source>
+        <translation>Rødt, grønt og blått fra 0 til 255, f.eks. 255,255,255</translation>
+    </message>
+    <message>
+        <source>Red, green and blue from 0 to 255, such as 200,0,0</source>
+        <translation>Rødt, grønt og blått fra 0 til 255, f.eks. 200,0,0</translation>
+    </message>
+    <message>
+        <source>By how much every other row is darker, from 0 to 255</source>
+        <translation>Hvor mye mørkere annenhver rad er, fra 0 til 255</translation>
+    </message>
+    <message>
+        <source>Change rule</source>
+        <translation>endring av regel</translation>
+    </message>
+    <message>
+        <source>Add rule</source>
+        <translation>tillegg av regel</translation>
+    </message>
+    <message>
+        <source>Delete rule</source>
+        <translation>sletting av regel</translation>
+    </message>
+    <message>
+        <source>Move rule</source>
+        <translation>flytting av regel</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farge</translation>
+    </message>
+    <message>
+        <source>Some lines were not understood. They stay in the file:
+%1</source>
+        <translation>Noen linjer ble ikke forstått. De blir stående i filen:
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cColourRulesPage</name>
+    <message>
+        <source>Colour rules</source>
+        <translation>Fargeregler</translation>
+    </message>
+    <message>
+        <source>Colour rules (*.txt);;All files (*)</source>
+        <translation>Fargeregler (*.txt);;Alle filer (*)</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cDefinitionList</name>
+    <message>
+        <source>Search</source>
+        <translation>Søk</translation>
+    </message>
+    <message>
+        <source>Search (Ctrl+F)</source>
+        <translation>Søk (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>%1 in all</source>
+        <translation>%1 i alt</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 av %2</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cDefinitionModel</name>
+    <message>
+        <source>Not saved yet</source>
+        <translation>Ikke lagret ennå</translation>
+    </message>
+    <message>
+        <source>Can&apos;t be saved: %1</source>
+        <translation>Kan ikke lagres: %1</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Navn</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fil</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cDefinitionPage</name>
+    <message>
+        <source>adding &quot;%1&quot;</source>
+        <translation>tillegg av &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>copying &quot;%1&quot;</source>
+        <translation>kopiering av &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Another program has changed the file since it was read.</source>
+        <translation>Et annet program har endret filen siden den ble lest.</translation>
+    </message>
+    <message>
+        <source>deleting &quot;%1&quot;</source>
+        <translation>sletting av &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Deleted &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; er slettet</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was not deleted.</source>
+        <translation>&quot;%1&quot; ble ikke slettet.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be saved.
+
+%2</source>
+        <translation>&quot;%1&quot; kan ikke lagres.
+
+%2</translation>
+    </message>
+    <message>
+        <source>Another program has changed the file of &quot;%1&quot; since it was read here. Keep your version, take the one in the file, or show both?</source>
+        <translation>Et annet program har endret filen til &quot;%1&quot; siden den ble lest her. Vil du beholde din versjon, ta den i filen eller vise begge?</translation>
+    </message>
+    <message>
+        <source>Another program has removed the file of &quot;%1&quot;. Write it again, or remove it here too?</source>
+        <translation>Et annet program har fjernet filen til &quot;%1&quot;. Vil du skrive den på nytt eller fjerne den her også?</translation>
+    </message>
+    <message>
+        <source>removing &quot;%1&quot;</source>
+        <translation>fjerning av &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>The file of &quot;%1&quot; can&apos;t be read.</source>
+        <translation>Filen til &quot;%1&quot; kan ikke leses.</translation>
+    </message>
+    <message>
+        <source>showing both</source>
+        <translation>visning av begge</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was not saved.</source>
+        <translation>&quot;%1&quot; ble ikke lagret.</translation>
+    </message>
+    <message>
+        <source>Saved &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; er lagret</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Lagret: %1</translation>
+    </message>
+    <message>
+        <source>giving up the changes of &quot;%1&quot;</source>
+        <translation>forkastede endringer i &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is as its file has it</source>
+        <translation>&quot;%1&quot; er som i sin fil</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is back without its file. Save it anew.</source>
+        <translation>&quot;%1&quot; er tilbake uten sin fil. Lagre den på nytt.</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cDefinitionsWindow</name>
+    <message>
+        <source>Open pages</source>
+        <translation>Åpne sider</translation>
+    </message>
+    <message>
+        <source>Schedule %1</source>
+        <translation>Tidsprogram %1</translation>
+    </message>
+    <message>
+        <source>Calendar %1</source>
+        <translation>Kalender %1</translation>
+    </message>
+    <message>
+        <source>Schedules, calendars, colour rules (*.sch *.cal ColourRules.txt);;All files (*)</source>
+        <translation>Tidsprogrammer, kalendere, fargeregler (*.sch *.cal ColourRules.txt);;Alle filer (*)</translation>
+    </message>
+    <message>
+        <source>Vigrel Definitions</source>
+        <translation>Vigrel definisjoner</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fil</translation>
+    </message>
+    <message>
+        <source>&amp;New schedule</source>
+        <translation>Nytt &amp;tidsprogram</translation>
+    </message>
+    <message>
+        <source>New &amp;calendar</source>
+        <translation>&amp;Ny kalender</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>Å&amp;pne...</translation>
+    </message>
+    <message>
+        <source>Open &amp;recent</source>
+        <translation>Åpn&amp;e nylige</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>L&amp;agre</translation>
+    </message>
+    <message>
+        <source>Save &amp;as...</source>
+        <translation>Lagre &amp;som...</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>&amp;Lukk</translation>
+    </message>
+    <message>
+        <source>E&amp;xit</source>
+        <translation>A&amp;vslutt</translation>
+    </message>
+    <message>
+        <source>None yet</source>
+        <translation>Ingen ennå</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Rediger</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Angre</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Gjør om</translation>
+    </message>
+    <message>
+        <source>&amp;Undo %1</source>
+        <translation>&amp;Angre %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo %1</source>
+        <translation>&amp;Gjør om %1</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Vis</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>&amp;Next page</source>
+        <translation>&amp;Neste side</translation>
+    </message>
+    <message>
+        <source>&amp;Previous page</source>
+        <translation>&amp;Forrige side</translation>
+    </message>
+    <message>
+        <source>&amp;Station</source>
+        <translation>&amp;Stasjon</translation>
+    </message>
+    <message>
+        <source>&amp;Receivers</source>
+        <translation>&amp;Mottakere</translation>
+    </message>
+    <message>
+        <source>&amp;Profiles</source>
+        <translation>&amp;Profiler</translation>
+    </message>
+    <message>
+        <source>&amp;Colour rules</source>
+        <translation>&amp;Fargeregler</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hjelp</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;Om</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Om</translation>
+    </message>
+    <message>
+        <source>%1 %2
+
+Schedules, calendars, receivers, profiles and colour rules of the alarm receiver.
+Application folder: %3</source>
+        <translation>%1 %2
+
+Alarmmottakerens tidsprogrammer, kalendere, mottakere, profiler og fargeregler.
+Programmets mappe: %3</translation>
+    </message>
+    <message>
+        <source>What do you want to edit?</source>
+        <translation>Hva vil du redigere?</translation>
+    </message>
+    <message>
+        <source>Ne&amp;w schedule</source>
+        <translation>N&amp;ytt tidsprogram</translation>
+    </message>
+    <message>
+        <source>New c&amp;alendar</source>
+        <translation>&amp;Ny kalender</translation>
+    </message>
+    <message>
+        <source>&amp;Receivers of the station</source>
+        <translation>Stasjonens &amp;mottakere</translation>
+    </message>
+    <message>
+        <source>&amp;Profiles of the station</source>
+        <translation>St&amp;asjonens profiler</translation>
+    </message>
+    <message>
+        <source>&amp;Colour rules of the station</source>
+        <translation>S&amp;tasjonens fargeregler</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cFileDocument</name>
+    <message>
+        <source>%1 was changed by somebody else since it was opened. Replace it?</source>
+        <translation>%1 er endret av noen andre siden den ble åpnet. Vil du erstatte den?</translation>
+    </message>
+    <message>
+        <source>The file was not saved.
+%1</source>
+        <translation>Filen ble ikke lagret.
+%1</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 er lagret</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cFilePage</name>
+    <message>
+        <source>%1 can&apos;t be saved.
+
+%2</source>
+        <translation>%1 kan ikke lagres.
+
+%2</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cNoteBar</name>
+    <message>
+        <source>What happened to files</source>
+        <translation>Hva som skjedde med filer</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Detaljer</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Lukk</translation>
+    </message>
+    <message>
+        <source>Files brought up to a new version: %1.</source>
+        <translation>Filer som er oppdatert til ny versjon: %1.</translation>
+    </message>
+    <message>
+        <source>Files of an older version that could not be written anew: %1. They stay as they are.</source>
+        <translation>Filer av eldre versjon som ikke kunne skrives på nytt: %1. De forblir som de er.</translation>
+    </message>
+    <message>
+        <source>What could not be read: %1.</source>
+        <translation>Kunne ikke leses: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cProfileCalendar</name>
+    <message>
+        <source>Calendar</source>
+        <translation>Kalender</translation>
+    </message>
+    <message>
+        <source>Another calendar...</source>
+        <translation>En annen kalender...</translation>
+    </message>
+    <message>
+        <source>This profile</source>
+        <translation>Denne profilen</translation>
+    </message>
+    <message>
+        <source>A new calendar</source>
+        <translation>En ny kalender</translation>
+    </message>
+    <message>
+        <source>Calendars (*.cal);;All files (*)</source>
+        <translation>Kalendere (*.cal);;Alle filer (*)</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cProfileForm</name>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Generelt</translation>
+    </message>
+    <message>
+        <source>Conditions</source>
+        <translation>Betingelser</translation>
+    </message>
+    <message>
+        <source>Receivers</source>
+        <translation>Mottakere</translation>
+    </message>
+    <message>
+        <source>Schedule</source>
+        <translation>Tidsprogram</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>Kalender</translation>
+    </message>
+    <message>
+        <source>External</source>
+        <translation>Ekstern</translation>
+    </message>
+    <message>
+        <source>Systems</source>
+        <translation>Systemer</translation>
+    </message>
+    <message>
+        <source>Na&amp;me:</source>
+        <translation>&amp;Navn:</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Navn</translation>
+    </message>
+    <message>
+        <source>En&amp;abled: the profile takes part</source>
+        <translation>&amp;Aktiv: profilen deltar</translation>
+    </message>
+    <message>
+        <source>States:</source>
+        <translation>Tilstander:</translation>
+    </message>
+    <message>
+        <source>State %1</source>
+        <translation>Tilstand %1</translation>
+    </message>
+    <message>
+        <source>&amp;Off duty behaviour:</source>
+        <translation>&amp;Oppførsel utenfor vakt:</translation>
+    </message>
+    <message>
+        <source>Off duty behaviour</source>
+        <translation>Oppførsel utenfor vakt</translation>
+    </message>
+    <message>
+        <source>File:</source>
+        <translation>Fil:</translation>
+    </message>
+    <message>
+        <source>not saved yet</source>
+        <translation>ikke lagret ennå</translation>
+    </message>
+    <message>
+        <source>%1, saved %2</source>
+        <translation>%1, lagret %2</translation>
+    </message>
+    <message>
+        <source>Condition &amp;%1:</source>
+        <translation>Betingelse &amp;%1:</translation>
+    </message>
+    <message>
+        <source>Condition %1</source>
+        <translation>Betingelse %1</translation>
+    </message>
+    <message>
+        <source>Parallel: all at once</source>
+        <translation>Parallelt: alle samtidig</translation>
+    </message>
+    <message>
+        <source>Parallel receivers</source>
+        <translation>Parallelle mottakere</translation>
+    </message>
+    <message>
+        <source>Sequential: one after the other</source>
+        <translation>Sekvensielt: én etter én</translation>
+    </message>
+    <message>
+        <source>Sequential receivers</source>
+        <translation>Sekvensielle mottakere</translation>
+    </message>
+    <message>
+        <source>&amp;Use this time schedule</source>
+        <translation>&amp;Bruk dette tidsprogrammet</translation>
+    </message>
+    <message>
+        <source>the periods in the calendar</source>
+        <translation>periodene i kalenderen</translation>
+    </message>
+    <message>
+        <source>Use an external &amp;tag</source>
+        <translation>Bruk &amp;en ekstern tagg</translation>
+    </message>
+    <message>
+        <source>Tag &amp;name:</source>
+        <translation>&amp;Taggens navn:</translation>
+    </message>
+    <message>
+        <source>Tag name</source>
+        <translation>Taggens navn</translation>
+    </message>
+    <message>
+        <source>&amp;Ignore this tag in other profiles</source>
+        <translation>Ignorer &amp;denne taggen i andre profiler</translation>
+    </message>
+    <message>
+        <source>Use an external fi&amp;le</source>
+        <translation>&amp;Bruk en ekstern fil</translation>
+    </message>
+    <message>
+        <source>File &amp;path:</source>
+        <translation>Fi&amp;lbane:</translation>
+    </message>
+    <message>
+        <source>File path</source>
+        <translation>Filbane</translation>
+    </message>
+    <message>
+        <source>Te&amp;xt in the file:</source>
+        <translation>Tekst &amp;i filen:</translation>
+    </message>
+    <message>
+        <source>Text in the file</source>
+        <translation>Tekst i filen</translation>
+    </message>
+    <message>
+        <source>&amp;Only alarms of these systems:</source>
+        <translation>&amp;Bare alarmer fra disse systemene:</translation>
+    </message>
+    <message>
+        <source>System %1</source>
+        <translation>System %1</translation>
+    </message>
+    <message>
+        <source>systems</source>
+        <translation>systemer</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cProfilesPage</name>
+    <message>
+        <source>Profiles</source>
+        <translation>Profiler</translation>
+    </message>
+    <message>
+        <source>New profile</source>
+        <translation>Ny profil</translation>
+    </message>
+    <message>
+        <source>Conditions</source>
+        <translation>Betingelser</translation>
+    </message>
+    <message>
+        <source>Delete the profile &quot;%1&quot; and its file?</source>
+        <translation>Vil du slette profilen &quot;%1&quot; og filen?</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cReceiverForm</name>
+    <message>
+        <source>Na&amp;me:</source>
+        <translation>&amp;Navn:</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Navn</translation>
+    </message>
+    <message>
+        <source>En&amp;abled: alarms go to this receiver</source>
+        <translation>&amp;Aktiv: alarmer går til denne mottakeren</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>&amp;Type:</source>
+        <translation>&amp;Type:</translation>
+    </message>
+    <message>
+        <source>Parallel numbers</source>
+        <translation>Parallelle numre</translation>
+    </message>
+    <message>
+        <source>&amp;Parallel numbers:</source>
+        <translation>&amp;Parallelle numre:</translation>
+    </message>
+    <message>
+        <source>File:</source>
+        <translation>Fil:</translation>
+    </message>
+    <message>
+        <source>(choose a type)</source>
+        <translation>(velg en type)</translation>
+    </message>
+    <message>
+        <source>Setting %1:</source>
+        <translation>Innstilling %1:</translation>
+    </message>
+    <message>
+        <source>not saved yet</source>
+        <translation>ikke lagret ennå</translation>
+    </message>
+    <message>
+        <source>%1, saved %2</source>
+        <translation>%1, lagret %2</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cReceiverPicker</name>
+    <message>
+        <source>Add</source>
+        <translation>Legg til</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Fjern</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Opp</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Ned</translation>
+    </message>
+    <message>
+        <source>No other saved receiver</source>
+        <translation>Ingen annen lagret mottaker</translation>
+    </message>
+    <message>
+        <source>(not a receiver: %1)</source>
+        <translation>(ingen mottaker: %1)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>(missing receiver %1)</source>
+        <translation>(mottaker %1 mangler)</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cReceiversPage</name>
+    <message>
+        <source>Receivers</source>
+        <translation>Mottakere</translation>
+    </message>
+    <message>
+        <source>New receiver</source>
+        <translation>Ny mottaker</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Delete the receiver &quot;%1&quot; and its file?</source>
+        <translation>Vil du slette mottakeren &quot;%1&quot; og filen?</translation>
+    </message>
+    <message>
+        <source>These profiles send alarms to it:
+%1</source>
+        <translation>Disse profilene sender alarmer til den:
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cScheduleEditor</name>
+    <message>
+        <source>Day &amp;names in the rows</source>
+        <translation>&amp;Dagnavn i radene</translation>
+    </message>
+    <message>
+        <source>Special &amp;day types</source>
+        <translation>S&amp;pesielle dagtyper</translation>
+    </message>
+    <message>
+        <source>I&amp;mage of the day type</source>
+        <translation>Dagtypens &amp;bilde</translation>
+    </message>
+    <message>
+        <source>Drag in a row to make a period, drag its ends to change it. The right mouse button opens the menu.</source>
+        <translation>Dra i en rad for å lage en periode, dra i endene for å endre den. Høyre museknapp åpner menyen.</translation>
+    </message>
+    <message>
+        <source>Selected period</source>
+        <translation>Valgt periode</translation>
+    </message>
+    <message>
+        <source>Time under the pointer</source>
+        <translation>Tid under pekeren</translation>
+    </message>
+    <message>
+        <source>A time of day, such as 8, 0830 or 16:30</source>
+        <translation>Et klokkeslett, f.eks. 8, 0830 eller 16:30</translation>
+    </message>
+    <message>
+        <source>S&amp;tart</source>
+        <translation>S&amp;tart</translation>
+    </message>
+    <message>
+        <source>Sto&amp;p</source>
+        <translation>St&amp;opp</translation>
+    </message>
+    <message>
+        <source>Pointer at</source>
+        <translation>Peker ved</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>Rader</translation>
+    </message>
+    <message>
+        <source>Rows for the day types that a calendar gives to dates</source>
+        <translation>Rader for dagtypene som en kalender gir datoer</translation>
+    </message>
+    <message>
+        <source>Day types in use</source>
+        <translation>Dagtyper i bruk</translation>
+    </message>
+    <message>
+        <source>Not taken over: %1</source>
+        <translation>Ikke overtatt: %1</translation>
+    </message>
+    <message>
+        <source>No day chosen</source>
+        <translation>Ingen dag valgt</translation>
+    </message>
+    <message>
+        <source>%1, changed together with %2</source>
+        <translation>%1, endres sammen med %2</translation>
+    </message>
+    <message>
+        <source>&amp;Copy the day</source>
+        <translation>&amp;Kopier dagen</translation>
+    </message>
+    <message>
+        <source>&amp;Paste into the day</source>
+        <translation>&amp;Lim inn i dagen</translation>
+    </message>
+    <message>
+        <source>&amp;Delete the period</source>
+        <translation>&amp;Slett perioden</translation>
+    </message>
+    <message>
+        <source>&amp;Whole day</source>
+        <translation>&amp;Hele dagen</translation>
+    </message>
+    <message>
+        <source>&amp;Invert the day</source>
+        <translation>&amp;Inverter dagen</translation>
+    </message>
+    <message>
+        <source>&amp;Grouped</source>
+        <translation>G&amp;ruppert</translation>
+    </message>
+    <message>
+        <source>Monday to &amp;Friday grouped</source>
+        <translation>&amp;Mandag til fredag gruppert</translation>
+    </message>
+    <message>
+        <source>Re&amp;name the day type...</source>
+        <translation>Gi &amp;dagtypen nytt navn...</translation>
+    </message>
+    <message>
+        <source>deleting a period</source>
+        <translation>sletting av en periode</translation>
+    </message>
+    <message>
+        <source>pasting a day</source>
+        <translation>innliming av en dag</translation>
+    </message>
+    <message>
+        <source>the whole day</source>
+        <translation>hele dagen</translation>
+    </message>
+    <message>
+        <source>inverting a day</source>
+        <translation>invertering av en dag</translation>
+    </message>
+    <message>
+        <source>grouping a day</source>
+        <translation>gruppering av en dag</translation>
+    </message>
+    <message>
+        <source>grouping Monday to Friday</source>
+        <translation>gruppering av mandag til fredag</translation>
+    </message>
+    <message>
+        <source>typing times</source>
+        <translation>inntasting av tider</translation>
+    </message>
+    <message>
+        <source>Start: %1</source>
+        <translation>Start: %1</translation>
+    </message>
+    <message>
+        <source>Stop: %1</source>
+        <translation>Stopp: %1</translation>
+    </message>
+    <message>
+        <source>special day types</source>
+        <translation>spesielle dagtyper</translation>
+    </message>
+    <message>
+        <source>adding a row</source>
+        <translation>tillegg av en rad</translation>
+    </message>
+    <message>
+        <source>removing a row</source>
+        <translation>fjerning av en rad</translation>
+    </message>
+    <message>
+        <source>Choose a special day type: only those have names and images of your own.</source>
+        <translation>Velg en spesiell dagtype: bare de har egne navn og bilder.</translation>
+    </message>
+    <message>
+        <source>Name of the day type</source>
+        <translation>Dagtypens navn</translation>
+    </message>
+    <message>
+        <source>The choice could not be stored in %1.</source>
+        <translation>Valget kunne ikke lagres i %1.</translation>
+    </message>
+    <message>
+        <source>dragging a period</source>
+        <translation>draing av en periode</translation>
+    </message>
+    <message>
+        <source>moving an end</source>
+        <translation>flytting av en ende</translation>
+    </message>
+    <message>
+        <source>a new period</source>
+        <translation>ny periode</translation>
+    </message>
+    <message>
+        <source>The day has no gap for another period.</source>
+        <translation>Dagen har ikke plass til flere perioder.</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cScheduleFrame</name>
+    <message>
+        <source>Time schedule</source>
+        <translation>Tidsprogram</translation>
+    </message>
+    <message>
+        <source>Arrow keys choose a day and a period, Insert makes a period, Delete removes one</source>
+        <translation>Piltastene velger dag og periode, Insert lager en periode, Delete fjerner en</translation>
+    </message>
+    <message>
+        <source>Rows of the time schedule</source>
+        <translation>Tidsprogrammets rader</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cSchedulePage</name>
+    <message>
+        <source>Time schedules (*.sch);;All files (*)</source>
+        <translation>Tidsprogrammer (*.sch);;Alle filer (*)</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cSettingEdit</name>
+    <message>
+        <source>whole number, -32768 to 32767</source>
+        <translation>heltall, -32768 til 32767</translation>
+    </message>
+    <message>
+        <source>whole number</source>
+        <translation>heltall</translation>
+    </message>
+    <message>
+        <source>whole number, 0 to 255</source>
+        <translation>heltall, 0 til 255</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>tall</translation>
+    </message>
+    <message>
+        <source>number with at most four decimals</source>
+        <translation>tall med høyst fire desimaler</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nei</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cSystemGrid</name>
+    <message>
+        <source>System %1</source>
+        <translation>System %1</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>&amp;Alle</translation>
+    </message>
+    <message>
+        <source>&amp;None</source>
+        <translation>&amp;Ingen</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cTextEdit</name>
+    <message>
+        <source>Only letters and signs of Western European languages can be stored.</source>
+        <translation>Bare bokstaver og tegn fra vesteuropeiske språk kan lagres.</translation>
+    </message>
+</context>
+</TS>

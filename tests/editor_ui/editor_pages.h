@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QTabWidget>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "editor_ui/editor_bench.h"
+#include "editor_ui/records/definition_page.h"
+#include "editor_ui/window/editor_words.h"
+#include "support/samples.h"
+
+namespace vigrel::testing {
+
+// Walks through all that the editor's window can show: what is open, and each of its pages.
+class cEditorPages {
+  public:
+    // The translator is installed as long as the window stands.
+    explicit cEditorPages(std::unique_ptr<QTranslator> words) : m_Words(std::move(words)) {
+        QCoreApplication::installTranslator(m_Words.get());
+        m_Bench = std::make_unique<cEditorBench>();
+        m_Bench->m_Files.Put("/app/Receivers/Receiver_0007.dat", Sample("receiver_version_5.dat"));
+        m_Bench->m_Files.Put("/app/Profiles/Profile_0012.dat", Sample("profile_version_5.dat"));
+        m_Bench->m_Files.Put("/app/ColourRules.txt", "* | * | * | 0,0,0 | 255,255,255 | 15\r\nnonsense\r\n");
+    }
+    // In a delivered language.
+    explicit cEditorPages(const char* language) : cEditorPages(std::make_unique<cEditorWords>(language)) {}
+    ~cEditorPages() {
+        m_Bench.reset();
+        QCoreApplication::removeTranslator(m_Words.get());
+    }
+
+    cDefinitionsWindow& Window() { return *m_Bench->m_Window; }
+    cEditorBench& Bench() { return *m_Bench; }
+
+    // Calls for each, by its name, when it shows. What has tabs is one for each of them.
+    void ForEach(const std::function<void(const std::string& name)>& look) {
+        look("start page");
+        m_Bench->NewSchedule();
+        look("schedule");
+        m_Bench->NewCalendar();
+        look("calendar");
+        Window().ShowColourRules();
+        look("colour rules");
+        Window().ShowReceivers();
+        dynamic_cast<cDefinitionPage&>(*Window().CurrentPage()).Choose(0);
+        look("receivers");
+        Window().ShowProfiles();
+        dynamic_cast<cDefinitionPage&>(*Window().CurrentPage()).Choose(0);
+        auto& tabs = cEditorBench::Find<QTabWidget>(*Window().CurrentPage(), "Tabs_Profile");
+        for (int tab = 0; tab < tabs.count(); ++tab) {
+            tabs.setCurrentIndex(tab);
+            look("profiles, tab " + std::to_string(tab));
+        }
+    }
+
+  private:
+    std::unique_ptr<QTranslator> m_Words;
+    std::unique_ptr<cEditorBench> m_Bench;
+};
+
+}  // namespace vigrel::testing

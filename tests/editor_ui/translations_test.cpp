@@ -1,0 +1,237 @@
+// The editor's texts in the six languages: none is missing in the files of translations, none goes past them,
+// and each has its form.
+
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QProcess>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QXmlStreamReader>
+#include <map>
+#include <set>
+
+#include "editor_ui/editor_pages.h"
+
+namespace vigrel::testing {
+namespace {
+
+constexpr const char* kLanguages[] = {"044", "045", "046", "047", "049", "358"};
+
+QByteArray Content(const QString& path) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    return file.readAll();
+}
+
+QStringList TranslationFiles() {
+    return QDir(VIGREL_TRANSLATIONS).entryList({"definitions_*.ts"});
+}
+
+struct cEntry {
+    QString source, translation, state;
+};
+
+std::vector<cEntry> EntriesOf(const QString& file) {
+    std::vector<cEntry> entries;
+    QXmlStreamReader xml(Content(QString(VIGREL_TRANSLATIONS "/") + file));
+    QString source;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement) continue;
+        if (xml.name() == QStringView(u"source")) source = xml.readElementText();
+        if (xml.name() == QStringView(u"translation")) {
+            const QString state = xml.attributes().value("type").toString();
+            entries.push_back({source, xml.readElementText(), state});
+        }
+    }
+    EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
+    return entries;
+}
+
+TEST(Translations, OfFiveLanguagesAreWhatTheSourcesAskFor) {
+    QTemporaryDir folder;
+    const QStringList files = TranslationFiles();
+    ASSERT_EQ(files.size(), 5);
+    for (const QString& file : files) {
+        ASSERT_TRUE(QFile::copy(QString(VIGREL_TRANSLATIONS "/") + file, folder.filePath(file)));
+    }
+    ASSERT_EQ(QProcess::execute(VIGREL_TRANSLATIONS "/update.sh", {VIGREL_LUPDATE, folder.path()}), 0);
+    for (const QString& file : files) {
+        EXPECT_EQ(Content(folder.filePath(file)), Content(QString(VIGREL_TRANSLATIONS "/") + file))
+            << "build the target update_translations and translate what is new in " << file.toStdString();
+    }
+}
+
+QStringList Places(const QString& text) {
+    static const QRegularExpression place("%\\d");
+    QStringList places;
+    for (auto found = place.globalMatch(text); found.hasNext();) places += found.next().captured();
+    places.sort();
+    return places;
+}
+
+// What a text ends with is part of its form: a colon before a field, dots before a dialog.
+QString Form(const QString& text) {
+    static const QRegularExpression end("(\\.\\.\\.|[.:?])$");
+    static const QRegularExpression key("&(?=[^&])");
+    return QString("keys %1, lines %2, end \"%3\", places %4")
+        .arg(text.count(key))
+        .arg(text.count('\n'))
+        .arg(end.match(text).captured(), Places(text).join(' '));
+}
+
+TEST(Translations, EachTextHasItsWordsInTheFormOfItsSource) {
+    for (const QString& file : TranslationFiles()) {
+        for (const cEntry& entry : EntriesOf(file)) {
+            const std::string where = (file + ": " + entry.source).toStdString();
+            EXPECT_EQ(entry.state, "") << where;
+            EXPECT_EQ(Form(entry.translation).toStdString(), Form(entry.source).toStdString()) << where;
+        }
+    }
+}
+
+// One word for one thing: the same source says the same everywhere.
+TEST(Translations, SayTheSameThingWithTheSameWords) {
+    for (const QString& file : TranslationFiles()) {
+        std::map<QString, QString> words;
+        for (const cEntry& entry : EntriesOf(file)) {
+            const QString& first = words.emplace(entry.source, entry.translation).first->second;
+            EXPECT_EQ(entry.translation.toStdString(), first.toStdString()) << file.toStdString();
+        }
+    }
+}
+
+// Marks what goes by the files of translations, and notes what they lack as the program asks for it.
+class cMarks : public QTranslator {
+  public:
+    explicit cMarks(std::set<std::string>& lacking) : m_Lacking(lacking) {}
+    bool isEmpty() const override { return false; }
+    QString translate(const char* context, const char* source, const char*, int) const override {
+        const QByteArray asks = context;
+        const bool isToolkit = asks.startsWith('Q') && asks != "QObject";
+        if (isToolkit || asks == "CloseButton") return {};
+        if (m_Finnish.translate(context, source).isEmpty())
+            m_Lacking.insert(std::string(context) + ": " + source);
+        return QString("<%1>").arg(source);
+    }
+
+  private:
+    std::set<std::string>& m_Lacking;
+    cEditorWords m_Finnish{"358"};
+};
+
+// Whether it is the installation's own: figures, names and texts of its files, the station's texts by their
+// numbers, and the desktop's names of days and months.
+bool IsOfTheInstallation(const QString& text, const cLocaleForms& forms) {
+    static const QRegularExpression own(
+        "^[^A-Za-z]*$|^h6\\d\\d$|^\\(\\*\\*\\* "
+        "|^/app|^(Receiver|Profile)_\\d{4}\\.dat|^ColourRules.txt|^March 2026$");
+    const auto isNamed = [&](const auto& names) {
+        return std::find(names.begin(), names.end(), FromQString(text)) != names.end();
+    };
+    return own.match(text).hasMatch() || isNamed(forms.dayNames) || isNamed(forms.monthNames);
+}
+
+void AddTextsOf(QWidget& widget, QStringList& texts) {
+    texts << widget.accessibleName() << widget.accessibleDescription() << widget.toolTip()
+          << widget.windowTitle();
+    if (auto* label = qobject_cast<QLabel*>(&widget)) texts << label->text();
+    if (auto* button = qobject_cast<QAbstractButton*>(&widget)) texts << button->text();
+    if (auto* box = qobject_cast<QGroupBox*>(&widget)) texts << box->title();
+    if (auto* menu = qobject_cast<QMenu*>(&widget)) texts << menu->title();
+    if (auto* line = qobject_cast<QLineEdit*>(&widget)) texts << line->placeholderText();
+    if (auto* tabs = qobject_cast<QTabWidget*>(&widget)) {
+        for (int i = 0; i < tabs->count(); ++i) texts << tabs->tabText(i);
+    }
+    if (auto* choice = qobject_cast<QComboBox*>(&widget)) {
+        for (int i = 0; i < choice->count(); ++i) texts << choice->itemText(i);
+    }
+    if (auto* header = qobject_cast<QHeaderView*>(&widget); header != nullptr && header->model() != nullptr) {
+        for (int i = 0; i < header->count(); ++i)
+            texts << header->model()->headerData(i, header->orientation()).toString();
+    }
+    for (const QAction* action : widget.actions()) texts << action->text() << action->toolTip();
+}
+
+// What shows and is not marked, once each.
+std::set<std::string> Unmarked(QWidget& window, const cLocaleForms& forms) {
+    QStringList texts;
+    AddTextsOf(window, texts);
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+        // A part of the toolkit's own.
+        const bool isPart = widget->objectName().startsWith("qt_") || widget->parent()->inherits("QTabBar");
+        if (!isPart) AddTextsOf(*widget, texts);
+    }
+    std::set<std::string> unmarked;
+    for (const QString& text : texts) {
+        if (!text.contains('<') && !IsOfTheInstallation(text, forms)) unmarked.insert(text.toStdString());
+    }
+    return unmarked;
+}
+
+TEST(Translations, NothingThatShowsGoesPastThem) {
+    std::set<std::string> lacking;
+    cEditorPages pages(std::make_unique<cMarks>(lacking));
+    pages.ForEach([&](const std::string& name) {
+        EXPECT_EQ(Unmarked(pages.Window(), pages.Bench().m_Forms), std::set<std::string>{}) << name;
+    });
+    EXPECT_EQ(lacking, std::set<std::string>{});
+}
+
+// The letters by which Alt reaches something, in the order of the texts.
+void AddKey(const QString& text, const QString& what, std::map<QString, QStringList>& keys) {
+    const QKeySequence key = QKeySequence::mnemonic(text);
+    if (!key.isEmpty()) keys[key.toString()] << what;
+}
+
+// The letters that reach more than one thing.
+std::string Clashes(const std::map<QString, QStringList>& keys) {
+    QString clashes;
+    for (const auto& [key, texts] : keys) {
+        if (texts.size() > 1) clashes += key + ": " + texts.join(", ") + "\n";
+    }
+    return clashes.toStdString();
+}
+
+std::string ClashesOfMenu(const QWidget& menu) {
+    std::map<QString, QStringList> keys;
+    for (const QAction* action : menu.actions()) AddKey(action->text(), action->text(), keys);
+    return Clashes(keys);
+}
+
+// Of all that Alt reaches while a page shows: the menus, and the page's fields and buttons.
+std::string ClashesOfWindow(QMainWindow& window) {
+    std::map<QString, QStringList> keys;
+    for (const QAction* action : window.menuBar()->actions()) AddKey(action->text(), action->text(), keys);
+    for (QWidget* widget : window.centralWidget()->findChildren<QWidget*>()) {
+        if (!widget->isVisible()) continue;
+        if (auto* label = qobject_cast<QLabel*>(widget); label != nullptr && label->buddy() != nullptr)
+            AddKey(label->text(), label->text(), keys);
+        if (auto* button = qobject_cast<QAbstractButton*>(widget))
+            AddKey(button->text(), button->text(), keys);
+    }
+    return Clashes(keys);
+}
+
+TEST(AccessKeys, ReachOneThingEachInEveryLanguage) {
+    for (const char* language : kLanguages) {
+        cEditorPages pages(language);
+        pages.ForEach([&](const std::string& name) {
+            const std::string where = language + (", " + name);
+            EXPECT_EQ(ClashesOfWindow(pages.Window()), "") << where;
+            for (const QMenu* menu : pages.Window().menuBar()->findChildren<QMenu*>()) {
+                EXPECT_EQ(ClashesOfMenu(*menu), "") << where;
+            }
+        });
+    }
+}
+
+}  // namespace
+}  // namespace vigrel::testing
