@@ -23,34 +23,21 @@ namespace fs = std::filesystem;
 
 constexpr int kDays = 365;
 
-cLogPhrases Phrases() {
-    cLogPhrases phrases;
-    phrases.start = "Program start";
-    phrases.started = "Start-up finished";
-    phrases.acknowledged = "Acknowledged: ";
-    phrases.popupOpened = "Popup opened: ";
-    phrases.alarm = " alarm received: ";
-    phrases.message = " message received -> ";
-    phrases.keepAlive = " keep-alive received";
-    return phrases;
-}
-
 // Of ten lines, six are signs of life, three alarms, one an acknowledgement.
-std::string Line(int number, int second) {
-    char time[16];
+std::string Line(const cLogPhrases& phrases, int number, int second) {
+    char time[40];
     std::snprintf(time, sizeof time, "%02d:%02d:%02d ", second / 3600, second / 60 % 60, second % 60);
     const int unit = number * 7919 % 400, kind = number % 10;
     const std::string sender = "PLC" + std::to_string(unit % 20),
                       alarm = "Unit " + std::to_string(unit) + " of the ventilation tripped (House " +
                               std::to_string(unit % 9) + ", floor 3/Technical/AI-" + std::to_string(unit) +
                               "/)";
-    if (kind < 6) return time + sender + " keep-alive received\r\n";
-    if (kind == 6) return time + std::string("Acknowledged: Active - ") + alarm + "\r\n";
-    return time + sender + " alarm received: " + (kind % 2 == 0 ? "Inactive" : "Active") + " - " + alarm +
-           "\r\n";
+    if (kind < 6) return time + sender + phrases.keepAlive + "\r\n";
+    if (kind == 6) return time + phrases.acknowledged + "Active - " + alarm + "\r\n";
+    return time + sender + phrases.alarm + (kind % 2 == 0 ? "Inactive" : "Active") + " - " + alarm + "\r\n";
 }
 
-void WriteYear(const fs::path& folder, int lines) {
+void WriteYear(const cLogPhrases& phrases, const fs::path& folder, int lines) {
     fs::create_directories(folder / "LogFiles");
     std::ofstream(folder / "VigrelReceiver.INI") << "[General]\r\nObject=Bench\r\n";
     const WallTime begin = WallTimeFromParts(2025, 1, 1);
@@ -60,7 +47,7 @@ void WriteYear(const fs::path& folder, int lines) {
         std::erase(name, '-');
         std::ofstream file(folder / "LogFiles" / (name + ".Log"), std::ios::binary);
         for (int i = 0; i < perDay; ++i)
-            file << Line(day * perDay + i, static_cast<int>(86399.0 * i / perDay));
+            file << Line(phrases, day * perDay + i, static_cast<int>(86399.0 * i / perDay));
     }
 }
 
@@ -87,14 +74,13 @@ int main(int argc, char** argv) {
     const int lines = argc > 1 ? std::atoi(argv[1]) : 1000000;
     const fs::path folder = fs::temp_directory_path() / "vigrel-report-bench";
     fs::remove_all(folder);
-    WriteYear(folder, lines);
     const cLinuxFiles files;
+    const std::vector<cLogPhrases> phrases = ReadPhrases(files, std::string(VIGREL_SHARE_DIR) + "/");
+    WriteYear(phrases.back(), folder, lines);
     const cTimeZone zone(3600);
     const cOptions options =
         ReadReportOptions({"--from", "2025-01-01", "--to", "2025-12-31", "--html", "-", folder.string()});
-    const cSurroundings surroundings{files,
-                                     zone,
-                                     {Phrases()},
+    const cSurroundings surroundings{files, zone, phrases,
                                      zone.ToMoments(WallTimeFromParts(2026, 1, 2)).first,
                                      [](std::size_t, std::size_t) {}};
     std::vector<double> ratios;
