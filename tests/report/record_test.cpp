@@ -289,6 +289,22 @@ TEST_F(Record, LostSendersComeFromAlarmsAndPopups) {
     EXPECT_EQ(measured.figures.load.activations, 0u);  // they are the station's, and told apart
 }
 
+// The log of their start can be gone for long.
+TEST_F(Record, SendersOfTheConfigurationAreThereWithoutALine) {
+    files.Put("/app/VigrelReceiver.INI",
+              "[General]\r\nLanguage=044\r\n[Senders]\r\n;PLC0=1\r\nPLC1=5\r\nplc1=6\r\nPLC2=0\r\nPLC3=x\r\n"
+              "PLC4=99999\r\nno pair\r\n");
+    station.KeepAlive(day + 60);
+    station.Line(day + 61, "PLC2 - " + station.Text(10013) + " 7 " + station.Text(10014));
+    std::map<std::string, std::optional<std::int64_t>> minutes;
+    const cMeasured measured = Measure();
+    for (const cSenderFigures& sender : measured.figures.stations[0].senders) {
+        minutes[measured.names.SenderName(sender.sender)] = sender.minutes;
+    }
+    EXPECT_EQ(minutes,
+              (std::map<std::string, std::optional<std::int64_t>>{{"PLC1", 5}, {"PLC2", 7}, {"PLC3", 0}}));
+}
+
 TEST_F(Record, FailedPrintsAreToldFromClosedPopups) {
     const std::string failed = station.Text(10038) + " Active - ";
     station.Start(day);

@@ -98,11 +98,28 @@ class cFolderReader {
             m_Names.LearnCategory(general.Text("SystemErrorCategory"));
         });
         if (EqualsNoCase(m_Record.name, "none")) m_Record.name.clear();
-        for (const std::string& section :
-             ReadIniEntries(m_Files, "", kSectionBuffer, m_Folder + std::string(kIniFile)).entries) {
+        for (const std::string& section : Entries("")) {
             if (!IsCategorySection(section)) continue;
             m_Names.LearnCategory(Trim(section.substr(section.find('_') + 1)));
         }
+        for (const std::string& entry : Entries("Senders")) TakeSender(ini, entry);
+    }
+
+    std::vector<std::string> Entries(std::string_view section) const {
+        return ReadIniEntries(m_Files, section, kSectionBuffer, m_Folder + std::string(kIniFile)).entries;
+    }
+
+    // A line "name=minutes". What a start said of the sender in the log counts more: the configuration can
+    // have been changed since.
+    void TakeSender(const cIniReader& ini, const std::string& entry) {
+        if (entry.find('=') == std::string::npos || Trim(entry).starts_with(';')) return;
+        const std::string name = GetField(entry, 0, "=");
+        const std::uint32_t sender = m_Names.Sender(name);
+        auto& rows = m_Record.supervisions;
+        const bool known = std::any_of(rows.begin(), rows.end(),
+                                       [&](const cSupervision& row) { return row.sender == sender; });
+        if (known) return;  // the station takes the first line of a name, too
+        SkipFailure([&] { rows.push_back({sender, ini.Int16("Senders", name, GetField(entry, 1, "="))}); });
     }
 
     void TakeAlarm(const cStoredAlarm& stored) {
