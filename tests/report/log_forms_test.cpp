@@ -45,6 +45,7 @@ TEST_P(LogForms, KnowEveryLineOfTheDeliveredTexts) {
     EXPECT_EQ(Read(m_Texts[10044]).kind, eLine::Known);
     EXPECT_EQ(Read(m_Texts[10017] + " 12412 " + m_Texts[10018]).kind, eLine::Known);
     EXPECT_EQ(Read(m_Texts[141] + " C:\\App\\LogFiles\\20260101.LOG)").kind, eLine::Known);
+    EXPECT_EQ(Read(m_Texts[10027] + " 1").kind, eLine::Known);
     EXPECT_EQ(Read("17 " + m_Texts[10041]).kind, eLine::Known);
     EXPECT_EQ(Read("... 17 " + m_Texts[10048]).kind, eLine::Known);
     for (const auto& [id, kind] : std::map<int, eLine>{{10039, eLine::Acknowledged},
@@ -55,6 +56,23 @@ TEST_P(LogForms, KnowEveryLineOfTheDeliveredTexts) {
         EXPECT_EQ(line.kind, kind) << id;
         EXPECT_EQ(line.alarm, alarm) << id;
     }
+}
+
+TEST_P(LogForms, KnowWhatAStationSaysInEnglishOnly) {
+    for (const char* text :
+         {"No notification area: the minimised window is not hidden",
+          "The notification area is gone: the hidden window is shown",
+          "The display is gone: the program ends",
+          "The texts can't be read, the program's own stand for them: Vigrel_Texts.046: Permission denied",
+          "The folder is not locked, a second station on it would not notice: /app: Permission denied",
+          "The stored alarms can't be listed: /app/Alarms: Permission denied",
+          "Alarms\\A0000x.alm is no alarm file: its number is out of range",
+          "Vigrel_Texts.046: 2 missing text(s) added: 10052, 10053",
+          "7 alarm file(s) can't be read: A0000001 A0000002"}) {
+        EXPECT_EQ(Read(text).kind, eLine::Known) << text;
+    }
+    EXPECT_EQ(Read("some alarm file(s) can't be read: x").kind, eLine::Unknown);
+    EXPECT_EQ(Read("Alarms\\A0000001.alm").kind, eLine::Unknown);
 }
 
 TEST_P(LogForms, NameTheSender) {

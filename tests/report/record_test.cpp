@@ -325,7 +325,8 @@ TEST_F(Record, AnAcknowledgementIsOfTheNewestOpenAlarmWithItsWords) {
     station.Inactive(day + 200, kFan);
     station.Active(day + 1000, kFan);
     station.Acknowledge(day + 1030, kFan);
-    station.Acknowledge(day + 1040, kPump);  // of no alarm here
+    station.Acknowledge(day + 1040, kPump);                                         // of no alarm here
+    station.Acknowledge(day + 1050, "VigrelAlarmReceiver (/Vigrel//PLC1 - lost)");  // the station's own
     const cMeasured measured = Measure();
     EXPECT_EQ(measured.figures.answers.all.count, 1u);
     EXPECT_EQ(measured.figures.answers.all.most, 30);

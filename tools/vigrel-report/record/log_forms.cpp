@@ -1,5 +1,6 @@
 #include "vigrel-report/record/log_forms.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 
@@ -112,7 +113,7 @@ bool IsCount(const cLogPhrases& phrases, std::string_view text) {
 
 bool IsOther(const cLogPhrases& phrases, std::string_view text) {
     return IsCount(phrases, text) || Begins(text, phrases.port) || Begins(text, phrases.light) ||
-           Begins(text, phrases.deleted);
+           Begins(text, phrases.lightLibrary) || Begins(text, phrases.deleted);
 }
 
 cLogLine ReadBy(const cLogPhrases& phrases, std::string_view text) {
@@ -121,6 +122,22 @@ cLogLine ReadBy(const cLogPhrases& phrases, std::string_view text) {
         if (const cLogLine line = read(phrases, text); line.kind != eLine::Unknown) return line;
     }
     return {IsOther(phrases, text) ? eLine::Known : eLine::Unknown, {}, {}, 0};
+}
+
+// What a station says of itself in English, whatever its language.
+bool IsNotice(std::string_view text) {
+    constexpr std::array<std::string_view, 7> kBeginnings = {"No notification area: ",
+                                                             "The notification area is gone: ",
+                                                             "The display is gone: ",
+                                                             "The texts can't be read, ",
+                                                             "The folder is not locked, ",
+                                                             "The stored alarms can't be listed: ",
+                                                             "Vigrel_Texts."};
+    const auto begins = [&](std::string_view beginning) { return text.starts_with(beginning); };
+    if (std::any_of(kBeginnings.begin(), kBeginnings.end(), begins)) return true;
+    if (text.starts_with("Alarms\\")) return text.find(" is no alarm file: ") != std::string_view::npos;
+    const std::size_t count = text.find(" alarm file(s) can't be read:");
+    return count != std::string_view::npos && WholeNumber(text.substr(0, count));
 }
 
 // The line with which every start begins.
@@ -145,6 +162,7 @@ cLogPhrases PhrasesOf(const cTexts& texts) {
     p.printFailed = text(TextPrintFailed, "", " ");
     p.port = text(TextPortOpen, "", " ");
     p.light = text(TextLightFound, "", " (");
+    p.lightLibrary = text(TextLightLibrary, "", " ");
     p.deleted = text(TextLogDeleted, "", " ");
     p.soundStopped = text(TextSoundStopped);
     p.noLight = text(TextNoLight);
@@ -174,7 +192,7 @@ cLogLine cLogForms::Read(std::string_view text) {
         m_Last = language;
         return line;
     }
-    return {};
+    return {IsNotice(text) ? eLine::Known : eLine::Unknown, {}, {}, 0};
 }
 
 std::string_view cLogForms::LostSender(std::string_view text) const {

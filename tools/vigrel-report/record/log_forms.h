@@ -40,7 +40,7 @@ struct cLogLine {
 struct cLogPhrases {
     bool operator==(const cLogPhrases&) const = default;
     std::string start, started, endBySession, endByOperator;  // whole lines
-    std::string acknowledged, popupOpened, popupClosed, printFailed, port, light,
+    std::string acknowledged, popupOpened, popupClosed, printFailed, port, light, lightLibrary,
         deleted;                                                                     // at the beginning
     std::string soundStopped, noLight;                                               // whole lines
     std::string alarm, message;                                                      // behind the sender

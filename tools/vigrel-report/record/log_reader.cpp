@@ -120,7 +120,10 @@ void cLogReader::TakeAcknowledged(const cLogLine& line, const cLogTime::cStamp& 
     m_RunTimes.Touch(stamp.time);
     const auto alarm = SplitAlarm(line.alarm);
     // Rows of alarms that are over can be acknowledged too; that is no answer to an alarm.
-    if (alarm && alarm->state == 1) m_Acknowledgements.push_back({stamp.order, m_Names.Body(alarm->body)});
+    if (!alarm || alarm->state != 1) return;
+    const std::uint32_t body = m_Names.Body(alarm->body);
+    // The station's own alarms have no line when they come.
+    if (m_Names.Fields(body)[0] != kOwnAlarm) m_Acknowledgements.push_back({stamp.order, body});
 }
 
 // An alarm of the station's own has no line when it comes, but its popup has.
