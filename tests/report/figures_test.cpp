@@ -292,6 +292,36 @@ TEST_F(Rules, OperatorsShareTheLoad) {
     EXPECT_NEAR(Measure(settings).figures.load.perDay, 5.5, 1e-9);
 }
 
+TEST_F(Rules, ThePeakIsJudgedByWhatAllOperatorsCanTake) {
+    for (int i = 0; i < 15; ++i) station.Active(day + i, Alarm("A" + std::to_string(i)));
+    cSettings settings;
+    for (const int operators : {1, 2}) {
+        settings.operators = operators;
+        for (const cJudged& line : Judge(Measure(settings).figures, nullptr)) {
+            if (line.figure != eFigure::Peak) continue;
+            EXPECT_EQ(line.value, 15);
+            EXPECT_EQ(line.verdict, operators == 1 ? eVerdict::Over : eVerdict::Within);
+        }
+    }
+}
+
+// A record of five minutes, all of them in flood.
+TEST_F(Rules, AFloodLastsNoLongerThanItsRecord) {
+    for (int i = 0; i < 300; ++i) station.Active(day + 3600 + i, Alarm("A" + std::to_string(i)));
+    const cMeasured measured = Measure();
+    EXPECT_EQ(measured.figures.load.observed, 300);
+    EXPECT_NEAR(measured.figures.load.floodShare, 1, 1e-12);
+    EXPECT_EQ(measured.figures.load.days[0].flooded, 300);
+}
+
+TEST_F(Rules, AFloodIsCutToThePeriod) {
+    for (int i = 0; i < 900; ++i) station.Active(day + 300 + i, Alarm("A" + std::to_string(i)));
+    const cMeasured measured(files, {station.Finish()}, day + 360, day + 900);
+    ASSERT_EQ(measured.figures.load.floods.size(), 1u);
+    EXPECT_EQ(measured.figures.load.floods[0].span, (cSpan{day + 360, day + 900}));
+    EXPECT_NEAR(measured.figures.load.floodShare, 1, 1e-12);
+}
+
 TEST_F(Rules, ChatteringIsThreeWithinAMinute) {
     for (const int second : {0, 30, 60, 1000, 1031, 1061}) {
         const std::string name = Alarm("A");

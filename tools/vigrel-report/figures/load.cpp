@@ -29,6 +29,23 @@ double ShareAbove(const cBins& bins, double limit) {
     return observed == 0 ? 0 : static_cast<double>(above) / static_cast<double>(observed);
 }
 
+// The first bin can begin before the period, and the last one end behind it.
+void CutFloods(std::vector<cFlood>& floods, const cSpan& period) {
+    for (cFlood& flood : floods) {
+        flood.span = {std::max(flood.span.begin, period.begin), std::min(flood.span.end, period.end)};
+    }
+}
+
+// The record needn't know all of a flood's time, which can begin and end in the midst of ten minutes.
+Spans KnownTimesOf(const std::vector<cFlood>& floods, const Spans& known) {
+    Spans times;
+    for (const cFlood& flood : floods) {
+        const Spans within = Within(known, flood.span);
+        times.insert(times.end(), within.begin(), within.end());
+    }
+    return times;
+}
+
 std::vector<cFlood> FindFloods(const cBins& bins, int operators) {
     std::vector<cFlood> floods;
     bool flooded = false;
@@ -46,20 +63,17 @@ std::vector<cFlood> FindFloods(const cBins& bins, int operators) {
     return floods;
 }
 
-void FindFirstSources(std::vector<cFlood>& floods, const cPlant& plant, const cSpan& period) {
+void FindFirstSources(std::vector<cFlood>& floods, const cPlant& plant) {
     for (cFlood& flood : floods) {
-        for (const cActivation* activation :
-             Activations(plant, {std::max(flood.span.begin, period.begin), flood.span.end})) {
+        for (const cActivation* activation : Activations(plant, flood.span)) {
             flood.firstSource = activation->source;
             break;
         }
     }
 }
 
-std::vector<cDayLoad> MeasureDays(const cLoad& load, const cPlant& plant, const cSpan& period,
-                                  const cTimeZone& zone) {
-    Spans flooded;
-    for (const cFlood& flood : load.floods) flooded.push_back(flood.span);
+std::vector<cDayLoad> MeasureDays(const cLoad& load, const Spans& flooded, const cPlant& plant,
+                                  const cSpan& period, const cTimeZone& zone) {
     std::vector<cDayLoad> days;
     for (Moment day = zone.Midnight(period.begin); day < period.end; day = zone.Midnight(day, 1)) {
         const cSpan span{std::max(day, period.begin), std::min(zone.Midnight(day, 1), period.end)};
@@ -122,12 +136,12 @@ cLoad MeasureLoad(const cPlant& plant, const cSpan& period, const cTimeZone& zon
     load.busyBins = ShareAbove(load.bins, kFloodBegins * operators);
     load.busyHours = ShareAbove(CountBins(plant, period, zone, kHour), kBusyHour * operators);
     load.floods = FindFloods(load.bins, operators);
-    FindFirstSources(load.floods, plant, period);
-    Seconds flooded = 0;
-    for (const cFlood& flood : load.floods) flooded += flood.span.Length();
+    CutFloods(load.floods, period);
+    FindFirstSources(load.floods, plant);
+    const Spans flooded = KnownTimesOf(load.floods, plant.known);
     if (load.observed > 0)
-        load.floodShare = static_cast<double>(flooded) / static_cast<double>(load.observed);
-    load.days = MeasureDays(load, plant, period, zone);
+        load.floodShare = static_cast<double>(TotalLength(flooded)) / static_cast<double>(load.observed);
+    load.days = MeasureDays(load, flooded, plant, period, zone);
     load.meanDailyPeak = MeanDailyPeak(load.days);
     return load;
 }
