@@ -5,6 +5,7 @@
 #include <set>
 
 #include "common/failure.h"
+#include "common/path_text.h"
 #include "report/written_station.h"
 #include "vigrel-report/page/writers.h"
 #include "vigrel-report/run.h"
@@ -138,6 +139,116 @@ TEST_F(HandedOut, ThreeSentencesComeFirst) {
     for (std::size_t at = page.find("<li>", list); at < end; at = page.find("<li>", at + 1)) ++sentences;
     EXPECT_EQ(sentences, 3u);
     EXPECT_LT(end, page.find("<section>"));
+}
+
+TEST_F(HandedOut, APartOfADayIsNamedToTheMinute) {
+    EXPECT_TRUE(Make({"--from", "2026-06-01 10:00", "--to", "2026-06-01 23:59", "/app"})
+                    .text.starts_with("Alarm report: Mill, 2026-06-01 10:00 to 2026-06-02 00:00\n"));
+    EXPECT_TRUE(Make({"--from", "2026-06-01", "--to", "2026-06-02", "/app"})
+                    .text.starts_with("Alarm report: Mill, 2026-06-01 to 2026-06-02\n"));
+}
+
+// The labels below a picture whose time line is that of a period.
+std::vector<std::string> LabelsOf(const std::string& page) {
+    const std::size_t begin = page.find("<svg"), end = page.find("</svg>");
+    std::vector<std::string> labels;
+    const std::string look = "y=\"216\" class=\"axis\">";
+    for (std::size_t at = page.find(look, begin); at < end; at = page.find(look, at + 1)) {
+        const std::size_t from = at + look.size();
+        labels.push_back(page.substr(from, page.find('<', from) - from));
+    }
+    return labels;
+}
+
+TEST_F(HandedOut, TheTimeLineHasTimesDaysOrMonths) {
+    const auto labels = [&](const std::string& from, const std::string& to) {
+        return LabelsOf(Make({"--html", "x", "--from", from, "--to", to, "/app"}).page);
+    };
+    using Labels = std::vector<std::string>;
+    EXPECT_EQ(labels("2026-06-01 09:58", "2026-06-01 10:01"), (Labels{"09:58", "09:59", "10:00", "10:01"}));
+    EXPECT_EQ(labels("2026-06-01 21:00", "2026-06-02 03:00"),
+              (Labels{"21:00", "21:30", "22:00", "22:30", "23:00", "23:30", "06-02", "00:30", "01:00",
+                      "01:30", "02:00", "02:30"}));
+    EXPECT_EQ(labels("2026-06-01", "2026-06-03"), (Labels{"Mon 06-01", "Tue 06-02", "Wed 06-03"}));
+    EXPECT_EQ(labels("2026-05-04", "2026-06-02"), (Labels{"05-04", "05-11", "05-18", "05-25", "06-01"}));
+    EXPECT_EQ(labels("2026-03-15", "2026-06-02"), (Labels{"2026-04", "2026-05"}));
+    EXPECT_EQ(labels("2025-06-01", "2026-05-31").size(), 12u);
+}
+
+TEST_F(HandedOut, AFolderIsNamedInItsOwnScript) {
+    const std::string path = "/\u0438\u0432\u0430\u043d";
+    const std::string folder = PathText(path + "/");
+    cWrittenStation nameless(files, folder);
+    files.Put(folder + "VigrelReceiver.INI", "[General]\r\nLanguage=044\r\n");
+    nameless.Start(monday);
+    nameless.Raw(monday + 86400, "10:00:00 nothing of a station\r\n");
+    nameless.Finish();
+    files.SetUnreadable(folder + "LogFiles/20260602.Log", true);
+    EXPECT_NE(Make({path}).text.find("Alarm report: " + path + "/, "), std::string::npos);
+    const std::string page = Make({"--html", "x", path}).page;
+    EXPECT_NE(page.find("<h1>Alarm report \u2013 " + path + "/</h1>"), std::string::npos);
+    EXPECT_NE(page.find("be read: " + path + "/LogFiles/20260602.Log"), std::string::npos);
+    EXPECT_EQ(page.find("\\x1A"), std::string::npos);
+}
+
+TEST_F(HandedOut, OperatorsRaiseTheLimitOfThePeak) {
+    const std::string page = Make({"--html", "x", "--operators", "2", "/app"}).page;
+    EXPECT_NE(page.find("<td>at most 20</td>"), std::string::npos);
+    EXPECT_NE(page.find(">limit 20</text>"), std::string::npos);
+    EXPECT_NE(page.find("The line is the limit of 20;"), std::string::npos);
+}
+
+// --- what is said of a plant with two stations
+
+class TwoStations : public HandedOut {
+  protected:
+    TwoStations() {
+        for (cWrittenStation* one : {&first, &second}) {
+            one->Start(monday);
+            one->Line(monday, "PLC1 - " + one->Text(10013) + " 5 " + one->Text(10014));
+        }
+    }
+    // A popup about a sender.
+    void Tell(cWrittenStation& at, WallTime wall, const std::string& state) {
+        at.Line(wall, at.Text(10043) + " " + state + " - VigrelAlarmReceiver (/Vigrel//PLC1 - " +
+                          at.Text(10032) + ")");
+    }
+    std::string Text() {
+        for (cWrittenStation* one : {&first, &second}) {
+            one->KeepAlive(monday + 7 * 86400);
+            one->Finish();
+        }
+        return Make({"/first", "/second"}).text;
+    }
+    cWrittenStation first{files, "/first/"}, second{files, "/second/"};
+};
+
+TEST_F(TwoStations, WhatOneStationGotIsNotLost) {
+    first.End(monday + 3600);
+    first.Start(monday + 7200);
+    Tell(second, monday + 9000, "Active");
+    Tell(second, monday + 9900, "Inactive");
+    const std::string text = Text();
+    EXPECT_EQ(text.find("reached nobody"), std::string::npos) << text;
+    EXPECT_EQ(text.find("could not come"), std::string::npos) << text;
+    EXPECT_NE(text.find("Look at the connection of \u201cPLC1\u201d."), std::string::npos) << text;
+}
+
+TEST_F(TwoStations, WhatNoneGotIsSaid) {
+    first.End(monday + 3600);
+    first.Start(monday + 7200);
+    second.End(monday + 5400);
+    second.Start(monday + 9000);
+    Tell(first, monday + 10000, "Active");
+    Tell(first, monday + 14000, "Inactive");
+    Tell(second, monday + 13000, "Active");
+    Tell(second, monday + 15000, "Inactive");
+    const std::string text = Text();
+    EXPECT_NE(text.find("No station ran for 30\u00a0min: alarms of that time reached nobody here."),
+              std::string::npos)
+        << text;
+    EXPECT_NE(text.find("\u201cPLC1\u201d was without contact for 16\u00a0min 40\u00a0s:"), std::string::npos)
+        << text;
 }
 
 TEST_F(HandedOut, TablesDisarmFormulas) {

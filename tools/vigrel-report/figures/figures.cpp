@@ -6,6 +6,7 @@ cFigures Measure(const cPlant& plant, const cAlarmNames& names, const cSettings&
                  const cSpan& period, const cTimeZone& zone) {
     cFigures figures;
     figures.period = period;
+    figures.operators = settings.operators;
     figures.load = MeasureLoad(plant, period, zone, settings.operators);
     figures.sources = RankSources(plant, names, period);
     figures.nuisance = FindNuisance(plant, names, period, zone);

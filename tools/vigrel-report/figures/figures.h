@@ -15,6 +15,7 @@ namespace vigrel::report {
 // All figures of one period.
 struct cFigures {
     cSpan period;
+    int operators = 1;
     cLoad load;
     cSourceFigures sources;
     cNuisance nuisance;
@@ -28,6 +29,11 @@ cFigures Measure(const cPlant& plant, const cAlarmNames& names, const cSettings&
                  const cSpan& period, const cTimeZone& zone);
 
 // --- limits, as they are quoted
+
+// The most alarms of ten minutes that all operators together can take.
+inline double PeakLimit(const cFigures& figures) {
+    return kFloodBegins * figures.operators;
+}
 
 enum class eVerdict { Within, Over, NotJudged };
 

@@ -88,7 +88,7 @@ constexpr cLimit kLimits[] = {
     {eFigure::RateTenMinutes, eUnit::Number, cLimit::AtMost, 1},
     {eFigure::RateHour, eUnit::Number, cLimit::AtMost, 6},
     {eFigure::RateDay, eUnit::Number, cLimit::AtMost, 150},
-    {eFigure::Peak, eUnit::Count, cLimit::AtMost, 10},
+    {eFigure::Peak, eUnit::Count, cLimit::AtMost, kFloodBegins},  // for each operator
     {eFigure::MeanDailyPeak, eUnit::Number},
     {eFigure::BusyBins, eUnit::Share, cLimit::Below, 0.01},
     {eFigure::BusyHours, eUnit::Share, cLimit::Below, 0.01},
@@ -110,7 +110,8 @@ constexpr cLimit kLimits[] = {
     {eFigure::Outside, eUnit::Share},
 };
 
-eVerdict VerdictOf(const cLimit& limit, double value) {
+eVerdict VerdictOf(const cFigures& figures, cLimit limit, double value) {
+    if (limit.figure == eFigure::Peak) limit.value = PeakLimit(figures);
     bool within = true;
     if (limit.kind == cLimit::None) return eVerdict::NotJudged;
     if (limit.kind == cLimit::AtMost) within = value <= limit.value;
@@ -131,7 +132,8 @@ std::vector<cJudged> Judge(const cFigures& figures, const cFigures* before) {
     for (const cLimit& limit : kLimits) {
         cJudged line{limit.figure, limit.unit, ValueOf(figures, limit.figure), {}, eVerdict::NotJudged};
         if (before != nullptr) line.before = ValueOf(*before, limit.figure);
-        if (line.value && IsJudged(figures, limit.figure)) line.verdict = VerdictOf(limit, *line.value);
+        if (line.value && IsJudged(figures, limit.figure))
+            line.verdict = VerdictOf(figures, limit, *line.value);
         judged.push_back(line);
     }
     return judged;

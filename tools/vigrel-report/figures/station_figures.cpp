@@ -41,7 +41,9 @@ class cLosses {
     }
     bool HoldsRun(Moment from, Moment to) const { return EndOfRun(from) >= to || m_Station.outages.empty(); }
     void Close(Moment end) {
-        m_Sender.without += TotalLength(Within({{*m_Since, std::max(*m_Since, end)}}, m_Period));
+        const Spans loss = Within({{*m_Since, std::max(*m_Since, end)}}, m_Period);
+        m_Sender.losses.insert(m_Sender.losses.end(), loss.begin(), loss.end());
+        m_Sender.without += TotalLength(loss);
         m_Since.reset();
     }
 
@@ -103,7 +105,8 @@ cStationFigures MeasureStation(const cStationRecord& station, const cSpan& perio
     down = Joined(std::move(down));
     const Spans all = {period};
     figures.running = TotalLength(Within(station.running, period));
-    figures.notRunning = TotalLength(Within(Without(down, station.running), period));
+    figures.down = Within(Without(down, station.running), period);
+    figures.notRunning = TotalLength(figures.down);
     figures.gaps = Without(Without(all, station.running), down);
     figures.notKnown = TotalLength(figures.gaps);
     figures.failedPrints = CountWithin(station.failedPrints, period);

@@ -12,7 +12,8 @@ struct cSenderFigures {
     std::uint32_t sender = 0;
     std::optional<std::int64_t> minutes;  // of allowed silence; 0: not supervised; nothing: not known
     std::size_t lost = 0, returned = 0;   // as far as the record tells; repeated alarms count once
-    Seconds without = 0;                  // from the alarms to the returns, or to an end of the station
+    Spans losses;                         // from the alarms to the returns, or to an end of the station
+    Seconds without = 0;                  // all of these together
     bool isLost = false;                  // at the end of the period
     Seconds longestSilence = 0;           // by the log, while the station ran; 0: less than five minutes
 };
@@ -23,6 +24,7 @@ struct cStationFigures {
     std::size_t starts = 0, orderlyEnds = 0, unexpectedEnds = 0;
     Seconds running = 0, notRunning = 0, notKnown = 0;
     std::vector<cOutage> outages;
+    Spans down;  // not running
     Spans gaps;  // the record knows nothing of these times
     std::size_t failedPrints = 0, messages = 0, unknownSenders = 0;
     std::int64_t removed = 0;  // alarms, by the limits

@@ -24,7 +24,7 @@ std::string SourceText(const cAlarmNames& names, std::uint32_t number) {
 }
 
 std::string StationText(const cStationFigures& station) {
-    return NameText(station.name.empty() ? station.folder : station.name);
+    return station.name.empty() ? PrintablePath(station.folder) : NameText(station.name);
 }
 
 eWord FigureWord(eFigure figure) {
@@ -36,13 +36,24 @@ eWord WeekdayWord(std::size_t weekday) {
     return static_cast<eWord>(static_cast<std::size_t>(eWord::Monday) + weekday);
 }
 
+namespace {
+
+// Whole days by their names, anything else to the minute.
+std::string PeriodText(const cSpan& period, const cForms& forms) {
+    const auto isMidnight = [&](Moment moment) { return forms.Zone().Midnight(moment) == moment; };
+    if (isMidnight(period.begin) && isMidnight(period.end))
+        return forms.Say(eWord::FromTo, {forms.Day(period.begin), forms.Day(period.end - 1)});
+    return forms.Say(eWord::FromTo, {forms.Time(period.begin), forms.Time(period.end)});
+}
+
+}  // namespace
+
 cDocument MakeDocument(const cReport& report, const cForms& forms) {
     cDocument document;
     for (const cStationFigures& station : report.figures.stations) {
         document.plant += (document.plant.empty() ? "" : " · ") + StationText(station);
     }
-    const cSpan& period = report.figures.period;
-    document.period = forms.Say(eWord::FromTo, {forms.Day(period.begin), forms.Day(period.end - 1)});
+    document.period = PeriodText(report.figures.period, forms);
     document.madeAt = forms.Say(eWord::MadeAt, {forms.Time(report.madeAt)});
     document.sentences = MakeSentences(report, forms);
     document.recommendations = MakeRecommendations(report, forms);

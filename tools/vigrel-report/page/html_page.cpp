@@ -181,9 +181,10 @@ class cPage {
     }
     void Time() {
         Open(eWord::TimeLine);
-        const cTimePicture picture = TimePicture(m_Report.figures, m_Forms, m_Report.settings.operators);
+        const cTimePicture picture = TimePicture(m_Report.figures, m_Forms);
         Picture(picture.svg);
-        Caption(Say(eWord::CaptionTime, {m_Forms.Duration(static_cast<double>(picture.bucket))}));
+        Caption(Say(eWord::CaptionTime, {m_Forms.Duration(static_cast<double>(picture.bucket)),
+                                         m_Forms.Number(PeakLimit(m_Report.figures))}));
         Behind("days", kMostDays);
         Part(eWord::Floods, "floods");
         Close();

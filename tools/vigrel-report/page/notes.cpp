@@ -1,3 +1,4 @@
+#include "common/printable.h"
 #include "vigrel-report/page/document.h"
 
 #include "vigrel-report/figures/periods.h"
@@ -56,9 +57,10 @@ class cNotes {
             Add(eWord::NoteDamaged, {name, m_Forms.Count(faults.damagedLines), m_Forms.Count(faults.lines),
                                      m_Forms.Count(faults.unknownLines)});
         }
-        for (const std::string& file : faults.foreignFiles) Add(eWord::NoteForeign, {name, NameText(file)});
+        for (const std::string& file : faults.foreignFiles)
+            Add(eWord::NoteForeign, {name, PrintablePath(file)});
         for (const std::string& file : faults.unreadableFiles)
-            Add(eWord::NoteUnreadable, {name, NameText(file)});
+            Add(eWord::NoteUnreadable, {name, PrintablePath(file)});
         AddCount(eWord::NoteAlarmFiles, name, faults.damagedAlarms);
         for (const cLogTime::cSetBack& setBack : record.setBacks) {
             if (!m_Report.figures.period.Holds(setBack.to)) continue;

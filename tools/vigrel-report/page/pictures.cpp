@@ -85,21 +85,60 @@ void DrawScale(cSvg& svg, const cPlot& plot, const cForms& forms) {
     }
 }
 
-// Days below the plot, as many as there is room for.
-void DrawDays(cSvg& svg, const cPlot& plot, const cForms& forms) {
-    const auto days = static_cast<int>(plot.period.Length() / kDay) + 1;
-    const int step = days <= 8 ? 1 : days <= 16 ? 2 : days <= 35 ? 7 : (days + 11) / 12;
+// A label that has no room before the picture's edge is left out; its tick stays.
+void DrawTick(cSvg& svg, const cPlot& plot, Moment moment, const std::string& label) {
+    if (!plot.period.Holds(moment)) return;
+    constexpr double kCharacter = 7;
+    const double x = plot.X(moment);
+    svg.Line(x, plot.bottom, x, plot.bottom + 5, "class=\"tick\"");
+    if (x + 3 + kCharacter * static_cast<double>(label.size()) > kWidth) return;
+    svg.Text(x + 3, plot.bottom + 16, "class=\"axis\"", label);
+}
+
+void DrawTimes(cSvg& svg, const cPlot& plot, const cTimeZone& zone) {
+    constexpr Seconds kSteps[] = {kMinute, 5 * kMinute, kBin, 30 * kMinute, kHour, 3 * kHour, 6 * kHour};
+    Seconds step = kSteps[0];
+    for (const Seconds next : kSteps) {
+        if (plot.period.Length() / step > 12) step = next;
+    }
+    const WallTime first = zone.ToWall(plot.period.begin) / step * step, last = zone.ToWall(plot.period.end);
+    for (WallTime wall = first; wall < last; wall += step) {
+        const bool midnight = wall % kDay == 0;
+        DrawTick(svg, plot, zone.ToMoments(wall).first, TimeText(wall).substr(midnight ? 5 : 11, 5));
+    }
+}
+
+void DrawMonths(cSvg& svg, const cPlot& plot, const cTimeZone& zone, int days) {
+    const cWallParts begin = SplitWallTime(zone.ToWall(plot.period.begin));
+    const int step = (days + 370) / 372;
+    for (int month = 0; month * 28 <= days + 31; month += step) {
+        const WallTime wall = WallTimeFromParts(begin.year, begin.month + month, 1);
+        DrawTick(svg, plot, zone.ToMoments(wall).first, DayText(wall).substr(0, 7));
+    }
+}
+
+void DrawDays(cSvg& svg, const cPlot& plot, const cForms& forms, int days) {
+    const int step = days <= 8 ? 1 : days <= 16 ? 2 : 7;
     const cTimeZone& zone = forms.Zone();
     for (Moment day = zone.Midnight(plot.period.begin); day < plot.period.end;
          day = zone.Midnight(day, step)) {
-        if (day < plot.period.begin) continue;
         const WallTime wall = zone.ToWall(day);
-        const std::string date = DayText(wall).substr(days > 300 ? 0 : 5);
         const std::string weekday =
             days <= 16 ? forms.Say(WeekdayWord(static_cast<std::size_t>(SplitWallTime(wall).weekday))) + " "
                        : "";
-        svg.Line(plot.X(day), plot.bottom, plot.X(day), plot.bottom + 5, "class=\"tick\"");
-        svg.Text(plot.X(day) + 3, plot.bottom + 16, "class=\"axis\"", weekday + date);
+        DrawTick(svg, plot, day, weekday + DayText(wall).substr(5));
+    }
+}
+
+// Times, days or months below the plot, as many as there is room for.
+void DrawTimeAxis(cSvg& svg, const cPlot& plot, const cForms& forms) {
+    const auto days = static_cast<int>(plot.period.Length() / kDay) + 1;
+    if (days <= 2) {
+        DrawTimes(svg, plot, forms.Zone());
+    } else if (days <= 70) {
+        DrawDays(svg, plot, forms, days);
+    } else {
+        DrawMonths(svg, plot, forms.Zone(), days);
     }
 }
 
@@ -143,10 +182,10 @@ void DrawUnobserved(cSvg& svg, const cPlot& plot, const cBins& bins) {
 
 }  // namespace
 
-cTimePicture TimePicture(const cFigures& figures, const cForms& forms, int operators) {
+cTimePicture TimePicture(const cFigures& figures, const cForms& forms) {
     cPlot plot;
     plot.period = figures.period;
-    const double limit = kFloodBegins * operators;
+    const double limit = PeakLimit(figures);
     plot.most = ScaleEnd(std::max(static_cast<double>(figures.load.peak), limit * 1.2));
     cTimePicture picture;
     picture.bucket = BucketOf(figures.period);
@@ -162,8 +201,8 @@ cTimePicture TimePicture(const cFigures& figures, const cForms& forms, int opera
     DrawBars(svg, plot, figures.load.bins, picture.bucket);
     svg.Line(plot.left, plot.Y(limit), plot.right, plot.Y(limit), "class=\"limit\"");
     svg.Text(plot.right - 2, plot.Y(limit) - 5, "class=\"axis end strong halo\"",
-             operators == 1 ? forms.Say(eWord::OutsideLimit) : forms.Number(limit));
-    DrawDays(svg, plot, forms);
+             forms.Say(eWord::LimitLine, {forms.Number(limit)}));
+    DrawTimeAxis(svg, plot, forms);
     picture.svg = svg.Done();
     return picture;
 }
@@ -274,7 +313,7 @@ std::string StalePicture(const cFigures& figures, const cForms& forms) {
     }
     if (!bars.empty()) svg.Path(bars, "class=\"bar\"");
     svg.Line(plot.left, plot.Y(5), plot.right, plot.Y(5), "class=\"limit\"");
-    DrawDays(svg, plot, forms);
+    DrawTimeAxis(svg, plot, forms);
     return svg.Done();
 }
 

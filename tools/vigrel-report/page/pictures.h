@@ -13,7 +13,7 @@ struct cTimePicture {
     std::string svg;
     Seconds bucket = kBin;  // time that a bar stands for; its height is the largest bin within
 };
-cTimePicture TimePicture(const cFigures& figures, const cForms& forms, int operators);
+cTimePicture TimePicture(const cFigures& figures, const cForms& forms);
 std::string SourcesPicture(const cFigures& figures, const cAlarmNames& names, const cForms& forms);
 std::string AnswersPicture(const cFigures& figures, const cForms& forms);
 std::string HoursPicture(const cFigures& figures, const cSettings& settings, const cForms& forms);

@@ -43,6 +43,40 @@ cWorstSender WorstSender(const cReport& report) {
     return worst;
 }
 
+bool Watches(const cSenderFigures& sender) {
+    return sender.lost > 0 || sender.minutes.value_or(0) > 0;
+}
+
+// The one that was longest without contact to any station that watches it: its alarms came nowhere.
+cWorstSender WorstUnheardSender(const cReport& report) {
+    std::map<std::uint32_t, Spans> unheard;
+    for (const cStationFigures& station : report.figures.stations) {
+        for (const cSenderFigures& sender : station.senders) {
+            if (!Watches(sender)) continue;
+            const auto [known, isNew] = unheard.emplace(sender.sender, sender.losses);
+            if (!isNew) known->second = InBoth(known->second, sender.losses);
+        }
+    }
+    cWorstSender worst;
+    for (const auto& [sender, losses] : unheard) {
+        if (TotalLength(losses) <= worst.without) continue;
+        worst = {NameText(report.names.SenderName(sender)), TotalLength(losses)};
+    }
+    return worst;
+}
+
+// When no station ran.
+Seconds AllDown(const cReport& report) {
+    Spans down = {report.figures.period};
+    for (const cStationFigures& station : report.figures.stations) down = InBoth(down, station.down);
+    return TotalLength(down);
+}
+
+std::string DownText(const cReport& report, const cForms& forms, Seconds down) {
+    const bool one = report.figures.stations.size() == 1;
+    return forms.Say(one ? eWord::SayDown : eWord::SayNoneRan, {forms.Duration(static_cast<double>(down))});
+}
+
 Seconds LongestDown(const cReport& report) {
     Seconds down = 0;
     for (const cStationFigures& station : report.figures.stations) down = std::max(down, station.notRunning);
@@ -59,11 +93,9 @@ double TopShare(const cReport& report) {
 // What kept alarms from coming or from being seen.
 void AddSafety(cChoice& choice, const cReport& report, const cForms& forms) {
     const cFigures& figures = report.figures;
-    const Seconds down = LongestDown(report);
-    if (down > 0)
-        choice.Add(down >= 10 * kMinute ? 90 : 35,
-                   forms.Say(eWord::SayDown, {forms.Duration(static_cast<double>(down))}));
-    const cWorstSender sender = WorstSender(report);
+    const Seconds down = AllDown(report);
+    if (down > 0) choice.Add(down >= 10 * kMinute ? 90 : 35, DownText(report, forms, down));
+    const cWorstSender sender = WorstUnheardSender(report);
     if (sender.without > 0) {
         choice.Add(85, forms.Say(eWord::SayLost,
                                  {sender.name, forms.Duration(static_cast<double>(sender.without))}));
@@ -74,7 +106,7 @@ void AddSafety(cChoice& choice, const cReport& report, const cForms& forms) {
     const Seconds gap = figures.period.Length() - figures.load.observed - down;
     if (gap > figures.period.Length() / 10) {
         choice.Add(70, forms.Say(eWord::SayGap, {forms.Duration(static_cast<double>(gap))}));
-    } else if (down == 0 && figures.unlogged == 0) {
+    } else if (LongestDown(report) == 0 && figures.unlogged == 0) {
         choice.Add(10, forms.Say(eWord::SayRan));
     }
 }
@@ -166,8 +198,8 @@ std::vector<std::string> MakeSentences(const cReport& report, const cForms& form
     cChoice choice;
     if (report.figures.load.observed == 0) {
         choice.Add(100, forms.Say(eWord::SayNothingKnown));
-        const Seconds down = LongestDown(report);
-        if (down > 0) choice.Add(90, forms.Say(eWord::SayDown, {forms.Duration(static_cast<double>(down))}));
+        const Seconds down = AllDown(report);
+        if (down > 0) choice.Add(90, DownText(report, forms, down));
         return choice.Best(kSentences);
     }
     AddSafety(choice, report, forms);

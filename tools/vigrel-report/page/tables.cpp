@@ -40,7 +40,7 @@ Cell ValueCell(eUnit unit, std::optional<double> value) {
 }
 
 // The limit of a figure in words; nothing when none is quoted.
-Cell LimitCell(const cForms& forms, eFigure figure) {
+Cell LimitCell(const cForms& forms, const cFigures& figures, eFigure figure) {
     switch (figure) {
         case eFigure::RateTenMinutes:
             return forms.Say(W::Manageable, {"1", "2"});
@@ -49,7 +49,7 @@ Cell LimitCell(const cForms& forms, eFigure figure) {
         case eFigure::RateDay:
             return forms.Say(W::AtMost, {"150"});
         case eFigure::Peak:
-            return forms.Say(W::AtMost, {"10"});
+            return forms.Say(W::AtMost, {forms.Number(PeakLimit(figures))});
         case eFigure::BusyBins:
         case eFigure::BusyHours:
         case eFigure::FloodShare:
@@ -127,7 +127,7 @@ class cTables {
                      {}};
         for (const cJudged& line : Judge(m_Figures, m_Report.before)) {
             table.rows.push_back({FigureWord(line.figure), ValueCell(line.unit, line.value),
-                                  LimitCell(m_Forms, line.figure), line.verdict,
+                                  LimitCell(m_Forms, m_Figures, line.figure), line.verdict,
                                   ValueCell(line.unit, line.before)});
         }
         return table;

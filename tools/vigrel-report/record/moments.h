@@ -25,9 +25,12 @@ using Spans = std::vector<cSpan>;
 
 // In order, without overlaps, without empty ones.
 Spans Joined(Spans spans);
-// What lies within a span; in one and not in the other. All are joined ones.
+// What lies within a span; in one and not in the other; in both. All are joined ones.
 Spans Within(const Spans& spans, const cSpan& limits);
 Spans Without(const Spans& spans, const Spans& taken);
+inline Spans InBoth(const Spans& spans, const Spans& others) {
+    return Without(spans, Without(spans, others));
+}
 Seconds TotalLength(const Spans& spans);
 bool HoldsMoment(const Spans& spans, Moment moment);
 
