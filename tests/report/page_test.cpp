@@ -44,6 +44,31 @@ TEST(Words, AreThereInAllLanguagesWithTheSamePlaces) {
     }
 }
 
+// But for the words that are the same in both.
+TEST(Words, AreTranslated) {
+    const std::map<eWord, std::string> same = {{eWord::Over, "nb"},
+                                               {eWord::Below, "sv nb"},
+                                               {eWord::DayUnit, "sv de da nb"},
+                                               {eWord::HourUnit, "sv de fi"},
+                                               {eWord::Alarm, "de da nb"},
+                                               {eWord::Sender, "de da nb"},
+                                               {eWord::Station, "sv de da"},
+                                               {eWord::MedianTime, "sv de da nb"},
+                                               {eWord::Starts, "de"},
+                                               {eWord::Text, "sv de"},
+                                               {eWord::Under, "sv da nb"}};
+    for (std::size_t i = 0; i < static_cast<std::size_t>(eWord::NumberOfWords); ++i) {
+        const auto word = static_cast<eWord>(i);
+        const std::string_view english = Word(eLanguage::English, word);
+        std::string found;
+        for (const eLanguage language : kAll) {
+            if (language == eLanguage::English || Word(language, word) != english) continue;
+            found += (found.empty() ? "" : " ") + CodeOf(language);
+        }
+        EXPECT_EQ(found, same.contains(word) ? same.at(word) : "") << english;
+    }
+}
+
 TEST(Words, AreFilledOnce) {
     EXPECT_EQ(Filled("{1} and {2}", {"{2}", "b"}), "{2} and b");
     EXPECT_EQ(Filled("{3} {", {"a"}), "{3} {");
@@ -191,6 +216,74 @@ TEST_F(HandedOut, AFolderIsNamedInItsOwnScript) {
     EXPECT_EQ(page.find("\\x1A"), std::string::npos);
 }
 
+TEST_F(HandedOut, AYearIsToldByMonth) {
+    const std::string page = Make({"--html", "x", "--from", "2025-07-01", "--to", "2026-06-30", "/app"}).page;
+    EXPECT_NE(page.find("<td>2026-06</td><td class=\"number\">7</td><td class=\"number\">1</td>"),
+              std::string::npos);
+    EXPECT_EQ(page.find("<td>2026-06-01</td>"), std::string::npos);
+    EXPECT_NE(page.find(">Most on a day</th>"), std::string::npos);
+    const auto tables = Make({"--csv", "x", "--from", "2026-05-01", "--to", "2026-06-30", "/app"}).tables;
+    EXPECT_EQ(tables.at("months.csv"),
+              "\"month\",\"alarms\",\"most_in_10_minutes\",\"in_flood\",\"record\"\r\n"
+              "\"2026-05\",\"0\",\"0\",\"0\",\"0\"\r\n\"2026-06\",\"7\",\"1\",\"0\",\"604801\"\r\n");
+}
+
+// The table of stations has more columns than a sheet of paper.
+TEST_F(HandedOut, StationsStandSideBySide) {
+    cWrittenStation second(files, "/second/");
+    second.Start(monday);
+    second.Finish();
+    EXPECT_NE(Make({"--html", "x", "/app", "/second"})
+                  .page.find("<tr><th scope=\"row\">Starts</th><td class=\"number\">1</td><td "
+                             "class=\"number\">1</td></tr>"),
+              std::string::npos);
+}
+
+// A name without a blank must not push the other columns off the paper.
+TEST_F(HandedOut, LongWordsMayBreak) {
+    const std::string word(60, 'x'), words = "twenty-four characters !";
+    station.Active(monday + 40000, word + " (" + words + "/Fire//)");
+    station.Finish();
+    const std::string page = Make({"--html", "x", "/app"}).page;
+    EXPECT_NE(page.find("<td class=\"long\">" + word + "</td><td>" + words + "</td>"), std::string::npos);
+}
+
+TEST_F(HandedOut, BarsOfTenMinutesAreCalledSo) {
+    EXPECT_NE(Make({"--html", "x", "/app"}).page.find("Each bar shows the alarms of ten minutes. The line"),
+              std::string::npos);
+    EXPECT_NE(
+        Make({"--html", "x", "--last", "30", "/app"}).page.find("Each bar stands for 1\u00a0h and shows"),
+        std::string::npos);
+}
+
+TEST_F(HandedOut, APeriodOfWhichLittleIsKnownIsNotCompared) {
+    const auto before = [&](const std::string& from, const std::string& to) {
+        const std::string summary =
+            Make({"--csv", "x", "--from", from, "--to", to, "/app"}).tables.at("summary.csv");
+        const std::size_t line = summary.find("\"Alarms a day"), end = summary.find("\r\n", line);
+        return summary.substr(summary.rfind(',', end) + 1, end - summary.rfind(',', end) - 1);
+    };
+    EXPECT_EQ(before("2026-06-03", "2026-06-04"), "\"1\"");  // both days before are known
+    EXPECT_EQ(before("2026-06-02", "2026-06-04"), "\"\"");   // one of three
+}
+
+TEST_F(HandedOut, ARecordOfHoursIsToldByTheHour) {
+    EXPECT_NE(Make({"--from", "2026-06-01 09:30", "--to", "2026-06-01 10:29", "/app"})
+                  .text.find("An operator got 1.0 alarms an hour: that can be managed well."),
+              std::string::npos);
+    EXPECT_NE(Make({"/app"}).text.find("An operator got 1.0 alarms a day"), std::string::npos);
+}
+
+TEST_F(HandedOut, WhatMustBeReachedIsBelow) {
+    const std::string page = Make({"--html", "x", "--priority", "Fire=high", "/app"}).page;
+    EXPECT_NE(page.find("<td>Share of low priority</td><td class=\"number\">0\u00a0%</td><td>at least "
+                        "80\u00a0%</td><td class=\"verdict over\">\u25bc under</td>"),
+              std::string::npos);
+    EXPECT_NE(page.find("<td>Share of high priority</td><td class=\"number\">100\u00a0%</td><td>at most "
+                        "5\u00a0%</td><td class=\"verdict over\">\u25b2 over</td>"),
+              std::string::npos);
+}
+
 TEST_F(HandedOut, OperatorsRaiseTheLimitOfThePeak) {
     const std::string page = Make({"--html", "x", "--operators", "2", "/app"}).page;
     EXPECT_NE(page.find("<td>at most 20</td>"), std::string::npos);
@@ -253,7 +346,7 @@ TEST_F(TwoStations, WhatNoneGotIsSaid) {
 
 TEST_F(HandedOut, TablesDisarmFormulas) {
     const auto tables = Make({"--csv", "x", "/app"}).tables;
-    EXPECT_EQ(tables.size(), 16u);
+    EXPECT_EQ(tables.size(), 18u);
     const std::string& sources = tables.at("sources.csv");
     EXPECT_TRUE(sources.starts_with(
         "\"rank\",\"alarm\",\"place\",\"category\",\"sender\",\"alarms\",\"share\",\"together\"\r\n"));

@@ -54,7 +54,7 @@ TEST_F(VigrelReport, WritesTablesJsonAndText) {
     fs::create_directory(m_Folder.Path() / "tables");
     EXPECT_EQ(Run("--from 2026-06-01 --to 2026-06-01 --csv tables --json App").exitCode, 0);
     EXPECT_NE(Content("out.txt").find("\"alarms\": 23"), std::string::npos);
-    EXPECT_EQ(std::distance(fs::directory_iterator(m_Folder.Path() / "tables"), {}), 16);
+    EXPECT_EQ(std::distance(fs::directory_iterator(m_Folder.Path() / "tables"), {}), 18);
     EXPECT_EQ(Run("--from 2026-06-01 --to 2026-06-01 App").exitCode, 0);
     EXPECT_NE(Content("out.txt").find("Alarmbericht: Mill"), std::string::npos);
 }

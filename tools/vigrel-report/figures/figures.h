@@ -35,7 +35,7 @@ inline double PeakLimit(const cFigures& figures) {
     return kFloodBegins * figures.operators;
 }
 
-enum class eVerdict { Within, Over, NotJudged };
+enum class eVerdict { Within, Over, Below, NotJudged };  // below: of what must be reached
 
 enum class eFigure {
     RateTenMinutes,

@@ -116,7 +116,7 @@ eVerdict VerdictOf(const cFigures& figures, cLimit limit, double value) {
     if (limit.kind == cLimit::None) return eVerdict::NotJudged;
     if (limit.kind == cLimit::AtMost) within = value <= limit.value;
     if (limit.kind == cLimit::Below) within = value < limit.value;
-    if (limit.kind == cLimit::AtLeast) within = value >= limit.value;
+    if (limit.kind == cLimit::AtLeast) return value >= limit.value ? eVerdict::Within : eVerdict::Below;
     return within ? eVerdict::Within : eVerdict::Over;
 }
 
@@ -128,10 +128,12 @@ bool IsJudged(const cFigures& figures, eFigure figure) {
 }  // namespace
 
 std::vector<cJudged> Judge(const cFigures& figures, const cFigures* before) {
+    // What little is known of a period says nothing beside all of another one.
+    const bool comparable = before != nullptr && 2 * before->load.observed >= before->period.Length();
     std::vector<cJudged> judged;
     for (const cLimit& limit : kLimits) {
         cJudged line{limit.figure, limit.unit, ValueOf(figures, limit.figure), {}, eVerdict::NotJudged};
-        if (before != nullptr) line.before = ValueOf(*before, limit.figure);
+        if (comparable) line.before = ValueOf(*before, limit.figure);
         if (line.value && IsJudged(figures, limit.figure))
             line.verdict = VerdictOf(figures, limit, *line.value);
         judged.push_back(line);

@@ -63,7 +63,8 @@ std::string cForms::Duration(double seconds) const {
         Seconds length;
         std::string name;
     };
-    const cUnit units[] = {{kDay, Say(eWord::DayUnit)}, {kHour, "h"}, {kMinute, "min"}, {1, "s"}};
+    const cUnit units[] = {
+        {kDay, Say(eWord::DayUnit)}, {kHour, Say(eWord::HourUnit)}, {kMinute, "min"}, {1, "s"}};
     std::string text;
     Seconds rest = whole;
     int shown = 0;
@@ -99,9 +100,8 @@ std::string cForms::Text(const Cell& cell) const {
         std::string operator()(cTimeCell time) const { return forms.Time(time.moment); }
         std::string operator()(cDayCell day) const { return forms.Day(day.moment); }
         std::string operator()(eVerdict verdict) const {
-            return forms.Say(verdict == eVerdict::Within ? eWord::Within
-                             : verdict == eVerdict::Over ? eWord::Over
-                                                         : eWord::NotJudged);
+            constexpr eWord kVerdicts[] = {eWord::Within, eWord::Over, eWord::Below, eWord::NotJudged};
+            return forms.Say(kVerdicts[static_cast<std::size_t>(verdict)]);
         }
     };
     return std::visit(cVisitor{*this}, cell);

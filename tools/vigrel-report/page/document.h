@@ -49,6 +49,9 @@ std::vector<std::string> MakeSentences(const cReport& report, const cForms& form
 std::vector<std::string> MakeRecommendations(const cReport& report, const cForms& forms);
 std::vector<std::string> MakeNotes(const cReport& report, const cForms& forms);
 std::vector<cTable> MakeTables(const cReport& report, const cForms& forms);
+// What the tables of days tell, by month: sums, of the peaks and of the stale alarms the most.
+cTable MonthsTable(const cFigures& figures, const cTimeZone& zone);
+cTable StaleMonthsTable(const cFigures& figures, const cTimeZone& zone);
 
 // A text of the code page as it can be shown: UTF-8, control characters as escapes.
 std::string NameText(std::string_view text);

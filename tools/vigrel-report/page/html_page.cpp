@@ -28,8 +28,10 @@ section{background:var(--card);border:1px solid var(--line);border-radius:10px;p
 .scroll{overflow-x:auto}
 table{border-collapse:collapse;width:100%;font-size:.92rem;font-variant-numeric:tabular-nums}
 th{text-align:left;font-weight:600;color:var(--soft-ink);border-bottom:1px solid var(--line);padding:6px 10px 6px 0;vertical-align:bottom}
-td{border-bottom:1px solid var(--line);padding:6px 10px 6px 0;vertical-align:top;overflow-wrap:anywhere}
-tr:last-child td{border-bottom:0}
+td{border-bottom:1px solid var(--line);padding:6px 10px 6px 0;vertical-align:top}
+.long{overflow-wrap:anywhere}.time{white-space:nowrap}
+tr:last-child td,tbody tr:last-child th{border-bottom:0}
+.turned{width:auto}.turned th.number{white-space:normal;overflow-wrap:anywhere}
 .number{text-align:right;white-space:nowrap}.number:not(:last-child){padding-right:20px}.number:last-child,th:last-child{padding-right:0}
 .verdict{white-space:nowrap;font-weight:600}
 .within{color:var(--good)}.over{color:var(--bad)}.open{color:var(--calm);font-weight:400}
@@ -44,24 +46,41 @@ svg{display:block;width:100%;height:auto;font-family:inherit}
 .notes li{margin:6px 0}.notes,.quoted{color:var(--soft-ink);font-size:.92rem}
 @page{size:A4;margin:14mm}
 @media print{:root{color-scheme:light;--paper:#fff;--unknown:#e4e2dd}*{-webkit-print-color-adjust:exact;print-color-adjust:exact}
-body{font-size:10.5pt}main{max-width:none;padding:0}section{border:0;border-top:1px solid var(--line);border-radius:0;padding:12px 0 0;margin-top:14px}
-.lead li{font-size:13pt}.picture,.lead,header,tr,h2+.scroll thead{break-inside:avoid}h2,h3{break-after:avoid}.scroll{overflow:visible}
-thead{display:table-header-group}table{font-size:9pt}}
+html,body{font-size:9.5pt}main{max-width:none;padding:0}section{border:0;border-top:1px solid var(--line);border-radius:0;padding:12px 0 0;margin-top:14px}
+.lead li{font-size:12pt}.picture,.lead,header,tr,h2+.scroll thead{break-inside:avoid}h2,h3{break-after:avoid}.scroll{overflow:visible}
+thead{display:table-header-group}table{font-size:8pt}th,td{padding:3px 8px 3px 0}}
 )";
 
-// Rows of a list on the page; the rest is in the files for spreadsheets.
-constexpr std::size_t kMostRows = 25, kMostDays = 400;
+// Rows of a list on the page; the rest is in the files for spreadsheets. More days than these are told by
+// month: nobody reads through a year of days, nor prints them.
+constexpr std::size_t kMostRows = 25, kMostDays = 62;
+
+bool IsTime(const Cell& cell) {
+    return std::holds_alternative<cDayCell>(cell) || std::holds_alternative<cTimeCell>(cell);
+}
 
 bool IsNumericCell(const Cell& cell) {
     return !std::holds_alternative<std::string>(cell) && !std::holds_alternative<eWord>(cell) &&
            !std::holds_alternative<eVerdict>(cell) && !std::holds_alternative<std::monostate>(cell) &&
-           !std::holds_alternative<cDayCell>(cell) && !std::holds_alternative<cTimeCell>(cell);
+           !IsTime(cell);
 }
 
-// Whether a column holds numbers, wherever it holds anything.
+// One that would make its column too wide: it may break anywhere, others between words only.
+bool HasLongWord(const std::string& text) {
+    constexpr std::size_t kLong = 24;
+    for (std::size_t begin = 0; begin < text.size();) {
+        const std::size_t end = std::min(text.find(' ', begin), text.size());
+        if (end - begin > kLong) return true;
+        begin = end + 1;
+    }
+    return false;
+}
+
+// Whether a column holds numbers, wherever it holds anything. Nothing stands where numbers would.
 bool IsNumeric(const cTable& table, std::size_t column) {
-    return std::any_of(table.rows.begin(), table.rows.end(),
-                       [column](const std::vector<Cell>& row) { return IsNumericCell(row[column]); });
+    return std::all_of(table.rows.begin(), table.rows.end(), [column](const std::vector<Cell>& row) {
+        return IsNumericCell(row[column]) || std::holds_alternative<std::monostate>(row[column]);
+    });
 }
 
 class cPage {
@@ -118,12 +137,17 @@ class cPage {
         const std::string text = Escaped(m_Forms.Text(cell));
         if (const auto* verdict = std::get_if<eVerdict>(&cell)) {
             // A shape beside the word: meaning is never in the colour alone.
-            const char* look = *verdict == eVerdict::Within ? "within\">\xE2\x97\x8F "
-                               : *verdict == eVerdict::Over ? "over\">\xE2\x96\xB2 "
-                                                            : "open\">\xE2\x97\x8B ";
+            const char* look = *verdict == eVerdict::Within  ? "within\">\xE2\x97\x8F "
+                               : *verdict == eVerdict::Over  ? "over\">\xE2\x96\xB2 "
+                               : *verdict == eVerdict::Below ? "over\">\xE2\x96\xBC "
+                                                             : "open\">\xE2\x97\x8B ";
             return "<td class=\"verdict " + std::string(look) + text + "</td>";
         }
-        return (numeric ? "<td class=\"number\">" : "<td>") + text + "</td>";
+        const char* look = numeric             ? " class=\"number\""
+                           : IsTime(cell)      ? " class=\"time\""
+                           : HasLongWord(text) ? " class=\"long\""
+                                               : "";
+        return "<td" + std::string(look) + ">" + text + "</td>";
     }
     void Table(const cTable& table, std::size_t most) {
         if (table.rows.empty()) {
@@ -148,6 +172,21 @@ class cPage {
         m_Html += "</tbody>\n</table></div>\n";
         if (table.rows.size() > most)
             Caption(Say(eWord::MoreRows, {m_Forms.Count(table.rows.size() - most)}));
+    }
+    // A column for each row: for tables with more columns than a sheet of paper has room for.
+    void TurnedTable(const cTable& table) {
+        m_Html += "<div class=\"scroll\"><table class=\"turned\">\n<thead><tr><th scope=\"col\">" +
+                  Say(table.columns[0].title) + "</th>";
+        for (const std::vector<Cell>& row : table.rows) {
+            m_Html += "<th scope=\"col\" class=\"number\">" + Escaped(m_Forms.Text(row[0])) + "</th>";
+        }
+        m_Html += "</tr></thead>\n<tbody>\n";
+        for (std::size_t i = 1; i < table.columns.size(); ++i) {
+            m_Html += "<tr><th scope=\"row\">" + Say(table.columns[i].title) + "</th>";
+            for (const std::vector<Cell>& row : table.rows) m_Html += CellHtml(row[i], true);
+            m_Html += "</tr>\n";
+        }
+        m_Html += "</tbody>\n</table></div>\n";
     }
     void TableOf(const char* key, std::size_t most = kMostRows) { Table(m_Document.Table(key), most); }
     void Behind(const char* key, std::size_t most = kMostRows) {
@@ -183,11 +222,17 @@ class cPage {
         Open(eWord::TimeLine);
         const cTimePicture picture = TimePicture(m_Report.figures, m_Forms);
         Picture(picture.svg);
-        Caption(Say(eWord::CaptionTime, {m_Forms.Duration(static_cast<double>(picture.bucket)),
-                                         m_Forms.Number(PeakLimit(m_Report.figures))}));
-        Behind("days", kMostDays);
+        Caption(TimeCaption(picture.bucket));
+        Behind(ByMonth() ? "months" : "days", kMostDays);
         Part(eWord::Floods, "floods");
         Close();
+    }
+    bool ByMonth() const { return m_Report.figures.load.days.size() > kMostDays; }
+    std::string TimeCaption(Seconds bucket) const {
+        const std::string bars =
+            bucket == kBin ? Say(eWord::CaptionBins)
+                           : Say(eWord::CaptionBuckets, {m_Forms.Duration(static_cast<double>(bucket))});
+        return bars + " " + Say(eWord::CaptionTime, {m_Forms.Number(PeakLimit(m_Report.figures))});
     }
     void Sources() {
         Open(eWord::Sources);
@@ -208,7 +253,7 @@ class cPage {
         TableOf("stale");
         m_Html += "<h3>" + Say(eWord::StaleDays) + "</h3>\n";
         Picture(StalePicture(m_Report.figures, m_Forms));
-        Behind("stale_days", kMostDays);
+        Behind(ByMonth() ? "stale_months" : "stale_days", kMostDays);
         Part(eWord::Standing, "standing");
         Close();
     }
@@ -234,7 +279,7 @@ class cPage {
     }
     void Station() {
         Open(eWord::StationLife);
-        TableOf("stations");
+        TurnedTable(m_Document.Table("stations"));
         Part(eWord::Outages, "outages");
         Close();
     }

@@ -4,7 +4,7 @@ namespace vigrel::report {
 namespace {
 
 constexpr std::size_t kSentences = 3, kRecommendations = 6;
-constexpr double kMostADay = 150, kFloodTime = 0.01, kMuch = 0.1;
+constexpr double kMostADay = 150, kMostAnHour = 6, kFloodTime = 0.01, kMuch = 0.1;
 constexpr std::size_t kManyStale = 5;
 
 // What could be said, and how much it matters. Of equal weight, what was added first.
@@ -111,18 +111,25 @@ void AddSafety(cChoice& choice, const cReport& report, const cForms& forms) {
     }
 }
 
+// A record of hours tells nothing of a day.
+void AddRate(cChoice& choice, const cLoad& load, const cForms& forms) {
+    const bool byDay = load.observed >= kDay;
+    const double rate = byDay ? load.perDay : load.perHour, most = byDay ? kMostADay : kMostAnHour;
+    const std::string shown = forms.Number(rate, rate < 10 ? 1 : 0);
+    if (rate > most) {
+        choice.Add(80, forms.Say(byDay ? eWord::SayBusy : eWord::SayBusyHours, {shown, forms.Number(most)}));
+    } else {
+        choice.Add(40, forms.Say(byDay ? eWord::SayCalm : eWord::SayCalmHours, {shown}));
+    }
+}
+
 void AddLoad(cChoice& choice, const cReport& report, const cForms& forms) {
     const cLoad& load = report.figures.load;
-    const std::string perDay = forms.Number(load.perDay, load.perDay < 10 ? 1 : 0);
     if (load.activations == 0) {
         choice.Add(60, forms.Say(eWord::SayNoAlarm));
         return;
     }
-    if (load.perDay > kMostADay) {
-        choice.Add(80, forms.Say(eWord::SayBusy, {perDay, forms.Number(kMostADay)}));
-    } else {
-        choice.Add(40, forms.Say(eWord::SayCalm, {perDay}));
-    }
+    AddRate(choice, load, forms);
     if (load.floods.empty()) {
         choice.Add(30, forms.Say(eWord::SayNoFlood, {forms.Count(load.peak)}));
         return;

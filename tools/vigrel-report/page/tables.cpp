@@ -81,11 +81,13 @@ class cTables {
     std::vector<cTable> Make() {
         return {Summary(),
                 Days(),
+                MonthsTable(m_Figures, m_Forms.Zone()),
                 Floods(),
                 Sources(),
                 Chattering(),
                 Fleeting(),
                 StaleDays(),
+                StaleMonthsTable(m_Figures, m_Forms.Zone()),
                 Long("stale", W::Stale, m_Figures.nuisance.stale),
                 Long("standing", W::Standing, m_Figures.nuisance.standing),
                 Priorities(),
