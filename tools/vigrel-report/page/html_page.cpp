@@ -47,7 +47,7 @@ svg{display:block;width:100%;height:auto;font-family:inherit}
 @page{size:A4;margin:14mm}
 @media print{:root{color-scheme:light;--paper:#fff;--unknown:#e4e2dd}*{-webkit-print-color-adjust:exact;print-color-adjust:exact}
 html,body{font-size:9.5pt}main{max-width:none;padding:0}section{border:0;border-top:1px solid var(--line);border-radius:0;padding:12px 0 0;margin-top:14px}
-.lead li{font-size:12pt}.picture,.lead,header,tr,h2+.scroll thead{break-inside:avoid}h2,h3{break-after:avoid}.scroll{overflow:visible}
+.lead li{font-size:12pt}.picture,.lead,.begin,header,tr,h2+.scroll thead{break-inside:avoid}h2,h3{break-after:avoid}.scroll{overflow:visible}
 thead{display:table-header-group}table{font-size:8pt}th,td{padding:3px 8px 3px 0}}
 )";
 
