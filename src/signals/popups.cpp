@@ -104,7 +104,10 @@ Vigrel_Receiver_Popup& cPopups::MakePopup() {
         popup.QueryUnload(reason);
         return true;
     };
-    window.OnUnload = [this, &popup] {
+    window.OnUnload = [this, &popup, &window] {
+        // What the machine still has under way for the window must not reach a popup that is gone.
+        window.OnResize = nullptr;
+        window.OnPictureClick = nullptr;
         popup.Unload([this, &popup] { SelectTopPopup(&popup); });
         std::erase_if(m_Popups, [&popup](const auto& other) { return other.get() == &popup; });
     };

@@ -23,6 +23,17 @@ TEST_F(ClosePopup, AClickOnThePictureClosesFromCode) {
               "closed Active - Alarm 1 (/C//)\n");
 }
 
+// A change of its state can still come from the screen.
+TEST_F(ClosePopup, WhatComesToItsWindowBehindTheCloseReachesNobody) {
+    Show("C");
+    m_Maker[1].Close();
+    m_Transcript.Take();
+    m_Maker[1].SetWidth(3000);
+    EXPECT_EQ(m_Transcript.Take(), "popup 1: width 3000\n");
+    EXPECT_FALSE(m_Maker[1].OnResize);
+    EXPECT_FALSE(m_Maker[1].OnPictureClick);
+}
+
 TEST_F(ClosePopup, TheWindowsOwnCloseAcknowledgesWhenThatIsSet) {
     m_Settings.m_AckEventWhenPopupFormIsClosed = true;
     Show("C");
