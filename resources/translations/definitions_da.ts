@@ -1366,8 +1366,8 @@ Programmets mappe: %3</translation>
         <translation>tal</translation>
     </message>
     <message>
-        <source>number with at most four decimals</source>
-        <translation>tal med højst fire decimaler</translation>
+        <source>number, at most 4 decimals</source>
+        <translation>tal, højst 4 decimaler</translation>
     </message>
     <message>
         <source>Yes</source>

@@ -1366,8 +1366,8 @@ Programmordner: %3</translation>
         <translation>Zahl</translation>
     </message>
     <message>
-        <source>number with at most four decimals</source>
-        <translation>Zahl mit höchstens vier Nachkommastellen</translation>
+        <source>number, at most 4 decimals</source>
+        <translation>Zahl, bis 4 Nachkommastellen</translation>
     </message>
     <message>
         <source>Yes</source>

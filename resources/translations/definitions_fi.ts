@@ -1366,8 +1366,8 @@ Ohjelman kansio: %3</translation>
         <translation>luku</translation>
     </message>
     <message>
-        <source>number with at most four decimals</source>
-        <translation>luku, enintään neljä desimaalia</translation>
+        <source>number, at most 4 decimals</source>
+        <translation>luku, enintään 4 desimaalia</translation>
     </message>
     <message>
         <source>Yes</source>

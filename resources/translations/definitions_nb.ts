@@ -1366,8 +1366,8 @@ Programmets mappe: %3</translation>
         <translation>tall</translation>
     </message>
     <message>
-        <source>number with at most four decimals</source>
-        <translation>tall med høyst fire desimaler</translation>
+        <source>number, at most 4 decimals</source>
+        <translation>tall, høyst 4 desimaler</translation>
     </message>
     <message>
         <source>Yes</source>

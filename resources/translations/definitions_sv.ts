@@ -1366,8 +1366,8 @@ Programmets mapp: %3</translation>
         <translation>tal</translation>
     </message>
     <message>
-        <source>number with at most four decimals</source>
-        <translation>tal med högst fyra decimaler</translation>
+        <source>number, at most 4 decimals</source>
+        <translation>tal, högst 4 decimaler</translation>
     </message>
     <message>
         <source>Yes</source>

@@ -21,6 +21,12 @@ class cEditorPages {
         m_Bench = std::make_unique<cEditorBench>();
         m_Bench->m_Files.Put("/app/Receivers/Receiver_0007.dat", Sample("receiver_version_5.dat"));
         m_Bench->m_Files.Put("/app/Profiles/Profile_0012.dat", Sample("profile_version_5.dat"));
+        // With a hint of each kind that has many words.
+        m_Bench->m_Files.Put("/app/ReceiverTypes.txt", "9;XRT;Radio;Radio.INI\n");
+        m_Bench->m_Files.Put("/app/Radio.INI",
+                             "[ReceiverTypeSettings]\r\nSetting0=COM\r\nSetting0Type=Integer16\r\n"
+                             "Setting1=COM\r\nSetting1Type=Currency\r\nSetting2=COM\r\nSetting2Type=Byte\r\n"
+                             "Setting3=COM\r\nSetting3Type=YesNo\r\n");
         m_Bench->m_Files.Put("/app/ColourRules.txt", "* | * | * | 0,0,0 | 255,255,255 | 15\r\nnonsense\r\n");
     }
     // In a delivered language.

@@ -140,9 +140,15 @@ void cColourRulesEditor::MakeTable() {
     for (int column = 0; column < Columns; ++column) {
         m_Table->horizontalHeaderItem(column)->setToolTip(tr(tips[column]));
     }
-    m_Table->horizontalHeader()->setSectionResizeMode(Tag, QHeaderView::Stretch);
+    QHeaderView& header = *m_Table->horizontalHeader();
+    for (const int column : {Categories, Areas, Fade}) {
+        header.resizeSection(column, std::max(header.sectionSize(column), header.sectionSizeHint(column)));
+    }
+    // Where little is left to it, the first column isn't squeezed below its own head.
+    header.setMinimumSectionSize(header.sectionSizeHint(Tag));
+    header.setSectionResizeMode(Tag, QHeaderView::Stretch);
     for (const int column : {ForeColor, BackColor}) {
-        m_Table->horizontalHeader()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+        header.setSectionResizeMode(column, QHeaderView::ResizeToContents);
     }
     m_Table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_Table->setTabKeyNavigation(false);

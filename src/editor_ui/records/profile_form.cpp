@@ -9,6 +9,7 @@
 #include "common/file_procedures.h"
 #include "editor_ui/pages/content_editor.h"
 #include "editor_ui/pages/scrolled.h"
+#include "editor_ui/records/file_label.h"
 #include "editor_ui/records/profile_calendar.h"
 #include "editor_ui/records/receiver_picker.h"
 #include "editor_ui/records/system_grid.h"
@@ -72,10 +73,7 @@ QWidget* cProfileForm::MakeGeneral() {
     }
     layout->addRow(tr("&Off duty behaviour:"), m_Binder.Number("Number_OffDuty", tr("Off duty behaviour"),
                                                                &cProfile::m_OffDutyAlarmBehaviour));
-    m_File = new cPlainLabel;
-    m_File->setObjectName("Label_File");
-    m_File->setWordWrap(true);
-    m_File->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_File = new cFileLabel;
     layout->addRow(tr("File:"), m_File);
     m_Binder.AddShow([this](const cProfile& profile) { ShowFile(profile); });
     return page;

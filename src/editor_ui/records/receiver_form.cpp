@@ -6,6 +6,7 @@
 #include "common/date_text.h"
 #include "common/failure.h"
 #include "common/file_procedures.h"
+#include "editor_ui/records/file_label.h"
 #include "editor_ui/records/setting_edit.h"
 #include "windows/plain_text.h"
 
@@ -16,7 +17,7 @@ cReceiverForm::cReceiverForm(const cDefinitionServices& services, QWidget* paren
       m_Services(services),
       m_Layout(new QFormLayout(this)),
       m_Type(new QComboBox),
-      m_File(new cPlainLabel) {
+      m_File(new cFileLabel) {
     setObjectName("Form_Receiver");
     QFormLayout* layout = m_Layout;
     layout->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
@@ -33,9 +34,6 @@ cReceiverForm::cReceiverForm(const cDefinitionServices& services, QWidget* paren
         m_Binder.Text("Text_ParallellNumbers", tr("Parallel numbers"), &cReceiver::m_ParallellNumbers);
     layout->addRow(tr("&Parallel numbers:"), numbers);
     layout->addRow(tr("File:"), m_File);
-    m_File->setObjectName("Label_File");
-    m_File->setWordWrap(true);
-    m_File->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
     connect(m_Type, &QComboBox::activated, this, [this](int row) { ChooseType(row); });
     m_Binder.AddShow([this](const cReceiver& receiver) { ShowType(receiver); });

@@ -23,7 +23,7 @@ QString cSettingEdit::Hint(eVariantType type) {
         case eVariantType::Double:
             return tr("number");
         case eVariantType::Currency:
-            return tr("number with at most four decimals");
+            return tr("number, at most 4 decimals");
         case eVariantType::Date:
             return "2026-03-15 12:30";
         default:
@@ -58,7 +58,7 @@ void cSettingEdit::Show(const cSettingForm& form, const cVariant& value, const c
     const QString name = ToQString(form.caption);
     m_Text->setAccessibleName(name);
     m_Choice->setAccessibleName(name);
-    m_Text->setPlaceholderText(Hint(m_Type));
+    ShowHint(Hint(m_Type));
     const QString text = typed == nullptr ? ToQString(value.Text()) : typed->text;
     if (text != m_Text->text()) m_Text->setText(text);
     const auto number = value.Number();
@@ -68,6 +68,13 @@ void cSettingEdit::Show(const cSettingForm& form, const cVariant& value, const c
     m_Fields->setCurrentIndex(isYesNo && typed == nullptr ? 1 : 0);
     setFocusProxy(m_Fields->currentWidget());
     m_Problem->Show(typed == nullptr ? QString() : Fault(text));
+}
+
+// Whole; a form puts a field below its label rather than make it narrower.
+void cSettingEdit::ShowHint(const QString& hint) {
+    m_Text->setPlaceholderText(hint);
+    constexpr int kFrame = 16;
+    m_Text->setMinimumWidth(m_Text->fontMetrics().horizontalAdvance(hint) + kFrame);
 }
 
 QString cSettingEdit::Field() const {

@@ -31,6 +31,7 @@ class cSettingEdit : public QWidget {
   private:
     static QString Hint(eVariantType type);
     QString Fault(const QString& text) const;
+    void ShowHint(const QString& hint);
     void EditText(const QString& text);
     void EditChoice(int choice);
 
