@@ -4,7 +4,7 @@
 # assertions.
 set -euo pipefail
 
-status=0
+status=0 checked=no
 miss() { echo "$program: $1" >&2; status=1; }
 
 [ $# -gt 0 ] || { echo "usage: check-hardening.sh PROGRAM..." >&2; exit 2; }
@@ -19,7 +19,9 @@ for program in "$@"; do
         miss "leaves what the loader fills in writable (no full RELRO)"
     { has "$segments" GNU_STACK && ! has "$segments" 'GNU_STACK.*RWE'; } || miss "has a stack that can be executed"
     has "$symbols" __stack_chk_fail || miss "has no guarded stacks"
-    has "$symbols" '__[a-z_]+_chk(@|$)' || miss "has no checked calls (_FORTIFY_SOURCE)"
+    if has "$symbols" '__[a-z]+(_[a-z]+)*_chk(@|$)'; then checked=yes; fi
     has "$symbols" __glibcxx_assert_fail || miss "has no assertions of the standard library"
 done
+# Of one alone it says nothing: the compiler can have proved each of its calls. All are built in the same way.
+[ $checked = yes ] || { echo "none of the programs has checked calls (_FORTIFY_SOURCE)" >&2; status=1; }
 exit $status
