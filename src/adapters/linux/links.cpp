@@ -15,11 +15,6 @@ namespace {
 
 constexpr int kMostLinks = 40;
 
-// With its separator; empty for a name in the working folder.
-std::string FolderOf(const std::string& native) {
-    return native.substr(0, native.rfind('/') + 1);
-}
-
 bool IsTrusted(const struct stat& link, const std::string& path) {
     if (link.st_uid == geteuid() || link.st_uid == 0) return true;
     struct stat folder {};
@@ -39,10 +34,17 @@ std::optional<std::string> NextLink(const std::string& path) {
     const ssize_t length = readlink(path.c_str(), buffer.data(), buffer.size());
     if (length <= 0) return std::nullopt;
     const std::string target(buffer.data(), static_cast<std::size_t>(length));
-    return target[0] == '/' ? target : FolderOf(path) + target;
+    return target[0] == '/' ? target : path.substr(0, path.rfind('/') + 1) + target;
 }
 
 }  // namespace
+
+std::string FolderOf(const std::string& native) {
+    std::size_t end = native.rfind('/');
+    if (end == std::string::npos) return "";
+    while (end > 0 && native[end - 1] == '/') --end;
+    return native.substr(0, end > 0 ? end : 1);
+}
 
 std::string FollowLinks(std::string native) {
     std::optional<std::string> next = NextLink(native);
@@ -56,8 +58,7 @@ std::string FollowLinks(std::string native) {
 }
 
 void RequireOwnFolder(const std::string& native) {
-    std::string folder = FolderOf(native);
-    while (folder.size() > 1 && folder.back() == '/') folder.pop_back();
+    const std::string folder = FolderOf(native);
     if (!folder.empty()) FollowLinks(folder);
 }
 

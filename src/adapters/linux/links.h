@@ -9,6 +9,9 @@
 
 namespace vigrel {
 
+// The folder that a path lies in, without a separator at its end; empty for a name in the working folder.
+std::string FolderOf(const std::string& native);
+
 // The path that a name leads to by links; the path itself when it is no link. Throws cFailure: a link that
 // doesn't count (PermissionDenied), or links in a circle.
 std::string FollowLinks(std::string native);

@@ -71,23 +71,27 @@ bool IsSettled(const struct stat& status) {
     return Nanoseconds(now) - Nanoseconds(status.st_ctim) > kSettlesNs;
 }
 
+// What follows the folder; lasts as long as the path.
+const char* NameIn(const std::string& native) {
+    return native.c_str() + native.rfind('/') + 1;
+}
+
 // Only what WriteFile makes anew is taken away.
-void ClearName(const std::string& native, std::string_view path) {
+void ClearName(int folder, const char* name, std::string_view path) {
     struct stat status {};
-    if (lstat(native.c_str(), &status) != 0) return;
+    if (fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) != 0) return;
     if (!S_ISREG(status.st_mode) && !S_ISLNK(status.st_mode)) FailAsNoFile(path, WhyNoFile(status));
-    if (unlink(native.c_str()) != 0) FailByErrno(path);
+    if (unlinkat(folder, name, 0) != 0) FailByErrno(path);
 }
 
 // A file that nobody else has made, so that nobody else holds it open or has chosen where it lies.
-cOpenFile OpenNew(std::string_view path, const std::string& native) {
-    RequireOwnFolder(native);
+cOpenFile OpenNew(std::string_view path, int folder, const char* name) {
     const auto open = [&] {
-        return ::open(native.c_str(), O_WRONLY | O_CREAT | O_EXCL | kNeverWait, kFileMode);
+        return openat(folder, name, O_WRONLY | O_CREAT | O_EXCL | kNeverWait, kFileMode);
     };
     int descriptor = open();
     if (descriptor < 0 && errno == EEXIST) {
-        ClearName(native, path);
+        ClearName(folder, name, path);
         descriptor = open();
     }
     return {path, descriptor};
@@ -112,8 +116,10 @@ std::string cLinuxFiles::Spelling(std::string_view path) const {
 
 std::string cLinuxFiles::LookFor(std::string_view path, struct stat& status) const {
     std::string native = SpelledPath(path);
-    if (stat(native.c_str(), &status) == 0 && S_ISREG(status.st_mode)) return native;
-    native = Native(path);
+    const bool isThere = stat(native.c_str(), &status) == 0;
+    if (m_Names == eNames::Exact) return isThere ? native : "";
+    if (isThere && S_ISREG(status.st_mode)) return native;
+    native = NativePath(path);
     return stat(native.c_str(), &status) == 0 ? native : "";
 }
 
@@ -179,14 +185,18 @@ cFileReader::cStamp cLinuxFiles::Stamp(std::string_view path) const {
 }
 
 void cLinuxFiles::WriteFile(std::string_view path, std::string_view bytes, bool sync) {
-    cOpenFile file = OpenNew(path, Native(path));
+    const std::string native = Native(path);
+    const cPlace place = PlaceOf(native);
+    cOpenFile file = OpenNew(path, place.folder, place.name);
     file.Write(bytes);
     if (sync) file.Sync();
     file.Close();
 }
 
 void cLinuxFiles::WriteFileLike(std::string_view path, std::string_view bytes, std::string_view like) {
-    cOpenFile file = OpenNew(path, Native(path));
+    const std::string native = Native(path);
+    const cPlace place = PlaceOf(native);
+    cOpenFile file = OpenNew(path, place.folder, place.name);
     file.Write(bytes);
     file.TakeAttributes(Native(like));
     file.Sync();
@@ -196,6 +206,7 @@ void cLinuxFiles::WriteFileLike(std::string_view path, std::string_view bytes, s
 void cLinuxFiles::AppendFile(std::string_view path, std::string_view bytes) {
     constexpr int kAppend = O_WRONLY | O_APPEND | O_NOFOLLOW | kNeverWait;
     std::string native = SpelledPath(path);
+    if (m_Appended.IsAt(native)) return WriteAll(m_Appended.Descriptor(), bytes, path);
     RequireOwnFolder(native);
     int descriptor = open(native.c_str(), kAppend);
     if (descriptor < 0 && IsMissing(errno)) {
@@ -205,26 +216,52 @@ void cLinuxFiles::AppendFile(std::string_view path, std::string_view bytes) {
     }
     cOpenFile file(path, descriptor);
     file.Write(bytes);
+    if (!IsShared(descriptor)) m_Appended.Hold(native, descriptor);
     file.Close();
 }
 
+bool cLinuxFiles::HoldFolder(const std::string& folder) {
+    if (folder.empty()) return false;
+    if (m_Folder.IsAt(folder)) return true;
+    const cFileHandle opened(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | kNeverWait));
+    if (opened) m_Folder.Hold(folder, opened.Get());
+    return opened && m_Folder.IsAt(folder);
+}
+
+cLinuxFiles::cPlace cLinuxFiles::PlaceOf(const std::string& native) {
+    if (m_Names == eNames::Exact && HoldFolder(FolderOf(native)))
+        return {m_Folder.Descriptor(), NameIn(native)};
+    RequireOwnFolder(native);
+    return {AT_FDCWD, native.c_str()};
+}
+
 void cLinuxFiles::RemoveFile(std::string_view path) {
-    const auto remove = [](const char* native) {
-        RequireOwnFolder(native);
-        return unlink(native);
+    const auto remove = [this](const std::string& native) {
+        const cPlace place = PlaceOf(native);
+        return unlinkat(place.folder, place.name, 0);
     };
     if (AsSpelledOrFound(path, remove) != 0) FailByErrno(path);
+    m_Appended.LookAgain();
 }
 
 void cLinuxFiles::RenameFile(std::string_view from, std::string_view to) {
     const std::string source = Native(from);
     const std::string target = Native(to);
-    RequireOwnFolder(source);
-    RequireOwnFolder(target);
-    if (rename(source.c_str(), target.c_str()) != 0) FailByErrno(to);
+    const cPlace place = PlaceOf(source);
+    const bool isBeside = FolderOf(source) == FolderOf(target);
+    if (!isBeside) RequireOwnFolder(target);
+    const bool isHeld = isBeside && place.folder == m_Folder.Descriptor();
+    const cPlace newPlace = isHeld ? cPlace{place.folder, NameIn(target)} : cPlace{AT_FDCWD, target.c_str()};
+    if (renameat(place.folder, place.name, newPlace.folder, newPlace.name) != 0) FailByErrno(to);
+    m_Appended.LookAgain();
 }
 
 void cLinuxFiles::SyncFolder(std::string_view folder) {
+    const std::string native = SpelledPath(folder);
+    if (m_Names == eNames::Exact && HoldFolder(FolderOf(native + '/'))) {
+        if (fsync(m_Folder.Descriptor()) != 0) FailByErrno(folder);
+        return;
+    }
     cOpenFile(folder, AsSpelledOrFound(folder, OpenFolder)).Sync();
 }
 

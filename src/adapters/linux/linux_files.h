@@ -2,6 +2,7 @@
 
 #include <sys/stat.h>
 
+#include "adapters/linux/held_file.h"
 #include "platform/files.h"
 
 namespace vigrel {
@@ -44,7 +45,18 @@ class cLinuxFiles : public cFiles {
     template <class Call>
     int AsSpelledOrFound(std::string_view path, Call call) const;
 
+    // For a call of the system with a folder and a name in it. Throws when the folder is a link that doesn't
+    // count; the name lasts as long as the path.
+    struct cPlace {
+        int folder;
+        const char* name;
+    };
+    cPlace PlaceOf(const std::string& native);
+    bool HoldFolder(const std::string& folder);
+
     eNames m_Names;
+    // The folder of what the program alone names, and what was appended to last.
+    cHeldFile m_Folder, m_Appended;
 };
 
 }  // namespace vigrel

@@ -10,17 +10,21 @@
 
 namespace vigrel {
 
+void WriteAll(int descriptor, std::string_view bytes, std::string_view path) {
+    while (!bytes.empty()) {
+        const ssize_t written = write(descriptor, bytes.data(), bytes.size());
+        if (written < 0 && errno == EINTR) continue;
+        if (written < 0) FailByErrno(path);
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+}
+
 cOpenFile::cOpenFile(std::string_view path, int descriptor) : m_Path(path), m_File(descriptor) {
     if (!m_File) FailByErrno(path);
 }
 
 void cOpenFile::Write(std::string_view bytes) {
-    while (!bytes.empty()) {
-        const ssize_t written = write(m_File.Get(), bytes.data(), bytes.size());
-        if (written < 0 && errno == EINTR) continue;
-        if (written < 0) FailByErrno(m_Path);
-        bytes.remove_prefix(static_cast<std::size_t>(written));
-    }
+    WriteAll(m_File.Get(), bytes, m_Path);
 }
 
 // Asks for a byte more than there should be, so that one call meets the end too. Files that the machine

@@ -11,6 +11,10 @@ namespace vigrel {
 
 // Nothing that is opened may make the program wait.
 constexpr int kNeverWait = O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
+
+// Writes all bytes; throws cFailure with the path.
+void WriteAll(int descriptor, std::string_view bytes, std::string_view path);
+
 // An open file, and its path for what fails with it: everything throws cFailure.
 class cOpenFile {
   public:
@@ -18,6 +22,8 @@ class cOpenFile {
     cOpenFile(std::string_view path, int descriptor);
 
     void Write(std::string_view bytes);
+    // Stays the file's own.
+    int Descriptor() const { return m_File.Get(); }
     // Refuses what must not be read (WhyNoFile).
     std::string ReadAll();
     // Those of another file, whose path is the machine's.
