@@ -15,7 +15,8 @@ namespace vigrel {
 // elements a b c d, all of one time, the search begins at c (index 2 of 4): a fifth one stands as a b c e d.
 template <class Side>
 std::size_t FindInsertionPlace(std::size_t count, Side side) {
-    if (count == 0) return 0;
+    // Mostly the newcomer is the newest; the search would come to the same, by way of many others.
+    if (count == 0 || side(count - 1) > 0) return count;
     std::size_t low = 0;
     std::size_t high = count;
     // Half of the count, ties to the even neighbour.

@@ -8,8 +8,8 @@ namespace vigrel {
 
 void FlushToScreen() {
     // The off-screen platform too claims to be X11, without a connection.
-    if (QGuiApplication::platformName() != "xcb") return;
-    xcb_flush(qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->connection());
+    const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    if (x11 != nullptr && x11->connection() != nullptr) xcb_flush(x11->connection());
 }
 
 }  // namespace vigrel
