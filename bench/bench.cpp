@@ -58,8 +58,8 @@ bool Wanted(const cOptions& options, const char* name) {
 }
 
 int Measure(const cOptions& options) {
-    const cSize full{100'000, 2000, 3, 1000, {0, 10'000, 100'000, 250'000, 500'000, 1'000'000}};
-    const cSize brief{100, 20, 1, 10, {0, 100}};
+    const cSize full{100'000, 2000, 5, 1000, 2100, {0, 10'000, 100'000, 250'000, 500'000, 1'000'000}};
+    const cSize brief{100, 20, 1, 10, 0, {0, 100}};
     const cSize& size = options.shortForm ? brief : full;
     std::vector<cLine> lines;
     for (const cGroup& group : kGroups) {

@@ -56,13 +56,15 @@ class cOnMemory {
     std::optional<std::string> m_Before;
 };
 
-std::unique_ptr<cStation> StartedStation(const std::string& further, int stored) {
+std::unique_ptr<cStation> StartedStation(const std::string& further, int stored, const cSize& size) {
     auto station = std::make_unique<cStation>();
     UseDisplay(*station);
     station->Configure(kConfiguration + further + kSenders);
     StoreAlarms(station->Folder() / "Alarms", stored);
     if (!station->Start())
         throw std::runtime_error("the station does not start: " + station->StandardError());
+    // A configuration that was written within two seconds is read for each alarm.
+    std::this_thread::sleep_for(std::chrono::milliseconds(size.settles));
     return station;
 }
 
@@ -148,20 +150,20 @@ cLine RateLine(const std::string& what, const cRates& rates, double target) {
 
 cLine AgainstBareLoop(const std::string& what, bool memory, const cSize& size, double target) {
     const cOnMemory where(memory);
-    const auto station = StartedStation("", size.alarms);
+    const auto station = StartedStation("", size.alarms, size);
     const cBareStation bare;
     return RateLine(what, InTurns(station->m_Port, bare.m_Port, size.rounds, size.alarms), target);
 }
 
 cLine WithPopups(const std::string& what, const std::string& further, const cSize& size, double target) {
-    const auto plain = StartedStation("", 0);
-    const auto popups = StartedStation(kPopups + further, 0);
+    const auto plain = StartedStation("", 0, size);
+    const auto popups = StartedStation(kPopups + further, 0, size);
     const int alarms = std::min(size.alarms, size.popups);
     return RateLine(what, InTurns(popups->m_Port, plain->m_Port, size.rounds, alarms), target);
 }
 
 cLine SystemCalls(const cSize& size) {
-    const auto station = StartedStation("", 100);
+    const auto station = StartedStation("", 100, size);
     AlarmsPerSecond(station->m_Port, 50);
     cConnection connection("127.0.0.1", std::to_string(station->m_Port), 10);
     const int alarms = size.alarms;
@@ -225,7 +227,7 @@ void PlotStations(const cSize& size, const std::string& folder) {
         seconds.points.emplace_back(stored, start.seconds);
         bare.points.emplace_back(stored, start.bare);
         memory.points.emplace_back(stored, start.memory / 1e6);
-        const auto station = StartedStation("", stored);
+        const auto station = StartedStation("", stored, size);
         rate.points.emplace_back(stored, AlarmsPerSecond(station->m_Port, size.alarms));
         std::fprintf(stderr, "%d stored: start %.2f s (files alone %.2f s), %.0f MB, %.0f answers a second\n",
                      stored, start.seconds, start.bare, start.memory / 1e6, rate.points.back().second);

@@ -9,6 +9,7 @@ namespace vigrel::bench {
 // How much is measured. The short form takes seconds and shows that everything runs.
 struct cSize {
     int stored, alarms, rounds, popups;
+    int settles;               // milliseconds until a configuration counts as unchanged
     std::vector<int> plotted;  // numbers of stored alarms
 };
 
