@@ -140,6 +140,38 @@ TEST_F(PopupWidget, AShortTextNeedsNoScrollBarAndALongOneGetsIt) {
     EXPECT_EQ(Label(popup).horizontalScrollBar()->maximum(), 0);
 }
 
+// Whether all of a label's text is in sight without a scroll bar.
+bool FitsWithoutBar(const QPlainTextEdit& label) {
+    QPlainTextEdit bare;
+    bare.setFrameShape(QFrame::NoFrame);
+    bare.setFont(label.font());
+    bare.setWordWrapMode(label.wordWrapMode());
+    bare.document()->setDocumentMargin(0);
+    bare.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    bare.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    bare.setPlainText(label.toPlainText());
+    bare.resize(label.size());
+    bare.setAttribute(Qt::WA_DontShowOnScreen);
+    bare.show();
+    return bare.verticalScrollBar()->maximum() == 0;
+}
+
+// The bar takes room: with it a text can need lines that it doesn't need without it.
+TEST_F(PopupWidget, AScrollBarStandsBesideTextThatDoesNotFitAndNowhereElse) {
+    cPopupWidget& popup = MakeShown();
+    popup.SetLabelFont("MS Sans Serif", 16);
+    popup.SetLabelText("Fire - Active\r\nSmoke detector 4:17 in the corridor\r\nHarbour House\r\nPLC1");
+    for (int width = 3000; width < 7000; width += 105) {
+        for (const double height : {900.0, 1500.0, 1700.0, 1900.0, 2400.0, 3000.0}) {
+            popup.SetLabelHeight(height);
+            popup.SetLabelWidth(width);
+            QCoreApplication::processEvents();
+            EXPECT_EQ(Label(popup).verticalScrollBar()->isVisible(), !FitsWithoutBar(Label(popup)))
+                << width << " x " << height;
+        }
+    }
+}
+
 TEST_F(PopupWidget, TheLabelTakesItsFont) {
     cPopupWidget& popup = Make();
     popup.SetLabelFontStyle(true, true);

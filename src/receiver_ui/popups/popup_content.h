@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QIcon>
-#include <QPlainTextEdit>
 #include <QString>
 #include <array>
 #include <cstdint>
@@ -10,6 +9,7 @@
 #include <string_view>
 
 #include "platform/popup_window.h"
+#include "receiver_ui/popups/popup_label.h"
 #include "receiver_ui/popups/popup_picture.h"
 
 namespace vigrel {
@@ -33,7 +33,7 @@ class cPopupContent {
 
     cPopupContent(QWidget& popup, const PopupIcons& icons);
 
-    QPlainTextEdit& Label() { return m_Label; }
+    cPopupLabel& Label() { return m_Label; }
     void SetLabelFont(std::string_view name, double points);
     void SetLabelFontStyle(bool bold, bool italic);
     cPopupPicture& Picture(int picture) { return *m_Pictures[static_cast<std::size_t>(picture)]; }
@@ -46,7 +46,7 @@ class cPopupContent {
     void MakeLabel();
     void SetFont(const QFont& font);
 
-    QPlainTextEdit m_Label;
+    cPopupLabel m_Label;
     std::array<cPopupPicture*, cPopupWindow::kPictures> m_Pictures{};
 };
 

@@ -148,7 +148,7 @@ void cPopupWidget::SetBackColour(std::int32_t colour) {
 }
 
 void cPopupWidget::SetLabelText(std::string_view text) {
-    WithContent([text = PopupText(text)](cPopupContent& content) { content.Label().setPlainText(text); });
+    WithContent([text = PopupText(text)](cPopupContent& content) { content.Label().ShowText(text); });
 }
 
 void cPopupWidget::SetLabelForeColour(std::int32_t colour) {
