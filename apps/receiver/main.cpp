@@ -16,6 +16,7 @@
 #include "adapters/qt/qt_locale.h"
 #include "adapters/qt/stop_signals.h"
 #include "common/exit_codes.h"
+#include "common/setting_keys.h"
 #include "common/settings.h"
 #include "common/standard_error.h"
 #include "core/first_start.h"
@@ -95,7 +96,7 @@ int RunStation(cApplication& application, cServiceManager& serviceManager, const
     cFirstStart firstStart(files, ini, locale, FirstStartHints());
     firstStart.Prepare();
     const auto speakLanguage = [&] {
-        application.SpeakLanguage(ini.GetIniString("General", "Language", ""));
+        application.SpeakLanguage(cSettingReader(ini, "General").Text("Language"));
     };
     speakLanguage();
 
@@ -103,7 +104,7 @@ int RunStation(cApplication& application, cServiceManager& serviceManager, const
         {application, files, ini, locale, messageBox, serviceManager, kProgramName, applicationPath});
     TellElsewhere(hints, isNew, windowBox);
     machine.mainWindow.OnHelp = [&] {
-        const std::string language = ini.GetIniString("General", "Language", "");
+        const std::string language = cSettingReader(ini, "General").Text("Language");
         cOperatorPage::Show(FindOperatorPage(NativePath(hints.programFolder), language), machine.mainWindow);
     };
     machine.otherWindows.OnLanguageChosen = [&] {

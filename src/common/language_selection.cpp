@@ -7,6 +7,7 @@
 #include "common/failure.h"
 #include "common/file_procedures.h"
 #include "common/numbers.h"
+#include "common/setting_keys.h"
 #include "common/text.h"
 #include "common/texts.h"
 
@@ -67,7 +68,7 @@ void cLanguageSelection::Confirm() {
     if (m_Selected < 0 || m_Selected >= static_cast<int>(m_Languages.size())) return;
     const std::int16_t number = m_Languages[static_cast<std::size_t>(m_Selected)].number;
     m_Ini.PutIniString("General", "Language", Digits(number, 3));
-    if (Trim(m_Ini.GetIniString("General", "CountryFilter", "")).empty()) {
+    if (Trim(cSettingReader(m_Ini, "General").Text("CountryFilter")).empty()) {
         m_Ini.PutIniString("General", "CountryFilter", m_Country);
     }
 }

@@ -132,7 +132,8 @@ std::vector<cSettingKey> MakeSettingKeys() {
     std::copy(CategoryKeys().begin(), CategoryKeys().end(), std::back_inserter(keys));
     for (const std::string_view column : kColumnKeywords) {
         keys.push_back({std::string(column), "ColumnText", Text, std::string(column)});
-        keys.push_back({std::string(column), "ColumnWidth", Int32, "100", 1, kInt16High});
+        keys.push_back(
+            {std::string(column), "ColumnWidth", Int32, std::string(kDefaultColumnWidth), 1, kInt16High});
     }
     return keys;
 }

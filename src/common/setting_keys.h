@@ -22,6 +22,8 @@ inline constexpr std::array<std::string_view, 16> kColumnKeywords{
     "Date",      "Time",      "DateTime",  "t0",        "t1",
     "t2",        "t3",        "t4",        "t5",        "ExtraText",
     "Observed"};
+// Of every column, those of other names included, in pixels.
+inline constexpr std::string_view kDefaultColumnWidth = "100";
 // The image strip has pictures 0 to this.
 inline constexpr int kLastIcon = 47;
 

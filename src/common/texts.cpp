@@ -6,6 +6,7 @@
 #include "common/failure.h"
 #include "common/file_procedures.h"
 #include "common/line_problem.h"
+#include "common/setting_keys.h"
 #include "common/text.h"
 
 namespace vigrel {
@@ -21,7 +22,7 @@ std::string cTexts::Content(const std::string& path, const std::string& language
 
 bool cTexts::LoadTexts() {
     m_Texts.clear();
-    const std::string language = m_Ini.GetIniString("General", "Language", "");
+    const std::string language = cSettingReader(m_Ini, "General").Text("Language");
     if (language.empty()) return false;
     const std::string path = m_Ini.FullPath(kTextFile) + language;
     if (!FileExists(m_Files, path)) return false;

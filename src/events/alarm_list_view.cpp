@@ -59,7 +59,7 @@ void cAlarmListView::AddColumn(const std::string& keyword) {
     const int column =
         m_Services.list.AddColumn(m_Services.ini.GetIniString(keyword, "ColumnText", keyword), 10);
     m_Services.list.SetColumnTag(column, keyword);
-    const std::string width = m_Services.ini.GetIniString(keyword, "ColumnWidth", "100");
+    const std::string width = m_Services.ini.GetIniString(keyword, "ColumnWidth", kDefaultColumnWidth);
     m_Services.list.SetColumnWidth(column, m_Services.ini.Int32(keyword, "ColumnWidth", width));
     const int placement = IsCentred(keyword) ? 1 : 0;
     m_Services.list.SetColumnPlacement(column, placement, placement);

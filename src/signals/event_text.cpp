@@ -51,6 +51,7 @@ constexpr std::array<cField, 11> kFields{{
     {"TIME", [](const cSource& s) { return s.Format(s.Event().m_TimeStampFromPC, s.settings.m_TimeFormat); }},
     {"STATUS", [](const cSource& s) { return std::to_string(s.Event().m_Status); }},
     {"STATUS$", [](const cSource& s) { return StatusText(s.texts, s.Event().m_Status); }},
+    // Nothing unless it is set; the titles have a word for that.
     {"OBJECT", [](const cSource& s) { return s.ini.GetIniString("General", "Object", ""); }},
     {"ALARMID", [](const cSource& s) { return s.Event().ViewEventIdAsHex(); }},
     {"SENDER", [](const cSource& s) { return s.alarm.m_Sender; }},
