@@ -9,7 +9,7 @@ tests/campaigns/neighbours/attack.sh [--short] PROGRAMS ATTACK...
 PROGRAMS is a folder with the built programs, such as build/dev/bin. The attacks:
 
   files      what is no ordinary file, has no end or can't be read, in place of each file of a station
-  names      folders whose names are in other scripts, or no text at all
+  names      folders whose names are in other scripts, or no text at all; senders whose texts are markup or formulas
   users      what another user of the machine can read, lock, and plant
   portable   an installation that can't be written
 
@@ -246,6 +246,54 @@ attack_files() {
     for kind in $kinds; do attack_places "$kind"; done
 }
 
+# The report of a folder whose name is odd, into the same folder.
+attack_report_names() {
+    local shown=${name//$'\xff'/\\xFF} page=$folder/page.html
+    run "$programs/vigrel-report" --language en --last 1 "$folder"
+    check "$name: vigrel-report names it in a text" grep -qF "Alarm report: ${folder%/*}/$shown/" "$work/output"
+    run "$programs/vigrel-report" --language en --last 1 --json "$folder"
+    check "$name: in JSON" grep -qF "\"plant\": \"${folder%/*}/${shown//\\/\\\\}/\"" "$work/output"
+    check "$name: it writes a page there" run "$programs/vigrel-report" --language en --last 1 --html "$page" "$folder"
+    check "$name: that names the folder" grep -qF "<h1>Alarm report – ${folder%/*}/$shown/</h1>" "$page"
+    check "$name: and tables" run "$programs/vigrel-report" --last 1 --csv "$folder" "$folder"
+    check "$name: that name it too" grep -qF "\"${folder%/*}/$shown/\"" "$folder/stations.csv"
+    rm -f "$page" "$folder"/*.csv
+}
+
+# finds PATTERN FILE...: as grep -P does, in bytes.
+finds() { LC_ALL=C grep -aqP -- "$@"; }
+
+# Senders whose names and texts are markup, formulas, and commands for a terminal.
+attack_report_texts() {
+    local evil today
+    today=$(date +%F)
+    make_station "$work/texts"
+    printf '[General]\r\nLanguage=046\r\nObject=@<b>\033[2J\r\n[TCPIP]\r\nPort=%s\r\n' "$port" >"$folder/VigrelReceiver.INI"
+    launch
+    check "hostile texts: the station answers" until_true 15 answers
+    for evil in '<script>alert(1)</script>' '"><img src=x onerror=y>' '=1+cmd' '+1+1' '-1+1' '@SUM(1)' \
+        $'\e[31m\e]0;x\a' "</title></style>' & \\" '{1}{2}' '",=1,"'; do
+        check "a record of $(printf %q "$evil")" run "$programs/vigrel-send" --port "$port" --quiet \
+            --sender "$evil" --t0 "$evil" --t1 "$evil" --t2 "$evil"
+    done
+    check "hostile texts: it ends in order" ends 0
+    sleep 1
+    local report=("$programs/vigrel-report" --quiet --language en --from "$today")
+    check "its page" run "${report[@]}" --html "$folder/page.html" "$folder"
+    check "holds the texts" finds '&lt;script&gt;alert\(1\)' "$folder/page.html"
+    check "as no markup" not finds '<(script|img|b>)|</title>.*</title>' "$folder/page.html"
+    check "without control characters" not finds '[\x00-\x09\x0B-\x1F\x7F]' "$folder/page.html"
+    check "its tables" run "${report[@]}" --csv "$folder" "$folder"
+    check "hold the texts" finds "\"'=1\\+cmd\"" "$folder/sources.csv"
+    check "as no formulas" not finds '(^|",)"([=+@]|-[^0-9])|(^|",)"-1\+' "$folder"/*.csv
+    check "each as one cell" finds "\"'\"\",=1,\"\"\"|\"\"\",=1,\"\"\"" "$folder/sources.csv"
+    check "its JSON" run "${report[@]}" --json "$folder"
+    check "holds the texts" finds '"alarm": "\\"><img src=x onerror=y>"' "$work/output"
+    check "without control characters" not finds '[\x00-\x09\x0B-\x1F\x7F]' "$work/output"
+    check "its text" run "${report[@]}" "$folder"
+    check "steers no terminal" not finds '[\x00-\x09\x0B-\x1F\x7F]' "$work/output"
+}
+
 attack_names() {
     local name before
     for name in иван Łódź 日本 'back\slash' $'no\xfftext' "?"; do
@@ -265,6 +313,7 @@ attack_names() {
             *$'\xff'*) ;;
             *) check "$name: it names the folder" grep -qF "${name//\\/\\\\}" "$work/output" ;;
         esac
+        attack_report_names
         run "$programs/vigrel-send" --port 1 --file "$folder/none"
         check "$name: vigrel-send names a file" grep -qF "${name//$'\xff'/\\xFF}" "$work/output"
         rm -rf "$work/names"
@@ -282,6 +331,7 @@ attack_names() {
         pid=
         rm -rf "$work/names"
     done
+    attack_report_texts
 }
 
 # modes FOLDER: of what is in it.
