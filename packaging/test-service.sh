@@ -8,7 +8,8 @@ usage() {
 packaging/test-service.sh
 
 Starts a user's service manager in a temporary folder, switches the station's service on in it, and looks what the
-service does when the desktop starts and ends, when the station is killed, fails, is told to end, or can't start.
+service does when the desktop starts and ends, when the station is killed, fails, is told to end, or can't start. Then
+switches on the timer of the report, and hands the report out to stand-ins for a mail program, a browser and a printer.
 Takes the programs of build/release (./run.sh --build-only).
 
 Needs root and the package systemd. The machine's own services are not touched.
@@ -117,5 +118,44 @@ systemctl --user stop desktop.target graphical-session.target
 check "it ends with the desktop" until_true state_is inactive
 check "in order" [ "$(property ExecMainStatus)" = 0 ]
 check "its log tells so" grep -aqs "ends with the operating system" "$folder"/LogFiles/*
+
+# --- the report on Mondays
+sed "s|/usr/bin/|$programs/|" packaging/vigrel-report.service >"$units/vigrel-report.service"
+cp packaging/vigrel-report.timer "$units"
+systemctl --user daemon-reload
+page=$HOME/vigrel-report.html
+of_report() { systemctl --user show vigrel-report"$1" -p "$2" --value; }
+# writes_page: once it is told to, whatever the day.
+writes_page() { rm -f "$page" && systemctl --user start vigrel-report && [ -s "$page" ]; }
+refuses_page() { ! systemctl --user start vigrel-report 2>/dev/null && [ "$(of_report "" Result)" = exit-code ]; }
+check "the report's units are in order" systemd-analyze --user --man=no verify "$units/vigrel-report.timer"
+check "its timer is shipped switched off" [ "$(of_report .timer UnitFileState)" = disabled ]
+systemctl --user enable --now vigrel-report.timer 2>/dev/null
+check "switched on, it waits" [ "$(of_report .timer ActiveState)" = active ]
+check "for Monday at six" [ "$(date -d "$(of_report .timer NextElapseUSecRealtime)" '+%u %T')" = "1 06:00:00" ]
+check "and has written nothing yet" [ ! -e "$page" ]
+check "the service writes the page" writes_page
+
+mkdir "$work/stand-ins" "$units/vigrel-report.service.d"
+printf '#!/bin/sh\ncat >"%s/mailed"\n' "$work" >"$work/stand-ins/sendmail"
+printf '#!/bin/sh\necho "$2" >"%s/queue"; cp "$3" "%s/printed"\n' "$work" "$work" >"$work/stand-ins/lp"
+printf '#!/bin/sh\nfor word; do case $word in --print-to-pdf=*) echo pdf >"${word#*=}" ;; esac; done\n' \
+    >"$work/stand-ins/chromium"
+chmod 755 "$work"/stand-ins/*
+hand_out="ExecStartPost=$PWD/packaging/examples/vigrel-report-hand-out"
+printf '[Service]\nStandardError=file:%s\nEnvironment=%s\nEnvironment="PATH=%s:/usr/bin:/bin"\n%s\n%s\n' \
+    "$work/errors" '"VIGREL_REPORT_OPTIONS=--priority Fire=high --operators 2"' "$work/stand-ins" \
+    "$hand_out mail manager@plant.example %h/vigrel-report.html" "$hand_out print Laser %h/vigrel-report.html" \
+    >"$units/vigrel-report.service.d/override.conf"
+systemctl --user daemon-reload
+check "with options and both ways to hand it out" writes_page
+check "the options hold: two operators" grep -qF "at most 20" "$page"
+check "the mail goes to its address" grep -qx "To: manager@plant.example" "$work/mailed"
+check "the mail holds the page" eval 'sed "1,/^$/d" "$work/mailed" | base64 -d | cmp -s - "$page"'
+check "the printer's queue is the one that was named" [ "$(cat "$work/queue")" = Laser ]
+check "it prints what the browser made" [ "$(cat "$work/printed")" = pdf ]
+printf '#!/bin/sh\necho "no display" >&2; exit 1\n' >"$work/stand-ins/chromium"
+check "a browser that fails fails the service" refuses_page
+check "and is told" grep -q "chromium made no page" "$work/errors"
 
 echo "$checks passed, 0 failed"
