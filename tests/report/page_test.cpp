@@ -239,6 +239,16 @@ TEST_F(HandedOut, StationsStandSideBySide) {
               std::string::npos);
 }
 
+// What is dark on a light screen is light on a dark one.
+TEST_F(HandedOut, CaptionsTellShapesNotShades) {
+    const std::string page = Make({"--html", "x", "/app"}).page;
+    for (const char* shade : {"dark:", "Dark", "Light", "darker"}) {
+        const std::size_t body = page.find("<body>");
+        EXPECT_EQ(page.find(shade, body), std::string::npos) << shade;
+    }
+    EXPECT_NE(page.find("Narrow bar: half were acknowledged"), std::string::npos);
+}
+
 // A name without a blank must not push the other columns off the paper.
 TEST_F(HandedOut, LongWordsMayBreak) {
     const std::string word(60, 'x'), words = "twenty-four characters !";
