@@ -106,7 +106,7 @@ std::vector<std::string> PutMany(const cTemporaryFolder& folder, std::size_t cou
 
 TEST(LinuxFiles, ManyFilesAreReadInTheOrderOfTheirNames) {
     const cLinuxFiles exact(cLinuxFiles::eNames::Exact);
-    for (const std::size_t count : {0, 1, 500, 501, 3000}) {
+    for (const std::size_t count : {0u, 1u, 500u, 501u, 3000u}) {
         cTemporaryFolder folder;
         const std::vector<std::string> names = PutMany(folder, count);
         std::size_t next = 0;

@@ -287,7 +287,7 @@ class cBlackHole {
             address.sin_family = AF_INET;
             address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
             address.sin_port = htons(static_cast<std::uint16_t>(std::stoi(m_Port.Port())));
-            connect(socket, reinterpret_cast<sockaddr*>(&address), sizeof address);
+            EXPECT_EQ(connect(socket, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
         }
         std::this_thread::sleep_for(50ms);
     }

@@ -370,6 +370,7 @@ TEST_F(QtSockets, APeerThatReadsNoReplyCostsABoundedMemory) {
 
 TEST_F(QtSockets, EachTurnOfTheLoopDeliversOneRequest) {
     std::vector<std::unique_ptr<cBluntPeer>> peers;
+    peers.reserve(20);
     for (int i = 0; i < 20; ++i) {
         peers.push_back(std::make_unique<cBluntPeer>(m_Rig.m_Listener.LocalPort()));
     }

@@ -26,7 +26,7 @@ std::vector<float> ReadAll(cSampleSource& source) {
 
 // A file of half loudness, in a form of the library's numbers.
 std::string MakeFile(const cTemporaryFolder& folder, int format, int rate, int channels) {
-    const std::string path = (folder.Path() / "a.wav").string();
+    std::string path = (folder.Path() / "a.wav").string();
     SF_INFO info{};
     info.format = SF_FORMAT_WAV | format;
     info.samplerate = rate;

@@ -131,8 +131,9 @@ TEST(SplitDateTime, EveryWholeSecondOfFarDaysReadsBackHoweverItWasMade) {
     for (const double day : {-657434.0, -1.0, 0.0, 1.0, 36526.0, 46096.0, 2958465.0}) {
         const double sign = day < 0 ? -1 : 1;
         for (int second = 0; second < 86400; ++second) {
-            const double time = TimeSerial(second / 3600, second / 60 % 60, second % 60);
-            const double sum = second / 3600 / 24.0 + second / 60 % 60 / 1440.0 + second % 60 / 86400.0;
+            const int hours = second / 3600, minutes = second / 60 % 60;
+            const double time = TimeSerial(hours, minutes, second % 60);
+            const double sum = hours / 24.0 + minutes / 1440.0 + second % 60 / 86400.0;
             for (const double made :
                  {day + sign * time, day + sign * sum, std::nextafter(day + sign * time, 0.0)}) {
                 const cDateParts parts = SplitDateTime(made);

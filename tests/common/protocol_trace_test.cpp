@@ -136,7 +136,7 @@ TEST_F(ProtocolTrace, With400RowsOneMoreTakesTheOldestAway) {
 }
 
 TEST_F(ProtocolTrace, ATextOfMoreThan400RowsKeepsItsLast400) {
-    m_Trace.WriteTrace(std::string(181 * 402, 'x') + "y", TraceReceived);
+    m_Trace.WriteTrace(std::string(181u * 402u, 'x') + "y", TraceReceived);
     EXPECT_EQ(m_Trace.Rows().size(), 400u);
     EXPECT_EQ(m_Trace.Rows().back().text, "y");
     EXPECT_EQ(m_Trace.RowsGone(), 3u);

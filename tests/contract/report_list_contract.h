@@ -367,6 +367,7 @@ TYPED_TEST_P(ReportListContract, AnOrderOfMoreColumnsDropsTheSelectionOfARowThat
     this->AddColumns(3);
     this->SortBy(0, true);
     std::vector<RecordId> records;
+    records.reserve(20);
     for (int i = 0; i < 20; ++i) records.push_back(this->Add({"same", std::to_string(i % 7), "same"}));
     this->TakenOver();
     this->List().SelectAllRows();

@@ -18,6 +18,7 @@ class cChildProcess {
     // The program is looked for along the search path.
     explicit cChildProcess(std::vector<std::string> words) {
         std::vector<char*> arguments;
+        arguments.reserve(words.size() + 1);
         for (std::string& word : words) arguments.push_back(word.data());
         arguments.push_back(nullptr);
         m_Process = fork();

@@ -9,6 +9,7 @@
 #include <atomic>
 #include <chrono>
 #include <mutex>
+#include <stdexcept>
 #include <string>
 #include <thread>
 #include <vector>
@@ -26,8 +27,10 @@ class cLoopbackPort {
         // A small window, so that a peer that nobody reads is noticed soon.
         const int buffer = 1024;
         setsockopt(m_Socket, SOL_SOCKET, SO_RCVBUF, &buffer, sizeof buffer);
-        bind(m_Socket, reinterpret_cast<sockaddr*>(&address), size);
-        listen(m_Socket, backlog);
+        if (bind(m_Socket, reinterpret_cast<sockaddr*>(&address), size) != 0 ||
+            listen(m_Socket, backlog) != 0) {
+            throw std::runtime_error("no port on the loopback");
+        }
         getsockname(m_Socket, reinterpret_cast<sockaddr*>(&address), &size);
         m_Port = ntohs(address.sin_port);
     }
