@@ -149,6 +149,15 @@ TEST_F(HandedOut, ThePageSpeaksEveryLanguage) {
     }
 }
 
+TEST_F(HandedOut, EveryFileIsToldAsProgress) {
+    station.Store({.created = monday + 60, .texts = {"Fan", "Roof", "Technical", "", ""}});
+    std::vector<std::pair<std::size_t, std::size_t>> told;
+    const auto tell = [&](std::size_t done, std::size_t all) { told.emplace_back(done, all); };
+    MakeReport(ReadReportOptions({"/app"}), {files, kNoZone, {}, monday + 8 * 86400, tell});
+    ASSERT_EQ(told.size(), 9u);  // the logs of eight days, one alarm
+    for (std::size_t i = 0; i < told.size(); ++i) EXPECT_EQ(told[i], std::pair(i + 1, std::size_t{9}));
+}
+
 TEST_F(HandedOut, TheLanguageIsThatOfTheStation) {
     cWrittenStation swedish(files, "/svensk/", "046");
     swedish.Start(monday);
