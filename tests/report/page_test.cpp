@@ -1,10 +1,10 @@
-// What is handed out: words, page, tables, JSON, text, and the command line that asks for them.
+// What is handed out: page, tables, JSON, text.
 
 #include <gtest/gtest.h>
 
-#include <set>
+#include <algorithm>
+#include <cmath>
 
-#include "common/failure.h"
 #include "common/path_text.h"
 #include "report/written_station.h"
 #include "vigrel-report/page/writers.h"
@@ -16,80 +16,10 @@ namespace {
 using testing::cFakeFiles;
 using testing::cWrittenStation;
 using testing::kNoZone;
-using testing::kStockholm;
 using testing::Wall;
 
 constexpr eLanguage kAll[] = {eLanguage::English, eLanguage::Swedish,   eLanguage::German,
                               eLanguage::Danish,  eLanguage::Norwegian, eLanguage::Finnish};
-
-std::set<std::string> PlacesIn(std::string_view text) {
-    std::set<std::string> places;
-    for (std::size_t at = text.find('{'); at != std::string_view::npos; at = text.find('{', at + 1)) {
-        places.insert(std::string(text.substr(at, 3)));
-    }
-    return places;
-}
-
-TEST(Words, AreThereInAllLanguagesWithTheSamePlaces) {
-    for (std::size_t i = 0; i < static_cast<std::size_t>(eWord::NumberOfWords); ++i) {
-        const auto word = static_cast<eWord>(i);
-        const std::string_view english = Word(eLanguage::English, word);
-        for (const eLanguage language : kAll) {
-            const std::string_view text = Word(language, word);
-            EXPECT_FALSE(text.empty()) << english;
-            EXPECT_EQ(PlacesIn(text), PlacesIn(english)) << text;
-            EXPECT_EQ(text.find("  "), std::string_view::npos) << text;
-            EXPECT_EQ(text.find_first_of("<>\""), std::string_view::npos) << text;
-        }
-    }
-}
-
-// But for the words that are the same in both.
-TEST(Words, AreTranslated) {
-    const std::map<eWord, std::string> same = {{eWord::Over, "nb"},
-                                               {eWord::Below, "sv nb"},
-                                               {eWord::DayUnit, "sv de da nb"},
-                                               {eWord::HourUnit, "sv de fi"},
-                                               {eWord::Alarm, "de da nb"},
-                                               {eWord::Sender, "de da nb"},
-                                               {eWord::Station, "sv de da"},
-                                               {eWord::MedianTime, "sv de da nb"},
-                                               {eWord::Starts, "de"},
-                                               {eWord::Text, "sv de"},
-                                               {eWord::Under, "sv da nb"}};
-    for (std::size_t i = 0; i < static_cast<std::size_t>(eWord::NumberOfWords); ++i) {
-        const auto word = static_cast<eWord>(i);
-        const std::string_view english = Word(eLanguage::English, word);
-        std::string found;
-        for (const eLanguage language : kAll) {
-            if (language == eLanguage::English || Word(language, word) != english) continue;
-            found += (found.empty() ? "" : " ") + CodeOf(language);
-        }
-        EXPECT_EQ(found, same.contains(word) ? same.at(word) : "") << english;
-    }
-}
-
-TEST(Words, AreFilledOnce) {
-    EXPECT_EQ(Filled("{1} and {2}", {"{2}", "b"}), "{2} and b");
-    EXPECT_EQ(Filled("{3} {", {"a"}), "{3} {");
-}
-
-TEST(Forms, AreThoseOfTheLanguage) {
-    const cForms english(eLanguage::English, kNoZone), swedish(eLanguage::Swedish, kNoZone);
-    EXPECT_EQ(english.Number(1234567.891, 2), "1,234,567.89");
-    EXPECT_EQ(swedish.Number(12345.5, 1),
-              "12\xC2\xA0"
-              "345,5");
-    EXPECT_EQ(english.Number(1234), "1234");
-    EXPECT_EQ(english.Number(-0.4), "0");
-    EXPECT_EQ(english.Percent(0.0123), "1.2\xC2\xA0%");
-    EXPECT_EQ(english.Percent(0.25), "25\xC2\xA0%");
-    EXPECT_EQ(english.Duration(0), "0\xC2\xA0s");
-    EXPECT_EQ(english.Duration(3661), "1\xC2\xA0h 1\xC2\xA0min");
-    EXPECT_EQ(english.Duration(86400),
-              "1\xC2\xA0"
-              "d");
-}
 
 class HandedOut : public ::testing::Test {
   protected:
@@ -258,6 +188,47 @@ TEST_F(HandedOut, CaptionsTellShapesNotShades) {
     EXPECT_NE(page.find("Narrow bar: half were acknowledged"), std::string::npos);
 }
 
+// The relative luminance of "#rgb" or "#rrggbb", by the definition of the Web's guidelines for accessibility.
+double Luminance(const std::string& colour) {
+    const std::size_t digits = colour.size() == 4 ? 1 : 2;
+    const double weights[] = {0.2126, 0.7152, 0.0722};
+    double luminance = 0;
+    for (std::size_t i = 0; i < 3; ++i) {
+        std::string part = colour.substr(1 + i * digits, digits);
+        if (digits == 1) part += part;
+        const double value = std::stoi(part, nullptr, 16) / 255.0;
+        luminance += weights[i] * (value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4));
+    }
+    return luminance;
+}
+
+double Contrast(const std::string& one, const std::string& other) {
+    const auto [least, most] = std::minmax(Luminance(one), Luminance(other));
+    return (most + 0.05) / (least + 0.05);
+}
+
+TEST_F(HandedOut, ColoursAreToldApartOnLightAndDarkScreens) {
+    const std::string page = Make({"--html", "x", "/app"}).page;
+    const std::size_t light = page.find(":root{"), dark = page.find(":root{", light + 1);
+    ASSERT_NE(dark, std::string::npos);
+    for (const std::size_t colours : {light, dark}) {
+        const auto colour = [&](const std::string& name) {
+            const std::size_t begin = page.find("--" + name + ":", colours) + name.size() + 3;
+            return page.substr(begin, page.find_first_of(";}", begin) - begin);
+        };
+        for (const char* paper : {"paper", "card"}) {
+            for (const char* text : {"ink", "soft-ink", "good", "bad", "calm", "limit"}) {
+                EXPECT_GE(Contrast(colour(text), colour(paper)), 4.5) << text << " on " << paper;
+            }
+            EXPECT_GE(Contrast(colour("bar"), colour(paper)), 3) << paper;
+        }
+        EXPECT_GE(Contrast(colour("limit"), colour("flood")), 3);
+    }
+    // Their fills are too weak alone.
+    EXPECT_NE(page.find(".soft{fill:var(--light-bar);stroke:var(--bar)"), std::string::npos);
+    EXPECT_NE(page.find(".flood{fill:var(--flood);stroke:var(--limit)"), std::string::npos);
+}
+
 // A name without a blank must not push the other columns off the paper.
 TEST_F(HandedOut, LongWordsMayBreak) {
     const std::string word(60, 'x'), words = "twenty-four characters !";
@@ -391,69 +362,6 @@ TEST_F(HandedOut, TheTextIsForPeople) {
     const std::string text = Make({"/app"}).text;
     EXPECT_TRUE(text.starts_with("Alarm report: Mill, 2026-06-01 to 2026-06-07\n"));
     for (const char c : text) EXPECT_TRUE(c == '\n' || static_cast<unsigned char>(c) >= 0x20);
-}
-
-// --- the command line
-
-std::string RefusalOf(const std::vector<std::string>& words) {
-    const auto failure = CatchFailure([&] { ReadReportOptions(words); });
-    return failure ? failure->what() : "";
-}
-
-TEST(ReportOptions, WrongOnesAreRefusedByName) {
-    EXPECT_EQ(RefusalOf({}), "no folder was named");
-    EXPECT_EQ(RefusalOf({"x", "--last", "fortnight"}),
-              "--last: \"fortnight\" is not day, week, month, year or a number of days");
-    EXPECT_EQ(RefusalOf({"x", "--last", "0"}), "--last: \"0\" is not a number from 1 to 3660");
-    EXPECT_EQ(RefusalOf({"x", "--last", "week", "--from", "2026-01-01"}),
-              "--last and --from, --to exclude each other");
-    EXPECT_EQ(RefusalOf({"x", "--to", "2026-01-01"}), "--to needs --from");
-    EXPECT_EQ(RefusalOf({"x", "--priority", "Fire=urgent"}),
-              "--priority: \"Fire=urgent\" is not CATEGORY=high, medium or low");
-    EXPECT_EQ(RefusalOf({"x", "--priority", "Fire"}),
-              "--priority: \"Fire\" is not CATEGORY=high, medium or low");
-    EXPECT_EQ(RefusalOf({"x", "--language", "fr"}),
-              "--language: \"fr\" is not one of en, sv, de, da, nb, fi");
-    EXPECT_EQ(RefusalOf({"x", "--operators", "0"}), "--operators: \"0\" is not a number from 1 to 1000");
-    EXPECT_EQ(RefusalOf({"x", "--working-hours", "17-7"}), "--working-hours: \"17-7\" ends before it begins");
-    EXPECT_EQ(RefusalOf({"x", "--working-days", "5"}), "--working-days: \"5\" is not of the form FROM-TO");
-    EXPECT_EQ(RefusalOf({"x", "--json", "--html", "-"}), "--json and --html - both want standard output");
-    EXPECT_EQ(RefusalOf({"--help"}), "");
-}
-
-TEST(ReportOptions, PrioritiesKnowCategoriesInAnyCase) {
-    const cOptions options = ReadReportOptions({"x", "--priority", "fire=HIGH", "--priority", "A=B=low"});
-    EXPECT_EQ(options.settings.priorities,
-              (std::map<std::string, ePriority>{{"FIRE", ePriority::High}, {"A=B", ePriority::Low}}));
-}
-
-cPeriods PeriodsOf(const std::vector<std::string>& words) {
-    // Wednesday, 21 October 2026, at noon in Stockholm.
-    return FindPeriods(ReadReportOptions(words), Wall(2026, 10, 21, 10), kStockholm);
-}
-
-TEST(ReportOptions, LastPeriodsAreWholeOnes) {
-    const auto local = [](int year, unsigned month, unsigned day) {
-        return kStockholm.ToMoments(Wall(year, month, day)).first;
-    };
-    const cPeriods week = PeriodsOf({"x"});
-    EXPECT_EQ(week.period, (cSpan{local(2026, 10, 12), local(2026, 10, 19)}));
-    EXPECT_EQ(week.before, (cSpan{local(2026, 10, 5), local(2026, 10, 12)}));
-    const cPeriods month = PeriodsOf({"x", "--last", "month"});
-    EXPECT_EQ(month.period, (cSpan{local(2026, 9, 1), local(2026, 10, 1)}));
-    EXPECT_EQ(month.before, (cSpan{local(2026, 8, 1), local(2026, 9, 1)}));
-    EXPECT_EQ(PeriodsOf({"x", "--last", "year"}).period, (cSpan{local(2025, 1, 1), local(2026, 1, 1)}));
-    EXPECT_EQ(PeriodsOf({"x", "--last", "day"}).period, (cSpan{local(2026, 10, 20), local(2026, 10, 21)}));
-    EXPECT_EQ(PeriodsOf({"x", "--last", "30"}).period, (cSpan{local(2026, 9, 21), local(2026, 10, 21)}));
-}
-
-TEST(ReportOptions, FromAndToEndNowAtTheLatest) {
-    const cPeriods periods = PeriodsOf({"x", "--from", "2026-10-19", "--to", "2026-10-31"});
-    EXPECT_EQ(periods.period.end, Wall(2026, 10, 21, 10));
-    EXPECT_EQ(periods.before.end, periods.period.begin);
-    EXPECT_EQ(periods.before.Length(), periods.period.Length());
-    EXPECT_THROW(PeriodsOf({"x", "--from", "2027-01-01"}), cFailure);
-    EXPECT_THROW(PeriodsOf({"x", "--from", "2026-02-02", "--to", "2026-02-01"}), cFailure);
 }
 
 }  // namespace

@@ -38,7 +38,8 @@ tr:last-child td,tbody tr:last-child th{border-bottom:0}
 svg{display:block;width:100%;height:auto;font-family:inherit}
 .axis{font-size:12px;fill:var(--soft-ink)}.label{font-size:13px;fill:var(--ink)}.end{text-anchor:end}.middle{text-anchor:middle}
 .strong{fill:var(--limit);font-weight:600}.halo{paint-order:stroke;stroke:var(--card);stroke-width:4px}
-.bar{fill:var(--bar)}.soft{fill:var(--light-bar)}.flood{fill:var(--flood)}.unknown{fill:var(--unknown)}
+.bar{fill:var(--bar)}.soft{fill:var(--light-bar);stroke:var(--bar)}
+.flood{fill:var(--flood);stroke:var(--limit);stroke-width:.7}.unknown{fill:var(--unknown)}
 .grid{stroke:var(--line);stroke-width:1}.tick{stroke:var(--soft-ink);stroke-width:1}
 .limit{stroke:var(--limit);stroke-width:1.5;stroke-dasharray:6 4}
 .cell{fill:none;stroke:var(--line);stroke-width:1}.heat{fill:var(--bar)}.frame{fill:none;stroke:var(--soft-ink);stroke-width:1.2}
