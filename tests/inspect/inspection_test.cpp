@@ -2,7 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
+#include "common/binary.h"
 #include "common/printable.h"
+#include "definitions/variant.h"
 #include "inspect/alarm_samples.h"
 #include "support/samples.h"
 #include "vigrel-inspect/print.h"
@@ -140,6 +144,38 @@ TEST(Inspection, AnUnknownVersionOrSettingTypeIsNamed) {
     EXPECT_EQ(Problems(Inspect(eFileKind::Receiver, "Receiver_0008.dat", bytes)),
               "2 identity: the name of the file says 8\n"
               "13 setting 0: a value has the unknown type code 99\n");
+}
+
+// A receiver of version 3 whose first setting holds the value.
+std::string ReceiverWith(const cVariant& setting) {
+    cBinaryWriter file;
+    file.Int16(3);
+    file.Int32(7);
+    file.String("Duty1");
+    setting.Write(file);
+    for (int i = 1; i < 4; ++i) cVariant().Write(file);
+    return file.Bytes();
+}
+
+std::string ProblemsOf(const std::string& receiver) {
+    return Problems(Inspect(eFileKind::Receiver, "r", receiver));
+}
+
+TEST(Inspection, AValueThatItsTypeDoesNotHaveIsNamed) {
+    std::string flag = ReceiverWith(cVariant::Boolean(true));
+    EXPECT_EQ(ProblemsOf(flag), "");
+    flag[15] = 1;
+    flag[16] = 0;
+    EXPECT_EQ(ProblemsOf(flag), "13 setting 0 (yes or no): 1 is neither -1 nor 0\n");
+    EXPECT_EQ(ProblemsOf(ReceiverWith(cVariant::Date(45000.5))), "");
+    EXPECT_EQ(ProblemsOf(ReceiverWith(cVariant::Date(1e9))),
+              "13 setting 0 (date): this is no date of the years 100 to 9999\n");
+    constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
+    EXPECT_EQ(ProblemsOf(ReceiverWith(cVariant::Double(1.5))), "");
+    EXPECT_EQ(ProblemsOf(ReceiverWith(cVariant::Double(kNone))),
+              "13 setting 0 (number (double)): this is no number\n");
+    EXPECT_EQ(ProblemsOf(ReceiverWith(cVariant::Single(std::numeric_limits<float>::infinity()))),
+              "13 setting 0 (number (single)): this is no number\n");
 }
 
 TEST(Inspection, ASchedulesPeriodsAreChecked) {

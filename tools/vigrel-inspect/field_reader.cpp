@@ -1,8 +1,8 @@
 #include "vigrel-inspect/field_reader.h"
 
-#include "common/dates.h"
+#include <cmath>
+
 #include "common/failure.h"
-#include "definitions/variant.h"
 
 namespace vigrel {
 namespace {
@@ -74,7 +74,7 @@ bool cFieldReader::Boolean(const std::string& name) {
     const std::size_t from = m_File.Position();
     const std::int16_t value = m_File.Int16();
     Add(name, from, value != 0);
-    if (value != True16 && value != False16) Problem(std::to_string(value) + " is neither -1 nor 0");
+    ExpectBoolean(value);
     return value != 0;
 }
 
@@ -82,7 +82,7 @@ DateTime cFieldReader::Date(const std::string& name) {
     const std::size_t from = m_File.Position();
     const DateTime value = m_File.Double();
     Add(name, from, cDateValue{value});
-    if (CatchFailure([&] { SplitDateTime(value); })) Problem("this is no date of the years 100 to 9999");
+    ExpectDate(value);
     return value;
 }
 
@@ -101,6 +101,37 @@ void cFieldReader::Variant(const std::string& name) {
         throw cFailure(*failure);
     }
     Add(name + " (" + VariantTypeName(value.Type()) + ")", from, ValueOf(value));
+    ExpectValueOfType(value.Type(), m_Content.substr(from + sizeof(std::int16_t)));
+}
+
+// What the program itself never writes as a value of its type. Where they are of one size, other bytes are a
+// value too.
+void cFieldReader::ExpectValueOfType(eVariantType type, std::string_view bytes) {
+    cBinaryReader value(bytes);
+    switch (type) {
+        case eVariantType::Boolean:
+            return ExpectBoolean(value.Int16());
+        case eVariantType::Date:
+            return ExpectDate(value.Double());
+        case eVariantType::Single:
+            return ExpectNumber(value.Single());
+        case eVariantType::Double:
+            return ExpectNumber(value.Double());
+        default:
+            return;
+    }
+}
+
+void cFieldReader::ExpectNumber(double value) {
+    if (!std::isfinite(value)) Problem("this is no number");
+}
+
+void cFieldReader::ExpectBoolean(std::int16_t value) {
+    if (value != True16 && value != False16) Problem(std::to_string(value) + " is neither -1 nor 0");
+}
+
+void cFieldReader::ExpectDate(DateTime value) {
+    if (CatchFailure([&] { SplitDateTime(value); })) Problem("this is no date of the years 100 to 9999");
 }
 
 void cFieldReader::Zeros(const std::string& name, std::size_t count) {

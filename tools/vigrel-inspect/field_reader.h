@@ -4,6 +4,8 @@
 #include <string_view>
 
 #include "common/binary.h"
+#include "common/dates.h"
+#include "definitions/variant.h"
 #include "vigrel-inspect/inspection.h"
 
 namespace vigrel {
@@ -21,7 +23,8 @@ class cFieldReader {
     // A problem when it lies outside the calendar.
     DateTime Date(const std::string& name);
     std::string String(const std::string& name);
-    // A type code, then a value of that type; a problem, and the end, when the code is unknown.
+    // A type code, then a value of that type; a problem, and the end, when the code is unknown. A value that
+    // its type doesn't have is a problem.
     void Variant(const std::string& name);
     // A problem when any of the bytes isn't zero.
     void Zeros(const std::string& name, std::size_t count);
@@ -39,6 +42,12 @@ class cFieldReader {
   private:
     // Adds the field that was read since the position, or fails when it was cut.
     void Add(const std::string& name, std::size_t from, cFieldValue value);
+
+    // Of the field read last.
+    void ExpectValueOfType(eVariantType type, std::string_view bytes);
+    void ExpectBoolean(std::int16_t value);
+    void ExpectDate(DateTime value);
+    void ExpectNumber(double value);
 
     std::string_view m_Content;
     cBinaryReader m_File;
