@@ -7,6 +7,8 @@ _vigrel_values() {
         --as) echo alarm receiver profile schedule calendar ;;
         --status) echo inactive active acked message ;;
         --observed) echo yes no ;;
+        --last) echo day week month year ;;
+        --language) echo en sv de da nb fi ;;
         *) return 1 ;;
     esac
 }

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <fstream>
+#include <iterator>
 #include <string>
 
 namespace vigrel::testing {
@@ -30,6 +32,20 @@ TEST(Completion, OffersTheOptionsThatTheProgramTellsOf) {
 TEST(Completion, OffersTheWordsOfAValue) {
     EXPECT_EQ(Offered("vigrel-send", "--corrupt", ""), "checksum etx kind");
     EXPECT_EQ(Offered("vigrel-inspect", "--status", "a"), "active acked");
+    EXPECT_EQ(Offered("vigrel-report", "--last", ""), "day week month year");
+    EXPECT_EQ(Offered("vigrel-report", "--language", "d"), "de da");
+}
+
+// What the help of any program tells besides comes by itself; these are the words of which a value is one.
+TEST(Completion, KnowsEveryOptionWhoseValueIsOneOfAFewWords) {
+    std::ifstream bash(VIGREL_COMPLETION), zsh(VIGREL_COMPLETION_ZSH);
+    const std::string offered{std::istreambuf_iterator<char>(bash), std::istreambuf_iterator<char>()};
+    const std::string same{std::istreambuf_iterator<char>(zsh), std::istreambuf_iterator<char>()};
+    for (const char* option :
+         {"--kind", "--corrupt", "--as", "--status", "--observed", "--last", "--language"}) {
+        EXPECT_NE(offered.find(std::string("        ") + option + ") echo "), std::string::npos) << option;
+        EXPECT_NE(same.find(std::string("    ") + option + ") choices=("), std::string::npos) << option;
+    }
 }
 
 TEST(Completion, OffersTheSwitchesOfTheReceiver) {

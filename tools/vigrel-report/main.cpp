@@ -64,11 +64,9 @@ int Run(const std::vector<std::string>& words) {
         return kWrongUse;
     }
     const auto failure = CatchFailure([&] {
-        if (options.help) {
-            PrintOutput(ReportHelpText());
-        } else {
-            Report(options);
-        }
+        if (options.help) PrintOutput(ReportHelpText());
+        if (options.version) PrintOutput(kProgram + " " VIGREL_VERSION "\n");
+        if (!options.help && !options.version) Report(options);
     });
     if (!failure) return kDone;
     PrintError(kProgram, failure->what());

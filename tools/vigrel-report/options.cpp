@@ -29,6 +29,8 @@ Output (without any: a short text):
   --language L    en, sv, de, da, nb, fi; default: the language of the first folder
   --quiet         no progress
 
+--version prints the version.
+
 Figures:
   --operators N            operators who share the alarms (1)
   --priority CATEGORY=P    high, medium or low; may be repeated
@@ -91,7 +93,7 @@ class cOptionReader {
     using Text = const std::string&;
 
     void Check() const {
-        if (m_Options.help) return;
+        if (m_Options.help || m_Options.version) return;
         if (m_Options.folders.empty()) RefuseOption("no folder was named");
         const bool dates = m_Options.from || m_Options.before;
         if (dates && !m_Options.last.empty()) RefuseOption("--last and --from, --to exclude each other");
@@ -138,6 +140,7 @@ class cOptionReader {
     cOptionTable m_Table{
         {{"--help", &m_Options.help},
          {"-h", &m_Options.help},
+         {"--version", &m_Options.version},
          {"--json", &m_Options.json},
          {"--quiet", &m_Options.quiet}},
         {{"--last", [this](Text word) { SetLast(word); }},

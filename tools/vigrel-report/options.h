@@ -12,7 +12,7 @@ namespace vigrel::report {
 
 // What the command line asks for.
 struct cOptions {
-    bool help = false, json = false, quiet = false;
+    bool help = false, version = false, json = false, quiet = false;
     std::vector<std::string> folders;      // as in common/path_text.h
     std::string page, csvFolder;           // the same; empty: none
     std::optional<eLanguage> language;     // nothing: that of the first folder
