@@ -7,7 +7,7 @@
 #include "common/file_procedures.h"
 #include "common/numbers.h"
 #include "common/path_text.h"
-#include "common/texts.h"
+#include "common/text_ids.h"
 
 namespace vigrel {
 namespace {
@@ -18,25 +18,24 @@ std::string Listed(const std::vector<std::string>& numbers) {
     for (std::size_t i = 0; i < std::min(numbers.size(), kMostNamed); ++i)
         list += (i == 0 ? "" : ", ") + numbers[i];
     if (numbers.size() <= kMostNamed) return list;
-    return list + " and " + std::to_string(numbers.size() - kMostNamed) + " more";
+    return list + "... (+" + std::to_string(numbers.size() - kMostNamed) + ")";
 }
 
 // Empty for a file that lacks nothing.
 std::string CompleteFile(cFiles& files, const std::string& path, const std::string& name,
-                         std::string_view delivered) {
+                         std::string_view delivered, const cTexts& texts) {
     const cCompletedTexts completed = CompleteTexts(files.ReadFile(path), delivered);
     if (completed.added.empty()) return {};
-    const std::string count = std::to_string(completed.added.size());
+    const std::string line = name + ": " + std::to_string(completed.added.size()) + " ";
     const auto failure = CatchFailure([&] { ReplaceFile(files, path, completed.content); });
-    if (!failure) return name + ": " + count + " missing text(s) added: " + Listed(completed.added);
-    return name + " lacks " + count +
-           " text(s), which can't be added: " + WithPathsInCodePage(failure->what());
+    if (!failure) return line + texts.GetText(TextTextsAdded) + ": " + Listed(completed.added);
+    return line + texts.GetText(TextTextsNotAdded) + ": " + WithPathsInCodePage(failure->what());
 }
 
 }  // namespace
 
 std::vector<std::string> CompleteTextFiles(cFiles& files, const std::string& applicationPath,
-                                           const cDeliveredTexts& delivered) {
+                                           const cDeliveredTexts& delivered, const cTexts& texts) {
     std::vector<std::string> names = files.ListFiles(applicationPath, std::string(kTextFile) + "???");
     std::sort(names.begin(), names.end());
     std::vector<std::string> lines;
@@ -45,8 +44,9 @@ std::vector<std::string> CompleteTextFiles(cFiles& files, const std::string& app
         std::string line;
         // What can't be read is told where it is needed.
         if (IsNumeric(language)) {
-            SkipFailure(
-                [&] { line = CompleteFile(files, applicationPath + name, name, delivered.Of(language)); });
+            SkipFailure([&] {
+                line = CompleteFile(files, applicationPath + name, name, delivered.Of(language), texts);
+            });
         }
         if (!line.empty()) lines.push_back(line);
     }

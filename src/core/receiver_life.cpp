@@ -132,7 +132,7 @@ void cVigrelReceiverMain::DisplayIsLost() {
     if (m_Life.Ended()) return;
     End();
     SaveTheLast();
-    m_Log.WriteLog("The display is gone: the program ends");
+    m_Log.WriteLog(m_Texts.GetText(TextDisplayGone));
 }
 
 }  // namespace vigrel

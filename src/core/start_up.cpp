@@ -80,15 +80,14 @@ bool cVigrelReceiverMain::LoadLanguage() {
 
 void cVigrelReceiverMain::CompleteTexts() {
     for (const std::string& line :
-         CompleteTextFiles(m_Ports.files, m_ApplicationPath, m_Ports.deliveredTexts)) {
+         CompleteTextFiles(m_Ports.files, m_ApplicationPath, m_Ports.deliveredTexts, m_Texts)) {
         m_Log.WriteLog(line);
     }
 }
 
 void cVigrelReceiverMain::TellOfTexts() {
     if (m_Texts.Problem().empty()) return;
-    const std::string text =
-        "The texts can't be read, the program's own stand for them: " + m_Texts.Problem();
+    const std::string text = m_Texts.GetText(TextTextsUnreadable) + ": " + m_Texts.Problem();
     m_Log.WriteLog(WithPathsInCodePage(text));
     m_Ports.status.SetStatus(text);
 }
@@ -127,7 +126,7 @@ bool cVigrelReceiverMain::IsOnlyInstance() {
 
 void cVigrelReceiverMain::TellOfMissingLock(const std::string& problem) {
     if (problem.empty()) return;
-    const std::string text = "The folder is not locked, a second station on it would not notice: " + problem;
+    const std::string text = m_Texts.GetText(TextFolderNotLocked) + ": " + problem;
     m_Log.WriteLog(WithPathsInCodePage(text));
     m_Ports.status.SetStatus(text);
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "common/date_text.h"
+#include "common/text_ids.h"
 
 namespace vigrel {
 
@@ -11,14 +12,17 @@ std::string cStationStatus::Line() const {
     const auto notAcknowledged =
         std::count_if(store.m_Alarms.begin(), store.m_Alarms.end(),
                       [](const AlarmPtr& alarm) { return alarm->m_Observed == False16; });
-    std::string line = "Listening on port " + m_Port + "; alarms: " + std::to_string(store.m_Alarms.size()) +
-                       ", not acknowledged: " + std::to_string(notAcknowledged);
+    const cTexts& texts = m_Services.texts;
+    std::string line = texts.GetText(TextStatusPort) + " " + m_Port + "; " + texts.GetText(TextStatusAlarms) +
+                       ": " + std::to_string(store.m_Alarms.size()) + ", " +
+                       texts.GetText(TextStatusNotAcknowledged) + ": " + std::to_string(notAcknowledged);
     if (store.UnsavedCount() > 0) {
-        line += "; NOT ON DISK: " + std::to_string(store.UnsavedCount()) + " since " +
-                DateTimeText(store.UnsavedSince()) + " (" + store.UnsavedReason() + ")";
+        line += "; " + texts.GetText(TextUnsaved) + " " + std::to_string(store.UnsavedCount()) + ", " +
+                texts.GetText(TextUnsavedSince) + " " + DateTimeText(store.UnsavedSince()) + " (" +
+                store.UnsavedReason() + ")";
     }
     const std::string printer = m_Services.printerPorts.Problem();
-    if (!printer.empty()) line += "; printer " + printer;
+    if (!printer.empty()) line += "; " + texts.GetText(TextStatusPrinter) + " " + printer;
     return line;
 }
 

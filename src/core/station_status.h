@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "common/texts.h"
 #include "events/alarm_store.h"
 #include "platform/service_manager.h"
 #include "platform/suite_library.h"
@@ -9,11 +10,12 @@
 namespace vigrel {
 
 // The station's state in one line, for whoever asks the service manager after it: where it listens, how many
-// alarms it has, and what is wrong. In English, as all that is for those who look after the machine.
+// alarms it has, and what is wrong.
 class cStationStatus {
   public:
     struct cServices {
         const cAlarmStore& store;
+        const cTexts& texts;
         const cPrinterPorts& printerPorts;
         cServiceManager& serviceManager;
     };

@@ -25,8 +25,8 @@ cVigrelReceiverMain::cVigrelReceiverMain(const cReceiverPorts& ports, std::strin
       m_Log(ports.files, ports.clock, m_Texts, m_ApplicationPath),
       m_AlarmMaker(ports.clock, m_Categories),
       m_View({ports.list, m_Ini, m_Texts, m_Settings, m_State, m_Forms, ports.screen, ports.clipboard}),
-      m_Store({ports.files, ports.ownFiles, ports.clock, ports.random, m_Log, m_Settings, m_Categories,
-               ports.timerSave},
+      m_Store({ports.files, ports.ownFiles, ports.clock, ports.random, m_Log, m_Texts, m_Settings,
+               m_Categories, ports.timerSave},
               m_ApplicationPath),
       m_Alarms({m_Store, m_View, ports.list, m_Log, m_Texts, m_Settings, m_State}),
       m_Acknowledgement({m_Store, m_View, ports.list, m_Log, m_Texts, m_Settings, m_State}),
@@ -59,7 +59,7 @@ cVigrelReceiverMain::cVigrelReceiverMain(const cReceiverPorts& ports, std::strin
                  [this](std::string_view reply) { m_Link.SendReply(reply); }}),
       m_Link(ports.winsockConnect, ports.winsockData, m_State),
       m_UnsavedNotice({m_Store, m_Texts, m_Settings, m_Forms, ports.clock, ports.otherWindows, ports.status}),
-      m_StationStatus({m_Store, ports.printerPorts, ports.serviceManager}) {
+      m_StationStatus({m_Store, m_Texts, ports.printerPorts, ports.serviceManager}) {
     ConnectEvents();
 }
 
@@ -140,7 +140,7 @@ void cVigrelReceiverMain::HideWhenMinimised() {
         return;
     }
     // Hidden where no icon can bring it back, the window would be lost to the operator.
-    if (!m_ToldOfMissingTray) m_Log.WriteLog("No notification area: the minimised window is not hidden");
+    if (!m_ToldOfMissingTray) m_Log.WriteLog(m_Texts.GetText(TextNoTray));
     m_ToldOfMissingTray = true;
 }
 
@@ -148,7 +148,7 @@ void cVigrelReceiverMain::HideWhenMinimised() {
 void cVigrelReceiverMain::ShowWithoutTray() {
     cWindow& window = m_Ports.mainWindow;
     if (window.Visible()) return;
-    m_Log.WriteLog("The notification area is gone: the hidden window is shown");
+    m_Log.WriteLog(m_Texts.GetText(TextTrayGone));
     window.SetState(eWindowState::Normal);
     window.Show();
 }

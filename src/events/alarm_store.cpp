@@ -9,6 +9,7 @@
 #include "common/numbers.h"
 #include "common/path_text.h"
 #include "common/text.h"
+#include "common/text_ids.h"
 #include "events/alarm_maker.h"
 #include "events/insertion_order.h"
 
@@ -200,7 +201,7 @@ std::optional<std::int32_t> cAlarmStore::FileIdOf(const std::string& name) {
     SkipFailure([&] { fileId = ToInt32(Val(digits)); });
     // 9e00009 is numeric too; a file that nobody can have meant as an alarm must not keep the rest away.
     if (!fileId) {
-        m_Services.log.WriteLog("Alarms\\" + name + " is no alarm file: its number is out of range");
+        m_Services.log.WriteLog("Alarms\\" + name + " " + m_Services.texts.GetText(TextNoAlarmFile));
     }
     return fileId;
 }
@@ -272,8 +273,10 @@ void cAlarmStore::TellUnreadable(const std::vector<cFileReader::cUnreadable>& un
         if (!IsNumeric(name.substr(1, 7)) || ++count > kMostNamed) continue;
         list += (list.empty() ? " " : ", ") + name + " (" + reason + ")";
     }
-    if (count > kMostNamed) list += " and " + std::to_string(count - kMostNamed) + " more";
-    if (count > 0) m_Services.log.WriteLog(std::to_string(count) + " alarm file(s) can't be read:" + list);
+    if (count > kMostNamed) list += "... (+" + std::to_string(count - kMostNamed) + ")";
+    if (count > 0)
+        m_Services.log.WriteLog(std::to_string(count) + " " +
+                                m_Services.texts.GetText(TextAlarmFilesUnreadable) + list);
 }
 
 std::int32_t cAlarmStore::LoadAlarms() {
@@ -285,7 +288,8 @@ std::int32_t cAlarmStore::LoadAlarms() {
     cFileReader::cListing listing = m_Services.files.List(m_Folder, kMask);
     m_FolderProblem = std::move(listing.problem);
     if (!m_FolderProblem.empty()) {
-        m_Services.log.WriteLog("The stored alarms can't be listed: " + WithPathsInCodePage(m_FolderProblem));
+        m_Services.log.WriteLog(m_Services.texts.GetText(TextFolderUnreadable) + " (" +
+                                WithPathsInCodePage(m_FolderProblem) + ")");
     }
     TellUnreadable(listing.unreadable);
     std::vector<AlarmPtr> alarms;

@@ -12,6 +12,7 @@
 #include "categories/category_specific_setting.h"
 #include "common/log.h"
 #include "common/settings.h"
+#include "common/texts.h"
 #include "events/pending_saves.h"
 #include "events/vigrel_reciever_alarm.h"
 #include "platform/files.h"
@@ -30,6 +31,7 @@ class cAlarmStore {
         const cClock& clock;
         cRandom& random;
         cLog& log;
+        const cTexts& texts;
         const cSettings& settings;
         const cCategorySettings& categories;
         cTimer& timerSave;  // runs while files of many alarms wait to be written

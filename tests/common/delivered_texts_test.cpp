@@ -52,9 +52,13 @@ class TextFiles : public ::testing::Test {
   protected:
     TextFiles() {
         files.Put(kFolder + "VigrelReceiver.INI", "[General]\r\nLanguage=046\r\n");
-        delivered.Add("046", std::string(kDelivered));
+        // With the words of the lines that tell of it.
+        delivered.Add("046", std::string(kDelivered) + "11000=added\r\n11001=not added\r\n");
     }
-    std::vector<std::string> Complete() { return CompleteTextFiles(files, kFolder, delivered); }
+    std::vector<std::string> Complete() {
+        texts.LoadTexts();
+        return CompleteTextFiles(files, kFolder, delivered, texts);
+    }
     cFakeFiles files;
     cIni ini{files, kFolder};
     cDeliveredTexts delivered;
@@ -62,22 +66,22 @@ class TextFiles : public ::testing::Test {
 };
 
 TEST_F(TextFiles, AreCompletedOnceAndToldInALine) {
-    files.Put(kFile, "10011=mine");
-    EXPECT_EQ(Complete(),
-              std::vector<std::string>{"Vigrel_Texts.046: 2 missing text(s) added: 10049, 10050"});
-    EXPECT_EQ(files.ReadFile(kFile), "10011=mine\r\n10049=larm\r\n10050=sedan\r\n");
+    files.Put(kFile, "11000=added\r\n10011=mine");
+    EXPECT_EQ(Complete(), std::vector<std::string>{"Vigrel_Texts.046: 3 added: 10049, 10050, 11001"});
+    EXPECT_EQ(files.ReadFile(kFile),
+              "11000=added\r\n10011=mine\r\n10049=larm\r\n10050=sedan\r\n11001=not added\r\n");
     const int calls = files.m_Calls;
-    EXPECT_TRUE(Complete().empty());
+    EXPECT_TRUE(CompleteTextFiles(files, kFolder, delivered, texts).empty());
     EXPECT_EQ(files.m_Calls, calls);
 }
 
 TEST_F(TextFiles, ThatCannotBeWrittenAreToldAndTheTextsAreThereAllTheSame) {
-    files.Put(kFile, "10011=mine");
+    files.Put(kFile, "11000=added\r\n10011=mine");
     files.m_DiskFull = true;
     const auto lines = Complete();
     ASSERT_EQ(lines.size(), 1u);
-    EXPECT_TRUE(lines[0].starts_with("Vigrel_Texts.046 lacks 2 text(s), which can't be added: ")) << lines[0];
-    EXPECT_EQ(files.ReadFile(kFile), "10011=mine");
+    EXPECT_TRUE(lines[0].starts_with("Vigrel_Texts.046: 3 not added: ")) << lines[0];
+    EXPECT_EQ(files.ReadFile(kFile), "11000=added\r\n10011=mine");
     EXPECT_TRUE(texts.LoadTexts());
     EXPECT_EQ(texts.GetText(10011), "mine");
     EXPECT_EQ(texts.GetText(10050), "sedan");

@@ -339,8 +339,7 @@ TEST_F(StartUp, LeftoverTemporariesOfLinkedFilesAreCleared) {
 TEST_F(StartUp, AFolderThatCannotBeLockedIsToldAndTheStartGoesOn) {
     singleInstance.m_Problem = "C:\\App\\x.lock: no locks";
     EXPECT_EQ(Load(), eStartUp::Running);
-    const std::string line =
-        "The folder is not locked, a second station on it would not notice: C:\\App\\x.lock: no locks";
+    const std::string line = "T11003: C:\\App\\x.lock: no locks";
     EXPECT_EQ(status.m_Texts, std::vector<std::string>{line});
     EXPECT_NE(Log().find(line + "\n"), std::string::npos);
 }

@@ -26,7 +26,7 @@ TEST_F(StationStatus, TheStartIsOverWhenThePortIsOpen) {
     EXPECT_EQ(Told(), cLines{"stopping"});
     listener.m_PortInUse = false;
     Start();
-    EXPECT_EQ(Told(), (cLines{"Listening on port 12412; alarms: 0, not acknowledged: 0", "ready"}));
+    EXPECT_EQ(Told(), (cLines{"T11009 12412; T11010: 0, T11011: 0", "ready"}));
 }
 
 TEST_F(StationStatus, ItCountsAlarmsAndThoseThatNobodyHasAcknowledged) {
@@ -36,11 +36,11 @@ TEST_F(StationStatus, ItCountsAlarmsAndThoseThatNobodyHasAcknowledged) {
     Send(3);
     Told();
     timerKeepAlive.Tick();
-    EXPECT_EQ(Told(), cLines{"Listening on port 192.168.1.10 12412; alarms: 3, not acknowledged: 3"});
+    EXPECT_EQ(Told(), cLines{"T11009 192.168.1.10 12412; T11010: 3, T11011: 3"});
     receiver->Menu_AckAll();
     Send();
     timerKeepAlive.Tick();
-    EXPECT_EQ(Told(), cLines{"Listening on port 192.168.1.10 12412; alarms: 4, not acknowledged: 1"});
+    EXPECT_EQ(Told(), cLines{"T11009 192.168.1.10 12412; T11010: 4, T11011: 1"});
 }
 
 TEST_F(StationStatus, WhatIsAsItWasIsNotToldAgain) {
@@ -57,10 +57,10 @@ TEST_F(StationStatus, AlarmsThatAreNotOnDiskAreToldWithTheirTimeAndTheReasonUnti
     Send(2);
     Told();
     timerKeepAlive.Tick();
-    const std::string normal = "Listening on port 12412; alarms: 2, not acknowledged: 2";
+    const std::string normal = "T11009 12412; T11010: 2, T11011: 2";
     const cLines told = Told();
     ASSERT_EQ(told.size(), 1u);
-    EXPECT_EQ(told[0].substr(0, normal.size() + 42), normal + "; NOT ON DISK: 2 since 2026-03-15 12:30:15");
+    EXPECT_EQ(told[0].substr(0, normal.size() + 38), normal + "; T10049 2, T10050 2026-03-15 12:30:15");
     EXPECT_NE(told[0].find(".alm"), std::string::npos) << told[0];
     files.m_DiskFull = false;
     timerKeepAlive.Tick();
@@ -72,10 +72,7 @@ TEST_F(StationStatus, APrinterThatFailsIsTold) {
     Told();
     printerPorts.m_Problem = "port 1: /dev/lp0: no paper";
     timerKeepAlive.Tick();
-    EXPECT_EQ(
-        Told(),
-        cLines{
-            "Listening on port 12412; alarms: 0, not acknowledged: 0; printer port 1: /dev/lp0: no paper"});
+    EXPECT_EQ(Told(), cLines{"T11009 12412; T11010: 0, T11011: 0; T11012 port 1: /dev/lp0: no paper"});
 }
 
 TEST_F(StationStatus, TheEndIsToldWhenItBegins) {

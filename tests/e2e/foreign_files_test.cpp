@@ -11,6 +11,7 @@
 #include <fstream>
 #include <thread>
 
+#include "common/code_page.h"
 #include "e2e/station.h"
 
 namespace vigrel::testing {
@@ -70,8 +71,7 @@ TEST(UnlistedAlarms, AreToldAndTheStationRuns) {
     const std::string alarms = (station.Folder() / "Alarms").string();
     fs::create_directory_symlink("a disk that is not there", alarms);
     ASSERT_TRUE(station.Start()) << station.StandardError();
-    EXPECT_TRUE(
-        station.WaitForLog("The stored alarms can't be listed: " + alarms + "/: No such file or directory"));
+    EXPECT_TRUE(station.WaitForLog("T10053 (" + alarms + "/: No such file or directory)"));
     const std::string line = "vigrel-receiver: T10053 (" + alarms + "/: No such file or directory)\n";
     for (int i = 0; i < 100 && station.StandardError() != line; ++i)
         std::this_thread::sleep_for(std::chrono::milliseconds(100));
@@ -85,8 +85,7 @@ TEST(Lock, OneThatCannotBeTakenIsToldAndTheStationRuns) {
     const std::string lock = (station.Folder() / "VigrelReceiver.lock").string();
     fs::create_directory(lock);
     ASSERT_TRUE(station.Start()) << station.StandardError();
-    const std::string line =
-        "The folder is not locked, a second station on it would not notice: " + lock + ": Is a directory";
+    const std::string line = "T11003: " + lock + ": Is a directory";
     EXPECT_TRUE(station.WaitForLog(line));
     EXPECT_EQ(station.StandardError(), "vigrel-receiver: " + line + "\n");
     EXPECT_EQ(station.Stop(SIGTERM), 0);
@@ -114,7 +113,7 @@ TEST_F(ForeignTexts, AreCompletedAndNotOverwritten) {
         return line.starts_with("Vigrel_Texts.046: ");
     });
     ASSERT_NE(told, log.end());
-    EXPECT_NE(told->find(" missing text(s) added: 10000, 10004, "), std::string::npos) << *told;
+    EXPECT_NE(told->find(" saknade texter tillagda: 10000, 10004, "), std::string::npos) << *told;
     EXPECT_EQ(station.Stop(SIGTERM), 0);
     EXPECT_TRUE(station.Start());
     EXPECT_EQ(ReadAll(File()), content);
@@ -124,13 +123,14 @@ TEST_F(ForeignTexts, AreCompletedAndNotOverwritten) {
 TEST_F(ForeignTexts, ThatCannotBeReadAreStoodForByTheProgramsOwn) {
     fs::resize_file(File(), std::uintmax_t{65} << 20);
     station.Launch();
-    const std::string line = "The texts can't be read, the program's own stand for them: " +
-                             (station.Folder() / "Vigrel_Texts.046").string() + ": larger than 64 MB";
+    const std::string problem = ", programmets egna anv\u00E4nds i st\u00E4llet: " +
+                                (station.Folder() / "Vigrel_Texts.046").string() + ": larger than 64 MB";
+    const std::string line = "Texterna kan inte l\u00E4sas" + problem;
     EXPECT_TRUE(TakesAnAlarm(station)) << station.StandardError();
     const auto log = station.Log();
     ASSERT_GE(log.size(), 3u);
     EXPECT_EQ(log[1], "Programmet startar");
-    EXPECT_EQ(log[2], line);
+    EXPECT_EQ(log[2], Utf8ToCodePage(line));
     EXPECT_EQ(station.StandardError(), "vigrel-receiver: " + line + "\n");
     EXPECT_EQ(station.Stop(SIGTERM), 0);
 }

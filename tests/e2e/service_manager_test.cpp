@@ -68,10 +68,10 @@ TEST(ServiceManager, HearsOfStartStateAndEnd) {
     ASSERT_TRUE(station.Start()) << station.StandardError();
     const std::string port = std::to_string(station.m_Port);
     EXPECT_EQ(manager.Hear(std::chrono::milliseconds(500)),
-              (cLines{"STATUS=Listening on port " + port + "; alarms: 0, not acknowledged: 0", "READY=1"}));
+              (cLines{"STATUS=T11009 " + port + "; T11010: 0, T11011: 0", "READY=1"}));
     EXPECT_EQ(station.Send({"--t0", "alarm"}).exitCode, 0);
     EXPECT_EQ(manager.Hear(std::chrono::seconds(12)),
-              cLines{"STATUS=Listening on port " + port + "; alarms: 1, not acknowledged: 1"});
+              cLines{"STATUS=T11009 " + port + "; T11010: 1, T11011: 1"});
     EXPECT_EQ(station.Stop(SIGTERM), 0);
     EXPECT_EQ(manager.Hear(std::chrono::milliseconds(100)), cLines{"STOPPING=1"});
 }

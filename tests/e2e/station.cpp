@@ -87,6 +87,7 @@ cStation::cStation() : m_Port(FreePort()), m_Folder(std::make_shared<cTemporaryF
     std::string texts;
     for (int id = 1; id < 1100; ++id) texts += std::to_string(id) + "=T" + std::to_string(id) + "\r\n";
     for (int id = 10000; id < 10060; ++id) texts += std::to_string(id) + "=T" + std::to_string(id) + "\r\n";
+    for (int id = 11000; id < 11020; ++id) texts += std::to_string(id) + "=T" + std::to_string(id) + "\r\n";
     std::ofstream(Folder() / "Vigrel_Texts.046", std::ios::binary) << "0=Test\r\n" << texts;
 }
 

@@ -20,7 +20,7 @@ class AlarmStore : public ::testing::Test, public cFakeStation {
   protected:
     AlarmStore() {
         view.SetUpColumns(settings);
-        LoadTexts({10036, 10041});
+        LoadTexts({10036, 10041, 10053, 11004, 11005});
     }
     // A stored alarm of the given age in days.
     std::string PutFile(std::int32_t id, double ageDays, const std::string& sender = "S") {
@@ -144,7 +144,7 @@ TEST_F(AlarmStore, LoadingGivesWhatInsertingOneByOneGives) {
             alarm->ReadFromDisk(file);
             if (!inserting.store.InsertAlarm(alarm, most)) ++removed;
         }
-        loading.LoadTexts({10036, 10041});
+        loading.LoadTexts({10036, 10041, 10053, 11004, 11005});
         loading.listed.LoadAlarms();
         const auto ids = [](const cFakeStation& station) {
             std::string text;
@@ -552,7 +552,7 @@ TEST_F(AlarmStore, ANumberOutOfRangeIsLoggedLeftAloneAndKeepsNoOtherAlarmAway) {
     PutFile(1, 1);
     Load();
     EXPECT_EQ(store.m_Alarms.size(), 1u);
-    EXPECT_EQ(Log(), "Alarms\\A9e00009.alm is no alarm file: its number is out of range\n1 T10041\n");
+    EXPECT_EQ(Log(), "Alarms\\A9e00009.alm T11005\n1 T10041\n");
     EXPECT_TRUE(files.FileExists(std::string(kApp) + "Alarms\\A9e00009.alm"));
 }
 
@@ -620,10 +620,9 @@ TEST_F(AlarmStore, WhatIsKnownNotToBeReadableIsLeftOutAndNamedOnce) {
                                                           {"Areports.alm", "no alarm"}};
     Load();
     EXPECT_EQ(Senders(), "ac");
-    EXPECT_EQ(
-        Log(),
-        "2 alarm file(s) can't be read: A0000002.alm (Permission denied), A0000004.ALM (no ordinary file)\n"
-        "2 T10041\n");
+    EXPECT_EQ(Log(),
+              "2 T11004 A0000002.alm (Permission denied), A0000004.ALM (no ordinary file)\n"
+              "2 T10041\n");
 }
 
 TEST_F(AlarmStore, AnyNumberOfFilesThatCannotBeReadTakesOneLine) {
@@ -632,8 +631,8 @@ TEST_F(AlarmStore, AnyNumberOfFilesThatCannotBeReadTakesOneLine) {
         unreadable.push_back({"A" + std::to_string(id) + ".alm", "x"});
     Load();
     const std::string line = SplitLines(Log()).front();
-    EXPECT_TRUE(line.starts_with("500 alarm file(s) can't be read: A1000001.alm (x), ")) << line;
-    EXPECT_TRUE(line.ends_with(", A1000020.alm (x) and 480 more")) << line;
+    EXPECT_TRUE(line.starts_with("500 T11004 A1000001.alm (x), ")) << line;
+    EXPECT_TRUE(line.ends_with(", A1000020.alm (x)... (+480)")) << line;
 }
 
 TEST_F(AlarmStore, AFolderThatCannotBeListedIsNotTakenForAnEmptyOne) {
@@ -643,8 +642,7 @@ TEST_F(AlarmStore, AFolderThatCannotBeListedIsNotTakenForAnEmptyOne) {
     files.m_FolderProblems[std::string(kApp) + "Alarms\\"] = "/app/Alarms/: Permission denied";
     Load();
     EXPECT_EQ(store.FolderProblem(), "/app/Alarms/: Permission denied");
-    EXPECT_TRUE(
-        Log().ends_with("The stored alarms can't be listed: /app/Alarms/: Permission denied\n0 T10041\n"));
+    EXPECT_TRUE(Log().ends_with("T10053 (/app/Alarms/: Permission denied)\n0 T10041\n"));
     files.m_FolderProblems.clear();
     EXPECT_EQ(AlarmFiles().size(), 1u);
 }

@@ -58,20 +58,16 @@ TEST_P(LogForms, KnowEveryLineOfTheDeliveredTexts) {
     }
 }
 
-TEST_P(LogForms, KnowWhatAStationSaysInEnglishOnly) {
-    for (const char* text :
-         {"No notification area: the minimised window is not hidden",
-          "The notification area is gone: the hidden window is shown",
-          "The display is gone: the program ends",
-          "The texts can't be read, the program's own stand for them: Vigrel_Texts.046: Permission denied",
-          "The folder is not locked, a second station on it would not notice: /app: Permission denied",
-          "The stored alarms can't be listed: /app/Alarms: Permission denied",
-          "Alarms\\A0000x.alm is no alarm file: its number is out of range",
-          "Vigrel_Texts.046: 2 missing text(s) added: 10052, 10053",
-          "7 alarm file(s) can't be read: A0000001 A0000002"}) {
+TEST_P(LogForms, KnowWhatAStationSaysOfItsSurroundings) {
+    for (const std::string& text :
+         {m_Texts[11006], m_Texts[11007], m_Texts[11008],
+          m_Texts[11002] + ": Vigrel_Texts.046: Permission denied",
+          m_Texts[11003] + ": /app: Permission denied", m_Texts[10053] + " (/app/Alarms: Permission denied)",
+          "Alarms\\A0000x.alm " + m_Texts[11005], "Vigrel_Texts.046: 2 " + m_Texts[11000] + ": 10052, 10053",
+          "7 " + m_Texts[11004] + " A0000001 A0000002"}) {
         EXPECT_EQ(Read(text).kind, eLine::Known) << text;
     }
-    EXPECT_EQ(Read("some alarm file(s) can't be read: x").kind, eLine::Unknown);
+    EXPECT_EQ(Read("some " + m_Texts[11004] + " x").kind, eLine::Unknown);
     EXPECT_EQ(Read("Alarms\\A0000001.alm").kind, eLine::Unknown);
 }
 

@@ -79,7 +79,7 @@ class cFakeReceiver {
     // A text file "<id>=T<id>".
     void Texts(const std::string& language) {
         std::string content;
-        for (const auto& [first, last] : {std::pair{0, 1100}, {10000, 10060}}) {
+        for (const auto& [first, last] : {std::pair{0, 1100}, {10000, 10060}, {11000, 11020}}) {
             for (int id = first; id < last; ++id)
                 content += std::to_string(id) + "=T" + std::to_string(id) + "\r\n";
         }

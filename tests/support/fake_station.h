@@ -95,7 +95,7 @@ class cFakeStation {
     cAlarmMaker maker{clock, categories};
     cAlarmListView view{{list, ini, texts, settings, state, forms, screen, clipboard}};
     cFakeTimer timerSave{10};
-    cAlarmStore store{{files, files, clock, random, log, settings, categories, timerSave}, kApp};
+    cAlarmStore store{{files, files, clock, random, log, texts, settings, categories, timerSave}, kApp};
     cListedAlarms listed{{store, view, list, log, texts, settings, state}};
     cAcknowledgement acknowledgement{{store, view, list, log, texts, settings, state}};
 };

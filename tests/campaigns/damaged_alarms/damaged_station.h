@@ -74,7 +74,7 @@ class cDamagedStation {
     cAlarmMaker maker{clock, categories};
     cAlarmListView view{{list, ini, texts, settings, state, forms, screen, clipboard}};
     testing::cFakeTimer timerSave{10};
-    cAlarmStore store{{files, files, clock, random, log, settings, categories, timerSave}, path};
+    cAlarmStore store{{files, files, clock, random, log, texts, settings, categories, timerSave}, path};
     cListedAlarms listed{{store, view, list, log, texts, settings, state}};
     cAcknowledgement acknowledgement{{store, view, list, log, texts, settings, state}};
 

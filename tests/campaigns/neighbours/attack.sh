@@ -92,7 +92,7 @@ make_station() {
     mkdir -p "$folder/LogFiles" "$folder/Alarms"
     {
         printf '0=Test\r\n'
-        for id in $(seq 10000 10050) 141 208; do printf '%s=T%s\r\n' "$id" "$id"; done
+        for id in $(seq 10000 10060) $(seq 11000 11020) 141 208; do printf '%s=T%s\r\n' "$id" "$id"; done
     } >"$folder/Vigrel_Texts.046"
     printf '[General]\r\nLanguage=046\r\n[TCPIP]\r\nPort=%s\r\n' "$port" >"$folder/VigrelReceiver.INI"
     own "$folder"
@@ -173,7 +173,7 @@ attack_alarms() {
     for kind in $kinds; do plant "$kind" "$folder/Alarms/A000000$((++number)).alm"; done
     launch
     lives "foreign alarms"
-    check "they are counted and named once" log_says "$number alarm file(s) can't be read: A000000"
+    check "they are counted and named once" log_says "$number T11004 A000000"
     check "the readable one is loaded" log_says "1 T10041"
     check "vigrel-receiver-check tells each" gives 2 "$programs/vigrel-receiver-check" --files-only "$folder"
     check "as what the station leaves out" [ "$(grep -c '\[alarm-unreadable\]' "$work/output")" = $number ]

@@ -111,9 +111,18 @@ bool IsCount(const cLogPhrases& phrases, std::string_view text) {
     return text.size() > kDots.size() && WholeNumber(text.substr(kDots.size()));
 }
 
+// What a station meets in its surroundings.
+bool IsNotice(const cLogPhrases& phrases, std::string_view text) {
+    const auto begins = [&](const std::string& notice) { return Begins(text, notice); };
+    if (std::any_of(phrases.notices.begin(), phrases.notices.end(), begins)) return true;
+    if (text.starts_with("Alarms\\")) return Ends(text, phrases.noAlarmFile);
+    const std::size_t count = Find(text, phrases.unreadable);
+    return count != std::string_view::npos && WholeNumber(text.substr(0, count));
+}
+
 bool IsOther(const cLogPhrases& phrases, std::string_view text) {
-    return IsCount(phrases, text) || Begins(text, phrases.port) || Begins(text, phrases.light) ||
-           Begins(text, phrases.lightLibrary) || Begins(text, phrases.deleted);
+    return IsCount(phrases, text) || IsNotice(phrases, text) || Begins(text, phrases.port) ||
+           Begins(text, phrases.light) || Begins(text, phrases.lightLibrary) || Begins(text, phrases.deleted);
 }
 
 cLogLine ReadBy(const cLogPhrases& phrases, std::string_view text) {
@@ -122,22 +131,6 @@ cLogLine ReadBy(const cLogPhrases& phrases, std::string_view text) {
         if (const cLogLine line = read(phrases, text); line.kind != eLine::Unknown) return line;
     }
     return {IsOther(phrases, text) ? eLine::Known : eLine::Unknown, {}, {}, 0};
-}
-
-// What a station says of itself in English, whatever its language.
-bool IsNotice(std::string_view text) {
-    constexpr std::array<std::string_view, 7> kBeginnings = {"No notification area: ",
-                                                             "The notification area is gone: ",
-                                                             "The display is gone: ",
-                                                             "The texts can't be read, ",
-                                                             "The folder is not locked, ",
-                                                             "The stored alarms can't be listed: ",
-                                                             "Vigrel_Texts."};
-    const auto begins = [&](std::string_view beginning) { return text.starts_with(beginning); };
-    if (std::any_of(kBeginnings.begin(), kBeginnings.end(), begins)) return true;
-    if (text.starts_with("Alarms\\")) return text.find(" is no alarm file: ") != std::string_view::npos;
-    const std::size_t count = text.find(" alarm file(s) can't be read:");
-    return count != std::string_view::npos && WholeNumber(text.substr(0, count));
 }
 
 // The line with which every start begins.
@@ -176,6 +169,10 @@ cLogPhrases PhrasesOf(const cTexts& texts) {
     p.moreAlike = text(TextMoreAlike, " ");
     p.supervised = text(TextSupervised, " - ", " ");
     p.minutes = text(TextMinutes, " ");
+    p.notices = {text(TextTextsUnreadable), text(TextFolderNotLocked), text(TextFolderUnreadable),
+                 text(TextNoTray),          text(TextTrayGone),        text(TextDisplayGone)};
+    p.noAlarmFile = text(TextNoAlarmFile, " ");
+    p.unreadable = text(TextAlarmFilesUnreadable, " ", " ");
     p.lost = text(TextSenderLost, " - ", " ");
     p.neverHeard = text(TextSenderNeverHeard, " - ");
     return p;
@@ -192,7 +189,7 @@ cLogLine cLogForms::Read(std::string_view text) {
         m_Last = language;
         return line;
     }
-    return {IsNotice(text) ? eLine::Known : eLine::Unknown, {}, {}, 0};
+    return {text.starts_with(kTextFile) ? eLine::Known : eLine::Unknown, {}, {}, 0};
 }
 
 std::string_view cLogForms::LostSender(std::string_view text) const {

@@ -46,6 +46,9 @@ struct cLogPhrases {
     std::string alarm, message;                                                      // behind the sender
     std::string keepAlive, unknownSender, removed, loaded, unsupervised, moreAlike;  // at the end
     std::string supervised, minutes;                                                 // around the minutes
+    std::vector<std::string> notices;                                                // at the beginning
+    std::string noAlarmFile;                                                         // at the end
+    std::string unreadable;                                                          // behind a number
     std::string lost, neverHeard;  // behind the name in the text of an alarm about a sender
 };
 cLogPhrases PhrasesOf(const cTexts& texts);
