@@ -100,7 +100,14 @@ char FromUnicode(char32_t codePoint) {
 std::string CodePageToUtf8(std::string_view text) {
     std::string out;
     out.reserve(text.size());
-    for (const char character : text) AppendUtf8(out, ToUnicode(character));
+    while (!text.empty()) {
+        const auto same = std::find_if(text.begin(), text.end(), [](unsigned char c) { return c >= 0x80; });
+        out.append(text.begin(), same);
+        text.remove_prefix(static_cast<std::size_t>(same - text.begin()));
+        if (text.empty()) break;
+        AppendUtf8(out, ToUnicode(text[0]));
+        text.remove_prefix(1);
+    }
     return out;
 }
 

@@ -27,8 +27,9 @@ class cFileReader {
     virtual ~cFileReader() = default;
     virtual bool FileExists(std::string_view path) const = 0;  // a regular file; false on any failure
     virtual std::string ReadFile(std::string_view path) const = 0;
-    // Reads many files of a folder (with its separator) and hands on each content, in the order of the names,
-    // as ReadFile gives it; a failure of one ends it. take gets the index of the name.
+    // Reads many files of a folder (with its separator), by the names that its listing gave, and hands on
+    // each content, in the order of the names, as ReadFile gives it; a failure of one ends it. take gets the
+    // index of the name.
     using TakeContent = std::function<void(std::size_t index, std::string content)>;
     virtual void ReadFiles(const std::string& folder, const std::vector<std::string>& names,
                            const TakeContent& take) const {
@@ -54,6 +55,9 @@ class cFileReader {
         std::string problem;
     };
     virtual cListing List(std::string_view folder, std::string_view mask) const = 0;
+    // All of those names in one row, whatever can be read of them, for who tells of each file as it is read:
+    // that costs no look at any. Throws when the folder can't be listed.
+    virtual std::vector<std::string> ListNames(std::string_view folder, std::string_view mask) const = 0;
     // The path as it is spelled on the disk; as it is given where nothing of that name is there.
     virtual std::string Spelling(std::string_view path) const = 0;
 

@@ -25,8 +25,11 @@ void cCsvLine::CellOfUtf8(std::string_view utf8) {
 void cCsvLine::Add(std::string_view text, std::string_view shown) {
     m_Line += m_Line.empty() ? "\"" : ",\"";
     if (!m_Exact && LooksLikeFormula(text)) m_Line += '\'';
-    for (const char c : shown) m_Line.append(c == '"' ? 2 : 1, c);
-    m_Line += '"';
+    for (std::size_t quote = shown.find('"'); quote != std::string_view::npos; quote = shown.find('"')) {
+        m_Line.append(shown.substr(0, quote)).append("\"\"");
+        shown.remove_prefix(quote + 1);
+    }
+    m_Line.append(shown).append("\"");
 }
 
 }  // namespace vigrel

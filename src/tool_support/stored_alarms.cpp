@@ -82,10 +82,8 @@ Name ReadTogether(const cFileReader& files, const std::string& folder, Name firs
 }  // namespace
 
 std::vector<std::string> AlarmFileNames(const cFileReader& files, const std::string& alarmFolder) {
-    auto [names, unreadable, problem] = files.List(alarmFolder, kMask);
-    if (!problem.empty()) throw cFailure(eFailure::PathAccess, problem);
-    // Each is told as one that can't be read, in its turn.
-    for (const auto& [name, reason] : unreadable) names.push_back(name);
+    // What can't be read is told in its turn.
+    std::vector<std::string> names = files.ListNames(alarmFolder, kMask);
     std::erase_if(names, [](const std::string& name) { return !IsStoredName(name); });
     std::sort(names.begin(), names.end());
     return names;

@@ -77,12 +77,14 @@ TEST_F(ForeignFiles, WhatCannotBeReadOfAFolderIsListedWithTheReason) {
               "A0000003.alm: no ordinary file\n"
               "A0000004.alm: larger than 64 MB\n"
               "a0000005.ALM: No such file or directory\n");
+    EXPECT_EQ(m_Files.ListNames(m_Folder.Folder(), "A???????.Alm").size(), 6u);
 }
 
 TEST_F(ForeignFiles, AFolderThatCannotBeListedIsNoEmptyOne) {
     EXPECT_EQ(m_Files.List(Path("none\\"), "*").problem, "");
     Put("Alarms", "a file");
     EXPECT_EQ(m_Files.List(Path("Alarms\\"), "*").problem, Native("Alarms").string() + "/: Not a directory");
+    EXPECT_THROW(m_Files.ListNames(Path("Alarms\\"), "*"), cFailure);
     // Such as to a disk that is not there.
     fs::create_symlink("nowhere", Native("LogFiles"));
     EXPECT_EQ(m_Files.List(Path("LogFiles\\"), "*").problem,

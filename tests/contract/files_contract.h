@@ -104,6 +104,16 @@ TYPED_TEST_P(FilesContract, AMaskListsRegularFilesThatFit) {
 
 TYPED_TEST_P(FilesContract, AMissingFolderListsAsEmpty) {
     EXPECT_TRUE(this->Files().ListFiles(this->Path("none\\"), "*").empty());
+    EXPECT_TRUE(this->Files().ListNames(this->Path("none\\"), "*").empty());
+}
+
+TYPED_TEST_P(FilesContract, NamesAreListedAsTheFilesAre) {
+    for (const char* name : {"A0000001.alm", "A0000002.ALM", "other"}) {
+        this->Files().WriteFile(this->Path(name), "x", false);
+    }
+    auto names = this->Files().ListNames(this->m_Rig.Folder(), "A???????.alm");
+    std::sort(names.begin(), names.end());
+    EXPECT_EQ(names, (std::vector<std::string>{"A0000001.alm", "A0000002.ALM"}));
 }
 
 TYPED_TEST_P(FilesContract, AMissingFileFailsAsSuchAndNamesThePath) {
@@ -164,8 +174,8 @@ REGISTER_TYPED_TEST_SUITE_P(FilesContract, WhatIsWrittenIsReadInEveryByte, Appen
                             NamesAreFoundInAnyCaseInEveryPartOfThePath, ALongNameIsFoundInAnyCaseToo,
                             NamesKeepTheSpellingTheyWereMadeWith, NamesOutsideAsciiAreTheCodePages,
                             AMaskListsRegularFilesThatFit, AMissingFolderListsAsEmpty,
-                            AMissingFileFailsAsSuchAndNamesThePath, WritingIntoAMissingFolderFails,
-                            AFolderIsMadeOnce, ARenameReplacesItsTarget,
+                            NamesAreListedAsTheFilesAre, AMissingFileFailsAsSuchAndNamesThePath,
+                            WritingIntoAMissingFolderFails, AFolderIsMadeOnce, ARenameReplacesItsTarget,
                             TheStampChangesWithTheContentAndTellsAMissingFile, AStartedSyncComesToItsEnd);
 
 }  // namespace vigrel::testing

@@ -98,6 +98,13 @@ cFileReader::cListing cFakeFiles::List(std::string_view folder, std::string_view
     return listing;
 }
 
+std::vector<std::string> cFakeFiles::ListNames(std::string_view folder, std::string_view mask) const {
+    auto [names, unreadable, problem] = List(folder, mask);
+    if (!problem.empty()) throw cFailure(eFailure::PathAccess, problem);
+    for (cUnreadable& entry : unreadable) names.push_back(std::move(entry.name));
+    return names;
+}
+
 std::string cFakeFiles::Spelling(std::string_view path) const {
     const cFile* file = Find(path);
     return file == nullptr ? std::string(path) : file->path;

@@ -142,10 +142,13 @@ std::string cLinuxFiles::ReadFile(std::string_view path) const {
 
 void cLinuxFiles::ReadFiles(const std::string& folder, const std::vector<std::string>& names,
                             const TakeContent& take) const {
+    // Who has a folder's names has them as they are spelled there.
+    const cLinuxFiles exact(eNames::Exact);
+    const std::string there = m_Names == eNames::Exact ? folder : Spelling(folder);
     // Threads for a few files take longer than the files.
     constexpr std::size_t kFew = 500;
-    if (names.size() <= kFew) return cFiles::ReadFiles(folder, names, take);
-    ReadAhead(*this, folder, names, take);
+    if (names.size() <= kFew) return exact.cFiles::ReadFiles(there, names, take);
+    ReadAhead(exact, there, names, take);
 }
 
 std::vector<std::string> cLinuxFiles::ListFiles(std::string_view folder, std::string_view mask) const {
@@ -171,6 +174,13 @@ cFileReader::cListing cLinuxFiles::List(std::string_view folder, std::string_vie
     if (const auto failure = CatchFailure([&] { ForEachEntry(NativePath(folder), mask, take); }))
         listing.problem = failure->what();
     return listing;
+}
+
+std::vector<std::string> cLinuxFiles::ListNames(std::string_view folder, std::string_view mask) const {
+    std::vector<std::string> names;
+    const auto take = [&](int, const dirent&, std::string name) { names.push_back(std::move(name)); };
+    ForEachEntry(NativePath(folder), mask, take);
+    return names;
 }
 
 cFileReader::cStamp cLinuxFiles::Stamp(std::string_view path) const {

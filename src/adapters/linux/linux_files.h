@@ -21,6 +21,7 @@ class cLinuxFiles : public cFiles {
                    const TakeContent& take) const override;
     std::vector<std::string> ListFiles(std::string_view folder, std::string_view mask) const override;
     cListing List(std::string_view folder, std::string_view mask) const override;
+    std::vector<std::string> ListNames(std::string_view folder, std::string_view mask) const override;
     std::string Spelling(std::string_view path) const override;
     cStamp Stamp(std::string_view path) const override;
     void WriteFile(std::string_view path, std::string_view bytes, bool sync) override;
