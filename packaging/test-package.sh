@@ -12,7 +12,7 @@ packaging/test-package.sh [--no-build] [--keep]
 Builds the Debian package and the portable archive, makes a bare Debian 12 in a temporary folder, and there
   installs the package with apt, starts the station as an ordinary user without windows, sends it an alarm, ends it,
   starts it from its menu entry on a screen, sends, acknowledges, ends the session, and looks that all is back then,
-  upgrades, and looks that the user's files are as they were,
+  upgrades under a running station, and looks that the user's files are as they were, and new texts have come,
   removes the package, and looks that nothing is left,
   unpacks the archive beside a desktop's own libraries, and does the same with the station in it.
 
@@ -213,23 +213,47 @@ done
 use_station keeper "$folder" /usr/bin/
 
 echo "== upgrade"
+# As an installation of an earlier version has them: texts of the operator's own, and a file that lacks new ones.
+texts=$folder/Vigrel_Texts.044
 echo "; changed by the operator" >>"$(configuration "$folder")"
-echo "changed too" >"$folder/Vigrel_Texts.045"
-users_files() { (cd "$folder" && find . -type f -not -path './LogFiles/*' -print0 | sort -z | xargs -0 sha256sum); }
-before=$(users_files)
+LC_ALL=C sed -i -e 's/^10000=.*/10000=Harbour House alarms\r/' -e '/^1100[01]=/d' "$texts"
+own_texts=$(grep -v '^1100[01]=' "$texts")
+users_files() {
+    (cd "$folder" && find . -type f -not -path './LogFiles/*' -not -name "$(basename "$texts")" -not -name '*.lock' -print0 |
+        sort -z | xargs -0 sha256sum)
+}
 dpkg-deb -R "$deb" "$work/newer"
 version=$(sed -n 's/^Version: //p' "$work/newer/DEBIAN/control")
 sed -i "s/^Version: .*/Version: $version+1/" "$work/newer/DEBIAN/control"
 printf 'a newer text\n' >"$work/newer/usr/share/vigrel-receiver/Vigrel_Texts.045"
 dpkg-deb --root-owner-group -b "$work/newer" "$root/tmp/newer.deb" >/dev/null
+send_alarm() {
+    as_user keeper vigrel-send --port $port --sender PLC1 --t0 "$1" --t2 Technical
+}
+rm -f "$folder"/LogFiles/*
+start keeper vigrel-receiver
+check "the station runs" until_true log_says "$folder" "Port $port is open"
+check "it adds the texts that its file lacks, and says so" \
+    log_says "$folder" "Vigrel_Texts.044: 2 missing text(s) added: 11000, 11001"
+LC_ALL=C sed -i '/^1100[01]=/d' "$texts"  # once more, for the newer version
+before=$(users_files)
 inside "$root" apt-get install -q -y --no-install-recommends /tmp/newer.deb >"$work/apt" 2>&1 || { cat "$work/apt"; exit 1; }
 check "the newer version is installed" grep -q "^Version: $version+1$" <(inside "$root" dpkg -s vigrel-receiver)
+check "the station runs on through the upgrade" kill -0 "$station"
+check "the user's files are as they were" [ "$before" = "$(users_files)" ]
+check "it takes an alarm after it" send_alarm "Pump 2 tripped"
+end
+check "it ends in order" [ $code -eq 0 ]
+before=$(users_files)
 rm -f "$folder"/LogFiles/*
 start keeper vigrel-receiver
 check "the station starts after the upgrade" until_true log_says "$folder" "Port $port is open"
-check "it knows its alarm" log_says "$folder" "1 alarm(s) loaded"
+check "it knows its alarms" log_says "$folder" "2 alarm(s) loaded"
+check "the log tells the new texts" log_says "$folder" "Vigrel_Texts.044: 2 missing text(s) added: 11000, 11001"
 end
-check "the user's files are as they were" [ "$before" = "$(users_files)" ]
+check "the user's files are as they were after the new start" [ "$before" = "$(users_files)" ]
+check "the new texts are in the user's file" [ "$(grep -c '^1100[01]=.' "$texts")" -eq 2 ]
+check "the user's own texts stay" [ "$own_texts" = "$(grep -v '^1100[01]=' "$texts")" ]
 
 echo "== the menu entry, on a screen"
 # Starts menu entries, as the menus of desktops do.
