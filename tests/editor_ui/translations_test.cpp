@@ -1,9 +1,11 @@
 // The editor's texts in the six languages: none is missing in the files of translations, none goes past them,
 // and each has its form.
 
+#include <QColorDialog>
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
+#include <QFileDialog>
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -19,6 +21,7 @@
 #include <set>
 
 #include "editor_ui/editor_pages.h"
+#include "windows/toolkit_words.h"
 
 namespace vigrel::testing {
 namespace {
@@ -183,6 +186,53 @@ TEST(Translations, NothingThatShowsGoesPastThem) {
         EXPECT_EQ(Unmarked(pages.Window(), pages.Bench().m_Forms), std::set<std::string>{}) << name;
     });
     EXPECT_EQ(lacking, std::set<std::string>{});
+}
+
+// Notes what the toolkit asks for in its own dialogs.
+class cAsked : public QTranslator {
+  public:
+    explicit cAsked(std::set<std::pair<std::string, std::string>>& asked) : m_Asked(asked) {}
+    bool isEmpty() const override { return false; }
+    QString translate(const char* context, const char* source, const char*, int) const override {
+        m_Asked.emplace(context, source);
+        return {};
+    }
+
+  private:
+    std::set<std::pair<std::string, std::string>>& m_Asked;
+};
+
+// The toolkit has no file of these two languages.
+TEST(Translations, HoldWhatTheToolkitSaysInItsDialogsWhereItsOwnFilesLackThat) {
+    std::set<std::pair<std::string, std::string>> asked;
+    cAsked listener(asked);
+    QCoreApplication::installTranslator(&listener);
+    {
+        QFileDialog files;
+        files.setOption(QFileDialog::DontUseNativeDialog);
+        files.setAcceptMode(QFileDialog::AcceptSave);
+        files.show();
+        QFileDialog opened;
+        opened.setOption(QFileDialog::DontUseNativeDialog);
+        opened.setDirectory(VIGREL_TRANSLATIONS);
+        opened.show();
+        QColorDialog colours;
+        colours.show();
+        QTest::qWait(200);
+    }
+    QCoreApplication::removeTranslator(&listener);
+    EXPECT_GT(asked.size(), 40u);
+    for (const char* language : {"046", "047"}) {
+        const cEditorWords words(language);
+        cToolkitWords buttons;
+        buttons.SetLanguage(language);
+        for (const auto& [context, source] : asked) {
+            if (source.starts_with("Alt+")) continue;  // keys
+            EXPECT_FALSE(words.translate(context.c_str(), source.c_str()).isEmpty() &&
+                         buttons.translate(context.c_str(), source.c_str()).isEmpty())
+                << language << " " << context << ": " << source;
+        }
+    }
 }
 
 // The letters by which Alt reaches something, in the order of the texts.

@@ -4,9 +4,17 @@
 
 namespace vigrel {
 
+// Loading is false where there is no file: of English, and of the toolkit in most languages.
 cEditorWords::cEditorWords(std::string_view language) {
-    // False where there is no file: of English.
-    static_cast<void>(load(":/translations/definitions_" + ToolkitLanguage(language) + ".qm"));
+    const QString file = ":/translations/%1_" + ToolkitLanguage(language) + ".qm";
+    static_cast<void>(load(file.arg("definitions")));
+    static_cast<void>(m_Toolkit.load(file.arg("toolkit")));
+}
+
+QString cEditorWords::translate(const char* context, const char* source, const char* disambiguation,
+                                int number) const {
+    const QString words = QTranslator::translate(context, source, disambiguation, number);
+    return words.isEmpty() ? m_Toolkit.translate(context, source, disambiguation, number) : words;
 }
 
 }  // namespace vigrel

@@ -7,9 +7,16 @@ namespace vigrel {
 
 // The editor's texts in the language of a configuration ("046"), from when they are installed. In English,
 // and in a language that isn't delivered, it has none: the sources are English.
+//
+// Also what the toolkit says in its dialogs of files and colours, in the languages that its own files lack.
 class cEditorWords : public QTranslator {
   public:
     explicit cEditorWords(std::string_view language);
+    QString translate(const char* context, const char* source, const char* disambiguation = nullptr,
+                      int number = -1) const override;
+
+  private:
+    QTranslator m_Toolkit;
 };
 
 }  // namespace vigrel
