@@ -428,4 +428,27 @@ Trykk Esc for å avbryte</translation>
         <translation>Høyre kant</translation>
     </message>
 </context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Up</source>
+        <translation>Opp</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Ned</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Venstre</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Høyre</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Mellomrom</translation>
+    </message>
+</context>
 </TS>

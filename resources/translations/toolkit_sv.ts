@@ -428,4 +428,27 @@ Tryck på Esc för att avbryta</translation>
         <translation>Högerkanten</translation>
     </message>
 </context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Up</source>
+        <translation>Upp</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Ned</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Vänster</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Höger</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Mellanslag</translation>
+    </message>
+</context>
 </TS>

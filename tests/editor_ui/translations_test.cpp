@@ -227,7 +227,9 @@ TEST(Translations, HoldWhatTheToolkitSaysInItsDialogsWhereItsOwnFilesLackThat) {
         cToolkitWords buttons;
         buttons.SetLanguage(language);
         for (const auto& [context, source] : asked) {
-            if (source.starts_with("Alt+")) continue;  // keys
+            // Keys, and their names as keyboards have them; what is no text.
+            if (source.starts_with("Alt+") || context == "QShortcut" || context == "QGuiApplication")
+                continue;
             EXPECT_FALSE(words.translate(context.c_str(), source.c_str()).isEmpty() &&
                          buttons.translate(context.c_str(), source.c_str()).isEmpty())
                 << language << " " << context << ": " << source;
