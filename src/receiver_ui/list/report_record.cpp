@@ -15,7 +15,9 @@ constexpr char kNumber = 1;
 constexpr char kText = 2;
 
 void AppendBigEndian(std::string& key, std::uint64_t bits) {
-    for (int shift = 56; shift >= 0; shift -= 8) key.push_back(static_cast<char>(bits >> shift));
+    std::array<char, 8> bytes;
+    for (std::size_t i = 0; i < bytes.size(); ++i) bytes[i] = static_cast<char>(bits >> (56 - 8 * i));
+    key.append(bytes.data(), bytes.size());
 }
 
 // The numbers of a list are times.
@@ -24,24 +26,38 @@ void AppendNumber(std::string& key, double number) {
     AppendBigEndian(key, TimeRank(number));
 }
 
+void AppendUpper(std::string& key, std::string_view text) {
+    const std::size_t from = key.size();
+    key.resize(from + text.size());
+    std::transform(text.begin(), text.end(), key.begin() + static_cast<std::ptrdiff_t>(from),
+                   [](char c) { return ToUpper(c); });
+}
+
 // Ends in two zeros, so that a text stands in front of those that begin with it whatever follows; a zero of
 // its own is marked.
 void AppendText(std::string& key, std::string_view text) {
+    key.reserve(key.size() + text.size() + 3);
     key.push_back(kText);
-    for (const char c : text) {
-        key.push_back(ToUpper(c));
-        if (c == '\0') key.push_back('\xFF');
+    for (std::size_t zero = text.find('\0'); zero != std::string_view::npos; zero = text.find('\0')) {
+        AppendUpper(key, text.substr(0, zero + 1));
+        key.push_back('\xFF');
+        text.remove_prefix(zero + 1);
     }
+    AppendUpper(key, text);
     key.append(2, '\0');
 }
 
-// A record with the first bytes of its key, which decide most comparisons without a look at the record.
+// A record with what decides nearly all comparisons without a look at it: the first bytes of its key and,
+// when these are all, its age.
 struct cSortEntry {
-    static constexpr std::size_t kWords = 2;
+    static constexpr std::size_t kWords = 3;
     std::array<std::uint64_t, kWords> front{};
+    RecordId id;
     cReportRecord* record;
+    bool isAll;
 
-    explicit cSortEntry(cReportRecord* owner) : record(owner) {
+    explicit cSortEntry(cReportRecord* owner)
+        : id(owner->id), record(owner), isAll(owner->key.size() <= kWords * 8) {
         for (std::size_t i = 0; i < kWords * 8; ++i) {
             const auto byte = static_cast<std::uint64_t>(i < owner->key.size() ? Code(owner->key[i]) : 0);
             front[i / 8] = front[i / 8] << 8 | byte;
@@ -76,8 +92,7 @@ SortKey cRecordOrder::KeyOf(const cReportRecord& record, const ValueOf& valueOf)
 
 bool cRecordOrder::Before(const cReportRecord& a, const cReportRecord& b) const {
     const int order = a.key.compare(b.key);
-    if (order != 0) return order < 0;
-    return OlderFirst() ? a.id < b.id : a.id > b.id;
+    return order != 0 ? order < 0 : IsInFrontByAge(a.id, b.id);
 }
 
 void cRecordOrder::Sort(std::vector<cReportRecord*>& records) const {
@@ -85,7 +100,8 @@ void cRecordOrder::Sort(std::vector<cReportRecord*>& records) const {
     if (std::is_sorted(records.begin(), records.end(), before)) return;
     std::vector<cSortEntry> entries(records.begin(), records.end());
     std::sort(entries.begin(), entries.end(), [this](const cSortEntry& a, const cSortEntry& b) {
-        return a.front != b.front ? a.front < b.front : Before(*a.record, *b.record);
+        if (a.front != b.front) return a.front < b.front;
+        return a.isAll && b.isAll ? IsInFrontByAge(a.id, b.id) : Before(*a.record, *b.record);
     });
     std::transform(entries.begin(), entries.end(), records.begin(),
                    [](const cSortEntry& entry) { return entry.record; });

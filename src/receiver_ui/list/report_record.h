@@ -48,7 +48,10 @@ class cRecordOrder {
     void Sort(std::vector<cReportRecord*>& records) const;
 
   private:
-    bool OlderFirst() const { return m_Columns.empty() || m_Columns.back().ascending; }
+    bool IsInFrontByAge(RecordId a, RecordId b) const {
+        const bool isOlderFirst = m_Columns.empty() || m_Columns.back().ascending;
+        return isOlderFirst ? a < b : a > b;
+    }
 
     std::vector<cColumn> m_Columns;
 };
