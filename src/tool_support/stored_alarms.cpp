@@ -89,14 +89,15 @@ std::vector<std::string> AlarmFileNames(const cFileReader& files, const std::str
     return names;
 }
 
-std::string FindAlarmFolder(const cFileReader& files, const std::string& folder) {
+cAlarmFolder FindAlarmFolder(const cFileReader& files, const std::string& folder) {
     const bool separated = folder.ends_with('/') || folder.ends_with('\\');
     const std::string given = separated ? folder : folder + "/";
     for (const std::string& candidate : {given + "Alarms/", given}) {
-        if (!AlarmFileNames(files, candidate).empty()) return candidate;
+        std::vector<std::string> names = AlarmFileNames(files, candidate);
+        if (!names.empty()) return {candidate, std::move(names)};
     }
     // A station that has no alarms is no mistake.
-    if (files.FileExists(given + std::string(kIniFile))) return given + "Alarms/";
+    if (files.FileExists(given + std::string(kIniFile))) return {given + "Alarms/", {}};
     throw cFailure(eFailure::FileNotFound,
                    folder + ": there is no alarm file here, nor in its folder Alarms");
 }

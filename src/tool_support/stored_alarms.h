@@ -11,13 +11,16 @@
 
 namespace vigrel {
 
-// The folder (with trailing separator) that holds the alarm files: the application folder's "Alarms", or the
-// given one itself. Throws cFailure when there is no alarm file in either and the folder is no application
-// folder.
-std::string FindAlarmFolder(const cFileReader& files, const std::string& folder);
-
 // The names of the store's form in a folder, sorted.
 std::vector<std::string> AlarmFileNames(const cFileReader& files, const std::string& alarmFolder);
+
+struct cAlarmFolder {
+    std::string path;  // with trailing separator
+    std::vector<std::string> names;
+};
+// The folder that holds the alarm files: the application folder's "Alarms", or the given one itself. Throws
+// cFailure when there is no alarm file in either and the folder is no application folder.
+cAlarmFolder FindAlarmFolder(const cFileReader& files, const std::string& folder);
 
 struct cStoredAlarm {
     cVigrelRecieverAlarm alarm;

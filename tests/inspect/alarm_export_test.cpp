@@ -38,9 +38,10 @@ class AlarmExport : public ::testing::Test {
         m_Files.Put("/app/Alarms/A" + digits + ".alm", file.Bytes());
     }
     cExportResult Export(const cExportWish& wish = {}) {
-        return ExportAlarms(m_Files, "/app/Alarms/", wish, [this](std::size_t done, std::size_t all) {
-            m_Progress += std::to_string(done) + "/" + std::to_string(all) + " ";
-        });
+        return ExportAlarms(m_Files, FindAlarmFolder(m_Files, "/app"), wish,
+                            [this](std::size_t done, std::size_t all) {
+                                m_Progress += std::to_string(done) + "/" + std::to_string(all) + " ";
+                            });
     }
     // The last digits of the files of a table, in its order.
     std::string Names(const cExportWish& wish = {}) {
@@ -167,12 +168,14 @@ TEST_F(AlarmExport, OnlyNamesOfSevenDigitsAreAlarms) {
 
 TEST_F(AlarmExport, TheFolderIsTheApplicationFolderOrItsAlarms) {
     Put("0000001", 100);
-    EXPECT_EQ(FindAlarmFolder(m_Files, "/app"), "/app/Alarms/");
-    EXPECT_EQ(FindAlarmFolder(m_Files, "/app/Alarms/"), "/app/Alarms/");
+    EXPECT_EQ(FindAlarmFolder(m_Files, "/app").path, "/app/Alarms/");
+    EXPECT_EQ(FindAlarmFolder(m_Files, "/app/Alarms/").path, "/app/Alarms/");
     EXPECT_THROW(FindAlarmFolder(m_Files, "/other"), cFailure);
     m_Files.Put("/other/VigrelReceiver.INI", "");
-    EXPECT_EQ(FindAlarmFolder(m_Files, "/other"), "/other/Alarms/");
-    EXPECT_EQ(ExportAlarms(m_Files, "/other/Alarms/", {}, [](std::size_t, std::size_t) {}).table, kHeader);
+    EXPECT_EQ(FindAlarmFolder(m_Files, "/other").path, "/other/Alarms/");
+    EXPECT_EQ(
+        ExportAlarms(m_Files, FindAlarmFolder(m_Files, "/other"), {}, [](std::size_t, std::size_t) {}).table,
+        kHeader);
 }
 
 TEST_F(AlarmExport, OnATerminalControlCharactersAreEscaped) {

@@ -43,20 +43,20 @@ std::string RowLine(const std::string& file, const cVigrelRecieverAlarm& alarm, 
 
 }  // namespace
 
-cExportResult ExportAlarms(const cFileReader& files, const std::string& alarmFolder, const cExportWish& wish,
+cExportResult ExportAlarms(const cFileReader& files, const cAlarmFolder& folder, const cExportWish& wish,
                            const std::function<void(std::size_t, std::size_t)>& onProgress) {
-    const std::vector<std::string> names = AlarmFileNames(files, alarmFolder);
     cExportResult result;
     std::vector<cRow> rows;
-    rows.reserve(names.size());
-    ReadStoredAlarms(files, alarmFolder, names, [&](const std::string& name, const cStoredAlarm& stored) {
-        const auto& [alarm, problem] = stored;
-        result.damaged += problem.empty() ? 0 : 1;
-        if (!problem.empty() || wish.filter.Wants(alarm)) {
-            rows.push_back({alarm.m_CreatedTime, RowLine(name, alarm, problem, wish)});
-        }
-        onProgress(++result.files, names.size());
-    });
+    rows.reserve(folder.names.size());
+    ReadStoredAlarms(files, folder.path, folder.names,
+                     [&](const std::string& name, const cStoredAlarm& stored) {
+                         const auto& [alarm, problem] = stored;
+                         result.damaged += problem.empty() ? 0 : 1;
+                         if (!problem.empty() || wish.filter.Wants(alarm)) {
+                             rows.push_back({alarm.m_CreatedTime, RowLine(name, alarm, problem, wish)});
+                         }
+                         onProgress(++result.files, folder.names.size());
+                     });
     std::stable_sort(rows.begin(), rows.end(),
                      [](const cRow& a, const cRow& b) { return Earlier(a.created, b.created); });
     result.alarms = rows.size();

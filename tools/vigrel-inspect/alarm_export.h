@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/files.h"
+#include "tool_support/stored_alarms.h"
 #include "vigrel-inspect/alarm_filter.h"
 
 namespace vigrel {
@@ -26,7 +27,7 @@ struct cExportResult {
 // Every file of the store's name form is read. A damaged file has a row of its own that says so, as far as it
 // could be read, and passes every filter, so that no alarm goes missing unseen. onProgress is told after each
 // file how many of how many are read.
-cExportResult ExportAlarms(const cFileReader& files, const std::string& alarmFolder, const cExportWish& wish,
+cExportResult ExportAlarms(const cFileReader& files, const cAlarmFolder& folder, const cExportWish& wish,
                            const std::function<void(std::size_t done, std::size_t all)>& onProgress);
 
 }  // namespace vigrel

@@ -47,7 +47,7 @@ int Export(const cInspectOptions& options) {
     const auto show = [&](std::size_t done, std::size_t all) {
         if (!options.quiet) progress.Show(done, all, "files read");
     };
-    const std::string folder = FindAlarmFolder(files, options.paths[0]);
+    const cAlarmFolder folder = FindAlarmFolder(files, options.paths[0]);
     const cExportResult result =
         ExportAlarms(files, folder, {options.filter, options.exact, isatty(STDOUT_FILENO) != 0}, show);
     PrintOutput((options.mark ? "\xEF\xBB\xBF" : "") + result.table);

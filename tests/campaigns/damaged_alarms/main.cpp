@@ -143,7 +143,8 @@ void cLot::AcknowledgeAll() {
 
 void cLot::Run(int count) {
     MakeFiles(count);
-    ExportAlarms(m_Station.files, m_Station.path + "Alarms\\", {}, [](std::size_t, std::size_t) {});
+    ExportAlarms(m_Station.files, FindAlarmFolder(m_Station.files, m_Station.path), {},
+                 [](std::size_t, std::size_t) {});
     Load(count);
     m_Station.Check();
     Sort();
