@@ -14,6 +14,7 @@
 #include "adapters/qt/qt_locale.h"
 #include "common/exit_codes.h"
 #include "common/ini.h"
+#include "common/setting_keys.h"
 #include "common/standard_error.h"
 #include "common/texts.h"
 #include "definitions/station_definitions.h"
@@ -52,39 +53,42 @@ std::function<std::string(std::int32_t)> TextSource(cTexts& texts, const cLocale
 
 // The station's; before its first start, and with one that isn't delivered, the desktop's.
 std::string LanguageOf(const cIni& ini) {
-    std::string language = ini.GetIniString("General", "Language", "");
+    std::string language = cSettingReader(ini, "General").Text("Language");
     return ToolkitLanguage(language).isEmpty() ? LanguageOfDesktop(QLocale()) : language;
 }
 
-int Run(int argc, char** argv) {
-    KeepFilesPrivate();
-    cApplication::ChoosePlatform();
-    cApplication application(argc, argv);
+void Introduce() {
     cApplication::setApplicationName("vigrel-definitions");
     cApplication::setApplicationDisplayName("Vigrel Definitions");
     cApplication::setApplicationVersion(VIGREL_VERSION);
     cApplication::setDesktopFileName("vigrel-definitions");
-    const QStringList paths = ReadCommandLine(application);
+}
 
-    const cFolderHints hints = ReadFolderHints();
-    const std::string applicationPath = FindApplicationFolder(hints);
-    application.SetFolder(NativePath(applicationPath));
-    cLinuxFiles files;
+// What is wrong with it is told.
+bool HasConfiguration(const cLinuxFiles& files, const std::string& applicationPath) {
+    const auto why = WhyNoConfiguration(files, applicationPath);
+    if (!why) return true;
     cQtMessageBox windowBox("Vigrel Definitions");
     cStandardErrorBox unseenBox("vigrel-definitions", NativePath(applicationPath));
-    if (const auto why = WhyNoConfiguration(files, applicationPath)) {
-        cMessageBox& box = cApplication::HasDisplay() ? static_cast<cMessageBox&>(windowBox) : unseenBox;
-        box.Show(*why, eMessageIcon::Stop, eMessageButtons::Ok);
-        return kExitRefused;
-    }
-    application.Guard([&] {
-        FillApplicationFolder(files, applicationPath, FindInstalledFolder(hints.programFolder),
-                              FormerFolder(hints));
-    });
-    if (const auto why = WhyElsewhere(hints)) {
-        PrintError("vigrel-definitions", *why);
-    }
+    cMessageBox& box = cApplication::HasDisplay() ? static_cast<cMessageBox&>(windowBox) : unseenBox;
+    box.Show(*why, eMessageIcon::Stop, eMessageButtons::Ok);
+    return false;
+}
 
+int ShowUntilClosed(cApplication& application, cEditorServices& services, const QStringList& paths) {
+    cDefinitionsWindow window(services);
+    QObject::connect(&window, &cDefinitionsWindow::Closed, &application, &QCoreApplication::quit,
+                     Qt::QueuedConnection);
+    window.show();
+    // Once the window manager has placed the window, so that a message about a file lies over it.
+    QTimer::singleShot(kPlacingTime, &window, [&] {
+        for (const QString& path : paths) window.OpenFile(path);
+    });
+    return cApplication::exec();
+}
+
+int RunEditor(cApplication& application, cLinuxFiles& files, const std::string& applicationPath,
+              const QStringList& paths) {
     const cSystemClock clock;
     const cLocaleForms forms = cQtLocale().Forms();
     cIni ini(files, applicationPath);
@@ -111,18 +115,27 @@ int Run(int argc, char** argv) {
                              cDayTypeImages(ini),
                              station};
     int result = 0;
-    application.Guard([&] {
-        cDefinitionsWindow window(services);
-        QObject::connect(&window, &cDefinitionsWindow::Closed, &application, &QCoreApplication::quit,
-                         Qt::QueuedConnection);
-        window.show();
-        // Once the window manager has placed the window, so that a message about a file lies over it.
-        QTimer::singleShot(kPlacingTime, &window, [&] {
-            for (const QString& path : paths) window.OpenFile(path);
-        });
-        result = cApplication::exec();
-    });
+    application.Guard([&] { result = ShowUntilClosed(application, services, paths); });
     return result;
+}
+
+int Run(int argc, char** argv) {
+    KeepFilesPrivate();
+    cApplication::ChoosePlatform();
+    cApplication application(argc, argv);
+    Introduce();
+    const QStringList paths = ReadCommandLine(application);
+    const cFolderHints hints = ReadFolderHints();
+    const std::string applicationPath = FindApplicationFolder(hints);
+    application.SetFolder(NativePath(applicationPath));
+    cLinuxFiles files;
+    if (!HasConfiguration(files, applicationPath)) return kExitRefused;
+    application.Guard([&] {
+        FillApplicationFolder(files, applicationPath, FindInstalledFolder(hints.programFolder),
+                              FormerFolder(hints));
+    });
+    if (const auto why = WhyElsewhere(hints)) PrintError("vigrel-definitions", *why);
+    return RunEditor(application, files, applicationPath, paths);
 }
 
 }  // namespace

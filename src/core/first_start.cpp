@@ -6,6 +6,7 @@
 #include "common/file_procedures.h"
 #include "common/language_selection.h"
 #include "common/numbers.h"
+#include "common/setting_keys.h"
 #include "common/text.h"
 #include "common/texts.h"
 
@@ -69,7 +70,7 @@ void cFirstStart::Prepare() {
 }
 
 void cFirstStart::FollowChoice() {
-    const std::string chosen = m_Ini.GetIniString("General", "Language", "");
+    const std::string chosen = cSettingReader(m_Ini, "General").Text("Language");
     if (m_Placed.empty() || chosen.empty() || chosen == m_Placed) return;
     const std::string country = m_Ini.GetIniString("General", "CountryFilter", "");
     if (!Place(chosen)) return;
