@@ -337,6 +337,10 @@
         <source>clearing a year</source>
         <translation>Leeren eines Jahres</translation>
     </message>
+    <message>
+        <source>clearing the calendar</source>
+        <translation>Leeren des Kalenders</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cColourPreview</name>
@@ -790,10 +794,6 @@ Programmordner: %3</translation>
 <context>
     <name>vigrel::cFileDocument</name>
     <message>
-        <source>%1 was changed by somebody else since it was opened. Replace it?</source>
-        <translation>%1 wurde seit dem Öffnen von jemand anderem geändert. Möchten Sie die Datei ersetzen?</translation>
-    </message>
-    <message>
         <source>The file was not saved.
 %1</source>
         <translation>Die Datei wurde nicht gespeichert.
@@ -802,6 +802,22 @@ Programmordner: %3</translation>
     <message>
         <source>Saved %1</source>
         <translation>%1 wurde gespeichert</translation>
+    </message>
+    <message>
+        <source>Another program has changed the file of &quot;%1&quot; since it was read here. Keep your version, take the one in the file, or show both?</source>
+        <translation>Ein anderes Programm hat die Datei von „%1“ geändert, seit sie hier gelesen wurde. Möchten Sie Ihre Fassung behalten, die der Datei übernehmen oder beide zeigen?</translation>
+    </message>
+    <message>
+        <source>Another program has removed the file of &quot;%1&quot;. Write it again, or remove it here too?</source>
+        <translation>Ein anderes Programm hat die Datei von „%1“ entfernt. Möchten Sie sie neu schreiben oder den Eintrag auch hier entfernen?</translation>
+    </message>
+    <message>
+        <source>taking over &quot;%1&quot;</source>
+        <translation>Übernehmen von „%1“</translation>
+    </message>
+    <message>
+        <source>%1 is read again: another program has changed it</source>
+        <translation>%1 wurde neu gelesen: Ein anderes Programm hat die Datei geändert</translation>
     </message>
 </context>
 <context>

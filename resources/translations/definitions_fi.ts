@@ -337,6 +337,10 @@
         <source>clearing a year</source>
         <translation>vuoden tyhjennys</translation>
     </message>
+    <message>
+        <source>clearing the calendar</source>
+        <translation>kalenterin tyhjennys</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cColourPreview</name>
@@ -790,10 +794,6 @@ Ohjelman kansio: %3</translation>
 <context>
     <name>vigrel::cFileDocument</name>
     <message>
-        <source>%1 was changed by somebody else since it was opened. Replace it?</source>
-        <translation>Joku muu on muuttanut tiedostoa %1 avaamisen jälkeen. Korvataanko se?</translation>
-    </message>
-    <message>
         <source>The file was not saved.
 %1</source>
         <translation>Tiedosto jäi tallentamatta.
@@ -802,6 +802,22 @@ Ohjelman kansio: %3</translation>
     <message>
         <source>Saved %1</source>
         <translation>%1 tallennettiin</translation>
+    </message>
+    <message>
+        <source>Another program has changed the file of &quot;%1&quot; since it was read here. Keep your version, take the one in the file, or show both?</source>
+        <translation>Toinen ohjelma on muuttanut kohteen &quot;%1&quot; tiedostoa sen jälkeen, kun se luettiin tässä. Pidetäänkö oma versio, otetaanko tiedoston versio vai näytetäänkö molemmat?</translation>
+    </message>
+    <message>
+        <source>Another program has removed the file of &quot;%1&quot;. Write it again, or remove it here too?</source>
+        <translation>Toinen ohjelma on poistanut kohteen &quot;%1&quot; tiedoston. Kirjoitetaanko se uudelleen vai poistetaanko kohde tästäkin?</translation>
+    </message>
+    <message>
+        <source>taking over &quot;%1&quot;</source>
+        <translation>käyttöönotto: &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>%1 is read again: another program has changed it</source>
+        <translation>%1 luettiin uudelleen: toinen ohjelma on muuttanut sitä</translation>
     </message>
 </context>
 <context>

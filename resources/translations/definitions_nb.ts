@@ -337,6 +337,10 @@
         <source>clearing a year</source>
         <translation>tømming av et år</translation>
     </message>
+    <message>
+        <source>clearing the calendar</source>
+        <translation>tømming av kalenderen</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cColourPreview</name>
@@ -790,10 +794,6 @@ Programmets mappe: %3</translation>
 <context>
     <name>vigrel::cFileDocument</name>
     <message>
-        <source>%1 was changed by somebody else since it was opened. Replace it?</source>
-        <translation>%1 er endret av noen andre siden den ble åpnet. Vil du erstatte den?</translation>
-    </message>
-    <message>
         <source>The file was not saved.
 %1</source>
         <translation>Filen ble ikke lagret.
@@ -802,6 +802,22 @@ Programmets mappe: %3</translation>
     <message>
         <source>Saved %1</source>
         <translation>%1 er lagret</translation>
+    </message>
+    <message>
+        <source>Another program has changed the file of &quot;%1&quot; since it was read here. Keep your version, take the one in the file, or show both?</source>
+        <translation>Et annet program har endret filen til &quot;%1&quot; siden den ble lest her. Vil du beholde din versjon, ta den i filen eller vise begge?</translation>
+    </message>
+    <message>
+        <source>Another program has removed the file of &quot;%1&quot;. Write it again, or remove it here too?</source>
+        <translation>Et annet program har fjernet filen til &quot;%1&quot;. Vil du skrive den på nytt eller fjerne den her også?</translation>
+    </message>
+    <message>
+        <source>taking over &quot;%1&quot;</source>
+        <translation>overtakelse av &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>%1 is read again: another program has changed it</source>
+        <translation>%1 er lest på nytt: et annet program har endret den</translation>
     </message>
 </context>
 <context>

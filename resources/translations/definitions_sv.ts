@@ -337,6 +337,10 @@
         <source>clearing a year</source>
         <translation>tömning av ett år</translation>
     </message>
+    <message>
+        <source>clearing the calendar</source>
+        <translation>tömning av kalendern</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cColourPreview</name>
@@ -790,10 +794,6 @@ Programmets mapp: %3</translation>
 <context>
     <name>vigrel::cFileDocument</name>
     <message>
-        <source>%1 was changed by somebody else since it was opened. Replace it?</source>
-        <translation>%1 har ändrats av någon annan sedan den öppnades. Vill du ersätta den?</translation>
-    </message>
-    <message>
         <source>The file was not saved.
 %1</source>
         <translation>Filen sparades inte.
@@ -802,6 +802,22 @@ Programmets mapp: %3</translation>
     <message>
         <source>Saved %1</source>
         <translation>%1 har sparats</translation>
+    </message>
+    <message>
+        <source>Another program has changed the file of &quot;%1&quot; since it was read here. Keep your version, take the one in the file, or show both?</source>
+        <translation>Ett annat program har ändrat filen till &quot;%1&quot; sedan den lästes här. Vill du behålla din version, ta den som finns i filen eller visa båda?</translation>
+    </message>
+    <message>
+        <source>Another program has removed the file of &quot;%1&quot;. Write it again, or remove it here too?</source>
+        <translation>Ett annat program har tagit bort filen till &quot;%1&quot;. Vill du skriva den igen eller ta bort den här också?</translation>
+    </message>
+    <message>
+        <source>taking over &quot;%1&quot;</source>
+        <translation>övertagande av &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>%1 is read again: another program has changed it</source>
+        <translation>%1 har lästs på nytt: ett annat program har ändrat den</translation>
     </message>
 </context>
 <context>

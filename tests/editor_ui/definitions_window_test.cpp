@@ -124,23 +124,6 @@ TEST_F(DefinitionsWindow, AFailedSaveTellsWhyAndKeepsTheChanges) {
     EXPECT_EQ(m_Files.ReadFile("/app/a.sch"), Sample("schedule.dat"));
 }
 
-TEST_F(DefinitionsWindow, AFileThatSomebodyElseChangedIsReplacedOnlyAfterAsking) {
-    m_Files.Put("/app/a.sch", Sample("schedule.dat"));
-    m_Window->OpenFile("/app/a.sch");
-    auto& page = dynamic_cast<cSchedulePage&>(*m_Window->CurrentPage());
-    Change(page);
-    m_Files.WriteFile("/app/a.sch", "another's", false);
-    EXPECT_FALSE(page.Save());
-    EXPECT_EQ(m_Prompts.m_Asked,
-              "yes or no: /app/a.sch was changed by somebody else since it was opened. Replace it?\n");
-    EXPECT_EQ(m_Files.ReadFile("/app/a.sch"), "another's");
-    m_Prompts.m_YesNoAnswers = {true};
-    EXPECT_TRUE(page.Save());
-    EXPECT_EQ(m_Files.ReadFile("/app/a.sch"), Saved(page.Schedule()));
-    Choose(*m_Window, "Menu_Undo");
-    EXPECT_TRUE(page.Save());
-}
-
 TEST_F(DefinitionsWindow, ClosingAsksForEachPageWithChanges) {
     NewSchedule();
     Change(NewSchedule());

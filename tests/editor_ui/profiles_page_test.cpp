@@ -305,6 +305,50 @@ TEST_F(ProfilesPage, AnotherCalendarIsOpenedOnlyWhenTheChangedOneIsSavedOrGivenU
     }
 }
 
+TEST_F(ProfilesPage, ACalendarUnderOtherHandsIsAskedFor) {
+    using eConflict = cPrompts::eConflict;
+    const std::string empty(29220, '\0');
+    std::string theirs = empty;
+    theirs[0] = 9;
+    Put("Calendar.cal", empty);
+    ShowTab(4);
+    cCalendarEditor& editor = *Page().findChild<cCalendarEditor*>();
+    cFileDocument& calendar = *Page().findChild<cFileDocument*>();
+    QString shown;
+    QObject::connect(&Page(), &cEditorPage::BothWanted, [&](const QString& path) { shown = path; });
+    MarkADay(editor);
+    Put("Calendar.cal", theirs);
+    m_Prompts.m_ConflictAnswers = {eConflict::Both, eConflict::Theirs};
+    EXPECT_FALSE(Page().Save());
+    EXPECT_EQ(shown, calendar.Path());
+    EXPECT_TRUE(Page().IsDirty());
+    EXPECT_FALSE(Page().Save());
+    EXPECT_FALSE(Page().IsDirty());
+    EXPECT_EQ(editor.Calendar().GetDayType(0), 9);
+    Page().UndoStack()->undo();
+    EXPECT_EQ(editor.Calendar().GetDayType(0), 0);
+    EXPECT_TRUE(Page().IsDirty());
+    m_Files.RemoveFile(Path("Calendar.cal"));
+    m_Prompts.m_ConflictAnswers = {eConflict::Theirs};
+    EXPECT_FALSE(Page().Save());
+    EXPECT_FALSE(Page().IsDirty());
+    EXPECT_EQ(LabelOf(Page(), "Label_Calendar"), "A new calendar");
+    Page().UndoStack()->undo();
+    EXPECT_TRUE(Page().IsDirty());
+}
+
+TEST_F(ProfilesPage, ACalendarThatOthersChangedIsReadAgain) {
+    std::string theirs(29220, '\0');
+    Put("Calendar.cal", theirs);
+    cCalendarEditor& editor = *Page().findChild<cCalendarEditor*>();
+    theirs[0] = 9;
+    Put("Calendar.cal", theirs);
+    Page().hide();
+    Page().show();
+    EXPECT_EQ(editor.Calendar().GetDayType(0), 9);
+    EXPECT_FALSE(Page().IsDirty());
+}
+
 TEST_F(ProfilesPage, AVersion4FileIsToldAsBroughtUp) {
     PutSample("Profiles\\Profile_0012.dat", "profile_version_4.dat");
     // The profile and one of the receivers.

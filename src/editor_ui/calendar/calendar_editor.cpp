@@ -246,6 +246,7 @@ void cCalendarEditor::MoveMonth(int months) {
 // --- content
 
 void cCalendarEditor::ReadFile(const std::string& path) {
+    EndStroke();
     LoadCalendarFile(m_Services.m_Files, path, m_Calendar);
     m_View.update();
 }
@@ -260,9 +261,14 @@ std::string cCalendarEditor::State() const {
     return state.Bytes();
 }
 
-void cCalendarEditor::Restore(const std::string& state) {
+// A stroke that is under way has lost what it painted on.
+void cCalendarEditor::EndStroke() {
     m_Painting = false;
     m_Calendar.MouseUp(*this, &m_View.Surface(), 1, 0, 0, 0);
+}
+
+void cCalendarEditor::Restore(const std::string& state) {
+    EndStroke();
     cBinaryReader reader(state);
     for (std::int32_t i = 0; i < kCalendarDays; ++i) m_Calendar.SetDayType(i, reader.Int16());
     m_View.update();

@@ -42,6 +42,8 @@ class cCalendarEditor : public cContentEditor, private cCalendarContainer {
     // The file of docs/formats/calendar.md; both may throw cFailure.
     void ReadFile(const std::string& path);
     void WriteFile(const std::string& path);
+    // Takes all day types away, as a step.
+    void Clear();
     std::string State() const override;
     void Restore(const std::string& state) override;
     QList<QAction*> EditActions() const override;
@@ -78,6 +80,7 @@ class cCalendarEditor : public cContentEditor, private cCalendarContainer {
     void PaintChosenDay();
     // The pointer counts as over no day until it moves, so that no tip of before stays.
     void ForgetPointer();
+    void EndStroke();
     QPoint CellOf(int day) const;
     std::optional<int> DayAt(QPoint unit) const;
 

@@ -160,6 +160,13 @@ void cCalendarEditor::TakeSelectedType(bool allYears) {
     emit Message(tr("Painted holidays: %1 (%2)").arg(count).arg(m_DayType.currentText()));
 }
 
+void cCalendarEditor::Clear() {
+    Edit(tr("clearing the calendar"), [&] {
+        for (std::int32_t i = 0; i < kCalendarDays; ++i) m_Calendar.SetDayType(i, 0);
+    });
+    m_View.update();
+}
+
 void cCalendarEditor::ClearYear() {
     Edit(tr("clearing a year"), [&] {
         for (std::int32_t i = 0; i < kCalendarDays; ++i) {

@@ -37,6 +37,12 @@ class cEditorPage : public QWidget {
     // Names or images of day types have changed.
     virtual void RefreshDayTypes() {}
 
+  protected:
+    // The page comes into sight, or its window to the front: other programs may have worked on its files.
+    virtual void SeenAgain() {}
+    void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
   signals:
     // Title, path or dirty state have changed.
     void StateChanged();
@@ -46,6 +52,10 @@ class cEditorPage : public QWidget {
     void DayTypesChanged();
     // A file was opened or saved.
     void FileUsed(const QString& path);
+    // What a file holds is to be shown beside the page's own version of it.
+    void BothWanted(const QString& path);
+    // The operator has let the page's content go; the page can close.
+    void Ended();
     void Message(const QString& text);
 };
 

@@ -1,5 +1,6 @@
 #include "editor_ui/pages/file_document.h"
 
+#include <QFileInfo>
 #include <QWidget>
 #include <utility>
 
@@ -22,7 +23,8 @@ cFileDocument::cFileDocument(cEditorServices& services, cFileForm form, QWidget*
       m_Services(services),
       m_Form(std::move(form)),
       m_Owner(owner),
-      m_StateInFile(m_Form.state()) {}
+      m_StateOfNew(m_Form.state()),
+      m_StateInFile(m_StateOfNew) {}
 
 QString cFileDocument::Title() const {
     return m_Path.empty() ? m_Form.newName : PathToQString(SplitPath(m_Path).name);
@@ -39,38 +41,97 @@ void cFileDocument::NoteChange() {
 }
 
 // The file holds what the editor shows.
-void cFileDocument::Take(const std::string& path) {
+void cFileDocument::Take(const std::string& path, const cFileReader::cStamp& stamp) {
     m_Path = path;
-    m_Stamp = m_Services.m_Files.Stamp(path);
+    m_Stamp = stamp;
     m_StateInFile = m_Form.state();
     m_Dirty = false;
     emit StateChanged();
     emit FileUsed(Path());
 }
 
+bool cFileDocument::Read(const std::string& path) {
+    const auto failure = CatchFailure([&] { m_Form.read(path); });
+    if (failure) m_Services.m_Prompts.ShowFailure(m_Owner, ShownFailure(*failure));
+    return !failure;
+}
+
+// The stamp is that of before: a file that others write meanwhile counts as changed.
 bool cFileDocument::Open(const std::string& path) {
-    if (const auto failure = CatchFailure([&] { m_Form.read(path); })) {
-        m_Services.m_Prompts.ShowFailure(m_Owner, ShownFailure(*failure));
-        return false;
-    }
+    const cFileReader::cStamp stamp = m_Services.m_Files.Stamp(path);
+    if (!Read(path)) return false;
     RemoveTemporaryOf(m_Services.m_Files, path);
-    Take(path);
+    Take(path, stamp);
     emit Opened();
+    return true;
+}
+
+bool cFileDocument::OpenCopy(const std::string& path) {
+    const QFileInfo file(PathToQString(path));
+    m_Form.newName = file.completeBaseName() + " 2";
+    if (!Read(path)) return false;
+    NoteChange();
     return true;
 }
 
 bool cFileDocument::Save() {
     if (m_Path.empty()) return SaveAs();
-    return MayReplace(m_Path) && WriteTo(m_Path);
+    return MayReplace() && WriteTo(m_Path);
 }
 
-// Another program, or another window, may have written the file meanwhile.
-bool cFileDocument::MayReplace(const std::string& path) {
-    const cFileReader::cStamp now = m_Services.m_Files.Stamp(path);
-    if (now.size < 0 || now == m_Stamp) return true;
-    return m_Services.m_Prompts.AskYesNo(
-        m_Owner,
-        tr("%1 was changed by somebody else since it was opened. Replace it?").arg(PathToQString(path)));
+// --- files under other hands
+
+// Another program, or another window, may have written or removed the file meanwhile.
+bool cFileDocument::MayReplace() {
+    const cFileReader::cStamp now = m_Services.m_Files.Stamp(m_Path);
+    if (now == m_Stamp) return true;
+    // While it is asked, nothing is taken up on the quiet.
+    m_Seen = now;
+    return now.size < 0 ? MayWriteAgain() : MayReplaceChanged();
+}
+
+bool cFileDocument::MayReplaceChanged() {
+    using eAnswer = cPrompts::eConflict;
+    const QString text = tr("Another program has changed the file of \"%1\" since it was read here. Keep "
+                            "your version, take the one in the file, or show both?")
+                             .arg(Title());
+    const eAnswer answer = m_Services.m_Prompts.AskConflict(m_Owner, text, true);
+    if (answer == eAnswer::Theirs) TakeTheirs();
+    if (answer == eAnswer::Both) emit BothWanted(Path());
+    return answer == eAnswer::Mine;
+}
+
+bool cFileDocument::MayWriteAgain() {
+    using eAnswer = cPrompts::eConflict;
+    const QString text =
+        tr("Another program has removed the file of \"%1\". Write it again, or remove it here too?")
+            .arg(Title());
+    const eAnswer answer = m_Services.m_Prompts.AskConflict(m_Owner, text, false);
+    if (answer == eAnswer::Theirs) {
+        m_Form.newName = Title();
+        m_Path.clear();
+        m_StateInFile = m_StateOfNew;
+        emit LetGo();
+        NoteChange();
+    }
+    return answer == eAnswer::Mine;
+}
+
+void cFileDocument::TakeTheirs() {
+    const std::string before = m_Form.state();
+    const cFileReader::cStamp stamp = m_Services.m_Files.Stamp(m_Path);
+    if (!Read(m_Path)) return;
+    Take(m_Path, stamp);
+    emit Replaced({tr("taking over \"%1\"").arg(Title()), before, m_StateInFile});
+    emit Message(tr("%1 is read again: another program has changed it").arg(Path()));
+}
+
+void cFileDocument::TakeUp() {
+    const cFileReader::cStamp now = m_Services.m_Files.Stamp(m_Path);
+    if (m_Path.empty() || m_Dirty || now.size < 0 || now == m_Stamp || now == m_Seen) return;
+    // Told once: what can't be read stays as it was read before.
+    m_Seen = now;
+    TakeTheirs();
 }
 
 bool cFileDocument::SaveAs() {
@@ -90,7 +151,7 @@ bool cFileDocument::WriteTo(const std::string& path) {
                                          tr("The file was not saved.\n%1").arg(ShownFailure(*failure)));
         return false;
     }
-    Take(path);
+    Take(path, m_Services.m_Files.Stamp(path));
     emit Message(tr("Saved %1").arg(Path()));
     return true;
 }

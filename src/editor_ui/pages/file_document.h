@@ -5,6 +5,7 @@
 #include <functional>
 #include <string>
 
+#include "editor_ui/pages/content_editor.h"
 #include "editor_ui/pages/editor_services.h"
 #include "platform/files.h"
 
@@ -23,7 +24,8 @@ struct cFileForm {
 };
 
 // The file behind an editor: opened, saved, and whether it holds what the editor shows. What goes wrong is
-// told over the owner's window.
+// told over the owner's window. A file that other programs changed or removed since is not written before the
+// user has said whose version counts.
 class cFileDocument : public QObject {
     Q_OBJECT
   public:
@@ -41,26 +43,42 @@ class cFileDocument : public QObject {
     bool Open(const std::string& path);
     bool Save();
     bool SaveAs();
+    // Reads a file into the content, which stays without a file: nothing else may hold it any more.
+    bool OpenCopy(const std::string& path);
+    // Reads the file again when others have changed it and nothing is changed here.
+    void TakeUp();
 
   signals:
     // Title, path or dirty state have changed.
     void StateChanged();
     // The content is that of another file.
     void Opened();
+    // What others have saved took the place of the content.
+    void Replaced(const vigrel::cEditStep& step);
+    // The user wants to see what the file holds beside the content.
+    void BothWanted(const QString& path);
+    // The file is gone, and the content is to go as well.
+    void LetGo();
     // A file was opened or saved.
     void FileUsed(const QString& path);
     void Message(const QString& text);
 
   private:
-    bool MayReplace(const std::string& path);
+    bool MayReplace();
+    bool MayReplaceChanged();
+    bool MayWriteAgain();
+    bool Read(const std::string& path);
+    void TakeTheirs();
     bool WriteTo(const std::string& path);
-    void Take(const std::string& path);
+    void Take(const std::string& path, const cFileReader::cStamp& stamp);
 
     cEditorServices& m_Services;
     cFileForm m_Form;
     QWidget* m_Owner;
     std::string m_Path;
     cFileReader::cStamp m_Stamp;  // of the file as it was read or written last
+    cFileReader::cStamp m_Seen;   // of a file that others changed, and that was asked about or read
+    std::string m_StateOfNew;     // of a content that has no file yet
     std::string m_StateInFile;
     bool m_Dirty = false;
 };

@@ -33,6 +33,10 @@ cFilePage::cFilePage(cEditorServices& services, cContentEditor* editor, cFileFor
     connect(&m_Document, &cFileDocument::StateChanged, this, &cEditorPage::StateChanged);
     connect(&m_Document, &cFileDocument::FileUsed, this, &cEditorPage::FileUsed);
     connect(&m_Document, &cFileDocument::Message, this, &cEditorPage::Message);
+    connect(&m_Document, &cFileDocument::BothWanted, this, &cEditorPage::BothWanted);
+    connect(&m_Document, &cFileDocument::LetGo, this, &cEditorPage::Ended);
+    connect(&m_Document, &cFileDocument::Replaced, this,
+            [this](const cEditStep& step) { m_UndoStack.push(new cStepCommand(step, m_Editor)); });
 }
 
 // The stack tells of its end when there is no editor any more.

@@ -30,6 +30,13 @@ class cFilePage : public cEditorPage {
 
     // False, after telling the operator why, when the file can't be read or is not what it should be.
     bool Open(const std::string& path);
+    // The same with what a file holds, as a content that has no file.
+    bool OpenCopy(const std::string& path) { return m_Document.OpenCopy(path); }
+
+  protected:
+    void SeenAgain() override {
+        if (!IsDirty()) m_Document.TakeUp();
+    }
 
   private:
     bool MaySave();

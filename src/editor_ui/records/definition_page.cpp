@@ -316,19 +316,9 @@ void cDefinitionPage::RevertPosition(int position) {
 
 // --- files under other hands
 
-void cDefinitionPage::showEvent(QShowEvent* event) {
-    cEditorPage::showEvent(event);
-    TakeUpFolder();
-}
-
-void cDefinitionPage::changeEvent(QEvent* event) {
-    cEditorPage::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange && isActiveWindow()) TakeUpFolder();
-}
-
 // Another editor may have worked on the folder while this one was away. What is changed here stays.
 void cDefinitionPage::TakeUpFolder() {
-    if (!isVisible() || !m_Source->HasNews()) return;
+    if (!m_Source->HasNews()) return;
     const int chosen = Chosen();
     m_Model.Rescan();
     Choose(chosen);

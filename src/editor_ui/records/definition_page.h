@@ -69,8 +69,7 @@ class cDefinitionPage : public cEditorPage, private cRecordSteps {
     void ShowChosen();
     // Brings a field of the form into sight and the keyboard to it.
     void ShowField(const QString& field);
-    void showEvent(QShowEvent* event) override;
-    void changeEvent(QEvent* event) override;
+    void SeenAgain() override { TakeUpFolder(); }
 
   private:
     void ConnectActions();

@@ -34,6 +34,7 @@ cProfileCalendar::cProfileCalendar(cEditorServices& services, const cTimeSchedul
     layout->addWidget(m_Editor, 1);
     connect(open, &QPushButton::clicked, this, [this] { Choose(); });
     connect(&m_Document, &cFileDocument::FileUsed, this, [this](const QString& path) { Remember(path); });
+    connect(&m_Document, &cFileDocument::LetGo, this, [this] { m_Path->setText(tr("A new calendar")); });
     connect(&m_Editor->ShowTimeAxis(), &QCheckBox::clicked, this, [this](bool on) {
         if (OnViewTimeAxis) OnViewTimeAxis(on);
     });

@@ -76,11 +76,15 @@ void cProfilesPage::ConnectCalendar() {
         connect(editor, &cContentEditor::DayTypesChanged, this, &cEditorPage::DayTypesChanged);
     }
     connect(&calendar, &cFileDocument::Opened, this, [this] { UndoStack()->clear(); });
-    cContentEditor& editor = m_Form->Calendar().Editor();
-    connect(&editor, &cContentEditor::Edited, this, [this, &editor](const cEditStep& step) {
+    connect(&calendar, &cFileDocument::BothWanted, this, &cEditorPage::BothWanted);
+    cCalendarEditor& editor = m_Form->Calendar().Editor();
+    connect(&calendar, &cFileDocument::LetGo, &editor, &cCalendarEditor::Clear);
+    const auto push = [this, &editor](const cEditStep& step) {
         UndoStack()->push(
             new cStepCommand(step, editor, [this, &editor] { ShowField(editor.objectName()); }));
-    });
+    };
+    connect(&editor, &cContentEditor::Edited, this, push);
+    connect(&calendar, &cFileDocument::Replaced, this, push);
     connect(UndoStack(), &QUndoStack::indexChanged, &calendar, &cFileDocument::NoteChange);
 }
 
@@ -90,6 +94,11 @@ void cProfilesPage::SetZoom(double zoom) {
 
 void cProfilesPage::RefreshDayTypes() {
     m_Form->RefreshDayTypes();
+}
+
+void cProfilesPage::SeenAgain() {
+    cDefinitionPage::SeenAgain();
+    m_Form->Calendar().Document().TakeUp();
 }
 
 void cProfilesPage::showEvent(QShowEvent* event) {

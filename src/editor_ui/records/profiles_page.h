@@ -22,6 +22,7 @@ class cProfilesPage : public cDefinitionPage {
 
   protected:
     // Receivers may have been renamed on their page meanwhile.
+    void SeenAgain() override;
     void showEvent(QShowEvent* event) override;
 
   private:

@@ -126,6 +126,8 @@ void cScheduleEditor::ConnectView() {
 // --- content
 
 void cScheduleEditor::ReadFile(const std::string& path) {
+    // A drag that is under way has lost its period.
+    m_Schedule.MouseUp(*this, m_SchedulePaintObject, 1, 0, 0, 0);
     LoadScheduleFile(m_Services.m_Files, path, m_Schedule);
     m_Schedule.ClearSelection(*this);
     Recalculate();

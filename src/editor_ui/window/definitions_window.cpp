@@ -79,6 +79,8 @@ void cDefinitionsWindow::ListenTo(cEditorPage* page) {
         }
     });
     connect(page, &cEditorPage::FileUsed, this, [this](const QString& path) { m_Recent.Add(path); });
+    connect(page, &cEditorPage::BothWanted, this, &cDefinitionsWindow::ShowBoth);
+    connect(page, &cEditorPage::Ended, this, [this, page] { RemovePage(*page); });
     connect(page, &cEditorPage::DayTypesChanged, this, [this] {
         for (cEditorPage* each : Pages()) each->RefreshDayTypes();
     });
@@ -154,6 +156,14 @@ bool cDefinitionsWindow::OpenFile(const QString& path) {
     return true;
 }
 
+// What the file holds becomes a page of its own that has no file yet.
+void cDefinitionsWindow::ShowBoth(const QString& path) {
+    cFilePage* page = MakeFilePage(path);
+    page->setParent(this);
+    if (page->OpenCopy(PathFromQString(path))) return AddPage(page);
+    delete page;
+}
+
 void cDefinitionsWindow::OpenRecent(const QString& path) {
     if (!OpenFile(path)) m_Recent.Remove(path);
 }
@@ -175,11 +185,15 @@ bool cDefinitionsWindow::MayClose(cEditorPage& page) {
 bool cDefinitionsWindow::ClosePage(int index) {
     auto* page = qobject_cast<cEditorPage*>(m_Tabs.widget(index));
     if (page == nullptr || !MayClose(*page)) return false;
-    m_Tabs.removeTab(index);
+    RemovePage(*page);
+    return true;
+}
+
+void cDefinitionsWindow::RemovePage(cEditorPage& page) {
+    m_Tabs.removeTab(m_Tabs.indexOf(&page));
     // The calendars let go of a schedule before it ends.
     SchedulesChanged();
-    page->deleteLater();
-    return true;
+    page.deleteLater();
 }
 
 void cDefinitionsWindow::closeEvent(QCloseEvent* event) {

@@ -63,7 +63,9 @@ class cDefinitionsWindow : public QMainWindow {
     void OpenRecent(const QString& path);
     void FillRecentMenu();
     void FillEditMenu();
+    void ShowBoth(const QString& path);
     bool ClosePage(int index);
+    void RemovePage(cEditorPage& page);
     bool MayClose(cEditorPage& page);
     void CurrentPageChanged();
     void PageStateChanged();

@@ -1,0 +1,196 @@
+// Files of schedules, calendars and colour rules that other programs change, remove or make meanwhile.
+
+#include <QComboBox>
+#include <QFileInfo>
+#include <functional>
+
+#include "common/binary.h"
+#include "editor_ui/editor_bench.h"
+#include "schedule/definition_files.h"
+#include "support/samples.h"
+
+namespace vigrel::testing {
+namespace {
+
+using eConflict = cPrompts::eConflict;
+
+constexpr const char* kChanged =
+    "mine, theirs, both: Another program has changed the file of \"%1\" since it was read here. Keep your "
+    "version, take the one in the file, or show both?\n";
+constexpr const char* kRemoved =
+    "mine, theirs: Another program has removed the file of \"%1\". Write it again, or remove it here too?\n";
+
+// The bytes of a calendar that gives one day a type.
+std::string CalendarOf(std::int32_t day, std::int16_t value) {
+    cBinaryWriter file;
+    for (std::int32_t i = 0; i < kCalendarDays; ++i) file.Int16(i == day ? value : std::int16_t{0});
+    return file.Bytes();
+}
+
+struct cSharedFile {
+    const char* name;
+    const char* title;
+    std::string first, theirs;
+    std::function<void(cEditorBench&, cEditorPage&)> change;
+};
+
+const cSharedFile kFiles[] = {
+    {"schedule", "a.sch", Sample("schedule.dat"), std::string(kSmallestScheduleFileSize, '\0'),
+     [](cEditorBench&, cEditorPage& page) {
+         QWidget& view = cEditorBench::Find<QWidget>(page, "Picture_TimeSchedule");
+         cEditorBench::Drag(view, {cEditorBench::At(6, 600), cEditorBench::At(6, 700)});
+     }},
+    {"calendar", "a.cal", CalendarOf(0, 8), CalendarOf(1, 9),
+     [](cEditorBench&, cEditorPage& page) {
+         cEditorBench::Find<QComboBox>(page, "Combo_Calendar_DayType").setCurrentIndex(3);
+         cEditorBench::Drag(cEditorBench::Find<QWidget>(page, "Picture_Calendar"), {{170, 60}, {210, 60}});
+     }},
+    {"colours", "ColourRules.txt", "A* | * | * | 0,0,0 | 255,255,255 | 15\r\n",
+     "B* | * | * | 0,0,0 | 255,255,0 | 15\r\n",
+     [](cEditorBench& bench, cEditorPage& page) { bench.Choose(page, "Action_Add"); }},
+};
+
+class SharedFile : public ::testing::TestWithParam<cSharedFile>, protected cEditorBench {
+  protected:
+    SharedFile() {
+        m_Files.Put(Path(), GetParam().first);
+        EXPECT_TRUE(m_Window->OpenFile(QString::fromStdString(Path())));
+    }
+    static std::string Path() { return std::string("/app/") + GetParam().title; }
+    cEditorPage& Page() { return *m_Window->CurrentPage(); }
+    void Change() {
+        GetParam().change(*this, Page());
+        EXPECT_TRUE(Page().IsDirty());
+    }
+    // By another program.
+    void WriteTheirs() { m_Files.WriteFile(Path(), GetParam().theirs, false); }
+    std::string OnDisk() { return m_Files.ReadFile(Path()); }
+    QString Asked() { return std::exchange(m_Prompts.m_Asked, {}); }
+    static QString Of(const char* question) { return QString(question).arg(GetParam().title); }
+    void ComeBack() {
+        m_Window->hide();
+        m_Window->show();
+    }
+};
+
+TEST_P(SharedFile, ThatOthersChangedIsNotReplacedUnasked) {
+    Change();
+    WriteTheirs();
+    EXPECT_FALSE(Page().Save());
+    EXPECT_EQ(Asked(), Of(kChanged));
+    EXPECT_EQ(OnDisk(), GetParam().theirs);
+    EXPECT_TRUE(Page().IsDirty());
+    m_Prompts.m_ConflictAnswers = {eConflict::Mine};
+    EXPECT_TRUE(Page().Save());
+    EXPECT_NE(OnDisk(), GetParam().theirs);
+    EXPECT_FALSE(Page().IsDirty());
+    // What was written here is no change by others.
+    Choose(*m_Window, "Menu_Undo");
+    Asked();
+    EXPECT_TRUE(Page().Save());
+    EXPECT_EQ(Asked(), "");
+    EXPECT_EQ(OnDisk(), GetParam().first);
+}
+
+TEST_P(SharedFile, ThatOthersChangedCanTakeThePlaceOfMineAndBeUndone) {
+    Change();
+    WriteTheirs();
+    m_Prompts.m_ConflictAnswers = {eConflict::Theirs};
+    EXPECT_FALSE(Page().Save());
+    EXPECT_FALSE(Page().IsDirty());
+    EXPECT_TRUE(Page().Save());
+    EXPECT_EQ(OnDisk(), GetParam().theirs);
+    Choose(*m_Window, "Menu_Undo");
+    EXPECT_TRUE(Page().IsDirty());
+    Choose(*m_Window, "Menu_Undo");
+    EXPECT_TRUE(Page().Save());
+    EXPECT_EQ(OnDisk(), GetParam().first);
+}
+
+TEST_P(SharedFile, ThatOthersChangedIsShownBesideMine) {
+    Change();
+    WriteTheirs();
+    m_Prompts.m_ConflictAnswers = {eConflict::Both};
+    EXPECT_FALSE(Page().Save());
+    ASSERT_EQ(m_Window->Pages().size(), 2);
+    EXPECT_TRUE(m_Window->Pages()[0]->IsDirty());
+    EXPECT_EQ(m_Window->Pages()[1], &Page());
+    EXPECT_EQ(Page().Title(), QFileInfo(GetParam().title).completeBaseName() + " 2");
+    EXPECT_EQ(Page().Path(), "");
+    EXPECT_TRUE(Page().IsDirty());
+    m_Prompts.m_Texts = {"/app/theirs"};
+    EXPECT_TRUE(Page().Save());
+    EXPECT_EQ(m_Files.ReadFile("/app/theirs"), GetParam().theirs);
+}
+
+TEST_P(SharedFile, ThatIsGoneIsNotBroughtBackUnasked) {
+    Change();
+    m_Files.RemoveFile(Path());
+    EXPECT_FALSE(Page().Save());
+    EXPECT_EQ(Asked(), Of(kRemoved));
+    EXPECT_FALSE(m_Files.FileExists(Path()));
+    m_Prompts.m_ConflictAnswers = {eConflict::Mine};
+    EXPECT_TRUE(Page().Save());
+    EXPECT_TRUE(m_Files.FileExists(Path()));
+}
+
+TEST_P(SharedFile, ThatIsGoneCanBeLetGo) {
+    Change();
+    m_Files.RemoveFile(Path());
+    m_Prompts.m_ConflictAnswers = {eConflict::Theirs};
+    EXPECT_FALSE(Page().Save());
+    EXPECT_TRUE(m_Window->Pages().empty());
+    EXPECT_FALSE(m_Files.FileExists(Path()));
+}
+
+TEST_P(SharedFile, IsReadAgainWhenThePageIsSeenAgain) {
+    WriteTheirs();
+    ComeBack();
+    EXPECT_FALSE(Page().IsDirty());
+    EXPECT_TRUE(Page().Save());
+    EXPECT_EQ(Asked(), "");
+    EXPECT_EQ(OnDisk(), GetParam().theirs);
+    Choose(*m_Window, "Menu_Undo");
+    EXPECT_TRUE(Page().Save());
+    EXPECT_EQ(OnDisk(), GetParam().first);
+}
+
+TEST_P(SharedFile, WithChangesOfMineStaysAsItIsWhenThePageIsSeenAgain) {
+    Change();
+    WriteTheirs();
+    ComeBack();
+    EXPECT_TRUE(Page().IsDirty());
+    Choose(*m_Window, "Menu_Undo");
+    m_Prompts.m_ConflictAnswers = {eConflict::Mine};
+    EXPECT_TRUE(Page().Save());
+    EXPECT_EQ(OnDisk(), GetParam().first);
+}
+
+TEST_P(SharedFile, ThatCantBeReadAnyMoreIsToldOnceAndStays) {
+    m_Files.WriteFile(Path(), GetParam().theirs, false);
+    m_Files.SetUnreadable(Path(), true);
+    ComeBack();
+    EXPECT_TRUE(Asked().startsWith("failure: ")) << GetParam().name;
+    ComeBack();
+    EXPECT_EQ(Asked(), "");
+}
+
+// Neither loses what the other has saved.
+TEST_P(SharedFile, OfTwoEditorsLosesNothing) {
+    cDefinitionsWindow other(m_Services);
+    other.show();
+    ASSERT_TRUE(other.OpenFile(QString::fromStdString(Path())));
+    Change();
+    GetParam().change(*this, *other.CurrentPage());
+    EXPECT_TRUE(Page().Save());
+    const std::string saved = OnDisk();
+    EXPECT_FALSE(other.CurrentPage()->Save());
+    EXPECT_EQ(Asked(), Of(kChanged));
+    EXPECT_EQ(OnDisk(), saved);
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, SharedFile, ::testing::ValuesIn(kFiles),
+                         [](const auto& file) { return std::string(file.param.name); });
+
+}  // namespace
+}  // namespace vigrel::testing
