@@ -35,6 +35,74 @@
         <source>United Kingdom (Scotland)</source>
         <translation>Großbritannien (Schottland)</translation>
     </message>
+    <message>
+        <source>Austria</source>
+        <translation>Österreich</translation>
+    </message>
+    <message>
+        <source>Germany (Baden-Wuerttemberg)</source>
+        <translation>Deutschland (Baden-Württemberg)</translation>
+    </message>
+    <message>
+        <source>Germany (Bavaria)</source>
+        <translation>Deutschland (Bayern)</translation>
+    </message>
+    <message>
+        <source>Germany (Berlin)</source>
+        <translation>Deutschland (Berlin)</translation>
+    </message>
+    <message>
+        <source>Germany (Brandenburg)</source>
+        <translation>Deutschland (Brandenburg)</translation>
+    </message>
+    <message>
+        <source>Germany (Bremen)</source>
+        <translation>Deutschland (Bremen)</translation>
+    </message>
+    <message>
+        <source>Germany (Hamburg)</source>
+        <translation>Deutschland (Hamburg)</translation>
+    </message>
+    <message>
+        <source>Germany (Hesse)</source>
+        <translation>Deutschland (Hessen)</translation>
+    </message>
+    <message>
+        <source>Germany (Mecklenburg-Western Pomerania)</source>
+        <translation>Deutschland (Mecklenburg-Vorpommern)</translation>
+    </message>
+    <message>
+        <source>Germany (Lower Saxony)</source>
+        <translation>Deutschland (Niedersachsen)</translation>
+    </message>
+    <message>
+        <source>Germany (North Rhine-Westphalia)</source>
+        <translation>Deutschland (Nordrhein-Westfalen)</translation>
+    </message>
+    <message>
+        <source>Germany (Rhineland-Palatinate)</source>
+        <translation>Deutschland (Rheinland-Pfalz)</translation>
+    </message>
+    <message>
+        <source>Germany (Saarland)</source>
+        <translation>Deutschland (Saarland)</translation>
+    </message>
+    <message>
+        <source>Germany (Saxony)</source>
+        <translation>Deutschland (Sachsen)</translation>
+    </message>
+    <message>
+        <source>Germany (Saxony-Anhalt)</source>
+        <translation>Deutschland (Sachsen-Anhalt)</translation>
+    </message>
+    <message>
+        <source>Germany (Schleswig-Holstein)</source>
+        <translation>Deutschland (Schleswig-Holstein)</translation>
+    </message>
+    <message>
+        <source>Germany (Thuringia)</source>
+        <translation>Deutschland (Thüringen)</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -240,6 +308,65 @@
     </message>
 </context>
 <context>
+    <name>vigrel::cActiveDayView</name>
+    <message>
+        <source>No&amp;w</source>
+        <translation>J&amp;etzt</translation>
+    </message>
+    <message>
+        <source>&amp;Date:</source>
+        <translation>Dat&amp;um:</translation>
+    </message>
+    <message>
+        <source>T&amp;ime:</source>
+        <translation>Uhr&amp;zeit:</translation>
+    </message>
+    <message>
+        <source>Day type: %1, by the calendar</source>
+        <translation>Tagestyp: %1, nach dem Kalender</translation>
+    </message>
+    <message>
+        <source>Day type: %1, by the weekday: the calendar gives %2, which the schedule doesn&apos;t use</source>
+        <translation>Tagestyp: %1, nach dem Wochentag: der Kalender nennt %2, und den benutzt das Zeitprogramm nicht</translation>
+    </message>
+    <message>
+        <source>Day type: %1, by the weekday: the calendar says nothing of the date</source>
+        <translation>Tagestyp: %1, nach dem Wochentag: der Kalender sagt nichts über das Datum</translation>
+    </message>
+    <message>
+        <source>%1: active until %2</source>
+        <translation>%1: aktiv bis %2</translation>
+    </message>
+    <message>
+        <source>%1: not active until %2</source>
+        <translation>%1: nicht aktiv bis %2</translation>
+    </message>
+    <message>
+        <source>In a group with: %1</source>
+        <translation>In einer Gruppe mit: %1</translation>
+    </message>
+    <message>
+        <source>Periods: %1</source>
+        <translation>Zeiträume: %1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>The schedule doesn&apos;t use this day type: nothing is active.</source>
+        <translation>Das Zeitprogramm benutzt diesen Tagestyp nicht: Nichts ist aktiv.</translation>
+    </message>
+    <message>
+        <source>The profile doesn&apos;t use its schedule.</source>
+        <translation>Das Profil benutzt sein Zeitprogramm nicht.</translation>
+    </message>
+    <message>
+        <source>The day&apos;s 24 hours</source>
+        <translation>Die 24 Stunden des Tages</translation>
+    </message>
+</context>
+<context>
     <name>vigrel::cCalendarEditor</name>
     <message>
         <source>Show the day&apos;s &amp;periods</source>
@@ -340,6 +467,14 @@
     <message>
         <source>clearing the calendar</source>
         <translation>Leeren des Kalenders</translation>
+    </message>
+    <message>
+        <source>Cop&amp;y the year to the next</source>
+        <translation>Jahr ins &amp;nächste kopieren</translation>
+    </message>
+    <message>
+        <source>copying a year</source>
+        <translation>Kopieren eines Jahres</translation>
     </message>
 </context>
 <context>
@@ -1034,6 +1169,10 @@ Programmordner: %3</translation>
     <message>
         <source>systems</source>
         <translation>Systeme</translation>
+    </message>
+    <message>
+        <source>Active when?</source>
+        <translation>Wann aktiv?</translation>
     </message>
 </context>
 <context>

@@ -35,6 +35,74 @@
         <source>United Kingdom (Scotland)</source>
         <translation>Iso-Britannia (Skotlanti)</translation>
     </message>
+    <message>
+        <source>Austria</source>
+        <translation>Itävalta</translation>
+    </message>
+    <message>
+        <source>Germany (Baden-Wuerttemberg)</source>
+        <translation>Saksa (Baden-Württemberg)</translation>
+    </message>
+    <message>
+        <source>Germany (Bavaria)</source>
+        <translation>Saksa (Baijeri)</translation>
+    </message>
+    <message>
+        <source>Germany (Berlin)</source>
+        <translation>Saksa (Berliini)</translation>
+    </message>
+    <message>
+        <source>Germany (Brandenburg)</source>
+        <translation>Saksa (Brandenburg)</translation>
+    </message>
+    <message>
+        <source>Germany (Bremen)</source>
+        <translation>Saksa (Bremen)</translation>
+    </message>
+    <message>
+        <source>Germany (Hamburg)</source>
+        <translation>Saksa (Hampuri)</translation>
+    </message>
+    <message>
+        <source>Germany (Hesse)</source>
+        <translation>Saksa (Hessen)</translation>
+    </message>
+    <message>
+        <source>Germany (Mecklenburg-Western Pomerania)</source>
+        <translation>Saksa (Mecklenburg-Etu-Pommeri)</translation>
+    </message>
+    <message>
+        <source>Germany (Lower Saxony)</source>
+        <translation>Saksa (Ala-Saksi)</translation>
+    </message>
+    <message>
+        <source>Germany (North Rhine-Westphalia)</source>
+        <translation>Saksa (Nordrhein-Westfalen)</translation>
+    </message>
+    <message>
+        <source>Germany (Rhineland-Palatinate)</source>
+        <translation>Saksa (Rheinland-Pfalz)</translation>
+    </message>
+    <message>
+        <source>Germany (Saarland)</source>
+        <translation>Saksa (Saarland)</translation>
+    </message>
+    <message>
+        <source>Germany (Saxony)</source>
+        <translation>Saksa (Saksi)</translation>
+    </message>
+    <message>
+        <source>Germany (Saxony-Anhalt)</source>
+        <translation>Saksa (Saksi-Anhalt)</translation>
+    </message>
+    <message>
+        <source>Germany (Schleswig-Holstein)</source>
+        <translation>Saksa (Schleswig-Holstein)</translation>
+    </message>
+    <message>
+        <source>Germany (Thuringia)</source>
+        <translation>Saksa (Thüringen)</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -240,6 +308,65 @@
     </message>
 </context>
 <context>
+    <name>vigrel::cActiveDayView</name>
+    <message>
+        <source>No&amp;w</source>
+        <translation>N&amp;yt</translation>
+    </message>
+    <message>
+        <source>&amp;Date:</source>
+        <translation>&amp;Päivä:</translation>
+    </message>
+    <message>
+        <source>T&amp;ime:</source>
+        <translation>&amp;Kellonaika:</translation>
+    </message>
+    <message>
+        <source>Day type: %1, by the calendar</source>
+        <translation>Päivätyyppi: %1, kalenterin mukaan</translation>
+    </message>
+    <message>
+        <source>Day type: %1, by the weekday: the calendar gives %2, which the schedule doesn&apos;t use</source>
+        <translation>Päivätyyppi: %1, viikonpäivän mukaan: kalenteri antaa %2, jota aikaohjelma ei käytä</translation>
+    </message>
+    <message>
+        <source>Day type: %1, by the weekday: the calendar says nothing of the date</source>
+        <translation>Päivätyyppi: %1, viikonpäivän mukaan: kalenteri ei sano päivästä mitään</translation>
+    </message>
+    <message>
+        <source>%1: active until %2</source>
+        <translation>%1: voimassa, muuttuu %2</translation>
+    </message>
+    <message>
+        <source>%1: not active until %2</source>
+        <translation>%1: ei voimassa, muuttuu %2</translation>
+    </message>
+    <message>
+        <source>In a group with: %1</source>
+        <translation>Samassa ryhmässä: %1</translation>
+    </message>
+    <message>
+        <source>Periods: %1</source>
+        <translation>Jaksot: %1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ei mitään</translation>
+    </message>
+    <message>
+        <source>The schedule doesn&apos;t use this day type: nothing is active.</source>
+        <translation>Aikaohjelma ei käytä tätä päivätyyppiä: mikään ei ole voimassa.</translation>
+    </message>
+    <message>
+        <source>The profile doesn&apos;t use its schedule.</source>
+        <translation>Profiili ei käytä aikaohjelmaansa.</translation>
+    </message>
+    <message>
+        <source>The day&apos;s 24 hours</source>
+        <translation>Päivän 24 tuntia</translation>
+    </message>
+</context>
+<context>
     <name>vigrel::cCalendarEditor</name>
     <message>
         <source>Show the day&apos;s &amp;periods</source>
@@ -340,6 +467,14 @@
     <message>
         <source>clearing the calendar</source>
         <translation>kalenterin tyhjennys</translation>
+    </message>
+    <message>
+        <source>Cop&amp;y the year to the next</source>
+        <translation>K&amp;opioi vuosi seuraavaan</translation>
+    </message>
+    <message>
+        <source>copying a year</source>
+        <translation>vuoden kopiointi</translation>
     </message>
 </context>
 <context>
@@ -1034,6 +1169,10 @@ Ohjelman kansio: %3</translation>
     <message>
         <source>systems</source>
         <translation>järjestelmät</translation>
+    </message>
+    <message>
+        <source>Active when?</source>
+        <translation>Milloin voimassa?</translation>
     </message>
 </context>
 <context>

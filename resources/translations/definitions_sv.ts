@@ -35,6 +35,74 @@
         <source>United Kingdom (Scotland)</source>
         <translation>Storbritannien (Skottland)</translation>
     </message>
+    <message>
+        <source>Austria</source>
+        <translation>Österrike</translation>
+    </message>
+    <message>
+        <source>Germany (Baden-Wuerttemberg)</source>
+        <translation>Tyskland (Baden-Württemberg)</translation>
+    </message>
+    <message>
+        <source>Germany (Bavaria)</source>
+        <translation>Tyskland (Bayern)</translation>
+    </message>
+    <message>
+        <source>Germany (Berlin)</source>
+        <translation>Tyskland (Berlin)</translation>
+    </message>
+    <message>
+        <source>Germany (Brandenburg)</source>
+        <translation>Tyskland (Brandenburg)</translation>
+    </message>
+    <message>
+        <source>Germany (Bremen)</source>
+        <translation>Tyskland (Bremen)</translation>
+    </message>
+    <message>
+        <source>Germany (Hamburg)</source>
+        <translation>Tyskland (Hamburg)</translation>
+    </message>
+    <message>
+        <source>Germany (Hesse)</source>
+        <translation>Tyskland (Hessen)</translation>
+    </message>
+    <message>
+        <source>Germany (Mecklenburg-Western Pomerania)</source>
+        <translation>Tyskland (Mecklenburg-Vorpommern)</translation>
+    </message>
+    <message>
+        <source>Germany (Lower Saxony)</source>
+        <translation>Tyskland (Niedersachsen)</translation>
+    </message>
+    <message>
+        <source>Germany (North Rhine-Westphalia)</source>
+        <translation>Tyskland (Nordrhein-Westfalen)</translation>
+    </message>
+    <message>
+        <source>Germany (Rhineland-Palatinate)</source>
+        <translation>Tyskland (Rheinland-Pfalz)</translation>
+    </message>
+    <message>
+        <source>Germany (Saarland)</source>
+        <translation>Tyskland (Saarland)</translation>
+    </message>
+    <message>
+        <source>Germany (Saxony)</source>
+        <translation>Tyskland (Sachsen)</translation>
+    </message>
+    <message>
+        <source>Germany (Saxony-Anhalt)</source>
+        <translation>Tyskland (Sachsen-Anhalt)</translation>
+    </message>
+    <message>
+        <source>Germany (Schleswig-Holstein)</source>
+        <translation>Tyskland (Schleswig-Holstein)</translation>
+    </message>
+    <message>
+        <source>Germany (Thuringia)</source>
+        <translation>Tyskland (Thüringen)</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -240,6 +308,65 @@
     </message>
 </context>
 <context>
+    <name>vigrel::cActiveDayView</name>
+    <message>
+        <source>No&amp;w</source>
+        <translation>N&amp;u</translation>
+    </message>
+    <message>
+        <source>&amp;Date:</source>
+        <translation>Datu&amp;m:</translation>
+    </message>
+    <message>
+        <source>T&amp;ime:</source>
+        <translation>T&amp;id:</translation>
+    </message>
+    <message>
+        <source>Day type: %1, by the calendar</source>
+        <translation>Dagtyp: %1, enligt kalendern</translation>
+    </message>
+    <message>
+        <source>Day type: %1, by the weekday: the calendar gives %2, which the schedule doesn&apos;t use</source>
+        <translation>Dagtyp: %1, enligt veckodagen: kalendern anger %2, som schemat inte använder</translation>
+    </message>
+    <message>
+        <source>Day type: %1, by the weekday: the calendar says nothing of the date</source>
+        <translation>Dagtyp: %1, enligt veckodagen: kalendern säger inget om datumet</translation>
+    </message>
+    <message>
+        <source>%1: active until %2</source>
+        <translation>%1: aktiv till %2</translation>
+    </message>
+    <message>
+        <source>%1: not active until %2</source>
+        <translation>%1: inte aktiv till %2</translation>
+    </message>
+    <message>
+        <source>In a group with: %1</source>
+        <translation>I grupp med: %1</translation>
+    </message>
+    <message>
+        <source>Periods: %1</source>
+        <translation>Perioder: %1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ingen</translation>
+    </message>
+    <message>
+        <source>The schedule doesn&apos;t use this day type: nothing is active.</source>
+        <translation>Schemat använder inte denna dagtyp: inget är aktivt.</translation>
+    </message>
+    <message>
+        <source>The profile doesn&apos;t use its schedule.</source>
+        <translation>Profilen använder inte sitt schema.</translation>
+    </message>
+    <message>
+        <source>The day&apos;s 24 hours</source>
+        <translation>Dagens 24 timmar</translation>
+    </message>
+</context>
+<context>
     <name>vigrel::cCalendarEditor</name>
     <message>
         <source>Show the day&apos;s &amp;periods</source>
@@ -340,6 +467,14 @@
     <message>
         <source>clearing the calendar</source>
         <translation>tömning av kalendern</translation>
+    </message>
+    <message>
+        <source>Cop&amp;y the year to the next</source>
+        <translation>&amp;Kopiera året till nästa</translation>
+    </message>
+    <message>
+        <source>copying a year</source>
+        <translation>kopiering av ett år</translation>
     </message>
 </context>
 <context>
@@ -1034,6 +1169,10 @@ Programmets mapp: %3</translation>
     <message>
         <source>systems</source>
         <translation>system</translation>
+    </message>
+    <message>
+        <source>Active when?</source>
+        <translation>Aktiv när?</translation>
     </message>
 </context>
 <context>

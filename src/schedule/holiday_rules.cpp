@@ -6,7 +6,7 @@
 namespace vigrel {
 namespace {
 
-constexpr int kMonday = 0, kFriday = 4, kSaturday = 5;
+constexpr int kMonday = 0, kWednesday = 2, kFriday = 4, kSaturday = 5;
 
 // Whit Monday gave way to the national day in 2005.
 constexpr std::array kSweden{
@@ -98,6 +98,62 @@ constexpr std::array kGermany{
     Fixed(12, 31, "Silvester").NameOnly(),
 };
 
+// What the states have besides. What only some of a state's communities keep has a name alone.
+constexpr std::string_view kEpiphany = "Heilige Drei Könige", kCorpusChristi = "Fronleichnam",
+                           kAssumption = "Mariä Himmelfahrt", kReformation = "Reformationstag",
+                           kAllSaints = "Allerheiligen", kWomensDay = "Internationaler Frauentag",
+                           kLiberation = "Tag der Befreiung";
+
+constexpr std::array kBadenWuerttemberg{Fixed(1, 6, kEpiphany), FromEaster(60, kCorpusChristi),
+                                        Fixed(11, 1, kAllSaints)};
+constexpr std::array kBavaria{Fixed(1, 6, kEpiphany), FromEaster(60, kCorpusChristi),
+                              Fixed(8, 15, kAssumption).NameOnly(), Fixed(11, 1, kAllSaints)};
+// The days of 2020, 2025 and 2028 are of those years alone.
+constexpr std::array kBerlin{Fixed(3, 8, kWomensDay).From(2019), Fixed(5, 8, kLiberation).In(2020),
+                             Fixed(5, 8, kLiberation).In(2025),
+                             Fixed(6, 17, "Jahrestag des Aufstandes vom 17. Juni 1953").In(2028)};
+constexpr std::array kBrandenburg{FromEaster(0, "Ostersonntag"), FromEaster(49, "Pfingstsonntag"),
+                                  Fixed(10, 31, kReformation).Until(2016),
+                                  Fixed(10, 31, kReformation).From(2018)};
+constexpr std::array kHesse{FromEaster(60, kCorpusChristi)};
+constexpr std::array kMecklenburg{Fixed(3, 8, kWomensDay).From(2023), Fixed(10, 31, kReformation).Until(2016),
+                                  Fixed(10, 31, kReformation).From(2018)};
+constexpr std::array kRhineland{FromEaster(60, kCorpusChristi), Fixed(11, 1, kAllSaints)};
+constexpr std::array kSaarland{FromEaster(60, kCorpusChristi), Fixed(8, 15, kAssumption),
+                               Fixed(11, 1, kAllSaints)};
+constexpr std::array kSaxony{FromEaster(60, kCorpusChristi).NameOnly(),
+                             Fixed(10, 31, kReformation).Until(2016), Fixed(10, 31, kReformation).From(2018),
+                             OnOrFrom(kWednesday, 11, 16, "Buß- und Bettag")};
+constexpr std::array kSaxonyAnhalt{Fixed(1, 6, kEpiphany), Fixed(10, 31, kReformation).Until(2016),
+                                   Fixed(10, 31, kReformation).From(2018)};
+constexpr std::array kThuringia{
+    FromEaster(60, kCorpusChristi).NameOnly(), Fixed(9, 20, "Weltkindertag").From(2019),
+    Fixed(10, 31, kReformation).Until(2016), Fixed(10, 31, kReformation).From(2018)};
+// Bremen, Hamburg, Lower Saxony, Schleswig-Holstein.
+constexpr std::array kTheNorth{Fixed(10, 31, kReformation).From(2018)};
+
+// One law for all of its states. Good Friday was free for Protestants until 2018.
+constexpr std::array kAustria{
+    Fixed(1, 1, "Neujahr"),
+    Fixed(1, 6, kEpiphany),
+    FromEaster(-2, "Karfreitag").NameOnly(),
+    FromEaster(0, "Ostersonntag").NameOnly(),
+    FromEaster(1, "Ostermontag"),
+    Fixed(5, 1, "Staatsfeiertag"),
+    FromEaster(39, "Christi Himmelfahrt"),
+    FromEaster(49, "Pfingstsonntag").NameOnly(),
+    FromEaster(50, "Pfingstmontag"),
+    FromEaster(60, kCorpusChristi),
+    Fixed(8, 15, kAssumption),
+    Fixed(10, 26, "Nationalfeiertag"),
+    Fixed(11, 1, kAllSaints),
+    Fixed(12, 8, "Mariä Empfängnis"),
+    Fixed(12, 24, "Heiliger Abend").NameOnly(),
+    Fixed(12, 25, "Christtag"),
+    Fixed(12, 26, "Stefanitag"),
+    Fixed(12, 31, "Silvester").NameOnly(),
+};
+
 // What all of the United Kingdom shares. The bank holidays in May were moved for jubilees and anniversaries.
 constexpr std::array kUnitedKingdom{
     Fixed(1, 1, "New Year's Day").WithSubstitute(),
@@ -150,7 +206,24 @@ struct cCountryRules {
 };
 
 constexpr std::array kCountries{
+    cCountryRules{{"AT", "Austria"}, {}, kAustria},
     cCountryRules{{"DE", "Germany"}, {}, kGermany},
+    cCountryRules{{"DE-BW", "Germany (Baden-Wuerttemberg)"}, kGermany, kBadenWuerttemberg},
+    cCountryRules{{"DE-BY", "Germany (Bavaria)"}, kGermany, kBavaria},
+    cCountryRules{{"DE-BE", "Germany (Berlin)"}, kGermany, kBerlin},
+    cCountryRules{{"DE-BB", "Germany (Brandenburg)"}, kGermany, kBrandenburg},
+    cCountryRules{{"DE-HB", "Germany (Bremen)"}, kGermany, kTheNorth},
+    cCountryRules{{"DE-HH", "Germany (Hamburg)"}, kGermany, kTheNorth},
+    cCountryRules{{"DE-HE", "Germany (Hesse)"}, kGermany, kHesse},
+    cCountryRules{{"DE-MV", "Germany (Mecklenburg-Western Pomerania)"}, kGermany, kMecklenburg},
+    cCountryRules{{"DE-NI", "Germany (Lower Saxony)"}, kGermany, kTheNorth},
+    cCountryRules{{"DE-NW", "Germany (North Rhine-Westphalia)"}, kGermany, kRhineland},
+    cCountryRules{{"DE-RP", "Germany (Rhineland-Palatinate)"}, kGermany, kRhineland},
+    cCountryRules{{"DE-SL", "Germany (Saarland)"}, kGermany, kSaarland},
+    cCountryRules{{"DE-SN", "Germany (Saxony)"}, kGermany, kSaxony},
+    cCountryRules{{"DE-ST", "Germany (Saxony-Anhalt)"}, kGermany, kSaxonyAnhalt},
+    cCountryRules{{"DE-SH", "Germany (Schleswig-Holstein)"}, kGermany, kTheNorth},
+    cCountryRules{{"DE-TH", "Germany (Thuringia)"}, kGermany, kThuringia},
     cCountryRules{{"DK", "Denmark"}, {}, kDenmark},
     cCountryRules{{"FI", "Finland"}, {}, kFinland},
     cCountryRules{{"NO", "Norway"}, {}, kNorway},

@@ -211,6 +211,48 @@ TEST_F(CalendarPage, WithoutACountryOrATypeNoHolidayIsPainted) {
     EXPECT_FALSE(m_Page.IsDirty());
 }
 
+TEST_F(CalendarPage, UndoTurnsToTheMonthThatItChanges) {
+    m_Page.Editor().ShowMonth(2026, 6);
+    Combo("Combo_Calendar_DayType").setCurrentIndex(8);
+    Drag(View(), {Cell(0, 0)});
+    m_Page.Editor().ShowMonth(2031, 2);
+    Choose(*m_Window, "Menu_Undo");
+    EXPECT_EQ(Month(), "June 2026");
+    m_Page.Editor().ShowMonth(2031, 2);
+    Choose(*m_Window, "Menu_Redo");
+    EXPECT_EQ(Month(), "June 2026");
+    // The keyboard's day is that of the change.
+    Key(Qt::Key_Right);
+    Key(Qt::Key_Space);
+    EXPECT_EQ(Value(2026, 6, 2), 8);
+}
+
+TEST_F(CalendarPage, UndoStaysInAMonthThatItChanges) {
+    Combo("Combo_Calendar_DayType").setCurrentIndex(8);
+    Combo("Combo_Calendar_Holidays").setCurrentIndex(Combo("Combo_Calendar_Holidays").findData("DE-BW"));
+    emit Combo("Combo_Calendar_Holidays").activated(0);
+    Choose(*m_Window, "Menu_Calendar_HolidaysOfYear");
+    EXPECT_EQ(Value(2026, 11, 1), 8);
+    m_Page.Editor().ShowMonth(2026, 5);
+    Choose(*m_Window, "Menu_Undo");
+    EXPECT_EQ(Month(), "May 2026");
+    EXPECT_EQ(Value(2026, 5, 1), 0);
+}
+
+TEST_F(CalendarPage, AYearIsCopiedToTheNextInOneStep) {
+    m_Page.Editor().ShowMonth(2026, 6);
+    Combo("Combo_Calendar_DayType").setCurrentIndex(8);
+    Drag(View(), {Cell(0, 0)});
+    Choose(*m_Window, "Menu_Calendar_CopyYear");
+    EXPECT_EQ(Month(), "June 2027");
+    EXPECT_EQ(Value(2027, 6, 1), 8);
+    Choose(*m_Window, "Menu_Undo");
+    EXPECT_EQ(Value(2027, 6, 1), 0);
+    m_Page.Editor().ShowMonth(2039, 6);
+    Choose(*m_Window, "Menu_Calendar_CopyYear");
+    EXPECT_EQ(Month(), "June 2039");
+}
+
 TEST_F(CalendarPage, TheTimeAxisIsThatOfTheChosenSchedule) {
     cSchedulePage& schedule = NewSchedule();
     m_Page.Editor().ShowMonth(2026, 6);

@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <cmath>
 
 #include "adapters/qt/qt_text.h"
@@ -27,7 +28,24 @@ constexpr int kFontSize = 10;
 
 // Of the calendar's own table, for those who translate.
 [[maybe_unused]] constexpr const char* kCountries[] = {
+    QT_TRANSLATE_NOOP("Country", "Austria"),
     QT_TRANSLATE_NOOP("Country", "Germany"),
+    QT_TRANSLATE_NOOP("Country", "Germany (Baden-Wuerttemberg)"),
+    QT_TRANSLATE_NOOP("Country", "Germany (Bavaria)"),
+    QT_TRANSLATE_NOOP("Country", "Germany (Berlin)"),
+    QT_TRANSLATE_NOOP("Country", "Germany (Brandenburg)"),
+    QT_TRANSLATE_NOOP("Country", "Germany (Bremen)"),
+    QT_TRANSLATE_NOOP("Country", "Germany (Hamburg)"),
+    QT_TRANSLATE_NOOP("Country", "Germany (Hesse)"),
+    QT_TRANSLATE_NOOP("Country", "Germany (Mecklenburg-Western Pomerania)"),
+    QT_TRANSLATE_NOOP("Country", "Germany (Lower Saxony)"),
+    QT_TRANSLATE_NOOP("Country", "Germany (North Rhine-Westphalia)"),
+    QT_TRANSLATE_NOOP("Country", "Germany (Rhineland-Palatinate)"),
+    QT_TRANSLATE_NOOP("Country", "Germany (Saarland)"),
+    QT_TRANSLATE_NOOP("Country", "Germany (Saxony)"),
+    QT_TRANSLATE_NOOP("Country", "Germany (Saxony-Anhalt)"),
+    QT_TRANSLATE_NOOP("Country", "Germany (Schleswig-Holstein)"),
+    QT_TRANSLATE_NOOP("Country", "Germany (Thuringia)"),
     QT_TRANSLATE_NOOP("Country", "Denmark"),
     QT_TRANSLATE_NOOP("Country", "Finland"),
     QT_TRANSLATE_NOOP("Country", "Norway"),
@@ -119,6 +137,8 @@ QWidget* cCalendarEditor::MakeToolBox() {
     m_DayType.setMaxVisibleItems(kEntries);
     m_DayType.setPlaceholderText(tr("None chosen"));
     m_Country.setObjectName("Combo_Calendar_Holidays");
+    // The longest name of a country's part must not set the width of the window.
+    m_Country.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     m_Schedule.setObjectName("Combo_Calendar_TimeSchedule");
     m_ShowTimeAxis.setObjectName("Check_Calendar_ShowTimeAxis");
     form->addRow(tr("Day &type to paint"), &m_DayType);
@@ -270,8 +290,27 @@ void cCalendarEditor::EndStroke() {
 void cCalendarEditor::Restore(const std::string& state) {
     EndStroke();
     cBinaryReader reader(state);
-    for (std::int32_t i = 0; i < kCalendarDays; ++i) m_Calendar.SetDayType(i, reader.Int16());
+    std::vector<std::int32_t> changed;
+    for (std::int32_t i = 0; i < kCalendarDays; ++i) {
+        const std::int16_t value = reader.Int16();
+        if (value == m_Calendar.GetDayType(i)) continue;
+        m_Calendar.SetDayType(i, value);
+        changed.push_back(i);
+    }
+    ShowAnyOf(changed);
     m_View.update();
+}
+
+// Turns to the first of the days, unless the month shows one of them.
+void cCalendarEditor::ShowAnyOf(const std::vector<std::int32_t>& days) {
+    const std::int32_t first = m_Calendar.m_ActualMonthOffset;
+    const auto shown = std::find_if(days.begin(), days.end(), [&](std::int32_t day) {
+        return day >= first && day < first + m_Calendar.m_DaysInActualMonth;
+    });
+    if (days.empty()) return;
+    const cDateParts date = SplitDateTime((shown == days.end() ? days.front() : *shown) + kFirstCalendarDay);
+    m_Day = date.day - 1;
+    if (shown == days.end()) ShowMonth(date.year, date.month);
 }
 
 // The drawing stays light where the desktop is dark.

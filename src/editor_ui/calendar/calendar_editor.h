@@ -87,10 +87,12 @@ class cCalendarEditor : public cContentEditor, private cCalendarContainer {
     void MoveMonth(int months);
     void ShowToday();
     void ShowChosenMonth();
+    void ShowAnyOf(const std::vector<std::int32_t>& days);
     void TakeCountry();
     void TakeSchedule();
     void TakeSelectedType(bool allYears);
     void ClearYear();
+    void CopyYear();
     bool IsShownYear(std::int32_t day) const;
     void PaintFocus(QPainter& painter);
 

@@ -7,6 +7,7 @@
 #include "editor_ui/calendar/calendar_editor.h"
 #include "editor_ui/pages/editor_action.h"
 #include "schedule/calendar_geometry.h"
+#include "schedule/calendar_year.h"
 
 namespace vigrel {
 
@@ -17,6 +18,7 @@ void cCalendarEditor::MakeActions() {
         MakeAction("HolidaysOfAllYears", tr("Give &all years' holidays the chosen day type"), {},
                    [this] { TakeSelectedType(true); }),
         nullptr,
+        MakeAction("CopyYear", tr("Cop&y the year to the next"), {}, [this] { CopyYear(); }),
         MakeAction("ClearYear", tr("&Clear the year"), {}, [this] { ClearYear(); }),
     };
 }
@@ -174,6 +176,12 @@ void cCalendarEditor::ClearYear() {
         }
     });
     m_View.update();
+}
+
+void cCalendarEditor::CopyYear() {
+    const int year = m_Calendar.m_SelectedYear;
+    Edit(tr("copying a year"), [&] { CopyToNextYear(m_Calendar, m_Holidays, year); });
+    if (year < kLastCalendarYear) ShowMonth(year + 1, m_Calendar.m_SelectedMonth);
 }
 
 bool cCalendarEditor::IsShownYear(std::int32_t day) const {
