@@ -3,6 +3,8 @@
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDateEdit>
+#include <QImage>
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
@@ -105,14 +107,14 @@ TEST_F(ProfilesPage, EveryFieldIsWrittenWhereItIsReadFrom) {
     ShowTab(3);
     Press(Page(), "Check_UseTimeSchedule");
     Press(Page(), "Check_TimeSchedule_ViewDayType");
-    ShowTab(4);
+    ShowTab(6);
     Press(Page(), "Check_UseExternalTag");
     Type(Page(), "Text_ExternalTagName", "tag");
     Press(Page(), "Check_IgnoreExternalTag");
     Press(Page(), "Check_UseExternalFile");
     Type(Page(), "Text_ExternalFileName", "file");
     Type(Page(), "Text_ExternalFileText", "text");
-    ShowTab(5);
+    ShowTab(7);
     Press(Page(), "Check_ScanSpecificSystems");
     Press(Page(), "Check_System_0");
     Press(Page(), "Check_System_62");
@@ -144,13 +146,13 @@ TEST_F(ProfilesPage, EveryFieldIsWrittenWhereItIsReadFrom) {
 }
 
 TEST_F(ProfilesPage, ShowingAProfileChangesNothing) {
-    for (int tab = 0; tab < 6; ++tab) ShowTab(tab);
+    for (int tab = 0; tab < 8; ++tab) ShowTab(tab);
     EXPECT_FALSE(Page().IsDirty());
     EXPECT_FALSE(Shown().HasChangedSinceLastLoadFromDisk());
 }
 
 TEST_F(ProfilesPage, AllSystemsAreSetOrClearedAtOnce) {
-    ShowTab(5);
+    ShowTab(7);
     Press(Page(), "Button_Systems_All");
     for (std::int16_t i = 0; i < 64; ++i) EXPECT_NE(Shown().GetSystem(i), 0) << i;
     EXPECT_EQ(Shown().GetSystem(63), 3);
@@ -206,10 +208,10 @@ TEST_F(ProfilesPage, EveryEditIsUndoneWhereItWasMade) {
     Press(Page(), "Check_TimeSchedule_UseCalendar");
     ShowTab(4);
     MarkADay(*Page().findChild<cCalendarEditor*>());
-    ShowTab(6);
+    ShowTab(7);
     Press(Page(), "Check_System_0");
     Press(Page(), "Button_Systems_All");
-    const std::vector<int> expected{6, 6, 4, 3, 2, 1};
+    const std::vector<int> expected{7, 7, 4, 3, 2, 1};
     std::vector<int> shown;
     while (Page().UndoStack()->canUndo()) {
         ShowTab(0);
@@ -349,6 +351,67 @@ TEST_F(ProfilesPage, ACalendarThatOthersChangedIsReadAgain) {
     EXPECT_FALSE(Page().IsDirty());
 }
 
+TEST_F(ProfilesPage, ADayIsAnsweredForWithItsReason) {
+    Shown().m_TimeSchedule = std::make_unique<cTimeSchedule>();
+    Shown().m_TimeSchedule->SetDefaultPeriod();
+    Shown().m_TimeSchedule->m_UseCalendar = True16;
+    std::string periods;
+    Shown().m_TimeSchedule->ComposePeriodArray(periods);
+    // Friday, 25 December 2026, is of the first special type.
+    std::string calendar(29220, '\0');
+    calendar[2 * 9855] = 8;
+    Put("Calendar.cal", calendar);
+    ASSERT_TRUE(Page().findChild<cFileDocument*>()->Open(Path("Calendar.cal")));
+    Page().Choose(Page().Chosen());
+    ShowTab(5);
+    auto* date = Find<QDateEdit>(Page(), "Date_ActiveDay");
+    auto* time = Find<QTimeEdit>(Page(), "Time_ActiveDay");
+    time->setTime({10, 30});
+    date->setDate({2026, 12, 24});
+    EXPECT_EQ(LabelOf(Page(), "Label_ActiveDay_Answer"), "10:30: active until 16:00");
+    EXPECT_EQ(LabelOf(Page(), "Label_ActiveDay_Reason"),
+              "Day type: Thursday, by the weekday: the calendar says nothing of the date\n"
+              "In a group with: Monday, Tuesday, Wednesday, Friday\nPeriods: 07:00-16:00");
+    date->setDate({2026, 12, 25});
+    EXPECT_EQ(LabelOf(Page(), "Label_ActiveDay_Reason"),
+              "Day type: Friday, by the weekday: the calendar gives Special day type 1, which the schedule "
+              "doesn't use\nIn a group with: Monday, Tuesday, Wednesday, Thursday\nPeriods: 07:00-16:00");
+    Shown().m_TimeSchedule->SetActive(7, True16);
+    Page().Choose(Page().Chosen());
+    EXPECT_EQ(LabelOf(Page(), "Label_ActiveDay_Answer"), "10:30: not active until 24:00");
+    EXPECT_EQ(LabelOf(Page(), "Label_ActiveDay_Reason"),
+              "Day type: Special day type 1, by the calendar\nPeriods: none");
+    Shown().m_UseTimeSchedule = False16;
+    Shown().m_TimeSchedule->SetActive(5, False16);
+    Page().Choose(Page().Chosen());
+    date->setDate({2026, 12, 26});
+    EXPECT_EQ(LabelOf(Page(), "Label_ActiveDay_Reason"),
+              "Day type: Saturday, by the weekday: the calendar says nothing of the date\n"
+              "The schedule doesn't use this day type: nothing is active.\n"
+              "The profile doesn't use its schedule.");
+    Press(Page(), "Button_ActiveDay_Now");
+    EXPECT_EQ(date->date(), QDate(2026, 3, 15));
+}
+
+TEST_F(ProfilesPage, TheActiveHoursAreALineOfTheDay) {
+    Shown().m_UseTimeSchedule = True16;
+    Shown().m_TimeSchedule = std::make_unique<cTimeSchedule>();
+    Shown().m_TimeSchedule->SetDefaultPeriod();
+    Page().Choose(Page().Chosen());
+    ShowTab(5);
+    Find<QDateEdit>(Page(), "Date_ActiveDay")->setDate({2026, 3, 16});
+    Find<QTimeEdit>(Page(), "Time_ActiveDay")->setTime({23, 0});
+    auto* line = Find<QWidget>(Page(), "Picture_ActiveDay");
+    EXPECT_GT(line->width(), 400);
+    const QImage image = line->grab().toImage();
+    const auto at = [&](int minute) {
+        return image.pixelColor(image.width() * minute / 1440, image.height() * 3 / 4);
+    };
+    EXPECT_EQ(at(10 * 60 + 30), QColor(0, 150, 60));
+    EXPECT_EQ(at(5 * 60 + 30), QColor(220, 220, 220));
+    EXPECT_EQ(at(19 * 60 + 30), QColor(220, 220, 220));
+}
+
 TEST_F(ProfilesPage, AVersion4FileIsToldAsBroughtUp) {
     PutSample("Profiles\\Profile_0012.dat", "profile_version_4.dat");
     // The profile and one of the receivers.
@@ -366,7 +429,7 @@ TEST_F(ProfilesPage, TheListShowsTheConditions) {
 TEST_F(ProfilesPage, InASmallWindowEveryFieldIsReachedAndTheTabsStayInSight) {
     Page().resize(560, 320);
     auto* tabs = Find<QTabWidget>(Page(), "Tabs_Profile");
-    ASSERT_EQ(tabs->count(), 7);
+    ASSERT_EQ(tabs->count(), 8);
     for (int tab = 0; tab < tabs->count(); ++tab) {
         ShowTab(tab);
         QTest::qWait(1);

@@ -7,6 +7,7 @@
 
 #include "common/date_text.h"
 #include "common/file_procedures.h"
+#include "editor_ui/calendar/active_day_view.h"
 #include "editor_ui/pages/content_editor.h"
 #include "editor_ui/pages/scrolled.h"
 #include "editor_ui/records/file_label.h"
@@ -42,6 +43,7 @@ cProfileForm::cProfileForm(cEditorServices& editor, QWidget* parent)
     add(MakeReceivers(), tr("Receivers"));
     add(MakeSchedule(), tr("Schedule"));
     add(MakeCalendar(), tr("Calendar"));
+    add(MakeActiveDay(), tr("Active when?"));
     add(MakeExternal(), tr("External"));
     add(MakeSystems(), tr("Systems"));
     auto* layout = new QVBoxLayout(this);
@@ -181,6 +183,14 @@ QWidget* cProfileForm::MakeCalendar() {
     };
     m_Binder.AddShow([this](const cProfile& shown) { m_Calendar->Show(shown); });
     return m_Calendar;
+}
+
+// The editors hold what is to be answered for: the profile's schedule and the station's calendar.
+QWidget* cProfileForm::MakeActiveDay() {
+    m_ActiveDay = new cActiveDayView(m_Editor, m_Schedule->Schedule(), m_Calendar->Editor().Calendar());
+    m_Binder.AddShow(
+        [this](const cProfile& shown) { m_ActiveDay->Refresh(shown.m_UseTimeSchedule != False16); });
+    return m_ActiveDay;
 }
 
 QWidget* cProfileForm::MakeExternal() {

@@ -12,6 +12,7 @@ class QTabWidget;
 
 namespace vigrel {
 
+class cActiveDayView;
 class cContentEditor;
 struct cEditStep;
 class cProfileCalendar;
@@ -46,6 +47,7 @@ class cProfileForm : public QWidget {
     QWidget* MakeReceivers();
     QWidget* MakeSchedule();
     QWidget* MakeCalendar();
+    QWidget* MakeActiveDay();
     QWidget* MakeExternal();
     QWidget* MakeSystems();
     cReceiverPicker* MakePicker(const char* objectName, const QString& name, std::string cProfile::*field);
@@ -59,6 +61,7 @@ class cProfileForm : public QWidget {
     QTabWidget* m_Tabs;
     cScheduleEditor* m_Schedule = nullptr;
     cProfileCalendar* m_Calendar = nullptr;
+    cActiveDayView* m_ActiveDay = nullptr;
 };
 
 }  // namespace vigrel
