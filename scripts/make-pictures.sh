@@ -10,7 +10,7 @@ pictures=${2:-docs/operator}
 work=$(mktemp -d)
 display=:$((200 + RANDOM % 500))
 station=
-trap 'kill $(jobs -p) 2>/dev/null; wait; rm -rf "$work"' EXIT
+trap 'kill $(jobs -p) 2>/dev/null || true; wait; rm -rf "$work"' EXIT
 export QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8
 
 # screen SIZE: a display with a window manager.
