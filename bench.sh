@@ -9,12 +9,12 @@ case "${1:-}" in
 ./bench.sh [--short] [--no-install] [--plots] [LINE]...
 
 Installs the Debian packages that are missing, builds with the preset release, and measures under a display of its own:
-starts, answers, lists, popups, acknowledging, export. Prints one table and ends with 1 when a target is missed. Let the
+starts, answers, lists, popups, acknowledging, export, sound. Prints one table and ends with 1 when a target is missed. Let the
 machine rest: what else runs on it shows in the figures.
 
   --short   small numbers in seconds, to see that everything runs; no target counts
   --plots   also draws docs/performance/*.svg, with up to 1,000,000 stored alarms (half an hour, 5 GB in TMPDIR)
-  LINE      only these: starts, answers, acknowledging, burst, popups, sorting, texts, export
+  LINE      only these: starts, answers, acknowledging, burst, popups, sorting, texts, export, sound
 HELP
         exit 0 ;;
 esac

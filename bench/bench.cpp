@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "bench/receiver_lines.h"
+#include "bench/sound_lines.h"
 #include "bench/station_lines.h"
 
 namespace {
@@ -29,7 +30,7 @@ struct cGroup {
 const std::vector<cGroup> kGroups{
     {"starts", MeasureStarts}, {"answers", MeasureAnswers}, {"acknowledging", MeasureAcknowledging},
     {"burst", MeasureBurst},   {"popups", MeasurePopups},   {"sorting", MeasureSorting},
-    {"texts", MeasureTexts},   {"export", MeasureExport}};
+    {"texts", MeasureTexts},   {"export", MeasureExport},   {"sound", MeasureSound}};
 
 struct cOptions {
     bool shortForm = false;
@@ -58,8 +59,8 @@ bool Wanted(const cOptions& options, const char* name) {
 }
 
 int Measure(const cOptions& options) {
-    const cSize full{100'000, 2000, 5, 1000, 2100, {0, 10'000, 100'000, 250'000, 500'000, 1'000'000}};
-    const cSize brief{100, 20, 1, 10, 0, {0, 100}};
+    const cSize full{100'000, 2000, 5, 1000, 60, 2100, {0, 10'000, 100'000, 250'000, 500'000, 1'000'000}};
+    const cSize brief{100, 20, 1, 10, 2, 0, {0, 100}};
     const cSize& size = options.shortForm ? brief : full;
     std::vector<cLine> lines;
     for (const cGroup& group : kGroups) {

@@ -15,8 +15,8 @@
 #include <thread>
 
 #include "bench/bare.h"
+#include "bench/example_frame.h"
 #include "bench/whole_receiver.h"
-#include "link/frame.h"
 #include "link/record_decoder.h"
 #include "receiver_ui/list/qt_report_list.h"
 #include "signals/event_text_station.h"
@@ -34,8 +34,6 @@ constexpr int kForever = 600'000;  // milliseconds
 const std::string kColumns =
     "Columns=StateIcon,DateTime,StateText,t2,t0,t1,t3,Observed\r\nMaxEvents=0\r\nMaxDays=0\r\nPrinterPort="
     "0\r\n";
-const std::string kFrame =
-    MakeFrame("PLC1", "S12024-03-05|01:02:03|Fan 3 tripped in the plant room|AHU 3|Technical|x|y|z");
 
 // --- acknowledging
 
@@ -143,12 +141,6 @@ std::vector<double> Milliseconds(const std::vector<double>& from, const std::vec
     for (std::size_t i = 0; i < std::min(from.size(), to.size()); ++i)
         result.push_back((to[i] - from[i]) * 1e3);
     return result;
-}
-
-void PublishLatency(const char* what, const std::vector<double>& milliseconds) {
-    if (milliseconds.empty()) return;
-    std::printf("%-50s median %6.1f ms, 99 of 100 within %6.1f ms\n", what, Median(milliseconds),
-                Percentile(milliseconds, 0.99));
 }
 
 double StandStillOfBurst(int alarms) {

@@ -15,10 +15,10 @@
 #include <thread>
 
 #include "bench/bare.h"
+#include "bench/example_frame.h"
 #include "bench/stored_alarms.h"
 #include "bench/system_calls.h"
 #include "e2e/station.h"
-#include "link/frame.h"
 #include "vigrel-send/connection.h"
 
 namespace vigrel::bench {
@@ -27,8 +27,6 @@ namespace {
 using send::cConnection;
 using testing::cStation;
 
-const std::string kFrame =
-    MakeFrame("PLC1", "S12024-03-05|01:02:03|Fan 3 tripped in the plant room|AHU 3|Technical|x|y|z");
 const std::string kConfiguration =
     "[General]\r\nColumns=StateIcon,DateTime,StateText,t2,t0,t1,t3,Observed\r\nBackColor_Active=255,230,"
     "230\r\n"

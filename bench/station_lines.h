@@ -8,7 +8,7 @@ namespace vigrel::bench {
 
 // How much is measured. The short form takes seconds and shows that everything runs.
 struct cSize {
-    int stored, alarms, rounds, popups;
+    int stored, alarms, rounds, popups, sounds;
     int settles;               // milliseconds until a configuration counts as unchanged
     std::vector<int> plotted;  // numbers of stored alarms
 };

@@ -109,4 +109,10 @@ double Seconds(const std::function<void()>& steps) {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
+void PublishLatency(const char* what, const std::vector<double>& milliseconds) {
+    if (milliseconds.empty()) return;
+    std::printf("%-50s median %6.1f ms, 99 of 100 within %6.1f ms\n", what, Median(milliseconds),
+                Percentile(milliseconds, 0.99));
+}
+
 }  // namespace vigrel::bench

@@ -25,6 +25,9 @@ bool PrintTable(const std::vector<cLine>& lines);
 double Median(std::vector<double> values);
 double Percentile(std::vector<double> values, double share);
 
+// Tells the median and the 99th percentile in a line of their own, which no target judges.
+void PublishLatency(const char* what, const std::vector<double>& milliseconds);
+
 // A plot of curves over one axis as SVG.
 struct cCurve {
     std::string name;
