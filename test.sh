@@ -14,7 +14,7 @@ Installs the Debian packages that are missing, then builds and tests:
   everything but those again with the address and undefined-behaviour sanitizers (preset asan),
   what has threads (sound, printing, light) with the thread sanitizer (preset tsan),
   the logic alone, without the toolkit.
-With --lint, clang-tidy reads every source file, which takes five minutes more.
+With --lint, clang-tidy reads every source file and every test, which takes ten minutes more.
 HELP
         exit 0 ;;
 esac
@@ -59,6 +59,8 @@ if [ $lint = yes ]; then
     echo "== lint"
     run-clang-tidy -quiet -p build/dev "$PWD/(src|apps|tools)/.*\.cpp\$" >build/lint.log 2>&1 ||
         { grep -A3 -E 'error:|warning:' build/lint.log; exit 1; }
+    scripts/lint-tests.py build/dev >build/lint-tests.log 2>&1 ||
+        { grep -A3 -E 'error:|warning:' build/lint-tests.log; exit 1; }
 fi
 
 echo "== logic without the toolkit"

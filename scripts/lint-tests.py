@@ -17,8 +17,9 @@ BUILD = pathlib.Path(sys.argv[1] if len(sys.argv) > 1 else ROOT / "build" / "dev
 WORK = ROOT / "build" / "lint"
 ONLY = sys.argv[2:]
 FOLDERS = ("tests", "bench", "fuzz")
-# The files are included on purpose; a test's vectors need not be fast.
-CHECKS = "--checks=-bugprone-suspicious-include,-performance-inefficient-vector-operation"
+# The files are included on purpose; a test's vectors need not be fast, and its numbers are small.
+CHECKS = ("--checks=-bugprone-suspicious-include,-performance-inefficient-vector-operation,"
+          "-bugprone-implicit-widening-of-multiplication-result")
 # The compiler's own warnings are the compiler's to tell, file by file: of files that are read together, the names of one
 # would be said to hide those of another.
 QUIET = "--extra-arg=-w"

@@ -17,9 +17,8 @@
 #include <fstream>
 #include <iterator>
 #include <sstream>
+#include <stdexcept>
 #include <thread>
-
-extern char** environ;
 
 namespace vigrel::testing {
 namespace {
@@ -77,7 +76,8 @@ int FreePort() {
     sockaddr_in address{};
     address.sin_family = AF_INET;
     socklen_t size = sizeof address;
-    bind(descriptor, reinterpret_cast<sockaddr*>(&address), size);
+    if (bind(descriptor, reinterpret_cast<sockaddr*>(&address), size) != 0)
+        throw std::runtime_error("no free port");
     getsockname(descriptor, reinterpret_cast<sockaddr*>(&address), &size);
     close(descriptor);
     return ntohs(address.sin_port);

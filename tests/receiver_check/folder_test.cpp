@@ -184,7 +184,7 @@ class cOpenPort {
         sockaddr_in address{};
         address.sin_family = AF_INET;
         socklen_t size = sizeof address;
-        bind(m_Socket, reinterpret_cast<sockaddr*>(&address), size);
+        EXPECT_EQ(bind(m_Socket, reinterpret_cast<sockaddr*>(&address), size), 0);
         if (listening) listen(m_Socket, 1);
         getsockname(m_Socket, reinterpret_cast<sockaddr*>(&address), &size);
         m_Port = ntohs(address.sin_port);

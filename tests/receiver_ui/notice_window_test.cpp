@@ -36,7 +36,7 @@ class NoticeWindow : public ::testing::Test {
     const cFakeClock m_Clock;
     const cFakeLocale m_Locale;
     const cQtScreen m_Screen;
-    const cNoSettings m_Settings;
+    const cNoSettings m_Settings{};
     cOpenWindows m_Windows;
     cFakeMessageBox m_Box{nullptr};
     cQtOtherWindows m_Others{{m_Files, m_Clock, m_Locale, m_Screen, m_Settings, m_Windows,

@@ -41,7 +41,7 @@ class SignalLight : public ::testing::Test {
     // What was sent since the last look.
     std::string Packets() {
         std::ifstream file(m_Folder.Path() / "packets");
-        const std::string packets{std::istreambuf_iterator<char>(file), {}};
+        std::string packets{std::istreambuf_iterator<char>(file), {}};
         std::filesystem::remove(m_Folder.Path() / "packets");
         return packets;
     }
@@ -49,7 +49,7 @@ class SignalLight : public ::testing::Test {
         std::string buffer(512, '\0');
         m_Light.DelcomGetNthDevice(type, index, buffer);
         EXPECT_EQ(buffer.size(), 512u);
-        return buffer.c_str();
+        return buffer.substr(0, buffer.find('\0'));
     }
     // A light of number 77, opened.
     std::int32_t OpenOne() {

@@ -49,7 +49,7 @@ class cBusHost : public QObject {
         return m_Bus.send(call);
     }
 
-  public slots:
+  public slots:  // NOLINT(readability-redundant-access-specifiers): the toolkit reads it
     void RegisterStatusNotifierItem(const QString& service) { m_Icon = service; }
 
   signals:
