@@ -1,5 +1,9 @@
 #include "support/fake_files.h"
 
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
 #include "common/code_page.h"
 #include "common/failure.h"
 #include "common/file_procedures.h"
@@ -57,7 +61,38 @@ cFakeFiles::cFile& cFakeFiles::Create(std::string_view path) {
     cFile& file = m_Inodes[inode];
     file.path = path;
     file.inode = inode;
+    Change({"", Fold(path), file.path, inode});
     return file;
+}
+
+void cFakeFiles::Change(cNameChange change) {
+    change.when = ++m_Clock;
+    m_Changes.push_back(std::move(change));
+}
+
+void cFakeFiles::Unlink(const std::string& folded) {
+    m_Names.erase(folded);
+    Change({folded, "", "", 0});
+}
+
+void cFakeFiles::Apply(const cNameChange& change, std::map<std::string, cDurableName>& names) {
+    names.erase(change.removed);
+    if (!change.made.empty()) names[change.made] = {change.inode, change.spelling};
+}
+
+void cFakeFiles::MakeDurable(const std::function<bool(const cNameChange&)>& wanted) {
+    for (const cNameChange& change : m_Changes) {
+        if (!wanted(change)) continue;
+        Apply(change, m_DurableNames);
+        // A name that survives without its bytes is an empty file.
+        if (change.inode != 0) m_DurableBytes.try_emplace(change.inode);
+    }
+    std::erase_if(m_Changes, wanted);
+}
+
+void cFakeFiles::MakeDurable(std::int64_t inode, std::string_view bytes) {
+    m_DurableBytes[inode] = bytes;
+    m_SyncedAt[inode] = ++m_Clock;
 }
 
 bool cFakeFiles::FileExists(std::string_view path) const {
@@ -118,16 +153,20 @@ cFileReader::cStamp cFakeFiles::Stamp(std::string_view path) const {
 
 void cFakeFiles::WriteFile(std::string_view path, std::string_view bytes, bool sync) {
     Count("write", path);
-    const auto name = m_Names.find(Fold(path));
-    cFile& file = name == m_Names.end() ? Create(path) : m_Inodes.at(name->second);
-    if (file.readOnly) Fail(eFailure::PermissionDenied, "the file is write-protected", path);
+    if (const auto name = m_Names.find(Fold(path)); name != m_Names.end()) {
+        if (m_Inodes.at(name->second).readOnly || m_FolderReadOnly)
+            Fail(eFailure::PermissionDenied, "the file is write-protected", path);
+        path = m_Inodes.at(name->second).path;
+        Unlink(name->first);
+    }
+    cFile& file = Create(path);
     file.modified = ++m_Clock;
     if (m_DiskFull) {
         file.bytes = bytes.substr(0, bytes.size() / 2);
         Fail(eFailure::DiskFull, "the disk is full", path);
     }
     file.bytes = bytes;
-    if (sync) m_DurableBytes[file.inode] = bytes;
+    if (sync) MakeDurable(file.inode, bytes);
 }
 
 void cFakeFiles::AppendFile(std::string_view path, std::string_view bytes) {
@@ -146,7 +185,7 @@ void cFakeFiles::RemoveFile(std::string_view path) {
     if (file == nullptr) Fail(eFailure::FileNotFound, "the file does not exist", path);
     if (file->readOnly || m_FolderReadOnly)
         Fail(eFailure::PermissionDenied, "the file can't be removed", path);
-    m_Names.erase(Fold(path));
+    Unlink(Fold(path));
 }
 
 void cFakeFiles::RenameFile(std::string_view from, std::string_view to) {
@@ -158,48 +197,49 @@ void cFakeFiles::RenameFile(std::string_view from, std::string_view to) {
     m_Names.erase(name);
     m_Names[Fold(to)] = inode;
     m_Inodes.at(inode).path = to;
+    Change({Fold(from), Fold(to), std::string(to), inode});
 }
 
 void cFakeFiles::SyncFolder(std::string_view folder) {
     Count("sync", folder);
     const std::string folded = FoldFolder(folder);
     const auto inside = [&](const std::string& path) { return FoldFolder(SplitPath(path).folder) == folded; };
-    std::erase_if(m_DurableNames, [&](const auto& name) { return inside(name.first); });
-    for (const auto& [path, inode] : m_Names) {
-        if (!inside(path)) continue;
-        m_DurableNames[path] = inode;
-        m_DurableSpelling[inode] = m_Inodes.at(inode).path;
-        // A name that survives without its bytes is an empty file.
-        m_DurableBytes.try_emplace(inode);
+    MakeDurable([&](const cNameChange& change) { return inside(change.removed) || inside(change.made); });
+    for (const std::string& made : m_Folders) {
+        if (inside(made.substr(0, made.size() - 1))) m_DurableFolders.insert(made);
     }
 }
 
-// Durable when it is done: at once, or, on a busy disk, when somebody waits.
+// What was there when it began is durable when it is done: at once, or, on a busy disk, when somebody waits.
 class cFakeFiles::cSync : public cPendingSync {
   public:
-    explicit cSync(cFakeFiles& files) : m_Files(files) {
+    explicit cSync(cFakeFiles& files) : m_Files(files), m_Begun(files.m_Clock), m_Folders(files.m_Folders) {
+        for (const std::int64_t inode : files.UnsyncedContents())
+            m_Contents[inode] = files.m_Inodes.at(inode).bytes;
         if (!m_Files.m_DiskIsBusy) cSync::Wait();
     }
     bool Done() const override { return m_Done; }
     bool Wait() override {
-        if (!std::exchange(m_Done, true)) m_Files.SyncAll();
+        if (std::exchange(m_Done, true)) return true;
+        for (const auto& [inode, bytes] : m_Contents) {
+            if (m_Files.m_SyncedAt[inode] <= m_Begun) m_Files.MakeDurable(inode, bytes);
+        }
+        m_Files.MakeDurable([this](const cNameChange& change) { return change.when <= m_Begun; });
+        m_Files.m_DurableFolders.insert(m_Folders.begin(), m_Folders.end());
         return true;
     }
 
   private:
     cFakeFiles& m_Files;
+    std::int64_t m_Begun;
+    std::map<std::int64_t, std::string> m_Contents;
+    std::set<std::string> m_Folders;
     bool m_Done = false;
 };
 
 std::unique_ptr<cPendingSync> cFakeFiles::StartSync(std::string_view folder) {
     Count("sync all", folder);
     return std::make_unique<cSync>(*this);
-}
-
-void cFakeFiles::SyncAll() {
-    for (const auto& [path, inode] : m_Names) m_DurableBytes[inode] = m_Inodes.at(inode).bytes;
-    m_DurableNames = m_Names;
-    for (const auto& [inode, file] : m_Inodes) m_DurableSpelling[inode] = file.path;
 }
 
 void cFakeFiles::MakeFolder(std::string_view path) {
@@ -226,13 +266,14 @@ void cFakeFiles::Put(std::string_view path, std::string_view bytes) {
     cFile& file = name == m_Names.end() ? Create(path) : m_Inodes.at(name->second);
     file.bytes = bytes;
     file.modified = ++m_Clock;
-    m_DurableNames[Fold(path)] = file.inode;
-    m_DurableBytes[file.inode] = bytes;
-    m_DurableSpelling[file.inode] = path;
+    MakeDurable([&](const cNameChange& change) { return change.made == Fold(path); });
+    m_DurableNames[Fold(path)] = {file.inode, file.path};
+    MakeDurable(file.inode, bytes);
 }
 
 void cFakeFiles::PutFolder(std::string_view path) {
     m_Folders.insert(FoldFolder(path));
+    m_DurableFolders.insert(FoldFolder(path));
 }
 bool cFakeFiles::HasFolder(std::string_view path) const {
     return m_Folders.contains(FoldFolder(path));
@@ -244,14 +285,51 @@ std::vector<std::string> cFakeFiles::AllPaths() const {
     return paths;
 }
 
-void cFakeFiles::Crash() {
-    m_Names = m_DurableNames;
+std::vector<std::int64_t> cFakeFiles::UnsyncedContents() const {
+    std::set<std::int64_t> reachable;
+    for (const auto& [path, inode] : m_Names) reachable.insert(inode);
+    for (const auto& [path, name] : m_DurableNames) reachable.insert(name.inode);
+    for (const cNameChange& change : m_Changes) {
+        if (change.inode != 0) reachable.insert(change.inode);
+    }
+    std::vector<std::int64_t> unsynced;
+    std::copy_if(reachable.begin(), reachable.end(), std::back_inserter(unsynced),
+                 [this](std::int64_t inode) {
+                     const auto durable = m_DurableBytes.find(inode);
+                     return durable == m_DurableBytes.end() || durable->second != m_Inodes.at(inode).bytes;
+                 });
+    return unsynced;
+}
+
+std::size_t cFakeFiles::UnsyncedCount() const {
+    return m_Changes.size() + UnsyncedContents().size();
+}
+
+void cFakeFiles::Crash(const std::vector<eFate>& fates) {
+    const auto fateOf = [&](std::size_t i) { return i < fates.size() ? fates[i] : eFate::Lost; };
+    const std::vector<std::int64_t> contents = UnsyncedContents();
+    for (std::size_t i = 0; i < contents.size(); ++i) {
+        const std::string& bytes = m_Inodes.at(contents[i]).bytes;
+        const eFate fate = fateOf(m_Changes.size() + i);
+        if (fate != eFate::Lost)
+            m_DurableBytes[contents[i]] = fate == eFate::Kept ? bytes : bytes.substr(0, bytes.size() / 2);
+    }
+    for (std::size_t i = 0; i < m_Changes.size(); ++i) {
+        if (fateOf(i) != eFate::Lost) Apply(m_Changes[i], m_DurableNames);
+    }
+    m_Changes.clear();
+    m_Folders = m_DurableFolders;
+    std::erase_if(m_DurableNames, [this](const auto& name) {
+        return !m_Folders.contains(FoldFolder(SplitPath(name.first).folder));
+    });
+    m_Names.clear();
     std::map<std::int64_t, cFile> survivors;
-    for (const auto& [path, inode] : m_Names) {
-        cFile file = m_Inodes.at(inode);
-        file.path = m_DurableSpelling[inode];
-        file.bytes = m_DurableBytes[inode];
-        survivors[inode] = std::move(file);
+    for (const auto& [path, name] : m_DurableNames) {
+        m_Names[path] = name.inode;
+        cFile file = m_Inodes.at(name.inode);
+        file.path = name.spelling;
+        file.bytes = m_DurableBytes[name.inode];
+        survivors[name.inode] = std::move(file);
     }
     m_Inodes = std::move(survivors);
 }

@@ -43,8 +43,16 @@ class cFakeFiles : public cFiles {
     bool HasFolder(std::string_view path) const;
     // Every path with its spelling, sorted.
     std::vector<std::string> AllPaths() const;
-    // Back to what would be on the disk after a power failure: unsynced bytes and names are gone.
-    void Crash();
+    // What a power failure makes of a change that no sync has made durable. A torn content is its first half;
+    // a name is there or it is not.
+    enum class eFate { Lost, Kept, Torn };
+    // How many such changes there are: first those of names, in the order in which they were made, then the
+    // contents.
+    std::size_t UnsyncedCount() const;
+    // Back to what would be on the disk after a power failure. Each change that was not synced meets its fate
+    // by itself, since a disk takes them in any order; those behind the fates' end are lost. So is a folder
+    // whose name was not synced, with all that is in it.
+    void Crash(const std::vector<eFate>& fates = {});
     void SetReadOnly(std::string_view path, bool readOnly);
     void SetUnreadable(std::string_view path, bool unreadable);
     // What List gives of the folder as unreadable, as far as the mask fits.
@@ -68,18 +76,37 @@ class cFakeFiles : public cFiles {
         std::int64_t inode = 0, modified = 0;
         bool readOnly = false, unreadable = false;
     };
-    using Names = std::map<std::string, std::int64_t>;  // folded path -> inode
+    // A name that was given or taken away, or both in one step.
+    struct cNameChange {
+        std::string removed, made;  // folded paths, empty for none
+        std::string spelling;       // of the one that was made
+        std::int64_t inode = 0;
+        std::int64_t when = 0;
+    };
+    struct cDurableName {
+        std::int64_t inode = 0;
+        std::string spelling;
+    };
     class cSync;
-    void SyncAll();
+    void Change(cNameChange change);
+    void Unlink(const std::string& folded);
+    static void Apply(const cNameChange& change, std::map<std::string, cDurableName>& names);
+    // Those of the changes of names that are wanted become durable.
+    void MakeDurable(const std::function<bool(const cNameChange&)>& wanted);
+    void MakeDurable(std::int64_t inode, std::string_view bytes);
+    // Of the files that a name can still lead to, those whose content is not durable.
+    std::vector<std::int64_t> UnsyncedContents() const;
     void Count(std::string_view operation, std::string_view path);
     const cFile* Find(std::string_view path) const;
     cFile& Create(std::string_view path);
 
-    Names m_Names, m_DurableNames;
-    std::map<std::int64_t, cFile> m_Inodes;  // what programs see
+    std::map<std::string, std::int64_t> m_Names;  // folded path -> inode; what programs see
+    std::map<std::string, cDurableName> m_DurableNames;
+    std::vector<cNameChange> m_Changes;  // of names, that are not durable
+    std::map<std::int64_t, cFile> m_Inodes;
     std::map<std::int64_t, std::string> m_DurableBytes;
-    std::map<std::int64_t, std::string> m_DurableSpelling;
-    std::set<std::string> m_Folders;
+    std::map<std::int64_t, std::int64_t> m_SyncedAt;  // inode -> when its bytes were synced last
+    std::set<std::string> m_Folders, m_DurableFolders;
     std::int64_t m_NextInode = 1, m_Clock = 1;
 };
 
