@@ -108,6 +108,8 @@ void cCategorySettings::ReadDefault(const cIniReader& ini) {
 
 void cCategorySettings::ReadCategories(const cFileReader& files, const cIniReader& ini) {
     const cIniEntries sections = ReadIniEntries(files, "", kSectionNamesBuffer, ini.FullPath(kIniFile));
+    // A category would look and sound like any other.
+    if (!sections.problem.empty()) throw cFailure(eFailure::InputOutput, sections.problem);
     for (const std::string& section : sections.entries) {
         if (!IsCategorySection(section)) continue;
         cCategorySpecificSetting& setting = m_CategorySettings.emplace_back();

@@ -74,7 +74,8 @@ class cCategorySettings {
     // Reads section "General".
     void ReadDefault(const cIniReader& ini);
     // Reads all sections whose names begin with "CategorySpecificSetting_"; the names are read from the file
-    // at the full path through a buffer of 8,192 characters.
+    // at the full path through a buffer of 8,192 characters. Throws cFailure for a file that is there and
+    // can't be read.
     void ReadCategories(const cFileReader& files, const cIniReader& ini);
     // The first object of the category, case apart, or the default object.
     const cCategorySpecificSetting& Find(std::string_view category) const;

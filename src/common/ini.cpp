@@ -106,8 +106,10 @@ const cIniReader::cParsed& cIniReader::Parsed(std::string_view fileName) const {
     parsed.stamp = stamp;
     parsed.sections.clear();
     std::string content;
+    const auto failure = CatchFailure([&] { content = m_Files.ReadFile(path); });
     // What can't be read now may be readable at the next look without having changed.
-    if (!SkipFailure([&] { content = m_Files.ReadFile(path); })) parsed.stamp.settled = false;
+    if (failure) parsed.stamp.settled = false;
+    if (failure && failure->Number() != eFailure::FileNotFound) m_Problem = failure->what();
     cKeys* section = nullptr;
     for (const std::string& line : SplitLines(content)) {
         if (const auto header = IniHeaderName(line)) {
@@ -140,10 +142,9 @@ void cIni::PutIniString(std::string_view section, std::string_view key, std::str
                         std::string_view fileName) {
     const std::string path = FullPath(fileName);
     std::string content;
-    if (m_Files.Stamp(path).size >= 0) {
-        // A file that is there and can't be read must not be replaced by one line.
-        if (!SkipFailure([&] { content = m_Files.ReadFile(path); })) return;
-    }
+    // A file that is there and can't be read must not be replaced by one line.
+    const auto failure = CatchFailure([&] { content = m_Files.ReadFile(path); });
+    if (failure && failure->Number() != eFailure::FileNotFound) return;
     const std::string entry = std::string(key) + "=" + std::string(value);
     SkipFailure([&] { ReplaceFile(m_Files, path, WithKey(std::move(content), section, key, entry)); });
     // A file system may stamp two contents written in quick succession alike.
@@ -169,8 +170,11 @@ std::int32_t cIniReader::Int32(std::string_view section, std::string_view key, s
     return Number(section, key, text, ToInt32);
 }
 
-std::int32_t ReadIniSection(const cFileReader& files, std::string_view section, std::string& buffer,
-                            std::size_t bufferSize, std::string_view fullPath) {
+namespace {
+
+// The number of characters that the entries of a section take in the buffer.
+std::int32_t StoreSection(const std::string& content, std::string_view section, std::string& buffer,
+                          std::size_t bufferSize) {
     std::size_t offset = 0;
     bool overflow = false;
     const auto store = [&](std::string_view entry) {
@@ -179,31 +183,40 @@ std::int32_t ReadIniSection(const cFileReader& files, std::string_view section, 
         buffer.replace(offset, entry.size() + 1, std::string(entry) + '\0');
         offset += entry.size() + 1;
     };
-    const bool read = SkipFailure([&] {
-        cLineReader lines(files.ReadFile(fullPath));
-        bool inside = false;
-        while (!SafeEof(lines)) {
-            const std::string line = lines.ReadLine();
-            const std::size_t close = line.find(']');
-            const bool header = !line.empty() && line[0] == '[' && close != std::string::npos;
-            if (header && section.empty()) {
-                store(std::string_view(line).substr(1, close - 1));
-            } else if (header) {
-                if (inside) break;
-                inside = EqualsNoCase(std::string_view(line).substr(1, close - 1), section);
-            } else if (inside && !line.empty() && line[0] != ';') {
-                store(line);
-            }
+    cLineReader lines(content);
+    bool inside = false;
+    while (!SafeEof(lines)) {
+        const std::string line = lines.ReadLine();
+        const std::size_t close = line.find(']');
+        const bool header = !line.empty() && line[0] == '[' && close != std::string::npos;
+        if (header && section.empty()) {
+            store(std::string_view(line).substr(1, close - 1));
+        } else if (header) {
+            if (inside) break;
+            inside = EqualsNoCase(std::string_view(line).substr(1, close - 1), section);
+        } else if (inside && !line.empty() && line[0] != ';') {
+            store(line);
         }
-    });
-    return read ? static_cast<std::int32_t>(offset) : 0;
+    }
+    return static_cast<std::int32_t>(offset);
+}
+
+}  // namespace
+
+std::int32_t ReadIniSection(const cFileReader& files, std::string_view section, std::string& buffer,
+                            std::size_t bufferSize, std::string_view fullPath) {
+    std::int32_t characters = 0;
+    SkipFailure([&] { characters = StoreSection(files.ReadFile(fullPath), section, buffer, bufferSize); });
+    return characters;
 }
 
 cIniEntries ReadIniEntries(const cFileReader& files, std::string_view section, std::size_t bufferSize,
                            std::string_view fullPath) {
     std::string buffer(bufferSize, ' ');
     cIniEntries result;
-    result.characters = ReadIniSection(files, section, buffer, bufferSize, fullPath);
+    const auto failure = CatchFailure(
+        [&] { result.characters = StoreSection(files.ReadFile(fullPath), section, buffer, bufferSize); });
+    if (failure && failure->Number() != eFailure::FileNotFound) result.problem = failure->what();
     std::string_view rest = std::string_view(buffer).substr(0, static_cast<std::size_t>(result.characters));
     while (!rest.empty()) {
         const std::size_t end = rest.find('\0');

@@ -51,6 +51,10 @@ class cIniReader {
                                      std::string_view defaultValue,
                                      std::string_view fileName = kIniFile) const;
 
+    // Why a file that is there could not be read, at any read so far; all its keys had their defaults then.
+    // Empty when each could.
+    const std::string& Problem() const { return m_Problem; }
+
     // The number in the text of a key, rounded. One beyond the range throws cFailure (Overflow) that names
     // file, section, key and text: nobody finds a number without its key.
     std::int16_t Int16(std::string_view section, std::string_view key, std::string_view text) const;
@@ -76,6 +80,7 @@ class cIniReader {
     const cFileReader& m_Files;
     std::string m_ApplicationPath;
     mutable std::map<std::string, cParsed, cLessNoCase> m_Cache;
+    mutable std::string m_Problem;
     mutable int m_Moments = 0;           // how many are open, one within the other
     mutable std::uint64_t m_Moment = 0;  // the number of the outermost one
 };
@@ -120,6 +125,7 @@ std::int32_t ReadIniSection(const cFileReader& files, std::string_view section, 
 struct cIniEntries {
     std::vector<std::string> entries;
     std::int32_t characters = 0;  // as ReadIniSection counts them
+    std::string problem;          // why a file that is there could not be read; empty when it could
 };
 cIniEntries ReadIniEntries(const cFileReader& files, std::string_view section, std::size_t bufferSize,
                            std::string_view fullPath);

@@ -48,6 +48,7 @@ eStartUp cVigrelReceiverMain::LoadInOrder() {
     m_Ports.menus.SetVisible("Menu_Simulate", HasSwitch("/SIMULATE"));
     m_Tray.SetUp();
     m_Senders.ReadSenders();
+    RequireReadSettings();
     m_Log.CleanLogFiles(kLogMask, m_Settings.m_KeepForDays);
     m_View.SetSortOrder();
     LoadAlarms();
@@ -129,6 +130,11 @@ void cVigrelReceiverMain::TellOfMissingLock(const std::string& problem) {
     const std::string text = m_Texts.GetText(TextFolderNotLocked) + ": " + problem;
     m_Log.WriteLog(WithPathsInCodePage(text));
     m_Ports.status.SetStatus(text);
+}
+
+// Limits that had their defaults for once would remove alarms that are meant to stay.
+void cVigrelReceiverMain::RequireReadSettings() const {
+    if (!m_Ini.Problem().empty()) throw cFailure(eFailure::InputOutput, m_Ini.Problem());
 }
 
 bool cVigrelReceiverMain::ReachSuiteLibrary() {

@@ -114,6 +114,7 @@ class cVigrelReceiverMain {
     bool IsOnlyInstance();
     void TellOfMissingLock(const std::string& problem);
     bool ReachSuiteLibrary();
+    void RequireReadSettings() const;
     void SetTitle();
     void SetListFont();
     void ApplyWindowSwitches();

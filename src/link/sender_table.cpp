@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "common/dates.h"
+#include "common/failure.h"
 #include "common/numbers.h"
 #include "common/text.h"
 
@@ -36,6 +37,8 @@ void cSenderTable::AddSender(const std::string& entry) {
 void cSenderTable::ReadSenders() {
     const cIniEntries section =
         ReadIniEntries(m_Services.files, "Senders", kSenderBuffer, m_Services.ini.FullPath(kIniFile));
+    // Nobody would miss a sender that the station does not know.
+    if (!section.problem.empty()) throw cFailure(eFailure::InputOutput, section.problem);
     if (section.characters >= static_cast<std::int32_t>(kSenderBuffer) - 2) WarnTooMany();
     m_SenderCount = 0;
     for (const std::string& entry : section.entries) {

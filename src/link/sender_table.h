@@ -58,7 +58,8 @@ class cSenderTable {
     std::array<cSender, 101> m_Senders;
     std::int16_t m_SenderCount = 0;
 
-    // Fills the table from section "Senders". Minutes beyond 16 bits throw cFailure (Overflow).
+    // Fills the table from section "Senders". Minutes beyond 16 bits throw cFailure (Overflow), and so does a
+    // configuration that is there and can't be read.
     void ReadSenders();
     // Logs each sender with its minutes.
     void LogSenders();

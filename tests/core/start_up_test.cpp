@@ -351,5 +351,14 @@ TEST_F(StartUp, ASecondInstanceLeavesTheFirstOnesTemporariesAlone) {
     EXPECT_TRUE(files.FileExists("C:\\App\\VigrelReceiver.INI.$~"));
 }
 
+// With the limits' defaults the stored alarms would be cut down to them; senders would not be missed.
+TEST_F(StartUp, AConfigurationThatCannotBeReadAnyMoreOnTheWayEndsTheStart) {
+    files.m_OnCall = [this](std::string_view operation, std::string_view) {
+        if (operation == "append") files.SetUnreadable("C:\\App\\VigrelReceiver.INI", true);
+    };
+    EXPECT_THROW(Load(), cFailure);
+    EXPECT_FALSE(listener.m_Listening);
+}
+
 }  // namespace
 }  // namespace vigrel::testing

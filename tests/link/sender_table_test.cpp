@@ -232,5 +232,14 @@ TEST_F(SenderTable, ASilenceIsNoticedAcrossAClockSetBack) {
     EXPECT_EQ(alarms.size(), 1u);
 }
 
+TEST_F(SenderTable, ASectionThatCannotBeReadIsNoEmptyOne) {
+    Ini("[Senders]\r\nAlpha=5\r\n");
+    files.SetUnreadable(ini.FullPath(kIniFile), true);
+    EXPECT_THROW(table.ReadSenders(), cFailure);
+    files.RemoveFile(ini.FullPath(kIniFile));
+    EXPECT_NO_THROW(table.ReadSenders());
+    EXPECT_EQ(table.m_SenderCount, 0);
+}
+
 }  // namespace
 }  // namespace vigrel::testing

@@ -17,7 +17,7 @@ cInstallation::cInstallation(const cFileReader& files, std::string applicationPa
     }
     m_Document = cIniDocument(m_Content);
     m_Categories.ReadDefault(m_Ini);
-    m_Categories.ReadCategories(m_Files, m_Ini);
+    if (!m_Unreadable) m_Categories.ReadCategories(m_Files, m_Ini);
 }
 
 std::string cInstallation::Value(std::string_view section, std::string_view key) const {
