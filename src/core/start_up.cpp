@@ -64,7 +64,7 @@ eStartUp cVigrelReceiverMain::LoadInOrder() {
 void cVigrelReceiverMain::PrepareFolders() {
     CopyMissingFiles(m_Ports.files, m_ApplicationPath + "Templates\\", m_ApplicationPath, "*", "oni", "ini");
     SkipFailure([&] { m_Ports.files.MakeFolder(m_ApplicationPath + "LogFiles"); });
-    SkipFailure([&] { m_Ports.files.MakeFolder(m_ApplicationPath + "Alarms"); });
+    m_Store.MakeFolder();
 }
 
 void cVigrelReceiverMain::RemoveLeftovers() {

@@ -80,7 +80,8 @@ bool cVigrelReceiverMain::PrintEvent(const cVigrelRecieverAlarm& alarm) {
 
 void cVigrelReceiverMain::Timer_KeepAlive_Tick() {
     m_Senders.Tick();
-    DailyHousekeeping();
+    // A log that can't be deleted ends the program.
+    CleanUpBehind([this] { DailyHousekeeping(); }, [this] { SaveTheLast(); });
     m_Store.RetryUnsaved();
     m_Log.WriteRepeats();
     m_StationStatus.Tick();

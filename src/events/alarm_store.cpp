@@ -43,7 +43,8 @@ class cStoppedClock : public cClock {
 
 cAlarmStore::cAlarmStore(const cServices& services, std::string applicationPath)
     : m_Services(services),
-      m_Folder(std::move(applicationPath) + "Alarms\\"),
+      m_ApplicationPath(std::move(applicationPath)),
+      m_Folder(m_ApplicationPath + "Alarms\\"),
       m_Pending({services.ownFiles, services.clock,
                  [this](cVigrelRecieverAlarm& alarm) { return Bytes(alarm); },
                  [this](const cVigrelRecieverAlarm& alarm) { return FileName(alarm.m_FileId); },
@@ -159,7 +160,16 @@ void cAlarmStore::NoteUnsaved(const AlarmPtr& alarm) {
     m_Unsaved.push_back(alarm);
 }
 
+void cAlarmStore::MakeFolder() const {
+    SkipFailure([&] {
+        m_Services.files.MakeFolder(m_Folder);
+        m_Services.files.SyncFolder(m_ApplicationPath);
+    });
+}
+
 void cAlarmStore::RetryUnsaved() {
+    // The folder can be what is missing: the disk was full when it was to be made.
+    if (!m_Unsaved.empty()) MakeFolder();
     // What stopped one file mostly stops them all; the rest waits for the next round.
     const auto stillUnsaved = std::find_if_not(m_Unsaved.begin(), m_Unsaved.end(),
                                                [&](const AlarmPtr& alarm) { return TrySave(*alarm); });

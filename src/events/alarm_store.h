@@ -49,6 +49,8 @@ class cAlarmStore {
     // An alarm and its file are gone for good.
     std::function<void(cVigrelRecieverAlarm&)> OnGivenUp;
 
+    // Makes the folder where it is missing, so that it survives a crash. Never fails.
+    void MakeFolder() const;
     // Rebuilds m_Alarms from the folder; how many alarms it gave up. What is known beforehand not to be
     // readable is left out, and named in the log. Throws cFailure when a file can't be read for another
     // reason.
@@ -102,7 +104,7 @@ class cAlarmStore {
     void NoteUnsaved(const AlarmPtr& alarm);
 
     cServices m_Services;
-    std::string m_Folder;
+    std::string m_ApplicationPath, m_Folder;
     // The names of files that came from elsewhere and are not spelled as the store spells them.
     std::map<std::int32_t, std::string> m_Spellings;
     std::vector<AlarmPtr> m_Unsaved;

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "common/failure.h"
 #include "link/frame.h"
 #include "support/fake_receiver.h"
 
@@ -483,6 +484,45 @@ TEST_F(Running, AHiddenWindowComesBackWithAnEventInItsFormerSize) {
     EXPECT_TRUE(mainWindow.m_Visible);
     EXPECT_EQ(mainWindow.m_State, eWindowState::Normal);
     EXPECT_EQ(mainWindow.m_Width, width);
+}
+
+TEST_F(Running, AnAlarmSurvivesAPowerCutInTheFirstMinuteOfANewStation) {
+    Start();
+    Send("PLC1", "S1||one");
+    files.Crash();
+    EXPECT_EQ(AlarmFiles().size(), 1u);
+}
+
+TEST_F(Running, AFolderThatCouldNotBeMadeIsMadeWhenTheDiskHasRoom) {
+    files.m_OnCall = [](std::string_view operation, std::string_view path) {
+        if (operation == "mkdir") throw cFailure(eFailure::DiskFull, std::string(path));
+    };
+    Start();
+    EXPECT_EQ(Send("PLC1", "S1||one"), kPositiveReply);
+    EXPECT_TRUE(AlarmFiles().empty());
+    files.m_OnCall = nullptr;
+    timerKeepAlive.Tick();
+    EXPECT_EQ(AlarmFiles().size(), 1u);
+    files.Crash();
+    EXPECT_EQ(AlarmFiles().size(), 1u);
+}
+
+TEST_F(Running, ALogThatCannotBeDeletedEndsTheProgramAndTakesNoAlarmAlong) {
+    files.Put("C:\\App\\LogFiles\\20260301.Log", "old");
+    Ini("KeepForDays=15\r\n");
+    Start();
+    timerKeepAlive.Tick();
+    files.m_DiskFull = true;
+    EXPECT_EQ(Send("PLC1", "S1||one"), kPositiveReply);
+    EXPECT_TRUE(AlarmFiles().empty());
+    files.m_DiskFull = false;
+    files.m_OnCall = [](std::string_view operation, std::string_view path) {
+        if (operation == "remove" && path.ends_with(".LOG"))
+            throw cFailure(eFailure::PermissionDenied, std::string(path));
+    };
+    clock.AddSeconds(2 * 86400);
+    EXPECT_THROW(timerKeepAlive.Tick(), cFailure);
+    EXPECT_EQ(AlarmFiles().size(), 1u);
 }
 
 }  // namespace
