@@ -76,6 +76,8 @@ class cFakeReceiver {
         Texts("046");
         Ini("");
     }
+    // On files that others own.
+    explicit cFakeReceiver(cFiles& others) : filesPort(&others) {}
     // A text file "<id>=T<id>".
     void Texts(const std::string& language) {
         std::string content;
@@ -92,12 +94,12 @@ class cFakeReceiver {
     cVigrelReceiverMain& Make(const std::string& commandLine = "") {
         receiver.reset();
         receiver = std::make_unique<cVigrelReceiverMain>(
-            cReceiverPorts{files,          files,    clock,          random,         locale,
-                           singleInstance, listener, data,           timerKeepAlive, timerPlay,
-                           timerSave,      list,     mainWindow,     menus,          screen,
-                           windows,        popups,   messageBox,     clipboard,      beeper,
-                           waveDevice,     trayArea, light,          runningApps,    printerPorts,
-                           otherWindows,   status,   deliveredTexts, serviceManager},
+            cReceiverPorts{*filesPort,     *filesPort, clock,          random,         locale,
+                           singleInstance, listener,   data,           timerKeepAlive, timerPlay,
+                           timerSave,      list,       mainWindow,     menus,          screen,
+                           windows,        popups,     messageBox,     clipboard,      beeper,
+                           waveDevice,     trayArea,   light,          runningApps,    printerPorts,
+                           otherWindows,   status,     deliveredTexts, serviceManager},
             "C:\\App\\", commandLine);
         return *receiver;
     }
@@ -121,6 +123,7 @@ class cFakeReceiver {
 
     cTranscript transcript;
     cFakeFiles files;
+    cFiles* filesPort = &files;  // what the receiver is given for them
     cFakeClock clock;
     cFakeRandom random;
     cFakeLocale locale;

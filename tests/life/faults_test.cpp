@@ -1,0 +1,165 @@
+// The station's life with files that fail: at each of its calls once, and from each call on until the disk is
+// in order again.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <limits>
+
+#include "life/station_life.h"
+
+namespace vigrel::testing {
+namespace {
+
+// How a life went.
+struct cStory {
+    std::vector<cRows> listed;  // after each step
+    struct cEnd {
+        cRows before, behind, behindPowerCut;
+        bool metFault = false;
+    };
+    std::vector<cEnd> ends;
+    std::vector<std::string> failures;  // that ended the program
+    int refusedStarts = 0;
+    bool listedOtherwise = false;  // a start could not list the alarms, and said so
+    int calls = 0;
+    std::string configuration;
+};
+
+// A fault is over when the operator ends the station.
+class cFaultyLife {
+  public:
+    cFaultyLife(eFault fault, int first, int count) {
+        m_Life.m_Faulty.m_Fault = fault;
+        m_Life.m_Faulty.m_First = first;
+        m_Life.m_Faulty.m_Count = count;
+    }
+    cStory Live() {
+        for (const cStationLife::cStep& step : m_Life.Steps()) {
+            if (step.name == "end") {
+                End(step);
+            } else {
+                m_Life.Take(step);
+            }
+            m_Story.listed.push_back(m_Life.Rows());
+        }
+        m_Story.failures = m_Life.m_Failures;
+        m_Story.refusedStarts = m_Life.m_RefusedStarts;
+        m_Story.calls = m_Life.m_Faulty.m_Calls;
+        m_Story.listedOtherwise = m_Life.m_Faulty.m_Met.contains("list C:\\App\\Alarms\\");
+        m_Story.configuration = m_Life.m_Disk.ReadFile("C:\\App\\VigrelReceiver.INI");
+        return m_Story;
+    }
+
+  private:
+    void End(const cStationLife::cStep& step) {
+        cFaultyFiles& files = m_Life.m_Faulty;
+        if (files.m_Failed > 0) files.m_Count = 0;
+        const int failedBefore = files.m_Failed;
+        cStory::cEnd end;
+        end.before = m_Life.Rows();
+        m_Life.Take(step);
+        end.metFault = files.m_Failed > failedBefore;
+        end.behind = NextStart(m_Life.m_Disk, m_Life.Now());
+        cFakeFiles cut = m_Life.m_Disk;
+        cut.Crash();
+        end.behindPowerCut = NextStart(cut, m_Life.Now());
+        m_Story.ends.push_back(end);
+    }
+
+    cStationLife m_Life;
+    cStory m_Story;
+};
+
+const cStory& FlawlessStory() {
+    static const cStory story = cFaultyLife(eFault::InputOutput, 0, 0).Live();
+    return story;
+}
+
+bool Has(const cRows& rows, const std::string& row) {
+    return std::find(rows.begin(), rows.end(), row) != rows.end();
+}
+
+// A start that can't read what it needs, and the cleaning of logs, end the program; nothing else may.
+void ExpectKnownFailures(const cStory& story) {
+    for (const std::string& failure : story.failures) {
+        const bool known = failure.starts_with("C:\\App\\Vigrel") ||
+                           failure.starts_with("C:\\App\\Alarms\\A") ||
+                           failure.starts_with("C:\\App\\LogFiles\\");
+        EXPECT_TRUE(known) << failure;
+    }
+}
+
+void ExpectTheConfigurationWhole(const cStory& story) {
+    for (const char* line : {"Language=046\r\n", "MaxEvents=6\r\n", "[Senders]\r\nPLC1=1\r\nPLC2=0\r\n"})
+        EXPECT_NE(story.configuration.find(line), std::string::npos) << story.configuration;
+}
+
+// Whatever befell the station, what it lists when it is told to end is what the next one finds. Where the
+// disk fails in the end itself, and for good, the last acknowledgements can be lost and no alarm.
+void ExpectNothingLost(const cStory& story, bool once) {
+    for (const cStory::cEnd& end : story.ends) {
+        if (end.before.empty()) continue;
+        const bool marksToo = once || !end.metFault;
+        const cRows before = marksToo ? end.before : WithoutMarks(end.before);
+        for (cRows behind : {end.behind, end.behindPowerCut}) {
+            if (!marksToo) behind = WithoutMarks(behind);
+            // A station that could not list its alarms has others besides.
+            if (story.listedOtherwise)
+                std::erase_if(behind, [&](const std::string& row) { return !Has(before, row); });
+            EXPECT_EQ(Listed(behind), Listed(before));
+        }
+    }
+}
+
+class Faults : public ::testing::TestWithParam<eFault> {
+  protected:
+    void LiveWithFaultAtEveryCall(int count) {
+        const bool once = count == 1;
+        for (int call = 0; call < FlawlessStory().calls && !HasFailure(); ++call) {
+            SCOPED_TRACE("from call " + std::to_string(call));
+            const cStory story = cFaultyLife(GetParam(), call, count).Live();
+            ExpectKnownFailures(story);
+            ExpectTheConfigurationWhole(story);
+            ExpectNothingLost(story, once);
+            // A station that was not started again shows at every step what it would show on a good disk.
+            const bool goesOn = story.failures.empty() && story.refusedStarts == 0 && !story.listedOtherwise;
+            if (!goesOn || story.ends[0].metFault) continue;
+            for (std::size_t step = 0; step < story.listed.size(); ++step)
+                ASSERT_EQ(Listed(story.listed[step]), Listed(FlawlessStory().listed[step]))
+                    << "step " << step;
+        }
+    }
+};
+
+TEST(FlawlessLife, EndsWithWhatItListed) {
+    const cStory& story = FlawlessStory();
+    EXPECT_TRUE(story.failures.empty());
+    EXPECT_EQ(story.refusedStarts, 0);
+    ASSERT_EQ(story.ends.size(), 2u);
+    EXPECT_EQ(story.ends[1].before.size(), 6u);
+    ExpectNothingLost(story, true);
+    ExpectTheConfigurationWhole(story);
+}
+
+TEST_P(Faults, OnceAtAnyCallLoseNothing) {
+    LiveWithFaultAtEveryCall(1);
+}
+
+TEST_P(Faults, FromAnyCallUntilTheEndLoseNothing) {
+    LiveWithFaultAtEveryCall(std::numeric_limits<int>::max());
+}
+
+std::string NameOf(const ::testing::TestParamInfo<eFault>& fault) {
+    constexpr const char* kNames[] = {"InputOutput",  "DiskFull",   "ShortWrite",
+                                      "TooManyFiles", "Permission", "FailingSync"};
+    return kNames[static_cast<int>(fault.param)];
+}
+
+INSTANTIATE_TEST_SUITE_P(Any, Faults,
+                         ::testing::Values(eFault::InputOutput, eFault::DiskFull, eFault::ShortWrite,
+                                           eFault::TooManyFiles, eFault::Permission, eFault::FailingSync),
+                         NameOf);
+
+}  // namespace
+}  // namespace vigrel::testing
