@@ -285,13 +285,26 @@ std::vector<std::string> cFakeFiles::AllPaths() const {
     return paths;
 }
 
-std::vector<std::int64_t> cFakeFiles::UnsyncedContents() const {
+std::set<std::int64_t> cFakeFiles::Reachable() const {
     std::set<std::int64_t> reachable;
     for (const auto& [path, inode] : m_Names) reachable.insert(inode);
     for (const auto& [path, name] : m_DurableNames) reachable.insert(name.inode);
     for (const cNameChange& change : m_Changes) {
         if (change.inode != 0) reachable.insert(change.inode);
     }
+    return reachable;
+}
+
+void cFakeFiles::DropUnreachable() {
+    const std::set<std::int64_t> reachable = Reachable();
+    const auto isGone = [&](const auto& entry) { return !reachable.contains(entry.first); };
+    std::erase_if(m_Inodes, isGone);
+    std::erase_if(m_DurableBytes, isGone);
+    std::erase_if(m_SyncedAt, isGone);
+}
+
+std::vector<std::int64_t> cFakeFiles::UnsyncedContents() const {
+    const std::set<std::int64_t> reachable = Reachable();
     std::vector<std::int64_t> unsynced;
     std::copy_if(reachable.begin(), reachable.end(), std::back_inserter(unsynced),
                  [this](std::int64_t inode) {

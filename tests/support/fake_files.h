@@ -53,6 +53,8 @@ class cFakeFiles : public cFiles {
     // by itself, since a disk takes them in any order; those behind the fates' end are lost. So is a folder
     // whose name was not synced, with all that is in it.
     void Crash(const std::vector<eFate>& fates = {});
+    // Forgets what no name leads to any more, so that long runs cost no memory.
+    void DropUnreachable();
     void SetReadOnly(std::string_view path, bool readOnly);
     void SetUnreadable(std::string_view path, bool unreadable);
     // What List gives of the folder as unreadable, as far as the mask fits.
@@ -94,7 +96,8 @@ class cFakeFiles : public cFiles {
     // Those of the changes of names that are wanted become durable.
     void MakeDurable(const std::function<bool(const cNameChange&)>& wanted);
     void MakeDurable(std::int64_t inode, std::string_view bytes);
-    // Of the files that a name can still lead to, those whose content is not durable.
+    // The files that a name can still lead to, and of these those whose content is not durable.
+    std::set<std::int64_t> Reachable() const;
     std::vector<std::int64_t> UnsyncedContents() const;
     void Count(std::string_view operation, std::string_view path);
     const cFile* Find(std::string_view path) const;
