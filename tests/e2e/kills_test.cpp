@@ -1,0 +1,211 @@
+// A station that is killed at random moments: while it takes alarms, with and without its limit reached,
+// while it ends, and while it starts.
+
+#include <arpa/inet.h>
+#include <gtest/gtest.h>
+#include <netinet/in.h>
+#include <signal.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <array>
+#include <chrono>
+#include <cstdlib>
+#include <random>
+#include <set>
+#include <string>
+#include <string_view>
+#include <thread>
+
+#include "e2e/station.h"
+#include "link/frame.h"
+
+namespace vigrel::testing {
+namespace {
+
+constexpr std::string_view kAnswer =
+    "\x04"
+    "04\n\r";
+
+// A campaign asks for more.
+int KillsOfEachKind() {
+    const char* wish = std::getenv("VIGREL_KILLS");
+    return wish != nullptr ? std::atoi(wish) : 2;
+}
+
+// Sends numbered alarms, some at a time, and counts the answers.
+class cNumberedAlarms {
+  public:
+    int m_Sent = 0;      // the number of the last one that was sent
+    int m_Answered = 0;  // the number of the last one that was answered
+    int m_Answers = 0;
+
+    // Up to so many, or to the end of the connection.
+    void Send(int port, int count) {
+        const int descriptor = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+        sockaddr_in address{};
+        address.sin_family = AF_INET;
+        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        address.sin_port = htons(static_cast<std::uint16_t>(port));
+        if (connect(descriptor, reinterpret_cast<sockaddr*>(&address), sizeof address) == 0) {
+            const int first = m_Sent;
+            while (m_Sent - first < count && SendSome(descriptor)) {
+            }
+        }
+        close(descriptor);
+    }
+
+  private:
+    static constexpr int kTogether = 10;
+
+    bool SendSome(int descriptor) {
+        std::string frames;
+        for (int i = 0; i < kTogether; ++i)
+            frames += MakeFrame("Killer", "S1||<" + std::to_string(++m_Sent) + ">||Technical");
+        if (send(descriptor, frames.data(), frames.size(), MSG_NOSIGNAL) < 0) return false;
+        std::string answers;
+        std::array<char, 256> buffer;
+        while (answers.size() < kTogether * kAnswer.size()) {
+            const ssize_t count = recv(descriptor, buffer.data(), buffer.size(), 0);
+            if (count <= 0) break;
+            answers.append(buffer.data(), static_cast<std::size_t>(count));
+        }
+        const int answered = static_cast<int>(answers.size() / kAnswer.size());
+        if (answered > 0) m_Answered = m_Sent - kTogether + answered;
+        m_Answers += answered;
+        return answers.size() == kTogether * kAnswer.size();
+    }
+};
+
+// Where the texts of an alarm's file begin, behind numbers of any bytes.
+constexpr std::size_t kFirstText = 22;
+
+// The numbers of the alarms that are stored. A file that is not whole fails the test.
+std::set<int> StoredNumbers(const cStation& station) {
+    std::set<int> numbers;
+    for (const auto& path : station.AlarmFiles()) {
+        const std::string bytes = ReadAll(path);
+        const std::size_t open = bytes.find('<', kFirstText);
+        const std::size_t close = bytes.find('>', kFirstText);
+        if (open == std::string::npos || close == std::string::npos) {
+            ADD_FAILURE() << path << " is not whole: " << bytes.size() << " bytes";
+            continue;
+        }
+        // 180 bytes and the texts: the alarm's own, its category, its sender.
+        EXPECT_EQ(bytes.size(), 180 + (close - open + 1) + 9 + 6) << path;
+        EXPECT_TRUE(numbers.insert(std::stoi(bytes.substr(open + 1))).second) << path;
+    }
+    return numbers;
+}
+
+class Kills : public ::testing::Test {
+  protected:
+    Kills() { station.ExpectStandardError(); }
+    void SetLimit(int limit) {
+        std::filesystem::remove(station.Folder() / "VigrelReceiver.INI");
+        station.Configure("[General]\r\nMaxEvents=" + std::to_string(limit) + "\r\n");
+    }
+    void KillAfter(int mostMilliseconds) {
+        const std::chrono::milliseconds moment(
+            std::uniform_int_distribution<>(0, mostMilliseconds)(m_Random));
+        std::this_thread::sleep_for(moment);
+        kill(station.Process(), SIGKILL);
+    }
+    // Takes alarms until it is killed.
+    void KillWhileItTakesAlarms() {
+        std::thread killer([this] { KillAfter(300); });
+        alarms.Send(station.m_Port, 1'000'000);
+        killer.join();
+        station.WaitForEnd();
+    }
+    // Started again it has the newest of them all, as many as the limit allows, and nothing else.
+    void ExpectTheAnswered(int limit) {
+        ASSERT_TRUE(station.Start()) << station.StandardError();
+        const std::set<int> stored = StoredNumbers(station);
+        EXPECT_LE(static_cast<int>(stored.size()), limit);
+        if (alarms.m_Answered > 0) {
+            ASSERT_FALSE(stored.empty());
+        }
+        const int newest = stored.empty() ? 0 : *stored.rbegin();
+        EXPECT_LE(newest, alarms.m_Sent);
+        int room = limit;
+        for (int number = newest; number > 0 && room > 0; --number) {
+            if (stored.contains(number)) {
+                --room;
+            } else {
+                EXPECT_TRUE(number > alarms.m_Answered || m_Gaps.contains(number)) << number << " is lost";
+            }
+        }
+        RememberGaps(stored);
+    }
+    // Numbers that were sent to a station which died before it answered.
+    void RememberGaps(const std::set<int>& stored) {
+        for (int number = alarms.m_Answered + 1; number <= alarms.m_Sent; ++number) {
+            if (!stored.contains(number)) m_Gaps.insert(number);
+        }
+    }
+
+    std::mt19937 m_Random{std::random_device{}()};
+    std::set<int> m_Gaps;
+    cNumberedAlarms alarms;
+    cStation station;
+};
+
+constexpr int kNoLimit = 10'000'000;
+
+TEST_F(Kills, WhileItTakesAlarmsLoseNoneThatWasAnswered) {
+    station.Configure("[General]\r\nMaxEvents=0\r\n");
+    ASSERT_TRUE(station.Start()) << station.StandardError();
+    for (int i = 0; i < KillsOfEachKind(); ++i) {
+        KillWhileItTakesAlarms();
+        ExpectTheAnswered(kNoLimit);
+    }
+    RecordProperty("answered", alarms.m_Answers);
+}
+
+TEST_F(Kills, WhileEveryAlarmPushesOneOutLoseNoneThatIsToStay) {
+    station.Configure("[General]\r\nMaxEvents=40\r\n");
+    ASSERT_TRUE(station.Start()) << station.StandardError();
+    for (int i = 0; i < KillsOfEachKind(); ++i) {
+        KillWhileItTakesAlarms();
+        ExpectTheAnswered(40);
+    }
+    RecordProperty("answered", alarms.m_Answers);
+}
+
+// The end closes popups, each of which acknowledges, and saves the window's place.
+TEST_F(Kills, WhileItEndsLoseNeitherAlarmsNorSettings) {
+    station.Configure("[General]\r\nMaxEvents=0\r\nViewPopupForm=1\r\nAckEventWhenPopupFormIsClosed=1\r\n");
+    ASSERT_TRUE(station.Start()) << station.StandardError();
+    for (int i = 0; i < KillsOfEachKind(); ++i) {
+        alarms.Send(station.m_Port, 20);
+        kill(station.Process(), SIGTERM);
+        KillAfter(60);
+        station.WaitForEnd();
+        const std::string configuration = ReadAll(station.Folder() / "VigrelReceiver.INI");
+        EXPECT_NE(configuration.find("Language=046\r\n"), std::string::npos) << configuration;
+        EXPECT_NE(configuration.find("[TCPIP]\r\nPort="), std::string::npos) << configuration;
+        ExpectTheAnswered(kNoLimit);
+    }
+    RecordProperty("answered", alarms.m_Answers);
+}
+
+// The start removes what the limit, lowered meanwhile, does not allow.
+TEST_F(Kills, WhileItStartsLoseNoneThatIsToStay) {
+    for (int i = 0; i < KillsOfEachKind(); ++i) {
+        SetLimit(0);
+        ASSERT_TRUE(station.Start()) << station.StandardError();
+        alarms.Send(station.m_Port, 300);
+        station.Stop(SIGKILL);
+        SetLimit(40);
+        station.Launch();
+        KillAfter(500);
+        station.WaitForEnd();
+        ExpectTheAnswered(40);
+        station.Stop(SIGKILL);
+    }
+    RecordProperty("answered", alarms.m_Answers);
+}
+
+}  // namespace
+}  // namespace vigrel::testing
