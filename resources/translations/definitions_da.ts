@@ -476,6 +476,14 @@
         <source>copying a year</source>
         <translation>kopiering af et år</translation>
     </message>
+    <message>
+        <source>Yea&amp;r</source>
+        <translation>&amp;År</translation>
+    </message>
+    <message>
+        <source>The whole year on one page</source>
+        <translation>Hele året på én side</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cColourPreview</name>
@@ -924,6 +932,32 @@ Programmets mappe: %3</translation>
     <message>
         <source>&amp;Colour rules of the station</source>
         <translation>S&amp;tationens farveregler</translation>
+    </message>
+    <message>
+        <source>%1 was not printed.</source>
+        <translation>%1 blev ikke udskrevet.</translation>
+    </message>
+    <message>
+        <source>PDF files (*.pdf);;All files (*)</source>
+        <translation>PDF-filer (*.pdf);;Alle filer (*)</translation>
+    </message>
+    <message>
+        <source>The file was not saved.
+%1</source>
+        <translation>Filen blev ikke gemt.
+%1</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 er gemt</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>&amp;Udskriv...</translation>
+    </message>
+    <message>
+        <source>Save as P&amp;DF...</source>
+        <translation>Gem som P&amp;DF...</translation>
     </message>
 </context>
 <context>

@@ -476,6 +476,14 @@
         <source>copying a year</source>
         <translation>Kopieren eines Jahres</translation>
     </message>
+    <message>
+        <source>Yea&amp;r</source>
+        <translation>Jah&amp;r</translation>
+    </message>
+    <message>
+        <source>The whole year on one page</source>
+        <translation>Das ganze Jahr auf einer Seite</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cColourPreview</name>
@@ -924,6 +932,32 @@ Programmordner: %3</translation>
     <message>
         <source>&amp;Colour rules of the station</source>
         <translation>Fa&amp;rbregeln der Station</translation>
+    </message>
+    <message>
+        <source>%1 was not printed.</source>
+        <translation>%1 wurde nicht gedruckt.</translation>
+    </message>
+    <message>
+        <source>PDF files (*.pdf);;All files (*)</source>
+        <translation>PDF-Dateien (*.pdf);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>The file was not saved.
+%1</source>
+        <translation>Die Datei wurde nicht gespeichert.
+%1</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 wurde gespeichert</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>&amp;Drucken...</translation>
+    </message>
+    <message>
+        <source>Save as P&amp;DF...</source>
+        <translation>Als &amp;PDF speichern...</translation>
     </message>
 </context>
 <context>

@@ -476,6 +476,14 @@
         <source>copying a year</source>
         <translation>vuoden kopiointi</translation>
     </message>
+    <message>
+        <source>Yea&amp;r</source>
+        <translation>V&amp;uosi</translation>
+    </message>
+    <message>
+        <source>The whole year on one page</source>
+        <translation>Koko vuosi yhdellä sivulla</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cColourPreview</name>
@@ -924,6 +932,32 @@ Ohjelman kansio: %3</translation>
     <message>
         <source>&amp;Colour rules of the station</source>
         <translation>As&amp;eman värisäännöt</translation>
+    </message>
+    <message>
+        <source>%1 was not printed.</source>
+        <translation>Kohdetta %1 ei tulostettu.</translation>
+    </message>
+    <message>
+        <source>PDF files (*.pdf);;All files (*)</source>
+        <translation>PDF-tiedostot (*.pdf);;Kaikki tiedostot (*)</translation>
+    </message>
+    <message>
+        <source>The file was not saved.
+%1</source>
+        <translation>Tiedosto jäi tallentamatta.
+%1</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 tallennettiin</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>Tul&amp;osta...</translation>
+    </message>
+    <message>
+        <source>Save as P&amp;DF...</source>
+        <translation>Tallenna P&amp;DF-tiedostona...</translation>
     </message>
 </context>
 <context>

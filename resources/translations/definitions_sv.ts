@@ -476,6 +476,14 @@
         <source>copying a year</source>
         <translation>kopiering av ett år</translation>
     </message>
+    <message>
+        <source>Yea&amp;r</source>
+        <translation>&amp;År</translation>
+    </message>
+    <message>
+        <source>The whole year on one page</source>
+        <translation>Hela året på en sida</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cColourPreview</name>
@@ -924,6 +932,32 @@ Programmets mapp: %3</translation>
     <message>
         <source>&amp;Colour rules of the station</source>
         <translation>Stationens &amp;färgregler</translation>
+    </message>
+    <message>
+        <source>%1 was not printed.</source>
+        <translation>%1 skrevs inte ut.</translation>
+    </message>
+    <message>
+        <source>PDF files (*.pdf);;All files (*)</source>
+        <translation>PDF-filer (*.pdf);;Alla filer (*)</translation>
+    </message>
+    <message>
+        <source>The file was not saved.
+%1</source>
+        <translation>Filen sparades inte.
+%1</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 har sparats</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>Skriv &amp;ut...</translation>
+    </message>
+    <message>
+        <source>Save as P&amp;DF...</source>
+        <translation>Spara som P&amp;DF...</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAbstractButton>
 #include <QTabWidget>
 #include <functional>
 #include <memory>
@@ -46,6 +47,8 @@ class cEditorPages {
         look("schedule");
         m_Bench->NewCalendar();
         look("calendar");
+        cEditorBench::Find<QAbstractButton>(*Window().CurrentPage(), "Button_Calendar_ShowYear").click();
+        look("calendar, year");
         Window().ShowColourRules();
         look("colour rules");
         Window().ShowReceivers();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPrinter>
 #include <QString>
 #include <QWidget>
 #include <deque>
@@ -40,7 +41,14 @@ class cFakePrompts : public cPrompts {
         return Take(m_Texts, QString());
     }
 
+    bool AskPrinter(QWidget*, QPrinter& printer) override {
+        m_Asked += "printer for " + printer.docName() + "\n";
+        printer.setOutputFileName(m_PrintedFile);
+        return !m_PrintedFile.isEmpty();
+    }
+
     QString m_Asked;
+    QString m_PrintedFile;        // where a print goes; empty: cancelled
     QWidget* m_Window = nullptr;  // over which the last failure was shown
     std::deque<eSave> m_SaveAnswers;
     std::deque<eConflict> m_ConflictAnswers;

@@ -65,6 +65,7 @@ cCalendarEditor::cCalendarEditor(cEditorServices& services, QWidget* parent)
       m_Services(services),
       m_Calendar({services.m_Files, services.m_Clock, services.m_Forms, m_Holidays, services.GetText}),
       m_View("Picture_Calendar", this),
+      m_YearView("Picture_Calendar_Year", this),
       m_ShowTimeAxis(tr("Show the day's &periods")) {
     setObjectName("Editor_Calendar");
     setFocusProxy(&m_View);
@@ -74,6 +75,7 @@ cCalendarEditor::cCalendarEditor(cEditorServices& services, QWidget* parent)
     FillCountries();
     SetSchedules({});
     ConnectView();
+    ConnectYear();
     ConnectChoices();
     SetZoom(1);
     TakeCountry();
@@ -84,18 +86,17 @@ void cCalendarEditor::MakeLayout() {
     m_View.Surface().SetFontSize(kFontSize);
     auto* drawing = new QVBoxLayout;
     drawing->addLayout(MakeMonthBar());
-    drawing->addWidget(MakeViewFrame(), 0, Qt::AlignLeft);
+    drawing->addWidget(MakeStack(), 1);
     auto* hint =
         new cPlainLabel(tr("Choose a day type and paint it over the days with the left mouse button."));
     hint->setWordWrap(true);
     drawing->addWidget(hint);
-    drawing->addStretch(1);
     auto* tools = new QVBoxLayout;
     tools->addWidget(MakeToolBox());
     tools->addStretch(1);
     auto* layout = new QHBoxLayout(this);
-    layout->addLayout(drawing);
-    layout->addLayout(tools, 1);
+    layout->addLayout(drawing, 1);
+    layout->addLayout(tools);
 }
 
 QLayout* cCalendarEditor::MakeMonthBar() {
@@ -113,6 +114,8 @@ QLayout* cCalendarEditor::MakeMonthBar() {
     make(m_Previous, "Button_Calendar_Previous", QStringLiteral("◀"), tr("Previous month (Page Up)"));
     make(m_Next, "Button_Calendar_Next", QStringLiteral("▶"), tr("Next month (Page Down)"));
     make(m_Today, "Button_Calendar_Today", tr("To&day"), tr("The month of today (Home)"));
+    make(m_ShowYear, "Button_Calendar_ShowYear", tr("Yea&r"), tr("The whole year on one page"));
+    m_ShowYear.setCheckable(true);
     m_Year.setObjectName("Spin_Calendar_Year");
     m_Year.setAccessibleName(tr("Year"));
     m_Year.setRange(kFirstCalendarYear, kLastCalendarYear);
@@ -125,6 +128,7 @@ QLayout* cCalendarEditor::MakeMonthBar() {
     bar->addWidget(&m_MonthNames);
     bar->addWidget(&m_Year);
     bar->addWidget(&m_Today);
+    bar->addWidget(&m_ShowYear);
     bar->addWidget(&m_Next);
     return bar;
 }
@@ -161,7 +165,7 @@ void cCalendarEditor::FillDayTypes() {
 
 void cCalendarEditor::RefreshDayTypes() {
     FillDayTypes();
-    m_View.update();
+    Redraw();
 }
 
 void cCalendarEditor::FillCountries() {
@@ -177,8 +181,9 @@ void cCalendarEditor::FillCountries() {
 }
 
 void cCalendarEditor::ConnectChoices() {
-    connect(&m_Previous, &QToolButton::clicked, this, [this] { MoveMonth(-1); });
-    connect(&m_Next, &QToolButton::clicked, this, [this] { MoveMonth(1); });
+    connect(&m_Previous, &QToolButton::clicked, this, [this] { MoveMonth(ShowsYear() ? -12 : -1); });
+    connect(&m_Next, &QToolButton::clicked, this, [this] { MoveMonth(ShowsYear() ? 12 : 1); });
+    connect(&m_ShowYear, &QToolButton::toggled, this, &cCalendarEditor::ShowYear);
     connect(&m_Today, &QToolButton::clicked, this, &cCalendarEditor::ShowToday);
     connect(&m_Year, &QSpinBox::valueChanged, this, &cCalendarEditor::ShowChosenMonth);
     connect(&m_MonthNames, &QComboBox::currentIndexChanged, this, &cCalendarEditor::ShowChosenMonth);
@@ -190,13 +195,13 @@ void cCalendarEditor::ConnectChoices() {
     connect(&m_Schedule, &QComboBox::currentIndexChanged, this, &cCalendarEditor::TakeSchedule);
     connect(&m_ShowTimeAxis, &QCheckBox::toggled, this, [this](bool show) {
         m_Calendar.m_ShowTimeAxis = show ? True16 : False16;
-        m_View.update();
+        Redraw();
     });
 }
 
 void cCalendarEditor::TakeCountry() {
     m_Holidays = PublicHolidays(FromQString(m_Country.currentData().toString()));
-    m_View.update();
+    Redraw();
 }
 
 // --- time axis
@@ -224,7 +229,7 @@ void cCalendarEditor::TakeSchedule() {
     const int index = m_Schedule.currentIndex() - 1;
     m_Calendar.m_AssociatedTimeSchedule = m_Schedules.value(index, {{}, nullptr}).schedule;
     m_ShowTimeAxis.setEnabled(m_Calendar.m_AssociatedTimeSchedule != nullptr);
-    m_View.update();
+    Redraw();
 }
 
 // --- month
@@ -242,6 +247,7 @@ void cCalendarEditor::ShowMonth(int year, int month) {
     ForgetPointer();
     // The month's name is among what the calendar tells while it paints.
     m_Calendar.Paint(*this, &m_View.Surface());
+    Redraw();
 }
 
 void cCalendarEditor::ShowChosenMonth() {
@@ -268,7 +274,7 @@ void cCalendarEditor::MoveMonth(int months) {
 void cCalendarEditor::ReadFile(const std::string& path) {
     EndStroke();
     LoadCalendarFile(m_Services.m_Files, path, m_Calendar);
-    m_View.update();
+    Redraw();
 }
 
 void cCalendarEditor::WriteFile(const std::string& path) {
@@ -298,7 +304,7 @@ void cCalendarEditor::Restore(const std::string& state) {
         changed.push_back(i);
     }
     ShowAnyOf(changed);
-    m_View.update();
+    Redraw();
 }
 
 // Turns to the first of the days, unless the month shows one of them.
@@ -311,6 +317,17 @@ void cCalendarEditor::ShowAnyOf(const std::vector<std::int32_t>& days) {
     const cDateParts date = SplitDateTime((shown == days.end() ? days.front() : *shown) + kFirstCalendarDay);
     m_Day = date.day - 1;
     if (shown == days.end()) ShowMonth(date.year, date.month);
+}
+
+// The month has a size of its own, the year takes all the room there is.
+QWidget* cCalendarEditor::MakeStack() {
+    auto* month = new QWidget;
+    auto* layout = new QVBoxLayout(month);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(MakeViewFrame(), 0, Qt::AlignLeft | Qt::AlignTop);
+    m_Stack.addWidget(month);
+    m_Stack.addWidget(&m_YearView);
+    return &m_Stack;
 }
 
 // The drawing stays light where the desktop is dark.
@@ -353,7 +370,7 @@ std::string cCalendarEditor::Get_Combo_Calendar_DayType_ComboItems(std::int16_t 
     return m_Services.m_DayTypeNames.Entry(number);
 }
 void cCalendarEditor::Set_Text_Calendar_Month(std::string_view text) {
-    m_Month.setText(ToQString(text));
+    m_Month.setText(ShowsYear() ? QString::number(m_Calendar.m_SelectedYear) : ToQString(text));
 }
 
 }  // namespace vigrel

@@ -4,8 +4,10 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QSpinBox>
+#include <QStackedWidget>
 #include <QToolButton>
 
+#include "editor_ui/calendar/year_drawing.h"
 #include "editor_ui/drawing/drawing_view.h"
 #include "editor_ui/pages/content_editor.h"
 #include "editor_ui/pages/editor_services.h"
@@ -46,6 +48,8 @@ class cCalendarEditor : public cContentEditor, private cCalendarContainer {
     void Clear();
     std::string State() const override;
     void Restore(const std::string& state) override;
+    bool CanPrint() const override { return true; }
+    std::optional<cPrintout> Printout() override;
     QList<QAction*> EditActions() const override;
     void SetZoom(double zoom) override;
     void RefreshDayTypes() override;
@@ -67,6 +71,7 @@ class cCalendarEditor : public cContentEditor, private cCalendarContainer {
     void MakeLayout();
     QLayout* MakeMonthBar();
     QWidget* MakeViewFrame();
+    QWidget* MakeStack();
     QWidget* MakeToolBox();
     void FillDayTypes();
     void FillCountries();
@@ -95,13 +100,30 @@ class cCalendarEditor : public cContentEditor, private cCalendarContainer {
     void CopyYear();
     bool IsShownYear(std::int32_t day) const;
     void PaintFocus(QPainter& painter);
+    void Redraw();
+
+    // --- the year at a glance
+    bool ShowsYear() const { return m_Stack.currentIndex() == 1; }
+    void ShowYear(bool year);
+    void ConnectYear();
+    cYearDrawing YearDrawing() const;
+    cYearDrawing::cSource YearSource() const;
+    void PaintYear(QPainter& painter);
+    void PaintInYear(QPoint place);
+    void YearMouseUp(std::int16_t button);
+    void YearMouseMove(QPoint place);
+    void SetPaintedDay(std::int32_t day);
+    QString TipOf(std::int32_t day) const;
 
     cEditorServices& m_Services;
     cHolidays m_Holidays;
     cCalendar m_Calendar;
+    // Those that lie in it come behind it, so that it never ends them.
+    QStackedWidget m_Stack;
     cDrawingView m_View;
     cPlainLabel m_Month;
-    QToolButton m_Previous, m_Next, m_Today;
+    cDrawingView m_YearView;
+    QToolButton m_Previous, m_Next, m_Today, m_ShowYear;
     QSpinBox m_Year;
     QComboBox m_MonthNames, m_DayType, m_Country, m_Schedule;
     QCheckBox m_ShowTimeAxis;
@@ -109,6 +131,7 @@ class cCalendarEditor : public cContentEditor, private cCalendarContainer {
     QList<QAction*> m_Actions;
     int m_Day = 0;  // the keyboard's day in the month, from 0
     bool m_Painting = false;
+    bool m_IsPrinting = false;
 };
 
 }  // namespace vigrel

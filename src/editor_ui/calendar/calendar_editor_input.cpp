@@ -39,7 +39,7 @@ void cCalendarEditor::ConnectView() {
     m_View.setAccessibleDescription(tr("Arrow keys choose a day, Space paints the day type"));
     m_View.OnPaint = [this](QPainter& painter) {
         m_Calendar.Paint(*this, &m_View.Surface());
-        PaintFocus(painter);
+        if (!m_IsPrinting) PaintFocus(painter);
     };
     m_View.OnMouseDown = [this](auto... event) { MouseDown(event...); };
     m_View.OnMouseUp = [this](auto... event) { MouseUp(event...); };
@@ -119,7 +119,7 @@ void cCalendarEditor::MoveDay(int days) {
     m_Calendar.MouseMove(*this, &m_View.Surface(), 0, 0, static_cast<float>(cell.x()),
                          static_cast<float>(cell.y()));
     emit Message(m_View.toolTip());
-    m_View.update();
+    Redraw();
 }
 
 // The middle of a day's cell.
@@ -158,7 +158,7 @@ void cCalendarEditor::TakeSelectedType(bool allYears) {
             ++count;
         }
     });
-    m_View.update();
+    Redraw();
     emit Message(tr("Painted holidays: %1 (%2)").arg(count).arg(m_DayType.currentText()));
 }
 
@@ -166,7 +166,7 @@ void cCalendarEditor::Clear() {
     Edit(tr("clearing the calendar"), [&] {
         for (std::int32_t i = 0; i < kCalendarDays; ++i) m_Calendar.SetDayType(i, 0);
     });
-    m_View.update();
+    Redraw();
 }
 
 void cCalendarEditor::ClearYear() {
@@ -175,7 +175,7 @@ void cCalendarEditor::ClearYear() {
             if (IsShownYear(i)) m_Calendar.SetDayType(i, 0);
         }
     });
-    m_View.update();
+    Redraw();
 }
 
 void cCalendarEditor::CopyYear() {

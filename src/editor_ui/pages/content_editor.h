@@ -4,7 +4,10 @@
 #include <QString>
 #include <QWidget>
 #include <functional>
+#include <optional>
 #include <string>
+
+#include "editor_ui/pages/printout.h"
 
 class QAction;
 
@@ -27,6 +30,9 @@ class cContentEditor : public QWidget {
     virtual void Restore(const std::string& state) = 0;
     // The editor's entries of the menu Edit; null stands for a separator.
     virtual QList<QAction*> EditActions() const { return {}; }
+    // What is shown, for paper; none for an editor that prints nothing.
+    virtual bool CanPrint() const { return false; }
+    virtual std::optional<cPrintout> Printout() { return std::nullopt; }
     // Why the content can't be saved as it stands: something was typed that can't be taken over. Empty when
     // it can.
     virtual QString Problem() const { return {}; }

@@ -3,6 +3,9 @@
 #include <QList>
 #include <QString>
 #include <QWidget>
+#include <optional>
+
+#include "editor_ui/pages/printout.h"
 
 class QAction;
 class QUndoStack;
@@ -28,6 +31,9 @@ class cEditorPage : public QWidget {
     // Whether the content can be saved under another name, by SaveAs.
     virtual bool HasSaveAs() const { return false; }
     virtual bool SaveAs() { return Save(); }
+    // What the page shows, for paper; none for one that prints nothing.
+    virtual bool CanPrint() const { return false; }
+    virtual std::optional<cPrintout> Printout() { return std::nullopt; }
     // None for a page that can't undo.
     virtual QUndoStack* UndoStack();
     // The page's entries of the menu Edit; null stands for a separator.

@@ -52,6 +52,14 @@ bool cFilePage::MaySave() {
     return false;
 }
 
+// Under the name of the file and of what is shown of it.
+std::optional<cPrintout> cFilePage::Printout() {
+    std::optional<cPrintout> printout = m_Editor.Printout();
+    if (!printout) return printout;
+    printout->title = printout->title.isEmpty() ? Title() : Title() + " - " + printout->title;
+    return printout;
+}
+
 bool cFilePage::Open(const std::string& path) {
     if (!m_Document.Open(path)) return false;
     m_UndoStack.clear();

@@ -25,6 +25,8 @@ class cFilePage : public cEditorPage {
     bool SaveAs() override { return MaySave() && m_Document.SaveAs(); }
     QUndoStack* UndoStack() override { return &m_UndoStack; }
     QList<QAction*> EditActions() const override { return m_Editor.EditActions(); }
+    bool CanPrint() const override { return m_Editor.CanPrint(); }
+    std::optional<cPrintout> Printout() override;
     void SetZoom(double zoom) override { m_Editor.SetZoom(zoom); }
     void RefreshDayTypes() override { m_Editor.RefreshDayTypes(); }
 

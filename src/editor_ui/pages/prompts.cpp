@@ -3,6 +3,8 @@
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QInputDialog>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QPushButton>
 
 #include "windows/plain_text.h"
@@ -76,6 +78,11 @@ QString cDialogPrompts::AskText(QWidget* owner, const QString& label, const QStr
     const QString answer = QInputDialog::getText(owner, QGuiApplication::applicationDisplayName(), label,
                                                  QLineEdit::Normal, text, &accepted);
     return accepted ? answer.trimmed() : QString();
+}
+
+bool cDialogPrompts::AskPrinter(QWidget* owner, QPrinter& printer) {
+    QPrintDialog dialog(&printer, owner);
+    return dialog.exec() == QDialog::Accepted;
 }
 
 }  // namespace vigrel

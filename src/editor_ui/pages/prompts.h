@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QString>
 
+class QPrinter;
 class QWidget;
 
 namespace vigrel {
@@ -23,6 +24,8 @@ class cPrompts {
     virtual QString AskSavePath(QWidget* owner, const QString& path, const QString& filter,
                                 const QString& suffix) = 0;
     virtual QString AskText(QWidget* owner, const QString& label, const QString& text) = 0;
+    // Which printer and how; false: cancelled.
+    virtual bool AskPrinter(QWidget* owner, QPrinter& printer) = 0;
 };
 
 // By dialogs.
@@ -37,6 +40,7 @@ class cDialogPrompts : public cPrompts {
     QString AskSavePath(QWidget* owner, const QString& path, const QString& filter,
                         const QString& suffix) override;
     QString AskText(QWidget* owner, const QString& label, const QString& text) override;
+    bool AskPrinter(QWidget* owner, QPrinter& printer) override;
 };
 
 }  // namespace vigrel

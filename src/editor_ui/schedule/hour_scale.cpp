@@ -1,6 +1,5 @@
 #include "editor_ui/schedule/hour_scale.h"
 
-#include <QPainter>
 #include <cmath>
 
 #include "schedule/schedule_geometry.h"
@@ -25,9 +24,15 @@ void cHourScale::Follow(double zoom, int viewLeft) {
 
 void cHourScale::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    PaintOn(painter, m_Zoom, m_ViewLeft, palette().color(QPalette::WindowText));
+}
+
+void cHourScale::PaintOn(QPainter& painter, double zoom, int viewLeft, const QColor& colour) const {
+    painter.setFont(font());
+    painter.setPen(colour);
     for (int hour = 0; hour <= 24; hour += kHoursBetweenLabels) {
         const QString label = QString("%1").arg(hour, 2, 10, QChar('0'));
-        const double x = m_ViewLeft + (kAxisLeft + kUnitsPerHour * hour + 0.5) * m_Zoom;
+        const double x = viewLeft + (kAxisLeft + kUnitsPerHour * hour + 0.5) * zoom;
         const int width = fontMetrics().horizontalAdvance(label);
         painter.drawText(static_cast<int>(std::lround(x - width / 2.0)), fontMetrics().ascent(), label);
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPainter>
 #include <QWidget>
 
 namespace vigrel {
@@ -11,6 +12,9 @@ class cHourScale : public QWidget {
     explicit cHourScale(QWidget* parent);
     // The zoom of the view under it, and how far right of this widget the view begins.
     void Follow(double zoom, int viewLeft);
+
+    // The same on another surface, in a colour.
+    void PaintOn(QPainter& painter, double zoom, int viewLeft, const QColor& colour) const;
 
   protected:
     void paintEvent(QPaintEvent* event) override;

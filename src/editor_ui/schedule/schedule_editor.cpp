@@ -111,7 +111,7 @@ void cScheduleEditor::ConnectView() {
     cDrawingView& view = m_Frame.View();
     view.OnPaint = [this](QPainter& painter) {
         m_Schedule.Paint(*this, &m_Frame.View().Surface());
-        PaintFocus(painter);
+        if (!m_IsPrinting) PaintFocus(painter);
     };
     view.OnMouseDown = [this](auto... event) { MouseDown(event...); };
     view.OnMouseUp = [this](auto... event) { MouseUp(event...); };
@@ -121,6 +121,25 @@ void cScheduleEditor::ConnectView() {
     };
     view.OnPopupMenu = [this](QPoint place) { ShowPopupMenu(place); };
     view.OnKey = [this](const QKeyEvent& event) { return Key(event); };
+}
+
+// The week as it is drawn, with all its rows, under the hours.
+std::optional<cPrintout> cScheduleEditor::Printout() {
+    QWidget& view = m_Frame.View();
+    const int hours = m_Hours.height();
+    const QSizeF shape(view.width(), view.height() + hours);
+    return cPrintout{{}, shape, [this, &view, hours](QPainter& painter, const QRectF& place) {
+                         painter.save();
+                         painter.translate(place.topLeft());
+                         const double scale = place.width() / view.width();
+                         painter.scale(scale, scale);
+                         m_Hours.PaintOn(painter, m_Frame.Zoom(), 0, Qt::black);
+                         m_IsPrinting = true;
+                         painter.translate(0, hours);
+                         view.render(&painter, {}, {}, QWidget::DrawWindowBackground);
+                         m_IsPrinting = false;
+                         painter.restore();
+                     }};
 }
 
 // --- content

@@ -37,6 +37,8 @@ class cScheduleEditor : public cContentEditor, private cTimeScheduleContainer {
     void DropTyping();
     // Whether the rows show the names of their days.
     QCheckBox& ViewDayType() { return m_ViewDayType; }
+    bool CanPrint() const override { return true; }
+    std::optional<cPrintout> Printout() override;
     QList<QAction*> EditActions() const override;
     void SetZoom(double zoom) override;
     void RefreshDayTypes() override;
@@ -156,6 +158,7 @@ class cScheduleEditor : public cContentEditor, private cTimeScheduleContainer {
         cTimeSchedulePeriod times;
     };
     cShown m_Shown;
+    bool m_IsPrinting = false;
     QCheckBox m_ViewDayType, m_UseCalendar;
     QListWidget m_DayTypes;
     QMenu m_Popup, m_Images;

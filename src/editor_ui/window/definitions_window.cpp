@@ -4,11 +4,13 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QMenu>
+#include <QPrinter>
 #include <QStatusBar>
 #include <QTabBar>
 
 #include "adapters/qt/qt_text.h"
 #include "common/failure.h"
+#include "common/file_procedures.h"
 #include "editor_ui/colours/colour_rules_page.h"
 #include "editor_ui/records/profiles_page.h"
 #include "editor_ui/records/receivers_page.h"
@@ -224,6 +226,9 @@ void cDefinitionsWindow::PageStateChanged() {
     const cEditorPage* page = CurrentPage();
     m_Save->setEnabled(page != nullptr);
     m_SaveAs->setEnabled(page != nullptr && page->HasSaveAs());
+    const bool prints = page != nullptr && page->CanPrint();
+    m_Print->setEnabled(prints);
+    m_Pdf->setEnabled(prints);
     m_Close->setEnabled(page != nullptr);
     const QString program = tr("Vigrel Definitions");
     setWindowTitle(page == nullptr ? program : QString("%1[*] - %2").arg(page->Title(), program));
@@ -241,6 +246,30 @@ void cDefinitionsWindow::SchedulesChanged() {
     for (cEditorPage* page : Pages()) {
         if (auto* calendar = qobject_cast<cCalendarPage*>(page)) calendar->Editor().SetSchedules(schedules);
     }
+}
+
+void cDefinitionsWindow::Print() {
+    const std::optional<cPrintout> printout = CurrentPage()->Printout();
+    QPrinter printer;
+    printer.setDocName(printout->title);
+    if (!m_Services.m_Prompts.AskPrinter(this, printer)) return;
+    if (!PrintOn(printer, *printout))
+        m_Services.m_Prompts.ShowFailure(this, tr("%1 was not printed.").arg(printout->title));
+}
+
+void cDefinitionsWindow::SaveAsPdf() {
+    const std::optional<cPrintout> printout = CurrentPage()->Printout();
+    const QString folder = PathToQString(m_Services.m_Ini.ApplicationPath());
+    const QString chosen = m_Services.m_Prompts.AskSavePath(this, folder + printout->title + ".pdf",
+                                                            tr("PDF files (*.pdf);;All files (*)"), "pdf");
+    if (chosen.isEmpty()) return;
+    const auto failure =
+        CatchFailure([&] { ReplaceFile(m_Services.m_Files, PathFromQString(chosen), PdfOf(*printout)); });
+    if (failure) {
+        const QString reason = WithPathsToQString(failure->what());
+        return m_Services.m_Prompts.ShowFailure(this, tr("The file was not saved.\n%1").arg(reason));
+    }
+    statusBar()->showMessage(tr("Saved %1").arg(chosen), 10000);
 }
 
 void cDefinitionsWindow::TurnPage(int step) {

@@ -74,6 +74,8 @@ class cDefinitionsWindow : public QMainWindow {
     void TurnPage(int step);
     void SetZoom(double zoom);
     void ShowAbout();
+    void Print();
+    void SaveAsPdf();
 
     cEditorServices& m_Services;
     cRecentFiles m_Recent;
@@ -81,7 +83,8 @@ class cDefinitionsWindow : public QMainWindow {
     QTabWidget m_Tabs;
     QUndoGroup m_UndoGroup;
     QMenu *m_RecentMenu = nullptr, *m_EditMenu = nullptr;
-    QAction *m_Save = nullptr, *m_SaveAs = nullptr, *m_Close = nullptr, *m_Undo = nullptr, *m_Redo = nullptr;
+    QAction *m_Save = nullptr, *m_SaveAs = nullptr, *m_Close = nullptr, *m_Print = nullptr, *m_Pdf = nullptr,
+            *m_Undo = nullptr, *m_Redo = nullptr;
     double m_Zoom = 2;
     int m_NewSchedules = 0, m_NewCalendars = 0;
 };

@@ -45,6 +45,8 @@ void cDefinitionsWindow::MakeFileMenu() {
         CurrentPage()->FinishTyping();
         CurrentPage()->SaveAs();
     });
+    m_Print = AddEntry(menu, "Print", tr("&Print..."), {}, [this] { Print(); });
+    m_Pdf = AddEntry(menu, "Pdf", tr("Save as P&DF..."), {}, [this] { SaveAsPdf(); });
     m_Close = AddEntry(menu, "Close", tr("C&lose"), QKeySequence("Ctrl+W"),
                        [this] { ClosePage(m_Tabs.currentIndex()); });
     menu.addSeparator();

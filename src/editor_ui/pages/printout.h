@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QPainter>
+#include <QRectF>
+#include <QString>
+#include <functional>
+#include <string>
+
+class QPagedPaintDevice;
+
+namespace vigrel {
+
+// What a page of the editor puts on paper: one sheet, in colours for a white ground.
+struct cPrintout {
+    QString title;  // over it, and the suggested name of a file
+    // Width by height, as far as the drawing has a shape of its own; empty: all of the sheet.
+    QSizeF shape;
+    // Draws into a rectangle of the painter.
+    std::function<void(QPainter&, const QRectF&)> paint;
+};
+
+// False when nothing could be drawn on the device, a printer that is gone.
+bool PrintOn(QPagedPaintDevice& device, const cPrintout& printout);
+
+// The sheet as a PDF file, A4 across.
+std::string PdfOf(const cPrintout& printout);
+
+}  // namespace vigrel

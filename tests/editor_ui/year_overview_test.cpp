@@ -1,0 +1,187 @@
+// The year at a glance: twelve months on one page, painted on like the month.
+
+#include <QComboBox>
+#include <QFile>
+#include <QImage>
+#include <QLabel>
+#include <QToolButton>
+#include <set>
+
+#include "common/dates.h"
+#include "editor_ui/calendar/year_drawing.h"
+#include "editor_ui/editor_bench.h"
+
+namespace vigrel::testing {
+namespace {
+
+constexpr std::int16_t kHoliday = 8;
+
+class YearOverview : public ::testing::Test, protected cEditorBench {
+  protected:
+    YearOverview() {
+        Find<QToolButton>(m_Page, "Button_Calendar_ShowYear").click();
+        Find<QComboBox>(m_Page, "Combo_Calendar_DayType").setCurrentIndex(kHoliday);
+        m_Window->resize(1200, 800);
+        QCoreApplication::processEvents();
+    }
+    QWidget& View() { return Find<QWidget>(m_Page, "Picture_Calendar_Year"); }
+    static std::int32_t Index(int year, int month, int day) {
+        return CalendarIndex(DateSerial(year, month, day));
+    }
+    std::int16_t Value(int year, int month, int day) {
+        return m_Page.Editor().Calendar().GetDayType(Index(year, month, day));
+    }
+    cYearDrawing Drawing(int year) { return {QRectF(View().rect()).adjusted(0, 0, -1, -1), year}; }
+    QPoint Cell(int month, int day, int year = 2026) {
+        return Drawing(year).CellOf(Index(year, month, day)).center().toPoint();
+    }
+    QColor Corner(int month, int day) {
+        const QPoint corner =
+            Drawing(2026).CellOf(Index(2026, month, day)).topLeft().toPoint() + QPoint(2, 2);
+        return View().grab().toImage().pixelColor(corner);
+    }
+
+    cCalendarPage& m_Page = NewCalendar();
+};
+
+TEST(YearDrawing, FindsEachDayOfTheYearAtItsCellAndNoOther) {
+    for (const int year : {2000, 2026, 2039}) {
+        const cYearDrawing drawing(QRectF(10, 20, 1000, 700), year);
+        const std::int32_t first = CalendarIndex(DateSerial(year, 1, 1));
+        const std::int32_t end = CalendarIndex(DateSerial(year + 1, 1, 1));
+        for (std::int32_t day = first; day < end; ++day) {
+            EXPECT_EQ(drawing.DayAt(drawing.CellOf(day).center()), day) << year;
+            EXPECT_TRUE(QRectF(10, 20, 1000, 700).contains(drawing.CellOf(day)));
+        }
+        EXPECT_EQ(drawing.DayAt({12, 22}), std::nullopt);
+    }
+}
+
+TEST(YearDrawing, GivesEachSpecialDayTypeAColourOfItsOwn) {
+    std::set<QRgb> colours;
+    for (std::int16_t value = kWeekDays + 1; value <= kDayTypes; ++value) {
+        const QColor colour = cYearDrawing::ColourOf(value);
+        EXPECT_GE(colour.lightness(), 150) << value;
+        colours.insert(colour.rgb());
+    }
+    EXPECT_EQ(colours.size(), 16u);
+    EXPECT_EQ(cYearDrawing::ColourOf(0), QColor(Qt::white));
+}
+
+TEST_F(YearOverview, GrowsWithTheWindow) {
+    const int width = View().width();
+    EXPECT_GT(width, 700);
+    m_Window->resize(1500, 800);
+    QCoreApplication::processEvents();
+    EXPECT_GE(View().width(), width + 250);
+}
+
+TEST_F(YearOverview, IsPaintedOnInOneStepAcrossMonths) {
+    Drag(View(), {Cell(6, 30), Cell(6, 30), Cell(7, 1), Cell(7, 2)});
+    EXPECT_EQ(Value(2026, 6, 30), kHoliday);
+    EXPECT_EQ(Value(2026, 7, 1), kHoliday);
+    EXPECT_EQ(Value(2026, 7, 2), kHoliday);
+    EXPECT_EQ(m_Page.UndoStack()->count(), 1);
+    Choose(*m_Window, "Menu_Undo");
+    EXPECT_EQ(Value(2026, 6, 30), 0);
+    EXPECT_EQ(Value(2026, 7, 2), 0);
+}
+
+TEST_F(YearOverview, ColoursADayByItsType) {
+    EXPECT_EQ(Corner(6, 30), QColor(Qt::white));
+    Drag(View(), {Cell(6, 30)});
+    EXPECT_EQ(Corner(6, 30).rgb(), cYearDrawing::ColourOf(kHoliday).rgb());
+}
+
+TEST_F(YearOverview, TellsDateTypeAndHolidayInItsTip) {
+    QComboBox& countries = Find<QComboBox>(m_Page, "Combo_Calendar_Holidays");
+    countries.setCurrentIndex(countries.findData("DE-BY"));
+    emit countries.activated(0);
+    Drag(View(), {Cell(11, 1)});
+    Move(View(), Cell(11, 1));
+    EXPECT_EQ(View().toolTip(), "2026-11-01: Special day type 1 (Allerheiligen)");
+}
+
+TEST_F(YearOverview, TurnsByYearsAndIsPaintedOnByKeys) {
+    EXPECT_EQ(Find<QLabel>(m_Page, "Text_Calendar_Month").text(), "2026");
+    Find<QToolButton>(m_Page, "Button_Calendar_Next").click();
+    EXPECT_EQ(Find<QLabel>(m_Page, "Text_Calendar_Month").text(), "2027");
+    QTest::keyClick(&View(), Qt::Key_Right);
+    QTest::keyClick(&View(), Qt::Key_Space);
+    EXPECT_EQ(Value(2027, 3, 16), kHoliday);
+    Find<QToolButton>(m_Page, "Button_Calendar_ShowYear").click();
+    EXPECT_EQ(Find<QLabel>(m_Page, "Text_Calendar_Month").text(), "March 2027");
+}
+
+TEST_F(YearOverview, WithoutAChosenTypePaintsNothing) {
+    Find<QComboBox>(m_Page, "Combo_Calendar_DayType").setCurrentIndex(-1);
+    Drag(View(), {Cell(6, 30)});
+    EXPECT_FALSE(m_Page.IsDirty());
+}
+
+// --- paper
+
+std::string PdfWith(cFakeFiles& files, const std::string& path) {
+    const std::string pdf = files.ReadFile(path);
+    EXPECT_TRUE(pdf.starts_with("%PDF-")) << path;
+    return pdf;
+}
+
+TEST_F(YearOverview, AndMonthAndWeekAreSavedAsPdf) {
+    m_Prompts.m_Texts = {"/app/year.pdf"};
+    Choose(*m_Window, "Menu_Pdf");
+    EXPECT_EQ(m_Prompts.m_Asked, "save as /app/Calendar 1 - 2026.pdf (pdf)\n");
+    const std::size_t year = PdfWith(m_Files, "/app/year.pdf").size();
+    Find<QToolButton>(m_Page, "Button_Calendar_ShowYear").click();
+    m_Prompts.m_Asked.clear();
+    m_Prompts.m_Texts = {"/app/month.pdf"};
+    Choose(*m_Window, "Menu_Pdf");
+    EXPECT_EQ(m_Prompts.m_Asked, "save as /app/Calendar 1 - March 2026.pdf (pdf)\n");
+    EXPECT_NE(PdfWith(m_Files, "/app/month.pdf").size(), year);
+    NewSchedule();
+    m_Prompts.m_Texts = {"/app/week.pdf"};
+    Choose(*m_Window, "Menu_Pdf");
+    EXPECT_GT(PdfWith(m_Files, "/app/week.pdf").size(), 1000u);
+    m_Files.m_DiskFull = true;
+    m_Prompts.m_Asked.clear();
+    m_Prompts.m_Texts = {"/app/full.pdf"};
+    Choose(*m_Window, "Menu_Pdf");
+    EXPECT_TRUE(m_Prompts.m_Asked.contains("failure: The file was not saved."))
+        << m_Prompts.m_Asked.toStdString();
+    EXPECT_FALSE(m_Files.FileExists("/app/full.pdf"));
+}
+
+// The sheet has what the screen has: a painted day is in its colour.
+TEST_F(YearOverview, OnPaperHasItsColours) {
+    Drag(View(), {Cell(6, 30)});
+    const auto printout = m_Page.Printout();
+    ASSERT_TRUE(printout);
+    QImage sheet(1200, 900, QImage::Format_RGB32);
+    sheet.fill(Qt::white);
+    {
+        QPainter painter(&sheet);
+        printout->paint(painter, QRectF(0, 0, 1200, 900));
+    }
+    const QRectF cell = cYearDrawing(QRectF(0, 0, 1200, 900), 2026).CellOf(Index(2026, 6, 30));
+    EXPECT_EQ(sheet.pixelColor(cell.topLeft().toPoint() + QPoint(2, 2)).rgb(),
+              cYearDrawing::ColourOf(kHoliday).rgb());
+}
+
+TEST_F(YearOverview, IsPrintedThroughTheDialogOfTheSystem) {
+    m_Prompts.m_PrintedFile = m_Folder.filePath("printed.pdf");
+    Choose(*m_Window, "Menu_Print");
+    EXPECT_EQ(m_Prompts.m_Asked, "printer for Calendar 1 - 2026\n");
+    QFile printed(m_Prompts.m_PrintedFile);
+    ASSERT_TRUE(printed.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(printed.readAll().startsWith("%PDF-"));
+}
+
+TEST_F(YearOverview, APageThatPrintsNothingOffersNoPrint) {
+    EXPECT_TRUE(Find<QAction>(*m_Window, "Menu_Print").isEnabled());
+    m_Window->ShowReceivers();
+    EXPECT_FALSE(Find<QAction>(*m_Window, "Menu_Print").isEnabled());
+    EXPECT_FALSE(Find<QAction>(*m_Window, "Menu_Pdf").isEnabled());
+}
+
+}  // namespace
+}  // namespace vigrel::testing
