@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QTimer>
+#include <cstdint>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "editor_ui/editor_bench.h"
+
+namespace vigrel::campaign {
+
+struct cFigures {
+    int sessions = 0, presses = 0, keys = 0, entries = 0, boxes = 0, steps = 0;
+    int changed = 0;  // sessions that left the content another one before it was undone
+};
+
+// One editor over files in memory with one page open, and somebody who presses at random. The same seed does
+// the same.
+class cSession {
+  public:
+    // The pages by their names: "schedule", "calendar", "colours", "receivers", "profiles".
+    cSession(const std::string& page, std::uint32_t seed, cFigures& figures);
+
+    // Does as much, undoes all of it, does it again and undoes it again. Throws when the page's content is
+    // not the first one, byte for byte, after either.
+    void Run(int actions);
+
+  private:
+    void PutFiles();
+    void OpenPage(const std::string& page);
+    void Act();
+    void Press();
+    void TypeKey();
+    void ChooseEntry();
+    void CloseBoxes();
+    void Settle();
+    void UndoAll();
+    void RedoAll();
+    void Expect(const std::string& content, const std::string& when);
+    // Of every file that the page can write, as it would write it now.
+    std::string Content();
+    int Below(int limit) { return std::uniform_int_distribution<int>(0, limit - 1)(m_Random); }
+    template <class T>
+    const T& AnyOf(const std::vector<T>& choices) {
+        return choices[static_cast<std::size_t>(Below(static_cast<int>(choices.size())))];
+    }
+
+    std::mt19937 m_Random;
+    cFigures& m_Figures;
+    testing::cEditorBench m_Bench;
+    cEditorPage* m_Page = nullptr;
+    QTimer m_Closer;  // of boxes and menus that wait for an answer
+};
+
+}  // namespace vigrel::campaign
