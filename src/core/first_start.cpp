@@ -26,7 +26,7 @@ struct cShare {
 constexpr std::array<cShare, 3> kShares{{{"t0", 50}, {"t1", 20}, {"t4", 30}}};
 
 int ColumnWidth(const cIniReader& ini, std::string_view column) {
-    return static_cast<int>(Val(ini.GetIniString(column, "ColumnWidth", "100")));
+    return static_cast<int>(Val(ini.GetIniString(column, "ColumnWidth", kDefaultColumnWidth)));
 }
 
 int WidthOfAllColumns(const cIniReader& ini) {
