@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <map>
 #include <string>
 #include <thread>
 
@@ -99,6 +100,60 @@ TEST_F(KeyboardRound, PopupsOfWhichOneShowsAcknowledgeAsTheyClose) {
     CloseAllPopups();
     EXPECT_TRUE(Logs(m_Station, "T10039", kAlarms));
     EXPECT_EQ(m_Station.Stop(SIGTERM), 0);
+}
+
+// A station whose alarms call in every way, and somebody who types in another program: a second station's
+// window.
+class TypingElsewhere : public ::testing::Test {
+  protected:
+    void Start(const std::string& restore) {
+        const std::map<std::string, std::string> environment = {{"QT_QPA_PLATFORM", "xcb"},
+                                                                {"LC_ALL", "C.UTF-8"}};
+        m_Station.m_Environment = m_Other.m_Environment = environment;
+        m_Station.Configure(
+            "[General]\r\nViewPopupForm=1\r\nColumns=DateTime,t0\r\nEventSignal=3\r\nEventRestore=" +
+            restore + "\r\n");
+        m_Other.Configure("[General]\r\nColumns=DateTime,t0\r\n");
+        m_Window = StartedWindow(m_Station);
+        m_OtherWindow = StartedWindow(m_Other);
+        ASSERT_NE(m_Window, "");
+        ASSERT_EQ(ActiveWindow(), m_OtherWindow);
+        for (int i = 0; i < 3; ++i) ASSERT_EQ(m_Station.Send({"--t0", "alarm"}).exitCode, 0);
+        ASSERT_NE(FindWindow(m_Station.Process(), kPopup), "");
+    }
+    static std::string StartedWindow(cStation& station) {
+        EXPECT_TRUE(station.Start({"/MAXIMIZE"})) << station.StandardError();
+        const std::string window = FindWindow(station.Process(), kMainWindow);
+        Press(window, {"Escape"});
+        Press(window, {"Escape"});
+        return window;
+    }
+    // Whether the window has the keyboard all the time that follows.
+    static bool Keeps(const std::string& window) {
+        for (int looks = 0; looks < 30; ++looks) {
+            if (ActiveWindow() != window) return false;
+            std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        }
+        return true;
+    }
+
+    cStation m_Station, m_Other;
+    std::string m_Window, m_OtherWindow;
+};
+
+TEST_F(TypingElsewhere, IsNotDisturbedByAStationThatDoesNotComeToTheFront) {
+    Start("0");
+    EXPECT_TRUE(Keeps(m_OtherWindow));
+    EXPECT_EQ(m_Station.Stop(SIGTERM), 0);
+    EXPECT_EQ(m_Other.Stop(SIGTERM), 0);
+}
+
+TEST_F(TypingElsewhere, EndsWhereTheStationComesToTheFront) {
+    Start("1");
+    EXPECT_FALSE(Keeps(m_OtherWindow));
+    EXPECT_EQ(ActiveWindow(), m_Window);
+    EXPECT_EQ(m_Station.Stop(SIGTERM), 0);
+    EXPECT_EQ(m_Other.Stop(SIGTERM), 0);
 }
 
 }  // namespace
