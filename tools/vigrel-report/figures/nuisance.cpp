@@ -20,12 +20,14 @@ class cFinder {
   public:
     cFinder(const cPlant& plant, const cAlarmNames& names, const cSpan& period, const cTimeZone& zone)
         : m_Plant(plant), m_Names(names), m_Period(period), m_Zone(zone), m_Rows(names.SourceCount()) {
-        m_End = plant.known.empty() ? period.end : std::min(period.end, plant.known.back().end);
+        m_RecordEnd = plant.known.empty() ? period.end : plant.known.back().end;
+        m_End = std::min(period.end, m_RecordEnd);
     }
 
+    // What an activation is doesn't depend on the period that counts it, so the rows hold all of the record.
     cNuisance Find() {
         for (const cActivation& activation : m_Plant.activations) {
-            if (activation.start < m_Period.end) m_Rows[activation.source].push_back(&activation);
+            m_Rows[activation.source].push_back(&activation);
         }
         for (const Row& row : m_Rows) FindBursts(row);
         for (const Row& row : m_Rows) FindFleeting(row);
@@ -44,24 +46,25 @@ class cFinder {
             for (std::size_t j = i; j < i + kBurst; ++j) marks[j] = true;
         }
         cChattering chattering;
-        std::size_t burst = 0;
+        std::size_t counted = 0;  // of the burst, within the period
         for (std::size_t i = 0; i < row.size(); ++i) {
+            if (!marks[i]) continue;
             const bool goesOn = i > 0 && marks[i - 1] && row[i]->order - row[i - 1]->order <= kBurstTime;
-            burst = marks[i] ? (goesOn ? burst + 1 : 1) : 0;
-            if (marks[i]) m_Found.excluded.insert(row[i]);
-            if (marks[i] && m_Period.Holds(row[i]->start)) AddToBurst(chattering, *row[i], burst);
+            if (!goesOn) counted = 0;
+            m_Found.excluded.insert(row[i]);
+            if (m_Period.Holds(row[i]->start)) AddToBurst(chattering, *row[i], ++counted);
         }
         if (chattering.activations > 0) m_Found.chattering.push_back(chattering);
     }
 
-    static void AddToBurst(cChattering& chattering, const cActivation& activation, std::size_t burst) {
+    static void AddToBurst(cChattering& chattering, const cActivation& activation, std::size_t counted) {
         if (chattering.activations == 0) {
             chattering.source = activation.source;
             chattering.first = activation.start;
         }
-        if (burst == 1 || chattering.bursts == 0) ++chattering.bursts;
+        if (counted == 1) ++chattering.bursts;
         ++chattering.activations;
-        chattering.most = std::max(chattering.most, burst);
+        chattering.most = std::max(chattering.most, counted);
     }
 
     void FindFleeting(const Row& row) {
@@ -79,9 +82,9 @@ class cFinder {
         m_Found.fleetingActivations += count;
     }
 
-    // How long an alarm was active, as far as the period and the record go.
-    Seconds ActiveFor(const cActivation& activation) const {
-        const Seconds untilEnd = m_End - activation.start;
+    // How long an alarm was active, as far as an end of the period or of the record.
+    static Seconds ActiveFor(const cActivation& activation, Moment recordedUntil) {
+        const Seconds untilEnd = recordedUntil - activation.start;
         return activation.activeFor < 0 ? untilEnd : std::min(activation.activeFor, untilEnd);
     }
 
@@ -89,15 +92,14 @@ class cFinder {
         std::vector<cSpan> staleTimes;
         for (const cActivation& activation : m_Plant.activations) {
             if (activation.start >= m_End || !m_Plant.KnowsReturn(m_Names, activation.source)) continue;
-            const Seconds length = ActiveFor(activation);
+            if (ActiveFor(activation, m_RecordEnd) > kStaleTime) m_Found.excluded.insert(&activation);
+            const Seconds length = ActiveFor(activation, m_End);
             const Moment end = activation.start + length;
             const bool isActive = end >= m_End;
             const cStale found{activation.source, activation.start, isActive, length,
                                activation.acknowledged};
             if (isActive) m_Found.standing.push_back(found);
-            if (length <= kStaleTime) continue;
-            m_Found.excluded.insert(&activation);
-            if (end <= m_Period.begin) continue;
+            if (length <= kStaleTime || end <= m_Period.begin) continue;
             m_Found.stale.push_back(found);
             staleTimes.push_back({activation.start + kStaleTime, end});
         }
@@ -125,6 +127,7 @@ class cFinder {
     const cAlarmNames& m_Names;
     cSpan m_Period;
     const cTimeZone& m_Zone;
+    Moment m_RecordEnd = 0;   // of the period without a record
     Moment m_End = 0;         // of the period, or of the record when that ends before
     std::vector<Row> m_Rows;  // by source
     cNuisance m_Found;
