@@ -197,7 +197,7 @@ class cHistoryMaker {
     }
     std::string Record() {
         constexpr const char* kKinds[] = {"S0", "S1", "S2", "S3", "S1", "S1", "s1", "S4", "", "S"};
-        const std::string kind = kKinds[Below(10)];
+        std::string kind = kKinds[Below(10)];
         if (Below(5) == 0) return kind;
         constexpr const char* kBlanks[] = {"", " ", "  "};
         return kind + "2026-03-15|12:00:00|" + kBlanks[Below(3)] + "a" + std::to_string(++m_Alarms) +
@@ -205,7 +205,7 @@ class cHistoryMaker {
     }
     std::string Line() {
         const std::string counted = Sender() + "\xFF" + Record();
-        const std::string frame = "\x02" + counted + "\xFF" + CalcChecksum(counted) + "\x03";
+        std::string frame = "\x02" + counted + "\xFF" + CalcChecksum(counted) + "\x03";
         switch (Below(16)) {
             case 0:
                 return "\x02" + counted + "\xFF" + "0" + "\x03";

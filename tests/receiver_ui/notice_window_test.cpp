@@ -33,9 +33,9 @@ class NoticeWindow : public ::testing::Test {
     }
 
     cFakeFiles m_Files;
-    const cFakeClock m_Clock;
-    const cFakeLocale m_Locale;
-    const cQtScreen m_Screen;
+    const cFakeClock m_Clock{};
+    const cFakeLocale m_Locale{};
+    const cQtScreen m_Screen{};
     const cNoSettings m_Settings{};
     cOpenWindows m_Windows;
     cFakeMessageBox m_Box{nullptr};

@@ -32,8 +32,8 @@ bool IsMissing(int error) {
 // As the umask allows.
 constexpr mode_t kFileMode = 0666, kFolderMode = 0777;
 
-int OpenFolder(const char* native) {
-    return open(native, O_RDONLY | O_DIRECTORY | kNeverWait);
+int OpenFolder(const std::string& native) {
+    return open(native.c_str(), O_RDONLY | O_DIRECTORY | kNeverWait);
 }
 
 // Waits for the disk in a thread of its own, which touches nothing but the folder that it was given.
@@ -105,9 +105,9 @@ std::string cLinuxFiles::Native(std::string_view path) const {
 
 template <class Call>
 int cLinuxFiles::AsSpelledOrFound(std::string_view path, Call call) const {
-    const int result = call(SpelledPath(path).c_str());
+    const int result = call(SpelledPath(path));
     if (result >= 0 || !IsMissing(errno) || m_Names == eNames::Exact) return result;
-    return call(NativePath(path).c_str());
+    return call(NativePath(path));
 }
 
 std::string cLinuxFiles::Spelling(std::string_view path) const {

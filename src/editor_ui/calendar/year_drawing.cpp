@@ -27,7 +27,6 @@ bool IsMarked(const cYearDrawing::cSource& source, std::int32_t day) {
 
 cYearDrawing::cYearDrawing(const QRectF& area, int year)
     : m_Area(area),
-      m_Year(year),
       m_First(CalendarIndex(DateSerial(year, 1, 1))),
       m_End(CalendarIndex(DateSerial(year + 1, 1, 1))) {}
 
@@ -44,8 +43,9 @@ QRectF cYearDrawing::MonthArea(int month) const {
     const double width = m_Area.width() / kMonthsBesideEachOther;
     const double height = m_Area.height() * (1 - kLegendShare) / kMonthRows;
     const int place = month - 1;
-    const QRectF whole(m_Area.left() + place % kMonthsBesideEachOther * width,
-                       m_Area.top() + place / kMonthsBesideEachOther * height, width, height);
+    const int row = place / kMonthsBesideEachOther;
+    const int column = place % kMonthsBesideEachOther;
+    const QRectF whole(m_Area.left() + column * width, m_Area.top() + row * height, width, height);
     return whole.adjusted(width * kGap, height * kGap, -width * kGap, -height * kGap);
 }
 
@@ -113,13 +113,16 @@ void cYearDrawing::PaintLegend(QPainter& painter, const cSource& source) const {
     used.erase(0);
     const double height = m_Area.height() * kLegendShare;
     const double line = height / kLegendLines;
-    const double width = m_Area.width() / ((kDayTypes + kLegendLines - 1) / kLegendLines);
+    constexpr int kLegendColumns = (kDayTypes + kLegendLines - 1) / kLegendLines;
+    const double width = m_Area.width() / kLegendColumns;
     const double perColumn = std::max(width, m_Area.width() / kMonthsBesideEachOther);
     int place = 0;
     painter.setPen(Qt::black);
     for (const std::int16_t value : used) {
-        const QRectF cell(m_Area.left() + place / kLegendLines * perColumn,
-                          m_Area.bottom() - height + place % kLegendLines * line, perColumn, line);
+        const int column = place / kLegendLines;
+        const int row = place % kLegendLines;
+        const QRectF cell(m_Area.left() + column * perColumn, m_Area.bottom() - height + row * line,
+                          perColumn, line);
         if (cell.right() > m_Area.right() + 1) break;
         const QRectF sample = cell.adjusted(perColumn * kGap, line * 0.15, 0, -line * 0.15);
         const QRectF box(sample.topLeft(), QSizeF(sample.height() * 1.5, sample.height()));

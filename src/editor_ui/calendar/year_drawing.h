@@ -42,7 +42,6 @@ class cYearDrawing {
     bool IsOfYear(std::int32_t day) const { return day >= m_First && day < m_End; }
 
     QRectF m_Area;
-    int m_Year;
     std::int32_t m_First, m_End;  // the year's days
 };
 
