@@ -274,6 +274,39 @@ TEST_F(HandedOut, WhatMustBeReachedIsBelow) {
               std::string::npos);
 }
 
+TEST_F(HandedOut, LimitsArePrintedAsTheyAreQuoted) {
+    const std::string summary = Make({"--csv", "x", "/app"}).tables.at("summary.csv");
+    std::vector<std::string> limits;
+    for (std::size_t at = 0; (at = summary.find("\r\n", at)) + 2 < summary.size();) {
+        for (int column = 0; column < 2; ++column) at = summary.find("\",\"", at + 2) + 1;
+        limits.push_back(summary.substr(at + 2, summary.find('"', at + 2) - at - 2));
+    }
+    const std::vector<std::string> quoted = {"at most 1; 2 can be managed",
+                                             "at most 6; 12 can be managed",
+                                             "at most 150",
+                                             "at most 10",
+                                             "",
+                                             "under 1\u00a0%",
+                                             "under 1\u00a0%",
+                                             "",
+                                             "under 1\u00a0%",
+                                             "at most 5\u00a0%",
+                                             "",
+                                             "none",
+                                             "none",
+                                             "under 5",
+                                             "under 10",
+                                             "at most 5\u00a0%",
+                                             "at most 15\u00a0%",
+                                             "at least 80\u00a0%",
+                                             "",
+                                             "",
+                                             "",
+                                             "",
+                                             ""};
+    EXPECT_EQ(limits, quoted);
+}
+
 TEST_F(HandedOut, OperatorsRaiseTheLimitOfThePeak) {
     const std::string page = Make({"--html", "x", "--operators", "2", "/app"}).page;
     EXPECT_NE(page.find("<td>at most 20</td>"), std::string::npos);
