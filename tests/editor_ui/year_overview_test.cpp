@@ -122,7 +122,7 @@ TEST_F(YearOverview, WithoutAChosenTypePaintsNothing) {
 // --- paper
 
 std::string PdfWith(cFakeFiles& files, const std::string& path) {
-    const std::string pdf = files.ReadFile(path);
+    std::string pdf = files.ReadFile(path);
     EXPECT_TRUE(pdf.starts_with("%PDF-")) << path;
     return pdf;
 }
