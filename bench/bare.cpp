@@ -14,6 +14,7 @@
 #include <array>
 #include <cstdio>
 #include <memory>
+#include <stdexcept>
 #include <vector>
 
 namespace vigrel::bench {
@@ -81,8 +82,8 @@ cBareStation::cBareStation() {
     address.sin_family = AF_INET;
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     socklen_t size = sizeof address;
-    bind(listener, reinterpret_cast<sockaddr*>(&address), size);
-    listen(listener, 5);
+    if (bind(listener, reinterpret_cast<sockaddr*>(&address), size) != 0 || listen(listener, 5) != 0)
+        throw std::runtime_error("no port for the bare loop");
     getsockname(listener, reinterpret_cast<sockaddr*>(&address), &size);
     m_Port = ntohs(address.sin_port);
     m_Process = fork();

@@ -3,6 +3,7 @@
 #include <chrono>
 #include <cstdio>
 #include <deque>
+#include <exception>
 #include <string>
 
 #include "adapters/linux/linux_files.h"
@@ -64,9 +65,7 @@ void CountAlarms(std::size_t alarms) {
     std::printf("tick that counts %zu alarms: %.3f ms\n", alarms, all / kTicks);
 }
 
-}  // namespace
-
-int main() {
+void Measure() {
     const cTemporaryFolder folder;
     PrintTexts("file", (folder.Path() / "out").string(), 20);
     {
@@ -85,4 +84,15 @@ int main() {
     }
     CountAlarms(1000);
     CountAlarms(100000);
+}
+
+}  // namespace
+
+int main() {
+    try {
+        Measure();
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "devices_bench: %s\n", failure.what());
+        return 2;
+    }
 }

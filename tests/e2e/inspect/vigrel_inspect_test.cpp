@@ -32,7 +32,7 @@ class VigrelInspect : public ::testing::Test, protected cToolFolder {
         fs::create_directories(m_Folder.Path() / "App" / "Alarms");
     }
     fs::path Put(const std::string& name, const std::string& bytes) {
-        const fs::path path = m_Folder.Path() / name;
+        fs::path path = m_Folder.Path() / name;
         std::ofstream(path, std::ios::binary) << bytes;
         return path;
     }

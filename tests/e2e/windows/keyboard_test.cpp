@@ -37,7 +37,7 @@ bool Logs(const cStation& station, const std::string& text, std::ptrdiff_t count
 // The popup that has the keyboard by now or soon, when it is another than the one before; empty for none.
 std::string NextPopup(const std::string& before) {
     for (int tries = 0; tries < 100; ++tries) {
-        const std::string window = ActiveWindow();
+        std::string window = ActiveWindow();
         if (window != before && TitleOf(window) == "T10000 (none)") return window;
         std::this_thread::sleep_for(std::chrono::milliseconds(50));
     }
@@ -123,7 +123,7 @@ class TypingElsewhere : public ::testing::Test {
     }
     static std::string StartedWindow(cStation& station) {
         EXPECT_TRUE(station.Start({"/MAXIMIZE"})) << station.StandardError();
-        const std::string window = FindWindow(station.Process(), kMainWindow);
+        std::string window = FindWindow(station.Process(), kMainWindow);
         Press(window, {"Escape"});
         Press(window, {"Escape"});
         return window;

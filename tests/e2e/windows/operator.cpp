@@ -3,7 +3,6 @@
 #include <array>
 #include <chrono>
 #include <cstdio>
-#include <numeric>
 #include <thread>
 
 namespace vigrel::testing {
@@ -22,9 +21,9 @@ std::string Output(const std::string& command) {
 }
 
 std::string KeyCommands(const std::vector<std::string>& keys) {
-    return std::accumulate(
-        keys.begin(), keys.end(), std::string(),
-        [](std::string all, const std::string& key) { return all + " key --delay 50 " + key; });
+    std::string commands;
+    for (const std::string& key : keys) commands += " key --delay 50 " + key;
+    return commands;
 }
 
 }  // namespace
