@@ -26,6 +26,10 @@ class Boundary : public ::testing::Test {
         Add(at + 1, station.Text(10039) + " Active - " + text);
         Add(at + seconds, "PLC1 " + station.Text(10030) + " Inactive - " + text);
     }
+    // In ten minutes, each of another kind.
+    void AlarmsIn(WallTime at, int count) {
+        for (int i = 0; i < count; ++i) Alarm(at + 30 * i, "Pump " + std::to_string(at + i), 20);
+    }
     void Measure() {
         for (const auto& [wall, text] : lines) station.Line(wall, text);
         station.KeepAlive(begin + 2 * kWeek);
@@ -50,8 +54,16 @@ class Boundary : public ::testing::Test {
     static std::size_t Answered(const std::optional<cMeasured>& measured) {
         return measured->figures.answers.all.count;
     }
+    static const std::vector<cFlood>& Floods(const std::optional<cMeasured>& measured) {
+        return measured->figures.load.floods;
+    }
+    static std::size_t Flooded(const std::optional<cMeasured>& measured) {
+        Seconds flooded = 0;
+        for (const cFlood& flood : Floods(measured)) flooded += flood.span.Length();
+        return static_cast<std::size_t>(flooded);
+    }
     void ExpectTheWeeksToAddUp() const {
-        for (const auto count : {&Chattering, &Fleeting, &LeftOut, &Answered}) {
+        for (const auto count : {&Chattering, &Fleeting, &LeftOut, &Answered, &Flooded}) {
             EXPECT_EQ(count(first) + count(second), count(both));
         }
     }
@@ -116,6 +128,41 @@ TEST_F(Boundary, ARepeatBehindTheEndIsNotFleeting) {
     EXPECT_EQ(Fleeting(second), 1u);
     EXPECT_EQ(Fleeting(both), 2u);
     EXPECT_EQ(Answered(first), 1u);
+    ExpectTheWeeksToAddUp();
+}
+
+TEST_F(Boundary, AFloodThatStandsWhenThePeriodBeginsGoesOnInIt) {
+    AlarmsIn(monday - 600, 11);
+    AlarmsIn(monday, 6);
+    AlarmsIn(monday + 600, 5);
+    AlarmsIn(monday + 1200, 4);
+    Measure();
+    ASSERT_EQ(Floods(second).size(), 1u);
+    EXPECT_EQ(Floods(second)[0].span.begin, monday);
+    EXPECT_EQ(Floods(second)[0].span.end, monday + 1200);
+    EXPECT_EQ(Floods(second)[0].alarms, 11u);
+    EXPECT_EQ(Floods(second)[0].peak, 6u);
+    ASSERT_EQ(Floods(both).size(), 1u);
+    EXPECT_EQ(Floods(both)[0].span.Length(), 1800);
+    EXPECT_EQ(Floods(first).size(), 1u);
+    ExpectTheWeeksToAddUp();
+}
+
+TEST_F(Boundary, AFloodThatEndedBeforeThePeriodIsOver) {
+    AlarmsIn(monday - 1200, 11);
+    AlarmsIn(monday - 600, 4);
+    AlarmsIn(monday, 10);
+    Measure();
+    EXPECT_EQ(Floods(first).size(), 1u);
+    EXPECT_EQ(Floods(second).size(), 0u);
+    ExpectTheWeeksToAddUp();
+}
+
+TEST_F(Boundary, AFloodEndsAtThePeriodWhenItsFirstTenMinutesAreCalm) {
+    AlarmsIn(monday - 600, 11);
+    AlarmsIn(monday, 4);
+    Measure();
+    EXPECT_EQ(Floods(second).size(), 0u);
     ExpectTheWeeksToAddUp();
 }
 

@@ -46,21 +46,28 @@ Spans KnownTimesOf(const std::vector<cFlood>& floods, const Spans& known) {
     return times;
 }
 
-std::vector<cFlood> FindFloods(const cBins& bins, int operators) {
+std::vector<cFlood> FindFloods(const cBins& bins, int operators, bool flooded = false) {
     std::vector<cFlood> floods;
-    bool flooded = false;
     for (std::size_t bin = 0; bin < bins.counts.size(); ++bin) {
         const double load = static_cast<double>(bins.counts[bin]) / operators;
         const bool goesOn = flooded && bins.observed[bin] && load >= kFloodEnds;
         if (!goesOn) flooded = load > kFloodBegins;
         if (!flooded) continue;
-        if (!goesOn) floods.push_back({{bins.BeginOf(bin), 0}, 0, 0, {}});
+        if (!goesOn || floods.empty()) floods.push_back({{bins.BeginOf(bin), 0}, 0, 0, {}});
         cFlood& flood = floods.back();
         flood.span.end = bins.BeginOf(bin + 1);
         flood.alarms += bins.counts[bin];
         flood.peak = std::max<std::size_t>(flood.peak, bins.counts[bin]);
     }
     return floods;
+}
+
+// Whether a flood that began before stands when the period's first bin begins.
+bool StandsBefore(const cBins& bins, const cPlant& plant, const cTimeZone& zone, int operators) {
+    if (plant.known.empty() || plant.known.front().begin >= bins.begin) return false;
+    const cBins before = CountBins(plant, {plant.known.front().begin, bins.begin}, zone, bins.length);
+    const std::vector<cFlood> floods = FindFloods(before, operators);
+    return !floods.empty() && floods.back().span.end == bins.begin;
 }
 
 void FindFirstSources(std::vector<cFlood>& floods, const cPlant& plant) {
@@ -135,7 +142,7 @@ cLoad MeasureLoad(const cPlant& plant, const cSpan& period, const cTimeZone& zon
     }
     load.busyBins = ShareAbove(load.bins, kFloodBegins * operators);
     load.busyHours = ShareAbove(CountBins(plant, period, zone, kHour), kBusyHour * operators);
-    load.floods = FindFloods(load.bins, operators);
+    load.floods = FindFloods(load.bins, operators, StandsBefore(load.bins, plant, zone, operators));
     CutFloods(load.floods, period);
     FindFirstSources(load.floods, plant);
     const Spans flooded = KnownTimesOf(load.floods, plant.known);
