@@ -4,7 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
 #include <functional>
+#include <map>
+#include <string>
 
 namespace vigrel::report {
 namespace {
@@ -78,6 +81,54 @@ TEST(Limits, AreThoseThatAreQuoted) {
     for (const cSides& sides : kSides) {
         EXPECT_EQ(VerdictOf(sides, sides.within), eVerdict::Within) << sides.name;
         EXPECT_EQ(VerdictOf(sides, sides.outside), sides.verdict) << sides.name;
+    }
+}
+
+// Alarms in the first hour of two, two minutes apart at most.
+double BusyHours(std::size_t alarms, int operators) {
+    cPlant plant;
+    plant.known = {{0, 2 * kHour}};
+    for (std::size_t i = 0; i < alarms; ++i) {
+        cActivation activation;
+        activation.start = activation.order = static_cast<Moment>(i) * 50;
+        plant.activations.push_back(activation);
+    }
+    plant.tellsReturns = {false};
+    return MeasureLoad(plant, {0, 2 * kHour}, cTimeZone(), operators).busyHours;
+}
+
+TEST(Limits, AnHourIsBusyAboveThirtyAlarmsForEachOperator) {
+    EXPECT_EQ(BusyHours(30, 1), 0);
+    EXPECT_EQ(BusyHours(31, 1), 0.5);
+    EXPECT_EQ(BusyHours(60, 2), 0);
+    EXPECT_EQ(BusyHours(61, 2), 0.5);
+}
+
+// The last cell of the table's row that begins with this name.
+std::string DocumentedLimit(const std::string& name) {
+    std::ifstream page(VIGREL_DOCS_DIR "/report.md");
+    for (std::string line; std::getline(page, line);) {
+        if (line.rfind("| " + name, 0) == 0) return line.substr(line.rfind(" | ") + 3);
+    }
+    return "no row " + name;
+}
+
+TEST(Limits, AreThoseOfTheirPage) {
+    const std::map<std::string, std::string> rows = {
+        {"alarms in 10 minutes", "judged by 1, 6 and 150 |"},
+        {"most alarms in 10 minutes", "at most 10 for each operator |"},
+        {"share of 10 minutes with more than 10 alarms", "under 1 % |"},
+        {"share of hours with more than 30 alarms", "under 1 % |"},
+        {"alarm floods", "under 1 % of the time"},
+        {"share of the ten most frequent", "judged by 5;"},
+        {"chattering alarms", "none may occur |"},
+        {"fleeting alarms", "none may occur |"},
+        {"active for more than 24 h", "fewer than 5 |"},
+        {"active at the end", "fewer than 10 |"},
+        {"share of high, medium, low", "5, 15 and 80 % |"}};
+    for (const auto& [name, limit] : rows) {
+        EXPECT_NE(DocumentedLimit(name).find(limit), std::string::npos)
+            << name << ": " << DocumentedLimit(name);
     }
 }
 

@@ -30,11 +30,6 @@ cFigures Measure(const cPlant& plant, const cAlarmNames& names, const cSettings&
 
 // --- limits, as they are quoted
 
-// The most alarms of ten minutes that all operators together can take.
-inline double PeakLimit(const cFigures& figures) {
-    return kFloodBegins * figures.operators;
-}
-
 enum class eVerdict { Within, Over, Below, NotJudged };  // below: of what must be reached
 
 enum class eFigure {
@@ -64,6 +59,14 @@ enum class eFigure {
 };
 
 enum class eUnit { Count, Number, Share, Duration };
+
+// What is quoted of a figure: it is within its limit when it is at most, below, or at least the value, a
+// share as a part of 1.
+struct cLimit {
+    enum eKind { None, AtMost, Below, AtLeast } kind = None;
+    double value = 0;
+};
+cLimit LimitOf(const cFigures& figures, eFigure figure);
 
 struct cJudged {
     eFigure figure = eFigure::Peak;

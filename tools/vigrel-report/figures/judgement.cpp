@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <iterator>
+
 #include "vigrel-report/figures/figures.h"
 
 namespace vigrel::report {
@@ -76,33 +79,31 @@ Value ValueOf(const cFigures& figures, eFigure figure) {
     return std::nullopt;
 }
 
-struct cLimit {
+struct cLine {
     eFigure figure;
     eUnit unit;
-    // The figure is within its limit when it is at most, below, or at least this.
-    enum eKind { None, AtMost, Below, AtLeast } kind = None;
-    double value = 0;
+    cLimit limit = {};
 };
 
-constexpr cLimit kLimits[] = {
-    {eFigure::RateTenMinutes, eUnit::Number, cLimit::AtMost, 1},
-    {eFigure::RateHour, eUnit::Number, cLimit::AtMost, 6},
-    {eFigure::RateDay, eUnit::Number, cLimit::AtMost, 150},
-    {eFigure::Peak, eUnit::Count, cLimit::AtMost, kFloodBegins},  // for each operator
+constexpr cLine kLines[] = {
+    {eFigure::RateTenMinutes, eUnit::Number, {cLimit::AtMost, 1}},
+    {eFigure::RateHour, eUnit::Number, {cLimit::AtMost, 6}},
+    {eFigure::RateDay, eUnit::Number, {cLimit::AtMost, 150}},
+    {eFigure::Peak, eUnit::Count, {cLimit::AtMost, kFloodBegins}},  // for each operator
     {eFigure::MeanDailyPeak, eUnit::Number},
-    {eFigure::BusyBins, eUnit::Share, cLimit::Below, 0.01},
-    {eFigure::BusyHours, eUnit::Share, cLimit::Below, 0.01},
+    {eFigure::BusyBins, eUnit::Share, {cLimit::Below, 0.01}},
+    {eFigure::BusyHours, eUnit::Share, {cLimit::Below, 0.01}},
     {eFigure::Floods, eUnit::Count},
-    {eFigure::FloodShare, eUnit::Share, cLimit::Below, 0.01},
-    {eFigure::TopTen, eUnit::Share, cLimit::AtMost, 0.05},
+    {eFigure::FloodShare, eUnit::Share, {cLimit::Below, 0.01}},
+    {eFigure::TopTen, eUnit::Share, {cLimit::AtMost, 0.05}},
     {eFigure::MakeEighty, eUnit::Count},
-    {eFigure::Chattering, eUnit::Count, cLimit::AtMost, 0},
-    {eFigure::Fleeting, eUnit::Count, cLimit::AtMost, 0},
-    {eFigure::Stale, eUnit::Count, cLimit::Below, 5},
-    {eFigure::Standing, eUnit::Count, cLimit::Below, 10},
-    {eFigure::HighShare, eUnit::Share, cLimit::AtMost, 0.05},
-    {eFigure::MediumShare, eUnit::Share, cLimit::AtMost, 0.15},
-    {eFigure::LowShare, eUnit::Share, cLimit::AtLeast, 0.80},
+    {eFigure::Chattering, eUnit::Count, {cLimit::AtMost, 0}},
+    {eFigure::Fleeting, eUnit::Count, {cLimit::AtMost, 0}},
+    {eFigure::Stale, eUnit::Count, {cLimit::Below, 5}},
+    {eFigure::Standing, eUnit::Count, {cLimit::Below, 10}},
+    {eFigure::HighShare, eUnit::Share, {cLimit::AtMost, 0.05}},
+    {eFigure::MediumShare, eUnit::Share, {cLimit::AtMost, 0.15}},
+    {eFigure::LowShare, eUnit::Share, {cLimit::AtLeast, 0.80}},
     {eFigure::Answers, eUnit::Count},
     {eFigure::AnswerMedian, eUnit::Duration},
     {eFigure::AnswerNinetieth, eUnit::Duration},
@@ -110,8 +111,7 @@ constexpr cLimit kLimits[] = {
     {eFigure::Outside, eUnit::Share},
 };
 
-eVerdict VerdictOf(const cFigures& figures, cLimit limit, double value) {
-    if (limit.figure == eFigure::Peak) limit.value = PeakLimit(figures);
+eVerdict VerdictOf(const cLimit& limit, double value) {
     bool within = true;
     if (limit.kind == cLimit::None) return eVerdict::NotJudged;
     if (limit.kind == cLimit::AtMost) within = value <= limit.value;
@@ -127,15 +127,23 @@ bool IsJudged(const cFigures& figures, eFigure figure) {
 
 }  // namespace
 
+cLimit LimitOf(const cFigures& figures, eFigure figure) {
+    const auto* line = std::find_if(std::begin(kLines), std::end(kLines),
+                                    [figure](const cLine& other) { return other.figure == figure; });
+    cLimit limit = line->limit;
+    if (figure == eFigure::Peak) limit.value *= figures.operators;
+    return limit;
+}
+
 std::vector<cJudged> Judge(const cFigures& figures, const cFigures* before) {
     // What little is known of a period says nothing beside all of another one.
     const bool comparable = before != nullptr && 2 * before->load.observed >= before->period.Length();
     std::vector<cJudged> judged;
-    for (const cLimit& limit : kLimits) {
-        cJudged line{limit.figure, limit.unit, ValueOf(figures, limit.figure), {}, eVerdict::NotJudged};
-        if (comparable) line.before = ValueOf(*before, limit.figure);
-        if (line.value && IsJudged(figures, limit.figure))
-            line.verdict = VerdictOf(figures, limit, *line.value);
+    for (const cLine& known : kLines) {
+        cJudged line{known.figure, known.unit, ValueOf(figures, known.figure), {}, eVerdict::NotJudged};
+        if (comparable) line.before = ValueOf(*before, known.figure);
+        if (line.value && IsJudged(figures, known.figure))
+            line.verdict = VerdictOf(LimitOf(figures, known.figure), *line.value);
         judged.push_back(line);
     }
     return judged;

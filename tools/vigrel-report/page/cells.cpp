@@ -57,6 +57,10 @@ std::string cForms::Percent(double share) const {
     return Number(percent, percent < 10 && percent > 0 ? 1 : 0) + "\xC2\xA0%";
 }
 
+std::string cForms::WholePercent(double share) const {
+    return Number(100 * share) + "\xC2\xA0%";
+}
+
 std::string cForms::Duration(double seconds) const {
     const auto whole = static_cast<Seconds>(std::llround(seconds));
     struct cUnit {

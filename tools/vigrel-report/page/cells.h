@@ -41,6 +41,7 @@ class cForms {
     std::string Number(double value, int decimals = 0) const;
     std::string Count(std::size_t count) const { return Number(static_cast<double>(count)); }
     std::string Percent(double share) const;
+    std::string WholePercent(double share) const;
     std::string Duration(double seconds) const;  // its two largest units
     std::string Time(Moment moment) const;       // 2026-03-15 12:30
     std::string Day(Moment moment) const;

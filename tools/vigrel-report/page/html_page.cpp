@@ -233,7 +233,8 @@ class cPage {
         const std::string bars =
             bucket == kBin ? Say(eWord::CaptionBins)
                            : Say(eWord::CaptionBuckets, {m_Forms.Duration(static_cast<double>(bucket))});
-        return bars + " " + Say(eWord::CaptionTime, {m_Forms.Number(PeakLimit(m_Report.figures))});
+        return bars + " " +
+               Say(eWord::CaptionTime, {m_Forms.Number(LimitOf(m_Report.figures, eFigure::Peak).value)});
     }
     void Sources() {
         Open(eWord::Sources);

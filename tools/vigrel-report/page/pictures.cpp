@@ -185,7 +185,7 @@ void DrawUnobserved(cSvg& svg, const cPlot& plot, const cBins& bins) {
 cTimePicture TimePicture(const cFigures& figures, const cForms& forms) {
     cPlot plot;
     plot.period = figures.period;
-    const double limit = PeakLimit(figures);
+    const double limit = LimitOf(figures, eFigure::Peak).value;
     plot.most = ScaleEnd(std::max(static_cast<double>(figures.load.peak), limit * 1.2));
     cTimePicture picture;
     picture.bucket = BucketOf(figures.period);

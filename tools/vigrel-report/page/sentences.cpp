@@ -4,8 +4,7 @@ namespace vigrel::report {
 namespace {
 
 constexpr std::size_t kSentences = 3, kRecommendations = 6;
-constexpr double kMostADay = 150, kMostAnHour = 6, kFloodTime = 0.01, kMuch = 0.1;
-constexpr std::size_t kManyStale = 5;
+constexpr double kMuch = 0.1;
 
 // What could be said, and how much it matters. Of equal weight, what was added first.
 class cChoice {
@@ -90,6 +89,10 @@ double TopShare(const cReport& report) {
            static_cast<double>(figures.load.activations);
 }
 
+bool HasManyStale(const cFigures& figures) {
+    return static_cast<double>(figures.nuisance.mostStale) >= LimitOf(figures, eFigure::Stale).value;
+}
+
 // What kept alarms from coming or from being seen.
 void AddSafety(cChoice& choice, const cReport& report, const cForms& forms) {
     const cFigures& figures = report.figures;
@@ -112,9 +115,11 @@ void AddSafety(cChoice& choice, const cReport& report, const cForms& forms) {
 }
 
 // A record of hours tells nothing of a day.
-void AddRate(cChoice& choice, const cLoad& load, const cForms& forms) {
+void AddRate(cChoice& choice, const cFigures& figures, const cForms& forms) {
+    const cLoad& load = figures.load;
     const bool byDay = load.observed >= kDay;
-    const double rate = byDay ? load.perDay : load.perHour, most = byDay ? kMostADay : kMostAnHour;
+    const double rate = byDay ? load.perDay : load.perHour;
+    const double most = LimitOf(figures, byDay ? eFigure::RateDay : eFigure::RateHour).value;
     const std::string shown = forms.Number(rate, rate < 10 ? 1 : 0);
     if (rate > most) {
         choice.Add(80, forms.Say(byDay ? eWord::SayBusy : eWord::SayBusyHours, {shown, forms.Number(most)}));
@@ -129,14 +134,14 @@ void AddLoad(cChoice& choice, const cReport& report, const cForms& forms) {
         choice.Add(60, forms.Say(eWord::SayNoAlarm));
         return;
     }
-    AddRate(choice, load, forms);
+    AddRate(choice, report.figures, forms);
     if (load.floods.empty()) {
         choice.Add(30, forms.Say(eWord::SayNoFlood, {forms.Count(load.peak)}));
         return;
     }
     double flooded = 0;
     for (const cFlood& flood : load.floods) flooded += static_cast<double>(flood.span.Length());
-    choice.Add(load.floodShare < kFloodTime ? 65 : 75,
+    choice.Add(load.floodShare < LimitOf(report.figures, eFigure::FloodShare).value ? 65 : 75,
                forms.Say(eWord::SayFlood, {forms.Count(load.floods.size()), forms.Duration(flooded),
                                            forms.Count(load.peak), forms.Time(load.peakAt)}));
 }
@@ -149,7 +154,7 @@ void AddSources(cChoice& choice, const cReport& report, const cForms& forms) {
             60, forms.Say(eWord::SaySource,
                           {SourceText(report.names, figures.sources.ranking[0].source), forms.Percent(top)}));
     }
-    if (figures.nuisance.mostStale >= kManyStale) {
+    if (HasManyStale(figures)) {
         choice.Add(55, forms.Say(eWord::SayStale, {forms.Count(figures.nuisance.mostStale)}));
     }
     const cAnswerTimes& times = figures.answers.all;
@@ -166,7 +171,8 @@ void AddRepairs(cChoice& choice, const cReport& report, const cForms& forms) {
         choice.Add(
             70, forms.Say(eWord::DoSource,
                           {SourceText(report.names, figures.sources.ranking[0].source), forms.Percent(top)}));
-    } else if (figures.sources.ranking.size() > kTop && figures.sources.topTenShare > 0.05) {
+    } else if (figures.sources.ranking.size() > kTop &&
+               figures.sources.topTenShare > LimitOf(figures, eFigure::TopTen).value) {
         choice.Add(60, forms.Say(eWord::DoTopTen, {forms.Percent(figures.sources.topTenShare)}));
     }
     const cNuisance& nuisance = figures.nuisance;
@@ -176,8 +182,9 @@ void AddRepairs(cChoice& choice, const cReport& report, const cForms& forms) {
     if (nuisance.fleetingActivations > 0) {
         choice.Add(40, forms.Say(eWord::DoFleeting, {forms.Count(nuisance.fleetingActivations)}));
     }
-    if (nuisance.mostStale >= kManyStale) choice.Add(55, forms.Say(eWord::DoStale));
-    if (figures.load.floodShare >= kFloodTime) choice.Add(58, forms.Say(eWord::DoFlood));
+    if (HasManyStale(figures)) choice.Add(55, forms.Say(eWord::DoStale));
+    if (figures.load.floodShare >= LimitOf(figures, eFigure::FloodShare).value)
+        choice.Add(58, forms.Say(eWord::DoFlood));
 }
 
 void AddCare(cChoice& choice, const cReport& report, const cForms& forms) {

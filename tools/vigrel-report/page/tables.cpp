@@ -40,37 +40,18 @@ Cell ValueCell(eUnit unit, std::optional<double> value) {
 }
 
 // The limit of a figure in words; nothing when none is quoted.
-Cell LimitCell(const cForms& forms, const cFigures& figures, eFigure figure) {
-    switch (figure) {
-        case eFigure::RateTenMinutes:
-            return forms.Say(W::Manageable, {"1", "2"});
-        case eFigure::RateHour:
-            return forms.Say(W::Manageable, {"6", "12"});
-        case eFigure::RateDay:
-            return forms.Say(W::AtMost, {"150"});
-        case eFigure::Peak:
-            return forms.Say(W::AtMost, {forms.Number(PeakLimit(figures))});
-        case eFigure::BusyBins:
-        case eFigure::BusyHours:
-        case eFigure::FloodShare:
-            return forms.Say(W::Under, {"1\xC2\xA0%"});
-        case eFigure::TopTen:
-        case eFigure::HighShare:
-            return forms.Say(W::AtMost, {"5\xC2\xA0%"});
-        case eFigure::MediumShare:
-            return forms.Say(W::AtMost, {"15\xC2\xA0%"});
-        case eFigure::LowShare:
-            return forms.Say(W::AtLeast, {"80\xC2\xA0%"});
-        case eFigure::Chattering:
-        case eFigure::Fleeting:
-            return W::NoneAllowed;
-        case eFigure::Stale:
-            return forms.Say(W::Under, {"5"});
-        case eFigure::Standing:
-            return forms.Say(W::Under, {"10"});
-        default:
-            return std::monostate();
-    }
+Cell LimitCell(const cForms& forms, const cLimit& limit, const cJudged& line) {
+    if (limit.kind == cLimit::None) return std::monostate();
+    if (limit.kind == cLimit::AtMost && limit.value == 0) return W::NoneAllowed;
+    const std::string shown =
+        line.unit == eUnit::Share ? forms.WholePercent(limit.value) : forms.Number(limit.value);
+    // Up to the double an operator still manages.
+    if (line.figure == eFigure::RateTenMinutes || line.figure == eFigure::RateHour)
+        return forms.Say(W::Manageable, {shown, forms.Number(2 * limit.value)});
+    const W form = limit.kind == cLimit::AtMost  ? W::AtMost
+                   : limit.kind == cLimit::Below ? W::Under
+                                                 : W::AtLeast;
+    return forms.Say(form, {shown});
 }
 
 class cTables {
@@ -129,7 +110,7 @@ class cTables {
                      {}};
         for (const cJudged& line : Judge(m_Figures, m_Report.before)) {
             table.rows.push_back({FigureWord(line.figure), ValueCell(line.unit, line.value),
-                                  LimitCell(m_Forms, m_Figures, line.figure), line.verdict,
+                                  LimitCell(m_Forms, LimitOf(m_Figures, line.figure), line), line.verdict,
                                   ValueCell(line.unit, line.before)});
         }
         return table;
