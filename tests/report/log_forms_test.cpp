@@ -71,6 +71,19 @@ TEST_P(LogForms, KnowWhatAStationSaysOfItsSurroundings) {
     EXPECT_EQ(Read("Alarms\\A0000001.alm").kind, eLine::Unknown);
 }
 
+TEST_P(LogForms, KnowWhatTheEditorSaysOfDefinitions) {
+    for (const std::string& line :
+         {m_Texts[803] + " 'Receiver_7.dat' (9) " + m_Texts[804],
+          m_Texts[888] + " 'Receiver_7.dat' (version 1 -> 2)",
+          m_Texts[930] + " 'Profile_7.dat' (version 1 -> 2)", m_Texts[976] + " 'North' Receiver_7.dat",
+          m_Texts[977] + " 'North' Receiver_7.dat Err:Permission denied",
+          m_Texts[978] + " Receiver_7.dat Err:Permission denied",
+          m_Texts[979] + " Receiver_7.dat Err:Disk full", m_Texts[980] + " Profile_7.dat Err:Disk full",
+          m_Texts[981] + " 'North' Profile_7.dat", m_Texts[982] + " Profile_7.dat Err:Permission denied"}) {
+        EXPECT_EQ(Read(line).kind, eLine::Known) << line;
+    }
+}
+
 TEST_P(LogForms, NameTheSender) {
     const cLogLine alarm = Read("Boiler room " + m_Texts[10030] + " Active - Fan (A/B//)");
     EXPECT_EQ(alarm.kind, eLine::Alarm);

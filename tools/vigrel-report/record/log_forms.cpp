@@ -133,6 +133,12 @@ cLogLine ReadBy(const cLogPhrases& phrases, std::string_view text) {
     return {IsOther(phrases, text) ? eLine::Known : eLine::Unknown, {}, {}, 0};
 }
 
+// With these the editor begins its lines about files of definitions, in the log of the same folder.
+constexpr eText kOfDefinitions[] = {TextUnknownVersion,   TextReceiverUpgraded,   TextProfileUpgraded,
+                                    TextReceiverRemoved,  TextReceiverNotRemoved, TextReceiverNotLoaded,
+                                    TextReceiverNotSaved, TextProfileNotSaved,    TextProfileRemoval,
+                                    TextProfileNotLoaded};
+
 // The line with which every start begins.
 bool IsRuler(std::string_view text) {
     return text.size() == 120 && text.find_first_not_of('-') == std::string_view::npos;
@@ -171,6 +177,7 @@ cLogPhrases PhrasesOf(const cTexts& texts) {
     p.minutes = text(TextMinutes, " ");
     p.notices = {text(TextTextsUnreadable), text(TextFolderNotLocked), text(TextFolderUnreadable),
                  text(TextNoTray),          text(TextTrayGone),        text(TextDisplayGone)};
+    for (const eText id : kOfDefinitions) p.notices.push_back(text(id, "", " "));
     p.noAlarmFile = text(TextNoAlarmFile, " ");
     p.unreadable = text(TextAlarmFilesUnreadable, " ", " ");
     p.lost = text(TextSenderLost, " - ", " ");
