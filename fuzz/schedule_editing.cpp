@@ -53,7 +53,7 @@ class cOperator {
     // Whatever was done, in a drag or not, the schedule can be saved and read.
     void Check() {
         const auto fault = FaultOfScheduleFile(testing::Saved(m_Schedule));
-        if (fault) std::fprintf(stderr, "%s\n", fault->c_str());
+        if (fault) std::fprintf(stderr, "%s\n", fault->English().c_str());
         fuzz::Require(!fault, "the schedule is sound");
     }
 

@@ -124,6 +124,337 @@
     </message>
 </context>
 <context>
+    <name>Reasons</name>
+    <message>
+        <source>the text has characters that can&apos;t be stored</source>
+        <translation>teksten har tegn, der ikke kan gemmes</translation>
+    </message>
+    <message>
+        <source>a text of more than 65535 bytes can&apos;t be stored</source>
+        <translation>en tekst på mere end 65535 byte kan ikke gemmes</translation>
+    </message>
+    <message>
+        <source>a date-time lies outside the years 100 to 9999</source>
+        <translation>et tidspunkt ligger uden for årene 100 til 9999</translation>
+    </message>
+    <message>
+        <source>a date lies outside the years 100 to 9999</source>
+        <translation>en dato ligger uden for årene 100 til 9999</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, linje %2: %3</translation>
+    </message>
+    <message>
+        <source>the number %1 does not fit %2 bits</source>
+        <translation>tallet %1 kan ikke være i %2 bit</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is not a number from 0 to %3</source>
+        <translation>%1: &quot;%2&quot; er ikke et tal fra 0 til %3</translation>
+    </message>
+    <message>
+        <source>%1: the range &quot;%2&quot; ends before it begins</source>
+        <translation>%1: intervallet &quot;%2&quot; slutter, før det begynder</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is not red,green,blue</source>
+        <translation>%1: &quot;%2&quot; er ikke rød,grøn,blå</translation>
+    </message>
+    <message>
+        <source>a rule has six fields (tag | categories | areas | text colour | background | fade), this line has %1</source>
+        <translation>en regel har seks felter (tag | kategorier | områder | tekstfarve | baggrund | toning), denne linje har %1</translation>
+    </message>
+    <message>
+        <source>fade</source>
+        <translation>toning</translation>
+    </message>
+    <message>
+        <source>tag: it is empty; &quot;*&quot; stands for every tag</source>
+        <translation>tag: feltet er tomt; &quot;*&quot; står for alle tags</translation>
+    </message>
+    <message>
+        <source>tag: it must not hold &quot;|&quot;</source>
+        <translation>tag: feltet må ikke indeholde &quot;|&quot;</translation>
+    </message>
+    <message>
+        <source>tag: it must not begin with &quot;#&quot;; write &quot;?&quot; for it</source>
+        <translation>tag: feltet må ikke begynde med &quot;#&quot;; skriv &quot;?&quot; i stedet</translation>
+    </message>
+    <message>
+        <source>text colour</source>
+        <translation>tekstfarve</translation>
+    </message>
+    <message>
+        <source>background</source>
+        <translation>baggrund</translation>
+    </message>
+    <message>
+        <source>fade: it is not a number from 0 to 255</source>
+        <translation>toning: ikke et tal fra 0 til 255</translation>
+    </message>
+    <message>
+        <source>categories</source>
+        <translation>kategorier</translation>
+    </message>
+    <message>
+        <source>areas</source>
+        <translation>områder</translation>
+    </message>
+    <message>
+        <source>a date lies outside the calendar&apos;s years 2000 to 2039</source>
+        <translation>en dato ligger uden for kalenderens år 2000 til 2039</translation>
+    </message>
+    <message>
+        <source>period %1 of day type %2 goes from minute %3 to minute %4</source>
+        <translation>periode %1 for dagtype %2 går fra minut %3 til minut %4</translation>
+    </message>
+    <message>
+        <source>the active flag of day type %1 is %2</source>
+        <translation>aktivflaget for dagtype %1 er %2</translation>
+    </message>
+    <message>
+        <source>the group flag of day type %1 is %2</source>
+        <translation>gruppeflaget for dagtype %1 er %2</translation>
+    </message>
+    <message>
+        <source>the number of periods of day type %1 is %2</source>
+        <translation>antallet af perioder for dagtype %1 er %2</translation>
+    </message>
+    <message>
+        <source>it ends within the %2 periods of day type %1</source>
+        <translation>den slutter midt i de %2 perioder for dagtype %1</translation>
+    </message>
+    <message>
+        <source>the row of day type %1 is %2</source>
+        <translation>rækken for dagtype %1 er %2</translation>
+    </message>
+    <message>
+        <source>it has %1 bytes, and a schedule at least 186</source>
+        <translation>den har %1 byte, et tidsprogram har mindst 186</translation>
+    </message>
+    <message>
+        <source>its end is missing</source>
+        <translation>slutningen mangler</translation>
+    </message>
+    <message>
+        <source>the calendar flag is %1</source>
+        <translation>kalenderflaget er %1</translation>
+    </message>
+    <message>
+        <source>it goes on behind the schedule&apos;s %1 bytes</source>
+        <translation>den fortsætter efter tidsprogrammets %1 byte</translation>
+    </message>
+    <message>
+        <source>it has %1 bytes in place of 29220</source>
+        <translation>den har %1 byte i stedet for 29220</translation>
+    </message>
+    <message>
+        <source>the value of %1 is %2, not one of 0 to 23</source>
+        <translation>værdien for %1 er %2, ikke en af 0 til 23</translation>
+    </message>
+    <message>
+        <source>%1 is not a time schedule: %2.</source>
+        <translation>%1 er ikke et tidsprogram: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not a calendar: %2.</source>
+        <translation>%1 er ikke en kalender: %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a time such as 8, 0830 or 16:30.</source>
+        <translation>&quot;%1&quot; er ikke et klokkeslæt som 8, 0830 eller 16:30.</translation>
+    </message>
+    <message>
+        <source>The time is missing.</source>
+        <translation>Klokkeslættet mangler.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has more than 59 minutes.</source>
+        <translation>&quot;%1&quot; har mere end 59 minutter.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; lies behind 24:00.</source>
+        <translation>&quot;%1&quot; ligger efter 24:00.</translation>
+    </message>
+    <message>
+        <source>a file of %1 bytes is no definition</source>
+        <translation>en fil på %1 byte er ingen definition</translation>
+    </message>
+    <message>
+        <source>all numbers for new files are taken</source>
+        <translation>alle numre til nye filer er optaget</translation>
+    </message>
+    <message>
+        <source>%1 &apos;%2&apos; (version %3 -&gt; %4)</source>
+        <translation>%1 &apos;%2&apos; (version %3 -&gt; %4)</translation>
+    </message>
+    <message>
+        <source>%1 Err:%2</source>
+        <translation>%1 Fejl: %2</translation>
+    </message>
+    <message>
+        <source>the file ends too early, at its byte %1</source>
+        <translation>filen slutter for tidligt, ved byte %1</translation>
+    </message>
+    <message>
+        <source>It has the same number as %1; rename one of them.</source>
+        <translation>Den har samme nummer som %1; omdøb en af dem.</translation>
+    </message>
+    <message>
+        <source>The file has %1 bytes: it is empty.</source>
+        <translation>Filen har %1 byte: den er tom.</translation>
+    </message>
+    <message>
+        <source>The file is damaged: it ends too early or holds a value that is none.</source>
+        <translation>Filen er beskadiget: den slutter for tidligt eller har en ugyldig værdi.</translation>
+    </message>
+    <message>
+        <source>The file&apos;s version is %1, not one of %2 to %3.</source>
+        <translation>Filens version er %1, ikke en af %2 til %3.</translation>
+    </message>
+    <message>
+        <source>the profile has no time schedule</source>
+        <translation>profilen har intet tidsprogram</translation>
+    </message>
+    <message>
+        <source>the type id &quot;%1&quot; is not a whole number from 0 to 32767</source>
+        <translation>typens nummer &quot;%1&quot; er ikke et heltal fra 0 til 32767</translation>
+    </message>
+    <message>
+        <source>the settings file &quot;%1&quot; is not the plain name of a file of the application folder</source>
+        <translation>indstillingsfilen &quot;%1&quot; er ikke blot navnet på en fil i programmets mappe</translation>
+    </message>
+    <message>
+        <source>a line has three or four fields (id; kind; name; settings file), this one has %1</source>
+        <translation>en linje har tre eller fire felter (nummer; slags; navn; indstillingsfil), denne har %1</translation>
+    </message>
+    <message>
+        <source>the kind is empty</source>
+        <translation>slagsen er tom</translation>
+    </message>
+    <message>
+        <source>the name is empty</source>
+        <translation>navnet er tomt</translation>
+    </message>
+    <message>
+        <source>the type id %1 stands on an earlier line too</source>
+        <translation>typens nummer %1 står også på en tidligere linje</translation>
+    </message>
+    <message>
+        <source>the table is full: it has room for %1 types</source>
+        <translation>tabellen er fuld: den har plads til %1 typer</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no value of the type %2</source>
+        <translation>&quot;%1&quot; er ikke en værdi af typen %2</translation>
+    </message>
+    <message>
+        <source>a value has the unknown type code %1</source>
+        <translation>en værdi har den ukendte typekode %1</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>tom</translation>
+    </message>
+    <message>
+        <source>null</source>
+        <translation>null</translation>
+    </message>
+    <message>
+        <source>whole number (16 bits)</source>
+        <translation>heltal (16 bit)</translation>
+    </message>
+    <message>
+        <source>whole number (32 bits)</source>
+        <translation>heltal (32 bit)</translation>
+    </message>
+    <message>
+        <source>number (single)</source>
+        <translation>tal (enkelt præcision)</translation>
+    </message>
+    <message>
+        <source>number (double)</source>
+        <translation>tal (dobbelt præcision)</translation>
+    </message>
+    <message>
+        <source>currency</source>
+        <translation>valuta</translation>
+    </message>
+    <message>
+        <source>date</source>
+        <translation>dato</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>tekst</translation>
+    </message>
+    <message>
+        <source>yes or no</source>
+        <translation>ja eller nej</translation>
+    </message>
+    <message>
+        <source>whole number (8 bits)</source>
+        <translation>heltal (8 bit)</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>ukendt</translation>
+    </message>
+    <message>
+        <source>no ordinary file</source>
+        <translation>ikke en almindelig fil</translation>
+    </message>
+    <message>
+        <source>larger than 64 MB</source>
+        <translation>større end 64 MB</translation>
+    </message>
+    <message>
+        <source>%1: a link that another user made is not followed</source>
+        <translation>%1: et link, som en anden bruger har oprettet, følges ikke</translation>
+    </message>
+    <message>
+        <source>%1: leads in a circle</source>
+        <translation>%1: fører i ring</translation>
+    </message>
+    <message>
+        <source>there is no such file or folder</source>
+        <translation>filen eller mappen findes ikke</translation>
+    </message>
+    <message>
+        <source>it is there already</source>
+        <translation>findes allerede</translation>
+    </message>
+    <message>
+        <source>there is no room left on the disk</source>
+        <translation>disken er fuld</translation>
+    </message>
+    <message>
+        <source>the access rights don&apos;t allow it</source>
+        <translation>adgangsrettighederne tillader det ikke</translation>
+    </message>
+    <message>
+        <source>the disk can only be read</source>
+        <translation>disken er skrivebeskyttet</translation>
+    </message>
+    <message>
+        <source>a part of the path is not a folder</source>
+        <translation>en del af stien er ikke en mappe</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>er en mappe</translation>
+    </message>
+    <message>
+        <source>the disk has failed</source>
+        <translation>diskfejl</translation>
+    </message>
+</context>
+<context>
     <name>cDayTypeImages</name>
     <message>
         <source>Star</source>

@@ -124,6 +124,337 @@
     </message>
 </context>
 <context>
+    <name>Reasons</name>
+    <message>
+        <source>the text has characters that can&apos;t be stored</source>
+        <translation>der Text hat Zeichen, die nicht gespeichert werden können</translation>
+    </message>
+    <message>
+        <source>a text of more than 65535 bytes can&apos;t be stored</source>
+        <translation>ein Text von mehr als 65535 Byte kann nicht gespeichert werden</translation>
+    </message>
+    <message>
+        <source>a date-time lies outside the years 100 to 9999</source>
+        <translation>ein Zeitpunkt liegt außerhalb der Jahre 100 bis 9999</translation>
+    </message>
+    <message>
+        <source>a date lies outside the years 100 to 9999</source>
+        <translation>ein Datum liegt außerhalb der Jahre 100 bis 9999</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, Zeile %2: %3</translation>
+    </message>
+    <message>
+        <source>the number %1 does not fit %2 bits</source>
+        <translation>die Zahl %1 passt nicht in %2 Bit</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is not a number from 0 to %3</source>
+        <translation>%1: „%2“ ist keine Zahl von 0 bis %3</translation>
+    </message>
+    <message>
+        <source>%1: the range &quot;%2&quot; ends before it begins</source>
+        <translation>%1: Der Bereich „%2“ endet vor seinem Anfang</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is not red,green,blue</source>
+        <translation>%1: „%2“ ist nicht Rot,Grün,Blau</translation>
+    </message>
+    <message>
+        <source>a rule has six fields (tag | categories | areas | text colour | background | fade), this line has %1</source>
+        <translation>eine Regel hat sechs Felder (Variable | Kategorien | Bereiche | Textfarbe | Hintergrund | Abtönung), diese Zeile hat %1</translation>
+    </message>
+    <message>
+        <source>fade</source>
+        <translation>Abtönung</translation>
+    </message>
+    <message>
+        <source>tag: it is empty; &quot;*&quot; stands for every tag</source>
+        <translation>Variable: Das Feld ist leer; „*“ steht für jede Variable</translation>
+    </message>
+    <message>
+        <source>tag: it must not hold &quot;|&quot;</source>
+        <translation>Variable: Das Feld darf kein „|“ enthalten</translation>
+    </message>
+    <message>
+        <source>tag: it must not begin with &quot;#&quot;; write &quot;?&quot; for it</source>
+        <translation>Variable: Das Feld darf nicht mit „#“ beginnen; schreiben Sie dafür „?“</translation>
+    </message>
+    <message>
+        <source>text colour</source>
+        <translation>Textfarbe</translation>
+    </message>
+    <message>
+        <source>background</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>fade: it is not a number from 0 to 255</source>
+        <translation>Abtönung: keine Zahl von 0 bis 255</translation>
+    </message>
+    <message>
+        <source>categories</source>
+        <translation>Kategorien</translation>
+    </message>
+    <message>
+        <source>areas</source>
+        <translation>Bereiche</translation>
+    </message>
+    <message>
+        <source>a date lies outside the calendar&apos;s years 2000 to 2039</source>
+        <translation>ein Datum liegt außerhalb der Jahre 2000 bis 2039 des Kalenders</translation>
+    </message>
+    <message>
+        <source>period %1 of day type %2 goes from minute %3 to minute %4</source>
+        <translation>Zeitraum %1 des Tagestyps %2 geht von Minute %3 bis Minute %4</translation>
+    </message>
+    <message>
+        <source>the active flag of day type %1 is %2</source>
+        <translation>der Aktiv-Merker des Tagestyps %1 ist %2</translation>
+    </message>
+    <message>
+        <source>the group flag of day type %1 is %2</source>
+        <translation>der Gruppen-Merker des Tagestyps %1 ist %2</translation>
+    </message>
+    <message>
+        <source>the number of periods of day type %1 is %2</source>
+        <translation>die Anzahl der Zeiträume des Tagestyps %1 ist %2</translation>
+    </message>
+    <message>
+        <source>it ends within the %2 periods of day type %1</source>
+        <translation>sie endet inmitten der %2 Zeiträume des Tagestyps %1</translation>
+    </message>
+    <message>
+        <source>the row of day type %1 is %2</source>
+        <translation>die Zeile des Tagestyps %1 ist %2</translation>
+    </message>
+    <message>
+        <source>it has %1 bytes, and a schedule at least 186</source>
+        <translation>sie hat %1 Byte, ein Zeitprogramm hat mindestens 186</translation>
+    </message>
+    <message>
+        <source>its end is missing</source>
+        <translation>ihr Ende fehlt</translation>
+    </message>
+    <message>
+        <source>the calendar flag is %1</source>
+        <translation>der Kalender-Merker ist %1</translation>
+    </message>
+    <message>
+        <source>it goes on behind the schedule&apos;s %1 bytes</source>
+        <translation>sie geht hinter den %1 Byte des Zeitprogramms weiter</translation>
+    </message>
+    <message>
+        <source>it has %1 bytes in place of 29220</source>
+        <translation>sie hat %1 Byte anstelle von 29220</translation>
+    </message>
+    <message>
+        <source>the value of %1 is %2, not one of 0 to 23</source>
+        <translation>der Wert von %1 ist %2, keiner von 0 bis 23</translation>
+    </message>
+    <message>
+        <source>%1 is not a time schedule: %2.</source>
+        <translation>Die Datei %1 ist kein Zeitprogramm: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not a calendar: %2.</source>
+        <translation>Die Datei %1 ist kein Kalender: %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a time such as 8, 0830 or 16:30.</source>
+        <translation>„%1“ ist keine Uhrzeit wie 8, 0830 oder 16:30.</translation>
+    </message>
+    <message>
+        <source>The time is missing.</source>
+        <translation>Die Uhrzeit fehlt.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has more than 59 minutes.</source>
+        <translation>„%1“ hat mehr als 59 Minuten.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; lies behind 24:00.</source>
+        <translation>„%1“ liegt nach 24:00.</translation>
+    </message>
+    <message>
+        <source>a file of %1 bytes is no definition</source>
+        <translation>eine Datei von %1 Byte ist keine Definition</translation>
+    </message>
+    <message>
+        <source>all numbers for new files are taken</source>
+        <translation>alle Nummern für neue Dateien sind vergeben</translation>
+    </message>
+    <message>
+        <source>%1 &apos;%2&apos; (version %3 -&gt; %4)</source>
+        <translation>%1 &apos;%2&apos; (Version %3 -&gt; %4)</translation>
+    </message>
+    <message>
+        <source>%1 Err:%2</source>
+        <translation>%1 Fehler: %2</translation>
+    </message>
+    <message>
+        <source>the file ends too early, at its byte %1</source>
+        <translation>die Datei endet zu früh, bei Byte %1</translation>
+    </message>
+    <message>
+        <source>It has the same number as %1; rename one of them.</source>
+        <translation>Sie hat dieselbe Nummer wie %1; benennen Sie eine davon um.</translation>
+    </message>
+    <message>
+        <source>The file has %1 bytes: it is empty.</source>
+        <translation>Die Datei hat %1 Byte: Sie ist leer.</translation>
+    </message>
+    <message>
+        <source>The file is damaged: it ends too early or holds a value that is none.</source>
+        <translation>Die Datei ist beschädigt: Sie endet zu früh oder enthält einen ungültigen Wert.</translation>
+    </message>
+    <message>
+        <source>The file&apos;s version is %1, not one of %2 to %3.</source>
+        <translation>Die Version der Datei ist %1, keine von %2 bis %3.</translation>
+    </message>
+    <message>
+        <source>the profile has no time schedule</source>
+        <translation>das Profil hat kein Zeitprogramm</translation>
+    </message>
+    <message>
+        <source>the type id &quot;%1&quot; is not a whole number from 0 to 32767</source>
+        <translation>die Typnummer „%1“ ist keine ganze Zahl von 0 bis 32767</translation>
+    </message>
+    <message>
+        <source>the settings file &quot;%1&quot; is not the plain name of a file of the application folder</source>
+        <translation>die Einstellungsdatei „%1“ ist nicht nur der Name einer Datei im Programmordner</translation>
+    </message>
+    <message>
+        <source>a line has three or four fields (id; kind; name; settings file), this one has %1</source>
+        <translation>eine Zeile hat drei oder vier Felder (Nummer; Art; Name; Einstellungsdatei), diese hat %1</translation>
+    </message>
+    <message>
+        <source>the kind is empty</source>
+        <translation>die Art ist leer</translation>
+    </message>
+    <message>
+        <source>the name is empty</source>
+        <translation>der Name ist leer</translation>
+    </message>
+    <message>
+        <source>the type id %1 stands on an earlier line too</source>
+        <translation>die Typnummer %1 steht schon in einer früheren Zeile</translation>
+    </message>
+    <message>
+        <source>the table is full: it has room for %1 types</source>
+        <translation>die Tabelle ist voll: Sie fasst %1 Typen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no value of the type %2</source>
+        <translation>„%1“ ist kein Wert des Typs %2</translation>
+    </message>
+    <message>
+        <source>a value has the unknown type code %1</source>
+        <translation>ein Wert hat die unbekannte Typkennzahl %1</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>leer</translation>
+    </message>
+    <message>
+        <source>null</source>
+        <translation>Null</translation>
+    </message>
+    <message>
+        <source>whole number (16 bits)</source>
+        <translation>ganze Zahl (16 Bit)</translation>
+    </message>
+    <message>
+        <source>whole number (32 bits)</source>
+        <translation>ganze Zahl (32 Bit)</translation>
+    </message>
+    <message>
+        <source>number (single)</source>
+        <translation>Zahl (einfache Genauigkeit)</translation>
+    </message>
+    <message>
+        <source>number (double)</source>
+        <translation>Zahl (doppelte Genauigkeit)</translation>
+    </message>
+    <message>
+        <source>currency</source>
+        <translation>Währung</translation>
+    </message>
+    <message>
+        <source>date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>yes or no</source>
+        <translation>Ja oder Nein</translation>
+    </message>
+    <message>
+        <source>whole number (8 bits)</source>
+        <translation>ganze Zahl (8 Bit)</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>no ordinary file</source>
+        <translation>keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>larger than 64 MB</source>
+        <translation>größer als 64 MB</translation>
+    </message>
+    <message>
+        <source>%1: a link that another user made is not followed</source>
+        <translation>%1: Einem Link, den ein anderer Benutzer angelegt hat, wird nicht gefolgt</translation>
+    </message>
+    <message>
+        <source>%1: leads in a circle</source>
+        <translation>%1: führt im Kreis</translation>
+    </message>
+    <message>
+        <source>there is no such file or folder</source>
+        <translation>die Datei oder der Ordner fehlt</translation>
+    </message>
+    <message>
+        <source>it is there already</source>
+        <translation>ist schon vorhanden</translation>
+    </message>
+    <message>
+        <source>there is no room left on the disk</source>
+        <translation>die Festplatte ist voll</translation>
+    </message>
+    <message>
+        <source>the access rights don&apos;t allow it</source>
+        <translation>die Zugriffsrechte erlauben es nicht</translation>
+    </message>
+    <message>
+        <source>the disk can only be read</source>
+        <translation>die Festplatte ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>a part of the path is not a folder</source>
+        <translation>ein Teil des Pfades ist kein Ordner</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>the disk has failed</source>
+        <translation>die Festplatte hat einen Fehler</translation>
+    </message>
+</context>
+<context>
     <name>cDayTypeImages</name>
     <message>
         <source>Star</source>

@@ -124,6 +124,337 @@
     </message>
 </context>
 <context>
+    <name>Reasons</name>
+    <message>
+        <source>the text has characters that can&apos;t be stored</source>
+        <translation>tekstissä on merkkejä, joita ei voida tallentaa</translation>
+    </message>
+    <message>
+        <source>a text of more than 65535 bytes can&apos;t be stored</source>
+        <translation>yli 65535 tavun tekstiä ei voida tallentaa</translation>
+    </message>
+    <message>
+        <source>a date-time lies outside the years 100 to 9999</source>
+        <translation>ajankohta ei ole vuosien 100–9999 sisällä</translation>
+    </message>
+    <message>
+        <source>a date lies outside the years 100 to 9999</source>
+        <translation>päivämäärä ei ole vuosien 100–9999 sisällä</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, rivi %2: %3</translation>
+    </message>
+    <message>
+        <source>the number %1 does not fit %2 bits</source>
+        <translation>luku %1 ei mahdu %2 bittiin</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is not a number from 0 to %3</source>
+        <translation>%1: &quot;%2&quot; ei ole luku väliltä 0–%3</translation>
+    </message>
+    <message>
+        <source>%1: the range &quot;%2&quot; ends before it begins</source>
+        <translation>%1: alue &quot;%2&quot; päättyy ennen alkuaan</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is not red,green,blue</source>
+        <translation>%1: &quot;%2&quot; ei ole muotoa punainen,vihreä,sininen</translation>
+    </message>
+    <message>
+        <source>a rule has six fields (tag | categories | areas | text colour | background | fade), this line has %1</source>
+        <translation>säännössä on kuusi kenttää (tunnus | ryhmät | alueet | tekstin väri | tausta | sävytys), tällä rivillä niitä on %1</translation>
+    </message>
+    <message>
+        <source>fade</source>
+        <translation>sävytys</translation>
+    </message>
+    <message>
+        <source>tag: it is empty; &quot;*&quot; stands for every tag</source>
+        <translation>tunnus: kenttä on tyhjä; &quot;*&quot; tarkoittaa kaikkia tunnuksia</translation>
+    </message>
+    <message>
+        <source>tag: it must not hold &quot;|&quot;</source>
+        <translation>tunnus: kentässä ei saa olla merkkiä &quot;|&quot;</translation>
+    </message>
+    <message>
+        <source>tag: it must not begin with &quot;#&quot;; write &quot;?&quot; for it</source>
+        <translation>tunnus: kenttä ei saa alkaa merkillä &quot;#&quot;; kirjoita sen sijaan &quot;?&quot;</translation>
+    </message>
+    <message>
+        <source>text colour</source>
+        <translation>tekstin väri</translation>
+    </message>
+    <message>
+        <source>background</source>
+        <translation>tausta</translation>
+    </message>
+    <message>
+        <source>fade: it is not a number from 0 to 255</source>
+        <translation>sävytys: ei ole luku väliltä 0–255</translation>
+    </message>
+    <message>
+        <source>categories</source>
+        <translation>ryhmät</translation>
+    </message>
+    <message>
+        <source>areas</source>
+        <translation>alueet</translation>
+    </message>
+    <message>
+        <source>a date lies outside the calendar&apos;s years 2000 to 2039</source>
+        <translation>päivämäärä ei ole kalenterin vuosien 2000–2039 sisällä</translation>
+    </message>
+    <message>
+        <source>period %1 of day type %2 goes from minute %3 to minute %4</source>
+        <translation>päivätyypin %2 jakso %1 kulkee minuutista %3 minuuttiin %4</translation>
+    </message>
+    <message>
+        <source>the active flag of day type %1 is %2</source>
+        <translation>päivätyypin %1 käyttömerkintä on %2</translation>
+    </message>
+    <message>
+        <source>the group flag of day type %1 is %2</source>
+        <translation>päivätyypin %1 ryhmämerkintä on %2</translation>
+    </message>
+    <message>
+        <source>the number of periods of day type %1 is %2</source>
+        <translation>päivätyypin %1 jaksojen määrä on %2</translation>
+    </message>
+    <message>
+        <source>it ends within the %2 periods of day type %1</source>
+        <translation>se päättyy kesken päivätyypin %1 jaksojen, joita on %2</translation>
+    </message>
+    <message>
+        <source>the row of day type %1 is %2</source>
+        <translation>päivätyypin %1 rivi on %2</translation>
+    </message>
+    <message>
+        <source>it has %1 bytes, and a schedule at least 186</source>
+        <translation>siinä on %1 tavua, aikaohjelmassa vähintään 186</translation>
+    </message>
+    <message>
+        <source>its end is missing</source>
+        <translation>sen loppu puuttuu</translation>
+    </message>
+    <message>
+        <source>the calendar flag is %1</source>
+        <translation>kalenterimerkintä on %1</translation>
+    </message>
+    <message>
+        <source>it goes on behind the schedule&apos;s %1 bytes</source>
+        <translation>se jatkuu aikaohjelman %1 tavun jälkeen</translation>
+    </message>
+    <message>
+        <source>it has %1 bytes in place of 29220</source>
+        <translation>siinä on %1 tavua, pitäisi olla 29220</translation>
+    </message>
+    <message>
+        <source>the value of %1 is %2, not one of 0 to 23</source>
+        <translation>päivän %1 arvo on %2, ei väliltä 0–23</translation>
+    </message>
+    <message>
+        <source>%1 is not a time schedule: %2.</source>
+        <translation>Tiedosto %1 ei ole aikaohjelma: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not a calendar: %2.</source>
+        <translation>Tiedosto %1 ei ole kalenteri: %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a time such as 8, 0830 or 16:30.</source>
+        <translation>&quot;%1&quot; ei ole kellonaika, kuten 8, 0830 tai 16:30.</translation>
+    </message>
+    <message>
+        <source>The time is missing.</source>
+        <translation>Kellonaika puuttuu.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has more than 59 minutes.</source>
+        <translation>Ajassa &quot;%1&quot; on yli 59 minuuttia.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; lies behind 24:00.</source>
+        <translation>&quot;%1&quot; on klo 24:00 jälkeen.</translation>
+    </message>
+    <message>
+        <source>a file of %1 bytes is no definition</source>
+        <translation>%1 tavun tiedosto ei ole määrittely</translation>
+    </message>
+    <message>
+        <source>all numbers for new files are taken</source>
+        <translation>kaikki uusien tiedostojen numerot ovat käytössä</translation>
+    </message>
+    <message>
+        <source>%1 &apos;%2&apos; (version %3 -&gt; %4)</source>
+        <translation>%1 &apos;%2&apos; (versio %3 -&gt; %4)</translation>
+    </message>
+    <message>
+        <source>%1 Err:%2</source>
+        <translation>%1 Virhe: %2</translation>
+    </message>
+    <message>
+        <source>the file ends too early, at its byte %1</source>
+        <translation>tiedosto päättyy liian aikaisin, tavuun %1</translation>
+    </message>
+    <message>
+        <source>It has the same number as %1; rename one of them.</source>
+        <translation>Sillä on sama numero kuin tiedostolla %1; nimeä toinen niistä uudelleen.</translation>
+    </message>
+    <message>
+        <source>The file has %1 bytes: it is empty.</source>
+        <translation>Tiedoston koko tavuina on %1: se on tyhjä.</translation>
+    </message>
+    <message>
+        <source>The file is damaged: it ends too early or holds a value that is none.</source>
+        <translation>Tiedosto on vioittunut: se päättyy liian aikaisin tai siinä on kelpaamaton arvo.</translation>
+    </message>
+    <message>
+        <source>The file&apos;s version is %1, not one of %2 to %3.</source>
+        <translation>Tiedoston versio on %1, ei väliltä %2–%3.</translation>
+    </message>
+    <message>
+        <source>the profile has no time schedule</source>
+        <translation>profiililla ei ole aikaohjelmaa</translation>
+    </message>
+    <message>
+        <source>the type id &quot;%1&quot; is not a whole number from 0 to 32767</source>
+        <translation>tyypin numero &quot;%1&quot; ei ole kokonaisluku väliltä 0–32767</translation>
+    </message>
+    <message>
+        <source>the settings file &quot;%1&quot; is not the plain name of a file of the application folder</source>
+        <translation>asetustiedosto &quot;%1&quot; ei ole pelkkä ohjelman kansiossa olevan tiedoston nimi</translation>
+    </message>
+    <message>
+        <source>a line has three or four fields (id; kind; name; settings file), this one has %1</source>
+        <translation>rivillä on kolme tai neljä kenttää (numero; laji; nimi; asetustiedosto), tällä niitä on %1</translation>
+    </message>
+    <message>
+        <source>the kind is empty</source>
+        <translation>laji on tyhjä</translation>
+    </message>
+    <message>
+        <source>the name is empty</source>
+        <translation>nimi on tyhjä</translation>
+    </message>
+    <message>
+        <source>the type id %1 stands on an earlier line too</source>
+        <translation>tyypin numero %1 on jo aiemmalla rivillä</translation>
+    </message>
+    <message>
+        <source>the table is full: it has room for %1 types</source>
+        <translation>taulukko on täynnä: enimmäismäärä on %1 tyyppiä</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no value of the type %2</source>
+        <translation>&quot;%1&quot; ei ole arvo, jonka tyyppi on %2</translation>
+    </message>
+    <message>
+        <source>a value has the unknown type code %1</source>
+        <translation>arvolla on tuntematon tyyppikoodi %1</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>tyhjä</translation>
+    </message>
+    <message>
+        <source>null</source>
+        <translation>null</translation>
+    </message>
+    <message>
+        <source>whole number (16 bits)</source>
+        <translation>kokonaisluku (16 bittiä)</translation>
+    </message>
+    <message>
+        <source>whole number (32 bits)</source>
+        <translation>kokonaisluku (32 bittiä)</translation>
+    </message>
+    <message>
+        <source>number (single)</source>
+        <translation>luku (yksinkertainen tarkkuus)</translation>
+    </message>
+    <message>
+        <source>number (double)</source>
+        <translation>luku (kaksinkertainen tarkkuus)</translation>
+    </message>
+    <message>
+        <source>currency</source>
+        <translation>valuutta</translation>
+    </message>
+    <message>
+        <source>date</source>
+        <translation>päivämäärä</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>teksti</translation>
+    </message>
+    <message>
+        <source>yes or no</source>
+        <translation>kyllä tai ei</translation>
+    </message>
+    <message>
+        <source>whole number (8 bits)</source>
+        <translation>kokonaisluku (8 bittiä)</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>tuntematon</translation>
+    </message>
+    <message>
+        <source>no ordinary file</source>
+        <translation>ei tavallinen tiedosto</translation>
+    </message>
+    <message>
+        <source>larger than 64 MB</source>
+        <translation>suurempi kuin 64 Mt</translation>
+    </message>
+    <message>
+        <source>%1: a link that another user made is not followed</source>
+        <translation>%1: toisen käyttäjän luomaa linkkiä ei seurata</translation>
+    </message>
+    <message>
+        <source>%1: leads in a circle</source>
+        <translation>%1: kiertää kehää</translation>
+    </message>
+    <message>
+        <source>there is no such file or folder</source>
+        <translation>tiedostoa tai kansiota ei ole</translation>
+    </message>
+    <message>
+        <source>it is there already</source>
+        <translation>on jo olemassa</translation>
+    </message>
+    <message>
+        <source>there is no room left on the disk</source>
+        <translation>levy on täynnä</translation>
+    </message>
+    <message>
+        <source>the access rights don&apos;t allow it</source>
+        <translation>käyttöoikeudet eivät riitä</translation>
+    </message>
+    <message>
+        <source>the disk can only be read</source>
+        <translation>levy on kirjoitussuojattu</translation>
+    </message>
+    <message>
+        <source>a part of the path is not a folder</source>
+        <translation>osa polusta ei ole kansio</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>on kansio</translation>
+    </message>
+    <message>
+        <source>the disk has failed</source>
+        <translation>levyvirhe</translation>
+    </message>
+</context>
+<context>
     <name>cDayTypeImages</name>
     <message>
         <source>Star</source>

@@ -124,6 +124,337 @@
     </message>
 </context>
 <context>
+    <name>Reasons</name>
+    <message>
+        <source>the text has characters that can&apos;t be stored</source>
+        <translation>teksten har tegn som ikke kan lagres</translation>
+    </message>
+    <message>
+        <source>a text of more than 65535 bytes can&apos;t be stored</source>
+        <translation>en tekst på mer enn 65535 byte kan ikke lagres</translation>
+    </message>
+    <message>
+        <source>a date-time lies outside the years 100 to 9999</source>
+        <translation>et tidspunkt ligger utenfor årene 100 til 9999</translation>
+    </message>
+    <message>
+        <source>a date lies outside the years 100 to 9999</source>
+        <translation>en dato ligger utenfor årene 100 til 9999</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, linje %2: %3</translation>
+    </message>
+    <message>
+        <source>the number %1 does not fit %2 bits</source>
+        <translation>tallet %1 får ikke plass i %2 bit</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is not a number from 0 to %3</source>
+        <translation>%1: &quot;%2&quot; er ikke et tall fra 0 til %3</translation>
+    </message>
+    <message>
+        <source>%1: the range &quot;%2&quot; ends before it begins</source>
+        <translation>%1: intervallet &quot;%2&quot; slutter før det begynner</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is not red,green,blue</source>
+        <translation>%1: &quot;%2&quot; er ikke rød,grønn,blå</translation>
+    </message>
+    <message>
+        <source>a rule has six fields (tag | categories | areas | text colour | background | fade), this line has %1</source>
+        <translation>en regel har seks felt (tagg | kategorier | områder | tekstfarge | bakgrunn | toning), denne linjen har %1</translation>
+    </message>
+    <message>
+        <source>fade</source>
+        <translation>toning</translation>
+    </message>
+    <message>
+        <source>tag: it is empty; &quot;*&quot; stands for every tag</source>
+        <translation>tagg: feltet er tomt; &quot;*&quot; står for alle tagger</translation>
+    </message>
+    <message>
+        <source>tag: it must not hold &quot;|&quot;</source>
+        <translation>tagg: feltet kan ikke inneholde &quot;|&quot;</translation>
+    </message>
+    <message>
+        <source>tag: it must not begin with &quot;#&quot;; write &quot;?&quot; for it</source>
+        <translation>tagg: feltet kan ikke begynne med &quot;#&quot;; skriv &quot;?&quot; i stedet</translation>
+    </message>
+    <message>
+        <source>text colour</source>
+        <translation>tekstfarge</translation>
+    </message>
+    <message>
+        <source>background</source>
+        <translation>bakgrunn</translation>
+    </message>
+    <message>
+        <source>fade: it is not a number from 0 to 255</source>
+        <translation>toning: ikke et tall fra 0 til 255</translation>
+    </message>
+    <message>
+        <source>categories</source>
+        <translation>kategorier</translation>
+    </message>
+    <message>
+        <source>areas</source>
+        <translation>områder</translation>
+    </message>
+    <message>
+        <source>a date lies outside the calendar&apos;s years 2000 to 2039</source>
+        <translation>en dato ligger utenfor kalenderens år 2000 til 2039</translation>
+    </message>
+    <message>
+        <source>period %1 of day type %2 goes from minute %3 to minute %4</source>
+        <translation>periode %1 for dagtype %2 går fra minutt %3 til minutt %4</translation>
+    </message>
+    <message>
+        <source>the active flag of day type %1 is %2</source>
+        <translation>aktivflagget for dagtype %1 er %2</translation>
+    </message>
+    <message>
+        <source>the group flag of day type %1 is %2</source>
+        <translation>gruppeflagget for dagtype %1 er %2</translation>
+    </message>
+    <message>
+        <source>the number of periods of day type %1 is %2</source>
+        <translation>antall perioder for dagtype %1 er %2</translation>
+    </message>
+    <message>
+        <source>it ends within the %2 periods of day type %1</source>
+        <translation>den slutter midt i de %2 periodene for dagtype %1</translation>
+    </message>
+    <message>
+        <source>the row of day type %1 is %2</source>
+        <translation>raden for dagtype %1 er %2</translation>
+    </message>
+    <message>
+        <source>it has %1 bytes, and a schedule at least 186</source>
+        <translation>den har %1 byte, et tidsprogram har minst 186</translation>
+    </message>
+    <message>
+        <source>its end is missing</source>
+        <translation>slutten mangler</translation>
+    </message>
+    <message>
+        <source>the calendar flag is %1</source>
+        <translation>kalenderflagget er %1</translation>
+    </message>
+    <message>
+        <source>it goes on behind the schedule&apos;s %1 bytes</source>
+        <translation>den fortsetter etter tidsprogrammets %1 byte</translation>
+    </message>
+    <message>
+        <source>it has %1 bytes in place of 29220</source>
+        <translation>den har %1 byte i stedet for 29220</translation>
+    </message>
+    <message>
+        <source>the value of %1 is %2, not one of 0 to 23</source>
+        <translation>verdien for %1 er %2, ikke en av 0 til 23</translation>
+    </message>
+    <message>
+        <source>%1 is not a time schedule: %2.</source>
+        <translation>%1 er ikke et tidsprogram: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not a calendar: %2.</source>
+        <translation>%1 er ikke en kalender: %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a time such as 8, 0830 or 16:30.</source>
+        <translation>&quot;%1&quot; er ikke et klokkeslett som 8, 0830 eller 16:30.</translation>
+    </message>
+    <message>
+        <source>The time is missing.</source>
+        <translation>Klokkeslettet mangler.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has more than 59 minutes.</source>
+        <translation>&quot;%1&quot; har mer enn 59 minutter.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; lies behind 24:00.</source>
+        <translation>&quot;%1&quot; ligger etter 24:00.</translation>
+    </message>
+    <message>
+        <source>a file of %1 bytes is no definition</source>
+        <translation>en fil på %1 byte er ingen definisjon</translation>
+    </message>
+    <message>
+        <source>all numbers for new files are taken</source>
+        <translation>alle numre for nye filer er opptatt</translation>
+    </message>
+    <message>
+        <source>%1 &apos;%2&apos; (version %3 -&gt; %4)</source>
+        <translation>%1 &apos;%2&apos; (versjon %3 -&gt; %4)</translation>
+    </message>
+    <message>
+        <source>%1 Err:%2</source>
+        <translation>%1 Feil: %2</translation>
+    </message>
+    <message>
+        <source>the file ends too early, at its byte %1</source>
+        <translation>filen slutter for tidlig, ved byte %1</translation>
+    </message>
+    <message>
+        <source>It has the same number as %1; rename one of them.</source>
+        <translation>Den har samme nummer som %1; gi en av dem nytt navn.</translation>
+    </message>
+    <message>
+        <source>The file has %1 bytes: it is empty.</source>
+        <translation>Filen har %1 byte: den er tom.</translation>
+    </message>
+    <message>
+        <source>The file is damaged: it ends too early or holds a value that is none.</source>
+        <translation>Filen er skadet: den slutter for tidlig eller har en ugyldig verdi.</translation>
+    </message>
+    <message>
+        <source>The file&apos;s version is %1, not one of %2 to %3.</source>
+        <translation>Filens versjon er %1, ikke en av %2 til %3.</translation>
+    </message>
+    <message>
+        <source>the profile has no time schedule</source>
+        <translation>profilen har ikke noe tidsprogram</translation>
+    </message>
+    <message>
+        <source>the type id &quot;%1&quot; is not a whole number from 0 to 32767</source>
+        <translation>typens nummer &quot;%1&quot; er ikke et heltall fra 0 til 32767</translation>
+    </message>
+    <message>
+        <source>the settings file &quot;%1&quot; is not the plain name of a file of the application folder</source>
+        <translation>innstillingsfilen &quot;%1&quot; er ikke bare navnet på en fil i programmets mappe</translation>
+    </message>
+    <message>
+        <source>a line has three or four fields (id; kind; name; settings file), this one has %1</source>
+        <translation>en linje har tre eller fire felt (nummer; slag; navn; innstillingsfil), denne har %1</translation>
+    </message>
+    <message>
+        <source>the kind is empty</source>
+        <translation>slaget er tomt</translation>
+    </message>
+    <message>
+        <source>the name is empty</source>
+        <translation>navnet er tomt</translation>
+    </message>
+    <message>
+        <source>the type id %1 stands on an earlier line too</source>
+        <translation>typens nummer %1 står også på en tidligere linje</translation>
+    </message>
+    <message>
+        <source>the table is full: it has room for %1 types</source>
+        <translation>tabellen er full: den har plass til %1 typer</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no value of the type %2</source>
+        <translation>&quot;%1&quot; er ikke en verdi av typen %2</translation>
+    </message>
+    <message>
+        <source>a value has the unknown type code %1</source>
+        <translation>en verdi har den ukjente typekoden %1</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>tom</translation>
+    </message>
+    <message>
+        <source>null</source>
+        <translation>null</translation>
+    </message>
+    <message>
+        <source>whole number (16 bits)</source>
+        <translation>heltall (16 bit)</translation>
+    </message>
+    <message>
+        <source>whole number (32 bits)</source>
+        <translation>heltall (32 bit)</translation>
+    </message>
+    <message>
+        <source>number (single)</source>
+        <translation>tall (enkel presisjon)</translation>
+    </message>
+    <message>
+        <source>number (double)</source>
+        <translation>tall (dobbel presisjon)</translation>
+    </message>
+    <message>
+        <source>currency</source>
+        <translation>valuta</translation>
+    </message>
+    <message>
+        <source>date</source>
+        <translation>dato</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>tekst</translation>
+    </message>
+    <message>
+        <source>yes or no</source>
+        <translation>ja eller nei</translation>
+    </message>
+    <message>
+        <source>whole number (8 bits)</source>
+        <translation>heltall (8 bit)</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>ukjent</translation>
+    </message>
+    <message>
+        <source>no ordinary file</source>
+        <translation>ikke en vanlig fil</translation>
+    </message>
+    <message>
+        <source>larger than 64 MB</source>
+        <translation>større enn 64 MB</translation>
+    </message>
+    <message>
+        <source>%1: a link that another user made is not followed</source>
+        <translation>%1: en lenke som en annen bruker har opprettet, følges ikke</translation>
+    </message>
+    <message>
+        <source>%1: leads in a circle</source>
+        <translation>%1: går i ring</translation>
+    </message>
+    <message>
+        <source>there is no such file or folder</source>
+        <translation>filen eller mappen finnes ikke</translation>
+    </message>
+    <message>
+        <source>it is there already</source>
+        <translation>finnes allerede</translation>
+    </message>
+    <message>
+        <source>there is no room left on the disk</source>
+        <translation>disken er full</translation>
+    </message>
+    <message>
+        <source>the access rights don&apos;t allow it</source>
+        <translation>tilgangsrettighetene tillater det ikke</translation>
+    </message>
+    <message>
+        <source>the disk can only be read</source>
+        <translation>disken er skrivebeskyttet</translation>
+    </message>
+    <message>
+        <source>a part of the path is not a folder</source>
+        <translation>en del av banen er ikke en mappe</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>er en mappe</translation>
+    </message>
+    <message>
+        <source>the disk has failed</source>
+        <translation>diskfeil</translation>
+    </message>
+</context>
+<context>
     <name>cDayTypeImages</name>
     <message>
         <source>Star</source>

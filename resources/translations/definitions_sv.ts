@@ -124,6 +124,337 @@
     </message>
 </context>
 <context>
+    <name>Reasons</name>
+    <message>
+        <source>the text has characters that can&apos;t be stored</source>
+        <translation>texten har tecken som inte kan sparas</translation>
+    </message>
+    <message>
+        <source>a text of more than 65535 bytes can&apos;t be stored</source>
+        <translation>en text på mer än 65535 byte kan inte sparas</translation>
+    </message>
+    <message>
+        <source>a date-time lies outside the years 100 to 9999</source>
+        <translation>en tidpunkt ligger utanför åren 100 till 9999</translation>
+    </message>
+    <message>
+        <source>a date lies outside the years 100 to 9999</source>
+        <translation>ett datum ligger utanför åren 100 till 9999</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, rad %2: %3</translation>
+    </message>
+    <message>
+        <source>the number %1 does not fit %2 bits</source>
+        <translation>talet %1 ryms inte i %2 bitar</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is not a number from 0 to %3</source>
+        <translation>%1: &quot;%2&quot; är inte ett tal från 0 till %3</translation>
+    </message>
+    <message>
+        <source>%1: the range &quot;%2&quot; ends before it begins</source>
+        <translation>%1: intervallet &quot;%2&quot; slutar innan det börjar</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is not red,green,blue</source>
+        <translation>%1: &quot;%2&quot; är inte röd,grön,blå</translation>
+    </message>
+    <message>
+        <source>a rule has six fields (tag | categories | areas | text colour | background | fade), this line has %1</source>
+        <translation>en regel har sex fält (tagg | kategorier | områden | textfärg | bakgrund | toning), denna rad har %1</translation>
+    </message>
+    <message>
+        <source>fade</source>
+        <translation>toning</translation>
+    </message>
+    <message>
+        <source>tag: it is empty; &quot;*&quot; stands for every tag</source>
+        <translation>tagg: fältet är tomt; &quot;*&quot; står för alla taggar</translation>
+    </message>
+    <message>
+        <source>tag: it must not hold &quot;|&quot;</source>
+        <translation>tagg: fältet får inte innehålla &quot;|&quot;</translation>
+    </message>
+    <message>
+        <source>tag: it must not begin with &quot;#&quot;; write &quot;?&quot; for it</source>
+        <translation>tagg: fältet får inte börja med &quot;#&quot;; skriv &quot;?&quot; i stället</translation>
+    </message>
+    <message>
+        <source>text colour</source>
+        <translation>textfärg</translation>
+    </message>
+    <message>
+        <source>background</source>
+        <translation>bakgrund</translation>
+    </message>
+    <message>
+        <source>fade: it is not a number from 0 to 255</source>
+        <translation>toning: inte ett tal från 0 till 255</translation>
+    </message>
+    <message>
+        <source>categories</source>
+        <translation>kategorier</translation>
+    </message>
+    <message>
+        <source>areas</source>
+        <translation>områden</translation>
+    </message>
+    <message>
+        <source>a date lies outside the calendar&apos;s years 2000 to 2039</source>
+        <translation>ett datum ligger utanför kalenderns år 2000 till 2039</translation>
+    </message>
+    <message>
+        <source>period %1 of day type %2 goes from minute %3 to minute %4</source>
+        <translation>period %1 för dagtyp %2 går från minut %3 till minut %4</translation>
+    </message>
+    <message>
+        <source>the active flag of day type %1 is %2</source>
+        <translation>aktivflaggan för dagtyp %1 är %2</translation>
+    </message>
+    <message>
+        <source>the group flag of day type %1 is %2</source>
+        <translation>gruppflaggan för dagtyp %1 är %2</translation>
+    </message>
+    <message>
+        <source>the number of periods of day type %1 is %2</source>
+        <translation>antalet perioder för dagtyp %1 är %2</translation>
+    </message>
+    <message>
+        <source>it ends within the %2 periods of day type %1</source>
+        <translation>den slutar mitt i de %2 perioderna för dagtyp %1</translation>
+    </message>
+    <message>
+        <source>the row of day type %1 is %2</source>
+        <translation>raden för dagtyp %1 är %2</translation>
+    </message>
+    <message>
+        <source>it has %1 bytes, and a schedule at least 186</source>
+        <translation>den har %1 byte, ett tidsschema har minst 186</translation>
+    </message>
+    <message>
+        <source>its end is missing</source>
+        <translation>slutet saknas</translation>
+    </message>
+    <message>
+        <source>the calendar flag is %1</source>
+        <translation>kalenderflaggan är %1</translation>
+    </message>
+    <message>
+        <source>it goes on behind the schedule&apos;s %1 bytes</source>
+        <translation>den fortsätter efter tidsschemats %1 byte</translation>
+    </message>
+    <message>
+        <source>it has %1 bytes in place of 29220</source>
+        <translation>den har %1 byte i stället för 29220</translation>
+    </message>
+    <message>
+        <source>the value of %1 is %2, not one of 0 to 23</source>
+        <translation>värdet för %1 är %2, inte ett av 0 till 23</translation>
+    </message>
+    <message>
+        <source>%1 is not a time schedule: %2.</source>
+        <translation>%1 är inte ett tidsschema: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not a calendar: %2.</source>
+        <translation>%1 är inte en kalender: %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a time such as 8, 0830 or 16:30.</source>
+        <translation>&quot;%1&quot; är inte ett klockslag som 8, 0830 eller 16:30.</translation>
+    </message>
+    <message>
+        <source>The time is missing.</source>
+        <translation>Klockslaget saknas.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has more than 59 minutes.</source>
+        <translation>&quot;%1&quot; har mer än 59 minuter.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; lies behind 24:00.</source>
+        <translation>&quot;%1&quot; ligger efter 24:00.</translation>
+    </message>
+    <message>
+        <source>a file of %1 bytes is no definition</source>
+        <translation>en fil på %1 byte är ingen definition</translation>
+    </message>
+    <message>
+        <source>all numbers for new files are taken</source>
+        <translation>alla nummer för nya filer är upptagna</translation>
+    </message>
+    <message>
+        <source>%1 &apos;%2&apos; (version %3 -&gt; %4)</source>
+        <translation>%1 &apos;%2&apos; (version %3 -&gt; %4)</translation>
+    </message>
+    <message>
+        <source>%1 Err:%2</source>
+        <translation>%1 Fel: %2</translation>
+    </message>
+    <message>
+        <source>the file ends too early, at its byte %1</source>
+        <translation>filen slutar för tidigt, vid byte %1</translation>
+    </message>
+    <message>
+        <source>It has the same number as %1; rename one of them.</source>
+        <translation>Den har samma nummer som %1; byt namn på en av dem.</translation>
+    </message>
+    <message>
+        <source>The file has %1 bytes: it is empty.</source>
+        <translation>Filen har %1 byte: den är tom.</translation>
+    </message>
+    <message>
+        <source>The file is damaged: it ends too early or holds a value that is none.</source>
+        <translation>Filen är skadad: den slutar för tidigt eller har ett ogiltigt värde.</translation>
+    </message>
+    <message>
+        <source>The file&apos;s version is %1, not one of %2 to %3.</source>
+        <translation>Filens version är %1, inte en av %2 till %3.</translation>
+    </message>
+    <message>
+        <source>the profile has no time schedule</source>
+        <translation>profilen har inget tidsschema</translation>
+    </message>
+    <message>
+        <source>the type id &quot;%1&quot; is not a whole number from 0 to 32767</source>
+        <translation>typens nummer &quot;%1&quot; är inte ett heltal från 0 till 32767</translation>
+    </message>
+    <message>
+        <source>the settings file &quot;%1&quot; is not the plain name of a file of the application folder</source>
+        <translation>inställningsfilen &quot;%1&quot; är inte enbart namnet på en fil i programmets mapp</translation>
+    </message>
+    <message>
+        <source>a line has three or four fields (id; kind; name; settings file), this one has %1</source>
+        <translation>en rad har tre eller fyra fält (nummer; slag; namn; inställningsfil), denna har %1</translation>
+    </message>
+    <message>
+        <source>the kind is empty</source>
+        <translation>slaget är tomt</translation>
+    </message>
+    <message>
+        <source>the name is empty</source>
+        <translation>namnet är tomt</translation>
+    </message>
+    <message>
+        <source>the type id %1 stands on an earlier line too</source>
+        <translation>typens nummer %1 står också på en tidigare rad</translation>
+    </message>
+    <message>
+        <source>the table is full: it has room for %1 types</source>
+        <translation>tabellen är full: den rymmer %1 typer</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no value of the type %2</source>
+        <translation>&quot;%1&quot; är inget värde av typen %2</translation>
+    </message>
+    <message>
+        <source>a value has the unknown type code %1</source>
+        <translation>ett värde har den okända typkoden %1</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>tomt</translation>
+    </message>
+    <message>
+        <source>null</source>
+        <translation>null</translation>
+    </message>
+    <message>
+        <source>whole number (16 bits)</source>
+        <translation>heltal (16 bitar)</translation>
+    </message>
+    <message>
+        <source>whole number (32 bits)</source>
+        <translation>heltal (32 bitar)</translation>
+    </message>
+    <message>
+        <source>number (single)</source>
+        <translation>tal (enkel precision)</translation>
+    </message>
+    <message>
+        <source>number (double)</source>
+        <translation>tal (dubbel precision)</translation>
+    </message>
+    <message>
+        <source>currency</source>
+        <translation>valuta</translation>
+    </message>
+    <message>
+        <source>date</source>
+        <translation>datum</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>text</translation>
+    </message>
+    <message>
+        <source>yes or no</source>
+        <translation>ja eller nej</translation>
+    </message>
+    <message>
+        <source>whole number (8 bits)</source>
+        <translation>heltal (8 bitar)</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>okänd</translation>
+    </message>
+    <message>
+        <source>no ordinary file</source>
+        <translation>inte en vanlig fil</translation>
+    </message>
+    <message>
+        <source>larger than 64 MB</source>
+        <translation>större än 64 MB</translation>
+    </message>
+    <message>
+        <source>%1: a link that another user made is not followed</source>
+        <translation>%1: en länk som en annan användare har skapat följs inte</translation>
+    </message>
+    <message>
+        <source>%1: leads in a circle</source>
+        <translation>%1: leder i cirkel</translation>
+    </message>
+    <message>
+        <source>there is no such file or folder</source>
+        <translation>filen eller mappen finns inte</translation>
+    </message>
+    <message>
+        <source>it is there already</source>
+        <translation>finns redan</translation>
+    </message>
+    <message>
+        <source>there is no room left on the disk</source>
+        <translation>disken är full</translation>
+    </message>
+    <message>
+        <source>the access rights don&apos;t allow it</source>
+        <translation>behörighet saknas</translation>
+    </message>
+    <message>
+        <source>the disk can only be read</source>
+        <translation>disken är skrivskyddad</translation>
+    </message>
+    <message>
+        <source>a part of the path is not a folder</source>
+        <translation>en del av sökvägen är inte en mapp</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>är en mapp</translation>
+    </message>
+    <message>
+        <source>the disk has failed</source>
+        <translation>diskfel</translation>
+    </message>
+</context>
+<context>
     <name>cDayTypeImages</name>
     <message>
         <source>Star</source>

@@ -14,7 +14,7 @@ namespace {
 constexpr std::int32_t kLastCategory = 255, kLastArea = 999, kLastPart = 255;
 constexpr int kFields = 6;
 
-[[noreturn]] void Refuse(const std::string& description) {
+[[noreturn]] void Refuse(const cPhrase& description) {
     throw cFailure(eFailure::InvalidCall, description);
 }
 
@@ -29,26 +29,27 @@ std::vector<std::string> Split(std::string_view text, char separator) {
 }
 
 // A whole number written in digits alone.
-std::int32_t NumberFromText(const std::string& text, std::int32_t last, const std::string& what) {
+std::int32_t NumberFromText(const std::string& text, std::int32_t last, const cPhrase& what) {
     const bool digits = !text.empty() && text.find_first_not_of("0123456789") == std::string::npos;
     if (!digits || text.size() > 6 || Val(text) > last) {
-        Refuse(what + ": \"" + text + "\" is not a number from 0 to " + std::to_string(last));
+        Refuse({Pattern("Reasons", "%1: \"%2\" is not a number from 0 to %3"),
+                {what, text, std::to_string(last)}});
     }
     return ToInt32(Val(text));
 }
 
-void CheckItem(const std::string& item, std::int32_t last, const std::string& what) {
+void CheckItem(const std::string& item, std::int32_t last, const cPhrase& what) {
     if (item == "*") return;
     const std::size_t dash = item.find('-');
     const std::int32_t from = NumberFromText(Trim(item.substr(0, dash)), last, what);
     if (dash == std::string::npos) return;
     if (NumberFromText(Trim(item.substr(dash + 1)), last, what) < from) {
-        Refuse(what + ": the range \"" + item + "\" ends before it begins");
+        Refuse({Pattern("Reasons", "%1: the range \"%2\" ends before it begins"), {what, item}});
     }
 }
 
 // The filter as the setters of cUserColor take it: every item, also a single one, with a ";" behind it.
-std::string CheckedFilter(const std::string& filter, std::int32_t last, const std::string& what) {
+std::string CheckedFilter(const std::string& filter, std::int32_t last, const cPhrase& what) {
     std::string checked;
     for (const std::string& item : Split(filter, ';')) {
         // A ";" at the end ends the last item.
@@ -59,19 +60,21 @@ std::string CheckedFilter(const std::string& filter, std::int32_t last, const st
     return checked;
 }
 
-void CheckColour(const std::string& colour, const std::string& what) {
+void CheckColour(const std::string& colour, const cPhrase& what) {
     const std::vector<std::string> parts = Split(colour, ',');
-    if (parts.size() != 3) Refuse(what + ": \"" + colour + "\" is not red,green,blue");
+    if (parts.size() != 3) {
+        Refuse({Pattern("Reasons", "%1: \"%2\" is not red,green,blue"), {what, colour}});
+    }
     for (const std::string& part : parts) NumberFromText(part, kLastPart, what);
 }
 
 cColourRule RuleFromLine(std::string_view line) {
     const std::vector<std::string> fields = Split(line, '|');
     if (fields.size() != kFields) {
-        Refuse(
-            "a rule has six fields (tag | categories | areas | text colour | background | fade), this line "
-            "has " +
-            std::to_string(fields.size()));
+        Refuse({Pattern("Reasons",
+                        "a rule has six fields (tag | categories | areas | text colour | background | "
+                        "fade), this line has %1"),
+                {std::to_string(fields.size())}});
     }
     cColourRule rule;
     rule.m_TagFilter = fields[0];
@@ -79,7 +82,7 @@ cColourRule RuleFromLine(std::string_view line) {
     rule.m_AreaFilter = fields[2];
     rule.m_ForeColor = fields[3];
     rule.m_BackColor = fields[4];
-    rule.m_ZebraFade = NumberFromText(fields[5], kLastPart, "fade");
+    rule.m_ZebraFade = NumberFromText(fields[5], kLastPart, Pattern("Reasons", "fade"));
     MakeUserColor(rule);
     return rule;
 }
@@ -97,17 +100,20 @@ bool IsComment(std::string_view line) {
 }  // namespace
 
 cUserColor MakeUserColor(const cColourRule& rule) {
-    if (rule.m_TagFilter.empty()) Refuse("tag: it is empty; \"*\" stands for every tag");
-    if (rule.m_TagFilter.find_first_of("|\r\n") != std::string::npos) Refuse("tag: it must not hold \"|\"");
-    if (rule.m_TagFilter[0] == '#') Refuse("tag: it must not begin with \"#\"; write \"?\" for it");
-    CheckColour(rule.m_ForeColor, "text colour");
-    CheckColour(rule.m_BackColor, "background");
+    if (rule.m_TagFilter.empty()) Refuse(Pattern("Reasons", "tag: it is empty; \"*\" stands for every tag"));
+    if (rule.m_TagFilter.find_first_of("|\r\n") != std::string::npos)
+        Refuse(Pattern("Reasons", "tag: it must not hold \"|\""));
+    if (rule.m_TagFilter[0] == '#')
+        Refuse(Pattern("Reasons", "tag: it must not begin with \"#\"; write \"?\" for it"));
+    CheckColour(rule.m_ForeColor, Pattern("Reasons", "text colour"));
+    CheckColour(rule.m_BackColor, Pattern("Reasons", "background"));
     if (rule.m_ZebraFade < 0 || rule.m_ZebraFade > kLastPart)
-        Refuse("fade: it is not a number from 0 to 255");
+        Refuse(Pattern("Reasons", "fade: it is not a number from 0 to 255"));
     cUserColor color;
     color.SetTagFilter(rule.m_TagFilter);
-    color.SetCategoryFilter(CheckedFilter(rule.m_CategoryFilter, kLastCategory, "categories"));
-    color.SetAreaFilter(CheckedFilter(rule.m_AreaFilter, kLastArea, "areas"));
+    color.SetCategoryFilter(
+        CheckedFilter(rule.m_CategoryFilter, kLastCategory, Pattern("Reasons", "categories")));
+    color.SetAreaFilter(CheckedFilter(rule.m_AreaFilter, kLastArea, Pattern("Reasons", "areas")));
     color.m_AreaFilter = rule.m_AreaFilter;
     color.SetForeColor(rule.m_ForeColor);
     color.SetBackColor(rule.m_BackColor, rule.m_ZebraFade);
@@ -133,7 +139,7 @@ std::vector<cLineProblem> cColourRules::Parse(std::string_view text) {
         const auto failure = CatchFailure([&] {
             if (!IsComment(line)) rule = RuleFromLine(line);
         });
-        if (failure) problems.push_back({number, failure->what()});
+        if (failure) problems.push_back({number, failure->Description()});
         if (failure || IsComment(line)) {
             m_LinesAfter.push_back(line);
             continue;
@@ -161,7 +167,7 @@ std::vector<cLineProblem> cColourRules::Load(const cFileReader& files, std::stri
     if (files.Stamp(path).size < 0) return {};
     std::string content;
     if (const auto failure = CatchFailure([&] { content = files.ReadFile(path); })) {
-        return {{0, failure->what()}};
+        return {{0, failure->Description()}};
     }
     return Parse(content);
 }

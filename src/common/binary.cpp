@@ -32,7 +32,8 @@ void cBinaryWriter::Double(double value) {
 
 void cBinaryWriter::String(std::string_view text) {
     if (text.size() > 0xFFFF)
-        throw cFailure(eFailure::Overflow, "a text of more than 65535 bytes can't be stored");
+        throw cFailure(eFailure::Overflow,
+                       Pattern("Reasons", "a text of more than 65535 bytes can't be stored"));
     Integer(text.size(), 2);
     m_Bytes.append(text);
 }

@@ -39,7 +39,7 @@ constexpr std::int64_t kLastDay = 2958465;   // 9999-12-31
 constexpr double kTraceOfSum = 1e-4;
 
 [[noreturn]] void FailOutside() {
-    throw cFailure(eFailure::Overflow, "a date-time lies outside the years 100 to 9999");
+    throw cFailure(eFailure::Overflow, Pattern("Reasons", "a date-time lies outside the years 100 to 9999"));
 }
 
 }  // namespace
@@ -72,7 +72,8 @@ DateTime DateSerial(int year, int month, int day) {
     const std::int64_t days =
         DaysFromCivil(carriedYear, static_cast<int>(months - carriedYear * 12) + 1, 1) + day - 1 + kEpoch;
     if (days < kFirstDay || days > kLastDay) {
-        throw cFailure(eFailure::InvalidCall, "a date lies outside the years 100 to 9999");
+        throw cFailure(eFailure::InvalidCall,
+                       Pattern("Reasons", "a date lies outside the years 100 to 9999"));
     }
     return static_cast<DateTime>(days);
 }

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <stdexcept>
-#include <string>
 #include <utility>
+
+#include "common/phrase.h"
 
 namespace vigrel {
 
@@ -24,15 +26,19 @@ enum class eFailure {
     Device = 440,
 };
 
-// The one exception type of the logic, the adapters and the windows.
+// The one exception type of the logic, the adapters and the windows. Its text is the English of its phrase.
 class cFailure : public std::runtime_error {
   public:
-    cFailure(eFailure number, const std::string& description)
-        : std::runtime_error(description), m_Number(number) {}
+    cFailure(eFailure number, const cPhrase& description)
+        : std::runtime_error(description.English()),
+          m_Number(number),
+          m_Description(std::make_shared<const cPhrase>(description)) {}
     eFailure Number() const { return m_Number; }
+    const cPhrase& Description() const { return *m_Description; }
 
   private:
     eFailure m_Number;
+    std::shared_ptr<const cPhrase> m_Description;  // shared, since a copy of an exception must not fail
 };
 
 // Runs one step whose failure is skipped, so that the next step runs all the same. True when it did not fail.

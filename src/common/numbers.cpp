@@ -79,8 +79,8 @@ Integer ToInteger(double value) {
     const double rounded = RoundEven(value);
     if (!(rounded >= static_cast<double>(std::numeric_limits<Integer>::min()) &&
           rounded <= static_cast<double>(std::numeric_limits<Integer>::max()))) {
-        throw cFailure(eFailure::Overflow, "the number " + NumberText(value) + " does not fit " +
-                                               std::to_string(sizeof(Integer) * 8) + " bits");
+        throw cFailure(eFailure::Overflow, {Pattern("Reasons", "the number %1 does not fit %2 bits"),
+                                            {NumberText(value), std::to_string(sizeof(Integer) * 8)}});
     }
     return static_cast<Integer>(rounded);
 }

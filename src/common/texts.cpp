@@ -30,7 +30,8 @@ bool cTexts::LoadTexts() {
     for (std::size_t number = 1; !SafeEof(lines); ++number) {
         const std::string line = lines.ReadLine();
         const auto failure = CatchFailure([&] { TakeLine(line); });
-        if (failure) throw cFailure(failure->Number(), LineProblemText(path, {number, failure->what()}));
+        if (failure)
+            throw cFailure(failure->Number(), LineProblemPhrase(path, {number, failure->Description()}));
     }
     return true;
 }

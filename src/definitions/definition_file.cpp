@@ -29,7 +29,7 @@ std::string OpenDefinition(cFiles& files, std::string_view fileName) {
     }
     if (size > kLargestDefinition) {
         throw cFailure(eFailure::InputOutput,
-                       "a file of " + std::to_string(size) + " bytes is no definition");
+                       {Pattern("Reasons", "a file of %1 bytes is no definition"), {std::to_string(size)}});
     }
     return files.ReadFile(fileName);
 }
@@ -45,35 +45,37 @@ std::int16_t InventIdentity(const cDefinitionServices& services, const cDefiniti
     for (std::int16_t identity = 1; identity <= kIdentities + 1; ++identity) {
         if (isFree(identity)) return identity;
     }
-    throw cFailure(eFailure::DiskFull, "all numbers for new files are taken");
+    throw cFailure(eFailure::DiskFull, Pattern("Reasons", "all numbers for new files are taken"));
 }
 
 using eNote = cDefinitionNote::eKind;
 
-void Log(const cDefinitionServices& services, eNote kind, eText text, const std::string& rest) {
-    const cDefinitionNote note{kind, services.texts.GetText(text) + rest};
-    services.log.WriteLog(WithPathsInCodePage(note.line));
+void Log(const cDefinitionServices& services, eNote kind, const cPhrase& line) {
+    const cDefinitionNote note{kind, line};
+    services.log.WriteLog(WithPathsInCodePage(line.English()));
     if (services.m_OnNote) services.m_OnNote(note);
 }
 
 void LogUpgrade(const cDefinitionServices& services, const cDefinitionKind& kind, const std::string& fileName,
                 std::int16_t version) {
-    Log(services, eNote::Upgraded, kind.textUpgraded,
-        " '" + fileName + "' (version " + std::to_string(version) + " -> " +
-            std::to_string(kDefinitionVersion) + ")");
+    Log(services, eNote::Upgraded,
+        {Pattern("Reasons", "%1 '%2' (version %3 -> %4)"),
+         {services.texts.GetText(kind.textUpgraded), fileName, std::to_string(version),
+          std::to_string(kDefinitionVersion)}});
 }
 
 void LogUnknownVersion(const cDefinitionServices& services, const cDefinitionKind& kind,
                        const std::string& fileName, std::int16_t version) {
     const std::string name = kind.namesFileByNumber ? kFileNumber : fileName;
-    Log(services, eNote::Failed, TextUnknownVersion,
-        " '" + name + "' (" + std::to_string(version) + ") " +
+    Log(services, eNote::Failed,
+        services.texts.GetText(TextUnknownVersion) + " '" + name + "' (" + std::to_string(version) + ") " +
             services.texts.GetText(kind.textUnknownVersion));
 }
 
 void LogFailure(const cDefinitionServices& services, eText text, const std::string& what,
                 const cFailure& failure) {
-    Log(services, eNote::Failed, text, what + " Err:" + failure.what());
+    Log(services, eNote::Failed,
+        {Pattern("Reasons", "%1 Err:%2"), {services.texts.GetText(text) + what, failure.Description()}});
 }
 
 // The numbers and names of the files of a kind, as the folder gives them.
@@ -91,8 +93,8 @@ std::vector<std::pair<std::int16_t, std::string>> NumberedNames(const cDefinitio
 
 void RequireComplete(const cBinaryReader& file) {
     if (file.Complete()) return;
-    throw cFailure(eFailure::InputOutput,
-                   "the file ends too early, at its byte " + std::to_string(file.Size()));
+    throw cFailure(eFailure::InputOutput, {Pattern("Reasons", "the file ends too early, at its byte %1"),
+                                           {std::to_string(file.Size())}});
 }
 
 }  // namespace
@@ -133,25 +135,29 @@ std::vector<cUnreadableFile> DefinitionsWithTheSameNumber(const cDefinitionServi
         for (auto other = first; other != end; ++other) {
             if (other == opened) continue;
             others.push_back({parts.folder + other->second,
-                              "It has the same number as " + opened->second + "; rename one of them."});
+                              {Pattern("Reasons", "It has the same number as %1; rename one of them."),
+                               {opened->second}}});
         }
     }
     return others;
 }
 
-std::string ReasonNotLoaded(const cDefinitionServices& services, const cDefinitionKind& kind,
-                            const std::string& fileName) {
+cPhrase ReasonNotLoaded(const cDefinitionServices& services, const cDefinitionKind& kind,
+                        const std::string& fileName) {
     std::string content;
     if (const auto failure = CatchFailure([&] { content = OpenDefinition(services.files, fileName); })) {
-        return failure->what();
+        return failure->Description();
     }
-    if (content.size() <= 1) return "The file has " + std::to_string(content.size()) + " bytes: it is empty.";
+    if (content.size() <= 1) {
+        return {Pattern("Reasons", "The file has %1 bytes: it is empty."), {std::to_string(content.size())}};
+    }
     const std::int16_t version = cBinaryReader(content).Int16();
     if (version >= kind.oldestVersion && version <= kDefinitionVersion) {
-        return "The file is damaged: it ends too early or holds a value that is none.";
+        return Pattern("Reasons", "The file is damaged: it ends too early or holds a value that is none.");
     }
-    return "The file's version is " + std::to_string(version) + ", not one of " +
-           std::to_string(kind.oldestVersion) + " to " + std::to_string(kDefinitionVersion) + ".";
+    return {
+        Pattern("Reasons", "The file's version is %1, not one of %2 to %3."),
+        {std::to_string(version), std::to_string(kind.oldestVersion), std::to_string(kDefinitionVersion)}};
 }
 
 cLoadResult LoadDefinition(const cDefinitionServices& services, const cDefinitionKind& kind,
@@ -227,7 +233,7 @@ bool RemoveDefinition(const cDefinitionServices& services, const cDefinitionKind
     if (failure) {
         LogFailure(services, kind.textRemoveFailed, what, *failure);
     } else {
-        Log(services, eNote::Removed, kind.textRemoved, what);
+        Log(services, eNote::Removed, services.texts.GetText(kind.textRemoved) + what);
     }
     return !failure;
 }

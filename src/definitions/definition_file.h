@@ -9,6 +9,7 @@
 #include "common/binary.h"
 #include "common/ini.h"
 #include "common/log.h"
+#include "common/phrase.h"
 #include "common/texts.h"
 #include "definitions/receiver_types.h"
 #include "platform/clock.h"
@@ -22,7 +23,7 @@ struct cDefinitionNote {
     // NotUpgraded follows Upgraded when the file could not be written anew and stays as it was.
     enum class eKind { Upgraded, NotUpgraded, Removed, Failed };
     eKind kind;
-    std::string line;
+    cPhrase line;  // the log has it in English
 };
 
 // What receivers and profiles ask of their surroundings. It outlives them.
@@ -64,15 +65,16 @@ std::vector<std::int16_t> DefinitionIdentities(const cDefinitionServices& servic
                                                const cDefinitionKind& kind);
 // Files of a folder that were not loaded, and why, for people.
 struct cUnreadableFile {
-    std::string path, reason;
+    std::string path;
+    cPhrase reason;
     bool operator==(const cUnreadableFile&) const = default;
 };
 // Names that differ in case only from another one with the same number: only one of them can be opened.
 std::vector<cUnreadableFile> DefinitionsWithTheSameNumber(const cDefinitionServices& services,
                                                           const cDefinitionKind& kind);
 // Why a file can't be loaded.
-std::string ReasonNotLoaded(const cDefinitionServices& services, const cDefinitionKind& kind,
-                            const std::string& fileName);
+cPhrase ReasonNotLoaded(const cDefinitionServices& services, const cDefinitionKind& kind,
+                        const std::string& fileName);
 
 // Takes away what a crash left of a save in the folder of a kind, and where the links in it lead.
 void RemoveDefinitionTemporaries(const cDefinitionServices& services, const cDefinitionKind& kind);

@@ -212,7 +212,8 @@ bool cProfile::SaveToDisk() {
 }
 
 void cProfile::WriteRecord(cBinaryWriter& file) const {
-    if (!m_TimeSchedule) throw cFailure(eFailure::ObjectMissing, "the profile has no time schedule");
+    if (!m_TimeSchedule)
+        throw cFailure(eFailure::ObjectMissing, Pattern("Reasons", "the profile has no time schedule"));
     ForEachField(Fields(), cWriteField{file, *this});
     file.Double(m_Services.clock.Now());
     file.Zeros(kDefinitionFiller);

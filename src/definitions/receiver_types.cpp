@@ -9,14 +9,14 @@
 namespace vigrel {
 namespace {
 
-[[noreturn]] void Refuse(const std::string& description) {
+[[noreturn]] void Refuse(const cPhrase& description) {
     throw cFailure(eFailure::InvalidCall, description);
 }
 
 std::int16_t TypeIdFromText(const std::string& text) {
     const double value = IsNumeric(text) ? Val(text) : -1;
     if (value < 0 || value > 32767 || RoundEven(value) != value) {
-        Refuse("the type id \"" + text + "\" is not a whole number from 0 to 32767");
+        Refuse({Pattern("Reasons", "the type id \"%1\" is not a whole number from 0 to 32767"), {text}});
     }
     return ToInt16(value);
 }
@@ -24,16 +24,18 @@ std::int16_t TypeIdFromText(const std::string& text) {
 // The file is looked for in the application folder, so its name must not lead out of it.
 void CheckSettingsFile(const std::string& name) {
     if (name.find_first_of("\\/:*?") != std::string::npos || name.starts_with('.')) {
-        Refuse("the settings file \"" + name +
-               "\" is not the plain name of a file of the application folder");
+        Refuse({Pattern("Reasons",
+                        "the settings file \"%1\" is not the plain name of a file of the application folder"),
+                {name}});
     }
 }
 
 cReceiverType TypeFromLine(std::string_view line) {
     const auto separators = std::count(line.begin(), line.end(), ';');
     if (separators < 2 || separators > 3) {
-        Refuse("a line has three or four fields (id; kind; name; settings file), this one has " +
-               std::to_string(separators + 1));
+        Refuse({Pattern("Reasons",
+                        "a line has three or four fields (id; kind; name; settings file), this one has %1"),
+                {std::to_string(separators + 1)}});
     }
     const auto field = [line](std::int16_t index) { return Trim(GetField(line, index, ";")); };
     cReceiverType type;
@@ -41,8 +43,8 @@ cReceiverType TypeFromLine(std::string_view line) {
     type.m_Kind = field(1);
     type.m_TypeName = field(2);
     type.m_SettingsFile = field(3);
-    if (type.m_Kind.empty()) Refuse("the kind is empty");
-    if (type.m_TypeName.empty()) Refuse("the name is empty");
+    if (type.m_Kind.empty()) Refuse(Pattern("Reasons", "the kind is empty"));
+    if (type.m_TypeName.empty()) Refuse(Pattern("Reasons", "the name is empty"));
     CheckSettingsFile(type.m_SettingsFile);
     return type;
 }
@@ -64,10 +66,12 @@ std::int16_t cReceiverTypes::RowOf(std::int16_t typeId) const {
 void cReceiverTypes::AddLine(std::string_view line) {
     cReceiverType type = TypeFromLine(line);
     if (RowOf(type.m_TypeId) >= 0) {
-        Refuse("the type id " + std::to_string(type.m_TypeId) + " stands on an earlier line too");
+        Refuse({Pattern("Reasons", "the type id %1 stands on an earlier line too"),
+                {std::to_string(type.m_TypeId)}});
     }
     if (m_ReceiverTypes.size() >= kMaxRows) {
-        Refuse("the table is full: it has room for " + std::to_string(kMaxRows) + " types");
+        Refuse(
+            {Pattern("Reasons", "the table is full: it has room for %1 types"), {std::to_string(kMaxRows)}});
     }
     m_ReceiverTypes.push_back(std::move(type));
 }
@@ -76,7 +80,7 @@ std::vector<cLineProblem> cReceiverTypes::Load(const cFileReader& files, std::st
     m_ReceiverTypes.clear();
     std::string content;
     if (const auto failure = CatchFailure([&] { content = files.ReadFile(path); })) {
-        return {{0, failure->what()}};
+        return {{0, failure->Description()}};
     }
     std::vector<cLineProblem> problems;
     std::size_t number = 0;
@@ -84,7 +88,7 @@ std::vector<cLineProblem> cReceiverTypes::Load(const cFileReader& files, std::st
         ++number;
         if (IsComment(line)) continue;
         if (const auto failure = CatchFailure([&] { AddLine(line); })) {
-            problems.push_back({number, failure->what()});
+            problems.push_back({number, failure->Description()});
         }
     }
     return problems;

@@ -34,7 +34,7 @@ void cStationDefinitions::MakeFolders() {
 void cStationDefinitions::ReadReceivers() {
     for (const cLineProblem& problem :
          m_Types.Load(m_Services.files, m_Services.ini.FullPath(kReceiverTypesFile))) {
-        m_Notes.push_back({cDefinitionNote::eKind::Failed, LineProblemText(kReceiverTypesFile, problem)});
+        m_Notes.push_back({cDefinitionNote::eKind::Failed, LineProblemPhrase(kReceiverTypesFile, problem)});
     }
     m_Receivers.Load();
     m_ReceiversRead = true;

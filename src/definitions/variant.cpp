@@ -36,8 +36,8 @@ std::string CurrencyText(std::int64_t tenThousandths) {
 }
 
 [[noreturn]] void Refuse(eVariantType type, std::string_view text) {
-    throw cFailure(eFailure::TypeMismatch,
-                   "\"" + std::string(text) + "\" is no value of the type " + VariantTypeName(type));
+    throw cFailure(eFailure::TypeMismatch, {Pattern("Reasons", "\"%1\" is no value of the type %2"),
+                                            {std::string(text), VariantTypePhrase(type)}});
 }
 
 double NumberFromText(eVariantType type, std::string_view text) {
@@ -158,7 +158,8 @@ cVariant cVariant::Read(cBinaryReader& file) {
         case eVariantType::Byte:
             return Byte(file.Byte());
     }
-    throw cFailure(eFailure::TypeMismatch, "a value has the unknown type code " + std::to_string(type));
+    throw cFailure(eFailure::TypeMismatch,
+                   {Pattern("Reasons", "a value has the unknown type code %1"), {std::to_string(type)}});
 }
 
 bool operator==(const cVariant& a, const cVariant& b) {
@@ -199,32 +200,32 @@ cVariant VariantFromText(eVariantType type, std::string_view text) {
     }
 }
 
-std::string VariantTypeName(eVariantType type) {
+cPhrase VariantTypePhrase(eVariantType type) {
     switch (type) {
         case eVariantType::Empty:
-            return "empty";
+            return Pattern("Reasons", "empty");
         case eVariantType::Null:
-            return "null";
+            return Pattern("Reasons", "null");
         case eVariantType::Int16:
-            return "whole number (16 bits)";
+            return Pattern("Reasons", "whole number (16 bits)");
         case eVariantType::Int32:
-            return "whole number (32 bits)";
+            return Pattern("Reasons", "whole number (32 bits)");
         case eVariantType::Single:
-            return "number (single)";
+            return Pattern("Reasons", "number (single)");
         case eVariantType::Double:
-            return "number (double)";
+            return Pattern("Reasons", "number (double)");
         case eVariantType::Currency:
-            return "currency";
+            return Pattern("Reasons", "currency");
         case eVariantType::Date:
-            return "date";
+            return Pattern("Reasons", "date");
         case eVariantType::String:
-            return "text";
+            return Pattern("Reasons", "text");
         case eVariantType::Boolean:
-            return "yes or no";
+            return Pattern("Reasons", "yes or no");
         case eVariantType::Byte:
-            return "whole number (8 bits)";
+            return Pattern("Reasons", "whole number (8 bits)");
     }
-    return "unknown";
+    return Pattern("Reasons", "unknown");
 }
 
 }  // namespace vigrel

@@ -7,6 +7,7 @@
 #include <variant>
 
 #include "common/binary.h"
+#include "common/phrase.h"
 #include "platform/clock.h"
 
 namespace vigrel {
@@ -88,6 +89,6 @@ class cVariant {
 cVariant VariantFromText(eVariantType type, std::string_view text);
 
 // "text", "whole number (16 bits)" and so on.
-std::string VariantTypeName(eVariantType type);
+cPhrase VariantTypePhrase(eVariantType type);
 
 }  // namespace vigrel

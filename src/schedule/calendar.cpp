@@ -60,7 +60,8 @@ void cCalendar::SetDayType(std::int32_t index, std::int16_t value) {
 
 std::int16_t cCalendar::GetDayType(std::int32_t index) const {
     if (index < 0 || index >= kCalendarDays) {
-        throw cFailure(eFailure::OutOfBounds, "a date lies outside the calendar's years 2000 to 2039");
+        throw cFailure(eFailure::OutOfBounds,
+                       Pattern("Reasons", "a date lies outside the calendar's years 2000 to 2039"));
     }
     return m_DayTypes[static_cast<std::size_t>(index)];
 }

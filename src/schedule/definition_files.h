@@ -1,9 +1,9 @@
 #pragma once
 
 #include <optional>
-#include <string>
 #include <string_view>
 
+#include "common/phrase.h"
 #include "platform/files.h"
 #include "schedule/calendar.h"
 #include "schedule/time_schedule.h"
@@ -21,8 +21,8 @@ inline constexpr std::size_t kSmallestScheduleFileSize = 186;
 eDefinitionKind KindOfDefinition(std::size_t fileSize);
 
 // What is wrong with the content of a file, in a sentence; none when all of it is as it should be.
-std::optional<std::string> FaultOfScheduleFile(std::string_view content);
-std::optional<std::string> FaultOfCalendarFile(std::string_view content);
+std::optional<cPhrase> FaultOfScheduleFile(std::string_view content);
+std::optional<cPhrase> FaultOfCalendarFile(std::string_view content);
 
 // Throw cFailure (TypeMismatch) with the path and the fault, or the failure of the disk. The object is left
 // alone then.

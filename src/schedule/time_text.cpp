@@ -24,16 +24,13 @@ std::string WithSeparator(std::string digits) {
     return digits.insert(2, ":");
 }
 
-std::string Quoted(std::string_view text) {
-    return "\"" + std::string(text) + "\"";
-}
-
 }  // namespace
 
-std::optional<std::string> FaultOfTimeText(std::string_view text) {
-    const std::string noTime = Quoted(text) + " is not a time such as 8, 0830 or 16:30.";
+std::optional<cPhrase> FaultOfTimeText(std::string_view text) {
+    const std::string typed(text);
+    const cPhrase noTime{Pattern("Reasons", "\"%1\" is not a time such as 8, 0830 or 16:30."), {typed}};
     std::string time = Trim(text);
-    if (time.empty()) return "The time is missing.";
+    if (time.empty()) return Pattern("Reasons", "The time is missing.");
     std::size_t separator = time.find_first_of(kSeparators);
     if (separator == std::string::npos) {
         if (time.size() > kMostDigits || time.find_first_not_of("0123456789") != std::string::npos) {
@@ -44,8 +41,12 @@ std::optional<std::string> FaultOfTimeText(std::string_view text) {
     }
     const std::string hours = time.substr(0, separator), minutes = time.substr(separator + 1);
     if (!IsOneOrTwoDigits(hours) || !IsOneOrTwoDigits(minutes)) return noTime;
-    if (Val(minutes) > kLastMinute) return Quoted(text) + " has more than 59 minutes.";
-    if (Val(hours) * 60 + Val(minutes) > kMinutesOfADay) return Quoted(text) + " lies behind 24:00.";
+    if (Val(minutes) > kLastMinute) {
+        return cPhrase{Pattern("Reasons", "\"%1\" has more than 59 minutes."), {typed}};
+    }
+    if (Val(hours) * 60 + Val(minutes) > kMinutesOfADay) {
+        return cPhrase{Pattern("Reasons", "\"%1\" lies behind 24:00."), {typed}};
+    }
     return std::nullopt;
 }
 

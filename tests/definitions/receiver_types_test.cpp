@@ -62,7 +62,7 @@ TEST_F(ReceiverTypesFile, AWrongLineIsNamedAndSkipped) {
                   {10, "the type id \"-2\" is not a whole number from 0 to 32767"},
                   {11, "the type id \"1.5\" is not a whole number from 0 to 32767"}}));
     EXPECT_EQ(m_Types.ReceiverTypeCount(), 2);
-    EXPECT_EQ(LineProblemText(kReceiverTypesFile, problems[2]),
+    EXPECT_EQ(LineProblemPhrase(kReceiverTypesFile, problems[2]),
               "ReceiverTypes.txt, line 4: the kind is empty");
 }
 
@@ -81,7 +81,7 @@ TEST_F(ReceiverTypesFile, AMissingFileGivesAnEmptyTableAndSaysSo) {
     EXPECT_EQ(m_Types.ReceiverTypeCount(), 0);
     ASSERT_EQ(problems.size(), 1u);
     EXPECT_EQ(problems[0].line, 0u);
-    EXPECT_EQ(LineProblemText("Other.txt", problems[0]), "Other.txt: " + problems[0].description);
+    EXPECT_EQ(LineProblemPhrase("Other.txt", problems[0]), "Other.txt: " + problems[0].description.English());
 }
 
 }  // namespace

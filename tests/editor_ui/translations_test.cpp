@@ -21,6 +21,7 @@
 #include <set>
 
 #include "editor_ui/editor_pages.h"
+#include "editor_ui/marks.h"
 #include "windows/toolkit_words.h"
 
 namespace vigrel::testing {
@@ -110,25 +111,6 @@ TEST(Translations, SayTheSameThingWithTheSameWords) {
         }
     }
 }
-
-// Marks what goes by the files of translations, and notes what they lack as the program asks for it.
-class cMarks : public QTranslator {
-  public:
-    explicit cMarks(std::set<std::string>& lacking) : m_Lacking(lacking) {}
-    bool isEmpty() const override { return false; }
-    QString translate(const char* context, const char* source, const char*, int) const override {
-        const QByteArray asks = context;
-        const bool isToolkit = asks.startsWith('Q') && asks != "QObject";
-        if (isToolkit || asks == "CloseButton") return {};
-        if (m_Finnish.translate(context, source).isEmpty())
-            m_Lacking.insert(std::string(context) + ": " + source);
-        return QString("<%1>").arg(source);
-    }
-
-  private:
-    std::set<std::string>& m_Lacking;
-    cEditorWords m_Finnish{"358"};
-};
 
 // Whether it is the installation's own: figures, names and texts of its files, the station's texts by their
 // numbers, and the desktop's names of days and months.

@@ -10,7 +10,7 @@ namespace {
 TEST(TimeText, WhatIsATimeIsAccepted) {
     for (const char* text : {"8", "08", "24", "830", "0830", "1630", "16:30", "8:5", "8.30", "8-30", " 7:00 ",
                              "0:00", "24:00", "2400", "0"}) {
-        EXPECT_EQ(FaultOfTimeText(text).value_or(""), "") << text;
+        EXPECT_EQ(FaultOfTimeText(text).value_or("").English(), "") << text;
     }
 }
 

@@ -12,7 +12,7 @@ void CheckList(const cInstallation& installation, std::string_view name, cFindin
     if (installation.Files().Stamp(path).size < 0) return;
     for (const cLineProblem& problem : List().Load(installation.Files(), path)) {
         findings.Warning("list-line-skipped", {std::string(name), problem.line, "", "", ""},
-                         problem.description + "; the line is skipped");
+                         problem.description.English() + "; the line is skipped");
     }
 }
 

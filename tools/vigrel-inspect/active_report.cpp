@@ -60,7 +60,8 @@ void ReadSchedule(const cNamedContent& file, cScheduleIn& found) {
 
 std::int16_t ValueOf(const cNamedContent& calendar, DateTime moment) {
     if (const auto fault = FaultOfCalendarFile(calendar.content)) {
-        throw cFailure(eFailure::TypeMismatch, calendar.name + " is not a calendar: " + *fault + ".");
+        throw cFailure(eFailure::TypeMismatch,
+                       calendar.name + " is not a calendar: " + fault->English() + ".");
     }
     const std::int32_t index = CalendarIndex(DateOf(moment));
     if (index < 0 || index >= kCalendarDays) {

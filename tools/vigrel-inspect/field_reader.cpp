@@ -100,7 +100,7 @@ void cFieldReader::Variant(const std::string& name) {
         m_Inspection.problems.push_back({from, name, failure->what()});
         throw cFailure(*failure);
     }
-    Add(name + " (" + VariantTypeName(value.Type()) + ")", from, ValueOf(value));
+    Add(name + " (" + VariantTypePhrase(value.Type()).English() + ")", from, ValueOf(value));
     ExpectValueOfType(value.Type(), m_Content.substr(from + sizeof(std::int16_t)));
 }
 

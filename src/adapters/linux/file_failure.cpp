@@ -35,16 +35,18 @@ eFailure FailureNumber(int error) {
 
 void FailByErrno(std::string_view path) {
     const int error = errno;
-    throw cFailure(FailureNumber(error), std::string(path) + ": " + SystemErrorText(error));
+    throw cFailure(FailureNumber(error),
+                   {Pattern("Reasons", "%1: %2"), {std::string(path), SystemErrorPhrase(error)}});
 }
 
 const char* WhyNoFile(const struct stat& status) {
-    if (!S_ISREG(status.st_mode)) return "no ordinary file";
-    return status.st_size > kLargestFile ? "larger than 64 MB" : nullptr;
+    if (!S_ISREG(status.st_mode)) return Pattern("Reasons", "no ordinary file").english;
+    return status.st_size > kLargestFile ? Pattern("Reasons", "larger than 64 MB").english : nullptr;
 }
 
 void FailAsNoFile(std::string_view path, const char* reason) {
-    throw cFailure(eFailure::PathAccess, std::string(path) + ": " + reason);
+    throw cFailure(eFailure::PathAccess,
+                   {Pattern("Reasons", "%1: %2"), {std::string(path), cPattern{"Reasons", reason}}});
 }
 
 }  // namespace vigrel

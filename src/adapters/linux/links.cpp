@@ -27,8 +27,9 @@ std::optional<std::string> NextLink(const std::string& path) {
     struct stat status {};
     if (lstat(path.c_str(), &status) != 0 || !S_ISLNK(status.st_mode)) return std::nullopt;
     if (!IsTrusted(status, path)) {
-        throw cFailure(eFailure::PermissionDenied,
-                       PathText(path) + ": a link that another user made is not followed");
+        throw cFailure(
+            eFailure::PermissionDenied,
+            {Pattern("Reasons", "%1: a link that another user made is not followed"), {PathText(path)}});
     }
     std::array<char, PATH_MAX> buffer;
     const ssize_t length = readlink(path.c_str(), buffer.data(), buffer.size());
@@ -50,7 +51,8 @@ std::string FollowLinks(std::string native) {
     std::optional<std::string> next = NextLink(native);
     for (int links = 1; next; ++links) {
         if (links > kMostLinks)
-            throw cFailure(eFailure::PathAccess, PathText(native) + ": leads in a circle");
+            throw cFailure(eFailure::PathAccess,
+                           {Pattern("Reasons", "%1: leads in a circle"), {PathText(native)}});
         native = *next;
         next = NextLink(native);
     }

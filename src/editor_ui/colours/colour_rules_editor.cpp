@@ -16,6 +16,7 @@
 #include "editor_ui/colours/colour_preview.h"
 #include "editor_ui/colours/swatch.h"
 #include "editor_ui/pages/editor_action.h"
+#include "editor_ui/pages/reasons.h"
 #include "windows/colours.h"
 #include "windows/plain_text.h"
 
@@ -203,14 +204,15 @@ void cColourRulesEditor::TakeItem(const QTableWidgetItem& item) {
     cColourRule rule = m_Rules.m_Rules[row];
     const auto failure = CatchFailure([&] {
         if (!FitsCodePage(item.text())) {
-            throw cFailure(eFailure::InvalidCall, "the text has characters that can't be stored");
+            throw cFailure(eFailure::InvalidCall,
+                           Pattern("Reasons", "the text has characters that can't be stored"));
         }
         SetField(rule, item.column(), FromQString(item.text().trimmed()));
         MakeUserColor(rule);
     });
     if (failure) {
         Fill();
-        m_Services.m_Prompts.ShowFailure(this, WithPathsToQString(failure->what()));
+        m_Services.m_Prompts.ShowFailure(this, Told(failure->Description()));
         return;
     }
     const int column = item.column();
@@ -275,8 +277,7 @@ void cColourRulesEditor::ChooseColour() {
 
 void cColourRulesEditor::ShowProblems(const std::vector<cLineProblem>& problems) {
     QStringList lines;
-    for (const cLineProblem& problem : problems)
-        lines += ToQString(LineProblemText(kColourRulesFile, problem));
+    for (const cLineProblem& problem : problems) lines += Told(LineProblemPhrase(kColourRulesFile, problem));
     m_Problems->setText(
         tr("Some lines were not understood. They stay in the file:\n%1").arg(lines.join('\n')));
     m_Problems->setVisible(!lines.isEmpty());

@@ -7,13 +7,14 @@
 #include "adapters/qt/qt_text.h"
 #include "common/failure.h"
 #include "common/file_procedures.h"
+#include "editor_ui/pages/reasons.h"
 
 namespace vigrel {
 namespace {
 
 // With the separators of this system, as the operator knows them.
 QString ShownFailure(const cFailure& failure) {
-    return WithPathsToQString(failure.what()).replace('\\', '/');
+    return Told(failure.Description()).replace('\\', '/');
 }
 
 }  // namespace

@@ -6,7 +6,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "adapters/qt/qt_text.h"
+#include "editor_ui/pages/reasons.h"
 #include "windows/plain_text.h"
 
 namespace vigrel {
@@ -60,7 +60,7 @@ void cNoteBar::Show(const std::vector<cDefinitionNote>& notes) {
         summary += tr("What could not be read: %1.").arg(failed);
     }
     QStringList lines;
-    for (const cDefinitionNote& note : notes) lines += WithPathsToQString(note.line);
+    for (const cDefinitionNote& note : notes) lines += Told(note.line);
     m_Summary->setText(summary.join(' '));
     m_Lines->setPlainText(lines.join('\n'));
     setVisible(!summary.isEmpty());

@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "common/file_procedures.h"
+#include "editor_ui/pages/reasons.h"
 
 namespace vigrel {
 
@@ -79,12 +80,12 @@ QVariant cDefinitionModel::UnreadableData(const QModelIndex& index, int role) co
         case PlainTextRole:
         case Qt::DisplayRole:
             if (index.column() == Name) return PathToQString(SplitPath(file.path).name);
-            return index.column() == Details ? WithPathsToQString(file.reason) : QString();
+            return index.column() == Details ? Told(file.reason) : QString();
         case Qt::DecorationRole:
             if (index.column() != Name) return {};
             return QApplication::style()->standardIcon(QStyle::SP_MessageBoxCritical);
         case Qt::ToolTipRole:
-            return WithPathsToQString(file.reason);
+            return Told(file.reason);
         default:
             return {};
     }

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "editor_ui/pages/note_bar.h"
+#include "editor_ui/pages/reasons.h"
 #include "editor_ui/pages/scrolled.h"
 
 namespace vigrel {
@@ -130,7 +131,7 @@ QString cDefinitionPage::NameAt(int position) const {
 void cDefinitionPage::TellFailure(const QString& text) {
     QString all = text;
     for (const cDefinitionNote& note : m_TakeNotes()) {
-        if (note.kind == cDefinitionNote::eKind::Failed) all += "\n\n" + WithPathsToQString(note.line);
+        if (note.kind == cDefinitionNote::eKind::Failed) all += "\n\n" + Told(note.line);
     }
     m_Services.m_Prompts.ShowFailure(this, all);
 }

@@ -7,6 +7,7 @@
 #include "adapters/qt/qt_text.h"
 #include "common/failure.h"
 #include "editor_ui/pages/problem_label.h"
+#include "editor_ui/pages/reasons.h"
 #include "editor_ui/pages/text_edit.h"
 
 namespace vigrel {
@@ -83,7 +84,7 @@ QString cSettingEdit::Field() const {
 
 QString cSettingEdit::Fault(const QString& text) const {
     const auto failure = CatchFailure([&] { VariantFromText(m_Type, FromQString(text)); });
-    return failure ? ToQString(failure->what()) : QString();
+    return failure ? Told(failure->Description()) : QString();
 }
 
 void cSettingEdit::EditText(const QString& text) {

@@ -2,6 +2,7 @@
 
 #include "adapters/qt/qt_text.h"
 #include "editor_ui/pages/editor_action.h"
+#include "editor_ui/pages/reasons.h"
 #include "editor_ui/schedule/schedule_editor.h"
 #include "schedule/time_text.h"
 
@@ -89,7 +90,7 @@ void cScheduleEditor::TakeTimes() {
 QString cScheduleEditor::FaultOfTimes() const {
     for (const QLineEdit* field : {&m_Start, &m_Stop}) {
         if (const auto fault = FaultOfTimeText(FromQString(field->text()))) {
-            return (field == &m_Start ? tr("Start: %1") : tr("Stop: %1")).arg(ToQString(*fault));
+            return (field == &m_Start ? tr("Start: %1") : tr("Stop: %1")).arg(Told(*fault));
         }
     }
     return {};

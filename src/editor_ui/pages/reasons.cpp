@@ -1,0 +1,15 @@
+#include "editor_ui/pages/reasons.h"
+
+#include <QCoreApplication>
+
+#include "adapters/qt/qt_text.h"
+
+namespace vigrel {
+
+QString Told(const cPhrase& phrase) {
+    return WithPathsToQString(phrase.Told([](const cPattern& pattern) {
+        return FromQString(QCoreApplication::translate(pattern.context, pattern.english));
+    }));
+}
+
+}  // namespace vigrel
