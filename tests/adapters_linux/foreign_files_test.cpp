@@ -115,7 +115,14 @@ TEST_F(ForeignFiles, AFileThatHasNoEndIsNotReadWhateverItsSizeSays) {
         return stat("/proc/self/pagemap", &status) == 0 && S_ISREG(status.st_mode) && status.st_size == 0;
     };
     ASSERT_TRUE(endless());
-    EXPECT_EQ(WhyNotRead("/proc/self/pagemap"), "/proc/self/pagemap: larger than 64 MB");
+    EXPECT_EQ(WhyNotRead("/proc/self/pagemap"), "/proc/self/pagemap: no ordinary file");
+    fs::create_symlink("/proc/self/pagemap", Native("A0000001.alm"));
+    Put("A0000002.alm", "");
+    const auto listing = m_Files.List(m_Folder.Folder(), "A???????.Alm");
+    EXPECT_EQ(listing.names, std::vector<std::string>{"A0000002.alm"});
+    ASSERT_EQ(listing.unreadable.size(), 1u);
+    EXPECT_EQ(listing.unreadable[0].name, "A0000001.alm");
+    EXPECT_EQ(listing.unreadable[0].reason, "no ordinary file");
 }
 
 TEST_F(ForeignFiles, APipeIsNeitherWrittenNorWaitedFor) {

@@ -10,11 +10,9 @@ namespace vigrel {
 
 cInstallation::cInstallation(const cFileReader& files, std::string applicationPath)
     : m_Files(files), m_Ini(m_Files, std::move(applicationPath)) {
-    if (m_Files.Stamp(IniPath()).size >= 0) {
-        const auto failure = CatchFailure([&] { m_Content = m_Files.ReadFile(IniPath()); });
-        if (failure) m_Unreadable = failure->what();
-        m_Configured = !failure;
-    }
+    const auto failure = CatchFailure([&] { m_Content = m_Files.ReadFile(IniPath()); });
+    if (failure && failure->Number() != eFailure::FileNotFound) m_Unreadable = failure->what();
+    m_Configured = !failure;
     m_Document = cIniDocument(m_Content);
     m_Categories.ReadDefault(m_Ini);
     if (!m_Unreadable) m_Categories.ReadCategories(m_Files, m_Ini);

@@ -39,8 +39,12 @@ void FailByErrno(std::string_view path) {
                    {Pattern("Reasons", "%1: %2"), {std::string(path), SystemErrorPhrase(error)}});
 }
 
+const char* NoOrdinaryFile() {
+    return Pattern("Reasons", "no ordinary file").english;
+}
+
 const char* WhyNoFile(const struct stat& status) {
-    if (!S_ISREG(status.st_mode)) return Pattern("Reasons", "no ordinary file").english;
+    if (!S_ISREG(status.st_mode)) return NoOrdinaryFile();
     return status.st_size > kLargestFile ? Pattern("Reasons", "larger than 64 MB").english : nullptr;
 }
 

@@ -17,6 +17,9 @@ constexpr off_t kLargestFile = 64 << 20;
 // Why a file must not be read, whatever its rights: what waits for a partner, has no end or fills the memory
 // would take the program with it. Null when it may.
 const char* WhyNoFile(const struct stat& status);
+// The reason that such a file is given; also one that holds something though its size is 0: what the machine
+// makes up needn't have an end.
+const char* NoOrdinaryFile();
 
 // Throws cFailure (PathAccess).
 [[noreturn]] void FailAsNoFile(std::string_view path, const char* reason);

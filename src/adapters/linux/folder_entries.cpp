@@ -4,12 +4,15 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
 #include <memory>
 #include <utility>
 
 #include "adapters/linux/file_failure.h"
+#include "adapters/linux/file_handle.h"
 #include "adapters/linux/links.h"
+#include "adapters/linux/open_file.h"
 #include "adapters/linux/system_error_text.h"
 #include "common/code_page.h"
 #include "common/path_text.h"
@@ -41,6 +44,15 @@ bool FitsMask(std::string_view name, std::string_view mask) {
     return mask.find_first_not_of('*', m) == std::string_view::npos;
 }
 
+// Though its size is 0, and still is.
+bool HoldsSomething(int folder, const char* name) {
+    const cFileHandle file(openat(folder, name, O_RDONLY | kNeverWait));
+    std::array<char, 64> bytes{};  // some of them give whole entries only
+    struct stat status {};
+    return file && read(file.Get(), bytes.data(), bytes.size()) > 0 && fstat(file.Get(), &status) == 0 &&
+           status.st_size == 0;
+}
+
 bool IsThere(const std::string& native) {
     struct stat status {};
     return lstat(native.substr(0, native.find_last_not_of('/') + 1).c_str(), &status) == 0;
@@ -59,6 +71,7 @@ std::string WhyUnreadable(int folder, const char* name) {
     struct stat status {};
     if (fstatat(folder, name, &status, 0) != 0) return SystemErrorText(errno);
     if (const char* reason = WhyNoFile(status)) return reason;
+    if (status.st_size == 0 && HoldsSomething(folder, name)) return NoOrdinaryFile();
     // Nearly all are our own, and tell by their mode.
     if (status.st_uid == geteuid() && (status.st_mode & S_IRUSR) != 0) return "";
     return faccessat(folder, name, R_OK, AT_EACCESS) == 0 ? "" : SystemErrorText(errno);

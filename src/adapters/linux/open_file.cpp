@@ -27,8 +27,8 @@ void cOpenFile::Write(std::string_view bytes) {
     WriteAll(m_File.Get(), bytes, m_Path);
 }
 
-// Asks for a byte more than there should be, so that one call meets the end too. Files that the machine
-// makes up say that they are empty.
+// Asks for a byte more than there should be, so that one call meets the end too. Files that the machine makes
+// up say that they are empty, and needn't have an end: of these no more is read than what fits at once.
 std::string cOpenFile::ReadAll() {
     struct stat status {};
     if (fstat(m_File.Get(), &status) != 0) FailByErrno(m_Path);
@@ -43,6 +43,8 @@ std::string cOpenFile::ReadAll() {
         if (count < 0) FailByErrno(m_Path);
         size += static_cast<std::size_t>(count);
         if (count == 0 || size < content.size()) break;
+        if (fstat(m_File.Get(), &status) != 0) FailByErrno(m_Path);
+        if (status.st_size == 0) FailAsNoFile(m_Path, NoOrdinaryFile());
         // Somebody can make it grow after it was looked at.
         if (content.size() > kLargestFile) FailAsNoFile(m_Path, "larger than 64 MB");
         content.resize(2 * content.size());

@@ -167,5 +167,15 @@ TEST_F(VigrelReceiverCheck, PrintsHelp) {
     EXPECT_NE(run.output.find("Examples:\n"), std::string::npos);
 }
 
+// Nothing is there to look at, and no file is missing either.
+TEST_F(VigrelReceiverCheck, AConfigurationThatIsALinkToItselfIsAFinding) {
+    fs::remove(m_App / "VigrelReceiver.INI");
+    fs::create_symlink("VigrelReceiver.INI", m_App / "VigrelReceiver.INI");
+    const cRun run = Run("--files-only " + m_App.string());
+    EXPECT_EQ(run.exitCode, 2);
+    EXPECT_NE(run.output.find("Too many levels of symbolic links"), std::string::npos);
+    EXPECT_NE(run.output.find("[unreadable]"), std::string::npos);
+}
+
 }  // namespace
 }  // namespace vigrel::testing
