@@ -40,7 +40,7 @@ mkdir /run/systemd/system
 /lib/systemd/systemd --user --log-target=console >"$work/manager.log" 2>&1 &
 manager=$!
 leave() {
-    systemctl --user exit 2>/dev/null || true
+    systemctl --user exit 2>/dev/null || kill $manager
     wait $manager || true
     rm -rf --one-file-system "$work"
 }
@@ -111,8 +111,9 @@ printf '[Service]\nWatchdogSec=3\nTimeoutAbortSec=1\n' >"$units/vigrel-receiver.
 systemctl --user daemon-reload
 systemctl --user restart vigrel-receiver
 restarts=$(property NRestarts)
-check "one that is at work is left alone" eval 'sleep 8 && [ "$(property NRestarts)" = "$restarts" ]'
-kill -STOP "$(property MainPID)"
+check "one that is at work is left alone" eval 'sleep 8 && [ "$(property NRestarts) $(property SubState)" = "$restarts running" ]'
+station=$(property MainPID)
+[ "$station" = 0 ] || kill -STOP "$station"
 check "one that stands still starts again" until_true restarted $((restarts + 1))
 systemctl --user stop desktop.target graphical-session.target
 check "it ends with the desktop" until_true state_is inactive
