@@ -269,6 +269,18 @@ TEST_F(Running, AtTheChangeOfDateOldLogsAndAlarmsGo) {
     EXPECT_EQ(Log("20260415"), log);
 }
 
+TEST_F(Running, SilentSendersAreReportedBeforeOldAlarmsGo) {
+    Ini("MaxDays=30\r\nViewPopupForm=1\r\n", "[Senders]\r\nPLC1=5\r\n");
+    Start();
+    timerKeepAlive.Tick();
+    Send("PLC1", "S1||old");
+    clock.AddSeconds(31.0 * 86400);  // 2026-04-15
+    timerKeepAlive.Tick();
+    const std::string log = Log("20260415");
+    EXPECT_LT(log.find("T10043 Active - VigrelAlarmReceiver"), log.find("1 T10036\n")) << log;
+    EXPECT_NE(log.find("1 T10036\n"), std::string::npos);
+}
+
 TEST_F(Running, WithoutDayLimitTheChangeOfDateRemovesNoAlarmButCleansLogsAndRepaints) {
     Ini("MaxDays=0\r\n");
     Start();

@@ -127,6 +127,33 @@ TEST_F(AlarmIntake, TheWindowComesByItsTwoSettings) {
     EXPECT_FALSE(Happens("focus", StatusActive));
 }
 
+// Each of the settings that keep a signal to active events keeps that one alone.
+TEST_F(AlarmIntake, ASettingForActiveEventsRestrictsItsOwnStepAlone) {
+    settings.m_ViewPopupForm = true;
+    const std::vector<std::pair<bool*, std::string>> restricted{
+        {&settings.m_PopupFormOnlyForActive, "popup"},
+        {&settings.m_EventSignalOnlyForActive, "sound"},
+        {&settings.m_EventRestoreOnlyForActive, "focus"}};
+    for (const auto& [setting, restrictedStep] : restricted) {
+        *setting = true;
+        for (const std::int16_t status : {StatusInactive, StatusActive, StatusAcked}) {
+            for (const std::string step : {"popup", "sound", "focus", "print", "light"}) {
+                const bool happens = step != restrictedStep || status == StatusActive;
+                EXPECT_EQ(Happens(step, status), happens) << step << " at status " << status;
+            }
+        }
+        *setting = false;
+    }
+}
+
+TEST_F(AlarmIntake, PrinterAndLightAskForNoOtherSetting) {
+    settings.m_EventRestore = false;
+    EXPECT_TRUE(Happens("print", StatusActive));
+    EXPECT_TRUE(Happens("light", StatusActive));
+    settings.m_PrinterPort = 0;
+    EXPECT_TRUE(Happens("light", StatusActive));
+}
+
 TEST_F(AlarmIntake, AHiddenWindowIsShownThoughItTakesNoFocus) {
     mainWindow.Hide();
     Process(StatusActive);

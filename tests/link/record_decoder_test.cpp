@@ -45,8 +45,12 @@ class RecordDecoder : public ::testing::Test, public cFakeStation {
     }
 
     std::vector<AlarmPtr> alarms;
+    std::string logAtIntake;  // what the log held when the last alarm was taken in
     std::string replies;
-    std::function<void(const AlarmPtr&)> take = [this](const AlarmPtr& alarm) { alarms.push_back(alarm); };
+    std::function<void(const AlarmPtr&)> take = [this](const AlarmPtr& alarm) {
+        alarms.push_back(alarm);
+        logAtIntake = Log();
+    };
     cSenderTable senders{{files, clock, maker, ini, texts, log, settings, forms, messageBox, take}};
     cRecordDecoder decoder{{clock, maker, log, texts, senders, take,
                             [this](std::string_view reply) { replies += std::string(reply); }}};
@@ -61,6 +65,15 @@ TEST_F(RecordDecoder, AnEmptyLineAndTheTwoReplyFormsAreNotAnswered) {
                     "05"),
               "");
     EXPECT_EQ(Log(), "");
+}
+
+TEST_F(RecordDecoder, ALineThatOnlyBeginsWithAReplyFormIsRefused) {
+    EXPECT_EQ(Reply("\x04"
+                    "04x"),
+              kNegativeReply);
+    EXPECT_EQ(Reply("\x05"
+                    "05x"),
+              kNegativeReply);
 }
 
 TEST_F(RecordDecoder, ALineNotEnclosedInStxAndEtxIsRefusedAndTouchesNoSender) {
@@ -94,6 +107,13 @@ TEST_F(RecordDecoder, AnAlarmRecordBecomesAnAlarmWithAllItsFields) {
     EXPECT_EQ(alarm.m_CreatedTime, clock.Now());
     EXPECT_EQ(alarm.m_Observed, False16);
     EXPECT_EQ(Log(), "PLC1 T10030 Active - main (one/Fire/three/four)\nPLC1T10029\n");
+}
+
+TEST_F(RecordDecoder, AnAlarmIsLoggedBehindItsIntake) {
+    Frame("Alpha", "S1||first");
+    EXPECT_EQ(logAtIntake, "");
+    Frame("Alpha", "S1||second");
+    EXPECT_EQ(logAtIntake, "Alpha T10030 Active - first (///)\n");
 }
 
 TEST_F(RecordDecoder, TheKindIsTheStatus) {
@@ -156,6 +176,23 @@ TEST_F(RecordDecoder, LowerCaseChecksumDigitsAreRefused) {
               kNegativeReply);
 }
 
+TEST_F(RecordDecoder, BlanksAroundTheChecksumAreRefused) {
+    for (const char* checksum : {" D2", "D 2", " D", "D "}) {
+        EXPECT_EQ(Reply(std::string("\x02") + "Alpha\xFFS0j\xFF" + checksum + "\x03"), kNegativeReply)
+            << checksum;
+    }
+}
+
+TEST_F(RecordDecoder, ABadFrameThatHoldsOnlyAKindIsNoKeepAlive) {
+    clock.AddSeconds(10);
+    EXPECT_EQ(Reply("\x02"
+                    "Alpha\xFFS0\xFF"
+                    "00\x03"),
+              kNegativeReply);
+    EXPECT_EQ(Log(), "");
+    EXPECT_EQ(senders.m_Senders[0].LastSeen, clock.Now());
+}
+
 TEST_F(RecordDecoder, AKindInLowerCaseFailsAndTheSenderIsAlive) {
     clock.AddSeconds(10);
     EXPECT_EQ(Frame("Alpha", "s1||text"), kNegativeReply);
@@ -187,6 +224,15 @@ TEST_F(RecordDecoder, FurtherFieldsAndCharactersBehindTheChecksumAreIgnored) {
 TEST_F(RecordDecoder, AShortDateAndALongDateAreTheSame) {
     EXPECT_EQ(EventTime("2024-03-05", "01:00:00"), EventTime("24-03-05", "01:00:00"));
     EXPECT_EQ(EventTime("2024-03-05", "12:00:00"), DateSerial(2024, 3, 5) + 0.5);
+}
+
+TEST_F(RecordDecoder, BlanksAroundDateAndTimeDoNotCount) {
+    EXPECT_DOUBLE_EQ(EventTime(" 2024-03-05 ", " 06:07:08 "), DateSerial(2024, 3, 5) + TimeSerial(6, 7, 8));
+    EXPECT_DOUBLE_EQ(EventTime("  ", "  "), clock.Now());
+}
+
+TEST_F(RecordDecoder, FourCharactersWithoutHyphenAreAYearOfFourDigits) {
+    EXPECT_EQ(EventTime("2024", "12:00:00"), DateSerial(2024, 0, 0) + 0.5);
 }
 
 TEST_F(RecordDecoder, TwoDigitYearsChangeCenturyAtThirty) {
@@ -237,6 +283,21 @@ TEST_F(RecordDecoder, CharacterSixteenArrivesAsALineFeedAndCountsAsItself) {
                     "34\x03"),
               kPositiveReply);
     EXPECT_EQ(Last().GetCondition(0), "a\nb");
+}
+
+TEST_F(RecordDecoder, EveryCharacterSixteenArrivesAsALineFeed) {
+    Frame("Alpha",
+          "S1||a\x10\x10"
+          "b\x10");
+    EXPECT_EQ(Last().GetCondition(0), "a\n\nb\n");
+}
+
+TEST_F(RecordDecoder, CharacterSixteenIsALineFeedInAMessageToo) {
+    Frame("Alpha",
+          "S3||a\x10"
+          "b");
+    EXPECT_NE(files.ReadFile("C:\\App\\LogFiles\\20260315.Log").find(" T10042 -> a\nb\r\n"),
+              std::string::npos);
 }
 
 TEST_F(RecordDecoder, ASenderInAnotherCaseFindsItsRowAndTheAlarmKeepsTheFramesSpelling) {

@@ -120,6 +120,38 @@ TEST_F(ServerLink, AFailedSendIsIgnored) {
     EXPECT_EQ(lines.size(), 1u);
 }
 
+TEST_F(ServerLink, AReplyIsTracedBeforeItIsSentThoughItCannotBe) {
+    state.m_DebugMode = true;
+    std::string sentBefore = "not traced";
+    link.WriteTrace = [&](std::string_view text, std::int16_t kind) {
+        if (kind == cServerLink::ToSender) sentBefore = data.TakeSent();
+        trace += std::string(text) + ";";
+    };
+    listener.Knock(1);
+    data.Arrive("a\n");
+    EXPECT_EQ(sentBefore, "");
+    EXPECT_EQ(data.TakeSent(), "ok1");
+    data.m_SendFails = true;
+    data.Arrive("b\n");
+    EXPECT_EQ(trace, "a\n;ok1;b\n;ok2;");
+}
+
+// What is in the buffer was received: a peer that sends and leaves has told what it had to tell.
+TEST_F(ServerLink, LinesThatArrivedBeforeTheSocketClosedAreProcessed) {
+    link.ProcessRecord = [this](const std::string& line) {
+        lines.push_back(line);
+        data.PeerCloses();
+    };
+    listener.Knock(1);
+    data.Arrive("a\nb\n");
+    EXPECT_EQ(data.State(), 0);
+    EXPECT_EQ(lines, (std::vector<std::string>{"a", "b"}));
+    listener.Knock(2);
+    const std::string line(20'000, 'x');
+    data.Arrive(line + "\n" + line + "\n");
+    EXPECT_EQ(lines, (std::vector<std::string>{"a", "b", line, line}));
+}
+
 TEST_F(ServerLink, TheTraceShowsChunksAsTheyCameAndRepliesOnlyInDebugMode) {
     listener.Knock(1);
     data.Arrive("a\n");
