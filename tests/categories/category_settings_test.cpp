@@ -205,6 +205,57 @@ TEST_F(CategorySettings, CategoriesBeyondTheBufferOfSectionNamesAreNotSeen) {
     EXPECT_LT(settings.m_CategorySettings.size(), 100u);
 }
 
+TEST_F(CategorySettings, TheBufferOfSectionNamesHolds8192Characters) {
+    // 127 names of 64 with their zeros come to 8,128; the last must end below 8,192.
+    std::string full;
+    for (int i = 100; i < 227; ++i)
+        full += "[CategorySpecificSetting_" + std::string(36, 'x') + std::to_string(i) + "]\r\n";
+    for (const auto& [length, seen] : {std::pair{38u, 128u}, {39u, 127u}}) {
+        Read(full + "[CategorySpecificSetting_" + std::string(length, 'y') + "]\r\n");
+        EXPECT_EQ(settings.m_CategorySettings.size(), seen);
+    }
+}
+
+TEST_F(CategorySettings, BlanksInQuotesAreSet) {
+    Read(
+        "[General]\r\nIcon_Active=4,5\r\nBackColor_Active=1,2,3\r\nForeColor_Active=0,0,9\r\n"
+        "[CategorySpecificSetting_Fire]\r\nIcon_Active=\"  \"\r\nBackColor_Active=\"  \"\r\n"
+        "ForeColor_Active=7,0,0\r\n");
+    EXPECT_EQ(First().GetIcon(1, false), 0);
+    EXPECT_EQ(First().GetIcon(1, true), 0);
+    EXPECT_EQ(First().GetBackColor(1), 0);
+    EXPECT_EQ(First().GetForeColor(1), 7);
+}
+
+TEST_F(CategorySettings, TheSignalLightsValuesAreTrimmed) {
+    std::string content = "[General]\r\n";
+    for (const char* key : {"DeviceName", "Control", "FreqDuty", "InitialPhaseDelay", "Power"})
+        content += std::string("USBLED_") + key + "_Active=\"  1/2  \"\r\n";
+    Read(content + "USBLED_DeviceName_Acked=\"   \"\r\n");
+    EXPECT_EQ(General().Get_USBLED_DeviceName(1), "1/2");
+    EXPECT_EQ(General().Get_USBLED_Control(1), "1/2");
+    EXPECT_EQ(General().Get_USBLED_FreqDuty(1), "1/2");
+    EXPECT_EQ(General().Get_USBLED_InitialPhaseDelay(1), "1/2");
+    EXPECT_EQ(General().Get_USBLED_Power(1), "1/2");
+    EXPECT_EQ(General().Get_USBLED_DeviceName(2), "");
+    Read("[General]\r\nUSBLED_DeviceName_Acked=\"   \"\r\n");
+    EXPECT_FALSE(General().USBLED_Enabled);
+}
+
+TEST_F(CategorySettings, EveryNumberButZeroSynchronisesTheLight) {
+    for (const auto& [number, sync] :
+         {std::pair{"-1", True16}, {"2", True16}, {"0", False16}, {"x", False16}}) {
+        Read(std::string("[General]\r\nUSBLED_SyncLeds_Active=") + number + "\r\n");
+        EXPECT_EQ(General().Get_USBLED_SyncLeds(1), sync) << number;
+    }
+}
+
+TEST_F(CategorySettings, ALightOfTheGeneralSettingsEnablesNoCategory) {
+    Read("[General]\r\nUSBLED_DeviceName_Active=L1\r\n[CategorySpecificSetting_Fire]\r\nExtraText=x\r\n");
+    EXPECT_TRUE(General().USBLED_Enabled);
+    EXPECT_FALSE(First().USBLED_Enabled);
+}
+
 TEST_F(CategorySettings, ANumberThatDoesNotFitIsSkipped) {
     Read(
         "[General]\r\nFontBold_Active=99999\r\nEventSignal=99999\r\nIcon_Active=99999,7\r\nUSBLED_PreScalar_"

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "common/failure.h"
 #include "support/fake_station.h"
 
 namespace vigrel::testing {
@@ -118,6 +119,29 @@ TEST_F(Acknowledgement, TheSoundGoesOnWhilePopupsAreOpenWhenItLastsUntilTheLastO
     EXPECT_EQ(state.m_SoundState, 0);
 }
 
+TEST_F(Acknowledgement, OnePopupIsEnoughToKeepTheSound) {
+    settings.m_EventSignalUntilNoMorePopupForms = true;
+    state.m_PopupFormCount = 1;
+    acknowledgement.AckAlarm(0, Take(MakeAlarm()));
+    acknowledgement.Menu_AckAll();
+    acknowledgement.Menu_AckAll_AndClosePopups([] {});
+    EXPECT_EQ(state.m_SoundState, 4);
+}
+
+// Only nothing at all counts as not observed, in whatever form a file has it.
+TEST_F(Acknowledgement, AnAlarmWithAnyOtherMarkIsObserved) {
+    const AlarmPtr alarm = Take(MakeAlarm());
+    alarm->m_Observed = 1;
+    EXPECT_EQ(Icon(alarm, 0), 3);
+    EXPECT_EQ(Icon(alarm, 1), 27);
+    acknowledgement.AckAlarm(0, alarm);
+    state.m_ListChanged = false;
+    acknowledgement.Menu_AckAll();
+    EXPECT_FALSE(state.m_ListChanged);
+    EXPECT_EQ(Log(), "");
+    EXPECT_EQ(alarm->m_Observed, 1);
+}
+
 TEST_F(Acknowledgement, OfAllGoesThroughTheRowsInDisplayOrderAndSkipsTheObserved) {
     for (const char* text : {"a", "b", "c"}) {
         Take(MakeAlarm(text));
@@ -149,6 +173,18 @@ TEST_F(Acknowledgement, OfAllWithPopupsClosesThemAndEndsTheSound) {
         state.m_PopupFormCount = 0;
     });
     EXPECT_EQ(state.m_SoundState, 0);
+}
+
+TEST_F(Acknowledgement, PopupsThatCannotBeClosedKeepTheSoundByTheirCount) {
+    settings.m_EventSignalUntilNoMorePopupForms = true;
+    for (const std::int16_t left : {std::int16_t{1}, std::int16_t{0}}) {
+        state.m_PopupFormCount = 2;
+        acknowledgement.Menu_AckAll_AndClosePopups([&] {
+            state.m_PopupFormCount = left;
+            throw cFailure(eFailure::Device, "made to fail");
+        });
+        EXPECT_EQ(state.m_SoundState, left == 0 ? 0 : 4);
+    }
 }
 
 TEST_F(Acknowledgement, WithoutPopupsNoneIsClosed) {

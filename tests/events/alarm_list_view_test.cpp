@@ -70,6 +70,14 @@ TEST_F(AlarmListView, ResizingAndSortingFollowTheirFlags) {
     EXPECT_FALSE(list.Column(0).sortable);
 }
 
+TEST_F(AlarmListView, ResizingAndSortingAreOnUnlessSwitchedOff) {
+    settings.m_ColumnResizable = settings.m_ColumnSortable = settings.m_ColumnWidthStore = false;
+    Start("[General]\r\nColumns=t0\r\n");
+    EXPECT_TRUE(list.Column(0).resizable);
+    EXPECT_TRUE(list.Column(0).sortable);
+    EXPECT_TRUE(settings.m_ColumnWidthStore);
+}
+
 TEST_F(AlarmListView, ThirtyTwoColumnsAreTheMost) {
     std::string columns = "t0";
     for (int i = 1; i < 32; ++i) columns += ",t0";
@@ -222,6 +230,17 @@ TEST_F(AlarmListView, FontStylesFollowCategoryAndState) {
     EXPECT_TRUE(style.italic);
 }
 
+TEST_F(AlarmListView, EveryNumberButZeroIsBoldAndItalic) {
+    for (const char* number : {"-1", "2", "1"}) {
+        Start("[General]\r\nFontBold_Active=" + std::string(number) + "\r\nFontItalic_Active=" + number +
+              "\r\n");
+        cReportList::cFontStyle style;
+        view.BeforeDrawRow(Take(MakeAlarm())->m_Record, style);
+        EXPECT_TRUE(style.bold) << number;
+        EXPECT_TRUE(style.italic) << number;
+    }
+}
+
 TEST_F(AlarmListView, TheRowHeightFollowsTheFontSize) {
     list.SetFont("Arial", 12);
     EXPECT_EQ(view.RowHeight(), 21);  // 12 * 1440 / 72 / 15 + 5
@@ -229,6 +248,13 @@ TEST_F(AlarmListView, TheRowHeightFollowsTheFontSize) {
     EXPECT_EQ(view.RowHeight(), 19);
     screen.m_TwipsPerPixel = 7.5;
     EXPECT_EQ(view.RowHeight(), 33);
+}
+
+TEST_F(AlarmListView, TheRowHeightIsRoundedAsAWhole) {
+    list.SetFont("Arial", 7.125);
+    EXPECT_EQ(view.RowHeight(), 14);  // 9.5 + 5; the even neighbour of 9.5 is 10
+    list.SetFont("Arial", 7.3);
+    EXPECT_EQ(view.RowHeight(), 15);  // 9.73 + 5
 }
 
 TEST_F(AlarmListView, AChangedWidthIsStoredUnderTheColumnsTag) {
@@ -298,6 +324,16 @@ TEST_F(AlarmListView, ARowOfAnAlarmWithAnOddStatusLacksOnlyWhatFails) {
     const AlarmPtr alarm = MakeAlarm("text", "", 9);
     Take(alarm);
     EXPECT_EQ(Value(alarm, 2), "text");
+}
+
+TEST_F(AlarmListView, ADateThatCannotBeToldLeavesAnEmptyCellInTheRowsColours) {
+    Start("[General]\r\nColumns=StateIcon,DateTime\r\nBackColor_Active=1,2,3\r\n");
+    const AlarmPtr alarm = Take(MakeAlarm());
+    alarm->m_CreatedTime = 1e300;
+    const cReportItem item = list.Item(alarm->m_Record, 1);
+    EXPECT_EQ(std::get<std::string>(item.value), "");
+    EXPECT_TRUE(item.hasColours);
+    EXPECT_EQ(item.backColour, 0x030201);
 }
 
 }  // namespace

@@ -504,6 +504,18 @@ TEST_F(AlarmStore, WithoutLimitsNothingIsEverRemoved) {
     EXPECT_EQ(store.m_Alarms.size(), 50u);
 }
 
+TEST_F(AlarmStore, ALimitBelowZeroIsNone) {
+    settings.m_MaxDays = -1;
+    settings.m_MaxEvents = -1;
+    for (int i = 1; i <= 3; ++i) PutFile(i, 1000 + i);
+    Load();
+    EXPECT_EQ(store.m_Alarms.size(), 3u);
+    EXPECT_TRUE(store.InsertAlarm(At(1, "x"), settings.m_MaxEvents));
+    EXPECT_EQ(store.SweepOldAlarms(), 0);
+    EXPECT_EQ(store.m_Alarms.size(), 4u);
+    EXPECT_EQ(Log(), "3 T10041\n");
+}
+
 TEST_F(AlarmStore, StoredAlarmsComeBackInOrderWithTheirState) {
     PutFile(1, 1, "b");
     PutFile(2, 2, "a");
@@ -545,6 +557,19 @@ TEST_F(AlarmStore, ANameWithoutANumberIsLeftAloneForGood) {
     Load();
     EXPECT_TRUE(store.m_Alarms.empty());
     EXPECT_TRUE(files.FileExists(std::string(kApp) + "Alarms\\ABCDEFGH.alm"));
+}
+
+// A sign is part of a numeric name. The name that is made of such a number is another one.
+TEST_F(AlarmStore, ANegativeNumberInANameIsTakenAsItStands) {
+    PutFile(7, 1, "negative");
+    const std::string folder = std::string(kApp) + "Alarms\\";
+    files.Put(folder + "A-000005.alm", files.ReadFile(folder + "A0000007.alm"));
+    files.RemoveFile(folder + "A0000007.alm");
+    Load();
+    ASSERT_EQ(store.m_Alarms.size(), 1u);
+    EXPECT_EQ(store.m_Alarms[0]->m_FileId, -5);
+    EXPECT_EQ(store.m_Alarms[0]->m_Sender, "negative");
+    EXPECT_EQ(store.FileName(-5), folder + "A00000-5.alm");
 }
 
 TEST_F(AlarmStore, ANumberOutOfRangeIsLoggedLeftAloneAndKeepsNoOtherAlarmAway) {
@@ -691,6 +716,16 @@ TEST_F(AlarmStore, TheSweepStopsAtTheFirstAlarmThatIsYoungEnough) {
     settings.m_MaxDays = 30;
     EXPECT_EQ(store.SweepOldAlarms(), 2);
     EXPECT_EQ(store.m_Alarms.size(), 2u);
+}
+
+TEST_F(AlarmStore, AnAlarmStaysToTheLastMomentOfItsDays) {
+    settings.m_MaxDays = 30;
+    const AlarmPtr alarm = At(clock.Now() - 30, "at the limit");
+    EXPECT_TRUE(store.InsertAlarm(alarm, 0));
+    EXPECT_EQ(store.SweepOldAlarms(), 0);
+    clock.AddSeconds(1);
+    EXPECT_FALSE(store.InsertAlarm(At(alarm->m_CreatedTime, "a second later"), 0));
+    EXPECT_EQ(store.SweepOldAlarms(), 1);
 }
 
 }  // namespace
