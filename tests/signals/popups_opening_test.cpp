@@ -29,6 +29,9 @@ TEST_F(ShowPopup, RunsItsStepsInOneOrder) {
         Setting("BackColor_Active=1,0,0\nForeColor_Active=2,0,0\nEventPopupFormat=format\nExtraText=extra\n");
     const AlarmPtr alarm = Alarm("C");
     alarm->m_CategorySpecificSetting = setting;
+    m_Files.m_OnCall = [this](std::string_view, std::string_view path) {
+        if (path.ends_with(".Log")) m_Transcript.Add("log written");
+    };
     EXPECT_EQ(m_Popups.ShowPopup(alarm), 1);
     EXPECT_EQ(m_Transcript.Take(),
               "popup 1: caption \"Title (Plant)\"\n"
@@ -43,6 +46,7 @@ TEST_F(ShowPopup, RunsItsStepsInOneOrder) {
               "popup 1: picture 3 back colour 1\n"
               "popup 1: label font Verdana 9.5\n"
               "popup 1: label font style bold\n"
+              "log written\n"
               "popup 1: picture 1 visible\n"
               "popup 1: left 150\n"
               "popup 1: top 300\n"
@@ -203,6 +207,19 @@ TEST_F(ShowPopup, MovingBeyondTheLeftEdgeLeavesThePlaceToTheMaker) {
     EXPECT_EQ(m_Maker[2].Top(), 2600);
 }
 
+TEST_F(ShowPopup, AStaticPlaceStartsNoMovingSequence) {
+    Configure("WindowPosition=STATIC\nX_Start=7\nY_Start=9\n");
+    EXPECT_EQ(Places(1), "7,9");
+    Configure("WindowPosition=MOVING\nX_Start=50\nY_Start=60\nX_Stop=900\nY_Stop=900\n");
+    EXPECT_EQ(Places(2), "50,60 100,110");
+}
+
+TEST_F(ShowPopup, AStepIsRoundedBeforeItIsAdded) {
+    Configure(
+        "WindowPosition=MOVING\nX_Start=51\nY_Start=51\nX_Step=0.5\nY_Step=1.5\nX_Stop=900\nY_Stop=900\n");
+    EXPECT_EQ(Places(3), "51,51 51,53 51,55");
+}
+
 TEST_F(ShowPopup, MovingStartsOnlyOnceAndGoesOnFromAnotherKindsPlace) {
     Configure("WindowPosition=MOVING\nX_Stop=900\nY_Stop=900\n");
     EXPECT_EQ(Places(2), "50,50 100,100");
@@ -254,6 +271,13 @@ TEST_F(ShowPopup, ASettingOutOfRangeOpensNoPopup) {
     EXPECT_THROW(m_Popups.ShowPopup(Alarm("C")), cFailure);
     EXPECT_EQ(m_Maker.Open(), "");
     EXPECT_EQ(m_State.m_PopupFormCount, 0);
+}
+
+TEST_F(ShowPopup, ASettingOutOfRangeTakesANumberAllTheSame) {
+    Configure("X_Size=99999999999\n");
+    SkipFailure([&] { m_Popups.ShowPopup(Alarm("C")); });
+    Configure("");
+    EXPECT_EQ(m_Popups.ShowPopup(Alarm("C")), 2);
 }
 
 TEST_F(ShowPopup, AWindowThatCantBeMadeLeavesNothing) {

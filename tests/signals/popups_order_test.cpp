@@ -59,6 +59,14 @@ TEST_F(OnePopup, ACategoryBehindAnEmptyFieldHasNoPriority) {
     EXPECT_EQ(m_Maker.Visible(), "3");
 }
 
+TEST_F(OnePopup, ACategoryThatIsListedTwiceHasItsFirstPlace) {
+    m_Settings.m_PopupFormTopMostCategory = "A,B,A";
+    Show("B");
+    Show("A");
+    EXPECT_EQ(m_Maker.Visible(), "2");
+    EXPECT_EQ(m_Popups.SelectTopPopup(nullptr)->m_PriorityIndex, 0);
+}
+
 TEST_F(OnePopup, FieldsOfTheListAreTrimmedAndCategoriesAreNot) {
     m_Settings.m_PopupFormTopMostCategory = "A , B";
     Show("X");
@@ -209,6 +217,13 @@ TEST_F(AllPopups, APopupOfTheFirstCategoryLiesOverAll) {
     Show("A");
     EXPECT_EQ(m_Maker.Stacked(), "3 1 2");
     EXPECT_EQ(Steps("behind"), "behind popup 1");
+}
+
+TEST_F(AllPopups, TheFirstCategoryOfTheListIsTrimmed) {
+    m_Settings.m_PopupFormTopMostCategory = "A ,B";
+    Show("A");
+    Show("A");
+    EXPECT_EQ(Steps("behind"), "");
 }
 
 TEST_F(AllPopups, OthersGoBehindTheOldestOfTheBestCategory) {

@@ -52,6 +52,12 @@ TEST_F(Printing, PortsAreCountedFromOneInTheSettingsAndFromZeroAtThePort) {
     EXPECT_EQ(Lines(), (Texts{"0:text\r\n", "2:text\r\n"}));
 }
 
+// That nothing is printed below zero is the intake's rule, which asks before it makes a text.
+TEST_F(Printing, OnlyZeroIsNoPort) {
+    m_Settings.m_PrinterPort = -1;
+    EXPECT_FALSE(Print("text"));
+}
+
 TEST_F(Printing, EightyCharactersAreOneLine) {
     Print(std::string(80, 'x'));
     EXPECT_EQ(Lines(), Texts{"0:" + std::string(80, 'x') + "\r\n"});

@@ -283,6 +283,15 @@ TEST_F(Sound, ATickWhileTheSoundPlaysGoesOn) {
     EXPECT_TRUE(m_LastTickWentOn);
 }
 
+TEST_F(Sound, ThePauseIsCountedFromTheEndOfThePlayOn) {
+    settings.m_EventSoundFileDelay = 1500;
+    Reach(4);
+    for (int tick = 0; tick < 10; ++tick) EXPECT_EQ(Tick(), "");
+    EXPECT_EQ(m_State.m_SoundDelayCounter, 0);
+    m_Device.EndPlay();
+    EXPECT_EQ(TicksUntilPlay(), 3);
+}
+
 TEST_F(Sound, TheLongestDelayDoesNotOverflow) {
     settings.m_EventSoundFileDelay = std::numeric_limits<std::int32_t>::max();
     Reach(4);

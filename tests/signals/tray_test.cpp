@@ -71,6 +71,12 @@ TEST_F(Tray, TheFirstTickSetsTheRestingIconAndItStandsStill) {
     for (int tick = 0; tick < 20; ++tick) EXPECT_EQ(Tick(), "");
 }
 
+TEST_F(Tray, AnAlarmWithAnyMarkCountsAsObserved) {
+    AddAlarm()->m_Observed = 1;
+    EXPECT_EQ(Icons(3), "2 2 2");
+    EXPECT_EQ(m_Area.m_ToolTip, Tip(0));
+}
+
 TEST_F(Tray, WhileAnythingIsNotObservedTheIconChangesOnEveryTick) {
     AddAlarm();
     EXPECT_EQ(Icons(8), "2 1 2 1 2 1 2 1");
@@ -204,6 +210,14 @@ TEST_F(Tray, OpeningBringsTheHiddenWindowBackInItsOrdinaryState) {
     EXPECT_EQ(transcript.Take(),
               "Vigrel_Receiver_Main: normal\nVigrel_Receiver_Main: show\nVigrel_Receiver_Main: focus\n");
     EXPECT_EQ(Log(), "");
+}
+
+TEST_F(Tray, OpeningShowsAWindowThatTakesNoFocusYet) {
+    mainWindow.m_RefusesFocus = true;
+    mainWindow.m_State = eWindowState::Minimised;
+    EXPECT_NO_THROW(m_Area.OnOpen());
+    EXPECT_TRUE(mainWindow.Visible());
+    EXPECT_EQ(mainWindow.State(), eWindowState::Normal);
 }
 
 TEST_F(Tray, OpeningMakesAMaximisedWindowOrdinary) {

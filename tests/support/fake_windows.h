@@ -95,7 +95,7 @@ class cFakeWindowOf : public Port {
         Note("hide");
     }
     void SetFocus() override {
-        if (!m_Visible || m_State == eWindowState::Minimised) {
+        if (!m_Visible || m_State == eWindowState::Minimised || m_RefusesFocus) {
             throw cFailure(eFailure::InvalidCall, m_Name + ": a window that doesn't show takes no focus");
         }
         Note("focus");
@@ -123,6 +123,7 @@ class cFakeWindowOf : public Port {
     double m_Left = 0, m_Top = 0, m_Width = 8000, m_Height = 5000;
     double m_FrameWidth = 120, m_FrameHeight = 510;  // what the frame takes of width and height
     bool m_Visible = false, m_TopMost = false, m_Open = true;
+    bool m_RefusesFocus = false;  // as a window does that its desktop has not brought back yet
 
   protected:
     void Note(const std::string& step) {
