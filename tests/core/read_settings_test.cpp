@@ -148,6 +148,8 @@ TEST_F(SettingsReading, ThePrintersPortAndTheLinksPortAreDifferentKeys) {
     EXPECT_FALSE(s.m_PrinterISOLatConv);
     EXPECT_EQ(s.m_PrinterFormat, "[T0]");
     EXPECT_EQ(ReadPort(ini), 12500);
+    Read("[TCPIP]\r\nPort=70000\r\n");
+    EXPECT_EQ(ReadPort(ini), 70000);
 }
 
 TEST_F(SettingsReading, TheConversionIsOnForAnyNumberButZero) {

@@ -37,6 +37,61 @@ TEST_F(StartUp, TheStepsRunInTheirOrder) {
     EXPECT_TRUE(receiver->State().m_DebugMode);
 }
 
+// Where a start ends tells what came before: captions, another instance's test, title, settings, wave device,
+// switches, notification icon, senders, port.
+TEST_F(StartUp, ASecondInstanceHasItsCaptionsAndNoTitle) {
+    singleInstance.m_Another = true;
+    Load();
+    EXPECT_EQ(menus["Menu_SimAlarm"].caption, "T10009");
+    EXPECT_EQ(mainWindow.m_Caption, "");
+}
+
+TEST_F(StartUp, WithoutTheSuiteLibraryThereIsNoTitle) {
+    runningApps.m_Missing = true;
+    Load();
+    EXPECT_EQ(mainWindow.m_Caption, "");
+}
+
+TEST_F(StartUp, LightsAreLookedForBeforeTheColumnsAreBuilt) {
+    std::string columns = "t0";
+    for (int i = 1; i < 33; ++i) columns += ",t0";
+    Ini("Columns=" + columns + "\r\n");
+    light.m_Version = 2;
+    EXPECT_THROW(Load(), cFailure);
+    EXPECT_EQ(Log(), dashes + "T10040\nT10027 2\nT10046\n");
+}
+
+TEST_F(StartUp, SettingsAreReadBehindTheTitleAndBeforeTheWaveDevice) {
+    Ini("MaxEvents=99999999999\r\n");
+    EXPECT_THROW(Load("/topmost"), cFailure);
+    EXPECT_EQ(transcript.Text(), "Vigrel_Receiver_Main: caption \"T10000 (none) - Version 3.00.04\"\n");
+}
+
+TEST_F(StartUp, SendersAreReadBehindTheNotificationIconAndBeforeTheAlarms) {
+    Ini("ShowInTaskBar=0\r\n", "[Senders]\r\nPLC1=40000\r\n");
+    EXPECT_THROW(Load("/simulate"), cFailure);
+    EXPECT_TRUE(trayArea.m_Visible);
+    EXPECT_TRUE(menus["Menu_Simulate"].visible);
+    EXPECT_EQ(Log(), dashes + "T10040\n");
+}
+
+TEST_F(StartUp, APortOutOfRangeEndsTheStartBehindTheSendersLines) {
+    Ini("", "[Senders]\r\nPLC1=5\r\n[TCPIP]\r\nPort=99999999999\r\n");
+    EXPECT_THROW(Load(), cFailure);
+    EXPECT_EQ(Log(), dashes + "T10040\n0 T10041\nPLC1 - T10013 5 T10014\n");
+    EXPECT_TRUE(messageBox.m_Shown.empty());
+}
+
+TEST_F(StartUp, TheProgramIsReportedAsRunningBehindTheLastLine) {
+    std::int32_t reported = 0;
+    files.m_OnCall = [&](std::string_view, std::string_view path) {
+        if (path.ends_with(".Log")) reported = runningApps.m_States[8];
+    };
+    Load();
+    EXPECT_EQ(reported, 0);
+    EXPECT_EQ(runningApps.m_States[8], -1);
+}
+
 TEST_F(StartUp, TheRandomGeneratorIsSeededFromTheClock) {
     Load();
     EXPECT_EQ(random.m_Seed, clock.Now());
@@ -151,6 +206,19 @@ TEST_F(StartUp, TheListTakesItsFontFromSettingsAndTheDefaultCategory) {
     EXPECT_FALSE(list.m_Style.italic);
 }
 
+TEST_F(StartUp, EveryNumberButZeroMakesTheListBoldOrItalic) {
+    for (const std::string number : {"-1", "2", "0"}) {
+        Ini("FontBold_Inactive=" + number + "\r\nFontItalic_Active=1\r\n");
+        Load();
+        EXPECT_EQ(list.m_Style.bold, number != "0") << number;
+        EXPECT_FALSE(list.m_Style.italic);
+        Ini("FontItalic_Inactive=" + number + "\r\nFontBold_Active=1\r\n");
+        Load();
+        EXPECT_EQ(list.m_Style.italic, number != "0") << number;
+        EXPECT_FALSE(list.m_Style.bold);
+    }
+}
+
 TEST_F(StartUp, TheTitleNamesNoObjectAsNone) {
     Load();
     EXPECT_EQ(mainWindow.m_Caption, "T10000 (none) - Version 3.00.04");
@@ -227,8 +295,7 @@ TEST_F(StartUp, MaximisedAndMinimisedTheFirstActivationMinimises) {
     EXPECT_EQ(mainWindow.m_State, eWindowState::Maximised);
     transcript.Take();
     receiver->Form_Activate();
-    EXPECT_EQ(mainWindow.m_State, eWindowState::Minimised);
-    EXPECT_TRUE(Did("about box"));
+    EXPECT_EQ(transcript.Take(), "Vigrel_Receiver_Main: minimised\nabout box\n");
 }
 
 TEST_F(StartUp, TheFirstActivationShowsTheAboutBoxAndTheNextUnloadsIt) {
@@ -238,6 +305,14 @@ TEST_F(StartUp, TheFirstActivationShowsTheAboutBoxAndTheNextUnloadsIt) {
     EXPECT_EQ(transcript.Take(), "about box\n");
     receiver->Form_Activate();
     EXPECT_EQ(transcript.Take(), "about box unloaded\n");
+}
+
+TEST_F(StartUp, AnActivationByTheAboutBoxItselfShowsNoSecondOne) {
+    Load();
+    transcript.Take();
+    otherWindows.m_OnAboutBox = [this] { receiver->Form_Activate(); };
+    receiver->Form_Activate();
+    EXPECT_EQ(transcript.Take(), "about box\nabout box unloaded\n");
 }
 
 TEST_F(StartUp, AfterAMinimisedStartTheFirstActivationUnloadsTheAboutBox) {

@@ -29,13 +29,16 @@ class cFakeOtherWindows : public cOtherWindows {
         if (m_OnLanguageWindow) m_OnLanguageWindow();
     }
     void ShowDebugWindow(const cTexts&, cReceiverState& state) override {
-        m_Transcript.Add("debug window");
+        m_Transcript.Add(state.m_DebugMode ? "debug window in debug mode" : "debug window");
         m_CloseDebugWindow = [&state] { state.m_DebugMode = false; };
     }
     void WriteTrace(std::string_view text, std::int16_t kind) override {
         m_Trace += std::to_string(kind) + ":" + std::string(text) + ";";
     }
-    void ShowAboutBox(const cTexts&) override { m_Transcript.Add("about box"); }
+    void ShowAboutBox(const cTexts&) override {
+        m_Transcript.Add("about box");
+        if (m_OnAboutBox) m_OnAboutBox();
+    }
     void UnloadAboutBox() override { m_Transcript.Add("about box unloaded"); }
     void ShowNotice(std::string_view text) override { m_Notices.emplace_back(text); }
     void RefuseDialogs() override {
@@ -45,6 +48,7 @@ class cFakeOtherWindows : public cOtherWindows {
     void AllowDialogs() override { m_DialogsRefused = false; }
 
     std::function<void()> m_OnLanguageWindow;
+    std::function<void()> m_OnAboutBox;
     std::function<void()> m_CloseDebugWindow;
     std::string m_Trace;
     std::vector<std::string> m_Notices;
