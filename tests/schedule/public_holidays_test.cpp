@@ -143,6 +143,30 @@ const cYear kYears[] = {
     {"GB-NIR", 2020, "01-01 03-17 04-10 04-13 05-08 05-25 07-12 07-13 08-31 12-25 12-26 12-28"},
     {"GB-NIR", 2024, "01-01 03-17 03-18 03-29 04-01 05-06 05-27 07-12 08-26 12-25 12-26"},
     {"GB-NIR", 2025, "01-01 03-17 04-18 04-21 05-05 05-26 07-12 07-14 08-25 12-25 12-26"},
+    // The last year of the span: no rule ends before it. 1 January is a Saturday, Easter Sunday 10 April.
+    {"NO", 2039, "01-01 04-07 04-08 04-10 04-11 05-01 05-17 05-19 05-29 05-30 12-25 12-26"},
+    {"FI", 2039, "01-01 01-06 04-08 04-10 04-11 05-01 05-19 05-29 06-25 11-05 12-06 12-25 12-26"},
+    {"AT", 2039, "01-01 01-06 04-11 05-01 05-19 05-30 06-09 08-15 10-26 11-01 12-08 12-25 12-26"},
+    {"DE", 2039, "01-01 04-08 04-11 05-01 05-19 05-30 10-03 12-25 12-26"},
+    {"DE-BW", 2039, "01-01 01-06 04-08 04-11 05-01 05-19 05-30 06-09 10-03 11-01 12-25 12-26"},
+    {"DE-BY", 2039, "01-01 01-06 04-08 04-11 05-01 05-19 05-30 06-09 10-03 11-01 12-25 12-26"},
+    {"DE-BE", 2039, "01-01 03-08 04-08 04-11 05-01 05-19 05-30 10-03 12-25 12-26"},
+    {"DE-BB", 2039, "01-01 04-08 04-10 04-11 05-01 05-19 05-29 05-30 10-03 10-31 12-25 12-26"},
+    {"DE-HB", 2039, "01-01 04-08 04-11 05-01 05-19 05-30 10-03 10-31 12-25 12-26"},
+    {"DE-HH", 2039, "01-01 04-08 04-11 05-01 05-19 05-30 10-03 10-31 12-25 12-26"},
+    {"DE-HE", 2039, "01-01 04-08 04-11 05-01 05-19 05-30 06-09 10-03 12-25 12-26"},
+    {"DE-MV", 2039, "01-01 03-08 04-08 04-11 05-01 05-19 05-30 10-03 10-31 12-25 12-26"},
+    {"DE-NI", 2039, "01-01 04-08 04-11 05-01 05-19 05-30 10-03 10-31 12-25 12-26"},
+    {"DE-NW", 2039, "01-01 04-08 04-11 05-01 05-19 05-30 06-09 10-03 11-01 12-25 12-26"},
+    {"DE-RP", 2039, "01-01 04-08 04-11 05-01 05-19 05-30 06-09 10-03 11-01 12-25 12-26"},
+    {"DE-SL", 2039, "01-01 04-08 04-11 05-01 05-19 05-30 06-09 08-15 10-03 11-01 12-25 12-26"},
+    {"DE-SN", 2039, "01-01 04-08 04-11 05-01 05-19 05-30 10-03 10-31 11-16 12-25 12-26"},
+    {"DE-ST", 2039, "01-01 01-06 04-08 04-11 05-01 05-19 05-30 10-03 10-31 12-25 12-26"},
+    {"DE-SH", 2039, "01-01 04-08 04-11 05-01 05-19 05-30 10-03 10-31 12-25 12-26"},
+    {"DE-TH", 2039, "01-01 04-08 04-11 05-01 05-19 05-30 09-20 10-03 10-31 12-25 12-26"},
+    {"GB", 2039, "01-01 01-03 04-08 04-11 05-02 05-30 08-29 12-25 12-26 12-27"},
+    {"GB-SCT", 2039, "01-01 01-02 01-03 01-04 04-08 05-02 05-30 08-01 11-30 12-25 12-26 12-27"},
+    {"GB-NIR", 2039, "01-01 01-03 03-17 04-08 04-11 05-02 05-30 07-12 08-29 12-25 12-26 12-27"},
 };
 
 INSTANTIATE_TEST_SUITE_P(Schedule, HolidaysOfAYear, ::testing::ValuesIn(kYears), [](const auto& year) {
@@ -193,6 +217,24 @@ TEST(PublicHolidays, EvesAreNamedLikeASaturdayAndNotShown) {
     EXPECT_EQ(eve->m_ViewInCalendar, False16);
     EXPECT_EQ(eve->m_DayType, 5);
     EXPECT_EQ(holidays.LabelOf(CalendarIndex(DateSerial(2026, 6, 20)))->m_DayType, 6);
+}
+
+TEST(PublicHolidays, TheNamesOfAYearLastToTheEndOfTheSpan) {
+    const auto namesOf = [](const cHolidays& holidays, int year) {
+        std::set<std::string> names;
+        for (const cHolidayLabel& label : holidays.m_HolidayLabels) {
+            if (SplitDateTime(label.m_Day + kFirstCalendarDay).year == year) names.insert(label.m_Label);
+        }
+        return names;
+    };
+    for (const cHolidayCountry& country : HolidayCountries()) {
+        const cHolidays holidays = PublicHolidays(country.code);
+        const std::set<std::string> last = namesOf(holidays, 2039);
+        for (const std::string& name : namesOf(holidays, 2027)) {
+            if (name.find("(substitute day)") != std::string::npos) continue;
+            EXPECT_TRUE(last.contains(name)) << name;
+        }
+    }
 }
 
 TEST(PublicHolidays, EveryListedCountryHasHolidaysInEveryYear) {

@@ -207,6 +207,7 @@ const cMerge kMerges[] = {
     {"APeriodInsideALaterOneOfTheListDisappears", {{200, 300}, {100, 400}}, "100-400"},
     {"OfTwoEqualOnesOneStays", {{100, 200}, {100, 200}}, "100-200"},
     {"TheListIsNotSorted", {{500, 600}, {100, 200}, {550, 700}}, "500-700 100-200"},
+    {"TheOneThatBeginsFirstKeepsItsPlace", {{540, 600}, {300, 310}, {480, 540}}, "300-310 480-600"},
     {"AnEmptyPeriodAtAnEndDisappears", {{960, 1200}, {1200, 1200}}, "960-1200"},
     {"AnEmptyPeriodByItselfStays", {{100, 200}, {1440, 1440}}, "100-200 1440-1440"},
     {"AChainIsJoinedToTheEnd", {{1, 2}, {3, 4}, {5, 6}, {7, 8}, {2, 7}}, "1-8"},
@@ -466,6 +467,17 @@ TEST(ScheduleMenu, CopyAndPasteBringPeriodsAndGroupFlag) {
     EXPECT_EQ(Periods(bench.m_Schedule, 5), "420-960 970-980");
     EXPECT_TRUE(IsGrouped(bench.m_Schedule, 5));
     EXPECT_EQ(bench.m_Schedule.SelectedDayType(), 5);
+}
+
+TEST(ScheduleMenu, PasteOfADayOutsideTheGroupTakesTheDayOutOfIt) {
+    cScheduleBench bench(cContent().Day(0, {{420, 960}}).Day(5, {{1, 2}}).Grouped({5, 6}));
+    bench.Down(0, 1300, 2);
+    bench.m_Schedule.Copy();
+    bench.Down(5, 1300, 2);
+    bench.m_Schedule.Paste(bench.m_Container, &bench.m_Paint);
+    EXPECT_EQ(Periods(bench.m_Schedule, 5), "420-960");
+    EXPECT_FALSE(IsGrouped(bench.m_Schedule, 5));
+    EXPECT_TRUE(IsGrouped(bench.m_Schedule, 6));
 }
 
 TEST(ScheduleMenu, PasteOnTheCopySourceDoesNothing) {

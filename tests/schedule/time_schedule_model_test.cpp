@@ -69,12 +69,15 @@ TEST(TimeSchedule, AFlagOfAnyOtherNumberIsSavedAsTrue) {
     std::string bytes = cContent().Bytes();
     bytes[0] = 1;
     bytes[1] = 0;
+    bytes[10] = 3;  // Tuesday is grouped
     bytes[184] = 2;
     cBinaryReader reader(bytes);
     cTimeSchedule schedule;
     schedule.ReadFromDisk(reader);
-    cContent expected;
+    cContent expected = cContent().Grouped({1});
     expected.useCalendar = true;
+    EXPECT_EQ(Saved(schedule), expected.Bytes());
+    schedule.m_UseCalendar = 5;
     EXPECT_EQ(Saved(schedule), expected.Bytes());
 }
 

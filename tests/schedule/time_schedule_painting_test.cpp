@@ -181,6 +181,57 @@ TEST(SchedulePainting, AReleasePaintsTheGroupAndThenTheDayItself) {
     EXPECT_EQ(RowsOf(bench.m_Transcript.Text()), "042");
 }
 
+TEST(SchedulePainting, ADragPaintsItsOwnRowThoughAnotherWasChosenMeanwhile) {
+    cScheduleBench bench(cContent().Day(1, {{420, 960}}));
+    bench.Play("left 1 960;right 4 600");
+    bench.m_Transcript.Take();
+    bench.Move(4, 1000);
+    EXPECT_EQ(RowsOf(bench.m_Transcript.Take()), "1");
+    bench.Up();
+    EXPECT_EQ(RowsOf(bench.m_Transcript.Take()), "1");
+}
+
+// What is painted last of a row is what a painting of everything shows there.
+TEST(SchedulePainting, WhatIsPaintedIsMergedAlready) {
+    const std::vector<std::pair<int, int>> touching{{100, 200}, {200, 300}};
+    const auto expectWhole = [](cScheduleBench& bench, int row) {
+        const std::string y = std::to_string(row * 25 + 4);
+        const std::string painted = bench.m_Transcript.Take();
+        const std::size_t last = painted.rfind("line 30 " + y + " 318 " + y + " ");
+        ASSERT_NE(last, std::string::npos) << row;
+        const std::string whole = Row(Painted(bench), row);
+        EXPECT_EQ(painted.substr(last, whole.size()), whole) << row;
+    };
+    cScheduleBench drag(cContent().Day(1, {{100, 200}, {300, 400}}).Grouped({1, 3}));
+    drag.Play("left 1 200;move 1 350;up");
+    expectWhole(drag, 1);
+    drag.Play("left 1 600;move 1 400;up");
+    expectWhole(drag, 3);
+
+    cScheduleBench typed(cContent().Day(1, {{100, 200}, {300, 400}}));
+    typed.Click(1, 150);
+    typed.m_Container.m_Stop = "06:00";
+    typed.m_Schedule.ExtractTimeFromTextboxes(typed.m_Container, &typed.m_Paint);
+    expectWhole(typed, 1);
+
+    cScheduleBench paste(cContent().Day(1, touching));
+    paste.Down(1, 600, 2);
+    paste.m_Schedule.Copy();
+    paste.Down(4, 600, 2);
+    paste.m_Schedule.Paste(paste.m_Container, &paste.m_Paint);
+    expectWhole(paste, 4);
+
+    cScheduleBench erased(cContent().Day(1, {{100, 200}, {200, 300}, {500, 600}}));
+    erased.Down(1, 550);
+    erased.m_Schedule.Delete(erased.m_Container, &erased.m_Paint);
+    expectWhole(erased, 1);
+
+    cScheduleBench joins(cContent().Day(1, touching).Grouped({1}));
+    joins.Down(2, 600, 2);
+    joins.m_Schedule.Group(joins.m_Container, &joins.m_Paint);
+    expectWhole(joins, 2);
+}
+
 TEST(SchedulePainting, TypedTimesPaintTheDayAndThenTheGroup) {
     cScheduleBench bench(cContent().Day(2, {{420, 960}}).Grouped({0, 2, 4}));
     bench.Click(2, 600);
