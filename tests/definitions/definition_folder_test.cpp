@@ -34,6 +34,14 @@ TEST_F(DefinitionFolder, LoadsWhatCanBeReadInTheOrderOfTheIdentities) {
     EXPECT_FALSE(m_Receivers.HasChanges());
 }
 
+TEST_F(DefinitionFolder, TheIdentitiesRiseWhateverOrderTheFolderGives) {
+    m_Files.m_ListsBackwards = true;
+    m_Receivers.Load();
+    ASSERT_EQ(m_Receivers.Count(), 2u);
+    EXPECT_EQ(m_Receivers.At(0).m_DiskIdentity, 7);
+    EXPECT_EQ(m_Receivers.At(1).m_DiskIdentity, 9);
+}
+
 TEST_F(DefinitionFolder, WhatACrashLeftOfASaveGoesAtTheNextLoad) {
     cProfileFolder profiles(m_Services);
     const std::string profile = profiles.At(profiles.Add("Day")).CreateFileName(5);

@@ -92,6 +92,90 @@ TEST_F(Profile, AVersion4FileIsRead) {
     EXPECT_EQ(profile.m_FileDateTimeStamp, 0);
 }
 
+// Every field with a value of its own, so that no two can stand for each other.
+const std::string kDistinctFields =
+    Bytes(
+        "00 00 (reserved)"
+        "01 01 (enabled)"
+        "01 00 4E (name N)"
+        "02 01 03 01 04 01 (states)"
+        "05 01 (use schedule)"
+        "00 00 00 00 (reserved)"
+        "01 00 50 (parallel receivers P)"
+        "01 00 53 (sequential receivers S)"
+        "01 00 61 01 00 62 01 00 63 01 00 64 01 00 65 01 00 66 (conditions a to f)"
+        "06 01 (view day type)"
+        "07 01 (view time axis)"
+        "08 01 (use tag)"
+        "01 00 54 (tag T)"
+        "09 01 (ignore tag)"
+        "0A 01 (use file)"
+        "01 00 46 (file F)"
+        "01 00 58 (text X)"
+        "0B 01 (scan systems)") +
+    [] {
+        std::string systems;
+        for (int i = 0; i < 64; ++i) systems += std::string(1, static_cast<char>(i)) + '\x02';
+        return systems;
+    }();
+
+TEST_F(Profile, EveryFieldHasItsOwnPlaceInTheFile) {
+    const std::string bytes = Bytes("05 00") + kDistinctFields + Bytes("0C 01 6C C1 16 AC 10 82 E6 40") +
+                              std::string(2048, '\0') + kProfileSchedule;
+    cProfile profile(m_Services);
+    Load(profile, bytes);
+    EXPECT_EQ(profile.m_Enabled, 0x101);
+    for (std::int16_t i = 0; i < 3; ++i) EXPECT_EQ(profile.GetState(i), 0x102 + i);
+    EXPECT_EQ(profile.m_UseTimeSchedule, 0x105);
+    EXPECT_EQ(profile.m_ParallellReceivers, "P");
+    EXPECT_EQ(profile.m_SequentialReceivers, "S");
+    for (std::int16_t i = 0; i < 6; ++i)
+        EXPECT_EQ(profile.GetCondition(i), std::string(1, static_cast<char>('a' + i)));
+    EXPECT_EQ(profile.m_TimeSchedule_ViewDayType, 0x106);
+    EXPECT_EQ(profile.m_Calendar_ViewTimeAxis, 0x107);
+    EXPECT_EQ(profile.m_UseExternalTag, 0x108);
+    EXPECT_EQ(profile.m_ExternalTagName, "T");
+    EXPECT_EQ(profile.m_IgnoreExternalTagInOtherProfiles, 0x109);
+    EXPECT_EQ(profile.m_UseExternalFile, 0x10A);
+    EXPECT_EQ(profile.m_ExternalFileName, "F");
+    EXPECT_EQ(profile.m_ExternalFileText, "X");
+    EXPECT_EQ(profile.m_ScanSpecificSystems, 0x10B);
+    for (std::int16_t i = 0; i < 64; ++i) EXPECT_EQ(profile.GetSystem(i), 0x200 + i);
+    EXPECT_EQ(profile.m_OffDutyAlarmBehaviour, 0x10C);
+    EXPECT_TRUE(profile.SaveToDisk());
+    EXPECT_EQ(OnDisk(), bytes);
+    cProfile copy(m_Services);
+    copy.CopyFrom(profile);
+    EXPECT_TRUE(copy.HasSameContentAs(profile));
+    copy.m_DiskIdentity = 12;
+    EXPECT_TRUE(copy.SaveToDisk());
+    EXPECT_EQ(OnDisk(), bytes);
+}
+
+TEST_F(Profile, AVersion4FileHasTheSamePlaces) {
+    cProfile profile(m_Services);
+    profile.m_OffDutyAlarmBehaviour = 0x10C;
+    Load(profile, Bytes("04 00") + kDistinctFields + kProfileSchedule);
+    EXPECT_EQ(OnDisk().substr(2, kDistinctFields.size()), kDistinctFields);
+    EXPECT_EQ(profile.m_ScanSpecificSystems, 0x10B);
+}
+
+TEST_F(Profile, EveryLoadIsRemembered) {
+    for (const std::string& bytes : {Bytes("06 00"), kProfileVersion5.substr(0, 30), kProfileVersion4}) {
+        m_Files.Put(ProfilePath("0012"), bytes);
+        m_Files.m_OnCall = [this](std::string_view operation, std::string_view) {
+            m_Files.m_DiskFull = operation == "write";
+        };
+        cProfile profile(m_Services);
+        profile.SetName("before");
+        profile.LoadFromDisk(12);
+        EXPECT_EQ(profile.m_DiskIdentity, 12);
+        EXPECT_FALSE(profile.HasChangedSinceLastLoadFromDisk());
+        profile.SetName("behind");
+        EXPECT_TRUE(profile.HasChangedSinceLastLoadFromDisk());
+    }
+}
+
 TEST_F(Profile, ALoadGivesAScheduleOfItsOwnInPlaceOfTheOldOne) {
     cProfile profile(m_Services);
     Load(profile, kProfileVersion5);

@@ -203,6 +203,29 @@ TEST_F(Receiver, ARefusedFileStillGivesItsIdentity) {
     EXPECT_EQ(receiver.m_DiskIdentity, 7);
 }
 
+TEST_F(Receiver, ADamagedFileGivesItsIdentityToo) {
+    m_Files.Put(ReceiverPath("0007"), kReceiverVersion5.substr(0, 20));
+    cReceiver receiver(m_Services);
+    EXPECT_FALSE(receiver.LoadFromDisk(7));
+    EXPECT_EQ(receiver.m_DiskIdentity, 7);
+}
+
+// What an object holds behind a load, whole or not, is what it is compared with from then on.
+TEST_F(Receiver, EveryLoadIsRemembered) {
+    for (const std::string& bytes : {Bytes("06 00"), kReceiverVersion5.substr(0, 20), kReceiverVersion3}) {
+        m_Files.Put(ReceiverPath("0007"), bytes);
+        m_Files.m_OnCall = [this](std::string_view operation, std::string_view) {
+            m_Files.m_DiskFull = operation == "write";
+        };
+        cReceiver receiver(m_Services);
+        receiver.m_ReceiverName = "before";
+        receiver.LoadFromDisk(7);
+        EXPECT_FALSE(receiver.HasChangedSinceLastLoadFromDisk());
+        receiver.m_ReceiverName = "behind";
+        EXPECT_TRUE(receiver.HasChangedSinceLastLoadFromDisk());
+    }
+}
+
 TEST_F(Receiver, AVersion3TypeIdBeyond16BitsIsAFailureAndTheFileStays) {
     std::string bytes = kReceiverVersion3;
     bytes[4] = 1;
@@ -433,6 +456,17 @@ TEST_F(Receiver, CopyFromTakesEverythingButTheIdentity) {
     for (std::int16_t i = 0; i < 4; ++i) EXPECT_EQ(copy.GetSetting(i), source.GetSetting(i));
 }
 
+TEST_F(Receiver, ACopyWorksOutTheKeepAliveBeforeItTakesTheSettings) {
+    cReceiver source(m_Services);
+    source.SaveSetting(1, cVariant::Int16(60));
+    source.SetReceiverTypeId(7);
+    cReceiver copy(m_Services);
+    copy.SaveSetting(1, cVariant::Int16(5));
+    copy.CopyFrom(source);
+    EXPECT_EQ(copy.m_KeepAliveInterval, 5);
+    EXPECT_EQ(copy.GetSetting(1), cVariant::Int16(60));
+}
+
 TEST_F(Receiver, ASettingOutside0To3IsABoundsFailure) {
     cReceiver receiver(m_Services);
     for (const std::int16_t index : {std::int16_t{-1}, std::int16_t{4}}) {
@@ -460,6 +494,20 @@ TEST_F(Receiver, TheKeepAliveOfAnXrtIsItsSetting1InAnyCaseOfTheKind) {
         EXPECT_EQ(receiver.m_KeepAliveInterval, 30);
         EXPECT_EQ(receiver.m_LastKeepAlive, m_Clock.Now());
     }
+}
+
+TEST_F(Receiver, AKeepAliveThatIsNoWholeNumberIsRounded) {
+    m_Files.Put("C:\\App\\Tele.INI", "[ReceiverTypeSettings]\r\nT11=10.7\r\n");
+    for (const auto& [text, interval] : {std::pair{"30.7", 31}, {"31.5", 32}, {"30.5", 30}, {"0.4", 0}}) {
+        cReceiver receiver(m_Services);
+        receiver.SaveSetting(1, cVariant::String(text));
+        receiver.SetReceiverTypeId(7);
+        EXPECT_EQ(receiver.m_KeepAliveInterval, interval) << text;
+        EXPECT_EQ(receiver.m_LastKeepAlive > 0, interval > 0) << text;
+    }
+    cReceiver tele(m_Services);
+    tele.SetReceiverTypeId(9);
+    EXPECT_EQ(tele.m_KeepAliveInterval, 11);
 }
 
 TEST_F(Receiver, ASetting1ThatIsNoNumberLeavesTheKeepAliveAtZero) {

@@ -138,6 +138,9 @@ TEST(Variant, TheLargestCurrencyHasItsText) {
     EXPECT_EQ(cVariant::Currency(std::numeric_limits<std::int64_t>::min()).Text(), "-922337203685477.5808");
     EXPECT_EQ(cVariant::Currency(5).Text(), "0.0005");
     EXPECT_EQ(cVariant::Currency(-70000).Text(), "-7");
+    EXPECT_EQ(cVariant::Currency(-5000).Text(), "-0.5");
+    EXPECT_EQ(cVariant::Currency(100100).Text(), "10.01");
+    EXPECT_EQ(cVariant::Currency(0).Text(), "0");
 }
 
 TEST(Variant, ADateOutsideTheCalendarShowsItsDayCount) {

@@ -84,6 +84,12 @@ TEST_F(AlarmExport, TheOldestAlarmComesFirst) {
     EXPECT_EQ(m_Progress, "1/3 2/3 3/3 ");
 }
 
+TEST_F(AlarmExport, AlarmsOfOneMomentKeepTheOrderOfTheirNames) {
+    for (int i = 9; i >= 1; --i) Put("000000" + std::to_string(i), i % 2 == 0 ? 200 : 100);
+    m_Files.m_ListsBackwards = true;
+    EXPECT_EQ(Names(), "135792468");
+}
+
 TEST_F(AlarmExport, EveryTimeHasItsPlaceAndOneThatIsNoDateIsTold) {
     constexpr double kInfinity = std::numeric_limits<double>::infinity();
     Put("0000001", std::numeric_limits<double>::quiet_NaN());

@@ -120,6 +120,52 @@ TEST(Inspection, ProfilesOfEveryVersionFit) {
     }
 }
 
+// The names of the fields of a file, joined by "; ".
+std::string FieldNames(eFileKind kind, const std::string& sample) {
+    std::string names;
+    for (const cField& field : Inspect(kind, "x", Sample(sample)).fields) {
+        if (field.name.starts_with("Monday")) break;
+        names += (names.empty() ? "" : "; ") + field.name;
+    }
+    return names;
+}
+
+TEST(Inspection, EveryFieldOfADefinitionIsNamed) {
+    EXPECT_EQ(
+        FieldNames(eFileKind::Receiver, "receiver_version_4.dat"),
+        "version; identity; enabled; type id; name; setting 0 (text); setting 1 (text); setting 2 (null); "
+        "setting 3 (whole number (8 bits)); reserved; parallel numbers; unread 1; unread 2; unread 3; unread "
+        "4");
+    EXPECT_EQ(FieldNames(eFileKind::Receiver, "receiver_version_5.dat"),
+              "version; identity; enabled; type id; name; setting 0 (whole number (32 bits)); setting 1 "
+              "(number (double)); "
+              "setting 2 (currency); setting 3 (date); reserved; parallel numbers; saved at; filler");
+    std::string profile =
+        "version; reserved 1; enabled; name; state 0; state 1; state 2; use schedule; reserved 2; parallel "
+        "receivers; "
+        "sequential receivers; condition 0; condition 1; condition 2; condition 3; condition 4; condition 5; "
+        "view day type; view time axis; use external tag; external tag; ignore tag in other profiles; use "
+        "external file; "
+        "external file; external file text; scan specific systems";
+    for (int i = 0; i < 64; ++i) profile += "; system " + std::to_string(i);
+    EXPECT_EQ(FieldNames(eFileKind::Profile, "profile_version_4.dat"), profile);
+    EXPECT_EQ(FieldNames(eFileKind::Profile, "profile_version_5.dat"),
+              profile + "; off duty alarm behaviour; saved at; filler");
+}
+
+TEST(Inspection, TheFieldsOfADayTypeAreNamed) {
+    std::string names;
+    for (const cField& field : Inspect(eFileKind::Schedule, "s", ScheduleBytes()).fields)
+        names += field.name + "; ";
+    EXPECT_TRUE(names.starts_with(
+        "Monday active; Monday grouped; Monday periods; Monday axis; Tuesday active; Tuesday grouped; "
+        "Tuesday periods; Tuesday period 1 start; Tuesday period 1 stop; Tuesday axis; Wednesday active; "));
+    EXPECT_NE(names.find("; Sunday axis; special day 1 active; special day 1 grouped; special day 1 periods; "
+                         "special day 1 axis; special day 2 active; "),
+              std::string::npos);
+    EXPECT_TRUE(names.ends_with("special day 16 axis; use calendar; "));
+}
+
 TEST(Inspection, AReceiverShowsTheTypesOfItsSettings) {
     EXPECT_EQ(InspectionText("r", Inspect(eFileKind::Receiver, "r", Sample("receiver_version_3.dat"))),
               "r: receiver, version 3, 30 bytes\n"
@@ -276,6 +322,20 @@ TEST(InspectionJson, IsOneObjectWithFieldsAndProblems) {
               "    {\"offset\": 20, \"field\": null, \"description\": \"more\"}\n"
               "  ]\n"
               "}");
+}
+
+TEST(InspectionJson, ANumberThatIsNoneIsNull) {
+    cInspection inspection{"receiver", 5, 24, {}, {}};
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    inspection.fields = {{"a", 0, 8, std::numeric_limits<double>::quiet_NaN()},
+                         {"b", 8, 8, kInfinity},
+                         {"c", 16, 8, -kInfinity}};
+    const std::string json = InspectionJson("x", inspection);
+    for (const char* name : {"a", "b", "c"}) {
+        const std::size_t field = json.find(std::string("\"name\": \"") + name + "\"");
+        const std::size_t value = json.find("\"value\": ", field);
+        EXPECT_TRUE(json.substr(value).starts_with("\"value\": null}")) << name;
+    }
 }
 
 }  // namespace

@@ -116,6 +116,7 @@ std::vector<std::string> cFakeFiles::ListFiles(std::string_view folder, std::str
             names.push_back(parts.name);
         }
     }
+    if (m_ListsBackwards) std::reverse(names.begin(), names.end());
     return names;
 }
 

@@ -66,6 +66,7 @@ class cFakeFiles : public cFiles {
 
     int m_Calls = 0;                // mutating calls so far
     int m_FailCall = -1;            // the call of this number (from 0) fails; -1: none
+    bool m_ListsBackwards = false;  // folders give their names in any order
     bool m_DiskFull = false;        // writes fail, leaving a partial file
     bool m_FolderReadOnly = false;  // creating, renaming and removing fails
     std::function<void(std::string_view operation, std::string_view path)> m_OnCall;
