@@ -12,7 +12,7 @@ packages=(
 )
 # Checking what lands: formatting, windows under a real window manager, sound, printing.
 test_packages=(
-    git ccache clang-format libgtest-dev libbenchmark-dev
+    git ccache clang-format python3 libgtest-dev libbenchmark-dev
     xvfb openbox xdotool x11-utils wmctrl trayer imagemagick dbus-daemon
     pulseaudio pulseaudio-utils cups cups-client
 )

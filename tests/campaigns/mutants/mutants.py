@@ -1,0 +1,188 @@
+#!/usr/bin/env python3
+"""Breaks one place of the logic at a time and looks whether a test notices.
+
+    tests/campaigns/mutants/mutants.py [FOLDER...] [--number N] [--seed S] [--since COMMIT] [--again] [--list] [--life]
+
+A place is a comparison or its boundary, a constant, a default, the order of two statements, a call or an assignment, a
+condition, a "!", an operator. Each is broken in a copy of the sources (build/mutants), what depends on it is built there,
+and the tests of the folder and of those that use it run, until one fails. A change that makes them ten times as slow is
+noticed too. What survived is listed, and told apart from what tests/campaigns/mutants/equivalent.txt names with the
+reason why it changes nothing.
+
+FOLDER       folders of src; all of the logic unless told
+--number N   so many places of each folder, chosen at random; all of them unless told
+--seed S     another choice of places (1)
+--since C    only places on lines that differ from the commit C
+--again      try those again that survived, and those that were tried before their file changed
+--life       let survivors face the whole lives of a station too, which takes half a minute each
+--list       only list the places
+--jobs N     compilers at once (2)
+
+What was tried is kept in build/mutants/tried.json, so that a campaign that is cut off goes on where it stopped.
+"""
+import argparse
+import collections
+import datetime
+import hashlib
+import json
+import pathlib
+import random
+import re
+import subprocess
+import sys
+
+sys.dont_write_bytecode = True
+import changes  # noqa: E402
+import trial  # noqa: E402
+
+ROOT = pathlib.Path(__file__).resolve().parents[3]
+HERE = pathlib.Path(__file__).resolve().parent
+LOGIC = ("common", "categories", "events", "signals", "link", "core", "schedule", "definitions", "tool_support")
+# Programs that test what stands on a folder of the logic, besides the folder's own.
+TOOLS = {"definitions": ["inspect_tests"], "events": ["inspect_tests"], "core": ["receiver_check_tests"],
+         "tool_support": ["inspect_tests", "receiver_check_tests"], "categories": ["receiver_check_tests"]}
+
+
+def users(folder, page=None):
+    """The folders that include one, itself first: by the table of allowed includes."""
+    page = page or (ROOT / "docs" / "ARCHITECTURE.md").read_text()
+    table = page.split("<!-- edges:begin -->")[1].split("<!-- edges:end -->")[0]
+    edges = {row[0].strip(): row[1].split() for row in re.findall(r"^\| (\S+) \|(.*?)\|$", table, re.M)}
+    return [folder] + [name for name in LOGIC if name != folder and folder in edges.get(name, [])]
+
+
+def programs_of(folder):
+    programs = [f"{name}_tests" for name in users(folder)]
+    return programs + [name for name in TOOLS.get(folder, []) if name not in programs]
+
+
+def changed_lines(commit):
+    """The lines of each file that differ from a commit."""
+    said = subprocess.run(["git", "diff", "-U0", commit, "--", "src"], cwd=ROOT, check=True, capture_output=True,
+                          text=True).stdout
+    lines, name = collections.defaultdict(set), ""
+    for line in said.splitlines():
+        if line.startswith("+++ b/"):
+            name = line[6:]
+        found = re.match(r"@@ -\S+ \+(\d+)(?:,(\d+))? @@", line)
+        if found:
+            first, count = int(found.group(1)), int(found.group(2) or 1)
+            lines[name].update(range(first, first + count))
+    return lines
+
+
+def equivalents(text=None):
+    """What changes nothing: the name of a place, and why."""
+    text = (HERE / "equivalent.txt").read_text() if text is None else text
+    found, name = {}, ""
+    for line in text.splitlines():
+        if line.startswith("src/"):
+            name = line
+            found[name] = ""
+        elif line.startswith("    ") and name:
+            found[name] += line[3:]
+    return found
+
+
+def places(folder):
+    """(name, file, change) of every place of a folder."""
+    for path in sorted([*(ROOT / "src" / folder).glob("*.cpp"), *(ROOT / "src" / folder).glob("*.h")]):
+        file = str(path.relative_to(ROOT))
+        for change in changes.changes(path.read_text()):
+            yield f"{file}: {change.name}", file, change
+
+
+class Tried:
+    """What became of each place, by its name and the content of its file."""
+
+    def __init__(self):
+        self.path = ROOT / "build" / "mutants" / "tried.json"
+        self.known = json.loads(self.path.read_text()) if self.path.exists() else {}
+
+    @staticmethod
+    def stamp(file):
+        return hashlib.sha256((ROOT / file).read_bytes()).hexdigest()[:16]
+
+    def outcome(self, name, file, again):
+        entry = self.known.get(name)
+        if not entry or (again and (entry["outcome"] == "survived" or entry["file"] != self.stamp(file))):
+            return None
+        return entry["outcome"]
+
+    def note(self, name, file, outcome, by):
+        self.known[name] = {"outcome": outcome, "by": by, "file": self.stamp(file)}
+        self.path.parent.mkdir(parents=True, exist_ok=True)
+        beside = self.path.with_suffix(".new")
+        beside.write_text(json.dumps(self.known, indent=1))
+        beside.rename(self.path)
+
+
+def chosen(folder, wish, lines):
+    found = [place for place in places(folder) if lines is None or place[2].line in lines[place[1]]]
+    if wish.number is not None and wish.number < len(found):
+        found = random.Random(f"{wish.seed} {folder}").sample(found, wish.number)
+    return sorted(found, key=lambda place: (place[1], place[2].start))
+
+
+def try_all(folders, wish, tried, known):
+    lines = changed_lines(wish.since) if wish.since else None
+    work = {folder: chosen(folder, wish, lines) for folder in folders}
+    untried = {folder: [place for place in work[folder] if place[0] not in known and
+                        tried.outcome(place[0], place[1], wish.again) is None] for folder in folders}
+    needed = [program for folder in folders if untried[folder] for program in programs_of(folder)]
+    needed += ["life_tests"] if wish.life and needed else []
+    if needed:
+        bench = trial.Trial(ROOT, wish.jobs)
+        bench.prepare(list(dict.fromkeys(needed)))
+    for folder in folders:
+        for number, (name, file, change) in enumerate(untried[folder], 1):
+            source = (ROOT / file).read_text()
+            programs = programs_of(folder) + (["life_tests"] if wish.life else [])
+            outcome, by = bench.outcome(file, change.made(source), programs)
+            tried.note(name, file, outcome, by)
+            print(f"{folder} {number}/{len(untried[folder])} {outcome:8} {file}:{change.line}: {change.name} {by}", flush=True)
+    return work
+
+
+def report(work, tried, known):
+    print(f"\n{datetime.date.today()}\n| folder | places | tried | refused | equivalent | noticed | survived | rate |\n"
+          "|---|---|---|---|---|---|---|---|")
+    left = []
+    for folder, found in work.items():
+        outcomes = collections.Counter(
+            "equivalent" if name in known else tried.outcome(name, file, False) for name, file, _ in found)
+        judged = outcomes["noticed"] + outcomes["survived"]
+        rate = f"{100 * outcomes['noticed'] / judged:.1f} %" if judged else "-"
+        print(f"| {folder} | {sum(1 for _ in places(folder))} | {len(found)} | {outcomes['refused']} | "
+              f"{outcomes['equivalent']} | {outcomes['noticed']} | {outcomes['survived']} | {rate} |")
+        left += [f"{file}:{change.line}: {change.name}" for name, file, change in found
+                 if name not in known and tried.outcome(name, file, False) == "survived"]
+    print("\nSurvived:" if left else "\nNothing survived.")
+    print("\n".join(left))
+    return left
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter,
+                                     usage=argparse.SUPPRESS)
+    parser.add_argument("folders", nargs="*", choices=[[], *LOGIC], metavar="FOLDER", help=argparse.SUPPRESS)
+    for option, kind in (("--number", int), ("--seed", int), ("--since", str), ("--jobs", int)):
+        parser.add_argument(option, type=kind, help=argparse.SUPPRESS)
+    for option in ("--again", "--list", "--life"):
+        parser.add_argument(option, action="store_true", help=argparse.SUPPRESS)
+    parser.set_defaults(seed=1, jobs=2)
+    wish = parser.parse_args()
+    folders, known = wish.folders or list(LOGIC), equivalents()
+    if wish.list:
+        lines = changed_lines(wish.since) if wish.since else None
+        for folder in folders:
+            for name, file, change in chosen(folder, wish, lines):
+                print(f"{file}:{change.line}: {change.name}" + (" (equivalent)" if name in known else ""))
+        return 0
+    tried = Tried()
+    work = try_all(folders, wish, tried, known)
+    return 1 if report(work, tried, known) else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
