@@ -1,14 +1,8 @@
 // A flood of alarms that is cut by the end of the station, at random moments.
 
-#include <arpa/inet.h>
 #include <gtest/gtest.h>
-#include <netinet/in.h>
 #include <signal.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
-#include <algorithm>
-#include <array>
 #include <atomic>
 #include <chrono>
 #include <cstdlib>
@@ -17,6 +11,7 @@
 #include <thread>
 
 #include "e2e/station.h"
+#include "e2e/tcp_client.h"
 #include "link/frame.h"
 
 namespace vigrel::testing {
@@ -25,35 +20,6 @@ namespace {
 constexpr std::string_view kPositiveReply =
     "\x04"
     "04\n\r";
-
-// A bare connection that knows of a reset and minds it not.
-class cTcpClient {
-  public:
-    explicit cTcpClient(int port) : m_Socket(socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
-        sockaddr_in address{};
-        address.sin_family = AF_INET;
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        address.sin_port = htons(static_cast<std::uint16_t>(port));
-        EXPECT_EQ(connect(m_Socket, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
-    }
-    ~cTcpClient() { close(m_Socket); }
-    cTcpClient(const cTcpClient&) = delete;
-    cTcpClient& operator=(const cTcpClient&) = delete;
-
-    // False when the connection has ended.
-    bool Send(std::string_view bytes) const {
-        return send(m_Socket, bytes.data(), bytes.size(), MSG_NOSIGNAL) > 0;
-    }
-    // What has arrived; waits for it, and is empty at the end of the connection.
-    std::string ReadSome() const {
-        std::array<char, 4096> buffer;
-        const ssize_t count = recv(m_Socket, buffer.data(), buffer.size(), 0);
-        return {buffer.data(), static_cast<std::size_t>(std::max<ssize_t>(count, 0))};
-    }
-
-  private:
-    int m_Socket;
-};
 
 // Sends alarms as fast as the station takes them, and counts the answers as they come: what a connection
 // holds unread when it is reset is gone.
@@ -78,7 +44,7 @@ class cFlood {
     void Send() {
         std::string frames;
         for (int i = 0; i < 50; ++i) frames += MakeFrame("Flood", "S1||a flood of alarms||Technical");
-        while (m_Client.Send(frames)) {
+        while (m_Client.TrySend(frames)) {
         }
     }
 

@@ -1,17 +1,14 @@
 // Senders that don't wait, and peers that don't mean well: the real program over real sockets.
 
-#include <arpa/inet.h>
 #include <gtest/gtest.h>
-#include <netinet/in.h>
 #include <signal.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
 #include <atomic>
 #include <chrono>
 #include <thread>
 
 #include "e2e/station.h"
+#include "e2e/tcp_client.h"
 #include "link/frame.h"
 
 namespace vigrel::testing {
@@ -29,63 +26,6 @@ std::string Burst(int count) {
     return frames;
 }
 
-// One connection of a sender that reads nothing unless it is told to.
-class cSender {
-  public:
-    explicit cSender(int port) : m_Socket(socket(AF_INET, SOCK_STREAM, 0)) {
-        sockaddr_in address{};
-        address.sin_family = AF_INET;
-        address.sin_port = htons(static_cast<std::uint16_t>(port));
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        m_Connected = connect(m_Socket, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
-    }
-    ~cSender() { Leave(); }
-    cSender(const cSender&) = delete;
-    cSender& operator=(const cSender&) = delete;
-    bool Connected() const { return m_Connected; }
-    // False when the connection ended before all was sent.
-    bool TrySend(const std::string& bytes) const {
-        for (std::size_t sent = 0; sent < bytes.size();) {
-            const ssize_t count = send(m_Socket, bytes.data() + sent, bytes.size() - sent, MSG_NOSIGNAL);
-            if (count <= 0) return false;
-            sent += static_cast<std::size_t>(count);
-        }
-        return true;
-    }
-    void Send(const std::string& bytes) const { ASSERT_TRUE(TrySend(bytes)); }
-    void EndSending() const { shutdown(m_Socket, SHUT_WR); }
-    void Leave() {
-        if (m_Socket >= 0) close(m_Socket);
-        m_Socket = -1;
-    }
-    // Everything until the station ends the connection, or nothing comes for ten seconds.
-    std::string ReadToTheEnd() const {
-        SetPatience();
-        std::string received;
-        char chunk[4096];
-        for (ssize_t count = 1; count > 0;) {
-            count = recv(m_Socket, chunk, sizeof chunk, 0);
-            if (count > 0) received.append(chunk, static_cast<std::size_t>(count));
-        }
-        return received;
-    }
-    // Ended by the station within ten seconds, without a reply.
-    bool IsEndedInSilence() const {
-        SetPatience();
-        char byte = 0;
-        return recv(m_Socket, &byte, 1, 0) == 0;
-    }
-
-  private:
-    void SetPatience() const {
-        const timeval patience{10, 0};
-        setsockopt(m_Socket, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
-    }
-
-    int m_Socket;
-    bool m_Connected = false;
-};
-
 // In memory, where an alarm is stored in a tenth of the time that a disk takes.
 class HastySenders : public ::testing::Test {
   protected:
@@ -95,12 +35,6 @@ class HastySenders : public ::testing::Test {
     }
 
   private:
-    struct cTemporaryInMemory {
-        cTemporaryInMemory() { setenv("TMPDIR", "/dev/shm", 1); }
-        ~cTemporaryInMemory() { unsetenv("TMPDIR"); }
-        cTemporaryInMemory(const cTemporaryInMemory&) = delete;
-        cTemporaryInMemory& operator=(const cTemporaryInMemory&) = delete;
-    };
     cTemporaryInMemory m_TemporaryInMemory;  // when the station makes its folder
 
   protected:
@@ -121,7 +55,7 @@ TEST_F(HastySenders, ABurstThatIsSentAndClosedAtOnceIsStoredWhole) {
     std::size_t expected = 0;
     ASSERT_NO_FATAL_FAILURE(StartStation());
     for (const int count : {100, 500, 1000, 2000}) {
-        cSender sender(m_Station.m_Port);
+        cTcpClient sender(m_Station.m_Port);
         sender.Send(Burst(count));
         sender.Leave();
         expected += static_cast<std::size_t>(count);
@@ -132,7 +66,7 @@ TEST_F(HastySenders, ABurstThatIsSentAndClosedAtOnceIsStoredWhole) {
 
 TEST_F(HastySenders, OneThatEndedItsSendingGetsEveryReply) {
     ASSERT_NO_FATAL_FAILURE(StartStation());
-    const cSender sender(m_Station.m_Port);
+    const cTcpClient sender(m_Station.m_Port);
     sender.Send(Burst(500));
     sender.EndSending();
     std::string expected;
@@ -143,7 +77,7 @@ TEST_F(HastySenders, OneThatEndedItsSendingGetsEveryReply) {
 
 TEST_F(HastySenders, OneThatLeavesWhileItsBurstIsWorkedOnLosesNothing) {
     ASSERT_NO_FATAL_FAILURE(StartStation());
-    cSender sender(m_Station.m_Port);
+    cTcpClient sender(m_Station.m_Port);
     sender.Send(Burst(1000));
     // Some replies have come and lie unread: the close that follows is a reset.
     ASSERT_GT(StoredAlarms(m_Station, 50), 0u);
@@ -154,7 +88,7 @@ TEST_F(HastySenders, OneThatLeavesWhileItsBurstIsWorkedOnLosesNothing) {
 TEST_F(HastySenders, AShortCallIsStoredThoughTheNextOneComesAtOnce) {
     ASSERT_NO_FATAL_FAILURE(StartStation());
     for (int i = 0; i < 200; ++i) {
-        cSender sender(m_Station.m_Port);
+        cTcpClient sender(m_Station.m_Port);
         sender.Send(Burst(3));
         sender.Leave();
     }
@@ -165,7 +99,7 @@ TEST_F(HastySenders, AShortCallIsStoredThoughTheNextOneComesAtOnce) {
 TEST_F(HastySenders, BurstsFromOneConnectionAfterTheOtherAreStoredWhole) {
     ASSERT_NO_FATAL_FAILURE(StartStation());
     for (int i = 0; i < 2; ++i) {
-        cSender sender(m_Station.m_Port);
+        cTcpClient sender(m_Station.m_Port);
         sender.Send(Burst(2000));
         sender.Leave();
     }
@@ -174,9 +108,9 @@ TEST_F(HastySenders, BurstsFromOneConnectionAfterTheOtherAreStoredWhole) {
 
 TEST_F(HastySenders, WhatAConnectionDeliveredIsStoredThoughAnotherTakesItsPlace) {
     ASSERT_NO_FATAL_FAILURE(StartStation());
-    const cSender stays(m_Station.m_Port);
+    const cTcpClient stays(m_Station.m_Port);
     stays.Send(Burst(2000));
-    const cSender next(m_Station.m_Port);
+    const cTcpClient next(m_Station.m_Port);
     next.Send(Burst(1));
     next.EndSending();
     EXPECT_EQ(next.ReadToTheEnd(), std::string(kPositive) + std::string(kReplyEnd));
@@ -191,7 +125,7 @@ TEST_F(HastySenders, ALineAtTheLimitIsNotMadeTooLongByTheLinesBehindIt) {
     ASSERT_EQ(longest.size(), 32'767u);
     std::string behind;
     for (int i = 0; i < 200; ++i) behind += MakeFrame("PLC1", "S1|||behind").insert(20, "\r");
-    const cSender sender(m_Station.m_Port);
+    const cTcpClient sender(m_Station.m_Port);
     sender.Send(longest.substr(0, 4000));
     std::this_thread::sleep_for(std::chrono::milliseconds(300));
     sender.Send(longest.substr(4000) + behind);
@@ -204,11 +138,11 @@ TEST_F(HastySenders, ALineAtTheLimitIsNotMadeTooLongByTheLinesBehindIt) {
 // Nobody's line: it is given up, and the next sender is served.
 TEST_F(HastySenders, AStreamThatNeverEndsALineIsClosed) {
     ASSERT_NO_FATAL_FAILURE(StartStation());
-    const cSender endless(m_Station.m_Port);
+    const cTcpClient endless(m_Station.m_Port);
     for (int i = 0; i < 1024; ++i) endless.Send(std::string(1024, 'x'));
     endless.TrySend("x");
     EXPECT_TRUE(endless.IsEndedInSilence());
-    const cSender next(m_Station.m_Port);
+    const cTcpClient next(m_Station.m_Port);
     next.Send(Burst(1));
     next.EndSending();
     EXPECT_EQ(next.ReadToTheEnd(), std::string(kPositive) + std::string(kReplyEnd));
@@ -220,7 +154,7 @@ TEST_F(HastySenders, AStormOfConnectionsKeepsNoAlarmFromTheDisk) {
     std::atomic<bool> over = false;
     std::thread storm([&] {
         while (!over) {
-            const cSender knock(m_Station.m_Port);
+            const cTcpClient knock(m_Station.m_Port);
             std::this_thread::sleep_for(std::chrono::microseconds(300));
         }
     });
@@ -228,7 +162,7 @@ TEST_F(HastySenders, AStormOfConnectionsKeepsNoAlarmFromTheDisk) {
     // again.
     std::size_t answered = 0;
     for (int i = 0; i < 3000 && answered < 50; ++i) {
-        const cSender sender(m_Station.m_Port);
+        const cTcpClient sender(m_Station.m_Port);
         if (!sender.TrySend(Burst(1))) continue;
         sender.EndSending();
         if (sender.ReadToTheEnd() == std::string(kPositive) + std::string(kReplyEnd)) ++answered;
@@ -244,7 +178,7 @@ TEST_F(HastySenders, AStationAtOneAddressIsReachedThereAlone) {
     m_Station.Configure("[General]\r\n");
     m_Station.m_Address = "127.0.0.2";
     ASSERT_TRUE(m_Station.Start()) << m_Station.StandardError();
-    EXPECT_FALSE(cSender(m_Station.m_Port).Connected());
+    EXPECT_FALSE(cTcpClient(m_Station.m_Port).Connected());
     EXPECT_EQ(m_Station.Send({"--host", "127.0.0.2", "--t0", "alarm"}).exitCode, 0);
     EXPECT_TRUE(m_Station.WaitForLog("T10017 127.0.0.2 " + std::to_string(m_Station.m_Port) + " T10018"));
 }

@@ -1,14 +1,9 @@
 // A station that is killed at random moments: while it takes alarms, with and without its limit reached,
 // while it ends, and while it starts.
 
-#include <arpa/inet.h>
 #include <gtest/gtest.h>
-#include <netinet/in.h>
 #include <signal.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
-#include <array>
 #include <chrono>
 #include <cstdlib>
 #include <random>
@@ -18,6 +13,7 @@
 #include <thread>
 
 #include "e2e/station.h"
+#include "e2e/tcp_client.h"
 #include "link/frame.h"
 
 namespace vigrel::testing {
@@ -42,34 +38,21 @@ class cNumberedAlarms {
 
     // Up to so many, or to the end of the connection.
     void Send(int port, int count) {
-        const int descriptor = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-        sockaddr_in address{};
-        address.sin_family = AF_INET;
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        address.sin_port = htons(static_cast<std::uint16_t>(port));
-        if (connect(descriptor, reinterpret_cast<sockaddr*>(&address), sizeof address) == 0) {
-            const int first = m_Sent;
-            while (m_Sent - first < count && SendSome(descriptor)) {
-            }
+        const cTcpClient client(port);
+        const int first = m_Sent;
+        while (client.Connected() && m_Sent - first < count && SendSome(client)) {
         }
-        close(descriptor);
     }
 
   private:
     static constexpr int kTogether = 10;
 
-    bool SendSome(int descriptor) {
+    bool SendSome(const cTcpClient& client) {
         std::string frames;
         for (int i = 0; i < kTogether; ++i)
             frames += MakeFrame("Killer", "S1||<" + std::to_string(++m_Sent) + ">||Technical");
-        if (send(descriptor, frames.data(), frames.size(), MSG_NOSIGNAL) < 0) return false;
-        std::string answers;
-        std::array<char, 256> buffer;
-        while (answers.size() < kTogether * kAnswer.size()) {
-            const ssize_t count = recv(descriptor, buffer.data(), buffer.size(), 0);
-            if (count <= 0) break;
-            answers.append(buffer.data(), static_cast<std::size_t>(count));
-        }
+        if (!client.TrySend(frames)) return false;
+        const std::string answers = client.Read(kTogether * kAnswer.size());
         const int answered = static_cast<int>(answers.size() / kAnswer.size());
         if (answered > 0) m_Answered = m_Sent - kTogether + answered;
         m_Answers += answered;
