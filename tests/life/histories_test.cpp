@@ -8,8 +8,8 @@
 #include <memory>
 #include <random>
 
+#include "life/line_maker.h"
 #include "life/naive_station.h"
-#include "link/frame.h"
 #include "support/fake_receiver.h"
 #include "support/faulty_files.h"
 
@@ -151,7 +151,7 @@ std::string Told(const cEvent& event) {
            cFakeDataSocket::Visible(event.bytes);
 }
 
-// Makes histories: mostly good frames, and everything that is nearly one.
+// Makes histories, mostly of lines that arrive.
 class cHistoryMaker {
   public:
     explicit cHistoryMaker(unsigned seed) : m_Draw(seed) {}
@@ -180,67 +180,15 @@ class cHistoryMaker {
     // Some lines, cut into chunks anywhere.
     void AppendArrivals(cHistory& history) {
         std::string bytes;
-        for (int lines = 1 + Below(3); lines > 0; --lines) bytes += Line() + LineEnd();
+        for (int lines = 1 + Below(3); lines > 0; --lines) bytes += m_Lines.Line() + m_Lines.LineEnd();
         while (!bytes.empty()) {
             const std::size_t count = Below(3) == 0 ? 1 + m_Draw() % bytes.size() : bytes.size();
             history.push_back({eKind::Arrive, bytes.substr(0, count)});
             bytes.erase(0, count);
         }
     }
-    std::string LineEnd() {
-        constexpr const char* kEnds[] = {"\n", "\r\n", "\n\r", "\n\n", "\r\r\n"};
-        return kEnds[Below(5)];
-    }
-    std::string Sender() {
-        constexpr const char* kSenders[] = {"PLC1", "plc1", "PLC2", "PLC3", "Plc2", "other", "", " PLC1"};
-        return kSenders[Below(8)];
-    }
-    std::string Record() {
-        constexpr const char* kKinds[] = {"S0", "S1", "S2", "S3", "S1", "S1", "s1", "S4", "", "S"};
-        std::string kind = kKinds[Below(10)];
-        if (Below(5) == 0) return kind;
-        constexpr const char* kBlanks[] = {"", " ", "  "};
-        return kind + "2026-03-15|12:00:00|" + kBlanks[Below(3)] + "a" + std::to_string(++m_Alarms) +
-               kBlanks[Below(3)] + (Below(2) == 0 ? "|b|c|d|e|f|g" : "");
-    }
-    std::string Line() {
-        const std::string counted = Sender() + "\xFF" + Record();
-        std::string frame = "\x02" + counted + "\xFF" + CalcChecksum(counted) + "\x03";
-        switch (Below(16)) {
-            case 0:
-                return "\x02" + counted + "\xFF" + "0" + "\x03";
-            case 1:
-                return frame.substr(1);
-            case 2:
-                return frame.substr(0, frame.size() - 1);
-            case 3:
-                return std::string(kPositive);
-            case 4:
-                return std::string(kNegative);
-            case 5:
-                return std::string(kNegative) + " ";
-            case 6:
-                return "";
-            case 7:
-                return "\x02" + counted + "\xFF" + CalcChecksum(counted) + "more\xFFstill more\x03";
-            case 8:
-                return frame.substr(0, frame.size() / 2) + "\r" + frame.substr(frame.size() / 2);
-            case 9:
-                return "\x02\x03";
-            case 10:
-                return Garbage();
-            default:
-                return frame;
-        }
-    }
-    std::string Garbage() {
-        std::string bytes;
-        for (int i = Below(12); i > 0; --i) bytes += static_cast<char>(Below(256));
-        return Below(2) == 0 ? "\x02" + bytes + "\x03" : bytes;
-    }
-
     std::mt19937 m_Draw;
-    int m_Alarms = 0;
+    cLineMaker m_Lines{m_Draw};
 };
 
 // Where they disagree, and on what; the history's length for nowhere.
