@@ -58,7 +58,8 @@ class cFileReader {
     // All of those names in one row, whatever can be read of them, for who tells of each file as it is read:
     // that costs no look at any. Throws when the folder can't be listed.
     virtual std::vector<std::string> ListNames(std::string_view folder, std::string_view mask) const = 0;
-    // The path as it is spelled on the disk; as it is given where nothing of that name is there.
+    // The path as it is spelled on the disk; as it is given where nothing of that name is there. Throws when
+    // that can't be found out.
     virtual std::string Spelling(std::string_view path) const = 0;
 
     // Identifies the content of a file without reading it: changes whenever the file is replaced or written.

@@ -7,6 +7,7 @@
 
 #include "common/ini.h"
 #include "contract/files_contract.h"
+#include "support/no_descriptors.h"
 #include "support/temporary_folder.h"
 
 namespace vigrel::testing {
@@ -42,6 +43,34 @@ TEST(LinuxFiles, AnExactNameIsPreferredToOneInAnotherCase) {
     files.WriteFile(folder.Folder() + "X.TXT", "upper", false);
     EXPECT_EQ(files.ReadFile(folder.Folder() + "x.txt"), "lower");
     EXPECT_EQ(files.ReadFile(folder.Folder() + "X.TXT"), "upper");
+}
+
+// A machine can run out of descriptors for a while. A file that is spelled in another way is not missing
+// then: what takes it for missing makes a second one, which wins ever after.
+TEST(LinuxFiles, WithoutDescriptorsNoNameIsTakenForMissing) {
+    for (const auto& [given, there] :
+         {std::pair{"VigrelReceiver.INI", "vigrelreceiver.ini"}, std::pair{"A0000001.alm", "A0000001.Alm"}}) {
+        cTemporaryFolder folder;
+        cLinuxFiles files;
+        const std::string path = folder.Folder() + given;
+        files.WriteFile(folder.Folder() + there, "[General]\r\nLanguage=046\r\n", false);
+        const auto read = [&] {
+            const auto failure = CatchFailure([&] { files.ReadFile(path); });
+            return failure ? std::optional(failure->Number()) : std::nullopt;
+        };
+        EXPECT_EQ(read(), std::nullopt);
+        {
+            const cNoDescriptors none;
+            EXPECT_EQ(read(), eFailure::InputOutput);
+            EXPECT_THROW(files.Spelling(path), cFailure);
+            EXPECT_THROW(files.WriteFile(path, "", false), cFailure);
+            EXPECT_THROW(files.RemoveFile(path), cFailure);
+            EXPECT_FALSE(files.FileExists(path));
+            EXPECT_EQ(files.Stamp(path).size, -1);
+        }
+        EXPECT_EQ(read(), std::nullopt);
+        EXPECT_EQ(files.ListFiles(folder.Folder(), "*"), std::vector<std::string>{there});
+    }
 }
 
 // Names of few letters are tried, others searched for.

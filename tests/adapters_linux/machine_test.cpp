@@ -19,6 +19,7 @@
 #include "adapters/linux/standard_random.h"
 #include "adapters/linux/system_clock.h"
 #include "common/dates.h"
+#include "support/no_descriptors.h"
 #include "support/temporary_folder.h"
 
 namespace vigrel::testing {
@@ -148,6 +149,18 @@ TEST(FolderLock, AFileThatCannotBeOpenedIsToldAndDoesNotStandInTheWay) {
     EXPECT_FALSE(lock.AnotherIsRunning());
     EXPECT_EQ(lock.Problem(), "");
     EXPECT_TRUE(cFolderLock(folder.Folder()).AnotherIsRunning());
+}
+
+TEST(FolderLock, AMachineWithoutDescriptorsIsToldAndDoesNotStandInTheWay) {
+    cTemporaryFolder folder;
+    cFolderLock lock(folder.Folder());
+    {
+        const cNoDescriptors none;
+        EXPECT_FALSE(lock.AnotherIsRunning());
+    }
+    EXPECT_EQ(lock.Problem(), folder.Path().string() + "/: Too many open files");
+    EXPECT_FALSE(lock.AnotherIsRunning());
+    EXPECT_EQ(lock.Problem(), "");
 }
 
 TEST(FolderLock, TwoFoldersAreTwoStations) {

@@ -1,6 +1,5 @@
 #include <arpa/inet.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -15,6 +14,7 @@
 #include "adapters/qt/qt_data_socket.h"
 #include "adapters/qt/qt_listener.h"
 #include "contract/socket_contract.h"
+#include "support/no_descriptors.h"
 #include "support/qt_wait.h"
 
 namespace vigrel::testing {
@@ -420,20 +420,15 @@ TEST_F(QtSockets, RequestsThatNobodyTakesLeaveNoDescriptor) {
 }
 
 TEST_F(QtSockets, AMachineWithoutDescriptorsIsAskedAgain) {
-    rlimit usual{};
-    getrlimit(RLIMIT_NOFILE, &usual);
     const cBluntPeer peer(m_Rig.m_Listener.LocalPort());
     // A sanitizer that meets a type for the first time needs descriptors to look at it; it has seen this one
     // then.
     QSocketNotifier(STDIN_FILENO, QSocketNotifier::Read).setEnabled(false);
-    rlimit none = usual;
-    const int next = dup(STDERR_FILENO);
-    close(next);
-    none.rlim_cur = static_cast<rlim_t>(next);
-    setrlimit(RLIMIT_NOFILE, &none);
-    RunEvents(50);
-    EXPECT_EQ(m_Rig.m_Data.State(), 0);
-    setrlimit(RLIMIT_NOFILE, &usual);
+    {
+        const cNoDescriptors none;
+        RunEvents(50);
+        EXPECT_EQ(m_Rig.m_Data.State(), 0);
+    }
     EXPECT_TRUE(WaitUntil([&] { return m_Rig.m_Data.State() != 0; }, 5000));
 }
 

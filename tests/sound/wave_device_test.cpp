@@ -227,6 +227,20 @@ TEST_F(WaveDevice, AServerThatHangsHoldsUpNobodyAndThePlayIsGivenUp) {
     EXPECT_NEAR(sounds[0].length, 1000, 5);
 }
 
+// The search for the file runs in the sound's thread, where nobody else would take its failure.
+TEST_F(WaveDevice, AFileThatCannotBeLookedForEndsThePlay) {
+    cQtWaveDevice device([](std::string_view path) -> std::string {
+        throw cFailure(eFailure::InputOutput, std::string(path) + ": Too many open files");
+    });
+    bool failed = false;
+    device.OnDone = [&] { failed = true; };
+    device.SetFileName("any.wav");
+    device.Command("Open");
+    device.SetNotify(true);
+    device.Command("Play");
+    EXPECT_TRUE(WaitUntil([&] { return failed; }));
+}
+
 TEST_F(WaveDevice, OrdersDoNotPileUpWhileTheDiskHangs) {
     std::atomic<bool> hangs = true;
     std::atomic<int> opened = 0;

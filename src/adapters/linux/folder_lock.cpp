@@ -6,6 +6,7 @@
 
 #include "adapters/linux/native_path.h"
 #include "adapters/linux/system_error_text.h"
+#include "common/failure.h"
 #include "common/path_text.h"
 
 namespace vigrel {
@@ -13,7 +14,11 @@ namespace vigrel {
 bool cFolderLock::AnotherIsRunning() {
     constexpr int kFlags = O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
     constexpr mode_t kMode = 0666;  // as the umask allows
-    const std::string path = NativePath(m_Folder + kFile);
+    std::string path;
+    if (const auto failure = CatchFailure([&] { path = NativePath(m_Folder + kFile); })) {
+        m_Problem = failure->what();
+        return false;
+    }
     const auto problem = [&] {
         m_Problem = PathText(path) + ": " + SystemErrorText(errno);
         return false;

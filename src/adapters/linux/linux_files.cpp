@@ -125,7 +125,9 @@ std::string cLinuxFiles::LookFor(std::string_view path, struct stat& status) con
 
 bool cLinuxFiles::FileExists(std::string_view path) const {
     struct stat status {};
-    return !LookFor(path, status).empty() && S_ISREG(status.st_mode);
+    bool found = false;
+    SkipFailure([&] { found = !LookFor(path, status).empty(); });
+    return found && S_ISREG(status.st_mode);
 }
 
 std::string cLinuxFiles::ReadFile(std::string_view path) const {
@@ -185,7 +187,9 @@ std::vector<std::string> cLinuxFiles::ListNames(std::string_view folder, std::st
 
 cFileReader::cStamp cLinuxFiles::Stamp(std::string_view path) const {
     struct stat status {};
-    if (LookFor(path, status).empty()) return {};
+    bool found = false;
+    SkipFailure([&] { found = !LookFor(path, status).empty(); });
+    if (!found) return {};
     return {static_cast<std::int64_t>(status.st_dev),
             static_cast<std::int64_t>(status.st_ino),
             status.st_size,

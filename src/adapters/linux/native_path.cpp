@@ -4,9 +4,11 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include <cerrno>
 #include <memory>
 #include <vector>
 
+#include "adapters/linux/file_failure.h"
 #include "adapters/linux/file_handle.h"
 #include "common/code_page.h"
 #include "common/path_text.h"
@@ -27,11 +29,19 @@ bool IsOfKind(const std::string& path, mode_t kind) {
     return stat(path.c_str(), &status) == 0 && (status.st_mode & S_IFMT) == kind;
 }
 
+// For what stops every look into a folder for a while. Who must not read one, by its rights, has to spell its
+// names as they are.
+void FailWhenPassing(const std::string& folder) {
+    if (errno == EMFILE || errno == ENFILE || errno == ENOMEM || errno == EIO) FailByErrno(PathText(folder));
+}
+
 // A folder held open, so that looking for many names in it walks the path to it once.
 class cFolder {
   public:
     explicit cFolder(const std::string& path)
-        : m_Folder(open(path.empty() ? "." : path.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC)) {}
+        : m_Folder(open(path.empty() ? "." : path.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC)) {
+        if (!m_Folder) FailWhenPassing(path);
+    }
 
     bool Has(const std::string& name) const {
         struct stat status {};
@@ -71,12 +81,15 @@ template <class Take>
 void SearchFolder(const std::string& folder, const std::string& name, Take take) {
     const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(folder.empty() ? "." : folder.c_str()),
                                                      closedir);
-    if (!stream) return;
+    if (!stream) return FailWhenPassing(folder);
     const std::string wanted = ToUpper(PathText(name));
+    errno = 0;
     while (const dirent* entry = readdir(stream.get())) {
         if (name != entry->d_name && ToUpper(PathText(entry->d_name)) == wanted && take(entry->d_name))
             return;
+        errno = 0;
     }
+    FailWhenPassing(folder);
 }
 
 // Another spelling of a name that is on the disk: the first of the kind; else the first at all; else empty.

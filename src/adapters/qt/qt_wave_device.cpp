@@ -29,7 +29,9 @@ void cQtWaveDevice::Command(std::string_view command) {
 
 void cQtWaveDevice::Play() {
     m_Player.Play([path = m_OpenFile, nativePath = m_NativePath]() -> SourcePtr {
-        return path.empty() ? nullptr : OpenWaveFile(nativePath(path));
+        SourcePtr source;
+        if (!path.empty()) SkipFailure([&] { source = OpenWaveFile(nativePath(path)); });
+        return source;
     });
 }
 

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+namespace vigrel::testing {
+
+// While it lives, the process can open nothing more.
+class cNoDescriptors {
+  public:
+    cNoDescriptors() {
+        getrlimit(RLIMIT_NOFILE, &m_Usual);
+        const int next = dup(STDERR_FILENO);
+        close(next);
+        rlimit none = m_Usual;
+        none.rlim_cur = static_cast<rlim_t>(next);
+        setrlimit(RLIMIT_NOFILE, &none);
+    }
+    ~cNoDescriptors() { setrlimit(RLIMIT_NOFILE, &m_Usual); }
+    cNoDescriptors(const cNoDescriptors&) = delete;
+    cNoDescriptors& operator=(const cNoDescriptors&) = delete;
+
+  private:
+    rlimit m_Usual{};
+};
+
+}  // namespace vigrel::testing
