@@ -8,8 +8,8 @@ usage() {
 packaging/test-service.sh
 
 Starts a user's service manager in a temporary folder, switches the station's service on in it, and looks what the
-service does when the desktop starts and ends, when the station is killed, fails, is told to end, or can't start. Then
-switches on the timer of the report, and hands the report out to stand-ins for a mail program, a browser and a printer.
+service does when the desktop starts and ends, when the station is killed, is ended by a peer, fails, is told to end, or
+can't start. Then switches on the timer of the report, and hands the report out to stand-ins for a mail program, a browser and a printer.
 Takes the programs of build/release (./run.sh --build-only).
 
 Needs root and the package systemd. The machine's own services are not touched.
@@ -107,6 +107,16 @@ rm "$units/vigrel-receiver.service.d/instead.conf"
 systemctl --user daemon-reload
 systemctl --user start vigrel-receiver
 check "it can be started by hand" until_true answers
+# The one end that a peer can bring about: a line longer than any sender may send, with a CR behind all bounds.
+send_overlong() { { head -c 32768 /dev/zero | tr '\0' x; printf '\r\n'; } >"/dev/tcp/127.0.0.1/$port"; }
+check "it takes alarms" "$programs/vigrel-send" --port "$port" --t0 "an alarm" --count 5 --quiet
+alarms=$(find "$folder/Alarms" -name '*.alm' | wc -l)
+restarts=$(property NRestarts)
+send_overlong
+check "a line beyond all bounds ends it with code 70" until_true eval '[ "$(property ExecMainStatus)" = 70 ]'
+check "it starts again" until_true restarted $((restarts + 1))
+check "it lists every alarm again" until_true status_is "alarms: $alarms"
+check "which are the five" [ "$alarms" -eq 5 ]
 printf '[Service]\nWatchdogSec=3\nTimeoutAbortSec=1\n' >"$units/vigrel-receiver.service.d/watchdog.conf"
 systemctl --user daemon-reload
 systemctl --user restart vigrel-receiver
