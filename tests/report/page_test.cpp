@@ -203,7 +203,7 @@ double Luminance(const std::string& colour) {
 }
 
 double Contrast(const std::string& one, const std::string& other) {
-    const auto [least, most] = std::minmax(Luminance(one), Luminance(other));
+    const auto [least, most] = std::minmax({Luminance(one), Luminance(other)});
     return (most + 0.05) / (least + 0.05);
 }
 

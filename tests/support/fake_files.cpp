@@ -70,9 +70,10 @@ void cFakeFiles::Change(cNameChange change) {
     m_Changes.push_back(std::move(change));
 }
 
-void cFakeFiles::Unlink(const std::string& folded) {
+// By value: the name can be that of the entry that goes.
+void cFakeFiles::Unlink(std::string folded) {
     m_Names.erase(folded);
-    Change({folded, "", "", 0});
+    Change({std::move(folded), "", "", 0});
 }
 
 void cFakeFiles::Apply(const cNameChange& change, std::map<std::string, cDurableName>& names) {

@@ -92,7 +92,7 @@ class cFakeFiles : public cFiles {
     };
     class cSync;
     void Change(cNameChange change);
-    void Unlink(const std::string& folded);
+    void Unlink(std::string folded);
     static void Apply(const cNameChange& change, std::map<std::string, cDurableName>& names);
     // Those of the changes of names that are wanted become durable.
     void MakeDurable(const std::function<bool(const cNameChange&)>& wanted);
