@@ -5,81 +5,16 @@
 #include <signal.h>
 
 #include <chrono>
-#include <cstdlib>
 #include <random>
 #include <set>
 #include <string>
-#include <string_view>
 #include <thread>
 
+#include "e2e/numbered_alarms.h"
 #include "e2e/station.h"
-#include "e2e/tcp_client.h"
-#include "link/frame.h"
 
 namespace vigrel::testing {
 namespace {
-
-constexpr std::string_view kAnswer =
-    "\x04"
-    "04\n\r";
-
-// A campaign asks for more.
-int KillsOfEachKind() {
-    const char* wish = std::getenv("VIGREL_KILLS");
-    return wish != nullptr ? std::atoi(wish) : 2;
-}
-
-// Sends numbered alarms, some at a time, and counts the answers.
-class cNumberedAlarms {
-  public:
-    int m_Sent = 0;      // the number of the last one that was sent
-    int m_Answered = 0;  // the number of the last one that was answered
-    int m_Answers = 0;
-
-    // Up to so many, or to the end of the connection.
-    void Send(int port, int count) {
-        const cTcpClient client(port);
-        const int first = m_Sent;
-        while (client.Connected() && m_Sent - first < count && SendSome(client)) {
-        }
-    }
-
-  private:
-    static constexpr int kTogether = 10;
-
-    bool SendSome(const cTcpClient& client) {
-        std::string frames;
-        for (int i = 0; i < kTogether; ++i)
-            frames += MakeFrame("Killer", "S1||<" + std::to_string(++m_Sent) + ">||Technical");
-        if (!client.TrySend(frames)) return false;
-        const std::string answers = client.Read(kTogether * kAnswer.size());
-        const int answered = static_cast<int>(answers.size() / kAnswer.size());
-        if (answered > 0) m_Answered = m_Sent - kTogether + answered;
-        m_Answers += answered;
-        return answers.size() == kTogether * kAnswer.size();
-    }
-};
-
-// Where the texts of an alarm's file begin, behind numbers of any bytes.
-constexpr std::size_t kFirstText = 22;
-
-// The numbers of the alarms that are stored. A file that is not whole fails the test.
-std::set<int> StoredNumbers(const cStation& station) {
-    std::set<int> numbers;
-    for (const auto& path : station.AlarmFiles()) {
-        const std::string bytes = ReadAll(path);
-        const std::size_t open = bytes.find('<', kFirstText);
-        const std::size_t close = bytes.find('>', kFirstText);
-        if (open == std::string::npos || close == std::string::npos) {
-            ADD_FAILURE() << path << " is not whole: " << bytes.size() << " bytes";
-            continue;
-        }
-        // 180 bytes and the texts: the alarm's own, its category, its sender.
-        EXPECT_EQ(bytes.size(), 180 + (close - open + 1) + 9 + 6) << path;
-        EXPECT_TRUE(numbers.insert(std::stoi(bytes.substr(open + 1))).second) << path;
-    }
-    return numbers;
-}
 
 class Kills : public ::testing::Test {
   protected:
