@@ -99,6 +99,19 @@ TEST_F(ColourRules, AWrongLineIsNamedAndSkipped) {
     EXPECT_EQ(m_Rules.m_Rules[0].m_TagFilter, "P");
 }
 
+TEST_F(ColourRules, EveryNumberIsTakenUpToItsLast) {
+    EXPECT_TRUE(Load("P | 0;255;000255 | 0;999;000999 | 0,255,255 | 255,0,0 | 0\n"
+                     "P | 0-255;7-7 | 0-999 | 0,0,0 | 0,0,0 | 255\n")
+                    .empty());
+    for (const char* line : {"P | 256 | * | 0,0,0 | 0,0,0 | 0", "P | 0-256 | * | 0,0,0 | 0,0,0 | 0",
+                             "P | * | 1000 | 0,0,0 | 0,0,0 | 0", "P | * | * | 0,0,256 | 0,0,0 | 0",
+                             "P | * | * | 0,0,0 | 256,0,0 | 0", "P | * | * | 0,0,0 | 0,0,0 | 256",
+                             "P | 0000255 | * | 0,0,0 | 0,0,0 | 0", "P | * | * | 0,0,0,0 | 0,0,0 | 0",
+                             "P | * | * | 0,0,0 | 0,0,0 | 0 | 0", "P | 1- | * | 0,0,0 | 0,0,0 | 0"}) {
+        EXPECT_EQ(Load(line).size(), 1u) << line;
+    }
+}
+
 TEST_F(ColourRules, FieldsThatCantBeWrittenAreRefused) {
     cColourRule rule = Rule();
     rule.m_TagFilter = "a|b";

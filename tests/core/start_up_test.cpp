@@ -431,8 +431,10 @@ TEST_F(StartUp, AConfigurationThatCannotBeReadAnyMoreOnTheWayEndsTheStart) {
     files.m_OnCall = [this](std::string_view operation, std::string_view) {
         if (operation == "append") files.SetUnreadable("C:\\App\\VigrelReceiver.INI", true);
     };
+    files.Put("C:\\App\\LogFiles\\20260101.log", "old");
     EXPECT_THROW(Load(), cFailure);
     EXPECT_FALSE(listener.m_Listening);
+    EXPECT_TRUE(files.FileExists("C:\\App\\LogFiles\\20260101.log"));
 }
 
 }  // namespace

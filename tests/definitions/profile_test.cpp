@@ -288,6 +288,8 @@ TEST_F(Profile, AProfileThatWasNeverGivenConditionsHoldsSixEmptyStrings) {
                                          "00 00 00 00 00 00 (use schedule, reserved)"
                                          "00 00 00 00 (receivers)"
                                          "00 00 00 00 00 00 00 00 00 00 00 00 (conditions)"));
+    const std::size_t savedAt = bytes.size() - 186 - 2048 - 8;
+    EXPECT_EQ(bytes.substr(36, savedAt - 36), std::string(savedAt - 36, '\0'));
     EXPECT_EQ(bytes.size(), 2u + 2 + 2 + 2 + 6 + 2 + 4 + 2 + 2 + 12 + 2 + 2 + 2 + 2 + 2 + 2 + 2 + 2 + 2 +
                                 128 + 2 + 8 + 2048 + 186);
 }

@@ -542,6 +542,10 @@ TEST_F(Receiver, OtherKindsHaveNoKeepAlive) {
     receiver.SetReceiverTypeId(2);
     EXPECT_EQ(receiver.m_KeepAliveInterval, 0);
     EXPECT_EQ(receiver.m_LastKeepAlive, 0);
+    m_Files.Put("C:\\App\\Tele.INI", "[ReceiverTypeSettings]\r\nT11=30\r\n");
+    m_Types.m_ReceiverTypes[0].m_SettingsFile = "Tele.INI";
+    receiver.SetReceiverTypeId(2);
+    EXPECT_EQ(receiver.m_KeepAliveInterval, 0);
 }
 
 TEST_F(Receiver, AnUnknownTypeKeepsTheIntervalAndCountsItFromNow) {

@@ -232,6 +232,18 @@ TEST_F(SenderTable, ASilenceIsNoticedAcrossAClockSetBack) {
     EXPECT_EQ(alarms.size(), 1u);
 }
 
+TEST_F(SenderTable, AnotherReadingBeginsAfresh) {
+    Read("Alpha=5\r\nBeta=5\r\n");
+    Frame("Alpha");
+    Minutes(5.1);
+    Read("Gamma=5\r\n");
+    ASSERT_EQ(table.m_SenderCount, 1);
+    EXPECT_EQ(Row(0).SenderName, "Gamma");
+    EXPECT_TRUE(Row(0).NotYetSeen);
+    EXPECT_FALSE(Row(0).AlarmRaised);
+    EXPECT_EQ(Row(0).LastSeen, clock.Now());
+}
+
 TEST_F(SenderTable, ASectionThatCannotBeReadIsNoEmptyOne) {
     Ini("[Senders]\r\nAlpha=5\r\n");
     files.SetUnreadable(ini.FullPath(kIniFile), true);

@@ -110,7 +110,8 @@ def in_order(first, second):
     """Whether it can count which of two statements comes first: two assignments that don't name each other's target don't."""
     targets = [re.match(ASSIGNMENT, text) and re.split(r"\s[-+*/|&]?=\s", text)[0] for text in (first, second)]
     if all(targets):
-        return targets[0] in second or targets[1] in first
+        return any(re.search(r"(?<![\w.>])" + re.escape(target) + r"(?!\w)", other)
+                   for target, other in zip(targets, (second, first)))
     return first != second
 
 

@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """Breaks one place of the logic at a time and looks whether a test notices.
 
-    tests/campaigns/mutants/mutants.py [FOLDER...] [--number N] [--seed S] [--since COMMIT] [--again] [--list] [--life]
+    tests/campaigns/mutants/mutants.py [FOLDER...] [--number N] [--seed S] [--since COMMIT] [--again] [--life]
+        [--list | --report]
 
 A place is a comparison or its boundary, a constant, a default, the order of two statements, a call or an assignment, a
 condition, a "!", an operator. Each is broken in a copy of the sources (build/mutants), what depends on it is built there,
@@ -16,6 +17,7 @@ FOLDER       folders of src; all of the logic unless told
 --again      try those again that survived, and those that were tried before their file changed
 --life       let survivors face the whole lives of a station too, which takes half a minute each
 --list       only list the places
+--report     only tell what became of those that were tried so far
 --jobs N     compilers at once (2)
 
 What was tried is kept in build/mutants/tried.json, so that a campaign that is cut off goes on where it stopped.
@@ -119,8 +121,10 @@ class Tried:
 
 def chosen(folder, wish, lines):
     found = [place for place in places(folder) if lines is None or place[2].line in lines[place[1]]]
-    if wish.number is not None and wish.number < len(found):
-        found = random.Random(f"{wish.seed} {folder}").sample(found, wish.number)
+    if wish.number is not None:
+        # A larger number adds to what a smaller one chose.
+        random.Random(f"{wish.seed} {folder}").shuffle(found)
+        found = found[:wish.number]
     return sorted(found, key=lambda place: (place[1], place[2].start))
 
 
@@ -168,7 +172,7 @@ def main():
     parser.add_argument("folders", nargs="*", choices=[[], *LOGIC], metavar="FOLDER", help=argparse.SUPPRESS)
     for option, kind in (("--number", int), ("--seed", int), ("--since", str), ("--jobs", int)):
         parser.add_argument(option, type=kind, help=argparse.SUPPRESS)
-    for option in ("--again", "--list", "--life"):
+    for option in ("--again", "--list", "--life", "--report"):
         parser.add_argument(option, action="store_true", help=argparse.SUPPRESS)
     parser.set_defaults(seed=1, jobs=2)
     wish = parser.parse_args()
@@ -180,7 +184,11 @@ def main():
                 print(f"{file}:{change.line}: {change.name}" + (" (equivalent)" if name in known else ""))
         return 0
     tried = Tried()
-    work = try_all(folders, wish, tried, known)
+    if wish.report:
+        work = {folder: [place for place in places(folder) if place[0] in known or place[0] in tried.known]
+                for folder in folders}
+    else:
+        work = try_all(folders, wish, tried, known)
     return 1 if report(work, tried, known) else 0
 
 

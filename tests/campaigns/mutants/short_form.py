@@ -112,7 +112,8 @@ class Lists(unittest.TestCase):
         wish = type("Wish", (), {"number": 5, "seed": 3})
         first = mutants.chosen("link", wish, None)
         self.assertEqual(len(first), 5)
-        self.assertEqual([name for name, _, _ in first], [name for name, _, _ in mutants.chosen("link", wish, None)])
+        more = type("Wish", (), {"number": 9, "seed": 3})
+        self.assertLess({name for name, _, _ in first}, {name for name, _, _ in mutants.chosen("link", more, None)})
 
 
 class Trials(unittest.TestCase):
@@ -143,7 +144,7 @@ class Help(unittest.TestCase):
     def test_tells_every_option(self):
         said = subprocess.run([sys.executable, str(mutants.HERE / "mutants.py"), "--help"], check=True,
                               capture_output=True, text=True).stdout
-        for option in ("--number", "--seed", "--since", "--again", "--life", "--list", "--jobs"):
+        for option in ("--number", "--seed", "--since", "--again", "--life", "--list", "--report", "--jobs"):
             self.assertIn(option, said)
 
 
