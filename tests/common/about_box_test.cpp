@@ -67,5 +67,11 @@ TEST(AboutBox, AnUnloadStopsTheTimer) {
     EXPECT_FALSE(timer.Enabled());
 }
 
+TEST(AboutBox, LeavesNothingBehindAtItsTimer) {
+    cFakeTimer timer(cAboutBox::kTickInterval);
+    { const cAboutBox box(timer); }
+    EXPECT_FALSE(timer.OnTick);
+}
+
 }  // namespace
 }  // namespace vigrel::testing

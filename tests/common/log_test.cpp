@@ -178,6 +178,19 @@ TEST(CleanLogFiles, ALogOfTheKeptAgeStaysAndAnOlderOneGoes) {
     EXPECT_FALSE(station.Keeps("20260214.Log", 30));
 }
 
+TEST(CleanLogFiles, OldLogsGoWhateverOrderTheFolderGives) {
+    for (const bool backwards : {false, true}) {
+        cStation station;
+        station.files.m_ListsBackwards = backwards;
+        for (const char* name : {"20260101.Log", "20260102.Log", "20260314.Log"})
+            station.files.Put(kLogs + name, "x");
+        station.log.CleanLogFiles(kLogMask, 30);
+        EXPECT_FALSE(station.files.FileExists(kLogs + "20260101.Log"));
+        EXPECT_FALSE(station.files.FileExists(kLogs + "20260102.Log"));
+        EXPECT_TRUE(station.files.FileExists(kLogs + "20260314.Log"));
+    }
+}
+
 TEST(CleanLogFiles, AgesCountYearsOf365DaysAndMonthsOf30) {
     const auto ageIs = [](cStation& station, const std::string& name, std::int16_t age) {
         return station.Keeps(name, age) && !station.Keeps(name, static_cast<std::int16_t>(age - 1));

@@ -96,6 +96,13 @@ TEST_F(Light, WithoutADeviceTheScanSaysSo) {
     EXPECT_EQ(Log(), "T10027 1\nT10046\n");
 }
 
+TEST_F(Light, DevicesThatCannotBeCountedAreNone) {
+    m_Library.m_FailCalls = {"count"};
+    LoadTexts({10027, 10046, 10047});
+    EXPECT_EQ(m_Light.ScanDevices(), 0);
+    EXPECT_EQ(Log(), "T10027 1\nT10046\n");
+}
+
 TEST_F(Light, WithoutALibraryTheScanLogsNothing) {
     m_Library.m_Version = 0;
     EXPECT_EQ(m_Light.ScanDevices(), 0);

@@ -114,6 +114,7 @@ class cFakeSignalLight : public cSignalLight {
         return m_Version;
     }
     std::int32_t DelcomGetDeviceCount(std::int32_t type) override {
+        if (m_FailCalls.contains("count")) throw cFailure(eFailure::Device, "the light fails");
         const auto found = m_Devices.find(type);
         return found == m_Devices.end() ? 0 : static_cast<std::int32_t>(found->second.size());
     }

@@ -160,8 +160,8 @@ class Finder:
             before = self.code[:match.start()]
             if re.search(r"(<|, )$", before) and re.match(r"[>,]", self.code[match.end():]) and "<" in line:
                 continue  # an argument of a template
-            if re.search(r"\b(u?int|float)$", before):
-                continue
+            if re.search(r"\b(u?int|float)$", before) or re.search(r"(\)|const) = 0;$", line):
+                continue  # part of a type's name; what makes a method pure
             number = match.group(1)
             value = number.replace("'", "")
             if value.startswith("0x"):

@@ -56,6 +56,9 @@ class Places(unittest.TestCase):
         self.assertEqual(made("constexpr int kA = 0x1F;\n"), ["default: constexpr int kA = [0x1F -> 0x20];"])
         self.assertEqual(made("constexpr double kA = 1'000.5;\n"), ["default: constexpr double kA = [1'000.5 -> 1001.5];"])
 
+    def test_a_pure_method_stays_pure(self):
+        self.assertEqual(made("struct cA {\n    virtual int B() const = 0;\n    virtual void C() = 0;\n};\n"), [])
+
     def test_a_default_is_told_from_a_constant(self):
         self.assertEqual(made("struct cA {\n    bool m_B = true;\n};\n"), ["default: bool m_B = [true -> false];"])
         self.assertEqual(made(inside("b = true;")), ["assignment: [b = true; -> ]", "constant: b = [true -> false];"])
