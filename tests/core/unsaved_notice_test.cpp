@@ -65,7 +65,10 @@ TEST_F(UnsavedNotice, TheWindowFollowsEachChangeAndTheStatusAtMostEveryTenSecond
     }
     EXPECT_EQ(otherWindows.m_Notices.size(), 5u);
     EXPECT_EQ(status.m_Texts.size(), 1u);
-    clock.AddSeconds(11);
+    clock.AddSeconds(9.9);
+    timerPlay.Tick();
+    EXPECT_EQ(status.m_Texts.size(), 1u);
+    clock.AddSeconds(0.2);
     timerPlay.Tick();
     EXPECT_EQ(otherWindows.m_Notices.size(), 5u);
     ASSERT_EQ(status.m_Texts.size(), 2u);

@@ -107,10 +107,12 @@ def plain(text):
 
 
 def in_order(first, second):
-    """Whether it can count which of two statements comes first: two assignments that don't name each other's target don't."""
+    """Whether it can count which of two statements comes first: of two assignments, when one names the other's target or
+    both read from one reader."""
     targets = [re.match(ASSIGNMENT, text) and re.split(r"\s[-+*/|&]?=\s", text)[0] for text in (first, second)]
     if all(targets):
-        return any(re.search(r"(?<![\w.>])" + re.escape(target) + r"(?!\w)", other)
+        readers = [set(re.findall(r"(?<![\w.>])(?!m_)(\w+)\.\w+\(", text)) for text in (first, second)]
+        return bool(readers[0] & readers[1]) or any(re.search(r"(?<![\w.>])" + re.escape(target) + r"(?!\w)", other)
                    for target, other in zip(targets, (second, first)))
     return first != second
 

@@ -75,6 +75,8 @@ class Places(unittest.TestCase):
         names = made(inside("B();", "c = d;", "e = f;", "g = e;"))
         self.assertEqual([name for name in names if name.startswith("order")],
                          ["order: [B(); c = d; -> c = d; B();]", "order: [e = f; g = e; -> g = e; e = f;]"])
+        self.assertIn("order: [a = file.B(); c = file.D(); -> c = file.D(); a = file.B();]",
+                      made(inside("a = file.B();", "c = file.D();")))
 
     def test_a_jump_and_a_bound_are_the_other_one(self):
         self.assertEqual(made(inside("continue;")), ["jump: [continue -> break];"])
