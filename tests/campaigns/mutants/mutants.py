@@ -133,11 +133,9 @@ def try_all(folders, wish, tried, known):
     work = {folder: chosen(folder, wish, lines) for folder in folders}
     untried = {folder: [place for place in work[folder] if place[0] not in known and
                         tried.outcome(place[0], place[1], wish.again) is None] for folder in folders}
-    needed = [program for folder in folders if untried[folder] for program in programs_of(folder)]
-    needed += ["life_tests"] if wish.life and needed else []
-    if needed:
-        bench = trial.Trial(ROOT, wish.jobs)
-        bench.prepare(list(dict.fromkeys(needed)))
+    bench = trial.Trial(ROOT, wish.jobs)
+    if any(untried.values()):
+        bench.prepare()
     for folder in folders:
         for number, (name, file, change) in enumerate(untried[folder], 1):
             source = (ROOT / file).read_text()

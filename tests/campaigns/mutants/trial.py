@@ -41,20 +41,22 @@ class Trial:
                 shutil.copyfile(source, target)
                 shutil.copymode(source, target)
 
-    def prepare(self, programs):
-        """Builds and runs what is whole, so that it is known to pass, and in what time."""
+    def prepare(self):
+        """Brings copy and build folder up to date, and sets what an interrupted campaign left broken right."""
         self.refresh()
         launcher = "-DCMAKE_CXX_COMPILER_LAUNCHER=" + ("ccache" if shutil.which("ccache") else "")
         linker = "-DCMAKE_EXE_LINKER_FLAGS=" + ("-fuse-ld=lld" if shutil.which("ld.lld") else "")
         self.must(["cmake", "--preset", "dev", "-DVIGREL_WITH_QT=OFF", launcher, linker,
                    "-DCMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE=PRE_TEST"])
-        self.must(["ninja", "-C", self.build, f"-j{self.jobs}", *programs])
-        for program in programs:
-            begun = time.monotonic()
-            failed = self.run(program, 600)
-            if failed:
-                raise SystemExit(f"mutants: {program} fails without a change: {failed}")
-            self.limits[program] = 10 + 5 * (time.monotonic() - begun)
+
+    def learn(self, program):
+        """Builds and runs a program whole, so that it is known to pass, and in what time."""
+        self.must(["ninja", "-C", self.build, f"-j{self.jobs}", program])
+        begun = time.monotonic()
+        failed = self.run(program, 600)
+        if failed:
+            raise SystemExit(f"mutants: {program} fails without a change: {failed}")
+        self.limits[program] = 10 + 5 * (time.monotonic() - begun)
 
     def must(self, command):
         done = subprocess.run([str(word) for word in command], cwd=self.copy, env=self.environment,
@@ -89,10 +91,14 @@ class Trial:
         """What becomes of the file of that name when it holds that text: "refused" by the compiler, "noticed" by a test, or
         "survived"; and by which test."""
         target = self.copy / name
-        whole = target.read_bytes()
+        whole, broken = target.read_bytes(), QUIET.encode() + text.encode(errors="surrogateescape")
         try:
-            target.write_bytes(QUIET.encode() + text.encode(errors="surrogateescape"))
             for program in programs:
+                if program not in self.limits:
+                    target.write_bytes(whole)
+                    self.learn(program)
+                if target.read_bytes() != broken:
+                    target.write_bytes(broken)
                 if not self.built(program):
                     return "refused", ""
                 failed = self.run(program, self.limits[program])
