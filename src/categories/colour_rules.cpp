@@ -1,10 +1,10 @@
 #include "categories/colour_rules.h"
 
 #include <algorithm>
-#include <iterator>
 
 #include "common/failure.h"
 #include "common/file_procedures.h"
+#include "common/kept_lines.h"
 #include "common/numbers.h"
 #include "common/text.h"
 
@@ -92,11 +92,6 @@ std::string LineFromRule(const cColourRule& rule) {
            rule.m_ForeColor + " | " + rule.m_BackColor + " | " + std::to_string(rule.m_ZebraFade);
 }
 
-bool IsComment(std::string_view line) {
-    const std::size_t first = line.find_first_not_of(" \t");
-    return first == std::string_view::npos || line[first] == '#';
-}
-
 }  // namespace
 
 cUserColor MakeUserColor(const cColourRule& rule) {
@@ -130,46 +125,15 @@ std::optional<std::size_t> FirstMatch(const std::vector<cUserColor>& colors, std
 }
 
 std::vector<cLineProblem> cColourRules::Parse(std::string_view text) {
-    *this = {};
-    std::vector<cLineProblem> problems;
-    std::size_t number = 0;
-    for (const std::string& line : SplitLines(text)) {
-        ++number;
-        cColourRule rule;
-        const auto failure = CatchFailure([&] {
-            if (!IsComment(line)) rule = RuleFromLine(line);
-        });
-        if (failure) problems.push_back({number, failure->Description()});
-        if (failure || IsComment(line)) {
-            m_LinesAfter.push_back(line);
-            continue;
-        }
-        rule.m_LinesBefore = std::move(m_LinesAfter);
-        m_LinesAfter.clear();
-        m_Rules.push_back(std::move(rule));
-    }
-    return problems;
+    return ParseKeptLines(text, RuleFromLine, m_Rules, m_LinesAfter);
 }
 
 std::string cColourRules::Text() const {
-    std::string text;
-    const auto add = [&](const std::string& line) { text += line + "\r\n"; };
-    for (const cColourRule& rule : m_Rules) {
-        std::for_each(rule.m_LinesBefore.begin(), rule.m_LinesBefore.end(), add);
-        add(LineFromRule(rule));
-    }
-    std::for_each(m_LinesAfter.begin(), m_LinesAfter.end(), add);
-    return text;
+    return TextOfKeptLines(m_Rules, LineFromRule, m_LinesAfter);
 }
 
 std::vector<cLineProblem> cColourRules::Load(const cFileReader& files, std::string_view path) {
-    *this = {};
-    if (files.Stamp(path).size < 0) return {};
-    std::string content;
-    if (const auto failure = CatchFailure([&] { content = files.ReadFile(path); })) {
-        return {{0, failure->Description()}};
-    }
-    return Parse(content);
+    return LoadLines(files, path, *this);
 }
 
 void cColourRules::Save(cFiles& files, std::string_view path) const {
@@ -178,10 +142,7 @@ void cColourRules::Save(cFiles& files, std::string_view path) const {
 }
 
 void cColourRules::Remove(std::size_t index) {
-    std::vector<std::string> lines = std::move(m_Rules.at(index).m_LinesBefore);
-    m_Rules.erase(m_Rules.begin() + static_cast<std::ptrdiff_t>(index));
-    std::vector<std::string>& next = index < m_Rules.size() ? m_Rules[index].m_LinesBefore : m_LinesAfter;
-    next.insert(next.begin(), std::make_move_iterator(lines.begin()), std::make_move_iterator(lines.end()));
+    RemoveKeptEntry(index, m_Rules, m_LinesAfter);
 }
 
 }  // namespace vigrel

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "common/failure.h"
+#include "common/kept_lines.h"
 #include "common/numbers.h"
 #include "common/text.h"
 
@@ -49,11 +50,6 @@ cReceiverType TypeFromLine(std::string_view line) {
     return type;
 }
 
-bool IsComment(std::string_view line) {
-    const std::size_t first = line.find_first_not_of(" \t");
-    return first == std::string_view::npos || line[first] == '#';
-}
-
 }  // namespace
 
 std::int16_t cReceiverTypes::RowOf(std::int16_t typeId) const {
@@ -86,7 +82,7 @@ std::vector<cLineProblem> cReceiverTypes::Load(const cFileReader& files, std::st
     std::size_t number = 0;
     for (const std::string& line : SplitLines(content)) {
         ++number;
-        if (IsComment(line)) continue;
+        if (IsCommentLine(line)) continue;
         if (const auto failure = CatchFailure([&] { AddLine(line); })) {
             problems.push_back({number, failure->Description()});
         }

@@ -1,6 +1,8 @@
 #include "schedule/calendar_year.h"
 
 #include <algorithm>
+#include <optional>
+#include <vector>
 
 #include "common/dates.h"
 
@@ -12,15 +14,27 @@ bool IsMarked(const cHolidays& holidays, std::int32_t day) {
     return label != nullptr && label->m_ViewInCalendar != False16;
 }
 
-// The marked day of that name from one day up to another; the first day's index less one when there is none.
-std::int32_t DayNamed(const cHolidays& holidays, const std::string& name, std::int32_t from,
-                      std::int32_t before) {
-    const auto found = std::find_if(holidays.m_HolidayLabels.begin(), holidays.m_HolidayLabels.end(),
-                                    [&](const cHolidayLabel& label) {
-                                        return label.m_Day >= from && label.m_Day < before &&
-                                               label.m_ViewInCalendar != False16 && label.m_Label == name;
-                                    });
-    return found == holidays.m_HolidayLabels.end() ? from - 1 : found->m_Day;
+// The marked days of that name from one day up to another, in their order.
+std::vector<std::int32_t> DaysNamed(const cHolidays& holidays, const std::string& name, std::int32_t from,
+                                    std::int32_t before) {
+    std::vector<std::int32_t> days;
+    for (const cHolidayLabel& label : holidays.m_HolidayLabels) {
+        const bool isMeant = label.m_Day >= from && label.m_Day < before &&
+                             label.m_ViewInCalendar != False16 && label.m_Label == name;
+        if (isMeant) days.push_back(label.m_Day);
+    }
+    return days;
+}
+
+// Several days on end have one name: the second of a year goes with the second of the next.
+std::optional<std::int32_t> SameInNext(const cHolidays& holidays, std::int32_t day, std::int32_t first,
+                                       std::int32_t next, std::int32_t end) {
+    const std::string& name = holidays.LabelOf(day)->m_Label;
+    const std::vector<std::int32_t> days = DaysNamed(holidays, name, first, next);
+    const std::vector<std::int32_t> those = DaysNamed(holidays, name, next, end);
+    const auto place = static_cast<std::size_t>(std::find(days.begin(), days.end(), day) - days.begin());
+    if (place >= those.size()) return std::nullopt;
+    return those[place];
 }
 
 }  // namespace
@@ -40,8 +54,8 @@ void CopyToNextYear(cCalendar& calendar, const cHolidays& holidays, int year) {
     // Behind the others, so that a holiday counts for more than the date that it falls on.
     for (std::int32_t day = first; day < next; ++day) {
         if (!IsMarked(holidays, day) || calendar.GetDayType(day) == 0) continue;
-        const std::int32_t moved = DayNamed(holidays, holidays.LabelOf(day)->m_Label, next, end);
-        if (moved >= next) calendar.SetDayType(moved, calendar.GetDayType(day));
+        const auto moved = SameInNext(holidays, day, first, next, end);
+        if (moved) calendar.SetDayType(*moved, calendar.GetDayType(day));
     }
 }
 

@@ -61,10 +61,12 @@ TEST_F(FolderCheck, TextsThatCantBeReadAreAnError) {
 
 TEST_F(FolderCheck, LinesOfListsThatAreSkippedAreTold) {
     m_Files.Put(kApp + "ColourRules.txt", "# a remark\r\n* | 1 | 1 | 0,0,0 | 255,255,255\r\n");
+    m_Files.Put(kApp + "OwnHolidays.txt", "24.12. | Eve\r\n");
     m_Files.Put(kApp + "ReceiverTypes.txt", "nonsense\r\n");
     const cFindings findings = Check(Content());
     EXPECT_EQ(Lines(findings),
-              "warning list-line-skipped ColourRules.txt\nwarning list-line-skipped ReceiverTypes.txt");
+              "warning list-line-skipped ColourRules.txt\nwarning list-line-skipped OwnHolidays.txt\n"
+              "warning list-line-skipped ReceiverTypes.txt");
     EXPECT_EQ(findings.m_All[0].place.line, 2u);
     EXPECT_NE(findings.m_All[0].message.find("a rule has six fields"), std::string::npos);
 }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "schedule/calendar_bench.h"
+#include "schedule/own_holidays.h"
 #include "schedule/public_holidays.h"
 
 namespace vigrel::testing {
@@ -43,6 +44,18 @@ TEST_F(CalendarYear, OfALeapYearLosesItsDay) {
     CopyToNextYear(m_Calendar, m_Holidays, 2027);
     EXPECT_EQ(Value(2028, 2, 28), 8);
     EXPECT_EQ(Value(2028, 2, 29), 0);
+}
+
+TEST_F(CalendarYear, TakesEachOfSeveralDaysThatShareAName) {
+    cOwnHolidays own;
+    own.Parse("12-24..12-28 | Winter break\n2026-07-06..2026-07-07 | Works holiday\n");
+    own.AddTo(m_Holidays);
+    for (int day = 24; day <= 28; ++day) SetValue(2026, 12, day, static_cast<std::int16_t>(day - 16));
+    SetValue(2026, 7, 6, 8);
+    CopyToNextYear(m_Calendar, m_Holidays, 2026);
+    for (int day = 24; day <= 28; ++day) EXPECT_EQ(Value(2027, 12, day), day - 16) << day;
+    // Once only.
+    EXPECT_EQ(Value(2027, 7, 6), 0);
 }
 
 TEST_F(CalendarYear, TheLastHasNoNext) {

@@ -1,6 +1,7 @@
 #include "categories/colour_rules.h"
 #include "definitions/receiver_types.h"
 #include "receiver-check/checks.h"
+#include "schedule/own_holidays.h"
 
 namespace vigrel {
 namespace {
@@ -20,6 +21,7 @@ void CheckList(const cInstallation& installation, std::string_view name, cFindin
 
 void CheckLists(const cInstallation& installation, cFindings& findings) {
     CheckList<cColourRules>(installation, kColourRulesFile, findings);
+    CheckList<cOwnHolidays>(installation, kOwnHolidaysFile, findings);
     CheckList<cReceiverTypes>(installation, kReceiverTypesFile, findings);
 }
 
