@@ -82,6 +82,7 @@ int ShowUntilClosed(cApplication& application, cEditorServices& services, const 
     window.show();
     // Once the window manager has placed the window, so that a message about a file lies over it.
     QTimer::singleShot(kPlacingTime, &window, [&] {
+        if (paths.isEmpty()) window.ShowLastPage();
         for (const QString& path : paths) window.OpenFile(path);
     });
     return cApplication::exec();

@@ -453,6 +453,38 @@
         <source>the disk has failed</source>
         <translation>die Festplatte hat einen Fehler</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is no day such as 2026-12-24, or 12-24 for every year</source>
+        <translation>„%1“ ist kein Tag wie 2026-12-24, oder 12-24 für jedes Jahr</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; lies outside the years %2 to %3</source>
+        <translation>„%1“ liegt außerhalb der Jahre %2 bis %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no day of the calendar</source>
+        <translation>„%1“ ist kein Tag des Kalenders</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: give both days a year, or none of them</source>
+        <translation>„%1“: geben Sie beiden Tagen ein Jahr oder keinem</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ends before it begins</source>
+        <translation>„%1“ endet, bevor es beginnt</translation>
+    </message>
+    <message>
+        <source>a holiday has two fields (day | name), this line has %1</source>
+        <translation>ein Feiertag hat zwei Felder (Tag | Name), diese Zeile hat %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no last day</source>
+        <translation>„%1“ hat keinen letzten Tag</translation>
+    </message>
+    <message>
+        <source>the name must not hold &quot;|&quot;</source>
+        <translation>der Name darf kein „|“ enthalten</translation>
+    </message>
 </context>
 <context>
     <name>cDayTypeImages</name>
@@ -736,10 +768,6 @@
         <translation>Kalender</translation>
     </message>
     <message>
-        <source>None chosen</source>
-        <translation>Keiner gewählt</translation>
-    </message>
-    <message>
         <source>Day &amp;type to paint</source>
         <translation>&amp;Tagestyp zum Malen</translation>
     </message>
@@ -772,16 +800,8 @@
         <translation>Pfeiltasten wählen einen Tag, die Leertaste malt den Tagestyp</translation>
     </message>
     <message>
-        <source>Choose a day type to paint.</source>
-        <translation>Wählen Sie einen Tagestyp zum Malen.</translation>
-    </message>
-    <message>
         <source>painting days</source>
         <translation>Malen von Tagen</translation>
-    </message>
-    <message>
-        <source>Choose a day type to paint and the country of the holidays.</source>
-        <translation>Wählen Sie einen Tagestyp zum Malen und das Land der Feiertage.</translation>
     </message>
     <message>
         <source>painting holidays</source>
@@ -814,6 +834,10 @@
     <message>
         <source>The whole year on one page</source>
         <translation>Das ganze Jahr auf einer Seite</translation>
+    </message>
+    <message>
+        <source>There are no holidays: choose their country, or write your own.</source>
+        <translation>Es gibt keine Feiertage: wählen Sie ihr Land, oder schreiben Sie eigene.</translation>
     </message>
 </context>
 <context>
@@ -969,12 +993,6 @@
         <source>Colour</source>
         <translation>Farbe</translation>
     </message>
-    <message>
-        <source>Some lines were not understood. They stay in the file:
-%1</source>
-        <translation>Einige Zeilen wurden nicht verstanden. Sie bleiben in der Datei:
-%1</translation>
-    </message>
 </context>
 <context>
     <name>vigrel::cColourRulesPage</name>
@@ -1117,10 +1135,6 @@
     <message>
         <source>Calendar %1</source>
         <translation>Kalender %1</translation>
-    </message>
-    <message>
-        <source>Schedules, calendars, colour rules (*.sch *.cal ColourRules.txt);;All files (*)</source>
-        <translation>Zeitprogramme, Kalender, Farbregeln (*.sch *.cal ColourRules.txt);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Vigrel Definitions</source>
@@ -1290,6 +1304,22 @@ Programmordner: %3</translation>
         <source>Save as P&amp;DF...</source>
         <translation>Als &amp;PDF speichern...</translation>
     </message>
+    <message>
+        <source>Schedules, calendars, lists of the station (*.sch *.cal ColourRules.txt OwnHolidays.txt);;All files (*)</source>
+        <translation>Zeitprogramme, Kalender, Listen der Station (*.sch *.cal ColourRules.txt OwnHolidays.txt);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>&amp;As large as the window</source>
+        <translation>&amp;So groß wie das Fenster</translation>
+    </message>
+    <message>
+        <source>Own &amp;holidays</source>
+        <translation>Ei&amp;gene Feiertage</translation>
+    </message>
+    <message>
+        <source>Own holi&amp;days of the station</source>
+        <translation>Eigene Feier&amp;tage der Station</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cFileDocument</name>
@@ -1332,6 +1362,15 @@ Programmordner: %3</translation>
     </message>
 </context>
 <context>
+    <name>vigrel::cLineProblemsLabel</name>
+    <message>
+        <source>Some lines were not understood. They stay in the file:
+%1</source>
+        <translation>Einige Zeilen wurden nicht verstanden. Sie bleiben in der Datei:
+%1</translation>
+    </message>
+</context>
+<context>
     <name>vigrel::cNoteBar</name>
     <message>
         <source>What happened to files</source>
@@ -1356,6 +1395,68 @@ Programmordner: %3</translation>
     <message>
         <source>What could not be read: %1.</source>
         <translation>Nicht lesbar: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cOwnHolidaysEditor</name>
+    <message>
+        <source>&amp;Add holiday</source>
+        <translation>Feiertag &amp;hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Delete holiday</source>
+        <translation>Feiertag &amp;löschen</translation>
+    </message>
+    <message>
+        <source>A day is written 2026-12-24, or 12-24 for every year. Calendars mark these days beside the country&apos;s holidays.</source>
+        <translation>Ein Tag wird 2026-12-24 geschrieben, oder 12-24 für jedes Jahr. Kalender markieren diese Tage neben den Feiertagen des Landes.</translation>
+    </message>
+    <message>
+        <source>Own holidays</source>
+        <translation>Eigene Feiertage</translation>
+    </message>
+    <message>
+        <source>First day</source>
+        <translation>Erster Tag</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>Letzter Tag</translation>
+    </message>
+    <message>
+        <source>Every year</source>
+        <translation>Jedes Jahr</translation>
+    </message>
+    <message>
+        <source>Holiday</source>
+        <translation>Feiertag</translation>
+    </message>
+    <message>
+        <source>changing a holiday</source>
+        <translation>Ändern eines Feiertags</translation>
+    </message>
+    <message>
+        <source>Company holiday</source>
+        <translation>Betriebsfeiertag</translation>
+    </message>
+    <message>
+        <source>adding a holiday</source>
+        <translation>Hinzufügen eines Feiertags</translation>
+    </message>
+    <message>
+        <source>deleting a holiday</source>
+        <translation>Löschen eines Feiertags</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cOwnHolidaysPage</name>
+    <message>
+        <source>Own holidays</source>
+        <translation>Eigene Feiertage</translation>
+    </message>
+    <message>
+        <source>Own holidays (*.txt);;All files (*)</source>
+        <translation>Eigene Feiertage (*.txt);;Alle Dateien (*)</translation>
     </message>
 </context>
 <context>
@@ -1558,6 +1659,10 @@ Programmordner: %3</translation>
         <source>Delete the profile &quot;%1&quot; and its file?</source>
         <translation>Möchten Sie das Profil „%1“ und seine Datei löschen?</translation>
     </message>
+    <message>
+        <source>There are no profiles yet. A profile says which alarms go to which receivers, and when.</source>
+        <translation>Es gibt noch keine Profile. Ein Profil sagt, welche Alarme an welche Empfänger gehen, und wann.</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cReceiverForm</name>
@@ -1668,6 +1773,10 @@ Programmordner: %3</translation>
 %1</source>
         <translation>Diese Profile senden Alarme an ihn:
 %1</translation>
+    </message>
+    <message>
+        <source>There are no receivers yet. A receiver is one place that alarms can go to.</source>
+        <translation>Es gibt noch keine Empfänger. Ein Empfänger ist ein Ziel, an das Alarme gehen können.</translation>
     </message>
 </context>
 <context>

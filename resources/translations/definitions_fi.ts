@@ -453,6 +453,38 @@
         <source>the disk has failed</source>
         <translation>levyvirhe</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is no day such as 2026-12-24, or 12-24 for every year</source>
+        <translation>&quot;%1&quot; ei ole päivä kuten 2026-12-24, tai 12-24 joka vuodelle</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; lies outside the years %2 to %3</source>
+        <translation>&quot;%1&quot; ei ole vuosien %2–%3 sisällä</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no day of the calendar</source>
+        <translation>&quot;%1&quot; ei ole kalenterin päivä</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: give both days a year, or none of them</source>
+        <translation>&quot;%1&quot;: anna vuosi molemmille päiville tai ei kummallekaan</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ends before it begins</source>
+        <translation>&quot;%1&quot; päättyy ennen kuin se alkaa</translation>
+    </message>
+    <message>
+        <source>a holiday has two fields (day | name), this line has %1</source>
+        <translation>pyhäpäivällä on kaksi kenttää (päivä | nimi), tällä rivillä on %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no last day</source>
+        <translation>kohdasta &quot;%1&quot; puuttuu viimeinen päivä</translation>
+    </message>
+    <message>
+        <source>the name must not hold &quot;|&quot;</source>
+        <translation>nimessä ei saa olla merkkiä &quot;|&quot;</translation>
+    </message>
 </context>
 <context>
     <name>cDayTypeImages</name>
@@ -736,10 +768,6 @@
         <translation>Kalenteri</translation>
     </message>
     <message>
-        <source>None chosen</source>
-        <translation>Ei valittu</translation>
-    </message>
-    <message>
         <source>Day &amp;type to paint</source>
         <translation>Maa&amp;lattava päivätyyppi</translation>
     </message>
@@ -772,16 +800,8 @@
         <translation>Nuolinäppäimet valitsevat päivän, välilyönti maalaa päivätyypin</translation>
     </message>
     <message>
-        <source>Choose a day type to paint.</source>
-        <translation>Valitse maalattava päivätyyppi.</translation>
-    </message>
-    <message>
         <source>painting days</source>
         <translation>päivien maalaus</translation>
-    </message>
-    <message>
-        <source>Choose a day type to paint and the country of the holidays.</source>
-        <translation>Valitse maalattava päivätyyppi ja pyhäpäivien maa.</translation>
     </message>
     <message>
         <source>painting holidays</source>
@@ -814,6 +834,10 @@
     <message>
         <source>The whole year on one page</source>
         <translation>Koko vuosi yhdellä sivulla</translation>
+    </message>
+    <message>
+        <source>There are no holidays: choose their country, or write your own.</source>
+        <translation>Pyhäpäiviä ei ole: valitse niiden maa tai kirjoita omia.</translation>
     </message>
 </context>
 <context>
@@ -969,12 +993,6 @@
         <source>Colour</source>
         <translation>Väri</translation>
     </message>
-    <message>
-        <source>Some lines were not understood. They stay in the file:
-%1</source>
-        <translation>Joitakin rivejä ei ymmärretty. Ne jäävät tiedostoon:
-%1</translation>
-    </message>
 </context>
 <context>
     <name>vigrel::cColourRulesPage</name>
@@ -1117,10 +1135,6 @@
     <message>
         <source>Calendar %1</source>
         <translation>Kalenteri %1</translation>
-    </message>
-    <message>
-        <source>Schedules, calendars, colour rules (*.sch *.cal ColourRules.txt);;All files (*)</source>
-        <translation>Aikaohjelmat, kalenterit, värisäännöt (*.sch *.cal ColourRules.txt);;Kaikki tiedostot (*)</translation>
     </message>
     <message>
         <source>Vigrel Definitions</source>
@@ -1290,6 +1304,22 @@ Ohjelman kansio: %3</translation>
         <source>Save as P&amp;DF...</source>
         <translation>Tallenna P&amp;DF-tiedostona...</translation>
     </message>
+    <message>
+        <source>Schedules, calendars, lists of the station (*.sch *.cal ColourRules.txt OwnHolidays.txt);;All files (*)</source>
+        <translation>Aikaohjelmat, kalenterit, aseman luettelot (*.sch *.cal ColourRules.txt OwnHolidays.txt);;Kaikki tiedostot (*)</translation>
+    </message>
+    <message>
+        <source>&amp;As large as the window</source>
+        <translation>&amp;Ikkunan kokoinen</translation>
+    </message>
+    <message>
+        <source>Own &amp;holidays</source>
+        <translation>&amp;Omat pyhäpäivät</translation>
+    </message>
+    <message>
+        <source>Own holi&amp;days of the station</source>
+        <translation>Aseman omat p&amp;yhäpäivät</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cFileDocument</name>
@@ -1332,6 +1362,15 @@ Ohjelman kansio: %3</translation>
     </message>
 </context>
 <context>
+    <name>vigrel::cLineProblemsLabel</name>
+    <message>
+        <source>Some lines were not understood. They stay in the file:
+%1</source>
+        <translation>Joitakin rivejä ei ymmärretty. Ne jäävät tiedostoon:
+%1</translation>
+    </message>
+</context>
+<context>
     <name>vigrel::cNoteBar</name>
     <message>
         <source>What happened to files</source>
@@ -1356,6 +1395,68 @@ Ohjelman kansio: %3</translation>
     <message>
         <source>What could not be read: %1.</source>
         <translation>Ei voitu lukea: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cOwnHolidaysEditor</name>
+    <message>
+        <source>&amp;Add holiday</source>
+        <translation>&amp;Lisää pyhäpäivä</translation>
+    </message>
+    <message>
+        <source>&amp;Delete holiday</source>
+        <translation>&amp;Poista pyhäpäivä</translation>
+    </message>
+    <message>
+        <source>A day is written 2026-12-24, or 12-24 for every year. Calendars mark these days beside the country&apos;s holidays.</source>
+        <translation>Päivä kirjoitetaan 2026-12-24, tai 12-24 joka vuodelle. Kalenterit merkitsevät nämä päivät maan pyhäpäivien rinnalle.</translation>
+    </message>
+    <message>
+        <source>Own holidays</source>
+        <translation>Omat pyhäpäivät</translation>
+    </message>
+    <message>
+        <source>First day</source>
+        <translation>Ensimmäinen päivä</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>Viimeinen päivä</translation>
+    </message>
+    <message>
+        <source>Every year</source>
+        <translation>Joka vuosi</translation>
+    </message>
+    <message>
+        <source>Holiday</source>
+        <translation>Pyhäpäivä</translation>
+    </message>
+    <message>
+        <source>changing a holiday</source>
+        <translation>pyhäpäivän muutos</translation>
+    </message>
+    <message>
+        <source>Company holiday</source>
+        <translation>Yrityksen vapaapäivä</translation>
+    </message>
+    <message>
+        <source>adding a holiday</source>
+        <translation>pyhäpäivän lisäys</translation>
+    </message>
+    <message>
+        <source>deleting a holiday</source>
+        <translation>pyhäpäivän poisto</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cOwnHolidaysPage</name>
+    <message>
+        <source>Own holidays</source>
+        <translation>Omat pyhäpäivät</translation>
+    </message>
+    <message>
+        <source>Own holidays (*.txt);;All files (*)</source>
+        <translation>Omat pyhäpäivät (*.txt);;Kaikki tiedostot (*)</translation>
     </message>
 </context>
 <context>
@@ -1558,6 +1659,10 @@ Ohjelman kansio: %3</translation>
         <source>Delete the profile &quot;%1&quot; and its file?</source>
         <translation>Poistetaanko profiili &quot;%1&quot; ja sen tiedosto?</translation>
     </message>
+    <message>
+        <source>There are no profiles yet. A profile says which alarms go to which receivers, and when.</source>
+        <translation>Profiileja ei vielä ole. Profiili kertoo, mitkä hälytykset menevät millekin vastaanottajalle ja milloin.</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cReceiverForm</name>
@@ -1668,6 +1773,10 @@ Ohjelman kansio: %3</translation>
 %1</source>
         <translation>Nämä profiilit lähettävät sille hälytyksiä:
 %1</translation>
+    </message>
+    <message>
+        <source>There are no receivers yet. A receiver is one place that alarms can go to.</source>
+        <translation>Vastaanottajia ei vielä ole. Vastaanottaja on yksi paikka, johon hälytykset voivat mennä.</translation>
     </message>
 </context>
 <context>

@@ -453,6 +453,38 @@
         <source>the disk has failed</source>
         <translation>diskfeil</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is no day such as 2026-12-24, or 12-24 for every year</source>
+        <translation>&quot;%1&quot; er ikke en dag som 2026-12-24, eller 12-24 for hvert år</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; lies outside the years %2 to %3</source>
+        <translation>&quot;%1&quot; ligger utenfor årene %2 til %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no day of the calendar</source>
+        <translation>&quot;%1&quot; er ikke en dag i kalenderen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: give both days a year, or none of them</source>
+        <translation>&quot;%1&quot;: gi begge dagene et årstall, eller ingen av dem</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ends before it begins</source>
+        <translation>&quot;%1&quot; slutter før det begynner</translation>
+    </message>
+    <message>
+        <source>a holiday has two fields (day | name), this line has %1</source>
+        <translation>en helligdag har to felt (dag | navn), denne linjen har %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no last day</source>
+        <translation>&quot;%1&quot; har ingen siste dag</translation>
+    </message>
+    <message>
+        <source>the name must not hold &quot;|&quot;</source>
+        <translation>navnet kan ikke inneholde &quot;|&quot;</translation>
+    </message>
 </context>
 <context>
     <name>cDayTypeImages</name>
@@ -736,10 +768,6 @@
         <translation>Kalender</translation>
     </message>
     <message>
-        <source>None chosen</source>
-        <translation>Ingen valgt</translation>
-    </message>
-    <message>
         <source>Day &amp;type to paint</source>
         <translation>Dagtype som &amp;males</translation>
     </message>
@@ -772,16 +800,8 @@
         <translation>Piltastene velger dag, mellomrom maler dagtypen</translation>
     </message>
     <message>
-        <source>Choose a day type to paint.</source>
-        <translation>Velg en dagtype å male.</translation>
-    </message>
-    <message>
         <source>painting days</source>
         <translation>maling av dager</translation>
-    </message>
-    <message>
-        <source>Choose a day type to paint and the country of the holidays.</source>
-        <translation>Velg en dagtype å male og helligdagenes land.</translation>
     </message>
     <message>
         <source>painting holidays</source>
@@ -814,6 +834,10 @@
     <message>
         <source>The whole year on one page</source>
         <translation>Hele året på én side</translation>
+    </message>
+    <message>
+        <source>There are no holidays: choose their country, or write your own.</source>
+        <translation>Det finnes ingen helligdager: velg landet deres, eller skriv egne.</translation>
     </message>
 </context>
 <context>
@@ -969,12 +993,6 @@
         <source>Colour</source>
         <translation>Farge</translation>
     </message>
-    <message>
-        <source>Some lines were not understood. They stay in the file:
-%1</source>
-        <translation>Noen linjer ble ikke forstått. De blir stående i filen:
-%1</translation>
-    </message>
 </context>
 <context>
     <name>vigrel::cColourRulesPage</name>
@@ -1117,10 +1135,6 @@
     <message>
         <source>Calendar %1</source>
         <translation>Kalender %1</translation>
-    </message>
-    <message>
-        <source>Schedules, calendars, colour rules (*.sch *.cal ColourRules.txt);;All files (*)</source>
-        <translation>Tidsprogrammer, kalendere, fargeregler (*.sch *.cal ColourRules.txt);;Alle filer (*)</translation>
     </message>
     <message>
         <source>Vigrel Definitions</source>
@@ -1290,6 +1304,22 @@ Programmets mappe: %3</translation>
         <source>Save as P&amp;DF...</source>
         <translation>Lagre som P&amp;DF...</translation>
     </message>
+    <message>
+        <source>Schedules, calendars, lists of the station (*.sch *.cal ColourRules.txt OwnHolidays.txt);;All files (*)</source>
+        <translation>Tidsprogrammer, kalendere, stasjonens lister (*.sch *.cal ColourRules.txt OwnHolidays.txt);;Alle filer (*)</translation>
+    </message>
+    <message>
+        <source>&amp;As large as the window</source>
+        <translation>&amp;Så stor som vinduet</translation>
+    </message>
+    <message>
+        <source>Own &amp;holidays</source>
+        <translation>&amp;Egne helligdager</translation>
+    </message>
+    <message>
+        <source>Own holi&amp;days of the station</source>
+        <translation>Stasjonens egne he&amp;lligdager</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cFileDocument</name>
@@ -1332,6 +1362,15 @@ Programmets mappe: %3</translation>
     </message>
 </context>
 <context>
+    <name>vigrel::cLineProblemsLabel</name>
+    <message>
+        <source>Some lines were not understood. They stay in the file:
+%1</source>
+        <translation>Noen linjer ble ikke forstått. De blir stående i filen:
+%1</translation>
+    </message>
+</context>
+<context>
     <name>vigrel::cNoteBar</name>
     <message>
         <source>What happened to files</source>
@@ -1356,6 +1395,68 @@ Programmets mappe: %3</translation>
     <message>
         <source>What could not be read: %1.</source>
         <translation>Kunne ikke leses: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cOwnHolidaysEditor</name>
+    <message>
+        <source>&amp;Add holiday</source>
+        <translation>&amp;Legg til helligdag</translation>
+    </message>
+    <message>
+        <source>&amp;Delete holiday</source>
+        <translation>Sl&amp;ett helligdag</translation>
+    </message>
+    <message>
+        <source>A day is written 2026-12-24, or 12-24 for every year. Calendars mark these days beside the country&apos;s holidays.</source>
+        <translation>En dag skrives 2026-12-24, eller 12-24 for hvert år. Kalendere markerer disse dagene ved siden av landets helligdager.</translation>
+    </message>
+    <message>
+        <source>Own holidays</source>
+        <translation>Egne helligdager</translation>
+    </message>
+    <message>
+        <source>First day</source>
+        <translation>Første dag</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>Siste dag</translation>
+    </message>
+    <message>
+        <source>Every year</source>
+        <translation>Hvert år</translation>
+    </message>
+    <message>
+        <source>Holiday</source>
+        <translation>Helligdag</translation>
+    </message>
+    <message>
+        <source>changing a holiday</source>
+        <translation>endring av helligdag</translation>
+    </message>
+    <message>
+        <source>Company holiday</source>
+        <translation>Bedriftens fridag</translation>
+    </message>
+    <message>
+        <source>adding a holiday</source>
+        <translation>tillegg av helligdag</translation>
+    </message>
+    <message>
+        <source>deleting a holiday</source>
+        <translation>sletting av helligdag</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cOwnHolidaysPage</name>
+    <message>
+        <source>Own holidays</source>
+        <translation>Egne helligdager</translation>
+    </message>
+    <message>
+        <source>Own holidays (*.txt);;All files (*)</source>
+        <translation>Egne helligdager (*.txt);;Alle filer (*)</translation>
     </message>
 </context>
 <context>
@@ -1558,6 +1659,10 @@ Programmets mappe: %3</translation>
         <source>Delete the profile &quot;%1&quot; and its file?</source>
         <translation>Vil du slette profilen &quot;%1&quot; og filen?</translation>
     </message>
+    <message>
+        <source>There are no profiles yet. A profile says which alarms go to which receivers, and when.</source>
+        <translation>Det finnes ingen profiler ennå. En profil sier hvilke alarmer som går til hvilke mottakere, og når.</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cReceiverForm</name>
@@ -1668,6 +1773,10 @@ Programmets mappe: %3</translation>
 %1</source>
         <translation>Disse profilene sender alarmer til den:
 %1</translation>
+    </message>
+    <message>
+        <source>There are no receivers yet. A receiver is one place that alarms can go to.</source>
+        <translation>Det finnes ingen mottakere ennå. En mottaker er ett sted som alarmer kan gå til.</translation>
     </message>
 </context>
 <context>

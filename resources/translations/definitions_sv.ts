@@ -453,6 +453,38 @@
         <source>the disk has failed</source>
         <translation>diskfel</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is no day such as 2026-12-24, or 12-24 for every year</source>
+        <translation>&quot;%1&quot; är ingen dag som 2026-12-24, eller 12-24 för varje år</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; lies outside the years %2 to %3</source>
+        <translation>&quot;%1&quot; ligger utanför åren %2 till %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no day of the calendar</source>
+        <translation>&quot;%1&quot; är ingen dag i kalendern</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: give both days a year, or none of them</source>
+        <translation>&quot;%1&quot;: ge båda dagarna ett årtal, eller ingen av dem</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ends before it begins</source>
+        <translation>&quot;%1&quot; slutar innan det börjar</translation>
+    </message>
+    <message>
+        <source>a holiday has two fields (day | name), this line has %1</source>
+        <translation>en helgdag har två fält (dag | namn), den här raden har %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no last day</source>
+        <translation>&quot;%1&quot; har ingen sista dag</translation>
+    </message>
+    <message>
+        <source>the name must not hold &quot;|&quot;</source>
+        <translation>namnet får inte innehålla &quot;|&quot;</translation>
+    </message>
 </context>
 <context>
     <name>cDayTypeImages</name>
@@ -736,10 +768,6 @@
         <translation>Kalender</translation>
     </message>
     <message>
-        <source>None chosen</source>
-        <translation>Ingen vald</translation>
-    </message>
-    <message>
         <source>Day &amp;type to paint</source>
         <translation>Dagtyp att &amp;måla</translation>
     </message>
@@ -772,16 +800,8 @@
         <translation>Piltangenterna väljer dag, blanksteg målar dagtypen</translation>
     </message>
     <message>
-        <source>Choose a day type to paint.</source>
-        <translation>Välj en dagtyp att måla.</translation>
-    </message>
-    <message>
         <source>painting days</source>
         <translation>målning av dagar</translation>
-    </message>
-    <message>
-        <source>Choose a day type to paint and the country of the holidays.</source>
-        <translation>Välj en dagtyp att måla och helgdagarnas land.</translation>
     </message>
     <message>
         <source>painting holidays</source>
@@ -814,6 +834,10 @@
     <message>
         <source>The whole year on one page</source>
         <translation>Hela året på en sida</translation>
+    </message>
+    <message>
+        <source>There are no holidays: choose their country, or write your own.</source>
+        <translation>Det finns inga helgdagar: välj deras land eller skriv egna.</translation>
     </message>
 </context>
 <context>
@@ -969,12 +993,6 @@
         <source>Colour</source>
         <translation>Färg</translation>
     </message>
-    <message>
-        <source>Some lines were not understood. They stay in the file:
-%1</source>
-        <translation>Några rader förstods inte. De står kvar i filen:
-%1</translation>
-    </message>
 </context>
 <context>
     <name>vigrel::cColourRulesPage</name>
@@ -1117,10 +1135,6 @@
     <message>
         <source>Calendar %1</source>
         <translation>Kalender %1</translation>
-    </message>
-    <message>
-        <source>Schedules, calendars, colour rules (*.sch *.cal ColourRules.txt);;All files (*)</source>
-        <translation>Tidsscheman, kalendrar, färgregler (*.sch *.cal ColourRules.txt);;Alla filer (*)</translation>
     </message>
     <message>
         <source>Vigrel Definitions</source>
@@ -1290,6 +1304,22 @@ Programmets mapp: %3</translation>
         <source>Save as P&amp;DF...</source>
         <translation>Spara som P&amp;DF...</translation>
     </message>
+    <message>
+        <source>Schedules, calendars, lists of the station (*.sch *.cal ColourRules.txt OwnHolidays.txt);;All files (*)</source>
+        <translation>Tidsscheman, kalendrar, stationens listor (*.sch *.cal ColourRules.txt OwnHolidays.txt);;Alla filer (*)</translation>
+    </message>
+    <message>
+        <source>&amp;As large as the window</source>
+        <translation>&amp;Så stor som fönstret</translation>
+    </message>
+    <message>
+        <source>Own &amp;holidays</source>
+        <translation>&amp;Egna helgdagar</translation>
+    </message>
+    <message>
+        <source>Own holi&amp;days of the station</source>
+        <translation>Stationens egna he&amp;lgdagar</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cFileDocument</name>
@@ -1332,6 +1362,15 @@ Programmets mapp: %3</translation>
     </message>
 </context>
 <context>
+    <name>vigrel::cLineProblemsLabel</name>
+    <message>
+        <source>Some lines were not understood. They stay in the file:
+%1</source>
+        <translation>Några rader förstods inte. De står kvar i filen:
+%1</translation>
+    </message>
+</context>
+<context>
     <name>vigrel::cNoteBar</name>
     <message>
         <source>What happened to files</source>
@@ -1356,6 +1395,68 @@ Programmets mapp: %3</translation>
     <message>
         <source>What could not be read: %1.</source>
         <translation>Kunde inte läsas: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cOwnHolidaysEditor</name>
+    <message>
+        <source>&amp;Add holiday</source>
+        <translation>&amp;Lägg till helgdag</translation>
+    </message>
+    <message>
+        <source>&amp;Delete holiday</source>
+        <translation>&amp;Ta bort helgdag</translation>
+    </message>
+    <message>
+        <source>A day is written 2026-12-24, or 12-24 for every year. Calendars mark these days beside the country&apos;s holidays.</source>
+        <translation>En dag skrivs 2026-12-24, eller 12-24 för varje år. Kalendrar markerar dessa dagar vid sidan av landets helgdagar.</translation>
+    </message>
+    <message>
+        <source>Own holidays</source>
+        <translation>Egna helgdagar</translation>
+    </message>
+    <message>
+        <source>First day</source>
+        <translation>Första dag</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>Sista dag</translation>
+    </message>
+    <message>
+        <source>Every year</source>
+        <translation>Varje år</translation>
+    </message>
+    <message>
+        <source>Holiday</source>
+        <translation>Helgdag</translation>
+    </message>
+    <message>
+        <source>changing a holiday</source>
+        <translation>ändring av helgdag</translation>
+    </message>
+    <message>
+        <source>Company holiday</source>
+        <translation>Företagets lediga dag</translation>
+    </message>
+    <message>
+        <source>adding a holiday</source>
+        <translation>tillägg av helgdag</translation>
+    </message>
+    <message>
+        <source>deleting a holiday</source>
+        <translation>borttagning av helgdag</translation>
+    </message>
+</context>
+<context>
+    <name>vigrel::cOwnHolidaysPage</name>
+    <message>
+        <source>Own holidays</source>
+        <translation>Egna helgdagar</translation>
+    </message>
+    <message>
+        <source>Own holidays (*.txt);;All files (*)</source>
+        <translation>Egna helgdagar (*.txt);;Alla filer (*)</translation>
     </message>
 </context>
 <context>
@@ -1558,6 +1659,10 @@ Programmets mapp: %3</translation>
         <source>Delete the profile &quot;%1&quot; and its file?</source>
         <translation>Vill du ta bort profilen &quot;%1&quot; och dess fil?</translation>
     </message>
+    <message>
+        <source>There are no profiles yet. A profile says which alarms go to which receivers, and when.</source>
+        <translation>Det finns inga profiler ännu. En profil säger vilka larm som går till vilka mottagare, och när.</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cReceiverForm</name>
@@ -1668,6 +1773,10 @@ Programmets mapp: %3</translation>
 %1</source>
         <translation>Dessa profiler skickar larm till den:
 %1</translation>
+    </message>
+    <message>
+        <source>There are no receivers yet. A receiver is one place that alarms can go to.</source>
+        <translation>Det finns inga mottagare ännu. En mottagare är ett ställe som larm kan gå till.</translation>
     </message>
 </context>
 <context>

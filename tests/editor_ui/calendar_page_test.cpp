@@ -9,6 +9,7 @@ class CalendarPage : public ::testing::Test, protected cEditorBench {
   protected:
     QWidget& View() { return Find<QWidget>(m_Page, "Picture_Calendar"); }
     QComboBox& Combo(const char* name) { return Find<QComboBox>(m_Page, name); }
+    QListWidget& DayTypes() { return Find<QListWidget>(m_Page, "List_Calendar_DayType"); }
     QString Month() { return Find<QLabel>(m_Page, "Text_Calendar_Month").text(); }
     std::int16_t Value(int year, int month, int day) {
         return m_Page.Editor().Calendar().GetDayType(CalendarIndex(DateSerial(year, month, day)));
@@ -36,7 +37,7 @@ TEST_F(CalendarPage, ANewCalendarShowsTheMonthOfToday) {
 
 TEST_F(CalendarPage, ADragPaintsTheChosenTypeInOneStepOfUndo) {
     m_Page.Editor().ShowMonth(2026, 6);
-    Combo("Combo_Calendar_DayType").setCurrentIndex(8);
+    DayTypes().setCurrentRow(8);
     Drag(View(), {Cell(0, 0), Cell(1, 0), Cell(2, 0)});
     for (int day = 1; day <= 4; ++day) EXPECT_EQ(Value(2026, 6, day), day < 4 ? 8 : 0);
     EXPECT_EQ(m_Page.UndoStack()->count(), 1);
@@ -44,23 +45,45 @@ TEST_F(CalendarPage, ADragPaintsTheChosenTypeInOneStepOfUndo) {
     EXPECT_EQ(Value(2026, 6, 1), 0);
     Choose(*m_Window, "Menu_Redo");
     EXPECT_EQ(Value(2026, 6, 3), 8);
-    Combo("Combo_Calendar_DayType").setCurrentIndex(0);
+    DayTypes().setCurrentRow(0);
     Drag(View(), {Cell(1, 0), Cell(2, 0)});
     EXPECT_EQ(Value(2026, 6, 1), 8);
     EXPECT_EQ(Value(2026, 6, 2), 0);
     EXPECT_EQ(Value(2026, 6, 3), 0);
 }
 
-TEST_F(CalendarPage, WithoutAChosenTypeAPressPaintsNothing) {
+TEST_F(CalendarPage, TheFirstPressPaintsASpecialDayType) {
     m_Page.Editor().ShowMonth(2026, 6);
     Drag(View(), {Cell(0, 0), Cell(1, 0)});
-    EXPECT_FALSE(m_Page.IsDirty());
-    EXPECT_EQ(Value(2026, 6, 1), 0);
+    EXPECT_EQ(Value(2026, 6, 1), 8);
+    EXPECT_EQ(Value(2026, 6, 2), 8);
+}
+
+TEST_F(CalendarPage, TheDayTypesArePicturesToPickFrom) {
+    EXPECT_EQ(DayTypes().count(), 24);
+    for (int row = 8; row < 24; ++row) EXPECT_FALSE(DayTypes().item(row)->icon().isNull()) << row;
+    QTest::mouseClick(DayTypes().viewport(), Qt::LeftButton, {},
+                      DayTypes().visualItemRect(DayTypes().item(3)).center());
+    m_Page.Editor().ShowMonth(2026, 6);
+    Drag(View(), {Cell(0, 0)});
+    EXPECT_EQ(Value(2026, 6, 1), 3);
+}
+
+// The drawing is the main thing: what the window gains is the drawing's, and the choices keep their width.
+TEST_F(CalendarPage, GrowsWithTheWindow) {
+    Choose(*m_Window, "Menu_Zoom_Fit");
+    m_Window->resize(900, 560);
+    ASSERT_TRUE(WaitUntil([&] { return View().width() > 500; })) << View().width();
+    const int panel = DayTypes().width();
+    m_Window->resize(1700, 1050);
+    EXPECT_TRUE(WaitUntil([&] { return View().width() > 1200; })) << View().width();
+    EXPECT_GT(View().height(), 680);
+    EXPECT_LE(DayTypes().width(), panel + 40);
 }
 
 TEST_F(CalendarPage, OnlyTheLeftButtonPaints) {
     m_Page.Editor().ShowMonth(2026, 6);
-    Combo("Combo_Calendar_DayType").setCurrentIndex(8);
+    DayTypes().setCurrentRow(8);
     Press(View(), Cell(0, 0), Qt::RightButton);
     Move(View(), Cell(1, 0));
     EXPECT_EQ(Value(2026, 6, 1), 0);
@@ -71,7 +94,7 @@ TEST_F(CalendarPage, TheToolTipNamesDayTypeAndHoliday) {
     Combo("Combo_Calendar_Holidays").setCurrentIndex(Combo("Combo_Calendar_Holidays").findText("Sweden"));
     emit Combo("Combo_Calendar_Holidays").activated(0);
     m_Page.Editor().ShowMonth(2026, 6);
-    Combo("Combo_Calendar_DayType").setCurrentIndex(9);
+    DayTypes().setCurrentRow(9);
     Drag(View(), {Cell(5, 0)});
     Move(View(), Cell(4, 0));
     Move(View(), Cell(5, 0));
@@ -81,7 +104,7 @@ TEST_F(CalendarPage, TheToolTipNamesDayTypeAndHoliday) {
 
 TEST_F(CalendarPage, TheToolTipIsNeverThatOfTheMonthBefore) {
     m_Page.Editor().ShowMonth(2026, 6);
-    Combo("Combo_Calendar_DayType").setCurrentIndex(9);
+    DayTypes().setCurrentRow(9);
     Drag(View(), {Cell(5, 0)});
     Move(View(), Cell(5, 0));
     EXPECT_EQ(View().toolTip(), "Special day type 2");
@@ -102,7 +125,7 @@ TEST_F(CalendarPage, TheFirstDayHasItsToolTipWhenThePointerComesFirst) {
 
 TEST_F(CalendarPage, AClickedDayHasItsNewTypeInTheToolTip) {
     m_Page.Editor().ShowMonth(2026, 6);
-    Combo("Combo_Calendar_DayType").setCurrentIndex(8);
+    DayTypes().setCurrentRow(8);
     Move(View(), Cell(2, 1));
     Press(View(), Cell(2, 1));
     Release(View(), Cell(2, 1));
@@ -139,7 +162,7 @@ TEST_F(CalendarPage, MonthsAreTurnedUpToTheEndsOfTheCalendar) {
 }
 
 TEST_F(CalendarPage, KeysChooseADayAcrossMonthsAndPaintIt) {
-    Combo("Combo_Calendar_DayType").setCurrentIndex(7);
+    DayTypes().setCurrentRow(7);
     Key(Qt::Key_Space);
     EXPECT_EQ(Value(2026, 3, 15), 7);
     Key(Qt::Key_Right);
@@ -165,7 +188,7 @@ TEST_F(CalendarPage, KeysChooseADayAcrossMonthsAndPaintIt) {
 
 TEST_F(CalendarPage, KeysGoOnFromTheDayThatWasClicked) {
     m_Page.Editor().ShowMonth(2026, 6);
-    Combo("Combo_Calendar_DayType").setCurrentIndex(7);
+    DayTypes().setCurrentRow(7);
     Drag(View(), {Cell(2, 1)});
     Drag(View(), {QPoint(5, 5)});
     Key(Qt::Key_Right);
@@ -176,7 +199,7 @@ TEST_F(CalendarPage, KeysGoOnFromTheDayThatWasClicked) {
 TEST_F(CalendarPage, KeysStopAtTheEndsOfTheCalendar) {
     m_Page.Editor().ShowMonth(2000, 1);
     for (int i = 0; i < 20; ++i) Key(Qt::Key_Left);
-    Combo("Combo_Calendar_DayType").setCurrentIndex(7);
+    DayTypes().setCurrentRow(7);
     Key(Qt::Key_Space);
     EXPECT_EQ(Value(2000, 1, 1), 7);
     EXPECT_EQ(Month(), "January 2000");
@@ -185,7 +208,7 @@ TEST_F(CalendarPage, KeysStopAtTheEndsOfTheCalendar) {
 TEST_F(CalendarPage, TheYearsHolidaysTakeTheChosenType) {
     Combo("Combo_Calendar_Holidays").setCurrentIndex(Combo("Combo_Calendar_Holidays").findText("Sweden"));
     emit Combo("Combo_Calendar_Holidays").activated(0);
-    Combo("Combo_Calendar_DayType").setCurrentIndex(7);
+    DayTypes().setCurrentRow(7);
     m_Page.Editor().ShowMonth(2026, 5);
     Choose(m_Page, "Menu_Calendar_HolidaysOfYear");
     EXPECT_EQ(Value(2026, 1, 6), 7);
@@ -203,17 +226,17 @@ TEST_F(CalendarPage, TheYearsHolidaysTakeTheChosenType) {
     EXPECT_EQ(Value(2026, 1, 6), 7);
 }
 
-TEST_F(CalendarPage, WithoutACountryOrATypeNoHolidayIsPainted) {
+TEST_F(CalendarPage, WithoutACountryNoHolidayIsPainted) {
     Combo("Combo_Calendar_Holidays").setCurrentIndex(0);
     emit Combo("Combo_Calendar_Holidays").activated(0);
-    Combo("Combo_Calendar_DayType").setCurrentIndex(7);
+    DayTypes().setCurrentRow(7);
     Choose(m_Page, "Menu_Calendar_HolidaysOfYear");
     EXPECT_FALSE(m_Page.IsDirty());
 }
 
 TEST_F(CalendarPage, UndoTurnsToTheMonthThatItChanges) {
     m_Page.Editor().ShowMonth(2026, 6);
-    Combo("Combo_Calendar_DayType").setCurrentIndex(8);
+    DayTypes().setCurrentRow(8);
     Drag(View(), {Cell(0, 0)});
     m_Page.Editor().ShowMonth(2031, 2);
     Choose(*m_Window, "Menu_Undo");
@@ -228,7 +251,7 @@ TEST_F(CalendarPage, UndoTurnsToTheMonthThatItChanges) {
 }
 
 TEST_F(CalendarPage, UndoStaysInAMonthThatItChanges) {
-    Combo("Combo_Calendar_DayType").setCurrentIndex(8);
+    DayTypes().setCurrentRow(8);
     Combo("Combo_Calendar_Holidays").setCurrentIndex(Combo("Combo_Calendar_Holidays").findData("DE-BW"));
     emit Combo("Combo_Calendar_Holidays").activated(0);
     Choose(*m_Window, "Menu_Calendar_HolidaysOfYear");
@@ -241,7 +264,7 @@ TEST_F(CalendarPage, UndoStaysInAMonthThatItChanges) {
 
 TEST_F(CalendarPage, AYearIsCopiedToTheNextInOneStep) {
     m_Page.Editor().ShowMonth(2026, 6);
-    Combo("Combo_Calendar_DayType").setCurrentIndex(8);
+    DayTypes().setCurrentRow(8);
     Drag(View(), {Cell(0, 0)});
     Choose(*m_Window, "Menu_Calendar_CopyYear");
     EXPECT_EQ(Month(), "June 2027");
@@ -323,11 +346,11 @@ TEST_F(CalendarPage, TheListOfDayTypesFollowsANewName) {
     Find<QCheckBox>(schedule, "Check_TimeSchedule_UseCalendar").click();
     Find<QListWidget>(schedule, "List_DayTypes").item(22)->setCheckState(Qt::Checked);
     Drag(Find<QWidget>(schedule, "Picture_TimeSchedule"), {QPoint(150, 7 * 25 + 10)});
-    Combo("Combo_Calendar_DayType").setCurrentIndex(3);
+    DayTypes().setCurrentRow(3);
     m_Prompts.m_Texts = {QString::fromUtf8("Årsmöte")};
     Choose(schedule, "Menu_TimeSchedulePopup_Rename");
-    EXPECT_EQ(Combo("Combo_Calendar_DayType").itemText(23), QString::fromUtf8("Årsmöte"));
-    EXPECT_EQ(Combo("Combo_Calendar_DayType").currentIndex(), 3);
+    EXPECT_EQ(DayTypes().item(23)->text(), QString::fromUtf8("Årsmöte"));
+    EXPECT_EQ(DayTypes().currentRow(), 3);
 }
 
 }  // namespace

@@ -56,7 +56,7 @@ TEST_F(DefinitionsWindow, AScheduleIsSavedUnderANameAndReadAgain) {
 TEST_F(DefinitionsWindow, ACalendarIsTheFileOf29220Bytes) {
     cCalendarPage& page = NewCalendar();
     page.Editor().ShowMonth(2000, 1);
-    Find<QComboBox>(page, "Combo_Calendar_DayType").setCurrentIndex(9);
+    Find<QListWidget>(page, "List_Calendar_DayType").setCurrentRow(9);
     Drag(Find<QWidget>(page, "Picture_Calendar"), {QPoint(30 + 5 * 40 + 20, 32)});
     m_Prompts.m_Texts = {"/app/Site.cal"};
     Choose(*m_Window, "Menu_Save");
@@ -248,7 +248,60 @@ TEST_F(DefinitionsWindow, TheZoomIsRemembered) {
     EXPECT_TRUE(another.findChild<QAction*>("Menu_Zoom_300")->isChecked());
     m_Settings.setValue("Zoom", -5);
     const cDefinitionsWindow damaged(m_Services);
-    EXPECT_TRUE(damaged.findChild<QAction*>("Menu_Zoom_200")->isChecked());
+    EXPECT_TRUE(damaged.findChild<QAction*>("Menu_Zoom_Fit")->isChecked());
+}
+
+// --- what the next start finds
+
+TEST_F(DefinitionsWindow, ThePageOfTheLastTimeComesBack) {
+    m_Files.Put("/app/Site.sch", Sample("schedule.dat"));
+    const auto nextStart = [&] {
+        EXPECT_TRUE(m_Window->close());
+        m_Window = std::make_unique<cDefinitionsWindow>(m_Services);
+        m_Window->show();
+        m_Window->ShowLastPage();
+        const cEditorPage* page = m_Window->CurrentPage();
+        return page == nullptr ? std::string("start page") : page->Title().toStdString();
+    };
+    EXPECT_EQ(nextStart(), "start page");
+    m_Window->OpenFile("/app/Site.sch");
+    EXPECT_EQ(nextStart(), "Site.sch");
+    m_Window->ShowProfiles();
+    EXPECT_EQ(nextStart(), "Profiles");
+    m_Window->ShowReceivers();
+    EXPECT_EQ(nextStart(), "Receivers");
+    m_Window->ShowOwnHolidays();
+    EXPECT_EQ(nextStart(), "OwnHolidays.txt");
+    m_Window->ShowColourRules();
+    EXPECT_EQ(nextStart(), "ColourRules.txt");
+    Choose(*m_Window, "Menu_Close");
+    EXPECT_EQ(nextStart(), "start page");
+    // One that is gone meanwhile is nothing to be told of.
+    m_Window->OpenFile("/app/Site.sch");
+    m_Files.RemoveFile("/app/Site.sch");
+    EXPECT_EQ(nextStart(), "start page");
+    EXPECT_EQ(m_Prompts.m_Asked.toStdString(), "");
+}
+
+TEST_F(DefinitionsWindow, TheWindowHasTheSizeOfTheLastTime) {
+    m_Window->resize(777, 555);
+    EXPECT_TRUE(m_Window->close());
+    cDefinitionsWindow another(m_Services);
+    another.show();
+    EXPECT_EQ(another.size(), QSize(777, 555));
+}
+
+TEST_F(DefinitionsWindow, TwoFilesOfOneNameTellTheirFolders) {
+    m_Files.Put("/app/north/Site.sch", Sample("schedule.dat"));
+    m_Files.Put("/app/south/Site.sch", Sample("schedule.dat"));
+    m_Window->OpenFile("/app/north/Site.sch");
+    EXPECT_EQ(Tab(0), "Site.sch");
+    m_Window->OpenFile("/app/south/Site.sch");
+    EXPECT_EQ(Tab(0), "north/Site.sch");
+    EXPECT_EQ(Tab(1), "south/Site.sch");
+    EXPECT_TRUE(m_Window->windowTitle().startsWith("south/Site.sch[*]"));
+    Choose(*m_Window, "Menu_Close");
+    EXPECT_EQ(Tab(0), "Site.sch");
 }
 
 // A page of another kind finds its place without the window knowing it.
@@ -276,7 +329,7 @@ TEST_F(DefinitionsWindow, TheEditorsInsideAProfileAreHeardAsWell) {
     EXPECT_EQ(m_Window->statusBar()->currentMessage(), "There is no gap.");
     m_Services.m_DayTypeNames.Rename(22, "Lucia");
     emit schedule->DayTypesChanged();
-    EXPECT_EQ(Find<QComboBox>(calendar, "Combo_Calendar_DayType").itemText(23), "Lucia");
+    EXPECT_EQ(Find<QListWidget>(calendar, "List_Calendar_DayType").item(23)->text(), "Lucia");
     m_Files.Put("/app/Site.cal", Sample("calendar.dat"));
     auto* document = profiles.findChild<cFileDocument*>();
     ASSERT_NE(document, nullptr);

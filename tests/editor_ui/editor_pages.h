@@ -20,6 +20,7 @@ class cEditorPages {
     explicit cEditorPages(std::unique_ptr<QTranslator> words) : m_Words(std::move(words)) {
         QCoreApplication::installTranslator(m_Words.get());
         m_Bench = std::make_unique<cEditorBench>();
+        m_Bench->Choose(Window(), "Menu_Zoom_Fit");
         m_Bench->m_Files.Put("/app/Receivers/Receiver_0007.dat", Sample("receiver_version_5.dat"));
         m_Bench->m_Files.Put("/app/Profiles/Profile_0012.dat", Sample("profile_version_5.dat"));
         // With a hint of each kind that has many words.
@@ -28,6 +29,7 @@ class cEditorPages {
                              "[ReceiverTypeSettings]\r\nSetting0=COM\r\nSetting0Type=Integer16\r\n"
                              "Setting1=COM\r\nSetting1Type=Currency\r\nSetting2=COM\r\nSetting2Type=Byte\r\n"
                              "Setting3=COM\r\nSetting3Type=YesNo\r\n");
+        m_Bench->m_Files.Put("/app/OwnHolidays.txt", "12-24 | COM\r\nnonsense\r\n");
         m_Bench->m_Files.Put("/app/ColourRules.txt", "* | * | * | 0,0,0 | 255,255,255 | 15\r\nnonsense\r\n");
     }
     // In a delivered language.
@@ -51,6 +53,8 @@ class cEditorPages {
         look("calendar, year");
         Window().ShowColourRules();
         look("colour rules");
+        Window().ShowOwnHolidays();
+        look("own holidays");
         Window().ShowReceivers();
         dynamic_cast<cDefinitionPage&>(*Window().CurrentPage()).Choose(0);
         look("receivers");

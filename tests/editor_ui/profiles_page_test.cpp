@@ -7,9 +7,11 @@
 #include <QImage>
 #include <QListWidget>
 #include <QMenu>
+#include <QPainter>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QSpinBox>
+#include <QSplitter>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QUndoStack>
@@ -56,7 +58,7 @@ class ProfilesPage : public PageTest {
     // Gives one day of a calendar another type, by mouse.
     static void MarkADay(cCalendarEditor& calendar) {
         calendar.ShowMonth(2026, 6);
-        Find<QComboBox>(calendar, "Combo_Calendar_DayType")->setCurrentIndex(8);
+        Find<QListWidget>(calendar, "List_Calendar_DayType")->setCurrentRow(8);
         auto* view = Find<QWidget>(calendar, "Picture_Calendar");
         QTest::mouseClick(view, Qt::LeftButton, {}, QPoint(50, 32));
     }
@@ -423,6 +425,58 @@ TEST_F(ProfilesPage, TheListShowsTheConditions) {
     EXPECT_EQ(Rows(Page()),
               "Night | Fire, *, \xC3\x96"
               "1 | 0012\n");
+}
+
+// --- paper
+
+TEST_F(ProfilesPage, TheWeekIsPrintedUnderTheNameOfTheProfile) {
+    ASSERT_TRUE(Page().CanPrint());
+    const auto printout = Page().Printout();
+    ASSERT_TRUE(printout);
+    EXPECT_EQ(printout->title, Find<QLineEdit>(Page(), "Text_ProfileName")->text());
+    QImage sheet(1200, 800, QImage::Format_RGB32);
+    sheet.fill(Qt::white);
+    {
+        QPainter painter(&sheet);
+        printout->paint(painter,
+                        QRectF(QPointF(0, 0), printout->shape.scaled(1200, 800, Qt::KeepAspectRatio)));
+    }
+    // The bars of periods are green.
+    int green = 0;
+    for (int y = 0; y < sheet.height(); y += 2) {
+        for (int x = 0; x < sheet.width(); x += 2) {
+            const QColor colour = sheet.pixelColor(x, y);
+            green += colour.green() > 120 && colour.red() < 80 && colour.blue() < 80;
+        }
+    }
+    EXPECT_GT(green, 500);
+}
+
+TEST_F(ProfilesPage, TheCalendarIsPrintedWhileItShows) {
+    ShowTab(4);
+    const QString month = Find<QLabel>(Page(), "Text_Calendar_Month")->text();
+    EXPECT_TRUE(Page().Printout()->title.endsWith(" - " + month));
+    Find<QAbstractButton>(Page(), "Button_Calendar_ShowYear")->click();
+    EXPECT_TRUE(Page().Printout()->title.endsWith(" - 2026"));
+}
+
+TEST_F(ProfilesPage, WithoutAProfileNothingIsPrinted) {
+    m_Files.RemoveFile(Path("Profiles\\Profile_0012.dat"));
+    EXPECT_FALSE(Page().CanPrint());
+    EXPECT_FALSE(Page().Printout());
+}
+
+// --- room
+
+TEST_F(ProfilesPage, TheTabAndTheSizesAreThoseOfTheLastTime) {
+    ShowTab(3);
+    auto* splitter = Find<QSplitter>(Page(), "Splitter_Page_Profiles");
+    splitter->setSizes({300, 700});
+    emit splitter->splitterMoved(300, 1);
+    const QList<int> sizes = splitter->sizes();
+    Reopen();
+    EXPECT_EQ(Find<QTabWidget>(Page(), "Tabs_Profile")->currentIndex(), 3);
+    EXPECT_EQ(Find<QSplitter>(Page(), "Splitter_Page_Profiles")->sizes(), sizes);
 }
 
 // As on a small screen at 200 %.

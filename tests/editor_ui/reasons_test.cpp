@@ -7,6 +7,7 @@
 #include <QTableWidget>
 
 #include "common/failure.h"
+#include "editor_ui/calendar/own_holidays_page.h"
 #include "editor_ui/colours/colour_rules_page.h"
 #include "editor_ui/marks.h"
 #include "editor_ui/page_fixture.h"
@@ -87,6 +88,25 @@ TEST_F(Reasons, OfAWrongColourRuleAreTold) {
     for (const auto& [column, text] : wrong) {
         rules->item(0, column)->setText(QString::fromUtf8(text));
         std::string asked = Asked();
+        ASSERT_TRUE(asked.starts_with("failure: ")) << column << " " << text;
+        ExpectTold(asked.substr(9), "<");
+    }
+}
+
+TEST_F(Reasons, OfAWrongHolidayAreTold) {
+    Put("OwnHolidays.txt", "2026-12-24..2026-12-26 | Eve\r\nnonsense\r\n12-24.. | x\r\n");
+    cOwnHolidaysPage page(m_Services);
+    ASSERT_TRUE(page.Open(Path("OwnHolidays.txt")));
+    ExpectTold(LabelOf(page, "Label_Problems"), "<a holiday has two fields");
+    ExpectTold(LabelOf(page, "Label_Problems"), "has no last day");
+    auto* holidays = Find<QTableWidget>(page, "List_OwnHolidays");
+    const std::pair<int, const char*> wrong[] = {
+        {0, ""},           {0, "24.12."},   {0, "2026-02-29"}, {0, "1999-12-31"}, {0, "2027-01-01"},
+        {1, "2026-12-23"}, {3, "\xC4\x80"}, {3, ""},           {3, "a|b"},
+    };
+    for (const auto& [column, text] : wrong) {
+        holidays->item(0, column)->setText(QString::fromUtf8(text));
+        const std::string asked = Asked();
         ASSERT_TRUE(asked.starts_with("failure: ")) << column << " " << text;
         ExpectTold(asked.substr(9), "<");
     }

@@ -252,12 +252,45 @@ TEST_F(ReceiversPage, CharactersThatCantBeStoredAreNotTaken) {
     EXPECT_EQ(Shown().m_ReceiverName, "A\x80");
 }
 
-TEST_F(ReceiversPage, AnEmptyStationShowsAnEmptyForm) {
+TEST_F(ReceiversPage, AnEmptyStationOffersTheFirstReceiver) {
     m_Files.RemoveFile(Path("Receivers\\Receiver_0007.dat"));
     EXPECT_EQ(Page().Chosen(), -1);
-    EXPECT_FALSE(Find<QWidget>(Page(), "Form_Receiver")->isEnabled());
+    EXPECT_FALSE(Find<QWidget>(Page(), "Form_Receiver")->isVisible());
+    EXPECT_TRUE(Find<QWidget>(Page(), "Label_NoDefinitions")->isVisible());
     EXPECT_FALSE(Find<QWidget>(Page(), "Button_Delete")->isEnabled());
     EXPECT_TRUE(Find<QWidget>(Page(), "Button_New")->isEnabled());
+    Press(Page(), "Button_First");
+    EXPECT_EQ(Rows(Page()), "New receiver * |  | \n");
+    EXPECT_TRUE(Find<QWidget>(Page(), "Form_Receiver")->isVisible());
+    EXPECT_FALSE(Find<QWidget>(Page(), "Label_NoDefinitions")->isVisible());
+    Page().UndoStack()->undo();
+    EXPECT_TRUE(Find<QWidget>(Page(), "Label_NoDefinitions")->isVisible());
+}
+
+// What the type doesn't use takes no room and no input, in whichever order types are chosen; of a type that
+// isn't known all values are shown, since they are in the file.
+TEST_F(ReceiversPage, OnlyTheFieldsOfTheTypeAreShown) {
+    const auto shown = [&] {
+        std::string fields;
+        for (int i = 0; i < 4; ++i) {
+            const QString name = QString("Label_Setting_%1").arg(i);
+            if (Find<QLabel>(Page(), name.toLatin1().constData())->isVisible()) fields += std::to_string(i);
+            EXPECT_EQ(Find<QLineEdit>(Page(), QString("Text_Setting_%1").arg(i).toLatin1().constData())
+                          ->parentWidget()
+                          ->isVisible(),
+                      fields.ends_with(std::to_string(i)));
+        }
+        return fields;
+    };
+    EXPECT_EQ(shown(), "0123");
+    ChooseType("Radio");
+    EXPECT_EQ(shown(), "012");
+    ChooseType("Printer");
+    EXPECT_EQ(shown(), "");
+    ChooseType("Mail");
+    EXPECT_EQ(shown(), "01");
+    Page().UndoStack()->undo();
+    EXPECT_EQ(shown(), "");
 }
 
 TEST_F(ReceiversPage, EveryFieldHasANameForAssistiveTools) {

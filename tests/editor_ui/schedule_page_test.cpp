@@ -4,6 +4,7 @@
 #include <QWheelEvent>
 
 #include "editor_ui/editor_bench.h"
+#include "support/qt_wait.h"
 
 namespace vigrel::testing {
 namespace {
@@ -565,9 +566,9 @@ TEST_F(SchedulePage, ASpecialDayTypeGetsOneOfTheDrawings) {
     const auto middle = [](const QIcon& icon) {
         return icon.pixmap(16, 16).toImage().scaled(16, 16).pixelColor(8, 8);
     };
-    const auto& combo = Find<QComboBox>(calendar, "Combo_Calendar_DayType");
+    const auto& dayTypes = Find<QListWidget>(calendar, "List_Calendar_DayType");
     EXPECT_EQ(middle(list.item(7)->icon()), QColor("#2f8a3c"));
-    EXPECT_EQ(middle(combo.itemIcon(8)), QColor("#2f8a3c"));
+    EXPECT_EQ(middle(dayTypes.item(8)->icon()), QColor("#2f8a3c"));
     // The next start knows it; a number that is no drawing counts as no choice.
     EXPECT_EQ(cDayTypeImages(m_Ini).DrawingOf(1), 3);
     m_Ini.PutIniString("DayTypeImages", "7", "24", "VigrelDefinitions.INI");
@@ -674,6 +675,38 @@ TEST_F(SchedulePage, SpecialDayTypesShowTheirImageInTheRow) {
     Find<QListWidget>(m_Page, "List_DayTypes").item(7)->setCheckState(Qt::Checked);
     // The star of the first one, left of the axis.
     EXPECT_EQ(Pixel(20, 7 * 25 + 12), QColor("#b86a00"));
+}
+
+// The drawing is the main thing: what the window gains is the drawing's, and the panel keeps its width. A
+// place of it is the same minute at every size.
+TEST_F(SchedulePage, GrowsWithTheWindow) {
+    Choose(*m_Window, "Menu_Zoom_Fit");
+    m_Window->resize(900, 560);
+    ASSERT_TRUE(WaitUntil([&] { return View().width() > 500; })) << View().width();
+    const int panel = Find<QWidget>(m_Page, "List_DayTypes").width();
+    m_Window->resize(1700, 1050);
+    EXPECT_TRUE(WaitUntil([&] { return View().width() > 1300; })) << View().width();
+    EXPECT_EQ(Find<QWidget>(m_Page, "List_DayTypes").width(), panel);
+    const double zoom = View().width() / 326.0;
+    const auto middle = [&](QPoint unit) { return ((QPointF(unit) + QPointF(0.5, 0.5)) * zoom).toPoint(); };
+    Drag(View(), {middle(At(5, 600)), middle(At(5, 660))});
+    EXPECT_EQ(Day(5), "600-660");
+}
+
+// What is drawn reaches the frame's lower or right edge, whatever the window's shape.
+TEST_F(SchedulePage, FillsItsRoomInHeightOrWidth) {
+    Choose(*m_Window, "Menu_Zoom_Fit");
+    const QWidget& frame = Find<QWidget>(m_Page, "Picture_TimeSchedule_Frame");
+    for (const QSize size : {QSize(1500, 560), QSize(900, 1100)}) {
+        m_Window->resize(size);
+        QCoreApplication::processEvents();
+        const QWidget& content = *frame.parentWidget();
+        const QSize left = content.parentWidget()->size() - content.size();
+        EXPECT_GE(left.width(), 0);
+        EXPECT_GE(left.height(), 0);
+        EXPECT_LE(std::min(left.width(), left.height()), 1);
+        EXPECT_EQ(frame.geometry().bottomRight(), content.rect().bottomRight());
+    }
 }
 
 }  // namespace

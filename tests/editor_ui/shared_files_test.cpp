@@ -42,11 +42,13 @@ const cSharedFile kFiles[] = {
      }},
     {"calendar", "a.cal", CalendarOf(0, 8), CalendarOf(1, 9),
      [](cEditorBench&, cEditorPage& page) {
-         cEditorBench::Find<QComboBox>(page, "Combo_Calendar_DayType").setCurrentIndex(3);
+         cEditorBench::Find<QListWidget>(page, "List_Calendar_DayType").setCurrentRow(3);
          cEditorBench::Drag(cEditorBench::Find<QWidget>(page, "Picture_Calendar"), {{170, 60}, {210, 60}});
      }},
     {"colours", "ColourRules.txt", "A* | * | * | 0,0,0 | 255,255,255 | 15\r\n",
      "B* | * | * | 0,0,0 | 255,255,0 | 15\r\n",
+     [](cEditorBench& bench, cEditorPage& page) { bench.Choose(page, "Action_Add"); }},
+    {"holidays", "OwnHolidays.txt", "12-24 | Eve\r\n", "12-31 | Eve\r\n",
      [](cEditorBench& bench, cEditorPage& page) { bench.Choose(page, "Action_Add"); }},
 };
 

@@ -5,6 +5,9 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTest>
 #include <QTimer>
 #include <QToolButton>
 
@@ -89,6 +92,25 @@ TEST_P(TextRoom, IsThereForEveryTextOfThePages) {
                 << language << ", " << name << ", " << least.width() << "x" << least.height();
             EXPECT_EQ(CutTexts(pages.Window()), "")
                 << language << ", " << name << ", window " << pages.Window().width();
+        });
+    }
+}
+
+// A screen of 1920x1080 at 200 % has the size of 960x540, less the desktop's bar; the default is larger. With
+// letters of twice the size it takes the whole screen.
+TEST_P(TextRoom, IsThereForAProfilesScheduleAndCalendarWithoutScrolling) {
+    const cLetters letters(GetParam());
+    for (const char* language : {"044", "045", "046", "047", "049", "358"}) {
+        cEditorPages pages(language);
+        pages.Window().resize(QSize(960, 510) * GetParam());
+        pages.ForEach([&](const std::string& name) {
+            if (name != "profiles, tab 3" && name != "profiles, tab 4") return;
+            QTest::qWait(1);
+            auto& tabs = cEditorBench::Find<QTabWidget>(*pages.Window().CurrentPage(), "Tabs_Profile");
+            const auto& area = dynamic_cast<QScrollArea&>(*tabs.currentWidget());
+            EXPECT_FALSE(area.horizontalScrollBar()->isVisible())
+                << language << ", " << name << ": " << area.widget()->minimumSizeHint().width() << " in "
+                << area.viewport()->width();
         });
     }
 }

@@ -1,9 +1,9 @@
 // The year at a glance: twelve months on one page, painted on like the month.
 
-#include <QComboBox>
 #include <QFile>
 #include <QImage>
 #include <QLabel>
+#include <QListWidget>
 #include <QToolButton>
 #include <set>
 
@@ -20,7 +20,7 @@ class YearOverview : public ::testing::Test, protected cEditorBench {
   protected:
     YearOverview() {
         Find<QToolButton>(m_Page, "Button_Calendar_ShowYear").click();
-        Find<QComboBox>(m_Page, "Combo_Calendar_DayType").setCurrentIndex(kHoliday);
+        Find<QListWidget>(m_Page, "List_Calendar_DayType").setCurrentRow(kHoliday);
         m_Window->resize(1200, 800);
         QCoreApplication::processEvents();
     }
@@ -113,12 +113,6 @@ TEST_F(YearOverview, TurnsByYearsAndIsPaintedOnByKeys) {
     EXPECT_EQ(Find<QLabel>(m_Page, "Text_Calendar_Month").text(), "March 2027");
 }
 
-TEST_F(YearOverview, WithoutAChosenTypePaintsNothing) {
-    Find<QComboBox>(m_Page, "Combo_Calendar_DayType").setCurrentIndex(-1);
-    Drag(View(), {Cell(6, 30)});
-    EXPECT_FALSE(m_Page.IsDirty());
-}
-
 // --- paper
 
 std::string PdfWith(cFakeFiles& files, const std::string& path) {
@@ -180,6 +174,17 @@ TEST_F(YearOverview, APageThatPrintsNothingOffersNoPrint) {
     EXPECT_TRUE(Find<QAction>(*m_Window, "Menu_Print").isEnabled());
     m_Window->ShowReceivers();
     EXPECT_FALSE(Find<QAction>(*m_Window, "Menu_Print").isEnabled());
+    m_Window->ShowProfiles();
+    EXPECT_FALSE(Find<QAction>(*m_Window, "Menu_Pdf").isEnabled());
+    cEditorPage& profiles = *m_Window->CurrentPage();
+    Choose(profiles, "Action_New");
+    Find<QLineEdit>(profiles, "Text_ProfileName").setText("East/West");
+    emit Find<QLineEdit>(profiles, "Text_ProfileName").textEdited("East/West");
+    m_Prompts.m_Texts = {"/app/profile.pdf"};
+    Choose(*m_Window, "Menu_Pdf");
+    EXPECT_EQ(m_Prompts.m_Asked, "save as /app/East-West.pdf (pdf)\n");
+    EXPECT_GT(PdfWith(m_Files, "/app/profile.pdf").size(), 1000u);
+    m_Window->ShowReceivers();
     EXPECT_FALSE(Find<QAction>(*m_Window, "Menu_Pdf").isEnabled());
 }
 

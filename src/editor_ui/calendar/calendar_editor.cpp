@@ -1,19 +1,22 @@
 #include "editor_ui/calendar/calendar_editor.h"
 
-#include <QFormLayout>
+#include <QAbstractItemView>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <cmath>
+#include <initializer_list>
 
 #include "adapters/qt/qt_text.h"
 #include "common/dates.h"
 #include "common/failure.h"
+#include "editor_ui/pages/entry_width.h"
+#include "editor_ui/pages/line_problems_label.h"
 #include "schedule/calendar_geometry.h"
 #include "schedule/definition_files.h"
 #include "schedule/holiday_rules.h"
+#include "schedule/own_holidays.h"
 #include "schedule/public_holidays.h"
 #include "windows/plain_text.h"
 
@@ -23,6 +26,8 @@ namespace {
 constexpr std::string_view kIniSection = "Calendar";
 constexpr std::string_view kIniHolidays = "Holidays";
 constexpr std::int16_t kEntries = kDayTypes + 1;
+constexpr QSize kMonthSize(kGridRight + 8, kGridBottom + 6);  // units
+constexpr int kLeastLetters = 12;                             // of a choice
 // A day's number of two digits and a short name of three letters stand side by side in a box of 37 units.
 constexpr int kFontSize = 10;
 
@@ -63,6 +68,7 @@ QString CountryName(const cHolidayCountry& country) {
 cCalendarEditor::cCalendarEditor(cEditorServices& services, QWidget* parent)
     : cContentEditor(parent),
       m_Services(services),
+      m_Problems(new cLineProblemsLabel),
       m_Calendar({services.m_Files, services.m_Clock, services.m_Forms, m_Holidays, services.GetText}),
       m_View("Picture_Calendar", this),
       m_YearView("Picture_Calendar_Year", this),
@@ -71,14 +77,13 @@ cCalendarEditor::cCalendarEditor(cEditorServices& services, QWidget* parent)
     setFocusProxy(&m_View);
     MakeActions();
     MakeLayout();
-    FillDayTypes();
     FillCountries();
     SetSchedules({});
     ConnectView();
     ConnectYear();
     ConnectChoices();
     SetZoom(1);
-    TakeCountry();
+    RefreshHolidays();
     ShowToday();
 }
 
@@ -91,12 +96,10 @@ void cCalendarEditor::MakeLayout() {
         new cPlainLabel(tr("Choose a day type and paint it over the days with the left mouse button."));
     hint->setWordWrap(true);
     drawing->addWidget(hint);
-    auto* tools = new QVBoxLayout;
-    tools->addWidget(MakeToolBox());
-    tools->addStretch(1);
+    drawing->addWidget(m_Problems);
     auto* layout = new QHBoxLayout(this);
     layout->addLayout(drawing, 1);
-    layout->addLayout(tools);
+    layout->addWidget(MakeToolBox());
 }
 
 QLayout* cCalendarEditor::MakeMonthBar() {
@@ -123,44 +126,65 @@ QLayout* cCalendarEditor::MakeMonthBar() {
     m_MonthNames.setAccessibleName(tr("Month"));
     for (const std::string& name : m_Services.m_Forms.monthNames) m_MonthNames.addItem(ToQString(name));
     auto* bar = new QHBoxLayout;
-    bar->addWidget(&m_Previous);
-    bar->addWidget(&m_Month, 1, Qt::AlignCenter);
-    bar->addWidget(&m_MonthNames);
-    bar->addWidget(&m_Year);
-    bar->addWidget(&m_Today);
-    bar->addWidget(&m_ShowYear);
-    bar->addWidget(&m_Next);
-    return bar;
+    for (QWidget* each : std::initializer_list<QWidget*>{&m_Previous, &m_Next, &m_MonthNames, &m_Year,
+                                                         &m_Today, &m_ShowYear}) {
+        bar->addWidget(each);
+    }
+    bar->addStretch(1);
+    auto* rows = new QVBoxLayout;
+    rows->addWidget(&m_Month);
+    rows->addLayout(bar);
+    return rows;
 }
 
 QWidget* cCalendarEditor::MakeToolBox() {
     auto* box = new QGroupBox(tr("Calendar"));
-    auto* form = new QFormLayout(box);
-    form->setRowWrapPolicy(QFormLayout::WrapAllRows);
-    m_DayType.setObjectName("Combo_Calendar_DayType");
-    m_DayType.setMaxVisibleItems(kEntries);
-    m_DayType.setPlaceholderText(tr("None chosen"));
+    auto* layout = new QVBoxLayout(box);
+    const auto add = [layout](const QString& text, QWidget& field, int stretch) {
+        auto* label = new cPlainLabel(text);
+        label->setBuddy(&field);
+        const QString name = QString(text).remove('&');
+        field.setAccessibleName(name);
+        if (auto* choice = qobject_cast<QComboBox*>(&field)) choice->view()->setAccessibleName(name);
+        layout->addWidget(label);
+        layout->addWidget(&field, stretch);
+    };
+    MakeDayTypes();
     m_Country.setObjectName("Combo_Calendar_Holidays");
-    // The longest name of a country's part must not set the width of the window.
-    m_Country.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     m_Schedule.setObjectName("Combo_Calendar_TimeSchedule");
     m_ShowTimeAxis.setObjectName("Check_Calendar_ShowTimeAxis");
-    form->addRow(tr("Day &type to paint"), &m_DayType);
-    form->addRow(tr("H&olidays"), &m_Country);
-    form->addRow(tr("T&ime schedule"), &m_Schedule);
-    form->addRow(&m_ShowTimeAxis);
+    // As wide as their entries, but the drawing comes first where there is little room.
+    for (QComboBox* choice : {&m_Country, &m_Schedule}) {
+        choice->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+        choice->setMinimumWidth(choice->fontMetrics().averageCharWidth() * kLeastLetters);
+    }
+    add(tr("Day &type to paint"), m_DayTypes, 1);
+    add(tr("H&olidays"), m_Country, 0);
+    add(tr("T&ime schedule"), m_Schedule, 0);
+    layout->addWidget(&m_ShowTimeAxis);
     return box;
 }
 
+// Each with its picture, all in sight where there is room.
+void cCalendarEditor::MakeDayTypes() {
+    m_DayTypes.setObjectName("List_Calendar_DayType");
+    m_DayTypes.setIconSize(QSize(kDayTypeImageSize, kDayTypeImageSize));
+    FillDayTypes();
+    m_DayTypes.setCurrentRow(kWeekDays + 1);
+}
+
 void cCalendarEditor::FillDayTypes() {
-    const int current = m_DayType.currentIndex();
-    m_DayType.clear();
+    const int current = m_DayTypes.currentRow();
+    m_DayTypes.clear();
     for (std::int16_t number = 1; number <= kEntries; ++number) {
         const int image = number - 1 - kWeekDays;
-        m_DayType.addItem(m_Services.m_DayTypeImages.Icon(image, devicePixelRatioF()),
-                          ToQString(m_Services.m_DayTypeNames.Entry(number)));
+        const QString name = ToQString(m_Services.m_DayTypeNames.Entry(number));
+        auto* item = new QListWidgetItem(m_Services.m_DayTypeImages.Icon(image, devicePixelRatioF()), name,
+                                         &m_DayTypes);
+        item->setToolTip(name);
     }
-    m_DayType.setCurrentIndex(current);
+    m_DayTypes.setCurrentRow(current);
+    KeepToEntries(m_DayTypes);
 }
 
 void cCalendarEditor::RefreshDayTypes() {
@@ -190,7 +214,7 @@ void cCalendarEditor::ConnectChoices() {
     connect(&m_Country, &QComboBox::activated, this, [this] {
         m_Services.m_Ini.PutIniString(kIniSection, kIniHolidays,
                                       FromQString(m_Country.currentData().toString()), kDefinitionsIni);
-        TakeCountry();
+        RefreshHolidays();
     });
     connect(&m_Schedule, &QComboBox::currentIndexChanged, this, &cCalendarEditor::TakeSchedule);
     connect(&m_ShowTimeAxis, &QCheckBox::toggled, this, [this](bool show) {
@@ -199,8 +223,12 @@ void cCalendarEditor::ConnectChoices() {
     });
 }
 
-void cCalendarEditor::TakeCountry() {
+void cCalendarEditor::RefreshHolidays() {
     m_Holidays = PublicHolidays(FromQString(m_Country.currentData().toString()));
+    cOwnHolidays own;
+    m_Problems->Show(kOwnHolidaysFile,
+                     own.Load(m_Services.m_Files, m_Services.m_Ini.FullPath(kOwnHolidaysFile)));
+    own.AddTo(m_Holidays);
     Redraw();
 }
 
@@ -319,33 +347,26 @@ void cCalendarEditor::ShowAnyOf(const std::vector<std::int32_t>& days) {
     if (shown == days.end()) ShowMonth(date.year, date.month);
 }
 
-// The month has a size of its own, the year takes all the room there is.
+// The month keeps its shape, the year takes all the room there is.
 QWidget* cCalendarEditor::MakeStack() {
-    auto* month = new QWidget;
-    auto* layout = new QVBoxLayout(month);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(MakeViewFrame(), 0, Qt::AlignLeft | Qt::AlignTop);
-    m_Stack.addWidget(month);
+    m_Room = MakeRoom();
+    m_Stack.addWidget(m_Room);
     m_Stack.addWidget(&m_YearView);
     return &m_Stack;
 }
 
-// The drawing stays light where the desktop is dark.
-QWidget* cCalendarEditor::MakeViewFrame() {
+// The drawing stays light where the desktop is dark, and has a border.
+cDrawingRoom* cCalendarEditor::MakeRoom() {
     auto* frame = new QFrame;
     frame->setObjectName("Picture_Calendar_Frame");
     frame->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     auto* inside = new QVBoxLayout(frame);
     inside->setContentsMargins(0, 0, 0, 0);
-    inside->setSizeConstraint(QLayout::SetFixedSize);
     inside->addWidget(&m_View);
-    return frame;
-}
-
-void cCalendarEditor::SetZoom(double zoom) {
-    m_View.Surface().SetZoom(zoom);
-    m_View.setFixedSize(static_cast<int>(std::lround((kGridRight + 8) * zoom)),
-                        static_cast<int>(std::lround((kGridBottom + 6) * zoom)));
+    const int border = 2 * frame->frameWidth();
+    auto* room = new cDrawingRoom(*frame, kMonthSize, QSize(border, border));
+    room->OnZoom = [this](double zoom) { m_View.Surface().SetZoom(zoom); };
+    return room;
 }
 
 // --- container
@@ -360,11 +381,11 @@ void cCalendarEditor::Draw_ImageList_ListImages(DeviceContext context, std::int1
 }
 
 std::optional<std::string> cCalendarEditor::Get_Combo_Calendar_DayType_SelectedItem() const {
-    if (m_DayType.currentIndex() < 0) return std::nullopt;
-    return FromQString(m_DayType.currentText());
+    if (m_DayTypes.currentItem() == nullptr) return std::nullopt;
+    return FromQString(m_DayTypes.currentItem()->text());
 }
 std::int16_t cCalendarEditor::Get_Combo_Calendar_DayType_SelectedItem_Index() const {
-    return static_cast<std::int16_t>(m_DayType.currentIndex() + 1);
+    return static_cast<std::int16_t>(ChosenValue() + 1);
 }
 std::string cCalendarEditor::Get_Combo_Calendar_DayType_ComboItems(std::int16_t number) const {
     return m_Services.m_DayTypeNames.Entry(number);

@@ -3,11 +3,13 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QListWidget>
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QToolButton>
 
 #include "editor_ui/calendar/year_drawing.h"
+#include "editor_ui/drawing/drawing_room.h"
 #include "editor_ui/drawing/drawing_view.h"
 #include "editor_ui/pages/content_editor.h"
 #include "editor_ui/pages/editor_services.h"
@@ -16,6 +18,8 @@
 #include "windows/plain_text.h"
 
 namespace vigrel {
+
+class cLineProblemsLabel;
 
 // A schedule whose periods a calendar can show.
 struct cNamedSchedule {
@@ -38,6 +42,8 @@ class cCalendarEditor : public cContentEditor, private cCalendarContainer {
     void ChooseSchedule(const cTimeSchedule* schedule);
     // The periods of the schedules may have changed.
     void RefreshSchedules() { m_View.update(); }
+    // The station's own holidays may have changed.
+    void RefreshHolidays();
     // Whether the day boxes show the periods.
     QCheckBox& ShowTimeAxis() { return m_ShowTimeAxis; }
 
@@ -51,7 +57,7 @@ class cCalendarEditor : public cContentEditor, private cCalendarContainer {
     bool CanPrint() const override { return true; }
     std::optional<cPrintout> Printout() override;
     QList<QAction*> EditActions() const override;
-    void SetZoom(double zoom) override;
+    void SetZoom(double zoom) override { m_Room->SetZoom(zoom); }
     void RefreshDayTypes() override;
 
   private:
@@ -70,10 +76,13 @@ class cCalendarEditor : public cContentEditor, private cCalendarContainer {
                         const std::function<void()>& chosen);
     void MakeLayout();
     QLayout* MakeMonthBar();
-    QWidget* MakeViewFrame();
+    cDrawingRoom* MakeRoom();
     QWidget* MakeStack();
     QWidget* MakeToolBox();
+    void MakeDayTypes();
     void FillDayTypes();
+    // What is painted: 0 clears a day.
+    std::int16_t ChosenValue() const { return static_cast<std::int16_t>(m_DayTypes.currentRow()); }
     void FillCountries();
     void ConnectView();
     void ConnectChoices();
@@ -93,7 +102,6 @@ class cCalendarEditor : public cContentEditor, private cCalendarContainer {
     void ShowToday();
     void ShowChosenMonth();
     void ShowAnyOf(const std::vector<std::int32_t>& days);
-    void TakeCountry();
     void TakeSchedule();
     void TakeSelectedType(bool allYears);
     void ClearYear();
@@ -116,16 +124,19 @@ class cCalendarEditor : public cContentEditor, private cCalendarContainer {
     QString TipOf(std::int32_t day) const;
 
     cEditorServices& m_Services;
-    cHolidays m_Holidays;
+    cHolidays m_Holidays;  // the country's, and the station's own
+    cLineProblemsLabel* m_Problems;
     cCalendar m_Calendar;
     // Those that lie in it come behind it, so that it never ends them.
     QStackedWidget m_Stack;
+    cDrawingRoom* m_Room = nullptr;
     cDrawingView m_View;
     cPlainLabel m_Month;
     cDrawingView m_YearView;
     QToolButton m_Previous, m_Next, m_Today, m_ShowYear;
     QSpinBox m_Year;
-    QComboBox m_MonthNames, m_DayType, m_Country, m_Schedule;
+    QComboBox m_MonthNames, m_Country, m_Schedule;
+    QListWidget m_DayTypes;  // in the order of their values
     QCheckBox m_ShowTimeAxis;
     QList<cNamedSchedule> m_Schedules;  // in the order of the list, behind its first entry
     QList<QAction*> m_Actions;

@@ -53,7 +53,6 @@ void cCalendarEditor::ConnectView() {
 // A stroke is one step of undo. It is the left button's.
 void cCalendarEditor::MouseDown(std::int16_t button, std::int16_t shift, QPoint unit) {
     if (button != 1 || m_Painting) return;
-    if (!Get_Combo_Calendar_DayType_SelectedItem()) emit Message(tr("Choose a day type to paint."));
     m_Painting = true;
     m_Day = DayAt(unit).value_or(m_Day);
     BeginEdit();
@@ -146,20 +145,20 @@ void cCalendarEditor::PaintChosenDay() {
 
 // Of the days that are marked in the month, not of those that only have a name.
 void cCalendarEditor::TakeSelectedType(bool allYears) {
-    if (m_DayType.currentIndex() < 0 || m_Country.currentIndex() <= 0) {
-        emit Message(tr("Choose a day type to paint and the country of the holidays."));
+    if (m_Holidays.m_HolidayLabels.empty()) {
+        emit Message(tr("There are no holidays: choose their country, or write your own."));
         return;
     }
     int count = 0;
     Edit(tr("painting holidays"), [&] {
         for (const cHolidayLabel& label : m_Holidays.m_HolidayLabels) {
             if (label.m_ViewInCalendar == False16 || (!allYears && !IsShownYear(label.m_Day))) continue;
-            m_Calendar.SetDayType(label.m_Day, static_cast<std::int16_t>(m_DayType.currentIndex()));
+            m_Calendar.SetDayType(label.m_Day, ChosenValue());
             ++count;
         }
     });
     Redraw();
-    emit Message(tr("Painted holidays: %1 (%2)").arg(count).arg(m_DayType.currentText()));
+    emit Message(tr("Painted holidays: %1 (%2)").arg(count).arg(m_DayTypes.currentItem()->text()));
 }
 
 void cCalendarEditor::Clear() {

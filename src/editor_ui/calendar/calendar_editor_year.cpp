@@ -5,7 +5,7 @@
 namespace vigrel {
 namespace {
 
-constexpr QSize kSmallestYear(440, 280);
+constexpr QSize kSmallestYear(370, 250);
 constexpr QSizeF kPaperYear(4, 3), kPaperMonth(318, 176);
 
 }  // namespace
@@ -49,7 +49,6 @@ void cCalendarEditor::PaintYear(QPainter& painter) {
 
 // Begins a stroke, which is one step of undo, as in the month.
 void cCalendarEditor::PaintInYear(QPoint place) {
-    if (m_DayType.currentIndex() < 0) emit Message(tr("Choose a day type to paint."));
     m_Painting = true;
     BeginEdit();
     if (const auto day = YearDrawing().DayAt(place)) {
@@ -73,8 +72,7 @@ void cCalendarEditor::YearMouseUp(std::int16_t button) {
 }
 
 void cCalendarEditor::SetPaintedDay(std::int32_t day) {
-    if (m_DayType.currentIndex() < 0) return;
-    m_Calendar.SetDayType(day, static_cast<std::int16_t>(m_DayType.currentIndex()));
+    m_Calendar.SetDayType(day, ChosenValue());
     Redraw();
 }
 

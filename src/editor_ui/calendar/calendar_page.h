@@ -18,6 +18,12 @@ class cCalendarPage : public cFilePage {
 
     cCalendarEditor& Editor() { return m_Editor; }
 
+  protected:
+    void SeenAgain() override {
+        cFilePage::SeenAgain();
+        m_Editor.RefreshHolidays();
+    }
+
   private:
     cCalendarPage(cEditorServices& services, const QString& newName, cCalendarEditor* editor,
                   QWidget* parent);

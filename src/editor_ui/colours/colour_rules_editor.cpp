@@ -16,9 +16,10 @@
 #include "editor_ui/colours/colour_preview.h"
 #include "editor_ui/colours/swatch.h"
 #include "editor_ui/pages/editor_action.h"
+#include "editor_ui/pages/line_problems_label.h"
 #include "editor_ui/pages/reasons.h"
+#include "editor_ui/pages/remembered_sizes.h"
 #include "windows/colours.h"
-#include "windows/plain_text.h"
 
 namespace vigrel {
 namespace {
@@ -88,7 +89,7 @@ cColourRulesEditor::cColourRulesEditor(cEditorServices& services, QWidget* paren
     : cContentEditor(parent),
       m_Services(services),
       m_Table(new QTableWidget(0, Columns)),
-      m_Problems(new cPlainLabel),
+      m_Problems(new cLineProblemsLabel),
       m_Preview(new cColourPreview) {
     setObjectName("Editor_ColourRules");
     m_Actions = {
@@ -99,15 +100,13 @@ cColourRulesEditor::cColourRulesEditor(cEditorServices& services, QWidget* paren
         m_Choose =
             MakeAction("Action_Colour", tr("&Choose colour..."), "", &cColourRulesEditor::ChooseColour)};
     MakeTable();
-    m_Problems->setObjectName("Label_Problems");
-    m_Problems->setWordWrap(true);
-    m_Problems->hide();
     auto* splitter = new QSplitter;
     splitter->addWidget(MakeTablePanel());
     splitter->addWidget(m_Preview);
     splitter->setStretchFactor(0, 3);
     splitter->setStretchFactor(1, 2);
     splitter->setChildrenCollapsible(false);
+    RememberSizes(*splitter, m_Services.m_Settings, objectName());
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_Problems);
     layout->addWidget(splitter, 1);
@@ -275,21 +274,13 @@ void cColourRulesEditor::ChooseColour() {
     item->setText(QString("%1,%2,%3").arg(chosen.red()).arg(chosen.green()).arg(chosen.blue()));
 }
 
-void cColourRulesEditor::ShowProblems(const std::vector<cLineProblem>& problems) {
-    QStringList lines;
-    for (const cLineProblem& problem : problems) lines += Told(LineProblemPhrase(kColourRulesFile, problem));
-    m_Problems->setText(
-        tr("Some lines were not understood. They stay in the file:\n%1").arg(lines.join('\n')));
-    m_Problems->setVisible(!lines.isEmpty());
-}
-
 void cColourRulesEditor::ReadFile(const std::string& path) {
     const std::vector<cLineProblem> problems = m_Rules.Load(m_Services.m_Files, path);
     // A file that can't be read must not be replaced by an empty list.
     if (problems.size() == 1 && problems[0].line == 0) {
         throw cFailure(eFailure::InputOutput, problems[0].description);
     }
-    ShowProblems(problems);
+    m_Problems->Show(kColourRulesFile, problems);
     Fill();
     if (m_Table->rowCount() > 0) m_Table->setCurrentCell(0, Tag);
 }

@@ -1,20 +1,17 @@
 #pragma once
 
-#include <vector>
-
 #include "categories/colour_rules.h"
-#include "common/line_problem.h"
 #include "editor_ui/pages/content_editor.h"
 #include "editor_ui/pages/editor_services.h"
 
 class QAction;
-class QLabel;
 class QTableWidget;
 class QTableWidgetItem;
 
 namespace vigrel {
 
 class cColourPreview;
+class cLineProblemsLabel;
 
 // The list of colour rules, with a preview. A field that is wrong is told and keeps its value, so that the
 // list can always be saved.
@@ -38,7 +35,6 @@ class cColourRulesEditor : public cContentEditor {
     void Fill();
     void FillRow(int row);
     void TakeItem(const QTableWidgetItem& item);
-    void ShowProblems(const std::vector<cLineProblem>& problems);
     void UpdateActions();
     void Add();
     void Remove();
@@ -51,7 +47,7 @@ class cColourRulesEditor : public cContentEditor {
     cEditorServices& m_Services;
     cColourRules m_Rules;
     QTableWidget* m_Table;
-    QLabel* m_Problems;
+    cLineProblemsLabel* m_Problems;
     cColourPreview* m_Preview;
     QList<QAction*> m_Actions;
     QAction *m_Remove = nullptr, *m_Up = nullptr, *m_Down = nullptr, *m_Choose = nullptr;

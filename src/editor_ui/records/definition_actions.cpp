@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QToolButton>
+#include <QVBoxLayout>
 
 #include "editor_ui/pages/editor_action.h"
 
@@ -36,11 +37,19 @@ void cDefinitionActions::Enable(bool chosen, bool changed) const {
     m_Revert->setEnabled(changed);
 }
 
+// In two rows, so that they don't take the form's room.
 QWidget* cDefinitionActions::MakeButtons() const {
     auto* panel = new QWidget;
-    auto* layout = new QHBoxLayout(panel);
-    layout->setContentsMargins(0, 0, 0, 0);
-    for (QAction* action : {m_New, m_Copy, m_Delete, m_Save, m_Revert}) {
+    auto* rows = new QVBoxLayout(panel);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->addLayout(MakeRow({m_New, m_Copy, m_Delete}));
+    rows->addLayout(MakeRow({m_Save, m_Revert}));
+    return panel;
+}
+
+QLayout* cDefinitionActions::MakeRow(const QList<QAction*>& actions) {
+    auto* layout = new QHBoxLayout;
+    for (QAction* action : actions) {
         auto* button = new QToolButton;
         button->setDefaultAction(action);
         button->setToolButtonStyle(Qt::ToolButtonTextOnly);
@@ -49,7 +58,7 @@ QWidget* cDefinitionActions::MakeButtons() const {
         layout->addWidget(button);
     }
     layout->addStretch(1);
-    return panel;
+    return layout;
 }
 
 }  // namespace vigrel

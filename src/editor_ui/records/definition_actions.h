@@ -4,6 +4,8 @@
 #include <QCoreApplication>
 #include <QList>
 
+class QLayout;
+
 namespace vigrel {
 
 // What can be done with the definitions of a page: actions of the page with their keys, and buttons for them.
@@ -16,10 +18,13 @@ class cDefinitionActions {
     void Enable(bool chosen, bool changed) const;
     // For a menu; null for a line between.
     QList<QAction*> Entries() const { return {m_New, m_Copy, m_Delete, nullptr, m_Save, m_Revert}; }
-    // In a row; the caller owns it.
+    // The caller owns them.
     QWidget* MakeButtons() const;
 
     QAction *m_New, *m_Copy, *m_Delete, *m_Save, *m_Revert, *m_Find;
+
+  private:
+    static QLayout* MakeRow(const QList<QAction*>& actions);
 };
 
 }  // namespace vigrel

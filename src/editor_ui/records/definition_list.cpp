@@ -81,6 +81,12 @@ void cDefinitionList::MakeTable() {
 
 void cDefinitionList::SetName(const QString& name) {
     m_Table->setAccessibleName(name);
+    // Its captions are seen whole; those two share what is left evenly.
+    const QHeaderView& header = *m_Table->horizontalHeader();
+    const int shared = std::max(header.sectionSizeHint(cDefinitionModel::Name),
+                                header.sectionSizeHint(cDefinitionModel::Details));
+    m_Table->setMinimumWidth(2 * shared + header.sectionSizeHint(cDefinitionModel::Number) +
+                             2 * m_Table->frameWidth());
 }
 
 int cDefinitionList::Chosen() const {

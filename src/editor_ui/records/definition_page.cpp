@@ -2,13 +2,17 @@
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSplitter>
+#include <QStackedWidget>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
 #include "editor_ui/pages/note_bar.h"
 #include "editor_ui/pages/reasons.h"
+#include "editor_ui/pages/remembered_sizes.h"
 #include "editor_ui/pages/scrolled.h"
+#include "windows/plain_text.h"
 
 namespace vigrel {
 namespace {
@@ -26,7 +30,8 @@ cDefinitionPage::cDefinitionPage(cEditorServices& services, std::unique_ptr<cDef
       m_Model(*m_Source),
       m_Actions(*this),
       m_Notes(new cNoteBar),
-      m_List(new cDefinitionList(m_Model)) {
+      m_List(new cDefinitionList(m_Model)),
+      m_FormPanel(new QStackedWidget) {
     m_UndoStack.setUndoLimit(kUndoSteps);
     connect(qApp, &QApplication::focusChanged, this, [this] { ++m_Session; });
 }
@@ -47,10 +52,11 @@ void cDefinitionPage::SetUp(cPageWords words, cPageForm form) {
     connect(m_List, &cDefinitionList::ChosenChanged, this, &cDefinitionPage::ShowChosen);
     auto* splitter = new QSplitter;
     splitter->addWidget(MakeListPanel());
-    splitter->addWidget(Scrolled(m_Form.widget));
+    splitter->addWidget(MakeFormPanel());
     splitter->setStretchFactor(0, 2);
     splitter->setStretchFactor(1, 3);
     splitter->setChildrenCollapsible(false);
+    RememberSizes(*splitter, m_Services.m_Settings, objectName());
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_Notes);
     layout->addWidget(splitter, 1);
@@ -76,6 +82,26 @@ QWidget* cDefinitionPage::MakeListPanel() {
     return panel;
 }
 
+// In place of the form, as long as there is nothing that it could show.
+QWidget* cDefinitionPage::MakeFormPanel() {
+    auto* first = new QWidget;
+    auto* layout = new QVBoxLayout(first);
+    auto* text = new cPlainLabel(m_Words.none);
+    text->setObjectName("Label_NoDefinitions");
+    text->setWordWrap(true);
+    text->setAlignment(Qt::AlignCenter);
+    auto* make = new QPushButton(m_Words.newName);
+    make->setObjectName("Button_First");
+    connect(make, &QPushButton::clicked, this, &cDefinitionPage::New);
+    layout->addStretch(1);
+    layout->addWidget(text);
+    layout->addWidget(make, 0, Qt::AlignHCenter);
+    layout->addStretch(2);
+    m_FormPanel->addWidget(Scrolled(m_Form.widget));
+    m_FormPanel->addWidget(first);
+    return m_FormPanel;
+}
+
 void cDefinitionPage::Choose(int position) {
     m_List->Choose(position);
     ShowChosen();
@@ -85,7 +111,9 @@ void cDefinitionPage::ShowChosen() {
     const int chosen = Chosen();
     m_Form.show(chosen);
     m_Before = chosen < 0 ? nullptr : m_Source->Copy(static_cast<std::size_t>(chosen));
+    m_FormPanel->setCurrentIndex(m_Model.rowCount() == 0 ? 1 : 0);
     UpdateActions();
+    emit StateChanged();
 }
 
 void cDefinitionPage::ShowField(const QString& field) {

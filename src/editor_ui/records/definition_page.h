@@ -13,6 +13,8 @@
 #include "editor_ui/records/definition_model.h"
 #include "editor_ui/records/record_commands.h"
 
+class QStackedWidget;
+
 namespace vigrel {
 
 class cNoteBar;
@@ -22,6 +24,7 @@ struct cPageWords {
     QString title;           // "Receivers"
     QString path;            // the folder, for the tab's tip
     QString newName;         // "New receiver"
+    QString none;            // what stands in place of an empty list's form
     QString details;         // caption of the second column
     QString deleteQuestion;  // with "%1" for the name
 };
@@ -74,6 +77,7 @@ class cDefinitionPage : public cEditorPage, private cRecordSteps {
   private:
     void ConnectActions();
     QWidget* MakeListPanel();
+    QWidget* MakeFormPanel();
     void New();
     void Copy();
     void Delete();
@@ -112,6 +116,7 @@ class cDefinitionPage : public cEditorPage, private cRecordSteps {
     cDefinitionActions m_Actions;
     cNoteBar* m_Notes;
     cDefinitionList* m_List;
+    QStackedWidget* m_FormPanel;
 };
 
 }  // namespace vigrel

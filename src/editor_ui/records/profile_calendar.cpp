@@ -31,6 +31,7 @@ cProfileCalendar::cProfileCalendar(cEditorServices& services, const cTimeSchedul
     bar->addWidget(open);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(bar);
+    m_Editor->layout()->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_Editor, 1);
     connect(open, &QPushButton::clicked, this, [this] { Choose(); });
     connect(&m_Document, &cFileDocument::FileUsed, this, [this](const QString& path) { Remember(path); });

@@ -20,6 +20,8 @@
 namespace vigrel {
 namespace {
 
+constexpr const char* kTabKey = "ProfileTab";
+
 // Where there is little room, a field stands below its label.
 QFormLayout* MakeFields(QWidget* page) {
     auto* layout = new QFormLayout(page);
@@ -49,6 +51,9 @@ cProfileForm::cProfileForm(cEditorServices& editor, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_Tabs);
+    m_Tabs->setCurrentIndex(m_Editor.m_Settings.value(kTabKey).toInt());
+    connect(m_Tabs, &QTabWidget::currentChanged, this,
+            [this](int tab) { m_Editor.m_Settings.setValue(kTabKey, tab); });
     m_Binder.OnEdited = [this](const cFieldStep& step) {
         if (OnEdited) OnEdited(step);
     };
@@ -141,6 +146,7 @@ QWidget* cProfileForm::MakeSchedule() {
     layout->addWidget(
         m_Binder.Flag("Check_UseTimeSchedule", tr("&Use this time schedule"), &cProfile::m_UseTimeSchedule));
     m_Schedule = new cScheduleEditor(m_Editor);
+    m_Schedule->layout()->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_Schedule, 1);
     connect(m_Schedule, &cContentEditor::Edited, this, &cProfileForm::TakeSchedule);
     QCheckBox& names = m_Schedule->ViewDayType();
@@ -197,13 +203,13 @@ QWidget* cProfileForm::MakeExternal() {
     auto* page = new QWidget;
     auto* layout = MakeFields(page);
     layout->addRow(
-        "", m_Binder.Flag("Check_UseExternalTag", tr("Use an external &tag"), &cProfile::m_UseExternalTag));
+        m_Binder.Flag("Check_UseExternalTag", tr("Use an external &tag"), &cProfile::m_UseExternalTag));
     layout->addRow(tr("Tag &name:"),
                    m_Binder.Text("Text_ExternalTagName", tr("Tag name"), &cProfile::m_ExternalTagName));
-    layout->addRow("", m_Binder.Flag("Check_IgnoreExternalTag", tr("&Ignore this tag in other profiles"),
-                                     &cProfile::m_IgnoreExternalTagInOtherProfiles));
-    layout->addRow("", m_Binder.Flag("Check_UseExternalFile", tr("Use an external fi&le"),
-                                     &cProfile::m_UseExternalFile));
+    layout->addRow(m_Binder.Flag("Check_IgnoreExternalTag", tr("&Ignore this tag in other profiles"),
+                                 &cProfile::m_IgnoreExternalTagInOtherProfiles));
+    layout->addRow(
+        m_Binder.Flag("Check_UseExternalFile", tr("Use an external fi&le"), &cProfile::m_UseExternalFile));
     layout->addRow(tr("File &path:"),
                    m_Binder.Text("Text_ExternalFileName", tr("File path"), &cProfile::m_ExternalFileName));
     layout->addRow(tr("Te&xt in the file:"), m_Binder.Text("Text_ExternalFileText", tr("Text in the file"),
@@ -240,6 +246,11 @@ void cProfileForm::Show(cProfile* profile, TypedTexts* typed) {
 
 QList<cContentEditor*> cProfileForm::Editors() const {
     return {m_Schedule, &m_Calendar->Editor()};
+}
+
+std::optional<cPrintout> cProfileForm::Printout() {
+    if (m_Tabs->currentWidget()->isAncestorOf(m_Calendar)) return m_Calendar->Editor().Printout();
+    return m_Schedule->Printout();
 }
 
 void cProfileForm::SetZoom(double zoom) {

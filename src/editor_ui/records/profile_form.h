@@ -2,9 +2,11 @@
 
 #include <QWidget>
 #include <functional>
+#include <optional>
 
 #include "definitions/definition_folder.h"
 #include "editor_ui/pages/editor_services.h"
+#include "editor_ui/pages/printout.h"
 #include "editor_ui/records/field_binder.h"
 
 class QLabel;
@@ -35,6 +37,8 @@ class cProfileForm : public QWidget {
     // The schedule, and the station's calendar that the form shows with it.
     QList<cContentEditor*> Editors() const;
     cProfileCalendar& Calendar() { return *m_Calendar; }
+    // The calendar while it shows, else the week of the schedule.
+    std::optional<cPrintout> Printout();
     void SetZoom(double zoom);
     void RefreshDayTypes();
 

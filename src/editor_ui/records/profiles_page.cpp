@@ -52,6 +52,7 @@ cProfilesPage::cProfilesPage(cEditorServices& services, cFolderSource<cProfile>*
         m_Form->Show(&m_Station.Profiles().At(index), &m_Source.Typed(index));
     };
     SetUp({tr("Profiles"), PathToQString(m_Station.ApplicationPath() + "Profiles"), tr("New profile"),
+           tr("There are no profiles yet. A profile says which alarms go to which receivers, and when."),
            tr("Conditions"), tr("Delete the profile \"%1\" and its file?")},
           std::move(form));
 }
@@ -88,6 +89,15 @@ void cProfilesPage::ConnectCalendar() {
     connect(UndoStack(), &QUndoStack::indexChanged, &calendar, &cFileDocument::NoteChange);
 }
 
+// Under the name of the profile and of what is shown of it.
+std::optional<cPrintout> cProfilesPage::Printout() {
+    if (!CanPrint()) return std::nullopt;
+    std::optional<cPrintout> printout = m_Form->Printout();
+    const QString name = ToQString(m_Station.Profiles().At(static_cast<std::size_t>(Chosen())).GetName());
+    printout->title = printout->title.isEmpty() ? name : name + " - " + printout->title;
+    return printout;
+}
+
 void cProfilesPage::SetZoom(double zoom) {
     m_Form->SetZoom(zoom);
 }
@@ -99,6 +109,7 @@ void cProfilesPage::RefreshDayTypes() {
 void cProfilesPage::SeenAgain() {
     cDefinitionPage::SeenAgain();
     m_Form->Calendar().Document().TakeUp();
+    m_Form->Calendar().Editor().RefreshHolidays();
 }
 
 void cProfilesPage::showEvent(QShowEvent* event) {

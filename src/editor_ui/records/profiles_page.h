@@ -17,6 +17,8 @@ class cProfilesPage : public cDefinitionPage {
     // The calendar that the form shows belongs to the page.
     bool IsDirty() const override;
     bool Save() override;
+    bool CanPrint() const override { return Chosen() >= 0; }
+    std::optional<cPrintout> Printout() override;
     void SetZoom(double zoom) override;
     void RefreshDayTypes() override;
 

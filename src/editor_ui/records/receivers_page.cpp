@@ -48,7 +48,8 @@ cReceiversPage::cReceiversPage(cEditorServices& services, cFolderSource<cReceive
     };
     form.deleteWarning = [this](int position) { return DeleteWarning(position); };
     SetUp({tr("Receivers"), PathToQString(m_Station.ApplicationPath() + "Receivers"), tr("New receiver"),
-           tr("Type"), tr("Delete the receiver \"%1\" and its file?")},
+           tr("There are no receivers yet. A receiver is one place that alarms can go to."), tr("Type"),
+           tr("Delete the receiver \"%1\" and its file?")},
           std::move(form));
 }
 

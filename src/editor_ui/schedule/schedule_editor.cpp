@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "adapters/qt/qt_text.h"
+#include "editor_ui/pages/entry_width.h"
 #include "editor_ui/pages/undo_keys.h"
 #include "schedule/definition_files.h"
 #include "windows/plain_text.h"
@@ -16,6 +17,7 @@ namespace vigrel {
 namespace {
 
 constexpr int kTimeLength = 8;  // characters that a time can be typed in
+constexpr int kHoursGap = 2;    // pixels between the hours and the rows
 
 }  // namespace
 
@@ -43,19 +45,31 @@ void cScheduleEditor::MakeLayout() {
     auto* tools = new QVBoxLayout;
     tools->addWidget(MakePeriodBox());
     tools->addWidget(MakeDayTypeBox(), 1);
+    m_Room = MakeRoom();
     auto* hint =
         new cPlainLabel(tr("Drag in a row to make a period, drag its ends to change it. The right mouse "
                            "button opens the menu."));
     hint->setWordWrap(true);
     auto* drawing = new QVBoxLayout;
-    drawing->setSpacing(2);
-    drawing->addWidget(&m_Hours);
-    drawing->addWidget(&m_Frame);
+    drawing->addWidget(m_Room, 1);
     drawing->addWidget(hint);
-    drawing->addStretch(1);
     auto* layout = new QHBoxLayout(this);
-    layout->addLayout(drawing);
-    layout->addLayout(tools, 1);
+    layout->addLayout(drawing, 1);
+    layout->addLayout(tools);
+}
+
+// The hours stand over the rows, whose frame sets the width.
+cDrawingRoom* cScheduleEditor::MakeRoom() {
+    auto* drawing = new QWidget;
+    auto* layout = new QVBoxLayout(drawing);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(kHoursGap);
+    layout->addWidget(&m_Hours);
+    layout->addWidget(&m_Frame);
+    const QSize around = m_Frame.AroundDrawing() + QSize(0, m_Hours.height() + kHoursGap);
+    auto* room = new cDrawingRoom(*drawing, cScheduleFrame::DrawingSize(), around);
+    room->OnZoom = [this](double zoom) { ApplyZoom(zoom); };
+    return room;
 }
 
 QWidget* cScheduleEditor::MakePeriodBox() {
@@ -94,6 +108,7 @@ QWidget* cScheduleEditor::MakeDayTypeBox() {
     m_UseCalendar.setObjectName("Check_TimeSchedule_UseCalendar");
     m_UseCalendar.setToolTip(tr("Rows for the day types that a calendar gives to dates"));
     m_DayTypes.setObjectName("List_DayTypes");
+    m_DayTypes.setIconSize(QSize(kDayTypeImageSize, kDayTypeImageSize));
     m_DayTypes.setAccessibleName(tr("Day types in use"));
     layout->addWidget(&m_ViewDayType);
     layout->addWidget(&m_UseCalendar);
@@ -191,7 +206,7 @@ void cScheduleEditor::ShowFirstDifference(const std::vector<cDay>& before) {
     if (dayType < kDayTypes && m_Schedule.GetActive(dayType)) Choose(dayType, nullptr);
 }
 
-void cScheduleEditor::SetZoom(double zoom) {
+void cScheduleEditor::ApplyZoom(double zoom) {
     m_Frame.SetZoom(zoom);
     m_Hours.Follow(zoom, m_Frame.frameWidth());
     Recalculate();
@@ -220,6 +235,7 @@ void cScheduleEditor::FillDayTypes() {
         }
     }
     m_DayTypes.setCurrentRow(current);
+    KeepToEntries(m_DayTypes);
     Refresh();
 }
 

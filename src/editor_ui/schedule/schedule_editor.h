@@ -7,6 +7,7 @@
 #include <QListWidget>
 #include <QMenu>
 
+#include "editor_ui/drawing/drawing_room.h"
 #include "editor_ui/pages/content_editor.h"
 #include "editor_ui/pages/editor_services.h"
 #include "editor_ui/pages/problem_label.h"
@@ -40,7 +41,7 @@ class cScheduleEditor : public cContentEditor, private cTimeScheduleContainer {
     bool CanPrint() const override { return true; }
     std::optional<cPrintout> Printout() override;
     QList<QAction*> EditActions() const override;
-    void SetZoom(double zoom) override;
+    void SetZoom(double zoom) override { m_Room->SetZoom(zoom); }
     void RefreshDayTypes() override;
 
   private:
@@ -81,6 +82,8 @@ class cScheduleEditor : public cContentEditor, private cTimeScheduleContainer {
                         void (cScheduleEditor::*chosen)());
     void MakeImageMenu();
     void MakeLayout();
+    cDrawingRoom* MakeRoom();
+    void ApplyZoom(double zoom);
     QWidget* MakePeriodBox();
     QWidget* MakeDayTypeBox();
     void ConnectView();
@@ -147,6 +150,7 @@ class cScheduleEditor : public cContentEditor, private cTimeScheduleContainer {
     cPaintObject* m_SchedulePaintObject = nullptr;
     cHourScale m_Hours;
     cScheduleFrame m_Frame;
+    cDrawingRoom* m_Room = nullptr;
     QGroupBox m_PeriodBox;
     QLineEdit m_Start, m_Stop;
     cProblemLabel m_Problem{"Label_Schedule_Problem"};

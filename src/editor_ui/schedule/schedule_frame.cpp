@@ -34,10 +34,18 @@ int cScheduleFrame::Pixels(double units) const {
     return static_cast<int>(std::lround(units * Zoom()));
 }
 
+QSize cScheduleFrame::DrawingSize() {
+    return {kViewWidth, kViewHeight};
+}
+
+QSize cScheduleFrame::AroundDrawing() const {
+    const int border = 2 * frameWidth();
+    return {m_Scroll.width() + border, border};
+}
+
 void cScheduleFrame::SetZoom(double zoom) {
     m_View.Surface().SetZoom(zoom);
-    const int border = 2 * frameWidth();
-    setFixedSize(Pixels(kViewWidth) + m_Scroll.width() + border, Pixels(kViewHeight) + border);
+    setFixedSize(QSize(Pixels(kViewWidth), Pixels(kViewHeight)) + AroundDrawing());
 }
 
 void cScheduleFrame::SetScrollLeft(double left) {

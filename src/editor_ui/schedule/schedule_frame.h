@@ -15,6 +15,8 @@ class cScheduleFrame : public QFrame {
     explicit cScheduleFrame(QWidget* parent);
 
     cDrawingView& View() { return m_View; }
+    static QSize DrawingSize();   // in units
+    QSize AroundDrawing() const;  // in pixels
     void SetZoom(double zoom);
     double Zoom() const { return m_View.Surface().Zoom(); }
     // Brings a row into sight.

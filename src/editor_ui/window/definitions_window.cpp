@@ -7,16 +7,23 @@
 #include <QPrinter>
 #include <QStatusBar>
 #include <QTabBar>
+#include <algorithm>
 
 #include "adapters/qt/qt_text.h"
 #include "common/failure.h"
 #include "common/file_procedures.h"
+#include "editor_ui/calendar/own_holidays_page.h"
 #include "editor_ui/colours/colour_rules_page.h"
 #include "editor_ui/records/profiles_page.h"
 #include "editor_ui/records/receivers_page.h"
 #include "schedule/definition_files.h"
 
 namespace vigrel {
+namespace {
+
+constexpr const char* kLastPageKey = "LastPage";
+
+}  // namespace
 
 cDefinitionsWindow::cDefinitionsWindow(cEditorServices& services)
     : m_Services(services), m_Recent(services.m_Settings) {
@@ -57,7 +64,10 @@ cEditorPage* cDefinitionsWindow::CurrentPage() const {
 
 QList<cEditorPage*> cDefinitionsWindow::Pages() const {
     QList<cEditorPage*> pages;
-    for (int i = 0; i < m_Tabs.count(); ++i) pages.append(qobject_cast<cEditorPage*>(m_Tabs.widget(i)));
+    // While a page is added or taken out, a tab can have none.
+    for (int i = 0; i < m_Tabs.count(); ++i) {
+        if (auto* page = qobject_cast<cEditorPage*>(m_Tabs.widget(i))) pages.append(page);
+    }
     return pages;
 }
 
@@ -99,7 +109,8 @@ void cDefinitionsWindow::NewCalendar() {
 void cDefinitionsWindow::Open() {
     const QString path = m_Services.m_Prompts.AskOpenPath(
         this, PathToQString(m_Services.m_Ini.ApplicationPath()),
-        tr("Schedules, calendars, colour rules (*.sch *.cal ColourRules.txt);;All files (*)"));
+        tr("Schedules, calendars, lists of the station (*.sch *.cal ColourRules.txt OwnHolidays.txt);;All "
+           "files (*)"));
     if (!path.isEmpty()) OpenFile(path);
 }
 
@@ -125,11 +136,35 @@ void cDefinitionsWindow::ShowColourRules() {
     OpenFile(PathToQString(m_Services.m_Ini.FullPath(kColourRulesFile)));
 }
 
+void cDefinitionsWindow::ShowOwnHolidays() {
+    OpenFile(PathToQString(m_Services.m_Ini.FullPath(kOwnHolidaysFile)));
+}
+
+// The station's pages by name, since the next start may be at another station.
+void cDefinitionsWindow::KeepLastPage() {
+    const cEditorPage* page = CurrentPage();
+    const bool isFile = qobject_cast<const cSchedulePage*>(page) || qobject_cast<const cCalendarPage*>(page);
+    const QString name = page == nullptr ? QString() : isFile ? page->Path() : page->objectName();
+    m_Services.m_Settings.setValue(kLastPageKey, name);
+}
+
+void cDefinitionsWindow::ShowLastPage() {
+    const QString name = m_Services.m_Settings.value(kLastPageKey).toString();
+    if (name == "Page_Receivers") return ShowReceivers();
+    if (name == "Page_Profiles") return ShowProfiles();
+    if (name == "Page_ColourRules") return ShowColourRules();
+    if (name == "Page_OwnHolidays") return ShowOwnHolidays();
+    // A file that was taken away since is no failure to be told.
+    if (m_Services.m_Files.FileExists(PathFromQString(name))) OpenFile(name);
+}
+
 // The kind of a file's page, by the file's name and size.
 cFilePage* cDefinitionsWindow::MakeFilePage(const QString& path) {
-    if (QFileInfo(path).fileName().compare(ToQString(kColourRulesFile), Qt::CaseInsensitive) == 0) {
-        return new cColourRulesPage(m_Services);
-    }
+    const auto isNamed = [&path](std::string_view name) {
+        return QFileInfo(path).fileName().compare(ToQString(name), Qt::CaseInsensitive) == 0;
+    };
+    if (isNamed(kColourRulesFile)) return new cColourRulesPage(m_Services);
+    if (isNamed(kOwnHolidaysFile)) return new cOwnHolidaysPage(m_Services);
     const auto size = static_cast<std::size_t>(
         std::max<std::int64_t>(m_Services.m_Files.Stamp(PathFromQString(path)).size, 0));
     if (KindOfDefinition(size) == eDefinitionKind::Calendar || path.endsWith(".cal", Qt::CaseInsensitive)) {
@@ -199,6 +234,7 @@ void cDefinitionsWindow::RemovePage(cEditorPage& page) {
 }
 
 void cDefinitionsWindow::closeEvent(QCloseEvent* event) {
+    KeepLastPage();
     for (cEditorPage* page : Pages()) {
         if (MayClose(*page)) continue;
         event->ignore();
@@ -217,11 +253,19 @@ void cDefinitionsWindow::CurrentPageChanged() {
     PageStateChanged();
 }
 
+// Of two files with one name each tells its folder.
+QString cDefinitionsWindow::TitleOf(const cEditorPage& page) const {
+    const QList<cEditorPage*> pages = Pages();
+    const auto isSame = [&page](const cEditorPage* other) { return other->Title() == page.Title(); };
+    if (page.Path().isEmpty() || std::count_if(pages.begin(), pages.end(), isSame) < 2) return page.Title();
+    return QFileInfo(page.Path()).dir().dirName() + "/" + page.Title();
+}
+
 void cDefinitionsWindow::PageStateChanged() {
-    for (int i = 0; i < m_Tabs.count(); ++i) {
-        const auto* page = qobject_cast<cEditorPage*>(m_Tabs.widget(i));
-        m_Tabs.setTabText(i, QString(page->Title()).replace('&', "&&") + (page->IsDirty() ? " *" : ""));
-        m_Tabs.setTabToolTip(i, page->Path());
+    for (cEditorPage* each : Pages()) {
+        const int tab = m_Tabs.indexOf(each);
+        m_Tabs.setTabText(tab, TitleOf(*each).replace('&', "&&") + (each->IsDirty() ? " *" : ""));
+        m_Tabs.setTabToolTip(tab, each->Path());
     }
     const cEditorPage* page = CurrentPage();
     m_Save->setEnabled(page != nullptr);
@@ -231,7 +275,7 @@ void cDefinitionsWindow::PageStateChanged() {
     m_Pdf->setEnabled(prints);
     m_Close->setEnabled(page != nullptr);
     const QString program = tr("Vigrel Definitions");
-    setWindowTitle(page == nullptr ? program : QString("%1[*] - %2").arg(page->Title(), program));
+    setWindowTitle(page == nullptr ? program : QString("%1[*] - %2").arg(TitleOf(*page), program));
     setWindowModified(page != nullptr && page->IsDirty());
     SchedulesChanged();
 }
@@ -250,6 +294,7 @@ void cDefinitionsWindow::SchedulesChanged() {
 
 void cDefinitionsWindow::Print() {
     const std::optional<cPrintout> printout = CurrentPage()->Printout();
+    if (!printout) return;
     QPrinter printer;
     printer.setDocName(printout->title);
     if (!m_Services.m_Prompts.AskPrinter(this, printer)) return;
@@ -259,8 +304,11 @@ void cDefinitionsWindow::Print() {
 
 void cDefinitionsWindow::SaveAsPdf() {
     const std::optional<cPrintout> printout = CurrentPage()->Printout();
+    if (!printout) return;
     const QString folder = PathToQString(m_Services.m_Ini.ApplicationPath());
-    const QString chosen = m_Services.m_Prompts.AskSavePath(this, folder + printout->title + ".pdf",
+    // A profile may be called "East/West".
+    const QString name = QString(printout->title).replace('/', '-');
+    const QString chosen = m_Services.m_Prompts.AskSavePath(this, folder + name + ".pdf",
                                                             tr("PDF files (*.pdf);;All files (*)"), "pdf");
     if (chosen.isEmpty()) return;
     const auto failure =

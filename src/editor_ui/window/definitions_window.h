@@ -6,6 +6,7 @@
 #include <QUndoGroup>
 
 #include "editor_ui/calendar/calendar_page.h"
+#include "editor_ui/drawing/drawing_room.h"
 #include "editor_ui/pages/editor_page.h"
 #include "editor_ui/pages/editor_services.h"
 #include "editor_ui/schedule/schedule_page.h"
@@ -33,6 +34,9 @@ class cDefinitionsWindow : public QMainWindow {
     void ShowReceivers();
     void ShowProfiles();
     void ShowColourRules();
+    void ShowOwnHolidays();
+    // The page that was in front when the window was closed last, if it is still there.
+    void ShowLastPage();
     // A file that is open already comes to the front. False when it could not be opened; the operator has
     // been told.
     bool OpenFile(const QString& path);
@@ -48,6 +52,7 @@ class cDefinitionsWindow : public QMainWindow {
     void MakeFileMenu();
     void MakeEditMenu();
     void MakeViewMenu();
+    void MakeZooms(QMenu& menu);
     void MakeStationMenu();
     void MakeHelpMenu();
     QAction* AddEntry(QMenu& menu, const char* name, const QString& text, const QKeySequence& keys,
@@ -67,6 +72,8 @@ class cDefinitionsWindow : public QMainWindow {
     bool ClosePage(int index);
     void RemovePage(cEditorPage& page);
     bool MayClose(cEditorPage& page);
+    void KeepLastPage();
+    QString TitleOf(const cEditorPage& page) const;
     void CurrentPageChanged();
     void PageStateChanged();
     void SchedulesChanged();
@@ -85,7 +92,7 @@ class cDefinitionsWindow : public QMainWindow {
     QMenu *m_RecentMenu = nullptr, *m_EditMenu = nullptr;
     QAction *m_Save = nullptr, *m_SaveAs = nullptr, *m_Close = nullptr, *m_Print = nullptr, *m_Pdf = nullptr,
             *m_Undo = nullptr, *m_Redo = nullptr;
-    double m_Zoom = 2;
+    double m_Zoom = kFitZoom;
     int m_NewSchedules = 0, m_NewCalendars = 0;
 };
 

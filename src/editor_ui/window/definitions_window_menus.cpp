@@ -98,27 +98,34 @@ void cDefinitionsWindow::FillEditMenu() {
 
 void cDefinitionsWindow::MakeViewMenu() {
     QMenu& menu = *menuBar()->addMenu(tr("&View"));
-    auto* group = new QActionGroup(this);
-    m_Zoom = m_Services.m_Settings.value("Zoom", m_Zoom).toDouble();
-    int number = 0;
-    for (const int percent : kZooms) {
-        const QKeySequence keys(QString("Ctrl+%1").arg(++number));
-        QAction* action = AddEntry(menu, "Zoom", tr("%1 %").arg(percent), keys,
-                                   [this, percent] { SetZoom(percent / 100.0); });
-        action->setObjectName(QString("Menu_Zoom_%1").arg(percent));
-        action->setCheckable(true);
-        action->setChecked(qFuzzyCompare(m_Zoom, percent / 100.0));
-        group->addAction(action);
-    }
-    // A stored value that is none of them would leave the drawing unusable.
-    if (group->checkedAction() == nullptr) {
-        m_Zoom = 2;
-        group->actions().at(2)->setChecked(true);
-    }
+    MakeZooms(menu);
     menu.addSeparator();
     AddEntry(menu, "NextPage", tr("&Next page"), QKeySequence::NextChild, [this] { TurnPage(1); });
     AddEntry(menu, "PreviousPage", tr("&Previous page"), QKeySequence::PreviousChild,
              [this] { TurnPage(-1); });
+}
+
+// As large as the window, unless a size was chosen.
+void cDefinitionsWindow::MakeZooms(QMenu& menu) {
+    auto* group = new QActionGroup(this);
+    m_Zoom = m_Services.m_Settings.value("Zoom", m_Zoom).toDouble();
+    const auto add = [&](const QString& name, const QString& text, int key, double zoom) {
+        QAction* action = AddEntry(menu, "", text, QKeySequence(QString("Ctrl+%1").arg(key)),
+                                   [this, zoom] { SetZoom(zoom); });
+        action->setObjectName("Menu_Zoom_" + name);
+        action->setCheckable(true);
+        action->setChecked(qFuzzyCompare(1 + m_Zoom, 1 + zoom));
+        group->addAction(action);
+    };
+    add("Fit", tr("&As large as the window"), 0, kFitZoom);
+    int number = 0;
+    for (const int percent : kZooms) {
+        add(QString::number(percent), tr("%1 %").arg(percent), ++number, percent / 100.0);
+    }
+    // A stored value that is none of them would leave the drawing unusable.
+    if (group->checkedAction() != nullptr) return;
+    m_Zoom = kFitZoom;
+    group->actions().first()->setChecked(true);
 }
 
 void cDefinitionsWindow::MakeStationMenu() {
@@ -126,6 +133,7 @@ void cDefinitionsWindow::MakeStationMenu() {
     AddEntry(menu, "Receivers", tr("&Receivers"), QKeySequence("Ctrl+R"), [this] { ShowReceivers(); });
     AddEntry(menu, "Profiles", tr("&Profiles"), QKeySequence("Ctrl+P"), [this] { ShowProfiles(); });
     AddEntry(menu, "ColourRules", tr("&Colour rules"), QKeySequence("Ctrl+L"), [this] { ShowColourRules(); });
+    AddEntry(menu, "OwnHolidays", tr("Own &holidays"), {}, [this] { ShowOwnHolidays(); });
 }
 
 void cDefinitionsWindow::MakeHelpMenu() {
@@ -171,13 +179,13 @@ QWidget* cDefinitionsWindow::MakeStartPage() {
     add("Button_Receivers", tr("&Receivers of the station"), &cDefinitionsWindow::ShowReceivers);
     add("Button_Profiles", tr("&Profiles of the station"), &cDefinitionsWindow::ShowProfiles);
     add("Button_ColourRules", tr("&Colour rules of the station"), &cDefinitionsWindow::ShowColourRules);
+    add("Button_OwnHolidays", tr("Own holi&days of the station"), &cDefinitionsWindow::ShowOwnHolidays);
     layout->addStretch(2);
     return page;
 }
 
 void cDefinitionsWindow::RestoreWindow() {
-    // At twice the size a small screen hasn't the room.
-    resize(QSize(980, 600).boundedTo(screen()->availableSize()));
+    resize(QSize(1200, 760).boundedTo(screen()->availableSize()));
     restoreGeometry(m_Services.m_Settings.value("Geometry").toByteArray());
 }
 
