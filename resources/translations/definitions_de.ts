@@ -730,6 +730,41 @@
     </message>
 </context>
 <context>
+    <name>vigrel::cAlarmPreview</name>
+    <message>
+        <source>Rule</source>
+        <translation>Regel</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Text that is the tag</source>
+        <translation>Text, der die Variable ist</translation>
+    </message>
+    <message>
+        <source>Alarms of the station</source>
+        <translation>Alarme der Station</translation>
+    </message>
+    <message>
+        <source>Tag:</source>
+        <translation>Variable:</translation>
+    </message>
+    <message>
+        <source>The station has no alarms yet.</source>
+        <translation>Die Station hat noch keine Alarme.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+</context>
+<context>
     <name>vigrel::cCalendarEditor</name>
     <message>
         <source>Show the day&apos;s &amp;periods</source>
@@ -875,10 +910,6 @@
         <translation>Blinkend</translation>
     </message>
     <message>
-        <source>Ta&amp;gs:</source>
-        <translation>&amp;Variablen:</translation>
-    </message>
-    <message>
         <source>&amp;Category:</source>
         <translation>&amp;Kategorie:</translation>
     </message>
@@ -897,6 +928,14 @@
     <message>
         <source>none</source>
         <translation>keine</translation>
+    </message>
+    <message>
+        <source>Alarms</source>
+        <translation>Alarme</translation>
+    </message>
+    <message>
+        <source>Typed tags</source>
+        <translation>Getippte Variablen</translation>
     </message>
 </context>
 <context>
@@ -992,6 +1031,26 @@
     <message>
         <source>Colour</source>
         <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Gives the text of these rules the nearest colour that can be read</source>
+        <translation>Gibt dem Text dieser Regeln die nächste lesbare Farbe</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Kontrast</translation>
+    </message>
+    <message>
+        <source>The least of text and ground: 4.5 is readable, 21 black on white</source>
+        <translation>Der kleinste von Text und Grund: 4,5 ist lesbar, 21 Schwarz auf Weiß</translation>
+    </message>
+    <message>
+        <source>making texts readable</source>
+        <translation>Lesbarmachen von Texten</translation>
+    </message>
+    <message>
+        <source>Readable te&amp;xt colours</source>
+        <translation>Lesbare Te&amp;xtfarben</translation>
     </message>
 </context>
 <context>

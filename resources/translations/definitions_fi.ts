@@ -730,6 +730,41 @@
     </message>
 </context>
 <context>
+    <name>vigrel::cAlarmPreview</name>
+    <message>
+        <source>Rule</source>
+        <translation>Sääntö</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Aika</translation>
+    </message>
+    <message>
+        <source>Text that is the tag</source>
+        <translation>Teksti, joka on tunnus</translation>
+    </message>
+    <message>
+        <source>Alarms of the station</source>
+        <translation>Aseman hälytykset</translation>
+    </message>
+    <message>
+        <source>Tag:</source>
+        <translation>Tunnus:</translation>
+    </message>
+    <message>
+        <source>The station has no alarms yet.</source>
+        <translation>Asemalla ei ole vielä hälytyksiä.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1/%2</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ei mitään</translation>
+    </message>
+</context>
+<context>
     <name>vigrel::cCalendarEditor</name>
     <message>
         <source>Show the day&apos;s &amp;periods</source>
@@ -875,10 +910,6 @@
         <translation>Vilkkuva</translation>
     </message>
     <message>
-        <source>Ta&amp;gs:</source>
-        <translation>T&amp;unnukset:</translation>
-    </message>
-    <message>
         <source>&amp;Category:</source>
         <translation>&amp;Ryhmä:</translation>
     </message>
@@ -897,6 +928,14 @@
     <message>
         <source>none</source>
         <translation>ei mitään</translation>
+    </message>
+    <message>
+        <source>Alarms</source>
+        <translation>Hälytykset</translation>
+    </message>
+    <message>
+        <source>Typed tags</source>
+        <translation>Kirjoitetut tunnukset</translation>
     </message>
 </context>
 <context>
@@ -992,6 +1031,26 @@
     <message>
         <source>Colour</source>
         <translation>Väri</translation>
+    </message>
+    <message>
+        <source>Gives the text of these rules the nearest colour that can be read</source>
+        <translation>Antaa näiden sääntöjen tekstille lähimmän luettavan värin</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Kontrasti</translation>
+    </message>
+    <message>
+        <source>The least of text and ground: 4.5 is readable, 21 black on white</source>
+        <translation>Tekstin ja taustan pienin: 4,5 on luettava, 21 musta valkoisella</translation>
+    </message>
+    <message>
+        <source>making texts readable</source>
+        <translation>tekstien teko luettaviksi</translation>
+    </message>
+    <message>
+        <source>Readable te&amp;xt colours</source>
+        <translation>Luettavat tekst&amp;ivärit</translation>
     </message>
 </context>
 <context>

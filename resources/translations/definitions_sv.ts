@@ -730,6 +730,41 @@
     </message>
 </context>
 <context>
+    <name>vigrel::cAlarmPreview</name>
+    <message>
+        <source>Rule</source>
+        <translation>Regel</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Tid</translation>
+    </message>
+    <message>
+        <source>Text that is the tag</source>
+        <translation>Text som är taggen</translation>
+    </message>
+    <message>
+        <source>Alarms of the station</source>
+        <translation>Stationens larm</translation>
+    </message>
+    <message>
+        <source>Tag:</source>
+        <translation>Tagg:</translation>
+    </message>
+    <message>
+        <source>The station has no alarms yet.</source>
+        <translation>Stationen har inga larm ännu.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 av %2</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ingen</translation>
+    </message>
+</context>
+<context>
     <name>vigrel::cCalendarEditor</name>
     <message>
         <source>Show the day&apos;s &amp;periods</source>
@@ -875,10 +910,6 @@
         <translation>Blinkande</translation>
     </message>
     <message>
-        <source>Ta&amp;gs:</source>
-        <translation>&amp;Taggar:</translation>
-    </message>
-    <message>
         <source>&amp;Category:</source>
         <translation>&amp;Kategori:</translation>
     </message>
@@ -897,6 +928,14 @@
     <message>
         <source>none</source>
         <translation>ingen</translation>
+    </message>
+    <message>
+        <source>Alarms</source>
+        <translation>Larm</translation>
+    </message>
+    <message>
+        <source>Typed tags</source>
+        <translation>Skrivna taggar</translation>
     </message>
 </context>
 <context>
@@ -992,6 +1031,26 @@
     <message>
         <source>Colour</source>
         <translation>Färg</translation>
+    </message>
+    <message>
+        <source>Gives the text of these rules the nearest colour that can be read</source>
+        <translation>Ger texten i dessa regler den närmaste läsbara färgen</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Kontrast</translation>
+    </message>
+    <message>
+        <source>The least of text and ground: 4.5 is readable, 21 black on white</source>
+        <translation>Den minsta av text och botten: 4,5 är läsbar, 21 svart på vitt</translation>
+    </message>
+    <message>
+        <source>making texts readable</source>
+        <translation>läsbara texter</translation>
+    </message>
+    <message>
+        <source>Readable te&amp;xt colours</source>
+        <translation>Läsbara te&amp;xtfärger</translation>
     </message>
 </context>
 <context>

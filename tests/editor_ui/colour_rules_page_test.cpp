@@ -1,16 +1,20 @@
 #include "editor_ui/colours/colour_rules_page.h"
 
 #include <QAction>
+#include <QComboBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QSpinBox>
 #include <QStyle>
+#include <QTabWidget>
 #include <QTableWidget>
 #include <QUndoStack>
 #include <map>
 
+#include "common/dates.h"
 #include "editor_ui/page_fixture.h"
+#include "events/vigrel_reciever_alarm.h"
 
 namespace vigrel::testing {
 namespace {
@@ -128,6 +132,94 @@ TEST_F(ColourRulesPage, RulesThatAreHardToReadAreNamedWithTheirLeastContrast) {
     Rules().item(0, 3)->setText("255,255,255");
     Rules().item(1, 3)->setText("0,0,0");
     EXPECT_FALSE(label->isVisible());
+}
+
+TEST_F(ColourRulesPage, ContrastIsANumberAndAReadableColourOneClickAway) {
+    Put("ColourRules.txt",
+        "P* | * | * | 255,255,255 | 10,20,30 | 15\r\nA* | * | * | 120,120,120 | 255,255,255 | 0\r\n"
+        "B* | * | * | 250,250,0 | 255,255,255 | 0\r\n");
+    EXPECT_EQ(Rules().item(0, 6)->text().toStdString(), "18.5");
+    EXPECT_EQ(Rules().item(1, 6)->text().toStdString(), "3.0");
+    EXPECT_TRUE(Rules().item(0, 6)->icon().isNull());
+    EXPECT_FALSE(Rules().item(1, 6)->icon().isNull());
+    EXPECT_FALSE(Rules().item(1, 6)->flags() & Qt::ItemIsEditable);
+    Press(Page(), "Button_Readable");
+    EXPECT_EQ(Rules().item(0, 3)->text().toStdString(), "255,255,255");
+    EXPECT_EQ(Rules().item(1, 3)->text().toStdString(), "94,94,94");
+    EXPECT_EQ(Rules().item(1, 6)->text().toStdString(), "4.5");
+    EXPECT_EQ(Rules().item(2, 6)->text().toStdString(), "4.5");
+    EXPECT_FALSE(Find<QLabel>(Page(), "Label_HardToRead")->isVisible());
+    EXPECT_FALSE(Find<QWidget>(Page(), "Button_Readable")->isVisible());
+    EXPECT_EQ(Page().UndoStack()->count(), 1);
+    Page().UndoStack()->undo();
+    EXPECT_EQ(Rules().item(1, 3)->text().toStdString(), "120,120,120");
+    EXPECT_EQ(Rules().item(2, 3)->text().toStdString(), "250,250,0");
+    EXPECT_FALSE(Page().IsDirty());
+}
+
+// --- the station's own alarms
+
+class ColourRulesOfAlarms : public ColourRulesPage {
+  protected:
+    // An alarm that came at an hour of 2026-03-15, in its file.
+    void PutAlarm(int number, int hour, const char* tag, const char* category) {
+        cVigrelRecieverAlarm alarm(m_Clock, kNoCategorySetting);
+        alarm.m_CreatedTime = DateSerial(2026, 3, 15) + TimeSerial(hour, 0, 0);
+        alarm.m_Alarm.m_Status = 1;
+        alarm.m_Alarm.SetCondition(0, "Pump stopped");
+        alarm.m_Alarm.SetCondition(1, tag);
+        alarm.m_Alarm.SetCondition(2, category);
+        cBinaryWriter file;
+        alarm.WriteToDisk(file);
+        Put("Alarms\\A000000" + std::to_string(number) + ".alm", file.Bytes());
+    }
+    QTableWidget& Alarms() { return *Find<QTableWidget>(Page(), "List_Preview_Alarms"); }
+    std::string Rule(int row) { return Alarms().item(row, 0)->text().toStdString(); }
+    QColor Ground(int row) { return Alarms().item(row, 3)->background().color(); }
+};
+
+TEST_F(ColourRulesOfAlarms, TheNewestComesFirstInTheColoursOfItsRule) {
+    PutAlarm(1, 8, "PU1", "5");
+    PutAlarm(2, 9, "PU2", "Fire");
+    PutAlarm(3, 10, "FA1", "5");
+    Put("Alarms\\A0000004.alm", "damaged");
+    Put("ColourRules.txt",
+        "PU* | 5 | * | 255,255,255 | 10,20,30 | 15\r\nFA* | 5 | * | 0,0,0 | 200,0,0 | 15\r\n");
+    EXPECT_EQ(Find<QTabWidget>(Page(), "Tabs_Preview")->currentIndex(), 0);
+    ASSERT_EQ(Alarms().rowCount(), 3);
+    EXPECT_EQ(Alarms().item(0, 1)->text().toStdString(), "2026-03-15 10:00:00");
+    // No rule is for texts such as "Pump stopped"; the tag is t1.
+    EXPECT_EQ(Rule(0) + Rule(1) + Rule(2), "nonenonenone");
+    Find<QComboBox>(Page(), "Combo_Preview_Tag")->setCurrentIndex(1);
+    EXPECT_EQ(Rule(0) + Rule(1) + Rule(2), "2none1");
+    EXPECT_EQ(Ground(0), QColor(200, 0, 0));
+    EXPECT_EQ(Ground(2), QColor(10, 20, 30));
+    EXPECT_EQ(Alarms().item(2, 3)->foreground().color(), QColor(255, 255, 255));
+    // The category to try is that of alarms whose own is no number; every other row is darker.
+    Find<QSpinBox>(Page(), "Number_Preview_Category")->setValue(5);
+    EXPECT_EQ(Rule(1), "1");
+    EXPECT_EQ(Ground(1), QColor(0, 5, 15));
+    EXPECT_EQ(LabelOf(Page(), "Label_Preview_Alarms"), "3 of 4");
+    // The next time the tag is the same text.
+    m_Page.reset();
+    EXPECT_EQ(Rule(0), "2");
+}
+
+TEST_F(ColourRulesOfAlarms, AreShownAsRulesAreEdited) {
+    PutAlarm(1, 8, "PU1", "5");
+    Press(Page(), "Button_Add");
+    EXPECT_EQ(Rule(0), "1");
+    EXPECT_EQ(Ground(0), QColor(255, 255, 255));
+    Rules().item(0, 4)->setText("255,255,0");
+    EXPECT_EQ(Ground(0), QColor(255, 255, 0));
+    Rules().item(0, 1)->setText("6");
+    EXPECT_EQ(Rule(0), "none");
+}
+
+TEST_F(ColourRulesOfAlarms, AStationWithoutAnySaysSo) {
+    EXPECT_EQ(Find<QTabWidget>(Page(), "Tabs_Preview")->currentIndex(), 1);
+    EXPECT_EQ(LabelOf(Page(), "Label_Preview_Alarms"), "The station has no alarms yet.");
+    EXPECT_EQ(Alarms().rowCount(), 0);
 }
 
 TEST_F(ColourRulesPage, AWrongFieldIsToldAndKeepsItsValue) {

@@ -116,7 +116,7 @@ TEST(Translations, SayTheSameThingWithTheSameWords) {
 // numbers, and the desktop's names of days and months.
 bool IsOfTheInstallation(const QString& text, const cLocaleForms& forms) {
     static const QRegularExpression own(
-        "^[^A-Za-z]*$|^h6\\d\\d$|^\\(\\*\\*\\* "
+        "^[^A-Za-z]*$|^t\\d$|^h6\\d\\d$|^\\(\\*\\*\\* "
         "|^/app|^(Receiver|Profile)_\\d{4}\\.dat|^(ColourRules|OwnHolidays).txt|^COM|^Radio$|^March 2026$");
     const auto isNamed = [&](const auto& names) {
         return std::find(names.begin(), names.end(), FromQString(text)) != names.end();

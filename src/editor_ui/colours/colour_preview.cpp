@@ -5,13 +5,16 @@
 #include <QHeaderView>
 #include <QPlainTextEdit>
 #include <QSpinBox>
+#include <QTabWidget>
 #include <QTableWidget>
+#include <QToolButton>
 #include <QVBoxLayout>
-#include <algorithm>
 #include <cmath>
 
 #include "adapters/qt/qt_text.h"
 #include "categories/colour_rules.h"
+#include "categories/readable_colours.h"
+#include "editor_ui/colours/alarm_preview.h"
 #include "windows/colours.h"
 #include "windows/plain_text.h"
 
@@ -36,14 +39,39 @@ QSpinBox* NumberBox(const char* objectName) {
 
 }  // namespace
 
-cColourPreview::cColourPreview(QWidget* parent)
+cColourPreview::cColourPreview(cEditorServices& services, QAction& makeReadable, QWidget* parent)
     : QWidget(parent),
       m_Tags(new QPlainTextEdit),
       m_Category(NumberBox("Number_Preview_Category")),
       m_Area(NumberBox("Number_Preview_Area")),
       m_Table(new QTableWidget(0, 5)),
-      m_HardToRead(new cPlainLabel) {
+      m_StationAlarms(new cAlarmPreview(services)),
+      m_HardToRead(new cPlainLabel),
+      m_Mend(MakeReadability(makeReadable)) {
     setObjectName("Preview_Colours");
+    auto* fields = new QFormLayout;
+    fields->addRow(tr("&Category:"), m_Category);
+    fields->addRow(tr("Are&a:"), m_Area);
+    auto* kinds = new QTabWidget;
+    kinds->setObjectName("Tabs_Preview");
+    kinds->setAccessibleName(tr("Preview"));
+    kinds->addTab(m_StationAlarms, tr("Alarms"));
+    kinds->addTab(MakeTyped(), tr("Typed tags"));
+    kinds->setCurrentIndex(m_StationAlarms->IsEmpty() ? 1 : 0);
+    auto* box = new QGroupBox(tr("Preview"));
+    auto* inside = new QVBoxLayout(box);
+    inside->addLayout(fields);
+    inside->addWidget(kinds, 1);
+    inside->addWidget(m_Mend);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(box);
+    connect(m_Tags, &QPlainTextEdit::textChanged, this, [this] { Refresh(); });
+    connect(m_Category, &QSpinBox::valueChanged, this, [this] { Refresh(); });
+    connect(m_Area, &QSpinBox::valueChanged, this, [this] { Refresh(); });
+}
+
+QWidget* cColourPreview::MakeTyped() {
     m_Tags->setObjectName("Text_Preview_Tags");
     m_Tags->setAccessibleName(tr("Tags to try"));
     m_Tags->setPlaceholderText(tr("Tags to try, one a line"));
@@ -58,24 +86,32 @@ cColourPreview::cColourPreview(QWidget* parent)
     m_Table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_Table->setSelectionMode(QAbstractItemView::NoSelection);
     m_Table->setFocusPolicy(Qt::NoFocus);
+    auto* typed = new QWidget;
+    auto* layout = new QVBoxLayout(typed);
+    layout->addWidget(m_Tags, 1);
+    layout->addWidget(m_Table, 2);
+    return typed;
+}
 
-    auto* fields = new QFormLayout;
-    fields->addRow(tr("Ta&gs:"), m_Tags);
-    fields->addRow(tr("&Category:"), m_Category);
-    fields->addRow(tr("Are&a:"), m_Area);
-    auto* box = new QGroupBox(tr("Preview"));
-    auto* inside = new QVBoxLayout(box);
-    inside->addLayout(fields, 1);
-    inside->addWidget(m_Table, 2);
+// What is hard to read, and what is one click away from it.
+QWidget* cColourPreview::MakeReadability(QAction& makeReadable) {
+    auto* panel = new QWidget;
     m_HardToRead->setObjectName("Label_HardToRead");
     m_HardToRead->setWordWrap(true);
-    inside->addWidget(m_HardToRead);
-    auto* layout = new QVBoxLayout(this);
+    auto* mend = new QToolButton;
+    mend->setObjectName("Button_Readable");
+    mend->setDefaultAction(&makeReadable);
+    mend->setFocusPolicy(Qt::TabFocus);
+    auto* layout = new QVBoxLayout(panel);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(box);
-    connect(m_Tags, &QPlainTextEdit::textChanged, this, [this] { Refresh(); });
-    connect(m_Category, &QSpinBox::valueChanged, this, [this] { Refresh(); });
-    connect(m_Area, &QSpinBox::valueChanged, this, [this] { Refresh(); });
+    layout->addWidget(m_HardToRead);
+    layout->addWidget(mend);
+    return panel;
+}
+
+QString cColourPreview::ContrastText(double contrast) {
+    // Cut, not rounded: 4.46 is not the 4.5 that is asked for.
+    return QString::number(std::floor(contrast * 10) / 10, 'f', 1);
 }
 
 void cColourPreview::SetRules(std::vector<cUserColor> rules) {
@@ -87,6 +123,7 @@ void cColourPreview::Refresh() {
     const QStringList tags = m_Tags->toPlainText().split('\n', Qt::SkipEmptyParts);
     m_Table->setRowCount(static_cast<int>(tags.size()));
     for (int row = 0; row < m_Table->rowCount(); ++row) ShowTag(row, tags[row]);
+    m_StationAlarms->Show(m_Rules, m_Category->value(), m_Area->value());
     ShowReadability();
 }
 
@@ -94,18 +131,12 @@ void cColourPreview::Refresh() {
 void cColourPreview::ShowReadability() {
     QStringList rules;
     for (std::size_t i = 0; i < m_Rules.size(); ++i) {
-        const cUserColor& rule = m_Rules[i];
-        const double contrast = std::min({Contrast(rule.m_ForeColor, rule.m_BackColor),
-                                          Contrast(rule.m_ForeColor, rule.m_BackColorFade),
-                                          Contrast(rule.m_ForeColor, rule.m_BackColorFlash)});
-        if (contrast >= kReadableContrast) continue;
-        // Cut, not rounded: 4.46 is not the 4.5 that is asked for.
-        rules += tr("%1 (%2)").arg(i + 1).arg(std::floor(contrast * 10) / 10, 0, 'f', 1);
+        const double contrast = LeastContrast(m_Rules[i]);
+        if (contrast < kReadableContrast) rules += tr("%1 (%2)").arg(i + 1).arg(ContrastText(contrast));
     }
     m_HardToRead->setText(tr("Hard to read, by rule and least contrast (%1 is readable): %2")
-                              .arg(kReadableContrast, 0, 'f', 1)
-                              .arg(rules.join(", ")));
-    m_HardToRead->setVisible(!rules.isEmpty());
+                              .arg(ContrastText(kReadableContrast), rules.join(", ")));
+    m_Mend->setVisible(!rules.isEmpty());
 }
 
 void cColourPreview::ShowTag(int row, const QString& tag) {

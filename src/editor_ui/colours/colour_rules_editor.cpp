@@ -1,16 +1,19 @@
 #include "editor_ui/colours/colour_rules_editor.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QColorDialog>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QSignalBlocker>
 #include <QSplitter>
+#include <QStyle>
 #include <QTableWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
 
 #include "adapters/qt/qt_text.h"
+#include "categories/readable_colours.h"
 #include "common/failure.h"
 #include "common/numbers.h"
 #include "editor_ui/colours/colour_preview.h"
@@ -26,7 +29,7 @@ namespace {
 
 constexpr int kColourRole = Qt::UserRole;
 
-enum eColumn { Tag, Categories, Areas, ForeColor, BackColor, Fade, Columns };
+enum eColumn { Tag, Categories, Areas, ForeColor, BackColor, Fade, Readability, Columns };
 
 // A field of a rule as the text of its cell, and back.
 std::string FieldText(const cColourRule& rule, int column) {
@@ -74,6 +77,13 @@ void ShowColour(QTableWidgetItem& item, const QColor& colour) {
     item.setData(kColourRole, colour);
 }
 
+void ShowContrast(QTableWidgetItem& item, double contrast) {
+    item.setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+    item.setText(cColourPreview::ContrastText(contrast));
+    const bool isReadable = contrast >= kReadableContrast;
+    item.setIcon(isReadable ? QIcon() : QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning));
+}
+
 cColourRule NewRule() {
     cColourRule rule;
     rule.m_TagFilter = rule.m_CategoryFilter = rule.m_AreaFilter = "*";
@@ -89,8 +99,7 @@ cColourRulesEditor::cColourRulesEditor(cEditorServices& services, QWidget* paren
     : cContentEditor(parent),
       m_Services(services),
       m_Table(new QTableWidget(0, Columns)),
-      m_Problems(new cLineProblemsLabel),
-      m_Preview(new cColourPreview) {
+      m_Problems(new cLineProblemsLabel) {
     setObjectName("Editor_ColourRules");
     m_Actions = {
         MakeAction("Action_Add", tr("&Add rule"), "Ctrl+Ins", &cColourRulesEditor::Add),
@@ -98,7 +107,11 @@ cColourRulesEditor::cColourRulesEditor(cEditorServices& services, QWidget* paren
         m_Up = MakeAction("Action_Up", tr("&Move up"), "Ctrl+Up", &cColourRulesEditor::MoveUp),
         m_Down = MakeAction("Action_Down", tr("Move d&own"), "Ctrl+Down", &cColourRulesEditor::MoveDown),
         m_Choose =
-            MakeAction("Action_Colour", tr("&Choose colour..."), "", &cColourRulesEditor::ChooseColour)};
+            MakeAction("Action_Colour", tr("&Choose colour..."), "", &cColourRulesEditor::ChooseColour),
+        m_Readable = MakeAction("Action_Readable", tr("Readable te&xt colours"), "Ctrl+Shift+L",
+                                &cColourRulesEditor::MakeReadable)};
+    m_Readable->setToolTip(tr("Gives the text of these rules the nearest colour that can be read"));
+    m_Preview = new cColourPreview(services, *m_Readable);
     MakeTable();
     auto* splitter = new QSplitter;
     splitter->addWidget(MakeTablePanel());
@@ -106,6 +119,8 @@ cColourRulesEditor::cColourRulesEditor(cEditorServices& services, QWidget* paren
     splitter->setStretchFactor(0, 3);
     splitter->setStretchFactor(1, 2);
     splitter->setChildrenCollapsible(false);
+    // The list of alarms needs as much room as it can get.
+    splitter->setSizes({550, 450});
     RememberSizes(*splitter, m_Services.m_Settings, objectName());
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_Problems);
@@ -128,26 +143,27 @@ void cColourRulesEditor::MakeTable() {
     setFocusProxy(m_Table);
     m_Table->setObjectName("List_Rules");
     m_Table->setAccessibleName(tr("Colour rules, tried from the first to the last"));
-    m_Table->setHorizontalHeaderLabels(
-        {tr("Tag"), tr("Categories"), tr("Areas"), tr("Text colour"), tr("Background"), tr("Fade")});
+    m_Table->setHorizontalHeaderLabels({tr("Tag"), tr("Categories"), tr("Areas"), tr("Text colour"),
+                                        tr("Background"), tr("Fade"), tr("Contrast")});
     const char* const tips[Columns] = {
         QT_TR_NOOP("A pattern: \"?\" is one character, \"*\" any run; case counts"),
         QT_TR_NOOP("Numbers and ranges from 0 to 255, such as 5;7-9, or * for all"),
         QT_TR_NOOP("Numbers and ranges from 0 to 999, such as 5;7-9, or * for all"),
         QT_TR_NOOP("Red, green and blue from 0 to 255, such as 255,255,255"),
         QT_TR_NOOP("Red, green and blue from 0 to 255, such as 200,0,0"),
-        QT_TR_NOOP("By how much every other row is darker, from 0 to 255")};
+        QT_TR_NOOP("By how much every other row is darker, from 0 to 255"),
+        QT_TR_NOOP("The least of text and ground: 4.5 is readable, 21 black on white")};
     for (int column = 0; column < Columns; ++column) {
         m_Table->horizontalHeaderItem(column)->setToolTip(tr(tips[column]));
     }
     QHeaderView& header = *m_Table->horizontalHeader();
-    for (const int column : {Categories, Areas, Fade}) {
+    for (const int column : {Categories, Areas}) {
         header.resizeSection(column, std::max(header.sectionSize(column), header.sectionSizeHint(column)));
     }
     // Where little is left to it, the first column isn't squeezed below its own head.
     header.setMinimumSectionSize(header.sectionSizeHint(Tag));
     header.setSectionResizeMode(Tag, QHeaderView::Stretch);
-    for (const int column : {ForeColor, BackColor}) {
+    for (const int column : {ForeColor, BackColor, Fade, Readability}) {
         header.setSectionResizeMode(column, QHeaderView::ResizeToContents);
     }
     m_Table->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -161,6 +177,8 @@ QWidget* cColourRulesEditor::MakeTablePanel() {
     auto* panel = new QWidget;
     auto* buttons = new QHBoxLayout;
     for (QAction* action : m_Actions) {
+        // That one stands beside what is hard to read.
+        if (action == m_Readable) continue;
         auto* button = new QToolButton;
         button->setDefaultAction(action);
         button->setFocusPolicy(Qt::TabFocus);
@@ -192,6 +210,10 @@ void cColourRulesEditor::FillRow(int row) {
         // An item that tells of its own change must not be replaced meanwhile.
         if (m_Table->item(row, column) == nullptr) m_Table->setItem(row, column, new QTableWidgetItem);
         QTableWidgetItem* item = m_Table->item(row, column);
+        if (column == Readability) {
+            ShowContrast(*item, LeastContrast(color));
+            continue;
+        }
         item->setText(ToQString(FieldText(rule, column)));
         if (column == ForeColor) ShowColour(*item, ColourFromNumber(color.m_ForeColor));
         if (column == BackColor) ShowColour(*item, ColourFromNumber(color.m_BackColor));
@@ -232,6 +254,9 @@ void cColourRulesEditor::UpdateActions() {
     const int row = m_Table->currentRow();
     const int column = m_Table->currentColumn();
     m_Remove->setEnabled(row >= 0);
+    m_Readable->setEnabled(std::any_of(
+        m_Rules.m_Rules.begin(), m_Rules.m_Rules.end(),
+        [](const cColourRule& rule) { return LeastContrast(MakeUserColor(rule)) < kReadableContrast; }));
     m_Up->setEnabled(row > 0);
     m_Down->setEnabled(row >= 0 && row + 1 < m_Table->rowCount());
     m_Choose->setEnabled(row >= 0 && (column == ForeColor || column == BackColor));
@@ -263,6 +288,22 @@ void cColourRulesEditor::Move(int by) {
                       m_Rules.m_Rules[static_cast<std::size_t>(target)]);
         },
         target);
+}
+
+// All that are hard to read at once, in one step.
+void cColourRulesEditor::MakeReadable() {
+    Change(
+        tr("making texts readable"),
+        [&] {
+            for (cColourRule& rule : m_Rules.m_Rules) {
+                const cUserColor color = MakeUserColor(rule);
+                if (LeastContrast(color) >= kReadableContrast) continue;
+                const QColor better = ColourFromNumber(ReadableForeColor(color));
+                rule.m_ForeColor =
+                    FromQString(QString("%1,%2,%3").arg(better.red()).arg(better.green()).arg(better.blue()));
+            }
+        },
+        std::max(m_Table->currentRow(), 0));
 }
 
 void cColourRulesEditor::ChooseColour() {

@@ -42,15 +42,17 @@ class cColourRulesEditor : public cContentEditor {
     void MoveDown() { Move(1); }
     void Move(int by);
     void ChooseColour();
+    void MakeReadable();
     void Change(const QString& step, const std::function<void()>& change, int row);
 
     cEditorServices& m_Services;
     cColourRules m_Rules;
     QTableWidget* m_Table;
     cLineProblemsLabel* m_Problems;
-    cColourPreview* m_Preview;
+    cColourPreview* m_Preview = nullptr;
     QList<QAction*> m_Actions;
-    QAction *m_Remove = nullptr, *m_Up = nullptr, *m_Down = nullptr, *m_Choose = nullptr;
+    QAction *m_Remove = nullptr, *m_Up = nullptr, *m_Down = nullptr, *m_Choose = nullptr,
+            *m_Readable = nullptr;
 };
 
 }  // namespace vigrel

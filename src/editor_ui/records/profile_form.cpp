@@ -69,7 +69,7 @@ QWidget* cProfileForm::MakeGeneral() {
             "Text_ProfileName", tr("Name"), [](const cProfile& profile) { return profile.GetName(); },
             [](cProfile& profile, const std::string& name) { profile.SetName(name); }));
     layout->addRow(
-        "", m_Binder.Flag("Check_Enabled", tr("En&abled: the profile takes part"), &cProfile::m_Enabled));
+        m_Binder.Flag("Check_Enabled", tr("En&abled: the profile takes part"), &cProfile::m_Enabled));
     for (std::int16_t i = 0; i < cProfile::kStates; ++i) {
         const QByteArray objectName = QString("Check_State_%1").arg(i).toLatin1();
         layout->addRow(i == 0 ? tr("States:") : QString(),

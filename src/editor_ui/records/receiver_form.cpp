@@ -24,8 +24,8 @@ cReceiverForm::cReceiverForm(const cDefinitionServices& services, QWidget* paren
     // Where there is little room, a field stands below its label.
     layout->setRowWrapPolicy(QFormLayout::WrapLongRows);
     layout->addRow(tr("Na&me:"), m_Binder.Text("Text_ReceiverName", tr("Name"), &cReceiver::m_ReceiverName));
-    layout->addRow("", m_Binder.Flag("Check_Enabled", tr("En&abled: alarms go to this receiver"),
-                                     &cReceiver::m_Enabled));
+    layout->addRow(
+        m_Binder.Flag("Check_Enabled", tr("En&abled: alarms go to this receiver"), &cReceiver::m_Enabled));
     m_Type->setObjectName("Combo_ReceiverType");
     m_Type->setAccessibleName(tr("Type"));
     layout->addRow(tr("&Type:"), m_Type);
