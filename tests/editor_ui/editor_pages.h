@@ -30,7 +30,8 @@ class cEditorPages {
                              "Setting1=COM\r\nSetting1Type=Currency\r\nSetting2=COM\r\nSetting2Type=Byte\r\n"
                              "Setting3=COM\r\nSetting3Type=YesNo\r\n");
         m_Bench->m_Files.Put("/app/OwnHolidays.txt", "12-24 | COM\r\nnonsense\r\n");
-        m_Bench->m_Files.Put("/app/ColourRules.txt", "* | * | * | 120,120,120 | 255,255,255 | 15\r\nnonsense\r\n");
+        m_Bench->m_Files.Put("/app/ColourRules.txt",
+                             "* | * | * | 120,120,120 | 255,255,255 | 15\r\nnonsense\r\n");
     }
     // In a delivered language.
     explicit cEditorPages(const char* language) : cEditorPages(std::make_unique<cEditorWords>(language)) {}

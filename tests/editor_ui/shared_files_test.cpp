@@ -1,7 +1,8 @@
 // Files of schedules, calendars and colour rules that other programs change, remove or make meanwhile.
 
-#include <QComboBox>
 #include <QFileInfo>
+#include <QListWidget>
+#include <QStatusBar>
 #include <functional>
 
 #include "common/binary.h"
@@ -92,6 +93,19 @@ TEST_P(SharedFile, ThatOthersChangedIsNotReplacedUnasked) {
     EXPECT_TRUE(Page().Save());
     EXPECT_EQ(Asked(), "");
     EXPECT_EQ(OnDisk(), GetParam().first);
+}
+
+// A copy that is put back, a second editor that saves what it has read: nothing is lost, nothing is asked.
+TEST_P(SharedFile, ThatOthersWroteAsItWasIsNoNews) {
+    m_Files.WriteFile(Path(), GetParam().first, false);
+    ComeBack();
+    EXPECT_EQ(Page().UndoStack()->count(), 0);
+    EXPECT_EQ(m_Window->statusBar()->currentMessage().toStdString(), "");
+    Change();
+    m_Files.WriteFile(Path(), GetParam().first, false);
+    EXPECT_TRUE(Page().Save());
+    EXPECT_EQ(Asked(), "");
+    EXPECT_NE(OnDisk(), GetParam().first);
 }
 
 TEST_P(SharedFile, ThatOthersChangedCanTakeThePlaceOfMineAndBeUndone) {

@@ -69,7 +69,7 @@ cCalendarEditor::cCalendarEditor(cEditorServices& services, QWidget* parent)
     : cContentEditor(parent),
       m_Services(services),
       m_Problems(new cLineProblemsLabel),
-      m_Calendar({services.m_Files, services.m_Clock, services.m_Forms, m_Holidays, services.GetText}),
+      m_Calendar(Surroundings()),
       m_View("Picture_Calendar", this),
       m_YearView("Picture_Calendar_Year", this),
       m_ShowTimeAxis(tr("Show the day's &periods")) {
@@ -85,6 +85,10 @@ cCalendarEditor::cCalendarEditor(cEditorServices& services, QWidget* parent)
     SetZoom(1);
     RefreshHolidays();
     ShowToday();
+}
+
+cCalendarSurroundings cCalendarEditor::Surroundings() const {
+    return {m_Services.m_Files, m_Services.m_Clock, m_Services.m_Forms, m_Holidays, m_Services.GetText};
 }
 
 void cCalendarEditor::MakeLayout() {
@@ -307,6 +311,13 @@ void cCalendarEditor::ReadFile(const std::string& path) {
 
 void cCalendarEditor::WriteFile(const std::string& path) {
     m_Calendar.SaveToDisk(path);
+}
+
+bool cCalendarEditor::IsInFile(const std::string& path, const std::string& state) const {
+    cCalendar calendar(Surroundings());
+    cBinaryReader reader(state);
+    for (std::int32_t i = 0; i < kCalendarDays; ++i) calendar.SetDayType(i, reader.Int16());
+    return calendar.CompareToDisk(path);
 }
 
 std::string cCalendarEditor::State() const {

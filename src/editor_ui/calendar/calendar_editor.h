@@ -50,6 +50,7 @@ class cCalendarEditor : public cContentEditor, private cCalendarContainer {
     // The file of docs/formats/calendar.md; both may throw cFailure.
     void ReadFile(const std::string& path);
     void WriteFile(const std::string& path);
+    bool IsInFile(const std::string& path, const std::string& state) const;
     // Takes all day types away, as a step.
     void Clear();
     std::string State() const override;
@@ -71,6 +72,7 @@ class cCalendarEditor : public cContentEditor, private cCalendarContainer {
     std::string Get_Combo_Calendar_DayType_ComboItems(std::int16_t number) const override;
     void Set_Text_Calendar_Month(std::string_view text) override;
 
+    cCalendarSurroundings Surroundings() const;
     void MakeActions();
     QAction* MakeAction(const char* name, const QString& text, const QKeySequence& keys,
                         const std::function<void()>& chosen);

@@ -8,7 +8,8 @@ cFileForm CalendarFileForm(const QString& newName, cCalendarEditor& editor) {
             "cal",
             [&editor](const std::string& path) { editor.ReadFile(path); },
             [&editor](const std::string& path) { editor.WriteFile(path); },
-            [&editor] { return editor.State(); }};
+            [&editor] { return editor.State(); },
+            [&editor](const auto&... file) { return editor.IsInFile(file...); }};
 }
 
 cCalendarPage::cCalendarPage(cEditorServices& services, const QString& newName, cCalendarEditor* editor,

@@ -221,6 +221,12 @@ void cOwnHolidaysEditor::WriteFile(const std::string& path) {
     m_Own.Save(m_Services.m_Files, path);
 }
 
+bool cOwnHolidaysEditor::IsInFile(const std::string& path, const std::string& state) const {
+    cOwnHolidays own;
+    own.Load(m_Services.m_Files, path);
+    return own.Text() == state;
+}
+
 void cOwnHolidaysEditor::Restore(const std::string& state) {
     m_Own.Parse(state);
     Fill();

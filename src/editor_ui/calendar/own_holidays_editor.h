@@ -23,6 +23,7 @@ class cOwnHolidaysEditor : public cContentEditor {
     // The file of docs/formats/own-holidays.md; both may throw cFailure.
     void ReadFile(const std::string& path);
     void WriteFile(const std::string& path);
+    bool IsInFile(const std::string& path, const std::string& state) const;
     std::string State() const override { return m_Own.Text(); }
     void Restore(const std::string& state) override;
 

@@ -7,7 +7,8 @@ cOwnHolidaysPage::cOwnHolidaysPage(cEditorServices& services, cOwnHolidaysEditor
                 {tr("Own holidays"), tr("Own holidays (*.txt);;All files (*)"), "txt",
                  [editor](const std::string& path) { editor->ReadFile(path); },
                  [editor](const std::string& path) { editor->WriteFile(path); },
-                 [editor] { return editor->State(); }},
+                 [editor] { return editor->State(); },
+                 [editor](const auto&... file) { return editor->IsInFile(file...); }},
                 parent) {
     setObjectName("Page_OwnHolidays");
 }

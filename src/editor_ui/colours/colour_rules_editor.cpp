@@ -330,6 +330,12 @@ void cColourRulesEditor::WriteFile(const std::string& path) {
     m_Rules.Save(m_Services.m_Files, path);
 }
 
+bool cColourRulesEditor::IsInFile(const std::string& path, const std::string& state) const {
+    cColourRules rules;
+    rules.Load(m_Services.m_Files, path);
+    return rules.Text() == state;
+}
+
 std::string cColourRulesEditor::State() const {
     return m_Rules.Text();
 }

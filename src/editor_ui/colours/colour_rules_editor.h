@@ -24,6 +24,7 @@ class cColourRulesEditor : public cContentEditor {
     // The file of docs/formats/colour-rules.md; both may throw cFailure.
     void ReadFile(const std::string& path);
     void WriteFile(const std::string& path);
+    bool IsInFile(const std::string& path, const std::string& state) const;
     std::string State() const override;
     void Restore(const std::string& state) override;
 

@@ -12,7 +12,8 @@ cColourRulesPage::cColourRulesPage(cEditorServices& services, cColourRulesEditor
                 {tr("Colour rules"), tr("Colour rules (*.txt);;All files (*)"), "txt",
                  [editor](const std::string& path) { editor->ReadFile(path); },
                  [editor](const std::string& path) { editor->WriteFile(path); },
-                 [editor] { return editor->State(); }},
+                 [editor] { return editor->State(); },
+                 [editor](const auto&... file) { return editor->IsInFile(file...); }},
                 parent) {
     setObjectName("Page_ColourRules");
 }

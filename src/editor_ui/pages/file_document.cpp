@@ -82,10 +82,19 @@ bool cFileDocument::Save() {
 
 // --- files under other hands
 
+// A file that was only touched, copied back or saved by others as it was is no news.
+bool cFileDocument::HasNews(const cFileReader::cStamp& now) {
+    if (now == m_Stamp) return false;
+    bool isSame = false;
+    if (now.size == m_Stamp.size) SkipFailure([&] { isSame = m_Form.holds(m_Path, m_StateInFile); });
+    if (isSame) m_Stamp = now;
+    return !isSame;
+}
+
 // Another program, or another window, may have written or removed the file meanwhile.
 bool cFileDocument::MayReplace() {
     const cFileReader::cStamp now = m_Services.m_Files.Stamp(m_Path);
-    if (now == m_Stamp) return true;
+    if (!HasNews(now)) return true;
     // While it is asked, nothing is taken up on the quiet.
     m_Seen = now;
     return now.size < 0 ? MayWriteAgain() : MayReplaceChanged();
@@ -129,7 +138,7 @@ void cFileDocument::TakeTheirs() {
 
 void cFileDocument::TakeUp() {
     const cFileReader::cStamp now = m_Services.m_Files.Stamp(m_Path);
-    if (m_Path.empty() || m_Dirty || now.size < 0 || now == m_Stamp || now == m_Seen) return;
+    if (m_Path.empty() || m_Dirty || now.size < 0 || now == m_Seen || !HasNews(now)) return;
     // Told once: what can't be read stays as it was read before.
     m_Seen = now;
     TakeTheirs();

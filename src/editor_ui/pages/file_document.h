@@ -21,6 +21,8 @@ struct cFileForm {
     std::function<void(const std::string&path)> read, write;
     // The content as a text.
     std::function<std::string()> state;
+    // Whether a file says the same as such a text; it may throw cFailure.
+    std::function<bool(const std::string& path, const std::string& state)> holds;
 };
 
 // The file behind an editor: opened, saved, and whether it holds what the editor shows. What goes wrong is
@@ -64,6 +66,7 @@ class cFileDocument : public QObject {
     void Message(const QString& text);
 
   private:
+    bool HasNews(const cFileReader::cStamp& now);
     bool MayReplace();
     bool MayReplaceChanged();
     bool MayWriteAgain();

@@ -171,6 +171,14 @@ void cScheduleEditor::WriteFile(const std::string& path) {
     SaveScheduleFile(m_Services.m_Files, path, m_Schedule);
 }
 
+bool cScheduleEditor::IsInFile(const std::string& path, const std::string& state) const {
+    cTimeSchedule schedule;
+    LoadScheduleFile(m_Services.m_Files, path, schedule);
+    std::string periods;
+    schedule.ComposePeriodArray(periods);
+    return periods == state;
+}
+
 std::string cScheduleEditor::State() const {
     std::string state;
     m_Schedule.ComposePeriodArray(state);

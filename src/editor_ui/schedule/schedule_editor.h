@@ -29,6 +29,7 @@ class cScheduleEditor : public cContentEditor, private cTimeScheduleContainer {
     // The file of docs/formats/schedule.md; both may throw cFailure.
     void ReadFile(const std::string& path);
     void WriteFile(const std::string& path);
+    bool IsInFile(const std::string& path, const std::string& state) const;
     std::string State() const override;
     void Restore(const std::string& state) override;
     QString Problem() const override { return m_Problem.text(); }

@@ -19,7 +19,8 @@ constexpr const char* kHelp =
     "Opens a page of the editor N (1000) times, presses A (40) buttons and keys at random, undoes all of it, "
     "does\n"
     "it again and undoes it again: the content has to be the first one, byte for byte. PAGE is schedule,\n"
-    "calendar, colours, receivers or profiles. A failure tells its seed: --sessions 1 --seed S repeats it.\n";
+    "calendar, colours, holidays, receivers or profiles. A failure tells its seed: --sessions 1 --seed S "
+    "repeats it.\n";
 
 std::string TextOption(int argc, char** argv, const std::string& name, const std::string& otherwise) {
     for (int i = 1; i + 1 < argc; i += 2) {

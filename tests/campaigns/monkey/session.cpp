@@ -38,6 +38,8 @@ cSession::cSession(const std::string& page, std::uint32_t seed, cFigures& figure
     : m_Random(seed), m_Figures(figures) {
     PutFiles();
     m_Bench.m_Window->resize(1100, 700);
+    // Half of them with drawings of the window's size.
+    if (seed % 2 == 0) m_Bench.Choose(*m_Bench.m_Window, "Menu_Zoom_Fit");
     OpenPage(page);
     m_Bench.m_Window->activateWindow();
     m_Closer.callOnTimeout([this] { CloseBoxes(); });
@@ -49,6 +51,8 @@ void cSession::PutFiles() {
     testing::cFakeFiles& files = m_Bench.m_Files;
     files.Put("/app/a.sch", Sample("schedule.dat"));
     files.Put("/app/Calendar.cal", std::string(2 * kCalendarDays, '\0'));
+    files.Put("/app/OwnHolidays.txt",
+              "# ours\r\n 12-24 | Eve\r\nnonsense\r\n2026-07-06..2026-07-31 | Works\r\n");
     files.Put("/app/ColourRules.txt", "A* | * | * | 0,0,0 | 255,255,255 | 15\r\nnonsense\r\n");
     for (const char* name : {"Receiver_0007", "Receiver_0008", "Receiver_0100"}) {
         files.Put(std::string("/app/Receivers/") + name + ".dat", Sample("receiver_version_5.dat"));
@@ -69,6 +73,8 @@ void cSession::OpenPage(const std::string& page) {
         window.OpenFile("/app/Calendar.cal");
     } else if (page == "colours") {
         window.ShowColourRules();
+    } else if (page == "holidays") {
+        window.ShowOwnHolidays();
     } else if (page == "receivers") {
         window.ShowReceivers();
     } else if (page == "profiles") {

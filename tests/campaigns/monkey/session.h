@@ -19,7 +19,8 @@ struct cFigures {
 // the same.
 class cSession {
   public:
-    // The pages by their names: "schedule", "calendar", "colours", "receivers", "profiles".
+    // The pages by their names: "schedule", "calendar", "colours", "holidays", "receivers",
+    // "profiles".
     cSession(const std::string& page, std::uint32_t seed, cFigures& figures);
 
     // Does as much, undoes all of it, does it again and undoes it again. Throws when the page's content is
