@@ -452,6 +452,28 @@ TEST_F(ProfilesPage, TheWeekIsPrintedUnderTheNameOfTheProfile) {
     EXPECT_GT(green, 500);
 }
 
+// A printer has many dots to the inch, of which letters of so many points would take too many.
+TEST_F(ProfilesPage, TheHoursOverAPrintedWeekHaveTheSizeOfTheScreen) {
+    ShowTab(3);
+    const auto printout = Page().Printout();
+    QImage sheet(printout->shape.scaled(2400, 1600, Qt::KeepAspectRatio).toSize(), QImage::Format_RGB32);
+    sheet.setDotsPerMeterX(47244);
+    sheet.setDotsPerMeterY(47244);
+    sheet.fill(Qt::white);
+    {
+        QPainter painter(&sheet);
+        printout->paint(painter, sheet.rect());
+    }
+    const int height = static_cast<int>(Find<QWidget>(Page(), "Picture_TimeSchedule_Hours")->height() *
+                                        sheet.height() / printout->shape.height());
+    int dark = 0;
+    for (int x = 0; x < sheet.width(); ++x) {
+        for (int y = 0; y < height; ++y) dark += sheet.pixelColor(x, y).lightness() < 128;
+    }
+    EXPECT_GT(dark, 100);
+    EXPECT_LT(dark, sheet.width() * height / 10);
+}
+
 TEST_F(ProfilesPage, TheCalendarIsPrintedWhileItShows) {
     ShowTab(4);
     const QString month = Find<QLabel>(Page(), "Text_Calendar_Month")->text();

@@ -1,5 +1,6 @@
 #include "editor_ui/schedule/hour_scale.h"
 
+#include <QFontInfo>
 #include <cmath>
 
 #include "schedule/schedule_geometry.h"
@@ -28,7 +29,10 @@ void cHourScale::paintEvent(QPaintEvent*) {
 }
 
 void cHourScale::PaintOn(QPainter& painter, double zoom, int viewLeft, const QColor& colour) const {
-    painter.setFont(font());
+    // In this widget's pixels: a printer would make its points many times as large.
+    QFont letters = font();
+    letters.setPixelSize(QFontInfo(letters).pixelSize());
+    painter.setFont(letters);
     painter.setPen(colour);
     for (int hour = 0; hour <= 24; hour += kHoursBetweenLabels) {
         const QString label = QString("%1").arg(hour, 2, 10, QChar('0'));
