@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "common/failure.h"
+#include "common/missing_file.h"
 #include "common/text.h"
 
 namespace vigrel {
@@ -66,7 +67,7 @@ void CopyMissingFiles(cFiles& files, std::string_view sourceFolder, std::string_
     for (const std::string& found : files.ListFiles(sourceFolder, pattern)) {
         const std::string name = found.substr(0, found.find('.') + 1);
         const std::string target = std::string(targetFolder) + name + std::string(targetExtension);
-        if (files.FileExists(target)) continue;
+        if (!IsMissing(files, target)) continue;
         SkipFailure([&] {
             ReplaceFile(files, target, files.ReadFile(source + name + std::string(sourceExtension)));
         });

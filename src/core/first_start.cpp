@@ -5,6 +5,7 @@
 #include "common/failure.h"
 #include "common/file_procedures.h"
 #include "common/language_selection.h"
+#include "common/missing_file.h"
 #include "common/numbers.h"
 #include "common/setting_keys.h"
 #include "common/text.h"
@@ -61,7 +62,7 @@ std::string cFirstStart::DecidedLanguage(const std::string& users) const {
 
 void cFirstStart::Prepare() {
     const std::string own = m_Ini.FullPath(std::string(kTemplate) + "oni");
-    if (m_Files.FileExists(m_Ini.FullPath(kIniFile)) || m_Files.FileExists(own)) return;
+    if (!IsMissing(m_Files, m_Ini.FullPath(kIniFile)) || !IsMissing(m_Files, own)) return;
     const std::string users = UsersLanguage();
     const std::string decided = DecidedLanguage(users);
     const std::string wanted = decided.empty() ? users : decided;

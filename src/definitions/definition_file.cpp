@@ -6,6 +6,7 @@
 
 #include "common/failure.h"
 #include "common/file_procedures.h"
+#include "common/missing_file.h"
 #include "common/numbers.h"
 #include "common/path_text.h"
 
@@ -22,11 +23,11 @@ constexpr const char* kFileNumber = "1";
 
 // The content of a definition file. A missing file is made, empty, and reads as empty.
 std::string OpenDefinition(cFiles& files, std::string_view fileName) {
-    const auto size = files.Stamp(fileName).size;
-    if (size < 0) {
+    if (IsMissing(files, fileName)) {
         files.WriteFile(fileName, "", false);
         return {};
     }
+    const auto size = files.Stamp(fileName).size;
     if (size > kLargestDefinition) {
         throw cFailure(eFailure::InputOutput,
                        {Pattern("Reasons", "a file of %1 bytes is no definition"), {std::to_string(size)}});
@@ -36,7 +37,7 @@ std::string OpenDefinition(cFiles& files, std::string_view fileName) {
 
 std::int16_t InventIdentity(const cDefinitionServices& services, const cDefinitionKind& kind) {
     const auto isFree = [&](std::int16_t identity) {
-        return !FileExists(services.files, DefinitionFileName(services, kind, identity));
+        return IsMissing(services.files, DefinitionFileName(services, kind, identity));
     };
     for (int i = 0; i < kRandomTries; ++i) {
         const std::int16_t identity = ToInt16(1 + services.random.Next() * kIdentities);

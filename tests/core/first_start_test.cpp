@@ -8,6 +8,7 @@
 #include "core/read_settings.h"
 #include "support/fake_files.h"
 #include "support/fake_locale.h"
+#include "support/faulty_files.h"
 
 namespace vigrel::testing {
 namespace {
@@ -55,6 +56,22 @@ TEST_F(FirstStart, TemplateAndConfigurationAreInTheUsersLanguageAndTheLanguageIs
     EXPECT_EQ(Template(), m_Files.ReadFile(kFolder + "Templates\\VigrelReceiver.046"));
     EXPECT_EQ(m_Files.ReadFile(kFolder + "VigrelReceiver.ini"), Template());
     EXPECT_EQ(Setting("General", "Language"), "");
+}
+
+// A look that fails once is no first start: the configuration of years is there.
+TEST_F(FirstStart, IsNoneWhereTheConfigurationCannotBeLookedAt) {
+    m_Files.Put(kFolder + "VigrelReceiver.INI", "[General]\r\nLanguage=049\r\n");
+    for (const eFault fault : {eFault::InputOutput, eFault::TooManyFiles}) {
+        for (int call = 0; call < 10; ++call) {
+            cFaultyFiles faulty(m_Files);
+            faulty.m_Fault = fault;
+            faulty.m_First = call;
+            faulty.m_Count = 1;
+            cIni ini(faulty, kFolder);
+            cFirstStart(faulty, ini, m_Locale, {}).Prepare();
+            EXPECT_EQ(Setting("General", "Language"), "049") << call;
+        }
+    }
 }
 
 TEST_F(FirstStart, AnUnknownLocaleGetsEnglish) {

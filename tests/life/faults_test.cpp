@@ -150,16 +150,10 @@ TEST_P(Faults, FromAnyCallUntilTheEndLoseNothing) {
     LiveWithFaultAtEveryCall(std::numeric_limits<int>::max());
 }
 
-std::string NameOf(const ::testing::TestParamInfo<eFault>& fault) {
-    constexpr const char* kNames[] = {"InputOutput",  "DiskFull",   "ShortWrite",
-                                      "TooManyFiles", "Permission", "FailingSync"};
-    return kNames[static_cast<int>(fault.param)];
-}
-
 INSTANTIATE_TEST_SUITE_P(Any, Faults,
                          ::testing::Values(eFault::InputOutput, eFault::DiskFull, eFault::ShortWrite,
                                            eFault::TooManyFiles, eFault::Permission, eFault::FailingSync),
-                         NameOf);
+                         [](const auto& fault) { return NameOf(fault.param); });
 
 }  // namespace
 }  // namespace vigrel::testing

@@ -20,6 +20,8 @@ cStationLife::cStationLife() {
     m_Disk.Put("C:\\App\\Vigrel_Texts.046", "10040=T10040\r\n10041=T10041\r\n");
     m_Disk.Put("C:\\App\\VigrelReceiver.INI",
                std::string("[General]\r\nLanguage=046\r\n") + kGeneral + kSections);
+    // What a first start begins with, and no later one must come back to.
+    m_Disk.Put("C:\\App\\Templates\\VigrelReceiver.oni", "[General]\r\nLanguage=046\r\n");
 }
 
 cRows cStationLife::Rows() const {

@@ -23,6 +23,12 @@ enum class eFault {
     FailingSync    // bytes and names are written, and can be lost
 };
 
+inline std::string NameOf(eFault fault) {
+    constexpr const char* kNames[] = {"InputOutput",  "DiskFull",   "ShortWrite",
+                                      "TooManyFiles", "Permission", "FailingSync"};
+    return kNames[static_cast<int>(fault)];
+}
+
 // Files whose calls fail: from call m_First on (from 0, reading calls included), m_Count of them.
 class cFaultyFiles : public cFiles {
   public:
