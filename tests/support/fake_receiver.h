@@ -1,8 +1,7 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <memory>
+#include <stdexcept>
 #include <string>
 
 #include "common/text.h"
@@ -108,9 +107,9 @@ class cFakeReceiver {
         return *receiver;
     }
     eStartUp Load(const std::string& commandLine = "") { return Make(commandLine).Form_Load(); }
-    // Loaded and shown, as the program does it.
+    // Loaded and shown, as the program does it. Throws std::logic_error when the start ends otherwise.
     cVigrelReceiverMain& Start(const std::string& commandLine = "") {
-        EXPECT_EQ(Load(commandLine), eStartUp::Running);
+        if (Load(commandLine) != eStartUp::Running) throw std::logic_error("the station did not start");
         mainWindow.Show();
         transcript.Take();
         return *receiver;
