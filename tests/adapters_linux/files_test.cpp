@@ -53,11 +53,12 @@ TEST(LinuxFiles, WithoutDescriptorsNoNameIsTakenForMissing) {
         cTemporaryFolder folder;
         cLinuxFiles files;
         const std::string path = folder.Folder() + given;
-        files.WriteFile(folder.Folder() + there, "[General]\r\nLanguage=046\r\n", false);
         const auto read = [&] {
             const auto failure = CatchFailure([&] { files.ReadFile(path); });
             return failure ? std::optional(failure->Number()) : std::nullopt;
         };
+        EXPECT_EQ(read(), eFailure::FileNotFound);
+        files.WriteFile(folder.Folder() + there, "[General]\r\nLanguage=046\r\n", false);
         EXPECT_EQ(read(), std::nullopt);
         {
             const cNoDescriptors none;

@@ -152,7 +152,8 @@ TEST(FolderLock, AFileThatCannotBeOpenedIsToldAndDoesNotStandInTheWay) {
 }
 
 TEST(FolderLock, AMachineWithoutDescriptorsIsToldAndDoesNotStandInTheWay) {
-    cTemporaryFolder folder;
+    cTemporaryFolder folder, other;
+    EXPECT_FALSE(cFolderLock(other.Folder()).AnotherIsRunning());
     cFolderLock lock(folder.Folder());
     {
         const cNoDescriptors none;

@@ -421,8 +421,7 @@ TEST_F(QtSockets, RequestsThatNobodyTakesLeaveNoDescriptor) {
 
 TEST_F(QtSockets, AMachineWithoutDescriptorsIsAskedAgain) {
     const cBluntPeer peer(m_Rig.m_Listener.LocalPort());
-    // A sanitizer that meets a type for the first time needs descriptors to look at it; it has seen this one
-    // then.
+    // Seen by a sanitizer.
     QSocketNotifier(STDIN_FILENO, QSocketNotifier::Read).setEnabled(false);
     {
         const cNoDescriptors none;

@@ -6,7 +6,8 @@
 
 namespace vigrel::testing {
 
-// While it lives, the process can open nothing more.
+// While it lives, the process can open nothing more. A sanitizer that meets a type for the first time needs
+// descriptors to look at it: a test uses each before.
 class cNoDescriptors {
   public:
     cNoDescriptors() {
