@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that building needs, when any is missing. With "test" also those for testing, with
-# "lint" those and the linter, with "package" those for making and testing the packages of packaging/.
+# "lint" those and the linter, with "coverage" those and what tells of branches, with "package" those for making and
+# testing the packages of packaging/.
 set -euo pipefail
 
 # Building and running a station.
@@ -18,6 +19,8 @@ test_packages=(
 )
 # Looking for mistakes that the compiler does not see.
 lint_packages=(clang-tidy)
+# Telling which branches the tests take.
+coverage_packages=(gcovr)
 # Making the packages, looking at what they hold, installing them in a bare Debian.
 package_packages=(
     dpkg-dev file binutils
@@ -26,6 +29,7 @@ package_packages=(
 case "${1:-}" in
     test) packages+=("${test_packages[@]}") ;;
     lint) packages+=("${test_packages[@]}" "${lint_packages[@]}") ;;
+    coverage) packages+=("${test_packages[@]}" "${coverage_packages[@]}") ;;
     package) packages+=("${package_packages[@]}") ;;
 esac
 
