@@ -505,6 +505,18 @@ TEST_F(ReportListPicture, ASelectedRowIsFramedOnEveryColour) {
     EXPECT_LT(Count(plain, Qt::black), plain.width());
 }
 
+TEST_F(ReportListPicture, ASelectedCellWithoutColoursShowsTheSelectionsColour) {
+    Fill(2);
+    Picture(1, 0);
+    m_List.SelectAndShow(m_Records[1]);
+    const QImage cell = Picture(1, 0);
+    // Whether the window is the active one is the machine's matter here.
+    const QPalette palette = View().palette();
+    const int shown = std::max(Count(cell, palette.color(QPalette::Active, QPalette::Highlight)),
+                               Count(cell, palette.color(QPalette::Inactive, QPalette::Highlight)));
+    EXPECT_GT(shown, cell.width() * cell.height() / 2);
+}
+
 TEST_F(ReportListPicture, TheRowOfTheKeysIsMarked) {
     Fill(3);
     const QImage plain = Picture(1, 1);
@@ -523,6 +535,19 @@ TEST_F(ReportListPicture, BoldRowsAreDrawnBold) {
     m_List.Redraw();
     EXPECT_GT(Count(Picture(1, 1), Qt::white), plain * 5 / 4);
     EXPECT_NE(std::find(asked.begin(), asked.end(), m_Records[1]), asked.end());
+}
+
+TEST_F(ReportListPicture, ItalicRowsAreDrawnInAShapeOfTheirOwn) {
+    Fill(1);
+    std::vector<QImage> pictures;
+    for (const auto& [bold, italic] : {std::pair{false, false}, {false, true}, {true, false}, {true, true}}) {
+        const cReportList::cFontStyle wanted{bold, italic};
+        m_List.OnBeforeDrawRow = [wanted](RecordId, cReportList::cFontStyle& style) { style = wanted; };
+        m_List.Redraw();
+        const QImage picture = Picture(0, 1);
+        EXPECT_EQ(std::find(pictures.begin(), pictures.end(), picture), pictures.end()) << bold << italic;
+        pictures.push_back(picture);
+    }
 }
 
 TEST_F(ReportListPicture, TheListsOwnStyleIsWhereARowStartsFrom) {
