@@ -11,6 +11,7 @@
 #include "adapters/qt/qt_text.h"
 #include "common/dates.h"
 #include "common/failure.h"
+#include "editor_ui/calendar/country_names.h"
 #include "editor_ui/pages/entry_width.h"
 #include "editor_ui/pages/line_problems_label.h"
 #include "schedule/calendar_geometry.h"
@@ -30,38 +31,6 @@ constexpr QSize kMonthSize(kGridRight + 8, kGridBottom + 6);  // units
 constexpr int kLeastLetters = 12;                             // of a choice
 // A day's number of two digits and a short name of three letters stand side by side in a box of 37 units.
 constexpr int kFontSize = 10;
-
-// Of the calendar's own table, for those who translate.
-[[maybe_unused]] constexpr const char* kCountries[] = {
-    QT_TRANSLATE_NOOP("Country", "Austria"),
-    QT_TRANSLATE_NOOP("Country", "Germany"),
-    QT_TRANSLATE_NOOP("Country", "Germany (Baden-Wuerttemberg)"),
-    QT_TRANSLATE_NOOP("Country", "Germany (Bavaria)"),
-    QT_TRANSLATE_NOOP("Country", "Germany (Berlin)"),
-    QT_TRANSLATE_NOOP("Country", "Germany (Brandenburg)"),
-    QT_TRANSLATE_NOOP("Country", "Germany (Bremen)"),
-    QT_TRANSLATE_NOOP("Country", "Germany (Hamburg)"),
-    QT_TRANSLATE_NOOP("Country", "Germany (Hesse)"),
-    QT_TRANSLATE_NOOP("Country", "Germany (Mecklenburg-Western Pomerania)"),
-    QT_TRANSLATE_NOOP("Country", "Germany (Lower Saxony)"),
-    QT_TRANSLATE_NOOP("Country", "Germany (North Rhine-Westphalia)"),
-    QT_TRANSLATE_NOOP("Country", "Germany (Rhineland-Palatinate)"),
-    QT_TRANSLATE_NOOP("Country", "Germany (Saarland)"),
-    QT_TRANSLATE_NOOP("Country", "Germany (Saxony)"),
-    QT_TRANSLATE_NOOP("Country", "Germany (Saxony-Anhalt)"),
-    QT_TRANSLATE_NOOP("Country", "Germany (Schleswig-Holstein)"),
-    QT_TRANSLATE_NOOP("Country", "Germany (Thuringia)"),
-    QT_TRANSLATE_NOOP("Country", "Denmark"),
-    QT_TRANSLATE_NOOP("Country", "Finland"),
-    QT_TRANSLATE_NOOP("Country", "Norway"),
-    QT_TRANSLATE_NOOP("Country", "Sweden"),
-    QT_TRANSLATE_NOOP("Country", "United Kingdom (England and Wales)"),
-    QT_TRANSLATE_NOOP("Country", "United Kingdom (Northern Ireland)"),
-    QT_TRANSLATE_NOOP("Country", "United Kingdom (Scotland)")};
-
-QString CountryName(const cHolidayCountry& country) {
-    return QCoreApplication::translate("Country", country.name.data());
-}
 
 }  // namespace
 
