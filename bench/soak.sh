@@ -1,10 +1,13 @@
 #!/usr/bin/env bash
-# An hour of a busy station: an event a second with every signal on (popup, sound, light, notification icon, window to
+# An hour of a busy station: an event a second, or RATE of them, with every signal on (popup, sound, light, notification icon, window to
 # the front, printer), an operator at the keyboard who now and then closes and acknowledges, and a sample of what the
 # station holds every 30 s. Everything runs on a display of its own, against a null sink for sound, a stand-in for the
 # HID library and a TCP printer.
 #
-#   bench/soak.sh [SECONDS [FOLDER]]     3600 s; the folder keeps samples.csv, the log, what was printed
+#   bench/soak.sh [SECONDS [FOLDER [RATE]]]     3600 s; the folder keeps samples.csv, the log, what was printed
+#
+# Beyond an event a second one popup shows at a time: Xvfb does not keep up with fifty new windows a second.
+# Draws memory, open files and what the display holds over time: the folder's samples.svg.
 #
 # Wants the release build and the packages of scripts/install-packages.sh test; xrestop too, for what the display holds
 # for the station.
@@ -12,6 +15,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 seconds=${1:-3600}
 folder=${2:-$(mktemp -d)}
+rate=${3:-1}
 display=${SOAK_DISPLAY:-:96}
 port=12996 printer=12997
 every=30  # seconds from sample to sample
@@ -67,7 +71,7 @@ light() { # light CATEGORY'S CONTROL, the same light for all states
 {
     printf '%s\r\n' '[General]' Language=044 Object=Soak MaxEvents=500 ShowInTaskBar=0 DisableShutdown=1 \
         Columns=StateIcon,DateTime,StateText,t2,t0,t1,Observed \
-        EventRestore=1 ViewPopupForm=1 EventSoundFileDelay=700 EventSignalStopByNotifyClick=1 KeepForDays=2 \
+        EventRestore=1 ViewPopupForm=1 ViewOnlyOnePopupForm=$((rate > 1)) EventSoundFileDelay=700 EventSignalStopByNotifyClick=1 KeepForDays=2 \
         BackColor_Active=204,51,0 ForeColor_Active=255,255,255 BackColor_Inactive=226,240,217 \
         BackColor_Acked=255,230,153 EventSignal=2 'EventSoundFile=Sounds\notice.wav' \
         'EventPopupFormat=[T2] [ALARMDATE] [ALARMTIME] [SENDER][13][10][T0]' 'PopupFormTopMostCategory=Fire' \
@@ -86,19 +90,19 @@ VIGREL_APPLICATION_PATH=$folder/station VIGREL_TEST_LIGHTS=$folder/lights LD_LIB
     "$bin/vigrel-receiver" >"$folder/station.out" 2>&1 & station=$!; keep
 for _ in $(seq 100); do "$bin/vigrel-send" --port $port --keepalive --quiet 2>/dev/null && break; sleep 0.1; done
 
-# --- the sender: an event a second, a new connection every minute, texts of all lengths
+# --- the sender: so many events a second, a new connection every minute, texts of all lengths
 categories=(Technical Fire Door Technical Water)
 states=(1 1 0 1 2 1 1)
 record() { # record NUMBER
     local category=${categories[$(($1 % 5))]} state=${states[$(($1 % 7))]}
-    printf 'S%d%s|Event %d of the hour%*s|Room %d|%s||||\n' $state "$(date '+%F|%T')" "$1" $(($1 * 7 % 150)) x \
+    printf 'S%d%(%F|%T)T|Event %d of the hour%*s|Room %d|%s||||\n' $state -1 "$1" $(($1 * 7 % 150)) x \
         $(($1 % 40)) "$category"
 }
 send() {
     local number=0
     while :; do
-        for _ in $(seq 60); do record $((number++)); done >"$folder/records"
-        "$bin/vigrel-send" --port $port --sender PLC1 --file "$folder/records" --rate 1 --quiet 2>>"$folder/sent" ||
+        for _ in $(seq $((60 * rate))); do record $((number++)); done >"$folder/records"
+        "$bin/vigrel-send" --port $port --sender PLC1 --file "$folder/records" --rate "$rate" --quiet 2>>"$folder/sent" ||
             echo "FAILED" >>"$folder/sent"
         sleep 0.8
     done
@@ -153,6 +157,29 @@ for ((next = 0; next <= seconds; next += every)); do
     sample $next >>"$folder/samples.csv"
 done
 
+# --- plots: a line each, from 0 to its most, over time
+awk -F, '
+    NR == 1 { for (i = 1; i <= NF; ++i) name[i] = $i; fields = NF; next }
+    { ++rows; for (i = 1; i <= NF; ++i) { value[rows, i] = $i; if ($i > most[i]) most[i] = $i } }
+    END {
+        width = 640; height = 80
+        printf "<svg xmlns=\"http://www.w3.org/2000/svg\" font-family=\"sans-serif\" font-size=\"11\" viewBox=\"0 0 %d %d\">\n", \
+            width + 160, (fields - 1) * (height + 20) + 20
+        print "<rect width=\"100%\" height=\"100%\" fill=\"white\"/>"
+        for (i = 2; i <= fields; ++i) {
+            top = (i - 2) * (height + 20) + 10
+            printf "<rect x=\"10\" y=\"%d\" width=\"%d\" height=\"%d\" fill=\"none\" stroke=\"#ccc\"/>\n", top, width, height
+            printf "<text x=\"%d\" y=\"%d\">%s</text><text x=\"%d\" y=\"%d\">most %d</text>\n", \
+                width + 18, top + 14, name[i], width + 18, top + 30, most[i]
+            printf "<polyline fill=\"none\" stroke=\"#06c\" points=\""
+            for (row = 1; row <= rows; ++row)
+                printf "%.1f,%.1f ", 10 + width * value[row, 1] / (most[1] > 0 ? most[1] : 1), \
+                    top + height - height * value[row, i] / (most[i] > 0 ? most[i] : 1)
+            print "\"/>"
+        }
+        print "</svg>"
+    }' "$folder/samples.csv" >"$folder/samples.svg"
+
 # --- figures
 count() { cat "$@" 2>/dev/null | wc -l; }
 awk -F, -v all="$seconds" 'NR == 1 { print "mean of sixth\t" $0; next }
@@ -171,5 +198,5 @@ awk -F, -v all="$seconds" 'NR == 1 { print "mean of sixth\t" $0; next }
 echo "processor time of the station: $(awk '{ print ($14 + $15) / 100 }' "/proc/$station/stat") s in $seconds s"
 echo "stored alarms: $(find "$folder/station/Alarms" -type f | wc -l), lines printed: $(count "$folder/printed")," \
     "packets to the light: $(count "$folder/lights/packets"), heard: $(cat "$folder/heard" 2>/dev/null)"
-echo "batches of 60 refused or not sent: $(grep -c FAILED "$folder/sent" || true)"
+echo "minutes refused or not sent: $(grep -c FAILED "$folder/sent" || true)"
 echo "folder: $folder"
