@@ -104,11 +104,19 @@ std::vector<cSoundServer::cSound> cSoundServer::StopRecording() {
         if (std::abs(int{samples[i]}) < kLoudness) continue;
         const int at = static_cast<int>(i) / kSamplesPerMillisecond;
         if (sounds.empty() || at > sounds.back().start + sounds.back().length + kGapMilliseconds) {
-            sounds.push_back({at, 0});
+            sounds.push_back({at, 0, 1});
         }
-        sounds.back().length = at - sounds.back().start;
+        cSound& sound = sounds.back();
+        if (at > sound.start + sound.length) ++sound.loud;
+        sound.length = at - sound.start;
     }
     return sounds;
+}
+
+int cSoundServer::StopRecordingLoud() {
+    int loud = 0;
+    for (const cSound& sound : StopRecording()) loud += sound.loud;
+    return loud;
 }
 
 std::string WaveFile(int milliseconds, double hertz) {

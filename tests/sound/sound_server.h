@@ -31,9 +31,12 @@ class cSoundServer {
     bool StartRecording();
     struct cSound {
         int start, length;  // milliseconds
+        int loud;           // milliseconds of it that are not silent
     };
     // Ends the recording; the sounds in it, kept apart by 60 ms of silence and more.
     std::vector<cSound> StopRecording();
+    // Ends the recording; the milliseconds in it that are not silent, however close its sounds are.
+    int StopRecordingLoud();
 
   private:
     QProcess m_Server, m_Recorder;

@@ -35,7 +35,8 @@ class SoundSignal : public cSoundTest {
     bool WaitForTicks(int ticks) {
         return WaitUntil([&] { return m_Ticks >= ticks; });
     }
-    // Lets so many sounds begin, and the last one end.
+    // Lets so many sounds begin, and the last one end. On a slow machine a sound can be heard so late in its
+    // half second that the next one follows close.
     void LetSoundsPlay(int count) {
         ASSERT_TRUE(WaitUntil([&] { return m_Starts == count; }));
         m_Timer.SetEnabled(false);
@@ -83,7 +84,7 @@ TEST_F(SoundSignal, RepeatedMeansAtTheFirstTickAfterEachEnd) {
     ASSERT_TRUE(m_Server.StartRecording());
     Event(3, File("a.wav", WaveFile(300)));
     LetSoundsPlay(5);
-    EXPECT_EQ(m_Server.StopRecording().size(), 5u);
+    EXPECT_NEAR(m_Server.StopRecordingLoud(), 5 * 300, 15);
     EXPECT_EQ(m_FreeTicks, (std::vector{1, 1, 1, 1, 1, 0}));
 }
 
@@ -93,7 +94,7 @@ TEST_F(SoundSignal, ThePauseOfARepeatRoundsUpToTheTick) {
     ASSERT_TRUE(m_Server.StartRecording());
     Event(3, File("a.wav", WaveFile(300)));
     LetSoundsPlay(4);
-    EXPECT_EQ(m_Server.StopRecording().size(), 4u);
+    EXPECT_NEAR(m_Server.StopRecordingLoud(), 4 * 300, 15);
     // The first play waits for no pause.
     EXPECT_EQ(m_FreeTicks, (std::vector{1, 2, 2, 2, 0}));
 }
@@ -124,7 +125,7 @@ TEST_F(SoundSignal, ARepeatGoesOnWhenTheServerComesBack) {
     ASSERT_TRUE(m_Server.StartRecording());
     const int before = m_Starts;
     ASSERT_TRUE(WaitUntil([&] { return m_Starts >= before + 3; }));
-    EXPECT_GE(m_Server.StopRecording().size(), 2u);
+    EXPECT_GE(m_Server.StopRecordingLoud(), 2 * 200 - 10);
 }
 
 TEST_F(SoundSignal, TheToneIsShort) {
