@@ -1180,6 +1180,14 @@
         <source>&quot;%1&quot; is back without its file. Save it anew.</source>
         <translation>&quot;%1&quot; er tilbage uden sin fil. Gem den på ny.</translation>
     </message>
+    <message>
+        <source>taking over the changes of other programs</source>
+        <translation>overtagelse af andre programmers ændringer</translation>
+    </message>
+    <message>
+        <source>taking over &quot;%1&quot;</source>
+        <translation>overtagelse af &quot;%1&quot;</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cDefinitionsWindow</name>

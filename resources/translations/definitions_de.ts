@@ -1180,6 +1180,14 @@
         <source>&quot;%1&quot; is back without its file. Save it anew.</source>
         <translation>„%1“ ist wieder da, aber ohne Datei. Speichern Sie den Eintrag neu.</translation>
     </message>
+    <message>
+        <source>taking over the changes of other programs</source>
+        <translation>Übernehmen der Änderungen anderer Programme</translation>
+    </message>
+    <message>
+        <source>taking over &quot;%1&quot;</source>
+        <translation>Übernehmen von „%1“</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cDefinitionsWindow</name>

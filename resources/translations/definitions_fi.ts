@@ -1180,6 +1180,14 @@
         <source>&quot;%1&quot; is back without its file. Save it anew.</source>
         <translation>&quot;%1&quot; on palautettu ilman tiedostoaan. Tallenna se uudelleen.</translation>
     </message>
+    <message>
+        <source>taking over the changes of other programs</source>
+        <translation>muiden ohjelmien muutosten käyttöönotto</translation>
+    </message>
+    <message>
+        <source>taking over &quot;%1&quot;</source>
+        <translation>käyttöönotto: &quot;%1&quot;</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cDefinitionsWindow</name>

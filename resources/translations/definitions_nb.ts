@@ -1180,6 +1180,14 @@
         <source>&quot;%1&quot; is back without its file. Save it anew.</source>
         <translation>&quot;%1&quot; er tilbake uten sin fil. Lagre den på nytt.</translation>
     </message>
+    <message>
+        <source>taking over the changes of other programs</source>
+        <translation>overtakelse av andre programmers endringer</translation>
+    </message>
+    <message>
+        <source>taking over &quot;%1&quot;</source>
+        <translation>overtakelse av &quot;%1&quot;</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cDefinitionsWindow</name>

@@ -1180,6 +1180,14 @@
         <source>&quot;%1&quot; is back without its file. Save it anew.</source>
         <translation>&quot;%1&quot; är tillbaka utan sin fil. Spara den på nytt.</translation>
     </message>
+    <message>
+        <source>taking over the changes of other programs</source>
+        <translation>övertagande av andra programs ändringar</translation>
+    </message>
+    <message>
+        <source>taking over &quot;%1&quot;</source>
+        <translation>övertagande av &quot;%1&quot;</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cDefinitionsWindow</name>

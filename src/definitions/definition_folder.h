@@ -54,21 +54,27 @@ class cDefinitionFolder {
         RemoveDefinitionTemporaries(m_Services, Definition::kKind);
         LoadNew();
     }
+    using Held = std::function<bool(std::size_t position)>;
+    // What took the place of a definition, with what it was before.
+    using Taken = std::function<void(std::size_t position, std::unique_ptr<Definition> before)>;
     // Takes up what other programs did: files that are new, and changed files of definitions that are not
     // held. Positions stay; what is new comes last. Whether anything was taken up.
-    bool Rescan(const std::function<bool(std::size_t position)>& isHeld) {
+    bool Rescan(const Held& isHeld, const Taken& onTaken = nullptr) {
         bool changed = false;
         for (std::size_t i = 0; i < m_Entries.size(); ++i) {
             if (!IsNews(i) || isHeld(i)) continue;
             const cFileReader::cStamp stamp = StampOf(At(i));
-            changed = Revert(i) || changed;
+            auto before = CopyOf(i);
+            const bool taken = Revert(i);
             // Told once: what can't be read stays as it was read before.
             m_Entries[i].seen = stamp;
+            if (taken && onTaken) onTaken(i, std::move(before));
+            changed = taken || changed;
         }
         return LoadNew() || changed;
     }
     // Whether Rescan would take up anything.
-    bool HasNews(const std::function<bool(std::size_t position)>& isHeld) const {
+    bool HasNews(const Held& isHeld) const {
         for (std::size_t i = 0; i < m_Entries.size(); ++i) {
             if (IsNews(i) && !isHeld(i)) return true;
         }

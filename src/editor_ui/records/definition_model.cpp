@@ -151,11 +151,12 @@ bool cDefinitionModel::BringBack(int row, const cRecord& record) {
     return whole;
 }
 
-void cDefinitionModel::Rescan() {
+std::vector<cTakenUp> cDefinitionModel::Rescan() {
     beginResetModel();
-    m_Source.Rescan();
+    std::vector<cTakenUp> taken = m_Source.Rescan();
     CompareAll();
     endResetModel();
+    return taken;
 }
 
 bool cDefinitionModel::Save(int row) {

@@ -34,7 +34,7 @@ class cDefinitionModel : public QAbstractTableModel {
     void Restore(int row, const cRecord& record);
     RecordPtr TakeOut(int row);
     bool BringBack(int row, const cRecord& record);
-    void Rescan();
+    std::vector<cTakenUp> Rescan();
     bool Save(int row);
     // The definition of a row has changed.
     void Refresh(int row);

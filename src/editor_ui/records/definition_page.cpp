@@ -117,6 +117,8 @@ void cDefinitionPage::ShowChosen() {
 }
 
 void cDefinitionPage::ShowField(const QString& field) {
+    // Of all without a name the toolkit would give the first.
+    if (field.isEmpty()) return;
     auto* widget = m_Form.widget->findChild<QWidget*>(field);
     if (widget == nullptr) return;
     for (QWidget* inner = widget; inner != m_Form.widget; inner = inner->parentWidget()) {
@@ -349,10 +351,24 @@ void cDefinitionPage::RevertPosition(int position) {
 void cDefinitionPage::TakeUpFolder() {
     if (!m_Source->HasNews()) return;
     const int chosen = Chosen();
-    m_Model.Rescan();
+    std::vector<cTakenUp> taken = m_Model.Rescan();
     Choose(chosen);
+    PushTakenUp(std::move(taken));
     Changed();
     m_Notes->Show(m_TakeNotes());
+}
+
+// The steps of before stand on what was there before: without this one between they would put it back over
+// what others saved. All that was taken up at once is one step.
+void cDefinitionPage::PushTakenUp(std::vector<cTakenUp> taken) {
+    if (taken.size() > 1) m_UndoStack.beginMacro(tr("taking over the changes of other programs"));
+    for (cTakenUp& each : taken) {
+        const cFieldStep step{tr("taking over \"%1\"").arg(NameAt(each.position)), {}};
+        m_UndoStack.push(new cFieldCommand(*this, each.position, std::move(each.before),
+                                           m_Source->Copy(static_cast<std::size_t>(each.position)), step,
+                                           m_Session));
+    }
+    if (taken.size() > 1) m_UndoStack.endMacro();
 }
 
 // --- steps

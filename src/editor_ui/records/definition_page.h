@@ -92,6 +92,7 @@ class cDefinitionPage : public cEditorPage, private cRecordSteps {
     void ShowBoth(int position);
     void RevertPosition(int position);
     void TakeUpFolder();
+    void PushTakenUp(std::vector<cTakenUp> taken);
     void EndOfSteps();
     QString NameAt(int position) const;
     // --- cRecordSteps

@@ -34,6 +34,12 @@ class cRecord {
 };
 using RecordPtr = std::shared_ptr<const cRecord>;
 
+// What another program saved took the place of a definition.
+struct cTakenUp {
+    int position;
+    RecordPtr before;
+};
+
 // The definitions of one kind as a page shows them, by position. Positions count from 0 and shift when one is
 // removed.
 class cDefinitionSource {
@@ -46,7 +52,8 @@ class cDefinitionSource {
     virtual int Identity(std::size_t position) const = 0;  // below 0: it has no file
     virtual bool HasChanges(std::size_t position) const = 0;
     virtual cFieldProblem Problem(std::size_t position) const = 0;
-    // What other programs did to its file.
+    // What other programs did to its file. Undo can bring back a content from before others changed it: that
+    // counts as changed, too.
     virtual eFileState StateOfFile(std::size_t position) const = 0;
     virtual const std::vector<cUnreadableFile>& Unreadable() const = 0;
 
@@ -61,7 +68,7 @@ class cDefinitionSource {
     // What other programs did to the folder, but for definitions with changes: whether there is anything, and
     // to take it up.
     virtual bool HasNews() const = 0;
-    virtual void Rescan() = 0;
+    virtual std::vector<cTakenUp> Rescan() = 0;
 
     virtual RecordPtr Copy(std::size_t position) const = 0;
     virtual bool AreSame(const cRecord& a, const cRecord& b) const = 0;
@@ -83,9 +90,9 @@ class cFolderSource : public cDefinitionSource {
         : m_Folder(folder),
           m_Details(std::move(details)),
           m_Problem(std::move(problem)),
-          m_Typed(folder.Count()) {}
+          m_Marks(folder.Count()) {}
 
-    TypedTexts& Typed(std::size_t position) { return m_Typed.at(position); }
+    TypedTexts& Typed(std::size_t position) { return m_Marks.at(position).typed; }
 
     std::size_t Count() const override { return m_Folder.Count(); }
     QString Name(std::size_t position) const override { return ToQString(NameOf(m_Folder.At(position))); }
@@ -93,24 +100,28 @@ class cFolderSource : public cDefinitionSource {
     bool Enabled(std::size_t position) const override { return m_Folder.At(position).m_Enabled != False16; }
     int Identity(std::size_t position) const override { return m_Folder.At(position).m_DiskIdentity; }
     bool HasChanges(std::size_t position) const override {
-        return !m_Typed.at(position).empty() || m_Folder.At(position).HasChangedSinceLastLoadFromDisk();
+        return !m_Marks.at(position).typed.empty() || m_Folder.At(position).HasChangedSinceLastLoadFromDisk();
     }
     cFieldProblem Problem(std::size_t position) const override {
-        const TypedTexts& typed = m_Typed.at(position);
+        const TypedTexts& typed = m_Marks.at(position).typed;
         if (!typed.empty()) return {typed.begin()->second.problem, typed.begin()->first};
         return m_Problem(m_Folder.At(position));
     }
-    eFileState StateOfFile(std::size_t position) const override { return m_Folder.StateOfFile(position); }
+    eFileState StateOfFile(std::size_t position) const override {
+        const eFileState state = m_Folder.StateOfFile(position);
+        return state == eFileState::Unchanged && !m_Marks.at(position).IsOfTheLatest() ? eFileState::Changed
+                                                                                       : state;
+    }
     const std::vector<cUnreadableFile>& Unreadable() const override { return m_Folder.Unreadable(); }
 
     std::size_t Add(const QString& wishedName) override {
         return Added(m_Folder.Add(m_Folder.FreeName(FromQString(wishedName))));
     }
     std::size_t AddCopy(std::size_t position) override {
-        const TypedTexts typed = m_Typed.at(position);
+        const TypedTexts typed = Typed(position);
         const std::string name = m_Folder.FreeName(NameOf(m_Folder.At(position)));
         const std::size_t copy = Added(m_Folder.AddCopy(position, name));
-        m_Typed[copy] = typed;
+        Typed(copy) = typed;
         return copy;
     }
     std::optional<std::size_t> AddFromFile(std::size_t position) override {
@@ -118,75 +129,100 @@ class cFolderSource : public cDefinitionSource {
         if (added) Added(*added);
         return added;
     }
-    bool Save(std::size_t position) override { return m_Folder.Save(position); }
+    bool Save(std::size_t position) override {
+        if (!m_Folder.Save(position)) return false;
+        m_Marks[position].SetLatest();
+        return true;
+    }
     bool Revert(std::size_t position) override {
+        const bool isChanged = m_Folder.StateOfFile(position) == eFileState::Changed;
         if (!m_Folder.Revert(position)) return false;
-        if (m_Folder.Count() < m_Typed.size()) {
-            m_Typed.erase(Place(position));
+        if (m_Folder.Count() < m_Marks.size()) {
+            m_Marks.erase(Place(position));
         } else {
-            m_Typed[position].clear();
+            m_Marks[position].typed.clear();
+            m_Marks[position].SetLatest();
+            if (isChanged) m_Marks[position].TakeUp();
         }
         return true;
     }
     bool HasNews() const override {
         return m_Folder.HasNews([this](std::size_t position) { return HasChanges(position); });
     }
-    void Rescan() override {
-        m_Folder.Rescan([this](std::size_t position) { return HasChanges(position); });
-        m_Typed.resize(m_Folder.Count());
+    std::vector<cTakenUp> Rescan() override {
+        std::vector<cTakenUp> taken;
+        m_Folder.Rescan(
+            [this](std::size_t position) { return HasChanges(position); },
+            [&](std::size_t position, std::unique_ptr<Definition> before) {
+                // Written anew as it was, it is no news.
+                if (before->HasSameContentAs(m_Folder.At(position))) return;
+                taken.push_back({static_cast<int>(position), Record(std::move(before), m_Marks[position])});
+                m_Marks[position].TakeUp();
+            });
+        m_Marks.resize(m_Folder.Count());
+        return taken;
     }
 
     RecordPtr Copy(std::size_t position) const override {
-        return std::make_shared<cFolderRecord>(m_Folder.CopyOf(position), m_Typed.at(position),
-                                               std::int16_t{-1}, std::nullopt);
+        return Record(m_Folder.CopyOf(position), m_Marks.at(position));
     }
     bool AreSame(const cRecord& a, const cRecord& b) const override {
-        return Of(a).content->HasSameContentAs(*Of(b).content) && Of(a).typed == Of(b).typed;
+        return Of(a).content->HasSameContentAs(*Of(b).content) && Of(a).marks.typed == Of(b).marks.typed;
     }
     void Restore(std::size_t position, const cRecord& record) override {
         m_Folder.At(position).CopyFrom(*Of(record).content);
-        m_Typed[position] = Of(record).typed;
+        m_Marks[position].typed = Of(record).marks.typed;
+        m_Marks[position].ground = Of(record).marks.ground;
     }
     RecordPtr TakeOut(std::size_t position) override {
-        auto record =
-            std::make_shared<cFolderRecord>(m_Folder.CopyOf(position), m_Typed.at(position),
-                                            m_Folder.At(position).m_DiskIdentity, m_Folder.FileOf(position));
+        auto record = Record(m_Folder.CopyOf(position), m_Marks.at(position));
+        record->identity = m_Folder.At(position).m_DiskIdentity;
+        record->file = m_Folder.FileOf(position);
         if (!m_Folder.Remove(position)) return nullptr;
-        m_Typed.erase(Place(position));
+        m_Marks.erase(Place(position));
         return record;
     }
     bool BringBack(std::size_t position, const cRecord& record) override {
         const cFolderRecord& back = Of(record);
-        m_Typed.insert(Place(position), back.typed);
+        m_Marks.insert(Place(position), back.marks);
         return m_Folder.BringBack(position, *back.content, back.identity, back.file);
     }
 
   private:
-    struct cFolderRecord : cRecord {
-        cFolderRecord(std::unique_ptr<Definition> definition, TypedTexts texts, std::int16_t number,
-                      std::optional<std::string> bytes)
-            : content(std::move(definition)),
-              typed(std::move(texts)),
-              identity(number),
-              file(std::move(bytes)) {}
-        std::unique_ptr<Definition> content;
+    // What is known of a definition beside its fields.
+    struct cMarks {
         TypedTexts typed;
-        std::int16_t identity;
+        // How often the content of others took its place, and after which of these times it stands.
+        int takeUps = 0, ground = 0;
+        bool IsOfTheLatest() const { return ground == takeUps; }
+        void SetLatest() { ground = takeUps; }
+        void TakeUp() { ground = ++takeUps; }
+    };
+    struct cFolderRecord : cRecord {
+        std::unique_ptr<Definition> content;
+        cMarks marks;
+        std::int16_t identity = -1;
         std::optional<std::string> file;
     };
+    static std::shared_ptr<cFolderRecord> Record(std::unique_ptr<Definition> content, const cMarks& marks) {
+        auto record = std::make_shared<cFolderRecord>();
+        record->content = std::move(content);
+        record->marks = marks;
+        return record;
+    }
     static const cFolderRecord& Of(const cRecord& record) {
         return dynamic_cast<const cFolderRecord&>(record);
     }
-    auto Place(std::size_t position) { return m_Typed.begin() + static_cast<std::ptrdiff_t>(position); }
+    auto Place(std::size_t position) { return m_Marks.begin() + static_cast<std::ptrdiff_t>(position); }
     std::size_t Added(std::size_t position) {
-        m_Typed.resize(m_Folder.Count());
+        m_Marks.resize(m_Folder.Count());
         return position;
     }
 
     cDefinitionFolder<Definition>& m_Folder;
     DetailsOf m_Details;
     ProblemOf m_Problem;
-    std::vector<TypedTexts> m_Typed;  // by position
+    std::vector<cMarks> m_Marks;  // by position
 };
 
 }  // namespace vigrel
