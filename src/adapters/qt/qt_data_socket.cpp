@@ -46,6 +46,8 @@ void cQtDataSocket::Deliver(std::string_view bytes) {
     if (m_BeforeTheNext) *m_BeforeTheNext -= std::min(bytes.size(), *m_BeforeTheNext);
     m_Received += bytes;
     if (OnDataArrival) OnDataArrival();
+    // Who was answered sends its next alarm at once, if it has one.
+    if (std::exchange(m_Answered, false) && m_Connection) m_Connection->AwaitMore();
 }
 
 // The event loop reads, turn by turn, so that windows and timers get theirs. A peer that stays, and goes on
@@ -69,6 +71,7 @@ void cQtDataSocket::Send(std::string_view bytes) {
     if (!m_Connection || !m_Connection->Send(bytes)) {
         throw cFailure(eFailure::Device, "Nothing can be sent: the peer takes no more");
     }
+    m_Answered = true;
 }
 
 }  // namespace vigrel

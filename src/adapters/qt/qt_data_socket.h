@@ -43,8 +43,9 @@ class cQtDataSocket : public cDataSocket {
     cQtListener& m_Listener;
     std::unique_ptr<cTcpConnection> m_Connection;
     cLingeringConnections m_Lingering;
-    std::string m_Received;  // and not yet fetched
-    bool m_Ended = false;    // by the peer, or by an error
+    std::string m_Received;   // and not yet fetched
+    bool m_Ended = false;     // by the peer, or by an error
+    bool m_Answered = false;  // since the last turn
     // While somebody knocks: how many bytes may still be read before he is let in.
     std::optional<std::size_t> m_BeforeTheNext;
 };

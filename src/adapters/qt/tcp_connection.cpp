@@ -8,6 +8,7 @@
 
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <utility>
 
 namespace vigrel {
@@ -56,6 +57,15 @@ cTcpConnection::eRead cTcpConnection::Read(std::string& bytes) {
 std::size_t cTcpConnection::Arrived() const {
     int bytes = 0;
     return ioctl(m_Descriptor.Get(), FIONREAD, &bytes) == 0 ? static_cast<std::size_t>(bytes) : 0;
+}
+
+void cTcpConnection::AwaitMore() const {
+    constexpr std::chrono::microseconds kAwake{50};
+    const auto end = std::chrono::steady_clock::now() + kAwake;
+    pollfd asked{m_Descriptor.Get(), POLLIN, 0};
+    // Without giving way in between: behind a yield whoever computes gets milliseconds, and woken is the
+    // sender anyway.
+    while (poll(&asked, 1, 0) == 0 && std::chrono::steady_clock::now() < end) continue;
 }
 
 bool cTcpConnection::PeerHasLeft() const {

@@ -30,6 +30,9 @@ class cTcpConnection {
     eRead Read(std::string& bytes);
     // What has arrived and was not read yet, in bytes.
     std::size_t Arrived() const;
+    // Waits for more, awake and for 50 us at most: going to sleep for what comes at once costs more than
+    // that.
+    void AwaitMore() const;
     // The peer has ended its sending side, or all of the connection; what it sent before may wait to be read.
     bool PeerHasLeft() const;
     // Hands the bytes to the network, now or when it has room. False when the peer takes nothing any more.
