@@ -40,7 +40,7 @@ class cPopupStack {
   public:
     // The longest that a turn lasts, but for what its last popup takes.
     static constexpr int kTurnMilliseconds = 20;
-    static constexpr int kRestsPerTurn = 6;
+    static constexpr int kRestsPerTurn = 9;
     // As long as the next popup may take to show and still gets the keyboard: later the operator may be at
     // something else.
     static constexpr int kPassOnMilliseconds = 1000;
