@@ -27,10 +27,11 @@ struct cGroup {
     std::function<std::vector<cLine>(const cSize&)> measure;
 };
 
+// Answers come first, on a disk from which nothing was removed yet.
 const std::vector<cGroup> kGroups{
-    {"starts", MeasureStarts}, {"answers", MeasureAnswers}, {"acknowledging", MeasureAcknowledging},
-    {"burst", MeasureBurst},   {"popups", MeasurePopups},   {"sorting", MeasureSorting},
-    {"texts", MeasureTexts},   {"export", MeasureExport},   {"sound", MeasureSound}};
+    {"answers", MeasureAnswers}, {"starts", MeasureStarts}, {"acknowledging", MeasureAcknowledging},
+    {"burst", MeasureBurst},     {"popups", MeasurePopups}, {"sorting", MeasureSorting},
+    {"texts", MeasureTexts},     {"export", MeasureExport}, {"sound", MeasureSound}};
 
 struct cOptions {
     bool shortForm = false;

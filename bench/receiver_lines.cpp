@@ -41,8 +41,8 @@ struct cAcknowledged {
     double shown, written, standStill, bare;  // seconds, seconds, milliseconds, seconds
 };
 
-// What a station has stored has been on the disk for long; and for five seconds ext4 passes over the inodes
-// of removed files, one by one, whenever it makes a file.
+// What a station has stored has been on the disk for long; and ext4 without a journal passes over the inodes
+// of files that were removed just before, one by one, whenever it makes a file.
 void LetTheDiskRest(int alarms) {
     sync();
     RunEvents(std::min(alarms, 6000));
