@@ -18,10 +18,10 @@
 namespace vigrel {
 
 // The report list on the screen. It stays quick with a hundred thousand rows under a flood of alarms: records
-// are only noted, and what has come together goes to the view in one flush every 80 ms.
+// are only noted, and what has come together goes to the view in one flush every 160 ms.
 class cQtReportList : public cReportList {
   public:
-    static constexpr int kFlushMilliseconds = 80;
+    static constexpr int kFlushMilliseconds = 160;
 
     // The icons must outlive the list.
     cQtReportList(QWidget* parent, const cIconStrip& icons);
