@@ -7,11 +7,19 @@
 
 namespace vigrel {
 
-// Whether a file is certainly not there. A look that fails is no answer: what is made in place of a file that
-// is taken for missing replaces it.
-inline bool IsMissing(const cFileReader& files, std::string_view path) {
+// Whether a file is there, whatever it holds. Throws where that can't be told: a look that fails is no
+// answer, and what is made in place of a file that is taken for missing replaces it.
+inline bool IsThere(const cFileReader& files, std::string_view path) {
     const auto failure = CatchFailure([&] { files.ReadFile(path); });
-    return failure && failure->Number() == eFailure::FileNotFound;
+    if (failure && failure->Number() != eFailure::FileNotFound) throw *failure;
+    return !failure;
+}
+
+// Whether a file is certainly not there.
+inline bool IsMissing(const cFileReader& files, std::string_view path) {
+    bool missing = false;
+    SkipFailure([&] { missing = !IsThere(files, path); });
+    return missing;
 }
 
 }  // namespace vigrel

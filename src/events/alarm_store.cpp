@@ -6,6 +6,7 @@
 #include "common/dates.h"
 #include "common/failure.h"
 #include "common/file_procedures.h"
+#include "common/missing_file.h"
 #include "common/numbers.h"
 #include "common/path_text.h"
 #include "common/text.h"
@@ -77,7 +78,10 @@ bool cAlarmStore::IsTooOld(const cVigrelRecieverAlarm& alarm, DateTime now) cons
 }
 
 void cAlarmStore::DeleteAlarmFile(const cVigrelRecieverAlarm& alarm) {
-    std::erase_if(m_Unsaved, [&](const AlarmPtr& unsaved) { return unsaved.get() == &alarm; });
+    const auto unsaved =
+        std::erase_if(m_Unsaved, [&](const AlarmPtr& other) { return other.get() == &alarm; });
+    // Without a number yet it has no file; that of number 0 is another alarm's.
+    if (unsaved > 0 && alarm.m_FileId == 0) return;
     SkipFailure([&] { m_Services.ownFiles.RemoveFile(FileName(alarm.m_FileId)); });
     m_Spellings.erase(alarm.m_FileId);
 }
@@ -95,9 +99,9 @@ void cAlarmStore::RemoveOldest() {
 }
 
 // An alarm that is not on disk yet has its number all the same: given to another one, one of the two would
-// take the other's file.
+// take the other's file. Throws where the disk doesn't tell.
 bool cAlarmStore::IsTaken(std::int32_t fileId) const {
-    return m_Services.ownFiles.FileExists(FileName(fileId)) ||
+    return IsThere(m_Services.ownFiles, FileName(fileId)) ||
            std::any_of(m_Unsaved.begin(), m_Unsaved.end(),
                        [&](const AlarmPtr& unsaved) { return unsaved->m_FileId == fileId; });
 }
@@ -111,7 +115,7 @@ void cAlarmStore::DrawFileId(cVigrelRecieverAlarm& alarm) {
 }
 
 std::string cAlarmStore::Bytes(cVigrelRecieverAlarm& alarm) {
-    if (alarm.m_FileId == 0) SkipFailure([&] { DrawFileId(alarm); });
+    if (alarm.m_FileId == 0) DrawFileId(alarm);
     cBinaryWriter file;
     alarm.WriteToDisk(file);
     return file.Bytes();

@@ -12,6 +12,7 @@
 #include "common/file_procedures.h"
 #include "common/text.h"
 #include "support/fake_station.h"
+#include "support/faulty_files.h"
 
 namespace vigrel::testing {
 namespace {
@@ -166,6 +167,40 @@ TEST_F(AlarmStore, ANewAlarmGetsARandomFreeNumber) {
     store.SaveAlarm(alarm);
     EXPECT_EQ(alarm->m_FileId, 2500000);
     EXPECT_TRUE(files.FileExists(std::string(kApp) + "Alarms\\A2500000.alm"));
+}
+
+// A look that the disk refuses is no word that the number is free: written in place of another alarm, that
+// one would be lost.
+TEST_F(AlarmStore, ANumberThatCouldNotBeLookedForIsGivenToNoAlarm) {
+    PutFile(5000000, 1, "other");
+    const std::string other = store.FileName(5000000), before = files.ReadFile(other);
+    PutFile(0, 1, "zero");
+    cFaultyFiles faulty(files);
+    cAlarmStore ofFaulty({faulty, faulty, clock, random, log, texts, settings, categories, timerSave}, kApp);
+    random.m_Values = {0.5, 0.25};
+    const AlarmPtr alarm = MakeAlarm();
+    faulty.m_Count = 1;
+    ofFaulty.SaveAlarm(alarm);
+    EXPECT_EQ(faulty.m_Met.count("read " + other), 1u);
+    EXPECT_EQ(files.ReadFile(other), before);
+    EXPECT_EQ(AlarmFiles().size(), 2u);
+    ofFaulty.RetryUnsaved();
+    EXPECT_EQ(alarm->m_FileId, 2500000);
+    EXPECT_EQ(AlarmFiles().size(), 3u);
+    EXPECT_EQ(files.ReadFile(other), before);
+}
+
+// Number 0 is an alarm's like any other.
+TEST_F(AlarmStore, AnAlarmThatLeavesBeforeItHasANumberTakesNoFileAlong) {
+    const std::string zero = PutFile(0, 1, "zero");
+    cFaultyFiles faulty(files);
+    cAlarmStore ofFaulty({faulty, faulty, clock, random, log, texts, settings, categories, timerSave}, kApp);
+    const AlarmPtr alarm = MakeAlarm();
+    faulty.m_Count = 1;
+    ofFaulty.SaveAlarm(alarm);
+    ASSERT_EQ(alarm->m_FileId, 0);
+    ofFaulty.DeleteAlarmFile(*alarm);
+    EXPECT_TRUE(files.FileExists(zero));
 }
 
 TEST_F(AlarmStore, ASavedAlarmSurvivesACrashAsSoonAsSaveReturns) {
