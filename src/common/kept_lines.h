@@ -52,12 +52,11 @@ std::vector<cLineProblem> ParseKeptLines(std::string_view text, const EntryOf& e
 template <class List>
 std::vector<cLineProblem> LoadLines(const cFileReader& files, std::string_view path, List& list) {
     list = {};
-    if (files.Stamp(path).size < 0) return {};
     std::string content;
-    if (const auto failure = CatchFailure([&] { content = files.ReadFile(path); })) {
-        return {{0, failure->Description()}};
-    }
-    return list.Parse(content);
+    const auto failure = CatchFailure([&] { content = files.ReadFile(path); });
+    if (!failure) return list.Parse(content);
+    if (failure->Number() == eFailure::FileNotFound) return {};
+    return {{0, failure->Description()}};
 }
 
 template <class Entry, class LineOf>

@@ -7,9 +7,12 @@
 #include <set>
 #include <string>
 
+#include "categories/colour_rules.h"
 #include "common/failure.h"
 #include "definitions/station_definitions.h"
+#include "schedule/calendar.h"
 #include "schedule/definition_files.h"
+#include "schedule/own_holidays.h"
 #include "support/fake_clock.h"
 #include "support/faulty_files.h"
 #include "support/samples.h"
@@ -26,7 +29,7 @@ using cContents = std::map<std::string, std::string>;
 cContents ContentsOf(const cFakeFiles& disk) {
     cContents contents;
     for (const char* folder : {kReceivers, kProfiles, "C:\\App\\"}) {
-        for (const char* mask : {"*.dat", "*.sch"}) {
+        for (const char* mask : {"*.dat", "*.sch", "*.cal", "*.txt"}) {
             for (const std::string& name : disk.ListFiles(folder, mask))
                 contents[folder + name] = disk.ReadFile(folder + name);
         }
@@ -54,6 +57,9 @@ class cEditorLife {
         m_Disk.Put(std::string(kProfiles) + "Profile_0004.dat", Sample("profile_version_4.dat"));
         m_Disk.Put(std::string(kProfiles) + "Profile_0012.dat", Sample("profile_version_5.dat"));
         m_Disk.Put("C:\\App\\Plan.sch", Sample("schedule.dat"));
+        m_Disk.Put("C:\\App\\Plan.cal", Sample("calendar.dat"));
+        m_Disk.Put("C:\\App\\ColourRules.txt", "# ours\r\nP* | 5 | * | 255,255,255 | 200,0,0 | 15\r\n");
+        m_Disk.Put("C:\\App\\OwnHolidays.txt", "# ours\r\n12-27 | Inventory\r\n");
         m_Begin = ContentsOf(m_Disk);
         Note();
         m_Files.m_Fault = fault;
@@ -125,10 +131,42 @@ class cEditorLife {
         const bool scheduleSaved =
             SkipFailure([&] { SaveScheduleFile(m_Files, "C:\\App\\Plan.sch", schedule); });
         NoteSave(scheduleSaved, "C:\\App\\Plan.sch");
+        EditCalendar();
+        cColourRule rule;
+        rule.m_TagFilter = rule.m_CategoryFilter = rule.m_AreaFilter = "*";
+        rule.m_ForeColor = rule.m_BackColor = "1,1,1";
+        EditList<cColourRules>("C:\\App\\ColourRules.txt",
+                               [&](auto& rules) { rules.m_Rules.push_back(rule); });
+        cOwnHoliday holiday;
+        holiday.m_First = "12-24";
+        holiday.m_Name = "Closed";
+        EditList<cOwnHolidays>("C:\\App\\OwnHolidays.txt",
+                               [&](auto& own) { own.m_Holidays.push_back(holiday); });
+    }
+    void EditCalendar() {
+        const std::string path = "C:\\App\\Plan.cal";
+        cCalendar calendar(
+            {m_Files, m_Clock, m_Forms, m_Holidays, [](std::int32_t) { return std::string(); }});
+        if (!SkipFailure([&] { LoadCalendarFile(m_Files, path, calendar); })) return;
+        calendar.SetDayType(100, 3);
+        const bool saved = SkipFailure([&] { calendar.SaveToDisk(path); });
+        NoteSave(saved, path);
+    }
+    // A list that could not be read, which its one problem on line 0 says, is not saved.
+    template <class List, class Change>
+    void EditList(const std::string& path, const Change& change) {
+        List list;
+        const auto problems = list.Load(m_Files, path);
+        if (!problems.empty() && problems[0].line == 0) return;
+        change(list);
+        const bool saved = SkipFailure([&] { list.Save(m_Files, path); });
+        NoteSave(saved, path);
     }
 
     cFaultyFiles m_Files{m_Disk};
     cFakeClock m_Clock;
+    cLocaleForms m_Forms;
+    cHolidays m_Holidays;
     cOneNumber m_Random;
     cIni m_Ini{m_Files, "C:\\App\\"};
     cTexts m_Texts{m_Files, m_Ini};
@@ -170,7 +208,7 @@ class DefinitionFaults : public ::testing::TestWithParam<eFault> {
 TEST(FlawlessEditor, SavesWhatItChanges) {
     cEditorLife life(eFault::InputOutput, 0, 0);
     life.Live();
-    EXPECT_EQ(life.m_Saved.size(), 6u);
+    EXPECT_EQ(life.m_Saved.size(), 9u);
     EXPECT_GT(life.Calls(), 50);
 }
 
