@@ -6,6 +6,9 @@
 #include <unistd.h>
 
 #include <functional>
+#include <string>
+#include <string_view>
+#include <utility>
 
 #include "adapters/linux/linux_files.h"
 #include "common/failure.h"
@@ -65,6 +68,29 @@ TEST_F(ApplicationFolder, AFreshFolderIsFilledFromTheInstallation) {
     EXPECT_EQ(files.ReadFile(folder + "Sounds\\alarm.wav"), "RIFF");
     EXPECT_EQ(files.ReadFile(folder + "ReceiverTypes.txt"), "1; SMS");
     EXPECT_EQ(files.ReadFile(folder + "ReceiverType_SMS.INI"), "[S1]");
+}
+
+// A disk that refuses every look.
+class cBlindFiles : public cLinuxFiles {
+  public:
+    explicit cBlindFiles(std::string folder) : m_Folder(std::move(folder)) {}
+    bool FileExists(std::string_view) const override { return false; }
+    std::string ReadFile(std::string_view path) const override {
+        if (path.starts_with(m_Folder)) throw cFailure(eFailure::InputOutput, std::string(path));
+        return cLinuxFiles::ReadFile(path);
+    }
+
+  private:
+    std::string m_Folder;
+};
+
+TEST_F(ApplicationFolder, WhatCannotBeLookedForIsNotReplaced) {
+    Put(other, "Sounds/alarm.wav", "delivered");
+    Put(data, "Sounds/alarm.wav", "the plant's");
+    const std::string folder = data.Path().string() + "\\";
+    cBlindFiles blind(folder);
+    FillApplicationFolder(blind, folder, other.Path().string());
+    EXPECT_EQ(files.ReadFile(folder + "Sounds\\alarm.wav"), "the plant's");
 }
 
 TEST_F(ApplicationFolder, TheFolderMayBeNamedInAnyScript) {

@@ -14,6 +14,7 @@
 #include "common/failure.h"
 #include "common/file_procedures.h"
 #include "common/ini.h"
+#include "common/missing_file.h"
 #include "common/path_text.h"
 #include "common/texts.h"
 
@@ -84,7 +85,7 @@ constexpr std::array<cFileGroup, 7> kConfiguration{{{"", kIniFile},
                                                     {"Receivers\\", "*.dat"},
                                                     {"Profiles\\", "*.dat"}}};
 
-// What is there already stays; what can't be copied is left out.
+// What is there already, or may be, stays; what can't be copied is left out.
 void CopyGroup(cFiles& files, const cFileGroup& group, const std::string& source,
                const std::string& applicationPath) {
     const std::string from = source + std::string(group.folder);
@@ -93,7 +94,7 @@ void CopyGroup(cFiles& files, const cFileGroup& group, const std::string& source
     std::error_code error;
     if (!names.empty()) fs::create_directories(NativePath(to), error);
     for (const std::string& name : names) {
-        if (files.FileExists(to + name)) continue;
+        if (!IsMissing(files, to + name)) continue;
         SkipFailure([&] { ReplaceFile(files, to + name, files.ReadFile(from + name)); });
     }
 }
