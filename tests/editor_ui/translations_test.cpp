@@ -267,5 +267,47 @@ TEST(AccessKeys, ReachOneThingEachInEveryLanguage) {
     }
 }
 
+// --- keys of entries
+
+using KeyOwners = std::map<QString, std::set<QString>>;
+
+void AddKeysOf(const QAction& action, KeyOwners& owners) {
+    for (const QKeySequence& key : action.shortcuts()) owners[key.toString()].insert(action.objectName());
+}
+
+// What the keys start while a widget has the keyboard: the entries of the window, and those of all that the
+// widget lies in.
+KeyOwners KeysAt(const QWidget& widget) {
+    KeyOwners owners;
+    for (const QAction* action : widget.window()->findChildren<QAction*>()) {
+        if (action->shortcutContext() == Qt::WindowShortcut) AddKeysOf(*action, owners);
+    }
+    for (const QWidget* around = &widget; around != nullptr; around = around->parentWidget()) {
+        for (const QAction* action : around->actions()) AddKeysOf(*action, owners);
+    }
+    return owners;
+}
+
+// A key of two entries starts neither of them.
+std::set<std::string> KeysOfTwo(QWidget& page) {
+    std::set<std::string> clashes;
+    for (const QWidget* widget : page.findChildren<QWidget*>()) {
+        if (widget->focusPolicy() == Qt::NoFocus) continue;
+        for (const auto& [key, owners] : KeysAt(*widget)) {
+            if (owners.size() < 2) continue;
+            const QStringList names(owners.begin(), owners.end());
+            clashes.insert((key + ": " + names.join(", ")).toStdString());
+        }
+    }
+    return clashes;
+}
+
+TEST(KeysOfEntries, StartOneThingEachWhereverTheKeyboardIs) {
+    cEditorPages pages("044");
+    pages.ForEach([&](const std::string& name) {
+        EXPECT_EQ(KeysOfTwo(pages.Window()), std::set<std::string>{}) << name;
+    });
+}
+
 }  // namespace
 }  // namespace vigrel::testing

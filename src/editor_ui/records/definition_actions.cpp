@@ -21,7 +21,7 @@ QAction* MakeAction(QWidget& page, const char* objectName, const QString& text, 
 cDefinitionActions::cDefinitionActions(QWidget& page)
     : m_New(MakeAction(page, "Action_New", tr("&New"), tr("Make a new one"), QKeySequence("Ctrl+Ins"))),
       m_Copy(MakeAction(page, "Action_Copy", tr("&Copy"), tr("Make a copy of the chosen one"),
-                        QKeySequence("Ctrl+D"))),
+                        QKeySequence("Ctrl+Shift+D"))),
       m_Delete(MakeAction(page, "Action_Delete", tr("&Delete"), tr("Delete the chosen one"),
                           QKeySequence("Ctrl+Del"))),
       m_Save(MakeAction(page, "Action_Save", tr("Sa&ve this"), tr("Save the chosen one; Ctrl+S saves all"),
