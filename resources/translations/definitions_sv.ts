@@ -2090,6 +2090,13 @@ Programmets mapp: %3</translation>
     </message>
 </context>
 <context>
+    <name>vigrel::cTableEditor</name>
+    <message>
+        <source>Row %1, %2: %3</source>
+        <translation>Rad %1, %2: %3</translation>
+    </message>
+</context>
+<context>
     <name>vigrel::cTextEdit</name>
     <message>
         <source>Only letters and signs of Western European languages can be stored.</source>

@@ -222,14 +222,79 @@ TEST_F(ColourRulesOfAlarms, AStationWithoutAnySaysSo) {
     EXPECT_EQ(Alarms().rowCount(), 0);
 }
 
-TEST_F(ColourRulesPage, AWrongFieldIsToldAndKeepsItsValue) {
+TEST_F(ColourRulesPage, AWrongFieldStaysAsTypedAndStandsInTheWayOfSaving) {
     Put("ColourRules.txt", kContent);
     Rules().item(0, 1)->setText("300");
-    EXPECT_EQ(Asked(), "failure: categories: \"300\" is not a number from 0 to 255\n");
-    EXPECT_EQ(Rules().item(0, 1)->text().toStdString(), "5;7-9");
+    EXPECT_EQ(LabelOf(Page(), "Label_CellProblem"),
+              "Row 1, Categories: categories: \"300\" is not a number from 0 to 255");
+    EXPECT_EQ(Rules().item(0, 1)->text(), "300");
+    EXPECT_FALSE(Rules().item(0, 1)->icon().isNull());
+    EXPECT_EQ(Rules().item(0, 1)->toolTip(), "categories: \"300\" is not a number from 0 to 255");
+    EXPECT_TRUE(Page().IsDirty());
+    EXPECT_FALSE(Page().Save());
+    EXPECT_EQ(
+        Asked(),
+        "failure: ColourRules.txt can't be saved.\n\nRow 1, Categories: categories: \"300\" is not a number "
+        "from 0 to 255\n");
+    // The cell is open, with what was typed.
+    auto* field = qobject_cast<QLineEdit*>(Page().focusWidget());
+    ASSERT_NE(field, nullptr);
+    EXPECT_EQ(field->text(), "300");
+    field->selectAll();
+    QTest::keyClicks(field, "30");
+    QTest::keyClick(field, Qt::Key_Return);
+    // The table takes the text over with the next events.
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(Find<QLabel>(Page(), "Label_CellProblem")->isVisible());
+    EXPECT_TRUE(Rules().item(0, 1)->icon().isNull());
+    EXPECT_TRUE(Page().Save());
+    EXPECT_EQ(OnDisk("ColourRules.txt"), "# rules\r\nP* | 30 | * | 255,255,255 | 10,20,30 | 15\r\n");
+    EXPECT_EQ(Asked(), "");
+}
+
+// It goes with its rule, and undo takes back and gives again what was typed.
+TEST_F(ColourRulesPage, AWrongFieldGoesWithItsRule) {
+    Put("ColourRules.txt", "A | 1 | 1 | 0,0,0 | 1,1,1 | 0\r\nB | 2 | 2 | 0,0,0 | 1,1,1 | 0\r\n");
     Rules().item(0, 5)->setText("dark");
-    EXPECT_EQ(Rules().item(0, 5)->text().toStdString(), "15");
+    Rules().item(0, 4)->setText("red");
+    Rules().setCurrentCell(0, 0);
+    Press(Page(), "Button_Down");
+    EXPECT_EQ(Rules().item(1, 5)->text(), "dark");
+    EXPECT_EQ(Rules().item(1, 4)->text(), "red");
+    EXPECT_EQ(Rules().item(0, 5)->text(), "0");
+    Rules().setCurrentCell(0, 0);
+    Press(Page(), "Button_Add");
+    EXPECT_EQ(Rules().item(2, 5)->text(), "dark");
+    Press(Page(), "Button_Remove");
+    EXPECT_EQ(Rules().item(1, 5)->text(), "dark");
+    Rules().item(1, 4)->setText("2,2,2");
+    EXPECT_EQ(Rules().item(1, 5)->text(), "dark");
+    QUndoStack& steps = *Page().UndoStack();
+    while (steps.canUndo()) steps.undo();
     EXPECT_FALSE(Page().IsDirty());
+    EXPECT_EQ(Rules().item(0, 5)->text(), "0");
+    EXPECT_FALSE(Find<QLabel>(Page(), "Label_CellProblem")->isVisible());
+    while (steps.canRedo()) steps.redo();
+    EXPECT_EQ(Rules().item(1, 5)->text(), "dark");
+    EXPECT_FALSE(Page().Save());
+}
+
+TEST_F(ColourRulesPage, UndoShowsTheRuleThatItChanges) {
+    std::string content;
+    for (int i = 0; i < 100; ++i) content += std::to_string(i) + " | 1 | 1 | 0,0,0 | 1,1,1 | 0\r\n";
+    Put("ColourRules.txt", content);
+    Rules().item(90, 1)->setText("7");
+    Rules().setCurrentCell(0, 0);
+    EXPECT_FALSE(Rules().visualItemRect(Rules().item(90, 1)).intersects(Rules().viewport()->rect()));
+    Page().UndoStack()->undo();
+    EXPECT_EQ(Rules().currentRow(), 90);
+    EXPECT_EQ(Rules().currentColumn(), 1);
+    EXPECT_TRUE(Rules().visualItemRect(Rules().item(90, 1)).intersects(Rules().viewport()->rect()));
+    Rules().setCurrentCell(50, 0);
+    Press(Page(), "Button_Remove");
+    Rules().setCurrentCell(0, 0);
+    Page().UndoStack()->undo();
+    EXPECT_EQ(Rules().currentRow(), 50);
 }
 
 TEST_F(ColourRulesPage, RulesAreMovedAndStepsUndone) {
@@ -244,6 +309,24 @@ TEST_F(ColourRulesPage, RulesAreMovedAndStepsUndone) {
     Page().UndoStack()->undo();
     EXPECT_EQ(Rules().item(0, 0)->text().toStdString(), "A");
     EXPECT_EQ(Rules().item(1, 0)->text().toStdString(), "B");
+}
+
+// A key of the menu doesn't leave the cell.
+TEST_F(ColourRulesPage, ACellThatIsStillOpenIsSavedWithTheRest) {
+    Put("ColourRules.txt", kContent);
+    Rules().setCurrentCell(0, 5);
+    Rules().setFocus();
+    QTest::keyClick(&Rules(), Qt::Key_F2);
+    QTest::keyClicks(Page().focusWidget(), "20");
+    ASSERT_FALSE(Page().IsDirty());
+    Page().FinishTyping();
+    EXPECT_TRUE(Page().IsDirty());
+    EXPECT_TRUE(Page().Save());
+    EXPECT_EQ(OnDisk("ColourRules.txt"), "# rules\r\nP* | 5;7-9 | * | 255,255,255 | 10,20,30 | 20\r\n");
+    // The keyboard goes on in the table, where nothing is left open.
+    EXPECT_EQ(Page().focusWidget(), &Rules());
+    Page().FinishTyping();
+    EXPECT_EQ(Page().UndoStack()->count(), 1);
 }
 
 TEST_F(ColourRulesPage, LinesThatWereNotUnderstoodAreToldAndStayInTheFile) {

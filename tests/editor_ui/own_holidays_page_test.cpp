@@ -24,6 +24,13 @@ class OwnHolidaysPage : public ::testing::Test, protected cEditorBench {
     QTableWidget& Table() { return Find<QTableWidget>(Page(), "List_OwnHolidays"); }
     std::string Cell(int row, int column) { return Table().item(row, column)->text().toStdString(); }
     void Type(int row, int column, const char* text) { Table().item(row, column)->setText(text); }
+    // Types in a cell as a user does, and leaves it open.
+    void OpenCell(int row, int column, const char* text) {
+        Table().setCurrentCell(row, column);
+        Table().setFocus();
+        QTest::keyClick(&Table(), Qt::Key_F2);
+        QTest::keyClicks(Page().focusWidget(), text);
+    }
     std::string Row(int row) {
         const bool every = Table().item(row, 2)->checkState() == Qt::Checked;
         return Cell(row, 0) + " " + Cell(row, 1) + (every ? " every year " : " once ") + Cell(row, 3);
@@ -64,16 +71,57 @@ TEST_F(OwnHolidaysPage, EveryYearAndOnceAreATickApart) {
     EXPECT_EQ(Asked(), "");
 }
 
-TEST_F(OwnHolidaysPage, AWrongFieldIsToldAndKeepsItsValue) {
+TEST_F(OwnHolidaysPage, AWrongFieldStaysAsTypedAndStandsInTheWayOfSaving) {
     m_Files.Put(kPath, "12-24 | Eve\r\n");
+    const auto problem = [this] { return Find<QLabel>(Page(), "Label_CellProblem").text().toStdString(); };
     Type(0, 0, "24.12.");
-    EXPECT_EQ(Asked(), "failure: \"24.12.\" is no day such as 2026-12-24, or 12-24 for every year\n");
+    EXPECT_EQ(problem(),
+              "Row 1, First day: \"24.12.\" is no day such as 2026-12-24, or 12-24 for every year");
     Type(0, 3, "");
-    EXPECT_EQ(Asked(), "failure: the name is empty\n");
+    EXPECT_TRUE(problem().ends_with("\nRow 1, Holiday: the name is empty")) << problem();
     Type(0, 3, "a|b");
-    EXPECT_EQ(Asked(), "failure: the name must not hold \"|\"\n");
-    EXPECT_EQ(Row(0), "12-24  every year Eve");
-    EXPECT_FALSE(Page().IsDirty());
+    EXPECT_TRUE(problem().ends_with("\nRow 1, Holiday: the name must not hold \"|\"")) << problem();
+    EXPECT_EQ(Row(0), "24.12.  every year a|b");
+    EXPECT_EQ(Asked(), "");
+    Choose(*m_Window, "Menu_Close");
+    EXPECT_EQ(Asked(), "save OwnHolidays.txt\n");
+    EXPECT_FALSE(Page().Save());
+    EXPECT_TRUE(Asked().starts_with("failure: OwnHolidays.txt can't be saved.\n\nRow 1, First day: "));
+    Type(0, 0, "12-23");
+    EXPECT_EQ(problem(), "Row 1, Holiday: the name must not hold \"|\"");
+    Type(0, 3, "Eves");
+    EXPECT_TRUE(Page().Save());
+    EXPECT_EQ(m_Files.ReadFile(kPath), "12-23 | Eves\r\n");
+}
+
+// What is wrong beside one day may be right beside the next that is typed.
+TEST_F(OwnHolidaysPage, DaysAreTypedInAnyOrder) {
+    m_Files.Put(kPath, "2026-12-24..2026-12-26 | Break\r\n");
+    Type(0, 0, "2027-12-24");
+    EXPECT_TRUE(Find<QLabel>(Page(), "Label_CellProblem").isVisible());
+    Type(0, 3, "Winter break");
+    EXPECT_EQ(Row(0), "2027-12-24 2026-12-26 once Winter break");
+    Type(0, 1, "2027-12-31");
+    EXPECT_FALSE(Find<QLabel>(Page(), "Label_CellProblem").isVisible());
+    EXPECT_TRUE(Page().Save());
+    EXPECT_EQ(m_Files.ReadFile(kPath), "2027-12-24..2027-12-31 | Winter break\r\n");
+}
+
+TEST_F(OwnHolidaysPage, ACellThatIsStillOpenIsSavedAndAskedAbout) {
+    m_Files.Put(kPath, "12-24 | Eve\r\n");
+    OpenCell(0, 3, "Christmas");
+    Choose(*m_Window, "Menu_Save");
+    EXPECT_EQ(m_Files.ReadFile(kPath), "12-24 | Christmas\r\n");
+    OpenCell(0, 3, "Yule");
+    Choose(*m_Window, "Menu_Close");
+    EXPECT_EQ(Asked(), "save OwnHolidays.txt\n");
+    EXPECT_EQ(Cell(0, 3), "Yule");
+    OpenCell(0, 3, "Noel");
+    EXPECT_FALSE(m_Window->close());
+    EXPECT_EQ(Asked(), "save OwnHolidays.txt\n");
+    OpenCell(0, 3, "Eve");
+    Choose(*m_Window, "Menu_Undo");
+    EXPECT_EQ(Cell(0, 3), "Noel");
 }
 
 TEST_F(OwnHolidaysPage, LinesThatWereNotUnderstoodAreToldAndStayInTheFile) {

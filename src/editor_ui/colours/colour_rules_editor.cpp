@@ -3,13 +3,9 @@
 #include <QAction>
 #include <QApplication>
 #include <QColorDialog>
-#include <QHBoxLayout>
 #include <QHeaderView>
-#include <QSignalBlocker>
 #include <QSplitter>
 #include <QStyle>
-#include <QTableWidget>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "adapters/qt/qt_text.h"
@@ -18,9 +14,7 @@
 #include "common/numbers.h"
 #include "editor_ui/colours/colour_preview.h"
 #include "editor_ui/colours/swatch.h"
-#include "editor_ui/pages/editor_action.h"
 #include "editor_ui/pages/line_problems_label.h"
-#include "editor_ui/pages/reasons.h"
 #include "editor_ui/pages/remembered_sizes.h"
 #include "windows/colours.h"
 
@@ -96,23 +90,16 @@ cColourRule NewRule() {
 }  // namespace
 
 cColourRulesEditor::cColourRulesEditor(cEditorServices& services, QWidget* parent)
-    : cContentEditor(parent),
+    : cTableEditor("List_Rules",
+                   {tr("Tag"), tr("Categories"), tr("Areas"), tr("Text colour"), tr("Background"), tr("Fade"),
+                    tr("Contrast")},
+                   parent),
       m_Services(services),
-      m_Table(new QTableWidget(0, Columns)),
       m_Problems(new cLineProblemsLabel) {
     setObjectName("Editor_ColourRules");
-    m_Actions = {
-        MakeAction("Action_Add", tr("&Add rule"), "Ctrl+Ins", &cColourRulesEditor::Add),
-        m_Remove = MakeAction("Action_Remove", tr("&Delete rule"), "Ctrl+Del", &cColourRulesEditor::Remove),
-        m_Up = MakeAction("Action_Up", tr("&Move up"), "Ctrl+Up", &cColourRulesEditor::MoveUp),
-        m_Down = MakeAction("Action_Down", tr("Move d&own"), "Ctrl+Down", &cColourRulesEditor::MoveDown),
-        m_Choose =
-            MakeAction("Action_Colour", tr("&Choose colour..."), "", &cColourRulesEditor::ChooseColour),
-        m_Readable = MakeAction("Action_Readable", tr("Readable te&xt colours"), "Ctrl+Shift+L",
-                                &cColourRulesEditor::MakeReadable)};
-    m_Readable->setToolTip(tr("Gives the text of these rules the nearest colour that can be read"));
+    MakeActions();
     m_Preview = new cColourPreview(services, *m_Readable);
-    MakeTable();
+    SetUpTable();
     auto* splitter = new QSplitter;
     splitter->addWidget(MakeTablePanel());
     splitter->addWidget(m_Preview);
@@ -128,23 +115,24 @@ cColourRulesEditor::cColourRulesEditor(cEditorServices& services, QWidget* paren
     Fill();
 }
 
-QAction* cColourRulesEditor::MakeAction(const char* objectName, const QString& text, const QString& keys,
-                                        void (cColourRulesEditor::*press)()) {
-    QAction* action = MakeEditorAction(*this, objectName, text, keys);
-    connect(action, &QAction::triggered, this, press);
-    return action;
+void cColourRulesEditor::MakeActions() {
+    m_Actions = {
+        MakeAction("Action_Add", tr("&Add rule"), "Ctrl+Ins", [this] { Add(); }),
+        m_Remove = MakeAction("Action_Remove", tr("&Delete rule"), "Ctrl+Del", [this] { Remove(); }),
+        m_Up = MakeAction("Action_Up", tr("&Move up"), "Ctrl+Up", [this] { Move(-1); }),
+        m_Down = MakeAction("Action_Down", tr("Move d&own"), "Ctrl+Down", [this] { Move(1); }),
+        m_Choose = MakeAction("Action_Colour", tr("&Choose colour..."), "", [this] { ChooseColour(); }),
+        m_Readable = MakeAction("Action_Readable", tr("Readable te&xt colours"), "Ctrl+Shift+L",
+                                [this] { MakeReadable(); })};
+    m_Readable->setToolTip(tr("Gives the text of these rules the nearest colour that can be read"));
 }
 
 QList<QAction*> cColourRulesEditor::EditActions() const {
     return m_Actions;
 }
 
-void cColourRulesEditor::MakeTable() {
-    setFocusProxy(m_Table);
-    m_Table->setObjectName("List_Rules");
-    m_Table->setAccessibleName(tr("Colour rules, tried from the first to the last"));
-    m_Table->setHorizontalHeaderLabels({tr("Tag"), tr("Categories"), tr("Areas"), tr("Text colour"),
-                                        tr("Background"), tr("Fade"), tr("Contrast")});
+void cColourRulesEditor::SetUpTable() {
+    Table().setAccessibleName(tr("Colour rules, tried from the first to the last"));
     const char* const tips[Columns] = {
         QT_TR_NOOP("A pattern: \"?\" is one character, \"*\" any run; case counts"),
         QT_TR_NOOP("Numbers and ranges from 0 to 255, such as 5;7-9, or * for all"),
@@ -154,9 +142,9 @@ void cColourRulesEditor::MakeTable() {
         QT_TR_NOOP("By how much every other row is darker, from 0 to 255"),
         QT_TR_NOOP("The least of text and ground: 4.5 is readable, 21 black on white")};
     for (int column = 0; column < Columns; ++column) {
-        m_Table->horizontalHeaderItem(column)->setToolTip(tr(tips[column]));
+        Table().horizontalHeaderItem(column)->setToolTip(tr(tips[column]));
     }
-    QHeaderView& header = *m_Table->horizontalHeader();
+    QHeaderView& header = *Table().horizontalHeader();
     for (const int column : {Categories, Areas}) {
         header.resizeSection(column, std::max(header.sectionSize(column), header.sectionSizeHint(column)));
     }
@@ -166,126 +154,103 @@ void cColourRulesEditor::MakeTable() {
     for (const int column : {ForeColor, BackColor, Fade, Readability}) {
         header.setSectionResizeMode(column, QHeaderView::ResizeToContents);
     }
-    m_Table->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_Table->setTabKeyNavigation(false);
-    connect(m_Table, &QTableWidget::itemChanged, this,
-            [this](const QTableWidgetItem* item) { TakeItem(*item); });
-    connect(m_Table, &QTableWidget::currentCellChanged, this, [this] { UpdateActions(); });
 }
 
 QWidget* cColourRulesEditor::MakeTablePanel() {
     auto* panel = new QWidget;
-    auto* buttons = new QHBoxLayout;
-    for (QAction* action : m_Actions) {
-        // That one stands beside what is hard to read.
-        if (action == m_Readable) continue;
-        auto* button = new QToolButton;
-        button->setDefaultAction(action);
-        button->setFocusPolicy(Qt::TabFocus);
-        button->setObjectName(QString(action->objectName()).replace("Action_", "Button_"));
-        buttons->addWidget(button);
-    }
-    buttons->addStretch(1);
+    // That one stands beside what is hard to read.
+    QList<QAction*> actions = m_Actions;
+    actions.removeOne(m_Readable);
     auto* layout = new QVBoxLayout(panel);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_Table, 1);
-    layout->addLayout(buttons);
+    layout->addWidget(&Table(), 1);
+    layout->addWidget(ProblemLabel());
+    layout->addWidget(MakeButtons(actions));
     return panel;
-}
-
-void cColourRulesEditor::Fill() {
-    const QSignalBlocker quiet(m_Table);
-    m_Table->setRowCount(static_cast<int>(m_Rules.m_Rules.size()));
-    for (int row = 0; row < m_Table->rowCount(); ++row) FillRow(row);
-    std::vector<cUserColor> colors;
-    for (const cColourRule& rule : m_Rules.m_Rules) colors.push_back(MakeUserColor(rule));
-    m_Preview->SetRules(std::move(colors));
-    UpdateActions();
 }
 
 void cColourRulesEditor::FillRow(int row) {
     const cColourRule& rule = m_Rules.m_Rules[static_cast<std::size_t>(row)];
     const cUserColor color = MakeUserColor(rule);
-    for (int column = 0; column < Columns; ++column) {
-        // An item that tells of its own change must not be replaced meanwhile.
-        if (m_Table->item(row, column) == nullptr) m_Table->setItem(row, column, new QTableWidgetItem);
-        QTableWidgetItem* item = m_Table->item(row, column);
-        if (column == Readability) {
-            ShowContrast(*item, LeastContrast(color));
-            continue;
-        }
-        item->setText(ToQString(FieldText(rule, column)));
-        if (column == ForeColor) ShowColour(*item, ColourFromNumber(color.m_ForeColor));
-        if (column == BackColor) ShowColour(*item, ColourFromNumber(color.m_BackColor));
+    for (int column = 0; column < Readability; ++column) {
+        Table().item(row, column)->setText(ToQString(FieldText(rule, column)));
     }
+    ShowColour(*Table().item(row, ForeColor), ColourFromNumber(color.m_ForeColor));
+    ShowColour(*Table().item(row, BackColor), ColourFromNumber(color.m_BackColor));
+    ShowContrast(*Table().item(row, Readability), LeastContrast(color));
+}
+
+void cColourRulesEditor::Filled() {
+    std::vector<cUserColor> colors;
+    colors.reserve(m_Rules.m_Rules.size());
+    for (const cColourRule& rule : m_Rules.m_Rules) colors.push_back(MakeUserColor(rule));
+    m_Preview->SetRules(std::move(colors));
 }
 
 void cColourRulesEditor::TakeItem(const QTableWidgetItem& item) {
-    const auto row = static_cast<std::size_t>(item.row());
-    cColourRule rule = m_Rules.m_Rules[row];
-    const auto failure = CatchFailure([&] {
-        if (!FitsCodePage(item.text())) {
-            throw cFailure(eFailure::InvalidCall,
-                           Pattern("Reasons", "the text has characters that can't be stored"));
-        }
-        SetField(rule, item.column(), FromQString(item.text().trimmed()));
-        MakeUserColor(rule);
-    });
-    if (failure) {
-        Fill();
-        m_Services.m_Prompts.ShowFailure(this, Told(failure->Description()));
-        return;
-    }
-    const int column = item.column();
+    const auto set = [](cColourRule& rule, int column, const QString& text) {
+        SetField(rule, column, CellText(text));
+    };
+    const auto check = [](const cColourRule& rule) { MakeUserColor(rule); };
+    const int row = item.row(), column = item.column();
+    const QString text = item.text();
     Change(
-        tr("Change rule"), [&] { m_Rules.m_Rules[row] = rule; }, item.row());
-    m_Table->setCurrentCell(static_cast<int>(row), column);
-}
-
-void cColourRulesEditor::Change(const QString& step, const std::function<void()>& change, int row) {
-    const int column = std::max(m_Table->currentColumn(), 0);
-    Edit(step, change);
-    Fill();
-    m_Table->setCurrentCell(std::min(row, m_Table->rowCount() - 1), column);
-    UpdateActions();
+        tr("Change rule"),
+        [&] {
+            cColourRule& rule = m_Rules.m_Rules[static_cast<std::size_t>(row)];
+            rule = Typed().Taken(rule, static_cast<std::size_t>(row), column, text, set, check);
+        },
+        row);
+    Table().setCurrentCell(row, column);
 }
 
 void cColourRulesEditor::UpdateActions() {
-    const int row = m_Table->currentRow();
-    const int column = m_Table->currentColumn();
+    const int row = Table().currentRow();
+    const int column = Table().currentColumn();
     m_Remove->setEnabled(row >= 0);
     m_Readable->setEnabled(std::any_of(
         m_Rules.m_Rules.begin(), m_Rules.m_Rules.end(),
         [](const cColourRule& rule) { return LeastContrast(MakeUserColor(rule)) < kReadableContrast; }));
     m_Up->setEnabled(row > 0);
-    m_Down->setEnabled(row >= 0 && row + 1 < m_Table->rowCount());
+    m_Down->setEnabled(row >= 0 && row + 1 < Table().rowCount());
     m_Choose->setEnabled(row >= 0 && (column == ForeColor || column == BackColor));
 }
 
 void cColourRulesEditor::Add() {
-    const int row = m_Table->currentRow() + 1;
+    const int row = Table().currentRow() + 1;
     Change(
-        tr("Add rule"), [&] { m_Rules.m_Rules.insert(m_Rules.m_Rules.begin() + row, NewRule()); }, row);
-    m_Table->setCurrentCell(row, Tag);
-    m_Table->setFocus();
+        tr("Add rule"),
+        [&] {
+            m_Rules.m_Rules.insert(m_Rules.m_Rules.begin() + row, NewRule());
+            Typed().Insert(static_cast<std::size_t>(row));
+        },
+        row);
+    Table().setCurrentCell(row, Tag);
+    Table().setFocus();
 }
 
 void cColourRulesEditor::Remove() {
-    const int row = m_Table->currentRow();
+    const int row = Table().currentRow();
     if (row < 0) return;
     Change(
-        tr("Delete rule"), [&] { m_Rules.Remove(static_cast<std::size_t>(row)); }, row);
+        tr("Delete rule"),
+        [&] {
+            m_Rules.Remove(static_cast<std::size_t>(row));
+            Typed().Remove(static_cast<std::size_t>(row));
+        },
+        row);
 }
 
 void cColourRulesEditor::Move(int by) {
-    const int row = m_Table->currentRow();
+    const int row = Table().currentRow();
     const int target = row + by;
-    if (row < 0 || target < 0 || target >= m_Table->rowCount()) return;
+    if (row < 0 || target < 0 || target >= Table().rowCount()) return;
     Change(
         tr("Move rule"),
         [&] {
             std::swap(m_Rules.m_Rules[static_cast<std::size_t>(row)],
                       m_Rules.m_Rules[static_cast<std::size_t>(target)]);
+            Typed().Swap(static_cast<std::size_t>(row), static_cast<std::size_t>(target));
         },
         target);
 }
@@ -303,11 +268,11 @@ void cColourRulesEditor::MakeReadable() {
                     FromQString(QString("%1,%2,%3").arg(better.red()).arg(better.green()).arg(better.blue()));
             }
         },
-        std::max(m_Table->currentRow(), 0));
+        std::max(Table().currentRow(), 0));
 }
 
 void cColourRulesEditor::ChooseColour() {
-    QTableWidgetItem* item = m_Table->currentItem();
+    QTableWidgetItem* item = Table().currentItem();
     if (item == nullptr) return;
     const QColor before = item->data(kColourRole).value<QColor>();
     const QColor chosen = QColorDialog::getColor(before, this, tr("Colour"));
@@ -322,8 +287,7 @@ void cColourRulesEditor::ReadFile(const std::string& path) {
         throw cFailure(eFailure::InputOutput, problems[0].description);
     }
     m_Problems->Show(kColourRulesFile, problems);
-    Fill();
-    if (m_Table->rowCount() > 0) m_Table->setCurrentCell(0, Tag);
+    FillAnew();
 }
 
 void cColourRulesEditor::WriteFile(const std::string& path) {
@@ -333,16 +297,7 @@ void cColourRulesEditor::WriteFile(const std::string& path) {
 bool cColourRulesEditor::IsInFile(const std::string& path, const std::string& state) const {
     cColourRules rules;
     rules.Load(m_Services.m_Files, path);
-    return rules.Text() == state;
-}
-
-std::string cColourRulesEditor::State() const {
-    return m_Rules.Text();
-}
-
-void cColourRulesEditor::Restore(const std::string& state) {
-    m_Rules.Parse(state);
-    Fill();
+    return cTypedState{{}, rules.Text()}.Text() == state;
 }
 
 }  // namespace vigrel

@@ -1,12 +1,40 @@
 #include "editor_ui/pages/editor_page.h"
 
+#include <QAbstractItemDelegate>
+#include <QAbstractItemView>
+#include <QAbstractSpinBox>
+#include <QComboBox>
 #include <QEvent>
 #include <QLineEdit>
 
 namespace vigrel {
+namespace {
+
+// The list or table in whose open cell a field stands; none for a field of a form.
+QAbstractItemView* ViewOfCell(const QWidget& field) {
+    QWidget* around = field.parentWidget();
+    if (around == nullptr) return nullptr;
+    auto* view = qobject_cast<QAbstractItemView*>(around->parentWidget());
+    return view != nullptr && view->viewport() == around ? view : nullptr;
+}
+
+// As the key Return does.
+void CloseCell(QAbstractItemView& view, QWidget& field) {
+    // One that is closed already goes only with the next events.
+    if (!field.isVisible()) return;
+    QAbstractItemDelegate& delegate = *view.itemDelegate();
+    emit delegate.commitData(&field);
+    emit delegate.closeEditor(&field);
+    view.setFocus();
+}
+
+}  // namespace
 
 void cEditorPage::FinishTyping() {
-    if (auto* field = qobject_cast<QLineEdit*>(focusWidget())) emit field->editingFinished();
+    auto* field = qobject_cast<QLineEdit*>(focusWidget());
+    if (field == nullptr) return;
+    if (QAbstractItemView* view = ViewOfCell(*field)) return CloseCell(*view, *field);
+    emit field->editingFinished();
 }
 
 void cEditorPage::showEvent(QShowEvent* event) {

@@ -23,8 +23,8 @@ class cEditorPage : public QWidget {
     // none.
     virtual QString Path() const;
     virtual bool IsDirty() const = 0;
-    // Takes over what stands in a field that still has the keyboard: a key of the menu doesn't leave the
-    // field.
+    // Takes over what stands in a field, or in an open cell of a table, that still has the keyboard: neither
+    // a key of the menu nor the menu itself leaves it.
     void FinishTyping();
     // False when nothing was saved; the operator has been told why, or has cancelled.
     virtual bool Save() = 0;

@@ -3,7 +3,6 @@
 #include <QString>
 #include <cstddef>
 #include <functional>
-#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -11,16 +10,9 @@
 
 #include "adapters/qt/qt_text.h"
 #include "definitions/definition_folder.h"
+#include "editor_ui/pages/typed_texts.h"
 
 namespace vigrel {
-
-// A text that stands in a field and is no value of it, and why. It belongs to its definition, whichever one
-// the form shows: as long as it stands there the definition differs from its file and can't be saved.
-struct cTypedText {
-    QString text, problem;
-    bool operator==(const cTypedText&) const = default;
-};
-using TypedTexts = std::map<QString, cTypedText>;  // by the field's object name
 
 // Why a definition can't be saved, and the field to mend; an empty text: it can.
 struct cFieldProblem {
