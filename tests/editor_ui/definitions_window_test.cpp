@@ -213,6 +213,34 @@ TEST_F(DefinitionsWindow, UndoIsThatOfThePageInFront) {
     EXPECT_FALSE(second.IsDirty());
 }
 
+// The menu leaves the keyboard in the field. What is typed there is a step, which is undone whole.
+TEST_F(DefinitionsWindow, UndoByTheMenuTakesBackATimeThatIsBeingTyped) {
+    m_Files.Put("/app/Profiles/Profile_0012.dat", Sample("profile_version_5.dat"));
+    m_Window->ShowProfiles();
+    QApplication::setActiveWindow(m_Window.get());
+    cEditorPage& page = *m_Window->CurrentPage();
+    Find<QTabWidget>(page, "Tabs_Profile").setCurrentIndex(3);
+    auto& view = Find<QWidget>(page, "Picture_TimeSchedule");
+    view.setFocus();
+    QTest::keyClick(&view, Qt::Key_Down);
+    QTest::keyClick(&view, Qt::Key_Insert);
+    auto& stop = Find<QLineEdit>(page, "Text_Schedule_Period_Stop");
+    const QString before = stop.text();
+    stop.setFocus();
+    stop.selectAll();
+    QTest::keyClicks(&stop, "2330");
+    Choose(*m_Window, "Menu_Undo");
+    QUndoStack& steps = *page.UndoStack();
+    EXPECT_EQ(steps.count(), 2);
+    EXPECT_EQ(steps.redoText().toStdString(), "typing times");
+    Choose(*m_Window, "Menu_Undo");
+    EXPECT_FALSE(page.IsDirty());
+    Choose(*m_Window, "Menu_Redo");
+    Choose(*m_Window, "Menu_Redo");
+    EXPECT_EQ(steps.index(), 2);
+    EXPECT_FALSE(steps.canRedo());
+}
+
 TEST_F(DefinitionsWindow, KeysTurnThePagesFromEveryField) {
     Choose(*m_Window, "Menu_NextPage");
     NewSchedule();

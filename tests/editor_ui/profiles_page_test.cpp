@@ -19,6 +19,7 @@
 #include "editor_ui/calendar/calendar_editor.h"
 #include "editor_ui/page_fixture.h"
 #include "editor_ui/pages/file_document.h"
+#include "schedule/schedule_builder.h"
 
 namespace vigrel::testing {
 namespace {
@@ -63,6 +64,42 @@ class ProfilesPage : public PageTest {
         QTest::mouseClick(view, Qt::LeftButton, {}, QPoint(50, 32));
     }
     cProfile& Shown() { return m_Station.Profiles().At(static_cast<std::size_t>(Page().Chosen())); }
+    // Gives the shown profile a working week, saves it, and chooses Monday's period, 07:00 to 16:00.
+    void ChooseMonday() {
+        ShowTab(3);
+        Shown().m_TimeSchedule = std::make_unique<cTimeSchedule>();
+        Shown().m_TimeSchedule->SetDefaultPeriod();
+        ASSERT_TRUE(m_Station.Profiles().Save(static_cast<std::size_t>(Page().Chosen())));
+        Page().Choose(Page().Chosen());
+        QApplication::setActiveWindow(&Page());
+        auto* view = Find<QWidget>(Page(), "Picture_TimeSchedule");
+        view->setFocus();
+        for (int i = 0; i < 7; ++i) QTest::keyClick(view, Qt::Key_Up);
+        ASSERT_EQ(TextOf(Page(), "Text_Schedule_Period_Stop"), "16:00");
+    }
+    // Leaves the field with what was typed.
+    void TypeStop(const QString& text) {
+        Find<QLineEdit>(Page(), "Text_Schedule_Period_Stop")->setFocus();
+        Type(Page(), "Text_Schedule_Period_Stop", text);
+    }
+    // As a user does, by the mouse.
+    void ChooseInList(int row) {
+        auto* list = Find<QAbstractItemView>(Page(), "List_Definitions");
+        const QAbstractItemModel& shown = *list->model();
+        list->setFocus(Qt::MouseFocusReason);
+        for (int i = 0; i < shown.rowCount(); ++i) {
+            const QString number = shown.index(i, 2).data().toString();
+            const bool isWanted = m_Station.Profiles().At(static_cast<std::size_t>(row)).m_DiskIdentity ==
+                                  static_cast<std::int16_t>(number.toInt());
+            if (!isWanted) continue;
+            QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                              list->visualRect(shown.index(i, 0)).center());
+        }
+        ASSERT_EQ(Page().Chosen(), row);
+    }
+    std::string Monday(std::size_t position) {
+        return Periods(*m_Station.Profiles().At(position).m_TimeSchedule, 0);
+    }
 
     std::unique_ptr<cProfilesPage> m_Page;
 };
@@ -224,25 +261,136 @@ TEST_F(ProfilesPage, EveryEditIsUndoneWhereItWasMade) {
     EXPECT_FALSE(Page().IsDirty());
 }
 
-TEST_F(ProfilesPage, ATimeThatIsNoneStandsInTheWayOfSaving) {
-    ShowTab(3);
-    auto* view = Find<QWidget>(Page(), "Picture_TimeSchedule");
-    QTest::keyClick(view, Qt::Key_Down);
-    QTest::keyClick(view, Qt::Key_Insert);
+// It stays with its period and profile as typed, whatever is chosen next.
+TEST_F(ProfilesPage, ATimeThatIsNoneStandsInTheWayOfSavingWhateverIsShown) {
+    m_Random.m_Values = {0};
+    ChooseMonday();
+    Press(Page(), "Button_New");
     ASSERT_TRUE(Page().Save());
-    auto* stop = Find<QLineEdit>(Page(), "Text_Schedule_Period_Stop");
-    ASSERT_TRUE(stop->isEnabled());
-    Type(Page(), "Text_Schedule_Period_Stop", "25:30");
-    QTest::keyClick(stop, Qt::Key_Return);
+    ChooseInList(0);
+    ChooseMonday();
+    TypeStop("25:30");
+    auto* view = Find<QWidget>(Page(), "Picture_TimeSchedule");
+    view->setFocus();
+    EXPECT_EQ(LabelOf(Page(), "Label_Schedule_Problem"), "Stop: \"25:30\" lies behind 24:00.");
+    QTest::keyClick(view, Qt::Key_Down);
+    EXPECT_EQ(TextOf(Page(), "Text_Schedule_Period_Stop"), "16:00");
+    EXPECT_EQ(LabelOf(Page(), "Label_Schedule_Problem"), "");
+    QTest::keyClick(view, Qt::Key_Up);
+    EXPECT_EQ(TextOf(Page(), "Text_Schedule_Period_Stop"), "25:30");
+    QTest::keyClick(view, Qt::Key_Down);
+    ChooseInList(1);
+    EXPECT_EQ(LabelOf(Page(), "Label_Schedule_Problem"), "");
+    EXPECT_EQ(Rows(Page()),
+              "New profile |  | 0001\nNight * | Fire, *, \xC3\x96"
+              "1 | 0012\n");
     EXPECT_TRUE(Page().IsDirty());
     ShowTab(0);
     EXPECT_FALSE(Page().Save());
-    EXPECT_NE(Asked().find("Stop: \"25:30\" lies behind 24:00."), std::string::npos);
+    EXPECT_EQ(Asked(), "failure: \"Night\" can't be saved.\n\nStop: \"25:30\" lies behind 24:00.\n");
+    EXPECT_EQ(Page().Chosen(), 0);
     EXPECT_EQ(Find<QTabWidget>(Page(), "Tabs_Profile")->currentIndex(), 3);
-    // It doesn't go over to another profile.
-    Press(Page(), "Button_Copy");
+    auto* stop = Find<QLineEdit>(Page(), "Text_Schedule_Period_Stop");
+    EXPECT_TRUE(stop->hasFocus());
+    EXPECT_EQ(stop->text(), "25:30");
+    EXPECT_EQ(stop->selectedText(), "25:30");
+    QTest::keyClicks(stop, "1730");
+    QTest::keyClick(stop, Qt::Key_Return);
     EXPECT_EQ(LabelOf(Page(), "Label_Schedule_Problem"), "");
     EXPECT_TRUE(Page().Save());
+    EXPECT_EQ(Monday(0), "420-1050");
+}
+
+TEST_F(ProfilesPage, ATimeThatIsNoneIsAStepAndCanBeGivenUp) {
+    ChooseMonday();
+    TypeStop("25:30");
+    auto* stop = Find<QLineEdit>(Page(), "Text_Schedule_Period_Stop");
+    QTest::keyClick(stop, Qt::Key_Return);
+    // A copy has it as well.
+    Press(Page(), "Button_Copy");
+    EXPECT_EQ(TextOf(Page(), "Text_Schedule_Period_Stop"), "25:30");
+    EXPECT_FALSE(Page().Save());
+    QUndoStack& steps = *Page().UndoStack();
+    EXPECT_EQ(steps.count(), 2);
+    steps.undo();
+    EXPECT_EQ(steps.undoText().toStdString(), "typing times");
+    ShowTab(0);
+    steps.undo();
+    EXPECT_EQ(Find<QTabWidget>(Page(), "Tabs_Profile")->currentIndex(), 3);
+    EXPECT_EQ(stop->text(), "16:00");
+    EXPECT_FALSE(Page().IsDirty());
+    steps.redo();
+    EXPECT_EQ(stop->text(), "25:30");
+    Press(Page(), "Button_Revert");
+    EXPECT_FALSE(Page().IsDirty());
+    EXPECT_EQ(LabelOf(Page(), "Label_Schedule_Problem"), "");
+    // Back it comes with its period, and goes when that does.
+    steps.undo();
+    EXPECT_TRUE(Page().IsDirty());
+    auto* view = Find<QWidget>(Page(), "Picture_TimeSchedule");
+    ASSERT_EQ(stop->text(), "25:30");
+    view->setFocus();
+    QTest::keyClick(view, Qt::Key_Delete);
+    EXPECT_EQ(Monday(0), "");
+    EXPECT_TRUE(Page().Save());
+    steps.undo();
+    EXPECT_EQ(stop->text(), "25:30");
+    EXPECT_FALSE(Page().Save());
+    Asked();
+}
+
+// The rows of a new profile are numbered only as they are shown.
+TEST_F(ProfilesPage, WhatIsChosenAndTypedStaysWhileAnotherPageShows) {
+    Press(Page(), "Button_New");
+    ShowTab(3);
+    QApplication::setActiveWindow(&Page());
+    auto* view = Find<QWidget>(Page(), "Picture_TimeSchedule");
+    view->setFocus();
+    for (int i = 0; i < 7; ++i) QTest::keyClick(view, Qt::Key_Up);
+    for (int i = 0; i < 2; ++i) QTest::keyClick(view, Qt::Key_Down);
+    const std::string chosen = LabelOf(Page(), "Label_Schedule_Chosen");
+    ASSERT_TRUE(chosen.starts_with("Wednesday")) << chosen;
+    TypeStop("soon");
+    Page().hide();
+    Page().show();
+    EXPECT_EQ(LabelOf(Page(), "Label_Schedule_Chosen"), chosen);
+    EXPECT_EQ(TextOf(Page(), "Text_Schedule_Period_Stop"), "soon");
+    EXPECT_TRUE(Page().IsDirty());
+}
+
+// The buttons of the list, and the menu, leave the keyboard where it is.
+TEST_F(ProfilesPage, ATimeThatIsStillBeingTypedStaysWithItsProfile) {
+    ChooseMonday();
+    TypeStop("1730");
+    Press(Page(), "Button_Copy");
+    EXPECT_EQ(Monday(0), "420-1050");
+    EXPECT_EQ(Monday(1), "420-1050");
+    Page().Choose(0);
+    ChooseMonday();
+    TypeStop("18");
+    Press(Page(), "Button_New");
+    EXPECT_EQ(Monday(0), "420-1080");
+    EXPECT_EQ(Monday(2), "420-960");
+    Page().Choose(0);
+    ChooseMonday();
+    TypeStop("19");
+    Find<QAction>(Page(), "Action_Save")->trigger();
+    EXPECT_EQ(Monday(0), "420-1140");
+    EXPECT_FALSE(Shown().HasChangedSinceLastLoadFromDisk());
+    TypeStop("20");
+    Find<QAction>(Page(), "Action_Revert")->trigger();
+    EXPECT_EQ(Monday(0), "420-1140");
+    EXPECT_EQ(Asked(), "");
+}
+
+TEST_F(ProfilesPage, TheKeysOfTheScheduleAndOfTheListAreApart) {
+    ChooseMonday();
+    auto* view = Find<QWidget>(Page(), "Picture_TimeSchedule");
+    QTest::keyClick(view, Qt::Key_D, Qt::ControlModifier);
+    EXPECT_EQ(Monday(0), "0-1440");
+    EXPECT_EQ(m_Station.Profiles().Count(), 1u);
+    QTest::keyClick(view, Qt::Key_D, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(m_Station.Profiles().Count(), 2u);
 }
 
 TEST_F(ProfilesPage, AReceiverRenamedMeanwhileIsShownByItsNewName) {

@@ -401,6 +401,35 @@ TEST_F(SchedulePage, ATimeThatIsNoneIsRefusedWithAReasonAndStaysAsTyped) {
     EXPECT_EQ(Day(0), "420-990");
 }
 
+TEST_F(SchedulePage, ATimeThatIsNoneStaysWithItsPeriod) {
+    const auto& problem = Find<QLabel>(m_Page, "Label_Schedule_Problem");
+    Drag(View(), {At(0, 1100), At(0, 1200)});
+    m_Prompts.m_Texts = {"/app/Office.sch"};
+    ASSERT_TRUE(m_Page.Save());
+    Click(0, 600);
+    Type("Text_Schedule_Period_Stop", "25:30");
+    Click(0, 1150);
+    EXPECT_EQ(Text("Text_Schedule_Period_Stop"), "20:00");
+    EXPECT_EQ(problem.text(), "");
+    Type("Text_Schedule_Period_Start", "soon");
+    Click(6, 600);
+    m_Prompts.m_Asked.clear();
+    EXPECT_FALSE(m_Page.Save());
+    EXPECT_TRUE(m_Prompts.m_Asked.startsWith("failure: Office.sch can't be saved."));
+    EXPECT_EQ(problem.text(), "Start: \"soon\" is not a time such as 8, 0830 or 16:30.");
+    EXPECT_EQ(Text("Text_Schedule_Period_Start"), "soon");
+    Type("Text_Schedule_Period_Start", "18");
+    EXPECT_FALSE(m_Page.Save());
+    EXPECT_EQ(Text("Text_Schedule_Period_Stop"), "25:30");
+    // What is dragged has the times that it was dragged to.
+    Drag(View(), {At(0, 960), At(0, 1000)});
+    EXPECT_EQ(problem.text(), "");
+    EXPECT_TRUE(m_Page.Save());
+    while (m_Page.UndoStack()->canUndo()) Choose(*m_Window, "Menu_Undo");
+    EXPECT_EQ(Day(0), "420-960");
+    EXPECT_EQ(problem.text(), "");
+}
+
 TEST_F(SchedulePage, KeysThatMoveAnEndTakeNothingHalfTyped) {
     Click(0, 600);
     Type("Text_Schedule_Period_Stop", "25:30");

@@ -46,6 +46,7 @@ class cContentEditor : public QWidget {
   signals:
     // Not for what Restore does.
     void Edited(const vigrel::cEditStep& step);
+    // What is typed, or why it can't be taken over, is another.
     void ProblemChanged();
     // The user has given a day type another name or image.
     void DayTypesChanged();

@@ -119,7 +119,7 @@ void cDefinitionPage::ShowChosen() {
 void cDefinitionPage::ShowField(const QString& field) {
     // Of all without a name the toolkit would give the first.
     if (field.isEmpty()) return;
-    auto* widget = m_Form.widget->findChild<QWidget*>(field);
+    auto* widget = m_Form.widget->findChild<QWidget*>(m_Form.reveal ? m_Form.reveal(field) : field);
     if (widget == nullptr) return;
     for (QWidget* inner = widget; inner != m_Form.widget; inner = inner->parentWidget()) {
         auto* tabs = inner->parentWidget() == nullptr
@@ -133,7 +133,7 @@ void cDefinitionPage::ShowField(const QString& field) {
 
 void cDefinitionPage::UpdateActions() {
     const int chosen = Chosen();
-    m_Actions.Enable(chosen >= 0, chosen >= 0 && m_Model.HasChanges(chosen));
+    m_Actions.Enable(chosen >= 0, chosen >= 0 && (m_Model.HasChanges(chosen) || IsTyping()));
 }
 
 void cDefinitionPage::Changed() {
@@ -166,7 +166,10 @@ void cDefinitionPage::TellFailure(const QString& text) {
     m_Services.m_Prompts.ShowFailure(this, all);
 }
 
+// A button or an entry doesn't take the keyboard from a field: what is being typed there belongs to the one
+// that is chosen so far.
 void cDefinitionPage::New() {
+    FinishTyping();
     const int position = m_Model.Add(m_Words.newName);
     m_UndoStack.push(new cListCommand(*this, tr("adding \"%1\"").arg(NameAt(position)), position, nullptr));
     Choose(position);
@@ -175,6 +178,7 @@ void cDefinitionPage::New() {
 }
 
 void cDefinitionPage::Copy() {
+    FinishTyping();
     const int original = Chosen();
     if (original < 0) return;
     const int position = m_Model.AddCopy(original);
@@ -195,6 +199,7 @@ QString cDefinitionPage::DeleteQuestion(int position) const {
 }
 
 void cDefinitionPage::Delete() {
+    FinishTyping();
     const int position = Chosen();
     if (position < 0 || !m_Services.m_Prompts.AskYesNo(this, DeleteQuestion(position))) return;
     const QString name = NameAt(position);
@@ -220,18 +225,9 @@ RecordPtr cDefinitionPage::TakeOut(int position) {
     return record;
 }
 
-cFieldProblem cDefinitionPage::FormProblem() const {
-    return m_Form.problem ? m_Form.problem() : cFieldProblem{};
-}
-
-cFieldProblem cDefinitionPage::ProblemAt(int position) const {
-    const cFieldProblem typed = position == Chosen() ? FormProblem() : cFieldProblem{};
-    return typed.text.isEmpty() ? m_Source->Problem(static_cast<std::size_t>(position)) : typed;
-}
-
 // Leads to the field that stands in the way.
 bool cDefinitionPage::MaySave(int position) {
-    const cFieldProblem problem = ProblemAt(position);
+    const cFieldProblem problem = m_Source->Problem(static_cast<std::size_t>(position));
     if (problem.text.isEmpty()) return true;
     if (position != Chosen()) Choose(position);
     TellFailure(tr("\"%1\" can't be saved.\n\n%2").arg(NameAt(position), problem.text));
@@ -294,6 +290,7 @@ bool cDefinitionPage::SavePosition(int position) {
 }
 
 void cDefinitionPage::SaveChosen() {
+    FinishTyping();
     const int position = Chosen();
     if (position < 0 || !SavePosition(position)) return;
     // The form shows what the file has now.
@@ -305,7 +302,6 @@ void cDefinitionPage::SaveChosen() {
 }
 
 bool cDefinitionPage::Save() {
-    if (Chosen() >= 0 && !FormProblem().text.isEmpty() && !MaySave(Chosen())) return false;
     int saved = 0;
     for (int position = 0; position < m_Model.Definitions(); ++position) {
         if (!m_Model.HasChanges(position)) continue;
@@ -323,6 +319,7 @@ bool cDefinitionPage::Save() {
 }
 
 void cDefinitionPage::Revert() {
+    FinishTyping();
     if (Chosen() >= 0) RevertPosition(Chosen());
 }
 
@@ -350,6 +347,7 @@ void cDefinitionPage::RevertPosition(int position) {
 // Another editor may have worked on the folder while this one was away. What is changed here stays.
 void cDefinitionPage::TakeUpFolder() {
     if (!m_Source->HasNews()) return;
+    FinishTyping();
     const int chosen = Chosen();
     std::vector<cTakenUp> taken = m_Model.Rescan();
     Choose(chosen);
@@ -374,6 +372,8 @@ void cDefinitionPage::PushTakenUp(std::vector<cTakenUp> taken) {
 // --- steps
 
 void cDefinitionPage::RestoreRecord(int position, const cRecord& record, const QString& field) {
+    // What is half typed must not become a step in the middle of one.
+    m_Form.show(-1);
     m_Model.Restore(position, record);
     Choose(position);
     ShowField(field);

@@ -34,8 +34,11 @@ struct cPageForm {
     QWidget* widget;
     std::function<void(int position)> show;  // below 0: none
     QString nameField;                       // object name of the field that a new one begins in
-    // What stands in the form of the shown one and can't be taken over; may be missing.
-    std::function<cFieldProblem()> problem;
+    // Brings the part of a field in sight that only shows when it is chosen; the object name of its widget.
+    // May be missing.
+    std::function<QString(const QString& field)> reveal;
+    // Whether something is being typed that is not taken over yet; may be missing.
+    std::function<bool()> isTyping;
     // More that the user should know before one is deleted; may be missing.
     std::function<QString(int position)> deleteWarning;
 };
@@ -54,7 +57,7 @@ class cDefinitionPage : public cEditorPage, private cRecordSteps {
 
     QString Title() const override { return m_Words.title; }
     QString Path() const override { return m_Words.path; }
-    bool IsDirty() const override { return m_Model.HasChanges() || !FormProblem().text.isEmpty(); }
+    bool IsDirty() const override { return m_Model.HasChanges() || IsTyping(); }
     // Saves every changed definition; false, with the one chosen that can't be saved, when changes remain.
     bool Save() override;
     QUndoStack* UndoStack() override { return &m_UndoStack; }
@@ -70,6 +73,8 @@ class cDefinitionPage : public cEditorPage, private cRecordSteps {
     // The form has changed the chosen definition.
     void NoteEdit(const cFieldStep& step);
     void ShowChosen();
+    // What of the chosen one can be saved or given up is another.
+    void Changed();
     // Brings a field of the form into sight and the keyboard to it.
     void ShowField(const QString& field);
     void SeenAgain() override { TakeUpFolder(); }
@@ -83,8 +88,6 @@ class cDefinitionPage : public cEditorPage, private cRecordSteps {
     void Delete();
     void SaveChosen();
     void Revert();
-    cFieldProblem FormProblem() const;
-    cFieldProblem ProblemAt(int position) const;
     bool SavePosition(int position);
     bool MaySave(int position);
     bool MayReplaceChanged(int position);
@@ -102,7 +105,7 @@ class cDefinitionPage : public cEditorPage, private cRecordSteps {
     RecordPtr TakeOut(int position);
     QString DeleteQuestion(int position) const;
     void TellFailure(const QString& text);
-    void Changed();
+    bool IsTyping() const { return m_Form.isTyping && m_Form.isTyping(); }
     void UpdateActions();
 
     cEditorServices& m_Services;

@@ -4,7 +4,9 @@
 #include <QPlainTextEdit>
 #include <QSignalBlocker>
 #include <QSpinBox>
+#include <algorithm>
 #include <functional>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -106,6 +108,20 @@ class cFieldBinder {
         if (m_Shown == nullptr || m_Typed == nullptr) return;
         (*m_Typed)[step.field] = typed;
         if (OnEdited) OnEdited(step);
+    }
+    // What is typed in a part of the form, whose names all begin in one way.
+    TypedTexts TypedIn(const QString& prefix) const {
+        TypedTexts typed;
+        if (m_Typed == nullptr) return typed;
+        std::copy_if(m_Typed->begin(), m_Typed->end(), std::inserter(typed, typed.end()),
+                     [&](const auto& each) { return each.first.startsWith(prefix); });
+        return typed;
+    }
+    // Without a step of its own.
+    void SetTypedIn(const QString& prefix, const TypedTexts& typed) {
+        if (m_Typed == nullptr) return;
+        std::erase_if(*m_Typed, [&](const auto& each) { return each.first.startsWith(prefix); });
+        m_Typed->insert(typed.begin(), typed.end());
     }
     // Without a step of its own.
     void Forget(const QString& field) {

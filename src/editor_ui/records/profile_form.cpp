@@ -159,24 +159,39 @@ QWidget* cProfileForm::MakeSchedule() {
     return page;
 }
 
+// The profile's schedule as a state of the editor.
+std::string cProfileForm::ScheduleOf(const cProfile& profile) const {
+    cTypedState state{m_Binder.TypedIn(m_Schedule->TypedPrefix()), {}};
+    if (profile.m_TimeSchedule) profile.m_TimeSchedule->ComposePeriodArray(state.content);
+    return state.Text();
+}
+
 // The editor shows a copy of the profile's schedule.
 void cProfileForm::ShowSchedule(const cProfile& profile) {
-    std::string periods;
-    if (profile.m_TimeSchedule) profile.m_TimeSchedule->ComposePeriodArray(periods);
-    if (periods != m_Schedule->State()) m_Schedule->Restore(periods);
+    // What is chosen in it stays where nothing else is shown.
+    std::string state = ScheduleOf(profile);
+    if (state != m_ShownSchedule) m_Schedule->Restore(m_ShownSchedule = std::move(state));
     m_Schedule->ViewDayType().setChecked(profile.m_TimeSchedule_ViewDayType != 0);
     if (m_Calendar != nullptr) m_Calendar->Editor().RefreshSchedules();
 }
 
 void cProfileForm::TakeSchedule(const cEditStep& step) {
+    if (m_Binder.Shown() == nullptr) return;
+    const cTypedState after = cTypedState::Of(step.after);
+    m_Binder.SetTypedIn(m_Schedule->TypedPrefix(), after.typed);
     m_Binder.Edit<std::string>(
         [](cProfile& shown, const std::string& text) { shown.m_TimeSchedule->ExtractPeriodArray(text); },
-        step.after, {step.name, m_Schedule->objectName()});
+        after.content, {step.name, m_Schedule->objectName()});
+    m_ShownSchedule = ScheduleOf(*m_Binder.Shown());
     m_Calendar->Editor().RefreshSchedules();
 }
 
-cFieldProblem cProfileForm::Problem() const {
-    return {m_Schedule->Problem(), m_Schedule->ProblemField()};
+QString cProfileForm::Reveal(const QString& field) {
+    return field.startsWith(m_Schedule->TypedPrefix()) ? m_Schedule->ShowTypedTimes(field) : field;
+}
+
+bool cProfileForm::IsTyping() const {
+    return m_Schedule->IsTyping();
 }
 
 QWidget* cProfileForm::MakeCalendar() {
@@ -238,7 +253,7 @@ QWidget* cProfileForm::MakeSystems() {
 }
 
 void cProfileForm::Show(cProfile* profile, TypedTexts* typed) {
-    // A time that is half typed belongs to the profile that was shown so far, and can't go with it.
+    // What is being typed belongs to the profile that was shown so far, and doesn't go over to another.
     if (profile != m_Binder.Shown()) m_Schedule->DropTyping();
     m_Binder.Show(profile, typed);
     setEnabled(profile != nullptr);

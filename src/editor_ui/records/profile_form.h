@@ -32,8 +32,10 @@ class cProfileForm : public QWidget {
 
     // What is shown must outlive its showing; nullptr shows nothing.
     void Show(cProfile* profile, TypedTexts* typed);
-    // What was typed in the schedule's time fields and is no time.
-    cFieldProblem Problem() const;
+    // Brings the part of a field in sight that only shows when it is chosen; the object name of its widget.
+    QString Reveal(const QString& field);
+    // Whether a time is being typed.
+    bool IsTyping() const;
     // The schedule, and the station's calendar that the form shows with it.
     QList<cContentEditor*> Editors() const;
     cProfileCalendar& Calendar() { return *m_Calendar; }
@@ -57,6 +59,8 @@ class cProfileForm : public QWidget {
     cReceiverPicker* MakePicker(const char* objectName, const QString& name, std::string cProfile::*field);
     void ShowFile(const cProfile& profile);
     void ShowSchedule(const cProfile& profile);
+    void RefreshActiveDay();
+    std::string ScheduleOf(const cProfile& profile) const;
     void TakeSchedule(const cEditStep& step);
 
     cEditorServices& m_Editor;
@@ -64,6 +68,7 @@ class cProfileForm : public QWidget {
     QLabel* m_File = nullptr;
     QTabWidget* m_Tabs;
     cScheduleEditor* m_Schedule = nullptr;
+    std::string m_ShownSchedule;  // the state that the editor was set to, or told last
     cProfileCalendar* m_Calendar = nullptr;
     cActiveDayView* m_ActiveDay = nullptr;
 };

@@ -45,7 +45,8 @@ cProfilesPage::cProfilesPage(cEditorServices& services, cFolderSource<cProfile>*
     cPageForm form;
     form.widget = m_Form;
     form.nameField = "Text_ProfileName";
-    form.problem = [this] { return m_Form->Problem(); };
+    form.reveal = [this](const QString& field) { return m_Form->Reveal(field); };
+    form.isTyping = [this] { return m_Form->IsTyping(); };
     form.show = [this](int position) {
         const auto index = static_cast<std::size_t>(position);
         if (position < 0) return m_Form->Show(nullptr, nullptr);
@@ -72,7 +73,7 @@ void cProfilesPage::ConnectCalendar() {
     connect(&calendar, &cFileDocument::FileUsed, this, &cEditorPage::FileUsed);
     connect(&calendar, &cFileDocument::Message, this, &cEditorPage::Message);
     for (cContentEditor* editor : m_Form->Editors()) {
-        connect(editor, &cContentEditor::ProblemChanged, this, &cEditorPage::StateChanged);
+        connect(editor, &cContentEditor::ProblemChanged, this, [this] { Changed(); });
         connect(editor, &cContentEditor::Message, this, &cEditorPage::Message);
         connect(editor, &cContentEditor::DayTypesChanged, this, &cEditorPage::DayTypesChanged);
     }

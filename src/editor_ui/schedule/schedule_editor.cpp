@@ -90,6 +90,7 @@ QWidget* cScheduleEditor::MakePeriodBox() {
         // swap a start that lies behind the old stop.
         const QLineEdit* other = field == &m_Start ? &m_Stop : &m_Start;
         LeaveUndoToPage(*field, [this] { TakeBackTyping(); });
+        connect(field, &QLineEdit::textEdited, this, &cContentEditor::ProblemChanged);
         connect(field, &QLineEdit::editingFinished, this, [this, other] {
             if (!other->hasFocus()) TakeTimes();
         });
@@ -163,6 +164,7 @@ void cScheduleEditor::ReadFile(const std::string& path) {
     // A drag that is under way has lost its period.
     m_Schedule.MouseUp(*this, m_SchedulePaintObject, 1, 0, 0, 0);
     LoadScheduleFile(m_Services.m_Files, path, m_Schedule);
+    m_Typed.clear();
     m_Schedule.ClearSelection(*this);
     Recalculate();
 }
@@ -174,25 +176,28 @@ void cScheduleEditor::WriteFile(const std::string& path) {
 bool cScheduleEditor::IsInFile(const std::string& path, const std::string& state) const {
     cTimeSchedule schedule;
     LoadScheduleFile(m_Services.m_Files, path, schedule);
-    std::string periods;
-    schedule.ComposePeriodArray(periods);
-    return periods == state;
+    cTypedState held;
+    schedule.ComposePeriodArray(held.content);
+    return held.Text() == state;
 }
 
 std::string cScheduleEditor::State() const {
-    std::string state;
-    m_Schedule.ComposePeriodArray(state);
-    return state;
+    cTypedState state{TypedTimes(), {}};
+    m_Schedule.ComposePeriodArray(state.content);
+    return state.Text();
 }
 
 void cScheduleEditor::Restore(const std::string& state) {
     // A drag that is under way has lost its period.
     m_Schedule.MouseUp(*this, m_SchedulePaintObject, 1, 0, 0, 0);
     const std::vector<cDay> before = Days();
-    m_Schedule.ExtractPeriodArray(state);
+    const TypedTexts typedBefore = TypedTimes();
+    const cTypedState restored = cTypedState::Of(state);
+    m_Schedule.ExtractPeriodArray(restored.content);
+    m_Typed = restored.typed;
     m_Schedule.ClearSelection(*this);
     Recalculate();
-    ShowFirstDifference(before);
+    if (!ShowTypedDifference(typedBefore)) ShowFirstDifference(before);
 }
 
 std::vector<cScheduleEditor::cDay> cScheduleEditor::Days() const {
@@ -251,6 +256,7 @@ void cScheduleEditor::FillDayTypes() {
 // selected is what is seen, and the fields show its times.
 void cScheduleEditor::RefreshSelection() {
     if (m_Schedule.IsDragging()) return;
+    ForgetTypedOfOthers();
     const std::int32_t dayType = m_Schedule.SelectedDayType();
     const bool shown = dayType >= 0 && m_Schedule.GetActive(static_cast<std::int16_t>(dayType)) &&
                        RowOf(dayType) < ShownRows();
@@ -262,15 +268,14 @@ void cScheduleEditor::RefreshSelection() {
                       times.m_StartMinute == m_Shown.times.m_StartMinute &&
                       times.m_StopMinute == m_Shown.times.m_StopMinute;
     // A text that is being typed stays.
-    if (same) return;
-    if (!m_Problem.text().isEmpty()) emit Message(tr("Not taken over: %1").arg(m_Problem.text()));
-    ShowProblem({});
+    if (same) return ShowTyped();
     if (shown) {
         m_Schedule.Select(*this, dayType, period);
     } else {
         m_Schedule.ClearSelection(*this);
     }
     m_Shown = {m_Schedule.SelectedDayType(), m_Schedule.SelectedPeriod(), times};
+    ShowTyped();
 }
 
 // Which day the fields speak of, and which others follow it.

@@ -11,6 +11,7 @@
 #include "editor_ui/pages/content_editor.h"
 #include "editor_ui/pages/editor_services.h"
 #include "editor_ui/pages/problem_label.h"
+#include "editor_ui/pages/typed_texts.h"
 #include "editor_ui/schedule/hour_scale.h"
 #include "editor_ui/schedule/schedule_frame.h"
 #include "schedule/time_schedule.h"
@@ -18,7 +19,8 @@
 
 namespace vigrel {
 
-// A time schedule, drawn and edited by mouse, keys and menu.
+// A time schedule, drawn and edited by mouse, keys and menu. Times that are none stay with their period as
+// typed, whatever is chosen next, and belong to the state.
 class cScheduleEditor : public cContentEditor, private cTimeScheduleContainer {
     Q_OBJECT
   public:
@@ -32,10 +34,15 @@ class cScheduleEditor : public cContentEditor, private cTimeScheduleContainer {
     bool IsInFile(const std::string& path, const std::string& state) const;
     std::string State() const override;
     void Restore(const std::string& state) override;
-    QString Problem() const override { return m_Problem.text(); }
+    QString Problem() const override { return m_Typed.empty() ? QString() : m_Typed.begin()->second.problem; }
     void FocusProblem() override;
-    QString ProblemField() const;  // object name of the field to mend
-    // Gives up what is half typed in the time fields.
+    // What the names of all typed texts of the state begin with.
+    QString TypedPrefix() const { return objectName() + "@"; }
+    // Chooses the period of a typed text; the object name of the field to mend.
+    QString ShowTypedTimes(const QString& name);
+    // Whether a time stands in its field that is not taken over yet.
+    bool IsTyping() const { return m_Start.isModified() || m_Stop.isModified(); }
+    // Gives up what is being typed and is not taken over yet.
     void DropTyping();
     // Whether the rows show the names of their days.
     QCheckBox& ViewDayType() { return m_ViewDayType; }
@@ -106,9 +113,22 @@ class cScheduleEditor : public cContentEditor, private cTimeScheduleContainer {
     // None for another one; the operator has been told.
     std::optional<int> ChosenSpecialType();
     void ShowNotStored();
+
+    // --- times that are typed
     void TakeTimes();
     void TakeBackTyping();
     QString FaultOfTimes() const;
+    QString TypedName(std::int32_t dayType, const cTimeSchedulePeriod& period) const;
+    // Those whose period is there and shown.
+    TypedTexts TypedTimes() const;
+    struct cPlace {
+        std::int32_t dayType = -1;
+        PeriodPtr period;
+    };
+    cPlace PlaceOf(const QString& typedName) const;
+    void ForgetTypedOfOthers();
+    void ShowTyped();
+    bool ShowTypedDifference(const TypedTexts& before);
     void ShowProblem(const QString& problem);
     void TakeDayType(const QListWidgetItem& item);
     void TakeUseCalendar(bool use);
@@ -163,6 +183,7 @@ class cScheduleEditor : public cContentEditor, private cTimeScheduleContainer {
         cTimeSchedulePeriod times;
     };
     cShown m_Shown;
+    TypedTexts m_Typed;  // both times of a period, one a line
     bool m_IsPrinting = false;
     QCheckBox m_ViewDayType, m_UseCalendar;
     QListWidget m_DayTypes;

@@ -4,7 +4,6 @@
 #include "editor_ui/pages/editor_action.h"
 #include "editor_ui/pages/reasons.h"
 #include "editor_ui/schedule/schedule_editor.h"
-#include "schedule/time_text.h"
 
 namespace vigrel {
 
@@ -44,6 +43,7 @@ QList<QAction*> cScheduleEditor::EditActions() const {
 // An entry can leave no day selected; the fields then have nothing to speak of.
 void cScheduleEditor::Run(const QString& name, Operation operation) {
     if (m_Schedule.IsDragging()) return;
+    TakeTimes();
     Edit(name, [&] { (m_Schedule.*operation)(*this, m_SchedulePaintObject); });
     m_Frame.View().update();
     Refresh();
@@ -78,51 +78,6 @@ void cScheduleEditor::Group() {
 void cScheduleEditor::GroupMonFri() {
     m_Schedule.PreparePopupMenu(*this);
     Run(tr("grouping Monday to Friday"), &cTimeSchedule::GroupMonFri);
-}
-
-// What can't be taken over stays as it was typed.
-void cScheduleEditor::TakeTimes() {
-    if (!m_Start.isModified() && !m_Stop.isModified()) return;
-    ShowProblem(FaultOfTimes());
-    if (Problem().isEmpty()) Run(tr("typing times"), &cTimeSchedule::ExtractTimeFromTextboxes);
-}
-
-QString cScheduleEditor::FaultOfTimes() const {
-    for (const QLineEdit* field : {&m_Start, &m_Stop}) {
-        if (const auto fault = FaultOfTimeText(FromQString(field->text()))) {
-            return (field == &m_Start ? tr("Start: %1") : tr("Stop: %1")).arg(Told(*fault));
-        }
-    }
-    return {};
-}
-
-void cScheduleEditor::ShowProblem(const QString& problem) {
-    if (problem == m_Problem.text()) return;
-    m_Problem.Show(problem);
-    emit ProblemChanged();
-}
-
-QString cScheduleEditor::ProblemField() const {
-    return (FaultOfTimeText(FromQString(m_Start.text())) ? m_Start : m_Stop).objectName();
-}
-
-void cScheduleEditor::FocusProblem() {
-    QLineEdit& field = ProblemField() == m_Start.objectName() ? m_Start : m_Stop;
-    field.setFocus();
-    field.selectAll();
-}
-
-void cScheduleEditor::DropTyping() {
-    if (Problem().isEmpty()) return;
-    emit Message(tr("Not taken over: %1").arg(Problem()));
-    TakeBackTyping();
-}
-
-// The times as they are in the schedule.
-void cScheduleEditor::TakeBackTyping() {
-    if (m_Shown.dayType < 0) return;
-    m_Schedule.Select(*this, m_Shown.dayType, m_Shown.period);
-    ShowProblem({});
 }
 
 void cScheduleEditor::TakeUseCalendar(bool use) {

@@ -126,13 +126,19 @@ void cScheduleEditor::ChoosePeriod(int step) {
 }
 
 void cScheduleEditor::MoveEnd(QLineEdit& field, int minutes) {
-    if (!m_Schedule.SelectedPeriod()) return;
-    // The other end stays as the schedule has it, whatever was left half typed.
-    TakeBackTyping();
-    const int moved =
-        std::clamp(TimeTextToMinutes(FromQString(field.text())) + minutes, 0, int{kMinutesOfDay});
-    field.setText(ToQString(Digits(moved / 60, 2) + ":" + Digits(moved % 60, 2)));
-    Run(tr("moving an end"), &cTimeSchedule::ExtractTimeFromTextboxes);
+    const PeriodPtr period = m_Schedule.SelectedPeriod();
+    if (!period) return;
+    Edit(tr("moving an end"), [&] {
+        // The other end stays as the schedule has it, whatever was left half typed.
+        m_Typed.erase(TypedName(m_Schedule.SelectedDayType(), *period));
+        TakeBackTyping();
+        const int moved =
+            std::clamp(TimeTextToMinutes(FromQString(field.text())) + minutes, 0, int{kMinutesOfDay});
+        field.setText(ToQString(Digits(moved / 60, 2) + ":" + Digits(moved % 60, 2)));
+        m_Schedule.ExtractTimeFromTextboxes(*this, m_SchedulePaintObject);
+    });
+    m_Frame.View().update();
+    Refresh();
 }
 
 // An hour in the first gap that has room for it, from the morning on, else from midnight on.

@@ -63,8 +63,15 @@ void cDefinitionsWindow::FillRecentMenu() {
 
 void cDefinitionsWindow::MakeEditMenu() {
     m_EditMenu = menuBar()->addMenu(tr("&Edit"));
-    m_Undo = AddEntry(*m_EditMenu, "Undo", tr("&Undo"), QKeySequence::Undo, [this] { m_UndoGroup.undo(); });
-    m_Redo = AddEntry(*m_EditMenu, "Redo", tr("&Redo"), {}, [this] { m_UndoGroup.redo(); });
+    // What is still being typed becomes a step first: a step that is undone must find nothing half done.
+    m_Undo = AddEntry(*m_EditMenu, "Undo", tr("&Undo"), QKeySequence::Undo, [this] {
+        CurrentPage()->FinishTyping();
+        m_UndoGroup.undo();
+    });
+    m_Redo = AddEntry(*m_EditMenu, "Redo", tr("&Redo"), {}, [this] {
+        CurrentPage()->FinishTyping();
+        m_UndoGroup.redo();
+    });
     m_Redo->setShortcuts({QKeySequence("Ctrl+Y"), QKeySequence("Ctrl+Shift+Z")});
     m_Undo->setEnabled(false);
     m_Redo->setEnabled(false);
