@@ -543,6 +543,32 @@ TEST_F(ProfilesPage, ADayIsAnsweredForWithItsReason) {
     EXPECT_EQ(date->date(), QDate(2026, 3, 15));
 }
 
+TEST_F(ProfilesPage, TheAnswerForADayFollowsTheTickAndTheCalendar) {
+    ChooseMonday();
+    const auto reason = [this] { return LabelOf(Page(), "Label_ActiveDay_Reason"); };
+    Find<QDateEdit>(Page(), "Date_ActiveDay")->setDate({2026, 12, 25});
+    auto* used = Find<QCheckBox>(Page(), "Check_UseTimeSchedule");
+    ASSERT_TRUE(used->isChecked());
+    Press(Page(), "Check_UseTimeSchedule");
+    ShowTab(5);
+    EXPECT_TRUE(reason().ends_with("\nThe profile doesn't use its schedule.")) << reason();
+    ShowTab(3);
+    Press(Page(), "Check_UseTimeSchedule");
+    ShowTab(5);
+    EXPECT_EQ(reason().find("use its schedule"), std::string::npos) << reason();
+    // Another program has written the calendar; the window comes to the front again.
+    std::string calendar(29220, '\0');
+    Put("Calendar.cal", calendar);
+    ASSERT_TRUE(Page().findChild<cFileDocument*>()->Open(Path("Calendar.cal")));
+    calendar[2 * 9855] = 8;
+    Put("Calendar.cal", calendar);
+    QEvent activation(QEvent::ActivationChange);
+    QCoreApplication::sendEvent(&Page(), &activation);
+    EXPECT_TRUE(
+        reason().starts_with("Day type: Friday, by the weekday: the calendar gives Special day type 1"))
+        << reason();
+}
+
 TEST_F(ProfilesPage, TheActiveHoursAreALineOfTheDay) {
     Shown().m_UseTimeSchedule = True16;
     Shown().m_TimeSchedule = std::make_unique<cTimeSchedule>();

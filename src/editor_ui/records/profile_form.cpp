@@ -55,6 +55,7 @@ cProfileForm::cProfileForm(cEditorServices& editor, QWidget* parent)
     connect(m_Tabs, &QTabWidget::currentChanged, this,
             [this](int tab) { m_Editor.m_Settings.setValue(kTabKey, tab); });
     m_Binder.OnEdited = [this](const cFieldStep& step) {
+        RefreshActiveDay();
         if (OnEdited) OnEdited(step);
     };
     Show(nullptr, nullptr);
@@ -209,9 +210,15 @@ QWidget* cProfileForm::MakeCalendar() {
 // The editors hold what is to be answered for: the profile's schedule and the station's calendar.
 QWidget* cProfileForm::MakeActiveDay() {
     m_ActiveDay = new cActiveDayView(m_Editor, m_Schedule->Schedule(), m_Calendar->Editor().Calendar());
-    m_Binder.AddShow(
-        [this](const cProfile& shown) { m_ActiveDay->Refresh(shown.m_UseTimeSchedule != False16); });
+    m_Binder.AddShow([this](const cProfile&) { RefreshActiveDay(); });
+    const cFileDocument& calendar = m_Calendar->Document();
+    connect(&calendar, &cFileDocument::Opened, this, &cProfileForm::RefreshActiveDay);
+    connect(&calendar, &cFileDocument::Replaced, this, &cProfileForm::RefreshActiveDay);
     return m_ActiveDay;
+}
+
+void cProfileForm::RefreshActiveDay() {
+    if (const cProfile* shown = m_Binder.Shown()) m_ActiveDay->Refresh(shown->m_UseTimeSchedule != False16);
 }
 
 QWidget* cProfileForm::MakeExternal() {
