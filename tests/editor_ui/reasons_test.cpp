@@ -156,6 +156,23 @@ TEST_F(Reasons, OfADamagedScheduleOrCalendarAreTold) {
     }
 }
 
+TEST_F(Reasons, OfAPdfThatCantBeWrittenAreTold) {
+    cDefinitionsWindow window(m_Services);
+    window.NewCalendar();
+    m_Files.m_OnCall = [](std::string_view, std::string_view path) {
+        throw cFailure(
+            eFailure::PermissionDenied,
+            {Pattern("Reasons", "%1: a link that another user made is not followed"), {std::string(path)}});
+    };
+    m_Prompts.m_Texts = {"C:/App/year.pdf"};
+    Find<QAction>(window, "Menu_Pdf")->trigger();
+    m_Files.m_OnCall = nullptr;
+    const std::string asked = Asked();
+    const std::size_t failure = asked.find("failure: ");
+    ASSERT_NE(failure, std::string::npos) << asked;
+    ExpectTold(asked.substr(failure + 9), "<The file was not saved.\n<C:/App/");
+}
+
 // Each pattern's place has its value, with letters of the code page and marks that look like a place.
 TEST(ReasonsInGerman, HaveTheirValuesAndLetters) {
     cEditorWords words("049");

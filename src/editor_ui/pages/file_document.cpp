@@ -10,15 +10,6 @@
 #include "editor_ui/pages/reasons.h"
 
 namespace vigrel {
-namespace {
-
-// With the separators of this system, as the operator knows them.
-QString ShownFailure(const cFailure& failure) {
-    return Told(failure.Description()).replace('\\', '/');
-}
-
-}  // namespace
-
 cFileDocument::cFileDocument(cEditorServices& services, cFileForm form, QWidget* owner)
     : QObject(owner),
       m_Services(services),
@@ -53,7 +44,7 @@ void cFileDocument::Take(const std::string& path, const cFileReader::cStamp& sta
 
 bool cFileDocument::Read(const std::string& path) {
     const auto failure = CatchFailure([&] { m_Form.read(path); });
-    if (failure) m_Services.m_Prompts.ShowFailure(m_Owner, ShownFailure(*failure));
+    if (failure) m_Services.m_Prompts.ShowFailure(m_Owner, ToldReason(*failure));
     return !failure;
 }
 
@@ -158,7 +149,7 @@ bool cFileDocument::SaveAs() {
 bool cFileDocument::WriteTo(const std::string& path) {
     if (const auto failure = CatchFailure([&] { m_Form.write(path); })) {
         m_Services.m_Prompts.ShowFailure(m_Owner,
-                                         tr("The file was not saved.\n%1").arg(ShownFailure(*failure)));
+                                         tr("The file was not saved.\n%1").arg(ToldReason(*failure)));
         return false;
     }
     Take(path, m_Services.m_Files.Stamp(path));

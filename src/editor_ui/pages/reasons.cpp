@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 
 #include "adapters/qt/qt_text.h"
+#include "common/failure.h"
 
 namespace vigrel {
 
@@ -10,6 +11,10 @@ QString Told(const cPhrase& phrase) {
     return WithPathsToQString(phrase.Told([](const cPattern& pattern) {
         return FromQString(QCoreApplication::translate(pattern.context, pattern.english));
     }));
+}
+
+QString ToldReason(const cFailure& failure) {
+    return Told(failure.Description()).replace('\\', '/');
 }
 
 }  // namespace vigrel

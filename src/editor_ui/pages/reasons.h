@@ -6,7 +6,11 @@
 
 namespace vigrel {
 
+class cFailure;
+
 // What the logic says, such as why something failed, in the editor's language.
 QString Told(const cPhrase& phrase);
+// Why it failed; paths are as the operator knows them, with the separators of this system.
+QString ToldReason(const cFailure& failure);
 
 }  // namespace vigrel

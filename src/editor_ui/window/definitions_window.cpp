@@ -14,6 +14,7 @@
 #include "common/file_procedures.h"
 #include "editor_ui/calendar/own_holidays_page.h"
 #include "editor_ui/colours/colour_rules_page.h"
+#include "editor_ui/pages/reasons.h"
 #include "editor_ui/records/profiles_page.h"
 #include "editor_ui/records/receivers_page.h"
 #include "schedule/definition_files.h"
@@ -314,8 +315,8 @@ void cDefinitionsWindow::SaveAsPdf() {
     const auto failure =
         CatchFailure([&] { ReplaceFile(m_Services.m_Files, PathFromQString(chosen), PdfOf(*printout)); });
     if (failure) {
-        const QString reason = WithPathsToQString(failure->what());
-        return m_Services.m_Prompts.ShowFailure(this, tr("The file was not saved.\n%1").arg(reason));
+        return m_Services.m_Prompts.ShowFailure(this,
+                                                tr("The file was not saved.\n%1").arg(ToldReason(*failure)));
     }
     statusBar()->showMessage(tr("Saved %1").arg(chosen), 10000);
 }
