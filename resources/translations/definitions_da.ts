@@ -1770,16 +1770,16 @@ Programmets mappe: %3</translation>
         <translation>(vælg en type)</translation>
     </message>
     <message>
-        <source>Setting %1:</source>
-        <translation>Indstilling %1:</translation>
-    </message>
-    <message>
         <source>not saved yet</source>
         <translation>ikke gemt endnu</translation>
     </message>
     <message>
         <source>%1, saved %2</source>
         <translation>%1, gemt %2</translation>
+    </message>
+    <message>
+        <source>Setting %1</source>
+        <translation>Indstilling %1</translation>
     </message>
 </context>
 <context>

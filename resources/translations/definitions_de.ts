@@ -1770,16 +1770,16 @@ Programmordner: %3</translation>
         <translation>(Typ wählen)</translation>
     </message>
     <message>
-        <source>Setting %1:</source>
-        <translation>Einstellung %1:</translation>
-    </message>
-    <message>
         <source>not saved yet</source>
         <translation>noch nicht gespeichert</translation>
     </message>
     <message>
         <source>%1, saved %2</source>
         <translation>%1, gespeichert %2</translation>
+    </message>
+    <message>
+        <source>Setting %1</source>
+        <translation>Einstellung %1</translation>
     </message>
 </context>
 <context>

@@ -1770,16 +1770,16 @@ Ohjelman kansio: %3</translation>
         <translation>(valitse tyyppi)</translation>
     </message>
     <message>
-        <source>Setting %1:</source>
-        <translation>Asetus %1:</translation>
-    </message>
-    <message>
         <source>not saved yet</source>
         <translation>ei vielä tallennettu</translation>
     </message>
     <message>
         <source>%1, saved %2</source>
         <translation>%1, tallennettu %2</translation>
+    </message>
+    <message>
+        <source>Setting %1</source>
+        <translation>Asetus %1</translation>
     </message>
 </context>
 <context>

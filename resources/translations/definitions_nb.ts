@@ -1770,16 +1770,16 @@ Programmets mappe: %3</translation>
         <translation>(velg en type)</translation>
     </message>
     <message>
-        <source>Setting %1:</source>
-        <translation>Innstilling %1:</translation>
-    </message>
-    <message>
         <source>not saved yet</source>
         <translation>ikke lagret ennå</translation>
     </message>
     <message>
         <source>%1, saved %2</source>
         <translation>%1, lagret %2</translation>
+    </message>
+    <message>
+        <source>Setting %1</source>
+        <translation>Innstilling %1</translation>
     </message>
 </context>
 <context>

@@ -1770,16 +1770,16 @@ Programmets mapp: %3</translation>
         <translation>(välj en typ)</translation>
     </message>
     <message>
-        <source>Setting %1:</source>
-        <translation>Inställning %1:</translation>
-    </message>
-    <message>
         <source>not saved yet</source>
         <translation>inte sparad än</translation>
     </message>
     <message>
         <source>%1, saved %2</source>
         <translation>%1, sparad %2</translation>
+    </message>
+    <message>
+        <source>Setting %1</source>
+        <translation>Inställning %1</translation>
     </message>
 </context>
 <context>

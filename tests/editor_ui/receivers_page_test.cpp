@@ -99,6 +99,19 @@ TEST_F(ReceiversPage, SettingsAreLabelledByTheTypeOfTheReceiver) {
     EXPECT_EQ(LabelOf(Page(), "Label_Setting_1"), "Subject:");
 }
 
+// In a label with a field the sign stands for an access key.
+TEST_F(ReceiversPage, ACaptionIsShownWithItsSigns) {
+    Put("Radio.INI", "[ReceiverTypeSettings]\r\nSetting0=User & &Password\r\nSetting0Type=Integer16\r\n");
+    ChooseType("Radio");
+    EXPECT_EQ(LabelOf(Page(), "Label_Setting_0"), "User && &&Password:");
+    EXPECT_EQ(Find<QLineEdit>(Page(), "Text_Setting_0")->accessibleName(), "User & &Password");
+    Type(Page(), "Text_Setting_0", "7");
+    EXPECT_EQ(Page().UndoStack()->undoText().toStdString(), "changing User & &Password");
+    Type(Page(), "Text_Setting_0", "x");
+    EXPECT_FALSE(Page().Save());
+    EXPECT_NE(Asked().find("\n\nUser & &Password: \"x\" is"), std::string::npos);
+}
+
 TEST_F(ReceiversPage, ATextThatIsNoValueOfItsSettingIsToldAndNotSaved) {
     ChooseType("Radio");
     Type(Page(), "Text_Setting_1", "soon");

@@ -58,16 +58,13 @@ void cReceiverForm::AddSettings(QFormLayout& layout) {
                                     value, SettingStep(index));
         };
         m_Settings[index]->OnTyped = [this, index](const cTypedText& typed) {
-            m_Binder.Keep({typed.text, m_SettingLabels[index]->text() + " " + typed.problem},
-                          SettingStep(index));
+            m_Binder.Keep({typed.text, m_Captions[index] + ": " + typed.problem}, SettingStep(index));
         };
     }
 }
 
 cFieldStep cReceiverForm::SettingStep(std::size_t index) const {
-    QString caption = m_SettingLabels[index]->text();
-    caption.chop(1);
-    return m_Binder.Step(caption, m_Settings[index]->Field(), true);
+    return {QObject::tr("changing %1").arg(m_Captions[index]), m_Settings[index]->Field(), true};
 }
 
 void cReceiverForm::Show(cReceiver* receiver, TypedTexts* typed) {
@@ -102,10 +99,12 @@ void cReceiverForm::ShowSettings(const cReceiver& receiver) {
     for (std::size_t i = 0; i < forms.size(); ++i) {
         const cVariant& value = receiver.GetSetting(static_cast<std::int16_t>(i));
         const bool named = !forms[i].caption.empty();
-        m_SettingLabels[i]->setText(named ? ToQString(forms[i].caption) + ":" : tr("Setting %1:").arg(i));
+        m_Captions[i] = named ? ToQString(forms[i].caption) : tr("Setting %1").arg(i);
+        // A label with a field takes a single "&" for the sign of an access key.
+        m_SettingLabels[i]->setText(QString(m_Captions[i]).replace('&', "&&") + ":");
         // Without a form a value keeps the type it has.
         if (!named && value.Type() != eVariantType::Empty) forms[i].type = value.Type();
-        if (!named) forms[i].caption = FromQString(m_SettingLabels[i]->text());
+        forms[i].caption = FromQString(m_Captions[i]);
         m_Settings[i]->Show(forms[i], value, m_Binder.Typed(m_Settings[i]->Field()));
         m_Layout->setRowVisible(m_Settings[i], named || unknown);
     }

@@ -44,6 +44,7 @@ class cReceiverForm : public QWidget {
     QComboBox* m_Type;
     QLabel* m_File;
     std::array<QLabel*, cReceiver::kSettings> m_SettingLabels{};
+    std::array<QString, cReceiver::kSettings> m_Captions;  // of the settings, as the type's file has them
     std::array<cSettingEdit*, cReceiver::kSettings> m_Settings{};
 };
 
