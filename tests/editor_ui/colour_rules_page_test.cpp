@@ -205,6 +205,17 @@ TEST_F(ColourRulesOfAlarms, TheNewestComesFirstInTheColoursOfItsRule) {
     EXPECT_EQ(Rule(0), "2");
 }
 
+// The numbers of the files are drawn at random.
+TEST_F(ColourRulesOfAlarms, OfVeryManyTheNewestAreShown) {
+    PutAlarm(1, 1, "old", "5");
+    const std::string old = OnDisk("Alarms\\A0000001.alm");
+    for (int i = 1000; i < 3100; ++i) Put("Alarms\\A000" + std::to_string(i) + ".alm", old);
+    PutAlarm(9, 9, "new", "5");
+    m_Files.RenameFile(Path("Alarms\\A0000009.alm"), Path("Alarms\\A9999999.alm"));
+    EXPECT_EQ(LabelOf(Page(), "Label_Preview_Alarms"), "200 of 2102");
+    EXPECT_EQ(Alarms().item(0, 1)->text().toStdString(), "2026-03-15 09:00:00");
+}
+
 TEST_F(ColourRulesOfAlarms, AreShownAsRulesAreEdited) {
     PutAlarm(1, 8, "PU1", "5");
     Press(Page(), "Button_Add");

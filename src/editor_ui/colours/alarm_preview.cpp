@@ -7,6 +7,8 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <functional>
+#include <utility>
 
 #include "adapters/qt/qt_text.h"
 #include "categories/colour_rules.h"
@@ -25,6 +27,18 @@ constexpr int kRuleColumn = 0, kTimeColumn = 1, kFirstText = 2;
 // A folder may hold very many; enough to see what the rules do.
 constexpr std::size_t kMostFiles = 2000, kMostRows = 200;
 constexpr const char* kTagKey = "PreviewTag";
+
+// The numbers of the files are drawn at random; when they were written tells which are the newest.
+void KeepNewest(const cFileReader& files, const std::string& folder, std::vector<std::string>& names) {
+    if (names.size() <= kMostFiles) return;
+    std::vector<std::pair<std::int64_t, std::string>> written;
+    written.reserve(names.size());
+    for (const std::string& name : names) written.emplace_back(files.Stamp(folder + name).modifiedNs, name);
+    std::sort(written.begin(), written.end(), std::greater<>());
+    names.resize(kMostFiles);
+    std::transform(written.begin(), written.begin() + kMostFiles, names.begin(),
+                   [](const auto& each) { return each.second; });
+}
 
 }  // namespace
 
@@ -71,7 +85,7 @@ void cAlarmPreview::Read() {
     const std::string folder = m_Services.m_Ini.FullPath("Alarms\\");
     std::vector<std::string> names = AlarmFileNames(m_Services.m_Files, folder);
     const std::size_t all = names.size();
-    names.resize(std::min(all, kMostFiles));
+    KeepNewest(m_Services.m_Files, folder, names);
     ReadStoredAlarms(m_Services.m_Files, folder, names,
                      [this](const std::string&, const cStoredAlarm& stored) {
                          if (!stored.problem.empty()) return;
