@@ -113,6 +113,39 @@ TEST_F(YearOverview, TurnsByYearsAndIsPaintedOnByKeys) {
     EXPECT_EQ(Find<QLabel>(m_Page, "Text_Calendar_Month").text(), "March 2027");
 }
 
+// On a narrow sheet too, with names that have no room.
+TEST_F(YearOverview, TellsTheColoursOfAllItsDayTypes) {
+    std::string bytes(29220, '\0');
+    const auto first = static_cast<std::size_t>(Index(2026, 3, 2));
+    for (int i = 0; i < kDayTypes; ++i)
+        bytes[2 * (first + static_cast<std::size_t>(i))] = static_cast<char>(i + 1);
+    m_Files.Put("/app/all.cal", bytes);
+    m_Ini.PutIniString("DayTypes", "7", "A name of a day type that is as long as a whole sentence",
+                       kDefinitionsIni);
+    ASSERT_TRUE(m_Page.Open("/app/all.cal"));
+    m_Page.Editor().ShowMonth(2026, 3);
+    const auto printout = m_Page.Printout();
+    ASSERT_TRUE(printout);
+    const QRectF area(0, 0, 700, 500);
+    QImage sheet(area.size().toSize(), QImage::Format_RGB32);
+    sheet.fill(Qt::white);
+    {
+        QPainter painter(&sheet);
+        printout->paint(painter, area);
+    }
+    const cYearDrawing drawing(area, 2026);
+    for (int i = 0; i < kDayTypes; ++i) {
+        const cYearDrawing::cLegend legend = drawing.LegendAt(i, kDayTypes);
+        EXPECT_TRUE(area.contains(legend.box)) << i;
+        EXPECT_LE(legend.name.right(), area.right() + 0.01) << i;
+        EXPECT_EQ(sheet.pixelColor(legend.box.center().toPoint()).rgb(),
+                  cYearDrawing::ColourOf(static_cast<std::int16_t>(i + 1)).rgb())
+            << i;
+        if (i >= 3) continue;
+        EXPECT_LE(legend.name.right(), drawing.LegendAt(i + 3, kDayTypes).box.left()) << i;
+    }
+}
+
 // --- paper
 
 std::string PdfWith(cFakeFiles& files, const std::string& path) {

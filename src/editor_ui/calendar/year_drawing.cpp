@@ -111,27 +111,30 @@ void cYearDrawing::PaintLegend(QPainter& painter, const cSource& source) const {
     std::set<std::int16_t> used;
     for (std::int32_t day = m_First; day < m_End; ++day) used.insert(source.calendar.GetDayType(day));
     used.erase(0);
-    const double height = m_Area.height() * kLegendShare;
-    const double line = height / kLegendLines;
-    constexpr int kLegendColumns = (kDayTypes + kLegendLines - 1) / kLegendLines;
-    const double width = m_Area.width() / kLegendColumns;
-    const double perColumn = std::max(width, m_Area.width() / kMonthsBesideEachOther);
-    int place = 0;
     painter.setPen(Qt::black);
+    int place = 0;
     for (const std::int16_t value : used) {
-        const int column = place / kLegendLines;
-        const int row = place % kLegendLines;
-        const QRectF cell(m_Area.left() + column * perColumn, m_Area.bottom() - height + row * line,
-                          perColumn, line);
-        if (cell.right() > m_Area.right() + 1) break;
-        const QRectF sample = cell.adjusted(perColumn * kGap, line * 0.15, 0, -line * 0.15);
-        const QRectF box(sample.topLeft(), QSizeF(sample.height() * 1.5, sample.height()));
-        painter.fillRect(box, ColourOf(value));
-        painter.drawRect(box);
-        painter.drawText(sample.adjusted(box.width() * 1.3, -line, 0, line), Qt::AlignVCenter,
-                         ToQString(source.names.Entry(static_cast<std::int16_t>(value + 1))));
-        ++place;
+        const cLegend legend = LegendAt(place++, static_cast<int>(used.size()));
+        painter.fillRect(legend.box, ColourOf(value));
+        painter.drawRect(legend.box);
+        const QString name = ToQString(source.names.Entry(static_cast<std::int16_t>(value + 1)));
+        painter.drawText(
+            legend.name, Qt::AlignVCenter,
+            painter.fontMetrics().elidedText(name, Qt::ElideRight, static_cast<int>(legend.name.width())));
     }
+}
+
+// In columns, as wide as there are types: few have room for long names, and of many none is left out.
+cYearDrawing::cLegend cYearDrawing::LegendAt(int place, int of) const {
+    const int columns = std::max((of + kLegendLines - 1) / kLegendLines, kMonthsBesideEachOther);
+    const double height = m_Area.height() * kLegendShare, line = height / kLegendLines;
+    const double width = m_Area.width() / columns, gap = m_Area.width() / kMonthsBesideEachOther * kGap;
+    const int column = place / kLegendLines, row = place % kLegendLines;
+    const QRectF cell(m_Area.left() + column * width, m_Area.bottom() - height + row * line, width, line);
+    const QRectF sample = cell.adjusted(gap, line * 0.15, 0, -line * 0.15);
+    const QRectF box(sample.topLeft(), QSizeF(sample.height() * 1.5, sample.height()));
+    // The letters may be higher than the line.
+    return {box, sample.adjusted(box.width() * 1.3, -line, 0, line)};
 }
 
 }  // namespace vigrel

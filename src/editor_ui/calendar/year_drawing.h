@@ -22,6 +22,12 @@ class cYearDrawing {
     // The day whose cell holds a place.
     std::optional<std::int32_t> DayAt(QPointF place) const;
 
+    // The place of a type in the legend, from 0, of so many: the box of its colour and its name.
+    struct cLegend {
+        QRectF box, name;
+    };
+    cLegend LegendAt(int place, int of) const;
+
     struct cSource {
         const cCalendar& calendar;
         const cHolidays& holidays;
