@@ -576,6 +576,24 @@ TEST_F(SchedulePage, ASpecialDayTypeGetsANameOfTheInstallation) {
     EXPECT_EQ(m_Files.ReadFile("/app/VigrelDefinitions.INI"), "[DayTypes]\r\n7=Lucia\r\n");
 }
 
+TEST_F(SchedulePage, ANameThatCantBeStoredIsRefusedAndCanBeMended) {
+    Find<QCheckBox>(m_Page, "Check_TimeSchedule_UseCalendar").click();
+    Find<QListWidget>(m_Page, "List_DayTypes").item(7)->setCheckState(Qt::Checked);
+    Drag(View(), {QPoint(150, 7 * 25 + 10)});
+    const QString greek = QString::fromUtf8("\xCE\x91\xCE\xB8\xCE\xAE\xCE\xBD\xCE\xB1");
+    m_Prompts.m_Texts = {greek, "Athens"};
+    Entry("Rename");
+    EXPECT_EQ(m_Prompts.m_Asked.toStdString(),
+              "Name of the day type: Special day type 1\n"
+              "failure: Only letters and signs of Western European languages can be stored.\n"
+              "Name of the day type: " +
+                  greek.toStdString() + "\n");
+    EXPECT_EQ(m_Files.ReadFile("/app/VigrelDefinitions.INI"), "[DayTypes]\r\n7=Athens\r\n");
+    m_Prompts.m_Texts = {greek};
+    Entry("Rename");
+    EXPECT_EQ(m_Files.ReadFile("/app/VigrelDefinitions.INI"), "[DayTypes]\r\n7=Athens\r\n");
+}
+
 TEST_F(SchedulePage, ASpecialDayTypeGetsOneOfTheDrawings) {
     cCalendarPage& calendar = NewCalendar();
     Find<QTabWidget>(*m_Window, "Tabs_Pages").setCurrentWidget(&m_Page);

@@ -26,10 +26,12 @@ cTextEdit::cTextEdit(QWidget* parent) : QLineEdit(parent) {
     setMaxLength(kLongestText);
     LeaveUndoToPage(*this);
     setValidator(new cCodePageValidator(this));
-    connect(this, &QLineEdit::inputRejected, this, [this] {
-        QToolTip::showText(mapToGlobal(rect().bottomLeft()),
-                           tr("Only letters and signs of Western European languages can be stored."), this);
-    });
+    connect(this, &QLineEdit::inputRejected, this,
+            [this] { QToolTip::showText(mapToGlobal(rect().bottomLeft()), LettersHint(), this); });
+}
+
+QString cTextEdit::LettersHint() {
+    return tr("Only letters and signs of Western European languages can be stored.");
 }
 
 }  // namespace vigrel

@@ -10,6 +10,8 @@ class cTextEdit : public QLineEdit {
     Q_OBJECT
   public:
     explicit cTextEdit(QWidget* parent = nullptr);
+    // Why a text is not taken.
+    static QString LettersHint();
 };
 
 }  // namespace vigrel

@@ -108,6 +108,7 @@ class cScheduleEditor : public cContentEditor, private cTimeScheduleContainer {
     void Group();
     void GroupMonFri();
     void Rename();
+    QString AskName(QString name);
     void ChooseImage(int drawing);
     // The day type of the list's current entry, else the selected row's, as the number of a special type.
     // None for another one; the operator has been told.

@@ -2,7 +2,7 @@
 
 #include "adapters/qt/qt_text.h"
 #include "editor_ui/pages/editor_action.h"
-#include "editor_ui/pages/reasons.h"
+#include "editor_ui/pages/text_edit.h"
 #include "editor_ui/schedule/schedule_editor.h"
 
 namespace vigrel {
@@ -106,12 +106,20 @@ std::optional<int> cScheduleEditor::ChosenSpecialType() {
     return std::nullopt;
 }
 
+// Asked again with what was typed where that can't be stored. Empty for none.
+QString cScheduleEditor::AskName(QString name) {
+    do {
+        name = m_Services.m_Prompts.AskText(this, tr("Name of the day type"), name);
+        if (FitsCodePage(name)) return name;
+        m_Services.m_Prompts.ShowFailure(this, cTextEdit::LettersHint());
+    } while (true);
+}
+
 void cScheduleEditor::Rename() {
     const auto number = ChosenSpecialType();
     if (!number) return;
     const auto dayType = static_cast<std::int16_t>(*number + kWeekDays - 1);
-    const QString name = m_Services.m_Prompts.AskText(this, tr("Name of the day type"),
-                                                      ToQString(m_Services.m_DayTypeNames.Name(dayType)));
+    const QString name = AskName(ToQString(m_Services.m_DayTypeNames.Name(dayType)));
     if (name.isEmpty()) return;
     if (!m_Services.m_DayTypeNames.Rename(dayType, FromQString(name))) ShowNotStored();
     emit DayTypesChanged();
