@@ -15,6 +15,7 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QUndoStack>
+#include <QWheelEvent>
 
 #include "editor_ui/calendar/calendar_editor.h"
 #include "editor_ui/page_fixture.h"
@@ -599,6 +600,36 @@ TEST_F(ProfilesPage, TheListShowsTheConditions) {
     EXPECT_EQ(Rows(Page()),
               "Night | Fire, *, \xC3\x96"
               "1 | 0012\n");
+}
+
+// Scrolling past a field changes nothing; where the keyboard is, the wheel turns it.
+TEST_F(ProfilesPage, TheWheelTurnsOnlyTheFieldWithTheKeyboard) {
+    QApplication::setActiveWindow(&Page());
+    ShowTab(0);
+    auto* number = Find<QSpinBox>(Page(), "Number_OffDuty");
+    const auto turn = [](QWidget* field) {
+        const QPointF middle = field->rect().center();
+        QWheelEvent down(middle, field->mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                         Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(field, &down);
+    };
+    const int value = number->value();
+    turn(number);
+    EXPECT_EQ(number->value(), value);
+    EXPECT_FALSE(Page().IsDirty());
+    EXPECT_FALSE(number->hasFocus());
+    ShowTab(4);
+    auto* country = Find<QComboBox>(Page(), "Combo_Calendar_Holidays");
+    country->setCurrentIndex(1);
+    turn(country);
+    EXPECT_EQ(country->currentIndex(), 1);
+    country->setFocus();
+    turn(country);
+    EXPECT_EQ(country->currentIndex(), 2);
+    ShowTab(0);
+    number->setFocus();
+    turn(number);
+    EXPECT_EQ(number->value(), value - 1);
 }
 
 // --- paper

@@ -39,7 +39,25 @@ void cEditorPage::FinishTyping() {
 
 void cEditorPage::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
+    LeaveWheelToScrolling();
     SeenAgain();
+}
+
+void cEditorPage::LeaveWheelToScrolling() {
+    for (QWidget* field : findChildren<QWidget*>()) {
+        if (!qobject_cast<QComboBox*>(field) && !qobject_cast<QAbstractSpinBox*>(field)) continue;
+        // By itself the wheel gives such a field the keyboard.
+        field->setFocusPolicy(Qt::StrongFocus);
+        field->installEventFilter(this);
+    }
+}
+
+bool cEditorPage::eventFilter(QObject* watched, QEvent* event) {
+    const auto* field = qobject_cast<const QWidget*>(watched);
+    if (event->type() != QEvent::Wheel || field == nullptr || field->hasFocus()) return false;
+    // It goes on to what lies around the field.
+    event->ignore();
+    return true;
 }
 
 void cEditorPage::changeEvent(QEvent* event) {

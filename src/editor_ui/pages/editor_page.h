@@ -47,7 +47,13 @@ class cEditorPage : public QWidget {
     // The page comes into sight, or its window to the front: other programs may have worked on its files.
     virtual void SeenAgain() {}
     void showEvent(QShowEvent* event) override;
+    // The wheel turns a choice or a number only where the keyboard is, so that scrolling past changes
+    // nothing.
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;
+
+  private:
+    void LeaveWheelToScrolling();
 
   signals:
     // Title, path or dirty state have changed.
