@@ -874,6 +874,10 @@
         <source>There are no holidays: choose their country, or write your own.</source>
         <translation>Der er ingen helligdage: vælg deres land, eller skriv egne.</translation>
     </message>
+    <message>
+        <source>%1 is the last year of a calendar: there is none to copy it to.</source>
+        <translation>%1 er det sidste år i en kalender: der er intet at kopiere det til.</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cColourPreview</name>

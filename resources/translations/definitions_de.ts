@@ -874,6 +874,10 @@
         <source>There are no holidays: choose their country, or write your own.</source>
         <translation>Es gibt keine Feiertage: wählen Sie ihr Land, oder schreiben Sie eigene.</translation>
     </message>
+    <message>
+        <source>%1 is the last year of a calendar: there is none to copy it to.</source>
+        <translation>%1 ist das letzte Jahr eines Kalenders: Es gibt keines, in das es kopiert werden könnte.</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cColourPreview</name>

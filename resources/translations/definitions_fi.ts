@@ -874,6 +874,10 @@
         <source>There are no holidays: choose their country, or write your own.</source>
         <translation>Pyhäpäiviä ei ole: valitse niiden maa tai kirjoita omia.</translation>
     </message>
+    <message>
+        <source>%1 is the last year of a calendar: there is none to copy it to.</source>
+        <translation>%1 on kalenterin viimeinen vuosi: ei ole vuotta, johon sen voisi kopioida.</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cColourPreview</name>

@@ -874,6 +874,10 @@
         <source>There are no holidays: choose their country, or write your own.</source>
         <translation>Det finnes ingen helligdager: velg landet deres, eller skriv egne.</translation>
     </message>
+    <message>
+        <source>%1 is the last year of a calendar: there is none to copy it to.</source>
+        <translation>%1 er det siste året i en kalender: det finnes ikke noe å kopiere det til.</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cColourPreview</name>

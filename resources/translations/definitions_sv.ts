@@ -874,6 +874,10 @@
         <source>There are no holidays: choose their country, or write your own.</source>
         <translation>Det finns inga helgdagar: välj deras land eller skriv egna.</translation>
     </message>
+    <message>
+        <source>%1 is the last year of a calendar: there is none to copy it to.</source>
+        <translation>%1 är det sista året i en kalender: det finns inget att kopiera det till.</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cColourPreview</name>

@@ -1,3 +1,5 @@
+#include <QStatusBar>
+
 #include "editor_ui/editor_bench.h"
 #include "schedule/calendar_geometry.h"
 #include "support/qt_wait.h"
@@ -274,6 +276,14 @@ TEST_F(CalendarPage, AYearIsCopiedToTheNextInOneStep) {
     m_Page.Editor().ShowMonth(2039, 6);
     Choose(*m_Window, "Menu_Calendar_CopyYear");
     EXPECT_EQ(Month(), "June 2039");
+}
+
+TEST_F(CalendarPage, TheLastYearIsNotCopiedAndThatIsTold) {
+    m_Page.Editor().ShowMonth(2039, 5);
+    Choose(m_Page, "Menu_Calendar_CopyYear");
+    EXPECT_EQ(m_Page.UndoStack()->count(), 0);
+    EXPECT_EQ(m_Window->statusBar()->currentMessage().toStdString(),
+              "2039 is the last year of a calendar: there is none to copy it to.");
 }
 
 TEST_F(CalendarPage, TheTimeAxisIsThatOfTheChosenSchedule) {

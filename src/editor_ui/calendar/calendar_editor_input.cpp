@@ -179,8 +179,12 @@ void cCalendarEditor::ClearYear() {
 
 void cCalendarEditor::CopyYear() {
     const int year = m_Calendar.m_SelectedYear;
+    if (year == kLastCalendarYear) {
+        emit Message(tr("%1 is the last year of a calendar: there is none to copy it to.").arg(year));
+        return;
+    }
     Edit(tr("copying a year"), [&] { CopyToNextYear(m_Calendar, m_Holidays, year); });
-    if (year < kLastCalendarYear) ShowMonth(year + 1, m_Calendar.m_SelectedMonth);
+    ShowMonth(year + 1, m_Calendar.m_SelectedMonth);
 }
 
 bool cCalendarEditor::IsShownYear(std::int32_t day) const {
