@@ -203,6 +203,18 @@ TEST_F(YearOverview, IsPrintedThroughTheDialogOfTheSystem) {
     EXPECT_TRUE(printed.readAll().startsWith("%PDF-"));
 }
 
+TEST_F(YearOverview, IsPrintedAsTheDialogSays) {
+    QPrinter printer;
+    printer.setOutputFileName(m_Folder.filePath("upright.pdf"));
+    SetUpSheet(printer);
+    EXPECT_EQ(printer.pageLayout().orientation(), QPageLayout::Landscape);
+    printer.setPageOrientation(QPageLayout::Portrait);
+    printer.setPageMargins({30, 30, 30, 30}, QPageLayout::Millimeter);
+    EXPECT_TRUE(PrintOn(printer, *m_Page.Printout()));
+    EXPECT_EQ(printer.pageLayout().orientation(), QPageLayout::Portrait);
+    EXPECT_EQ(printer.pageLayout().margins(QPageLayout::Millimeter).left(), 30);
+}
+
 TEST_F(YearOverview, APageThatPrintsNothingOffersNoPrint) {
     EXPECT_TRUE(Find<QAction>(*m_Window, "Menu_Print").isEnabled());
     m_Window->ShowReceivers();

@@ -12,11 +12,6 @@ namespace {
 constexpr double kTitleShare = 0.05;  // of the sheet's height
 constexpr double kMargin = 12;        // millimetres
 
-void SetUp(QPagedPaintDevice& device) {
-    device.setPageOrientation(QPageLayout::Landscape);
-    device.setPageMargins({kMargin, kMargin, kMargin, kMargin}, QPageLayout::Millimeter);
-}
-
 // The largest rectangle of a shape in a place, at its top.
 QRectF Fitted(const QRectF& place, const QSizeF& shape) {
     if (shape.isEmpty()) return place;
@@ -26,8 +21,12 @@ QRectF Fitted(const QRectF& place, const QSizeF& shape) {
 
 }  // namespace
 
+void SetUpSheet(QPagedPaintDevice& device) {
+    device.setPageOrientation(QPageLayout::Landscape);
+    device.setPageMargins({kMargin, kMargin, kMargin, kMargin}, QPageLayout::Millimeter);
+}
+
 bool PrintOn(QPagedPaintDevice& device, const cPrintout& printout) {
-    SetUp(device);
     QPainter painter;
     if (!painter.begin(&device)) return false;
     const QRectF sheet(0, 0, device.width(), device.height());
@@ -49,6 +48,7 @@ std::string PdfOf(const cPrintout& printout) {
         QPdfWriter writer(&bytes);
         writer.setTitle(printout.title);
         writer.setPageSize(QPageSize(QPageSize::A4));
+        SetUpSheet(writer);
         PrintOn(writer, printout);
     }
     return bytes.data().toStdString();

@@ -19,6 +19,9 @@ struct cPrintout {
     std::function<void(QPainter&, const QRectF&)> paint;
 };
 
+// The sheet as it fits a printout best, across with narrow margins, before the user says how it is to be.
+void SetUpSheet(QPagedPaintDevice& device);
+
 // False when nothing could be drawn on the device, a printer that is gone.
 bool PrintOn(QPagedPaintDevice& device, const cPrintout& printout);
 

@@ -298,6 +298,7 @@ void cDefinitionsWindow::Print() {
     if (!printout) return;
     QPrinter printer;
     printer.setDocName(printout->title);
+    SetUpSheet(printer);
     if (!m_Services.m_Prompts.AskPrinter(this, printer)) return;
     if (!PrintOn(printer, *printout))
         m_Services.m_Prompts.ShowFailure(this, tr("%1 was not printed.").arg(printout->title));
