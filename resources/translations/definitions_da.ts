@@ -2077,6 +2077,10 @@ Programmets mappe: %3</translation>
         <source>No</source>
         <translation>Nej</translation>
     </message>
+    <message>
+        <source>The number is missing.</source>
+        <translation>Tallet mangler.</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cSystemGrid</name>

@@ -2077,6 +2077,10 @@ Programmordner: %3</translation>
         <source>No</source>
         <translation>Nein</translation>
     </message>
+    <message>
+        <source>The number is missing.</source>
+        <translation>Die Zahl fehlt.</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cSystemGrid</name>

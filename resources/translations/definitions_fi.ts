@@ -2077,6 +2077,10 @@ Ohjelman kansio: %3</translation>
         <source>No</source>
         <translation>Ei</translation>
     </message>
+    <message>
+        <source>The number is missing.</source>
+        <translation>Luku puuttuu.</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cSystemGrid</name>

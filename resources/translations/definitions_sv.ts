@@ -2077,6 +2077,10 @@ Programmets mapp: %3</translation>
         <source>No</source>
         <translation>Nej</translation>
     </message>
+    <message>
+        <source>The number is missing.</source>
+        <translation>Talet saknas.</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cSystemGrid</name>

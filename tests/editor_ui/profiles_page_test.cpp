@@ -139,7 +139,7 @@ TEST_F(ProfilesPage, EveryFieldIsWrittenWhereItIsReadFrom) {
     Press(Page(), "Check_Enabled");
     Press(Page(), "Check_State_0");
     Press(Page(), "Check_State_1");
-    Find<QSpinBox>(Page(), "Number_OffDuty")->setValue(9);
+    Type(Page(), "Text_OffDuty", "9");
     ShowTab(1);
     for (int i = 0; i < 6; ++i) {
         Type(Page(), QString("Text_Condition_%1").arg(i).toLatin1().constData(), QString("c%1").arg(i));
@@ -182,7 +182,7 @@ TEST_F(ProfilesPage, EveryFieldIsWrittenWhereItIsReadFrom) {
     EXPECT_EQ(profile.GetSystem(62), True16);
     EXPECT_EQ(profile.GetSystem(63), 3);
     EXPECT_TRUE(Find<QCheckBox>(Page(), "Check_System_62")->isChecked());
-    EXPECT_EQ(Find<QSpinBox>(Page(), "Number_OffDuty")->value(), 9);
+    EXPECT_EQ(TextOf(Page(), "Text_OffDuty"), "9");
 }
 
 TEST_F(ProfilesPage, ShowingAProfileChangesNothing) {
@@ -357,6 +357,27 @@ TEST_F(ProfilesPage, WhatIsChosenAndTypedStaysWhileAnotherPageShows) {
     EXPECT_EQ(LabelOf(Page(), "Label_Schedule_Chosen"), chosen);
     EXPECT_EQ(TextOf(Page(), "Text_Schedule_Period_Stop"), "soon");
     EXPECT_TRUE(Page().IsDirty());
+}
+
+TEST_F(ProfilesPage, ANumberThatIsNoneStaysAsTyped) {
+    ShowTab(0);
+    const std::string before = TextOf(Page(), "Text_OffDuty");
+    for (const char* text : {"", "-", "1x", "40000"}) {
+        Type(Page(), "Text_OffDuty", text);
+        ShowTab(1);
+        Page().Choose(0);
+        ShowTab(0);
+        EXPECT_EQ(TextOf(Page(), "Text_OffDuty"), text);
+        EXPECT_NE(LabelOf(Page(), "Label_OffDuty_Problem"), "") << text;
+        EXPECT_FALSE(Page().Save());
+        EXPECT_NE(Asked().find("\n\nOff duty behaviour: "), std::string::npos) << text;
+    }
+    while (Page().UndoStack()->canUndo()) Page().UndoStack()->undo();
+    EXPECT_EQ(TextOf(Page(), "Text_OffDuty"), before);
+    EXPECT_FALSE(Page().IsDirty());
+    Type(Page(), "Text_OffDuty", "-7");
+    EXPECT_TRUE(Page().Save());
+    EXPECT_EQ(Shown().m_OffDutyAlarmBehaviour, -7);
 }
 
 // The buttons of the list, and the menu, leave the keyboard where it is.
@@ -605,8 +626,8 @@ TEST_F(ProfilesPage, TheListShowsTheConditions) {
 // Scrolling past a field changes nothing; where the keyboard is, the wheel turns it.
 TEST_F(ProfilesPage, TheWheelTurnsOnlyTheFieldWithTheKeyboard) {
     QApplication::setActiveWindow(&Page());
-    ShowTab(0);
-    auto* number = Find<QSpinBox>(Page(), "Number_OffDuty");
+    ShowTab(4);
+    auto* number = Find<QSpinBox>(Page(), "Spin_Calendar_Year");
     const auto turn = [](QWidget* field) {
         const QPointF middle = field->rect().center();
         QWheelEvent down(middle, field->mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
@@ -618,7 +639,6 @@ TEST_F(ProfilesPage, TheWheelTurnsOnlyTheFieldWithTheKeyboard) {
     EXPECT_EQ(number->value(), value);
     EXPECT_FALSE(Page().IsDirty());
     EXPECT_FALSE(number->hasFocus());
-    ShowTab(4);
     auto* country = Find<QComboBox>(Page(), "Combo_Calendar_Holidays");
     country->setCurrentIndex(1);
     turn(country);
@@ -626,7 +646,6 @@ TEST_F(ProfilesPage, TheWheelTurnsOnlyTheFieldWithTheKeyboard) {
     country->setFocus();
     turn(country);
     EXPECT_EQ(country->currentIndex(), 2);
-    ShowTab(0);
     number->setFocus();
     turn(number);
     EXPECT_EQ(number->value(), value - 1);

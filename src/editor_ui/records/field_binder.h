@@ -2,8 +2,6 @@
 
 #include <QCheckBox>
 #include <QPlainTextEdit>
-#include <QSignalBlocker>
-#include <QSpinBox>
 #include <algorithm>
 #include <functional>
 #include <iterator>
@@ -13,7 +11,6 @@
 #include "adapters/qt/qt_text.h"
 #include "common/binary.h"
 #include "editor_ui/pages/text_edit.h"
-#include "editor_ui/pages/undo_keys.h"
 #include "editor_ui/records/definition_source.h"
 #include "editor_ui/records/record_commands.h"
 
@@ -59,23 +56,6 @@ class cFieldBinder {
         return Flag(
             objectName, caption, [field](const Definition& shown) { return shown.*field; },
             [field](Definition& shown, const std::int16_t& on) { shown.*field = on; });
-    }
-    QSpinBox* Number(const char* objectName, const QString& name, std::int16_t Definition::*field) {
-        auto* widget = Named(new QSpinBox, objectName, name);
-        widget->setRange(-32768, 32767);
-        if (auto* line = widget->template findChild<QLineEdit*>()) LeaveUndoToPage(*line);
-        QObject::connect(
-            widget, &QSpinBox::valueChanged, widget,
-            [this, field, step = Step(name, objectName, true)](int value) {
-                Edit<std::int16_t>(
-                    [field](Definition& shown, const std::int16_t& number) { shown.*field = number; },
-                    static_cast<std::int16_t>(value), step);
-            });
-        m_Shows.push_back([widget, field](const Definition& shown) {
-            const QSignalBlocker quiet(widget);
-            widget->setValue(shown.*field);
-        });
-        return widget;
     }
     // Anything else that a form shows of its definition.
     void AddShow(std::function<void(const Definition&)> show) { m_Shows.push_back(std::move(show)); }

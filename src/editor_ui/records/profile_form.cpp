@@ -13,6 +13,7 @@
 #include "editor_ui/records/file_label.h"
 #include "editor_ui/records/profile_calendar.h"
 #include "editor_ui/records/receiver_picker.h"
+#include "editor_ui/records/setting_edit.h"
 #include "editor_ui/records/system_grid.h"
 #include "editor_ui/schedule/schedule_editor.h"
 #include "windows/plain_text.h"
@@ -79,12 +80,31 @@ QWidget* cProfileForm::MakeGeneral() {
                            [i](const cProfile& profile) { return profile.GetState(i); },
                            [i](cProfile& profile, const std::int16_t& on) { profile.SetState(i, on); }));
     }
-    layout->addRow(tr("&Off duty behaviour:"), m_Binder.Number("Number_OffDuty", tr("Off duty behaviour"),
-                                                               &cProfile::m_OffDutyAlarmBehaviour));
+    layout->addRow(tr("&Off duty behaviour:"), MakeOffDuty());
     m_File = new cFileLabel;
     layout->addRow(tr("File:"), m_File);
     m_Binder.AddShow([this](const cProfile& profile) { ShowFile(profile); });
     return page;
+}
+
+cSettingEdit* cProfileForm::MakeOffDuty() {
+    auto* edit = new cSettingEdit("OffDuty");
+    edit->DemandNumber();
+    const QString name = tr("Off duty behaviour");
+    const cFieldStep step = m_Binder.Step(name, edit->Field(), true);
+    edit->OnEdited = [this, step](const cVariant& value) {
+        m_Binder.Edit<std::int16_t>(
+            [](cProfile& shown, const std::int16_t& number) { shown.m_OffDutyAlarmBehaviour = number; },
+            static_cast<std::int16_t>(value.Number().value_or(0)), step);
+    };
+    edit->OnTyped = [this, name, step](const cTypedText& typed) {
+        m_Binder.Keep({typed.text, name + ": " + typed.problem}, step);
+    };
+    m_Binder.AddShow([this, edit, name](const cProfile& shown) {
+        edit->Show({FromQString(name), eVariantType::Int16}, cVariant::Int16(shown.m_OffDutyAlarmBehaviour),
+                   m_Binder.Typed(edit->Field()));
+    });
+    return edit;
 }
 
 void cProfileForm::ShowFile(const cProfile& profile) {

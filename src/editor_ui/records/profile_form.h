@@ -20,6 +20,7 @@ struct cEditStep;
 class cProfileCalendar;
 class cReceiverPicker;
 class cScheduleEditor;
+class cSettingEdit;
 class cSystemGrid;
 
 // Every field of a profile, in tabs. Parallel and sequential receivers are chosen from the receivers of the
@@ -49,6 +50,7 @@ class cProfileForm : public QWidget {
 
   private:
     QWidget* MakeGeneral();
+    cSettingEdit* MakeOffDuty();
     QWidget* MakeConditions();
     QWidget* MakeReceivers();
     QWidget* MakeSchedule();

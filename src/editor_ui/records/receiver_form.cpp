@@ -50,7 +50,7 @@ void cReceiverForm::AddSettings(QFormLayout& layout) {
         const auto index = static_cast<std::size_t>(i);
         m_SettingLabels[index] = new cPlainLabel;
         m_SettingLabels[index]->setObjectName(QString("Label_Setting_%1").arg(i));
-        m_Settings[index] = new cSettingEdit(i);
+        m_Settings[index] = new cSettingEdit(QString("Setting_%1").arg(i));
         m_SettingLabels[index]->setBuddy(m_Settings[index]);
         layout.addRow(m_SettingLabels[index], m_Settings[index]);
         m_Settings[index]->OnEdited = [this, i, index](const cVariant& value) {

@@ -32,14 +32,14 @@ QString cSettingEdit::Hint(eVariantType type) {
     }
 }
 
-cSettingEdit::cSettingEdit(int index, QWidget* parent)
+cSettingEdit::cSettingEdit(const QString& name, QWidget* parent)
     : QWidget(parent),
       m_Text(new cTextEdit),
       m_Choice(new QComboBox),
       m_Fields(new QStackedLayout),
-      m_Problem(new cProblemLabel(QString("Label_Setting_%1_Problem").arg(index))) {
-    m_Text->setObjectName(QString("Text_Setting_%1").arg(index));
-    m_Choice->setObjectName(QString("Combo_Setting_%1").arg(index));
+      m_Problem(new cProblemLabel("Label_" + name + "_Problem")) {
+    m_Text->setObjectName("Text_" + name);
+    m_Choice->setObjectName("Combo_" + name);
     m_Choice->addItems({"", tr("Yes"), tr("No")});
     m_Fields->addWidget(m_Text);
     m_Fields->addWidget(m_Choice);
@@ -83,6 +83,7 @@ QString cSettingEdit::Field() const {
 }
 
 QString cSettingEdit::Fault(const QString& text) const {
+    if (m_IsNumberDemanded && text.trimmed().isEmpty()) return tr("The number is missing.");
     const auto failure = CatchFailure([&] { VariantFromText(m_Type, FromQString(text)); });
     return failure ? Told(failure->Description()) : QString();
 }

@@ -14,12 +14,16 @@ namespace vigrel {
 class cProblemLabel;
 class cTextEdit;
 
-// One setting of a receiver: a field for the value in the type that the receiver's type asks for. A text that
-// is no value of that type stays as typed, is told below the field, and is not stored.
+// A field for a value of a type, such as the one that a receiver's type asks for. A text that is no value of
+// that type stays as typed, is told below the field, and is not stored.
 class cSettingEdit : public QWidget {
     Q_OBJECT
   public:
-    explicit cSettingEdit(int index, QWidget* parent = nullptr);
+    // The name is a part of those of the widgets: "Text_<name>" and others.
+    explicit cSettingEdit(const QString& name, QWidget* parent = nullptr);
+
+    // By itself it may be empty.
+    void DemandNumber() { m_IsNumberDemanded = true; }
 
     // With a typed text, that one stands in the field.
     void Show(const cSettingForm& form, const cVariant& value, const cTypedText* typed);
@@ -35,6 +39,7 @@ class cSettingEdit : public QWidget {
     void EditText(const QString& text);
     void EditChoice(int choice);
 
+    bool m_IsNumberDemanded = false;
     eVariantType m_Type = eVariantType::String;
     cTextEdit* m_Text;
     QComboBox* m_Choice;  // yes or no
