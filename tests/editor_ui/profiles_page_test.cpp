@@ -351,6 +351,9 @@ TEST_F(ProfilesPage, WhatIsChosenAndTypedStaysWhileAnotherPageShows) {
     for (int i = 0; i < 2; ++i) QTest::keyClick(view, Qt::Key_Down);
     const std::string chosen = LabelOf(Page(), "Label_Schedule_Chosen");
     ASSERT_TRUE(chosen.starts_with("Wednesday")) << chosen;
+    Page().hide();
+    Page().show();
+    EXPECT_EQ(LabelOf(Page(), "Label_Schedule_Chosen"), chosen);
     TypeStop("soon");
     Page().hide();
     Page().show();
