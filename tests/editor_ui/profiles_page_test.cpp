@@ -340,6 +340,14 @@ TEST_F(ProfilesPage, ATimeThatIsNoneIsAStepAndCanBeGivenUp) {
     Asked();
 }
 
+// Its end must not make a step of it any more.
+TEST_F(ProfilesPage, APageCanGoWhileATimeIsBeingTyped) {
+    ChooseMonday();
+    TypeStop("1730");
+    m_Page.reset();
+    EXPECT_EQ(Monday(0), "420-960");
+}
+
 // The rows of a new profile are numbered only as they are shown.
 TEST_F(ProfilesPage, WhatIsChosenAndTypedStaysWhileAnotherPageShows) {
     Press(Page(), "Button_New");

@@ -39,9 +39,11 @@ cFilePage::cFilePage(cEditorServices& services, cContentEditor* editor, cFileFor
             [this](const cEditStep& step) { m_UndoStack.push(new cStepCommand(step, m_Editor)); });
 }
 
-// The stack tells of its end when there is no editor any more.
+// The stack tells of its end when there is no editor any more, and the editor takes over what is typed in a
+// field when there is no stack.
 cFilePage::~cFilePage() {
     m_UndoStack.disconnect(this);
+    m_Editor.disconnect(this);
 }
 
 bool cFilePage::MaySave() {

@@ -58,6 +58,11 @@ cProfilesPage::cProfilesPage(cEditorServices& services, cFolderSource<cProfile>*
           std::move(form));
 }
 
+// The keyboard leaves its field when there is no profile any more that what is typed could go to.
+cProfilesPage::~cProfilesPage() {
+    m_Form->Show(nullptr, nullptr);
+}
+
 bool cProfilesPage::IsDirty() const {
     return cDefinitionPage::IsDirty() || m_Form->Calendar().Document().IsDirty();
 }

@@ -13,6 +13,7 @@ class cProfilesPage : public cDefinitionPage {
     // Reads the profiles anew. The services must outlive the page, and no other page of the station's
     // profiles may be in use.
     explicit cProfilesPage(cEditorServices& services, QWidget* parent = nullptr);
+    ~cProfilesPage() override;
 
     // The calendar that the form shows belongs to the page.
     bool IsDirty() const override;
