@@ -83,6 +83,15 @@ class cDefinitionFolder {
             return !Holds(identity) && !IsUnreadable(identity);
         });
     }
+    // Who edits the folder takes up by itself what others did to it, at its own pace and with what it holds.
+    // The last one that says so counts, as long as it keeps the function.
+    using TakeUp = std::function<void()>;
+    void SetEditor(const std::shared_ptr<const TakeUp>& takeUp) { m_Editor = takeUp; }
+    // For who only looks: brings the definitions up to what the folder holds, but for what an editor holds.
+    void LookAgain() {
+        if (const auto takeUp = m_Editor.lock()) return (*takeUp)();
+        Rescan([](std::size_t) { return false; });
+    }
     // Adds a new one, unsaved; its position.
     std::size_t Add(const std::string& name) {
         auto definition = std::make_unique<Definition>(m_Services);
@@ -100,14 +109,20 @@ class cDefinitionFolder {
     }
     // Adds an unsaved copy of what the file of one holds now; none when it can't be read.
     std::optional<std::size_t> AddFromFile(std::size_t position) {
-        Definition file(m_Services);
-        const std::int16_t identity = At(position).m_DiskIdentity;
-        if (!HasFile(position) || !file.LoadFromDisk(identity)) return std::nullopt;
+        const auto file = InFile(position);
+        if (!file) return std::nullopt;
         auto definition = std::make_unique<Definition>(m_Services);
-        definition->CopyFrom(file);
-        Rename(*definition, FreeName(NameOf(file)));
+        definition->CopyFrom(*file);
+        Rename(*definition, FreeName(NameOf(*file)));
         m_Entries.push_back({std::move(definition), {}, {}});
         return m_Entries.size() - 1;
+    }
+    // What the file of one holds now; none when it has none that can be read.
+    std::unique_ptr<Definition> InFile(std::size_t position) const {
+        auto file = std::make_unique<Definition>(m_Services);
+        // A load would make the missing file anew, empty.
+        if (!HasFile(position) || !file->LoadFromDisk(At(position).m_DiskIdentity)) return nullptr;
+        return file;
     }
     // Writes one, and reads it back as the file has it.
     bool Save(std::size_t position) {
@@ -125,12 +140,9 @@ class cDefinitionFolder {
     // Gives up the changes of one: back to its file, or away when it has none. False when its file is gone or
     // can no longer be read; it keeps its changes then.
     bool Revert(std::size_t position) {
-        const std::int16_t identity = At(position).m_DiskIdentity;
-        if (identity < 0) return Remove(position);
-        // A load would make the missing file anew, empty.
-        if (!HasFile(position)) return false;
-        auto again = std::make_unique<Definition>(m_Services);
-        if (!again->LoadFromDisk(identity)) return false;
+        if (At(position).m_DiskIdentity < 0) return Remove(position);
+        auto again = InFile(position);
+        if (!again) return false;
         m_Entries[position] = {std::move(again), {}, {}};
         m_Entries[position].stamp = StampOf(At(position));
         return true;
@@ -245,6 +257,7 @@ class cDefinitionFolder {
     const cDefinitionServices& m_Services;
     std::vector<cEntry> m_Entries;
     std::vector<cUnreadableFile> m_Unreadable;
+    std::weak_ptr<const TakeUp> m_Editor;
 };
 
 using cReceiverFolder = cDefinitionFolder<cReceiver>;

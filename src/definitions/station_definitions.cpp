@@ -15,6 +15,10 @@ bool Lists(const std::string& receivers, std::int16_t identity) {
                        [&](const std::string& item) { return ReceiverIdentity(item) == identity; });
 }
 
+bool Uses(const cProfile& profile, std::int16_t identity) {
+    return Lists(profile.m_ParallellReceivers, identity) || Lists(profile.m_SequentialReceivers, identity);
+}
+
 }  // namespace
 
 cStationDefinitions::cStationDefinitions(cFiles& files, const cClock& clock, cRandom& random,
@@ -57,14 +61,20 @@ void cStationDefinitions::OpenProfiles() {
     ReadProfiles();
 }
 
-std::vector<std::string> cStationDefinitions::ProfilesWith(std::int16_t receiverIdentity) const {
+// What was taken out of a profile and isn't saved yet still sends alarms there.
+bool cStationDefinitions::FileUses(std::size_t profile, std::int16_t receiverIdentity) const {
+    if (!m_Profiles.At(profile).HasChangedSinceLastLoadFromDisk()) return false;
+    const auto file = m_Profiles.InFile(profile);
+    return file && Uses(*file, receiverIdentity);
+}
+
+std::vector<std::string> cStationDefinitions::ProfilesWith(std::int16_t receiverIdentity) {
+    m_Profiles.LookAgain();
     std::vector<std::string> names;
     for (std::size_t i = 0; i < m_Profiles.Count(); ++i) {
         const cProfile& profile = m_Profiles.At(i);
-        if (Lists(profile.m_ParallellReceivers, receiverIdentity) ||
-            Lists(profile.m_SequentialReceivers, receiverIdentity)) {
+        if (Uses(profile, receiverIdentity) || FileUses(i, receiverIdentity))
             names.push_back(profile.GetName());
-        }
     }
     return names;
 }

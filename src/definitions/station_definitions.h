@@ -33,8 +33,9 @@ class cStationDefinitions {
     const std::string& ApplicationPath() const { return m_Services.ini.ApplicationPath(); }
     cReceiverFolder& Receivers() { return m_Receivers; }
     cProfileFolder& Profiles() { return m_Profiles; }
-    // The names of the profiles that list a receiver, as parallel or sequential one.
-    std::vector<std::string> ProfilesWith(std::int16_t receiverIdentity) const;
+    // The names of the profiles that list a receiver, as parallel or sequential one: as they stand here, or
+    // as their files have them at this moment.
+    std::vector<std::string> ProfilesWith(std::int16_t receiverIdentity);
 
     // What happened to files since the last call: upgrades, failures, wrong lines of the receiver type table.
     std::vector<cDefinitionNote> TakeNotes();
@@ -43,6 +44,7 @@ class cStationDefinitions {
     void MakeFolders();
     void ReadReceivers();
     void ReadProfiles();
+    bool FileUses(std::size_t profile, std::int16_t receiverIdentity) const;
 
     cLog m_Log;
     cReceiverTypes m_Types;

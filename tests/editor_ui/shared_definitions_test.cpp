@@ -1,5 +1,8 @@
 // Receivers and profiles that other programs change, remove or make meanwhile.
 
+#include <QAction>
+#include <QListWidget>
+#include <QPushButton>
 #include <QUndoStack>
 #include <functional>
 
@@ -12,13 +15,13 @@ namespace {
 
 using eConflict = cPrompts::eConflict;
 
-const std::string kEast = "Receivers\\Receiver_0007.dat";
+const std::string kEast = "Receivers\\Receiver_0007.dat", kNight = "Profiles\\Profile_0012.dat";
 
 class SharedDefinitions : public PageTest {
   protected:
     SharedDefinitions() {
         PutSample(kEast, "receiver_version_5.dat");
-        PutSample("Profiles\\Profile_0012.dat", "profile_version_5.dat");
+        PutSample(kNight, "profile_version_5.dat");
         m_Window.show();
     }
     cDefinitionPage& Page() { return dynamic_cast<cDefinitionPage&>(*m_Window.CurrentPage()); }
@@ -36,6 +39,32 @@ class SharedDefinitions : public PageTest {
     void ComeBack() {
         m_Window.hide();
         m_Window.show();
+    }
+    void CloseWithoutSaving() {
+        m_Prompts.m_SaveAnswers = {cPrompts::eSave::Discard};
+        Find<QAction>(m_Window, "Menu_Close")->trigger();
+        Asked();
+    }
+    // The receivers of the shown profile.
+    std::string Receivers() {
+        QStringList items;
+        for (const char* name : {"List_Parallel", "List_Sequential"}) {
+            const auto* list = Find<QListWidget>(Page(), name);
+            for (int row = 0; row < list->count(); ++row) items += list->item(row)->text();
+        }
+        return items.join(", ").toStdString();
+    }
+    // Takes the first parallel receiver out of the shown profile.
+    void RemoveReceiver() {
+        Find<QListWidget>(Page(), "List_Parallel")->setCurrentRow(0);
+        Find<QPushButton>(Page(), "Button_Parallel_Remove")->click();
+        EXPECT_TRUE(Page().IsDirty());
+    }
+    void ExpectNamedBeforeItsReceiverGoes() {
+        Press(Page(), "Button_Delete");
+        EXPECT_EQ(Asked(),
+                  "yes or no: Delete the receiver \"\xC3\x96st\" and its file?\n\nThese profiles send alarms "
+                  "to it:\nNight\n");
     }
     void Undo() { Page().UndoStack()->undo(); }
     std::string UndoText() { return Page().UndoStack()->undoText().toStdString(); }
@@ -152,6 +181,70 @@ TEST_F(SharedDefinitions, AProfileThatOthersChangedIsTakenUpAsAStep) {
     EXPECT_NE(m_Station.Profiles().At(0).m_SequentialReceivers, "42");
     EXPECT_FALSE(Page().Save());
     EXPECT_EQ(Asked(), Changed("Day"));
+}
+
+// --- the other kind
+
+TEST_F(SharedDefinitions, AReceiverWhoseChangesWereGivenUpHasItsNameAgainInTheProfiles) {
+    m_Window.ShowReceivers();
+    Type(Page(), "Text_ReceiverName", "Other");
+    CloseWithoutSaving();
+    m_Window.ShowProfiles();
+    EXPECT_EQ(Receivers().find("Other"), std::string::npos) << Receivers();
+}
+
+TEST_F(SharedDefinitions, AProfileThatIsOpenShowsTheNamesAgainToo) {
+    m_Window.ShowProfiles();
+    m_Window.ShowReceivers();
+    Type(Page(), "Text_ReceiverName", "Other");
+    CloseWithoutSaving();
+    EXPECT_EQ(Page().Title(), "Profiles");
+    EXPECT_EQ(Receivers().find("Other"), std::string::npos) << Receivers();
+}
+
+TEST_F(SharedDefinitions, AProfileWhoseChangesWereGivenUpIsNamedBeforeItsReceiverGoes) {
+    m_Window.ShowProfiles();
+    RemoveReceiver();
+    CloseWithoutSaving();
+    m_Window.ShowReceivers();
+    ExpectNamedBeforeItsReceiverGoes();
+}
+
+TEST_F(SharedDefinitions, AProfileThatSendsToAReceiverUntilItIsSavedIsNamed) {
+    m_Window.ShowProfiles();
+    RemoveReceiver();
+    m_Window.ShowReceivers();
+    ExpectNamedBeforeItsReceiverGoes();
+}
+
+TEST_F(SharedDefinitions, AProfileThatOthersMadeIsNamedBeforeItsReceiverGoes) {
+    m_Files.RemoveFile(Path(kNight));
+    m_Window.ShowReceivers();
+    PutSample(kNight, "profile_version_5.dat");
+    ExpectNamedBeforeItsReceiverGoes();
+}
+
+TEST_F(SharedDefinitions, AProfileThatOthersMadeIsNamedWhileTheProfilesAreOpen) {
+    m_Files.RemoveFile(Path(kNight));
+    m_Window.ShowProfiles();
+    m_Window.ShowReceivers();
+    PutSample(kNight, "profile_version_5.dat");
+    ExpectNamedBeforeItsReceiverGoes();
+    m_Window.ShowProfiles();
+    EXPECT_EQ(Rows(Page()).substr(0, 5), "Night");
+}
+
+TEST_F(SharedDefinitions, AReceiverThatOthersMadeIsKnownInTheProfiles) {
+    m_Window.ShowProfiles();
+    EXPECT_EQ(Receivers(), "\xC3\x96st (0007), (missing receiver 0008), (missing receiver 0009)");
+    PutSample("Receivers\\Receiver_0009.dat", "receiver_version_5.dat");
+    ComeBack();
+    EXPECT_EQ(Receivers(), "\xC3\x96st (0007), (missing receiver 0008), \xC3\x96st (0009)");
+    m_Window.ShowReceivers();
+    m_Window.ShowProfiles();
+    PutSample("Receivers\\Receiver_0008.dat", "receiver_version_5.dat");
+    ComeBack();
+    EXPECT_EQ(Receivers(), "\xC3\x96st (0007), \xC3\x96st (0008), \xC3\x96st (0009)");
 }
 
 }  // namespace

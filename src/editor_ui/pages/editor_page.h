@@ -28,6 +28,8 @@ class cEditorPage : public QWidget {
     void FinishTyping();
     // False when nothing was saved; the operator has been told why, or has cancelled.
     virtual bool Save() = 0;
+    // The page closes: what others may see of its changes goes back to what is saved.
+    virtual void GiveUp() {}
     // Whether the content can be saved under another name, by SaveAs.
     virtual bool HasSaveAs() const { return false; }
     virtual bool SaveAs() { return Save(); }

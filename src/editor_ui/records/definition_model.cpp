@@ -159,6 +159,13 @@ std::vector<cTakenUp> cDefinitionModel::Rescan() {
     return taken;
 }
 
+void cDefinitionModel::Reload() {
+    beginResetModel();
+    m_Source.Reload();
+    CompareAll();
+    endResetModel();
+}
+
 bool cDefinitionModel::Save(int row) {
     const bool saved = m_Source.Save(static_cast<std::size_t>(row));
     Refresh(row);
@@ -168,12 +175,6 @@ bool cDefinitionModel::Save(int row) {
 void cDefinitionModel::Refresh(int row) {
     m_Changed[static_cast<std::size_t>(row)] = m_Source.HasChanges(static_cast<std::size_t>(row));
     emit dataChanged(index(row, 0), index(row, Columns - 1));
-}
-
-void cDefinitionModel::Reset() {
-    beginResetModel();
-    CompareAll();
-    endResetModel();
 }
 
 }  // namespace vigrel

@@ -35,11 +35,10 @@ class cDefinitionModel : public QAbstractTableModel {
     RecordPtr TakeOut(int row);
     bool BringBack(int row, const cRecord& record);
     std::vector<cTakenUp> Rescan();
+    void Reload();
     bool Save(int row);
     // The definition of a row has changed.
     void Refresh(int row);
-    // The source was loaded anew.
-    void Reset();
 
     // To compare a definition with its file takes a while, so it is done once after each change.
     bool HasChanges(int row) const { return m_Changed[static_cast<std::size_t>(row)]; }

@@ -62,6 +62,7 @@ void cDefinitionPage::SetUp(cPageWords words, cPageForm form) {
     layout->addWidget(splitter, 1);
     m_Notes->Show(m_TakeNotes());
     Choose(m_List->PositionNear(0));
+    m_Source->SetTakeUp([this] { TakeUpFolder(); });
 }
 
 void cDefinitionPage::ConnectActions() {
@@ -316,6 +317,17 @@ bool cDefinitionPage::Save() {
     Changed();
     emit Message(tr("Saved: %1").arg(saved));
     return true;
+}
+
+// The other pages of the station speak of these definitions, too.
+void cDefinitionPage::GiveUp() {
+    if (!m_Model.HasChanges()) return;
+    m_Form.show(-1);
+    m_UndoStack.clear();
+    m_Model.Reload();
+    Choose(m_List->PositionNear(0));
+    // What can't be read was told when the page was opened.
+    m_TakeNotes();
 }
 
 void cDefinitionPage::Revert() {

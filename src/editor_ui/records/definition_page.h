@@ -60,6 +60,7 @@ class cDefinitionPage : public cEditorPage, private cRecordSteps {
     bool IsDirty() const override { return m_Model.HasChanges() || IsTyping(); }
     // Saves every changed definition; false, with the one chosen that can't be saved, when changes remain.
     bool Save() override;
+    void GiveUp() override;
     QUndoStack* UndoStack() override { return &m_UndoStack; }
     QList<QAction*> EditActions() const override { return m_Actions.Entries(); }
 

@@ -61,6 +61,10 @@ class cDefinitionSource {
     // to take it up.
     virtual bool HasNews() const = 0;
     virtual std::vector<cTakenUp> Rescan() = 0;
+    // What is to be done, as long as the source lives, when somebody else wants to see what the folder holds.
+    virtual void SetTakeUp(std::function<void()> takeUp) = 0;
+    // Gives up all changes.
+    virtual void Reload() = 0;
 
     virtual RecordPtr Copy(std::size_t position) const = 0;
     virtual bool AreSame(const cRecord& a, const cRecord& b) const = 0;
@@ -154,6 +158,14 @@ class cFolderSource : public cDefinitionSource {
         m_Marks.resize(m_Folder.Count());
         return taken;
     }
+    void SetTakeUp(std::function<void()> takeUp) override {
+        m_TakeUp = std::make_shared<const std::function<void()>>(std::move(takeUp));
+        m_Folder.SetEditor(m_TakeUp);
+    }
+    void Reload() override {
+        m_Folder.Load();
+        m_Marks.assign(m_Folder.Count(), {});
+    }
 
     RecordPtr Copy(std::size_t position) const override {
         return Record(m_Folder.CopyOf(position), m_Marks.at(position));
@@ -215,6 +227,7 @@ class cFolderSource : public cDefinitionSource {
     DetailsOf m_Details;
     ProblemOf m_Problem;
     std::vector<cMarks> m_Marks;  // by position
+    std::shared_ptr<const std::function<void()>> m_TakeUp;
 };
 
 }  // namespace vigrel

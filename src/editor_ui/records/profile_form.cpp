@@ -142,6 +142,7 @@ cReceiverPicker* cProfileForm::MakePicker(const char* objectName, const QString&
                                    text, step);
     };
     m_Binder.AddShow([picker, field](const cProfile& shown) { picker->Show(shown.*field); });
+    m_Pickers += picker;
     return picker;
 }
 
@@ -301,6 +302,10 @@ void cProfileForm::SetZoom(double zoom) {
 
 void cProfileForm::RefreshDayTypes() {
     for (cContentEditor* editor : Editors()) editor->RefreshDayTypes();
+}
+
+void cProfileForm::RefreshReceivers() {
+    for (cReceiverPicker* picker : m_Pickers) picker->Refresh();
 }
 
 }  // namespace vigrel

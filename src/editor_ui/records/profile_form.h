@@ -44,6 +44,8 @@ class cProfileForm : public QWidget {
     std::optional<cPrintout> Printout();
     void SetZoom(double zoom);
     void RefreshDayTypes();
+    // The receivers of the station may be others by now.
+    void RefreshReceivers();
 
     // After each change of the profile by the user.
     std::function<void(const cFieldStep&)> OnEdited;
@@ -73,6 +75,7 @@ class cProfileForm : public QWidget {
     std::string m_ShownSchedule;  // the state that the editor was set to, or told last
     cProfileCalendar* m_Calendar = nullptr;
     cActiveDayView* m_ActiveDay = nullptr;
+    QList<cReceiverPicker*> m_Pickers;
 };
 
 }  // namespace vigrel

@@ -114,6 +114,8 @@ void cProfilesPage::RefreshDayTypes() {
 
 void cProfilesPage::SeenAgain() {
     cDefinitionPage::SeenAgain();
+    m_Station.Receivers().LookAgain();
+    m_Form->RefreshReceivers();
     m_Form->Calendar().Document().TakeUp();
     m_Form->Calendar().Editor().RefreshHolidays();
 }

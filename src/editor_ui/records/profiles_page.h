@@ -24,7 +24,7 @@ class cProfilesPage : public cDefinitionPage {
     void RefreshDayTypes() override;
 
   protected:
-    // Receivers may have been renamed on their page meanwhile.
+    // Receivers may have been renamed meanwhile, on their page or by others.
     void SeenAgain() override;
     void showEvent(QShowEvent* event) override;
 

@@ -92,6 +92,10 @@ void cReceiverPicker::Show(const std::string& text) {
     Fill(m_Items.empty() ? -1 : 0);
 }
 
+void cReceiverPicker::Refresh() {
+    Fill(m_List->currentRow());
+}
+
 void cReceiverPicker::Fill(int current) {
     m_List->clear();
     for (const std::string& item : m_Items) m_List->addItem(ItemName(item));

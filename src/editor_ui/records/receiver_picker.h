@@ -25,6 +25,8 @@ class cReceiverPicker : public QWidget {
 
     // The list as its text form (definitions/receiver_list.h).
     void Show(const std::string& text);
+    // The receivers of the station may be others by now.
+    void Refresh();
     std::function<void(const std::string& text)> OnEdited;
 
   private:

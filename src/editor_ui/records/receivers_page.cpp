@@ -53,7 +53,7 @@ cReceiversPage::cReceiversPage(cEditorServices& services, cFolderSource<cReceive
           std::move(form));
 }
 
-QString cReceiversPage::DeleteWarning(int position) const {
+QString cReceiversPage::DeleteWarning(int position) {
     const std::int16_t identity = m_Station.Receivers().At(static_cast<std::size_t>(position)).m_DiskIdentity;
     if (identity < 0) return {};
     QStringList names;

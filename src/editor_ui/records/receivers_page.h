@@ -17,7 +17,7 @@ class cReceiversPage : public cDefinitionPage {
   private:
     // Takes the source over.
     cReceiversPage(cEditorServices& services, cFolderSource<cReceiver>* source, QWidget* parent);
-    QString DeleteWarning(int position) const;
+    QString DeleteWarning(int position);
 
     cStationDefinitions& m_Station;
     cFolderSource<cReceiver>& m_Source;

@@ -228,6 +228,7 @@ bool cDefinitionsWindow::ClosePage(int index) {
 }
 
 void cDefinitionsWindow::RemovePage(cEditorPage& page) {
+    page.GiveUp();
     m_Tabs.removeTab(m_Tabs.indexOf(&page));
     // The calendars let go of a schedule before it ends.
     SchedulesChanged();
