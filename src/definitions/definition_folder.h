@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "common/failure.h"
@@ -51,6 +53,7 @@ class cDefinitionFolder {
     // left out, and out of reach of everything here. What a crash left of a save is taken away.
     void Load() {
         m_Entries.clear();
+        m_NotLoaded.clear();
         RemoveDefinitionTemporaries(m_Services, Definition::kKind);
         LoadNew();
     }
@@ -78,9 +81,10 @@ class cDefinitionFolder {
         for (std::size_t i = 0; i < m_Entries.size(); ++i) {
             if (IsNews(i) && !isHeld(i)) return true;
         }
+        if (HaveUnreadableChanged()) return true;
         const std::vector<std::int16_t> identities = DefinitionIdentities(m_Services, Definition::kKind);
         return std::any_of(identities.begin(), identities.end(), [this](std::int16_t identity) {
-            return !Holds(identity) && !IsUnreadable(identity);
+            return !Holds(identity) && !m_NotLoaded.contains(PathOf(identity));
         });
     }
     // Who edits the folder takes up by itself what others did to it, at its own pace and with what it holds.
@@ -205,6 +209,11 @@ class cDefinitionFolder {
         cFileReader::cStamp seen{};  // of a file that was changed by others and looked at
     };
 
+    struct cNotLoaded {
+        cFileReader::cStamp stamp;
+        cPhrase reason;
+    };
+
     bool IsNews(std::size_t position) const {
         return StateOfFile(position) == eFileState::Changed &&
                m_Entries[position].seen != StampOf(At(position));
@@ -218,14 +227,22 @@ class cDefinitionFolder {
             return entry.definition->m_DiskIdentity == identity;
         });
     }
-    bool IsUnreadable(std::int16_t identity) const {
-        const std::string path = DefinitionFileName(m_Services, Definition::kKind, identity);
-        return std::any_of(m_Unreadable.begin(), m_Unreadable.end(),
-                           [&](const cUnreadableFile& file) { return file.path == path; });
+    // With what it is allowed to whom: that, too, decides whether it can be read.
+    static bool IsSame(const cFileReader::cStamp& a, const cFileReader::cStamp& b) {
+        return a == b && a.changedNs == b.changedNs;
     }
-    std::string PathOf(const Definition& definition) const {
-        return definition.CreateFileName(definition.m_DiskIdentity);
+    // Mended, removed, or one of two with one number by now.
+    bool HaveUnreadableChanged() const {
+        return std::any_of(m_NotLoaded.begin(), m_NotLoaded.end(),
+                           [this](const auto& each) {
+                               return !IsSame(each.second.stamp, m_Services.files.Stamp(each.first));
+                           }) ||
+               DefinitionsWithTheSameNumber(m_Services, Definition::kKind) != m_Twins;
     }
+    std::string PathOf(std::int16_t identity) const {
+        return DefinitionFileName(m_Services, Definition::kKind, identity);
+    }
+    std::string PathOf(const Definition& definition) const { return PathOf(definition.m_DiskIdentity); }
     cFileReader::cStamp StampOf(const Definition& definition) const {
         return m_Services.files.Stamp(PathOf(definition));
     }
@@ -233,30 +250,48 @@ class cDefinitionFolder {
         return At(position).m_DiskIdentity >= 0 && FileExists(m_Services.files, PathOf(At(position)));
     }
     bool WriteBack(std::int16_t identity, const std::string& bytes) const {
-        const std::string path = DefinitionFileName(m_Services, Definition::kKind, identity);
+        const std::string path = PathOf(identity);
         if (FileExists(m_Services.files, path)) return false;
         return !CatchFailure([&] { ReplaceFile(m_Services.files, path, bytes); });
     }
     // Whether a definition came in that was not held yet.
     bool LoadNew() {
         const std::size_t before = m_Entries.size();
-        m_Unreadable = DefinitionsWithTheSameNumber(m_Services, Definition::kKind);
+        const auto known = std::exchange(m_NotLoaded, {});
+        m_Twins = DefinitionsWithTheSameNumber(m_Services, Definition::kKind);
         for (const std::int16_t identity : DefinitionIdentities(m_Services, Definition::kKind)) {
             if (Holds(identity)) continue;
-            auto definition = std::make_unique<Definition>(m_Services);
-            const std::string path = definition->CreateFileName(identity);
-            if (definition->LoadFromDisk(identity)) {
-                m_Entries.push_back({std::move(definition), m_Services.files.Stamp(path), {}});
+            const auto former = known.find(PathOf(identity));
+            // Told once.
+            if (former != known.end() &&
+                IsSame(former->second.stamp, m_Services.files.Stamp(former->first))) {
+                m_NotLoaded.insert(*former);
             } else {
-                m_Unreadable.push_back({path, ReasonNotLoaded(m_Services, Definition::kKind, path)});
+                Load(identity);
             }
         }
+        m_Unreadable = m_Twins;
+        for (const auto& [path, file] : m_NotLoaded) m_Unreadable.push_back({path, file.reason});
         return m_Entries.size() != before;
+    }
+    // The stamp of one that isn't loaded is that of before: who writes it meanwhile is seen.
+    void Load(std::int16_t identity) {
+        const std::string path = PathOf(identity);
+        const cFileReader::cStamp stamp = m_Services.files.Stamp(path);
+        auto definition = std::make_unique<Definition>(m_Services);
+        if (definition->LoadFromDisk(identity)) {
+            m_Entries.push_back({std::move(definition), m_Services.files.Stamp(path), {}});
+        } else {
+            m_NotLoaded.emplace(path,
+                                cNotLoaded{stamp, ReasonNotLoaded(m_Services, Definition::kKind, path)});
+        }
     }
 
     const cDefinitionServices& m_Services;
     std::vector<cEntry> m_Entries;
-    std::vector<cUnreadableFile> m_Unreadable;
+    std::map<std::string, cNotLoaded> m_NotLoaded;  // by path
+    std::vector<cUnreadableFile> m_Twins;           // of a number that another one has
+    std::vector<cUnreadableFile> m_Unreadable;      // both
     std::weak_ptr<const TakeUp> m_Editor;
 };
 

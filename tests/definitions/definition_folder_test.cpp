@@ -156,9 +156,10 @@ TEST_F(DefinitionFolder, AnUpgradeThatCantBeWrittenIsTold) {
 // Two spellings of one name, as other systems can put them into the folder.
 class cFilesWithTwins : public testing::cFakeFiles {
   public:
+    bool m_HasTwins = true;
     std::vector<std::string> ListFiles(std::string_view folder, std::string_view mask) const override {
         std::vector<std::string> names = cFakeFiles::ListFiles(folder, mask);
-        if (mask.starts_with("Receiver_")) names.insert(names.begin(), "RECEIVER_0007.DAT");
+        if (m_HasTwins && mask.starts_with("Receiver_")) names.insert(names.begin(), "RECEIVER_0007.DAT");
         return names;
     }
 };
@@ -174,6 +175,36 @@ TEST_F(DefinitionFolder, OfTwoFilesWithOneNumberOneIsOpenedAndTheOtherTold) {
         {"C:\\App\\Receivers\\RECEIVER_0007.DAT",
          "It has the same number as Receiver_0007.dat; rename one of them."}};
     EXPECT_EQ(folder.Unreadable(), others);
+}
+
+TEST_F(DefinitionFolder, TwinsThatComeAndGoAreNews) {
+    const auto held = [](std::size_t) { return false; };
+    cFilesWithTwins files;
+    files.m_HasTwins = false;
+    files.Put(ReceiverPath("0007"), testing::Sample("receiver_version_5.dat"));
+    const cDefinitionServices services{files, m_Clock, m_Random, m_Texts, m_Log, m_Ini, m_Types};
+    cReceiverFolder folder(services);
+    folder.Load();
+    for (const bool hasTwins : {true, false}) {
+        files.m_HasTwins = hasTwins;
+        EXPECT_TRUE(folder.HasNews(held)) << hasTwins;
+        folder.Rescan(held);
+        EXPECT_EQ(folder.Unreadable().size(), hasTwins ? 1u : 0u);
+        EXPECT_FALSE(folder.HasNews(held)) << hasTwins;
+    }
+}
+
+TEST_F(DefinitionFolder, WhatCantBeReadIsToldOnce) {
+    const auto held = [](std::size_t) { return false; };
+    m_Receivers.Load();
+    m_Notes.clear();
+    m_Files.Put(ReceiverPath("0011"), "??");
+    EXPECT_TRUE(m_Receivers.HasNews(held));
+    m_Receivers.Rescan(held);
+    // Of the new one, not of 0008 again.
+    ASSERT_EQ(m_Notes.size(), 1u);
+    EXPECT_EQ(m_Receivers.Unreadable().size(), 2u);
+    EXPECT_FALSE(m_Receivers.HasNews(held));
 }
 
 TEST_F(DefinitionFolder, WhatIsBroughtBackHasItsFileAndItsChanges) {

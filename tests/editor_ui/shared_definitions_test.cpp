@@ -183,6 +183,32 @@ TEST_F(SharedDefinitions, AProfileThatOthersChangedIsTakenUpAsAStep) {
     EXPECT_EQ(Asked(), Changed("Day"));
 }
 
+// --- files that can't be read
+
+TEST_F(SharedDefinitions, AFileThatWasMendedIsReadAndOneThatWasRemovedHasNoRow) {
+    Put("Receivers\\Receiver_0041.dat", "??");
+    Put("Receivers\\Receiver_0042.dat", "");
+    m_Window.ShowReceivers();
+    EXPECT_NE(Rows(Page()).find("Receiver_0041.dat | The file's version"), std::string::npos);
+    PutSample("Receivers\\Receiver_0041.dat", "receiver_version_5.dat");
+    ComeBack();
+    EXPECT_NE(Rows(Page()).find("| 0041"), std::string::npos) << Rows(Page());
+    EXPECT_EQ(Rows(Page()).find("Receiver_0041.dat"), std::string::npos) << Rows(Page());
+    EXPECT_NE(Rows(Page()).find("Receiver_0042.dat"), std::string::npos) << Rows(Page());
+    m_Files.RemoveFile(Path("Receivers\\Receiver_0042.dat"));
+    ComeBack();
+    EXPECT_EQ(Rows(Page()).find("Receiver_0042.dat"), std::string::npos) << Rows(Page());
+    EXPECT_FALSE(m_Files.FileExists(Path("Receivers\\Receiver_0042.dat")));
+}
+
+TEST_F(SharedDefinitions, AFileThatIsDamagedInAnotherWayByNowSaysSo) {
+    Put("Receivers\\Receiver_0041.dat", "");
+    m_Window.ShowReceivers();
+    Put("Receivers\\Receiver_0041.dat", "x");
+    ComeBack();
+    EXPECT_NE(Rows(Page()).find("Receiver_0041.dat | The file has 1 bytes"), std::string::npos);
+}
+
 // --- the other kind
 
 TEST_F(SharedDefinitions, AReceiverWhoseChangesWereGivenUpHasItsNameAgainInTheProfiles) {
