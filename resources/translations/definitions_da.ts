@@ -1105,6 +1105,14 @@
         <source>File</source>
         <translation>Fil</translation>
     </message>
+    <message>
+        <source>Another program has changed the file meanwhile.</source>
+        <translation>Et andet program har ændret filen i mellemtiden.</translation>
+    </message>
+    <message>
+        <source>Another program has removed the file.</source>
+        <translation>Et andet program har fjernet filen.</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cDefinitionPage</name>
@@ -1191,6 +1199,18 @@
     <message>
         <source>taking over &quot;%1&quot;</source>
         <translation>overtagelse af &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Another program has changed &quot;%1&quot;</source>
+        <translation>Et andet program har ændret &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Another program has removed &quot;%1&quot;</source>
+        <translation>Et andet program har fjernet &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Changed or removed by other programs: %1</source>
+        <translation>Ændret eller fjernet af andre programmer: %1</translation>
     </message>
 </context>
 <context>

@@ -1105,6 +1105,14 @@
         <source>File</source>
         <translation>Datei</translation>
     </message>
+    <message>
+        <source>Another program has changed the file meanwhile.</source>
+        <translation>Ein anderes Programm hat die Datei inzwischen geändert.</translation>
+    </message>
+    <message>
+        <source>Another program has removed the file.</source>
+        <translation>Ein anderes Programm hat die Datei entfernt.</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cDefinitionPage</name>
@@ -1191,6 +1199,18 @@
     <message>
         <source>taking over &quot;%1&quot;</source>
         <translation>Übernehmen von „%1“</translation>
+    </message>
+    <message>
+        <source>Another program has changed &quot;%1&quot;</source>
+        <translation>Ein anderes Programm hat „%1“ geändert</translation>
+    </message>
+    <message>
+        <source>Another program has removed &quot;%1&quot;</source>
+        <translation>Ein anderes Programm hat „%1“ entfernt</translation>
+    </message>
+    <message>
+        <source>Changed or removed by other programs: %1</source>
+        <translation>Von anderen Programmen geändert oder entfernt: %1</translation>
     </message>
 </context>
 <context>

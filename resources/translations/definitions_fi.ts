@@ -1105,6 +1105,14 @@
         <source>File</source>
         <translation>Tiedosto</translation>
     </message>
+    <message>
+        <source>Another program has changed the file meanwhile.</source>
+        <translation>Toinen ohjelma on sillä välin muuttanut tiedostoa.</translation>
+    </message>
+    <message>
+        <source>Another program has removed the file.</source>
+        <translation>Toinen ohjelma on poistanut tiedoston.</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cDefinitionPage</name>
@@ -1191,6 +1199,18 @@
     <message>
         <source>taking over &quot;%1&quot;</source>
         <translation>käyttöönotto: &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Another program has changed &quot;%1&quot;</source>
+        <translation>Toinen ohjelma on muuttanut kohdetta &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Another program has removed &quot;%1&quot;</source>
+        <translation>Toinen ohjelma on poistanut kohteen &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Changed or removed by other programs: %1</source>
+        <translation>Muiden ohjelmien muuttamat tai poistamat: %1</translation>
     </message>
 </context>
 <context>

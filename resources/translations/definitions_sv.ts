@@ -1105,6 +1105,14 @@
         <source>File</source>
         <translation>Fil</translation>
     </message>
+    <message>
+        <source>Another program has changed the file meanwhile.</source>
+        <translation>Ett annat program har ändrat filen under tiden.</translation>
+    </message>
+    <message>
+        <source>Another program has removed the file.</source>
+        <translation>Ett annat program har tagit bort filen.</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cDefinitionPage</name>
@@ -1191,6 +1199,18 @@
     <message>
         <source>taking over &quot;%1&quot;</source>
         <translation>övertagande av &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Another program has changed &quot;%1&quot;</source>
+        <translation>Ett annat program har ändrat &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Another program has removed &quot;%1&quot;</source>
+        <translation>Ett annat program har tagit bort &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Changed or removed by other programs: %1</source>
+        <translation>Ändrade eller borttagna av andra program: %1</translation>
     </message>
 </context>
 <context>

@@ -12,6 +12,7 @@
 
 #include "common/failure.h"
 #include "common/file_procedures.h"
+#include "common/missing_file.h"
 #include "definitions/definition_file.h"
 #include "definitions/profile.h"
 #include "definitions/receiver.h"
@@ -58,21 +59,16 @@ class cDefinitionFolder {
         LoadNew();
     }
     using Held = std::function<bool(std::size_t position)>;
-    // What took the place of a definition, with what it was before.
-    using Taken = std::function<void(std::size_t position, std::unique_ptr<Definition> before)>;
-    // Takes up what other programs did: files that are new, and changed files of definitions that are not
-    // held. Positions stay; what is new comes last. Whether anything was taken up.
+    // A definition that others changed, or one that has gone with its file, as it was before.
+    using Taken = std::function<void(std::size_t position, std::unique_ptr<Definition> before, bool isGone)>;
+    // Takes up what other programs did: files that are new, and changed and removed files of definitions that
+    // are not held. Begins with the last position, so that those that are told of are still right; what is
+    // new comes last. Whether anything was taken up.
     bool Rescan(const Held& isHeld, const Taken& onTaken = nullptr) {
         bool changed = false;
-        for (std::size_t i = 0; i < m_Entries.size(); ++i) {
+        for (std::size_t i = m_Entries.size(); i-- > 0;) {
             if (!IsNews(i) || isHeld(i)) continue;
-            const cFileReader::cStamp stamp = StampOf(At(i));
-            auto before = CopyOf(i);
-            const bool taken = Revert(i);
-            // Told once: what can't be read stays as it was read before.
-            m_Entries[i].seen = stamp;
-            if (taken && onTaken) onTaken(i, std::move(before));
-            changed = taken || changed;
+            changed = (IsGone(i) ? LetGo(i, onTaken) : ReadAgain(i, onTaken)) || changed;
         }
         return LoadNew() || changed;
     }
@@ -166,12 +162,16 @@ class cDefinitionFolder {
         return bytes;
     }
     // Brings one back to its position, with its file when that had been there. False when it comes back
-    // unsaved instead: the file's name is taken meanwhile, or it can't be written.
+    // unsaved instead: the file's name is taken meanwhile, or it can't be written. One whose file was gone
+    // already has its number again, as long as nobody else has it.
     bool BringBack(std::size_t position, const Definition& content, std::int16_t identity,
                    const std::optional<std::string>& file) {
         auto definition = std::make_unique<Definition>(m_Services);
         const bool asFile = file && WriteBack(identity, *file) && definition->LoadFromDisk(identity);
         definition->CopyFrom(content);
+        if (!file && identity >= 0 && !Holds(identity) && IsMissing(m_Services.files, PathOf(identity))) {
+            definition->m_DiskIdentity = identity;
+        }
         cEntry entry{std::move(definition), {}, {}};
         if (asFile) entry.stamp = StampOf(*entry.definition);
         m_Entries.insert(m_Entries.begin() + static_cast<std::ptrdiff_t>(position), std::move(entry));
@@ -214,9 +214,28 @@ class cDefinitionFolder {
         cPhrase reason;
     };
 
+    // For certain, not only at a look that failed.
+    bool IsGone(std::size_t position) const {
+        return StateOfFile(position) == eFileState::Gone && IsMissing(m_Services.files, PathOf(At(position)));
+    }
     bool IsNews(std::size_t position) const {
-        return StateOfFile(position) == eFileState::Changed &&
-               m_Entries[position].seen != StampOf(At(position));
+        return IsGone(position) || (StateOfFile(position) == eFileState::Changed &&
+                                    m_Entries[position].seen != StampOf(At(position)));
+    }
+    bool LetGo(std::size_t position, const Taken& onTaken) {
+        auto before = std::move(m_Entries[position].definition);
+        m_Entries.erase(m_Entries.begin() + static_cast<std::ptrdiff_t>(position));
+        if (onTaken) onTaken(position, std::move(before), true);
+        return true;
+    }
+    bool ReadAgain(std::size_t position, const Taken& onTaken) {
+        const cFileReader::cStamp stamp = StampOf(At(position));
+        auto before = CopyOf(position);
+        const bool taken = Revert(position);
+        // Told once: what can't be read stays as it was read before.
+        m_Entries[position].seen = stamp;
+        if (taken && onTaken) onTaken(position, std::move(before), false);
+        return taken;
     }
     bool HasName(const std::string& name) const {
         return std::any_of(m_Entries.begin(), m_Entries.end(),

@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QListWidget>
+#include <QMenu>
 #include <QPushButton>
 #include <QUndoStack>
 #include <functional>
@@ -207,6 +208,85 @@ TEST_F(SharedDefinitions, AFileThatIsDamagedInAnotherWayByNowSaysSo) {
     Put("Receivers\\Receiver_0041.dat", "x");
     ComeBack();
     EXPECT_NE(Rows(Page()).find("Receiver_0041.dat | The file has 1 bytes"), std::string::npos);
+}
+
+// --- removed by others
+
+TEST_F(SharedDefinitions, WhatOthersRemovedLeavesTheListAsAStep) {
+    PutSample("Receivers\\Receiver_0042.dat", "receiver_version_5.dat");
+    m_Window.ShowReceivers();
+    Page().Choose(1);
+    Type(Page(), "Text_ReceiverName", "North");
+    ASSERT_TRUE(Page().Save());
+    m_Files.RemoveFile(Path(kEast));
+    ComeBack();
+    EXPECT_EQ(Rows(Page()), "North | (Unknown type: 0009) | 0042\n");
+    EXPECT_EQ(TextOf(Page(), "Text_ReceiverName"), "North");
+    EXPECT_EQ(UndoText(), "removing \"\xC3\x96st\"");
+    EXPECT_FALSE(Page().IsDirty());
+    // With its number, by which profiles know it; whether it gets a file again is for the user to say.
+    Undo();
+    EXPECT_EQ(Rows(Page()),
+              "North | (Unknown type: 0009) | 0042\n\xC3\x96st * | (Unknown type: 0009) | 0007\n");
+    EXPECT_FALSE(Page().Save());
+    EXPECT_EQ(Asked(),
+              "mine, theirs: Another program has removed the file of \"\xC3\x96st\". Write it again, or "
+              "remove it here too?\n");
+    Undo();
+    EXPECT_EQ(Receiver(1).m_ReceiverName, "\xD6st");
+    for (int i = 0; i < 2; ++i) Page().UndoStack()->redo();
+    EXPECT_EQ(Rows(Page()), "North | (Unknown type: 0009) | 0042\n");
+    EXPECT_EQ(Asked(), "");
+}
+
+TEST_F(SharedDefinitions, TheNextOneIsChosenWhenOthersRemovedTheChosenOne) {
+    PutSample("Receivers\\Receiver_0042.dat", "receiver_version_5.dat");
+    m_Window.ShowReceivers();
+    Page().Choose(0);
+    m_Files.RemoveFile(Path(kEast));
+    ComeBack();
+    ASSERT_EQ(Page().Chosen(), 0);
+    Type(Page(), "Text_ReceiverName", "North");
+    EXPECT_EQ(Receiver(0).m_DiskIdentity, 42);
+    EXPECT_EQ(Receiver(0).m_ReceiverName, "North");
+    m_Files.RemoveFile(Path("Receivers\\Receiver_0042.dat"));
+    Undo();
+    ComeBack();
+    EXPECT_EQ(Page().Chosen(), -1);
+    EXPECT_TRUE(Find<QPushButton>(Page(), "Button_First")->isVisible());
+}
+
+TEST_F(SharedDefinitions, WhatIsChangedHereAndRemovedByOthersStaysWithAMark) {
+    m_Window.ShowReceivers();
+    Type(Page(), "Text_ReceiverName", "East");
+    const auto row = [&] {
+        return Find<QAbstractItemView>(Page(), "List_Definitions")->model()->index(0, 0);
+    };
+    EXPECT_EQ(row().data(Qt::ToolTipRole), "Not saved yet");
+    GiveNumbers(7, "99");
+    ComeBack();
+    EXPECT_EQ(row().data(Qt::ToolTipRole), "Another program has changed the file meanwhile.");
+    m_Files.RemoveFile(Path(kEast));
+    ComeBack();
+    EXPECT_EQ(row().data(Qt::ToolTipRole), "Another program has removed the file.");
+    EXPECT_FALSE(row().data(Qt::DecorationRole).isNull());
+    EXPECT_EQ(Rows(Page()), "East * | (Unknown type: 0009) | 0007\n");
+    m_Prompts.m_ConflictAnswers = {eConflict::Mine};
+    EXPECT_TRUE(Page().Save());
+    EXPECT_TRUE(row().data(Qt::ToolTipRole).isNull());
+    EXPECT_TRUE(m_Files.FileExists(Path(kEast)));
+}
+
+TEST_F(SharedDefinitions, AReceiverThatOthersRemovedIsMissingInTheProfilesAndNotOffered) {
+    m_Window.ShowProfiles();
+    m_Files.RemoveFile(Path(kEast));
+    ComeBack();
+    EXPECT_EQ(Receivers(), "(missing receiver 0007), (missing receiver 0008), (missing receiver 0009)");
+    RemoveReceiver();
+    QMenu* menu = Find<QPushButton>(Page(), "Button_Sequential_Add")->menu();
+    emit menu->aboutToShow();
+    ASSERT_EQ(menu->actions().size(), 1);
+    EXPECT_EQ(menu->actions()[0]->text(), "No other saved receiver");
 }
 
 // --- the other kind

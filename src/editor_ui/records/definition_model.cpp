@@ -5,6 +5,7 @@
 #include <QPalette>
 #include <QStyle>
 #include <algorithm>
+#include <utility>
 
 #include "common/file_procedures.h"
 #include "editor_ui/pages/reasons.h"
@@ -18,7 +19,32 @@ cDefinitionModel::cDefinitionModel(cDefinitionSource& source, QObject* parent)
 
 void cDefinitionModel::CompareAll() {
     m_Changed.resize(m_Source.Count());
-    for (std::size_t i = 0; i < m_Changed.size(); ++i) m_Changed[i] = m_Source.HasChanges(i);
+    m_Files.resize(m_Changed.size());
+    for (std::size_t i = 0; i < m_Changed.size(); ++i) {
+        m_Changed[i] = m_Source.HasChanges(i);
+        m_Files[i] = m_Changed[i] ? m_Source.StateOfFile(i) : eFileState::Unchanged;
+    }
+}
+
+void cDefinitionModel::LookAtFiles() {
+    for (std::size_t i = 0; i < m_Changed.size(); ++i) {
+        const eFileState now = m_Changed[i] ? m_Source.StateOfFile(i) : eFileState::Unchanged;
+        if (std::exchange(m_Files[i], now) != now) Refresh(static_cast<int>(i));
+    }
+}
+
+QString cDefinitionModel::Obstacle(int row) const {
+    const auto position = static_cast<std::size_t>(row);
+    const QString problem = m_Source.Problem(position).text;
+    if (!problem.isEmpty()) return tr("Can't be saved: %1").arg(problem);
+    switch (m_Files[position]) {
+        case eFileState::Changed:
+            return tr("Another program has changed the file meanwhile.");
+        case eFileState::Gone:
+            return tr("Another program has removed the file.");
+        default:
+            return {};
+    }
 }
 
 bool cDefinitionModel::HasChanges() const {
@@ -48,14 +74,13 @@ QVariant cDefinitionModel::data(const QModelIndex& index, int role) const {
 
 QVariant cDefinitionModel::DefinitionData(const QModelIndex& index, int role) const {
     const bool changed = HasChanges(index.row());
-    const auto problem = [&] { return m_Source.Problem(static_cast<std::size_t>(index.row())).text; };
     switch (role) {
         case PlainTextRole:
             return PlainText(index);
         case Qt::DisplayRole:
             return PlainText(index) + (index.column() == Name && changed ? " *" : "");
         case Qt::DecorationRole:
-            if (index.column() != Name || !changed || problem().isEmpty()) return {};
+            if (index.column() != Name || !changed || Obstacle(index.row()).isEmpty()) return {};
             return QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
         case Qt::FontRole: {
             QFont font;
@@ -67,7 +92,7 @@ QVariant cDefinitionModel::DefinitionData(const QModelIndex& index, int role) co
             return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
         case Qt::ToolTipRole:
             if (!changed) return {};
-            return problem().isEmpty() ? tr("Not saved yet") : tr("Can't be saved: %1").arg(problem());
+            return Obstacle(index.row()).isEmpty() ? tr("Not saved yet") : Obstacle(index.row());
         default:
             return {};
     }
@@ -98,6 +123,7 @@ QVariant cDefinitionModel::headerData(int section, Qt::Orientation orientation, 
 
 int cDefinitionModel::EndAdding(std::size_t position) {
     m_Changed.push_back(m_Source.HasChanges(position));
+    m_Files.push_back(eFileState::Unchanged);
     endInsertRows();
     return static_cast<int>(position);
 }
@@ -168,6 +194,7 @@ void cDefinitionModel::Reload() {
 
 bool cDefinitionModel::Save(int row) {
     const bool saved = m_Source.Save(static_cast<std::size_t>(row));
+    if (saved) m_Files[static_cast<std::size_t>(row)] = eFileState::Unchanged;
     Refresh(row);
     return saved;
 }

@@ -8,8 +8,9 @@
 namespace vigrel {
 
 // The definitions of a source as rows: name, details, number of the file. A name with unsaved changes is bold
-// and marked with "*", one that can't be saved has a warning sign; one that is not enabled is grey. Rows are
-// the positions of the source; behind them the files that can't be read have a row each.
+// and marked with "*", one that can't be saved, or whose file others changed or removed, has a warning sign;
+// one that is not enabled is grey. Rows are the positions of the source; behind them the files that can't be
+// read have a row each.
 class cDefinitionModel : public QAbstractTableModel {
     Q_OBJECT
   public:
@@ -36,6 +37,8 @@ class cDefinitionModel : public QAbstractTableModel {
     bool BringBack(int row, const cRecord& record);
     std::vector<cTakenUp> Rescan();
     void Reload();
+    // Looks what others did to the files of the definitions with changes.
+    void LookAtFiles();
     bool Save(int row);
     // The definition of a row has changed.
     void Refresh(int row);
@@ -51,11 +54,14 @@ class cDefinitionModel : public QAbstractTableModel {
     QVariant DefinitionData(const QModelIndex& index, int role) const;
     QVariant UnreadableData(const QModelIndex& index, int role) const;
     void CompareAll();
+    // What stands in the way of a save, or at least in its course; empty for nothing.
+    QString Obstacle(int row) const;
     int EndAdding(std::size_t position);
 
     cDefinitionSource& m_Source;
     QString m_Details;
-    std::vector<bool> m_Changed;  // by row
+    std::vector<bool> m_Changed;      // by row
+    std::vector<eFileState> m_Files;  // by row, of those with changes
 };
 
 }  // namespace vigrel

@@ -19,6 +19,16 @@ namespace {
 
 constexpr int kUndoSteps = 200;
 
+// Where a definition stands after what was taken up; -1 when it has gone.
+int PositionAfter(const std::vector<cTakenUp>& taken, int position) {
+    for (const cTakenUp& each : taken) {
+        if (each.after || each.position > position) continue;
+        if (each.position == position) return -1;
+        --position;
+    }
+    return position;
+}
+
 }  // namespace
 
 cDefinitionPage::cDefinitionPage(cEditorServices& services, std::unique_ptr<cDefinitionSource> source,
@@ -358,11 +368,15 @@ void cDefinitionPage::RevertPosition(int position) {
 
 // Another editor may have worked on the folder while this one was away. What is changed here stays.
 void cDefinitionPage::TakeUpFolder() {
+    m_Model.LookAtFiles();
     if (!m_Source->HasNews()) return;
     FinishTyping();
     const int chosen = Chosen();
+    const int place = m_List->PlaceOf(chosen);
     std::vector<cTakenUp> taken = m_Model.Rescan();
-    Choose(chosen);
+    const int now = PositionAfter(taken, chosen);
+    Choose(now < 0 && chosen >= 0 ? m_List->PositionNear(place) : now);
+    TellTakenUp(taken);
     PushTakenUp(std::move(taken));
     Changed();
     m_Notes->Show(m_TakeNotes());
@@ -373,12 +387,24 @@ void cDefinitionPage::TakeUpFolder() {
 void cDefinitionPage::PushTakenUp(std::vector<cTakenUp> taken) {
     if (taken.size() > 1) m_UndoStack.beginMacro(tr("taking over the changes of other programs"));
     for (cTakenUp& each : taken) {
-        const cFieldStep step{tr("taking over \"%1\"").arg(NameAt(each.position)), {}};
+        if (!each.after) {
+            m_UndoStack.push(new cListCommand(*this, tr("removing \"%1\"").arg(each.name), each.position,
+                                              std::move(each.before)));
+            continue;
+        }
+        const cFieldStep step{tr("taking over \"%1\"").arg(each.name), {}};
         m_UndoStack.push(new cFieldCommand(*this, each.position, std::move(each.before),
-                                           m_Source->Copy(static_cast<std::size_t>(each.position)), step,
-                                           m_Session));
+                                           std::move(each.after), step, m_Session));
     }
     if (taken.size() > 1) m_UndoStack.endMacro();
+}
+
+void cDefinitionPage::TellTakenUp(const std::vector<cTakenUp>& taken) {
+    if (taken.empty()) return;
+    const cTakenUp& first = taken.front();
+    const QString one = first.after ? tr("Another program has changed \"%1\"").arg(first.name)
+                                    : tr("Another program has removed \"%1\"").arg(first.name);
+    emit Message(taken.size() == 1 ? one : tr("Changed or removed by other programs: %1").arg(taken.size()));
 }
 
 // --- steps
@@ -395,7 +421,8 @@ void cDefinitionPage::RestoreRecord(int position, const cRecord& record, const Q
 // A file goes only with a yes, whichever way it goes.
 RecordPtr cDefinitionPage::TakeOutRecord(int position) {
     Choose(position);
-    const bool hasFile = m_Source->Identity(static_cast<std::size_t>(position)) >= 0;
+    const auto place = static_cast<std::size_t>(position);
+    const bool hasFile = m_Source->Identity(place) >= 0 && m_Source->StateOfFile(place) != eFileState::Gone;
     RecordPtr record;
     if (!hasFile || m_Services.m_Prompts.AskYesNo(this, DeleteQuestion(position))) record = TakeOut(position);
     if (!record) EndOfSteps();

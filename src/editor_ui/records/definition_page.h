@@ -97,6 +97,7 @@ class cDefinitionPage : public cEditorPage, private cRecordSteps {
     void RevertPosition(int position);
     void TakeUpFolder();
     void PushTakenUp(std::vector<cTakenUp> taken);
+    void TellTakenUp(const std::vector<cTakenUp>& taken);
     void EndOfSteps();
     QString NameAt(int position) const;
     // --- cRecordSteps

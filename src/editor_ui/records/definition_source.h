@@ -26,10 +26,12 @@ class cRecord {
 };
 using RecordPtr = std::shared_ptr<const cRecord>;
 
-// What another program saved took the place of a definition.
+// What another program saved took the place of a definition, or the definition went with its file.
 struct cTakenUp {
     int position;
+    QString name;  // that of before
     RecordPtr before;
+    RecordPtr after;  // none for one that has gone
 };
 
 // The definitions of one kind as a page shows them, by position. Positions count from 0 and shift when one is
@@ -58,7 +60,7 @@ class cDefinitionSource {
     virtual bool Save(std::size_t position) = 0;
     virtual bool Revert(std::size_t position) = 0;
     // What other programs did to the folder, but for definitions with changes: whether there is anything, and
-    // to take it up.
+    // to take it up. Each position is the one at its turn.
     virtual bool HasNews() const = 0;
     virtual std::vector<cTakenUp> Rescan() = 0;
     // What is to be done, as long as the source lives, when somebody else wants to see what the folder holds.
@@ -147,14 +149,21 @@ class cFolderSource : public cDefinitionSource {
     }
     std::vector<cTakenUp> Rescan() override {
         std::vector<cTakenUp> taken;
-        m_Folder.Rescan(
-            [this](std::size_t position) { return HasChanges(position); },
-            [&](std::size_t position, std::unique_ptr<Definition> before) {
-                // Written anew as it was, it is no news.
-                if (before->HasSameContentAs(m_Folder.At(position))) return;
-                taken.push_back({static_cast<int>(position), Record(std::move(before), m_Marks[position])});
-                m_Marks[position].TakeUp();
-            });
+        m_Folder.Rescan([this](std::size_t position) { return HasChanges(position); },
+                        [&](std::size_t position, std::unique_ptr<Definition> before, bool isGone) {
+                            // Written anew as it was, it is no news.
+                            if (!isGone && before->HasSameContentAs(m_Folder.At(position))) return;
+                            const QString name = ToQString(NameOf(*before));
+                            auto record = Record(std::move(before), m_Marks[position]);
+                            if (isGone) {
+                                record->identity = record->content->m_DiskIdentity;
+                                m_Marks.erase(Place(position));
+                            } else {
+                                m_Marks[position].TakeUp();
+                            }
+                            taken.push_back({static_cast<int>(position), name, std::move(record),
+                                             isGone ? nullptr : Copy(position)});
+                        });
         m_Marks.resize(m_Folder.Count());
         return taken;
     }

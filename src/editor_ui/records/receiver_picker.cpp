@@ -59,6 +59,8 @@ void cReceiverPicker::FillMenu() {
         const cReceiver& receiver = m_Receivers.At(i);
         const std::string item = std::to_string(receiver.m_DiskIdentity);
         if (receiver.m_DiskIdentity < 0 || Lists(receiver.m_DiskIdentity)) continue;
+        // One with changes stays in its list though others removed its file.
+        if (m_Receivers.StateOfFile(i) == eFileState::Gone) continue;
         free.emplace_back(ItemName(item), item);
     }
     std::sort(free.begin(), free.end(),
