@@ -669,6 +669,14 @@
         <source>Save as</source>
         <translation>Gem som</translation>
     </message>
+    <message>
+        <source>&amp;Write again</source>
+        <translation>&amp;Skriv igen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove here</source>
+        <translation>&amp;Fjern her</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cActiveDayView</name>

@@ -669,6 +669,14 @@
         <source>Save as</source>
         <translation>Speichern unter</translation>
     </message>
+    <message>
+        <source>&amp;Write again</source>
+        <translation>&amp;Neu schreiben</translation>
+    </message>
+    <message>
+        <source>&amp;Remove here</source>
+        <translation>&amp;Hier entfernen</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cActiveDayView</name>

@@ -669,6 +669,14 @@
         <source>Save as</source>
         <translation>Tallenna nimellä</translation>
     </message>
+    <message>
+        <source>&amp;Write again</source>
+        <translation>&amp;Kirjoita uudelleen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove here</source>
+        <translation>&amp;Poista täältä</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cActiveDayView</name>

@@ -16,8 +16,8 @@ class cFakePrompts : public cPrompts {
         m_Asked += "save " + title + "\n";
         return Take(m_SaveAnswers, eSave::Cancel);
     }
-    eConflict AskConflict(QWidget*, const QString& text, bool both) override {
-        m_Asked += (both ? "mine, theirs, both: " : "mine, theirs: ") + text + "\n";
+    eConflict AskConflict(QWidget*, const QString& text, bool isGone) override {
+        m_Asked += (isGone ? "mine, theirs: " : "mine, theirs, both: ") + text + "\n";
         return Take(m_ConflictAnswers, eConflict::Cancel);
     }
     bool AskYesNo(QWidget*, const QString& question) override {

@@ -33,16 +33,18 @@ cPrompts::eSave cDialogPrompts::AskToSave(QWidget* owner, const QString& title) 
     }
 }
 
-cPrompts::eConflict cDialogPrompts::AskConflict(QWidget* owner, const QString& text, bool both) {
+cPrompts::eConflict cDialogPrompts::AskConflict(QWidget* owner, const QString& text, bool isGone) {
     cPlainMessageBox box(QMessageBox::Warning, QGuiApplication::applicationDisplayName(), text,
                          QMessageBox::Cancel, owner);
     box.setObjectName("MessageBox_Definitions");
+    // Who presses Enter without reading overwrites nobody's work.
+    box.setDefaultButton(QMessageBox::Cancel);
     const auto add = [&box](const QString& caption) {
         return box.addButton(caption, QMessageBox::AcceptRole);
     };
-    const QAbstractButton* mine = add(tr("&Keep mine"));
-    const QAbstractButton* theirs = add(tr("&Take theirs"));
-    const QAbstractButton* shown = both ? add(tr("&Show both")) : nullptr;
+    const QAbstractButton* mine = add(isGone ? tr("&Write again") : tr("&Keep mine"));
+    const QAbstractButton* theirs = add(isGone ? tr("&Remove here") : tr("&Take theirs"));
+    const QAbstractButton* shown = isGone ? nullptr : add(tr("&Show both"));
     box.exec();
     const QAbstractButton* pressed = box.clickedButton();
     if (pressed == mine) return eConflict::Mine;

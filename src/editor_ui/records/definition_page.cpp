@@ -252,7 +252,7 @@ bool cDefinitionPage::MayReplaceChanged(int position) {
     const QString text = tr("Another program has changed the file of \"%1\" since it was read here. Keep "
                             "your version, take the one in the file, or show both?")
                              .arg(NameAt(position));
-    switch (m_Services.m_Prompts.AskConflict(this, text, true)) {
+    switch (m_Services.m_Prompts.AskConflict(this, text, false)) {
         case eAnswer::Mine:
             return true;
         case eAnswer::Theirs:
@@ -272,7 +272,7 @@ bool cDefinitionPage::MayWriteAgain(int position) {
     const QString text =
         tr("Another program has removed the file of \"%1\". Write it again, or remove it here too?")
             .arg(name);
-    const eAnswer answer = m_Services.m_Prompts.AskConflict(this, text, false);
+    const eAnswer answer = m_Services.m_Prompts.AskConflict(this, text, true);
     if (answer != eAnswer::Theirs) return answer == eAnswer::Mine;
     if (RecordPtr record = TakeOut(position)) {
         m_UndoStack.push(
