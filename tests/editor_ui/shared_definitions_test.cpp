@@ -184,6 +184,37 @@ TEST_F(SharedDefinitions, AProfileThatOthersChangedIsTakenUpAsAStep) {
     EXPECT_EQ(Asked(), Changed("Day"));
 }
 
+// --- closing
+
+TEST_F(SharedDefinitions, TheWindowClosesWhenWhatOthersSavedWasTaken) {
+    PutSample("Receivers\\Receiver_0042.dat", "receiver_version_5.dat");
+    PutSample("Receivers\\Receiver_0043.dat", "receiver_version_5.dat");
+    m_Window.ShowReceivers();
+    for (int position = 0; position < 3; ++position) {
+        Page().Choose(position);
+        Type(Page(), "Text_ReceiverName", "Mine");
+    }
+    GiveNumbers(7, "99");
+    m_Files.RemoveFile(Path("Receivers\\Receiver_0042.dat"));
+    m_Prompts.m_SaveAnswers = {cPrompts::eSave::Save};
+    m_Prompts.m_ConflictAnswers = {eConflict::Theirs, eConflict::Theirs};
+    EXPECT_TRUE(m_Window.close());
+    ASSERT_EQ(m_Station.Receivers().Count(), 2u);
+    EXPECT_EQ(Receiver(0).m_ParallellNumbers, "99");
+    EXPECT_NE(OnDisk("Receivers\\Receiver_0043.dat").find("Mine"), std::string::npos);
+}
+
+TEST_F(SharedDefinitions, TheWindowStaysWhenSomethingIsStillToBeSaved) {
+    m_Window.ShowReceivers();
+    Type(Page(), "Text_ReceiverName", "Mine");
+    GiveNumbers(7, "99");
+    for (const eConflict answer : {eConflict::Cancel, eConflict::Both}) {
+        m_Prompts.m_SaveAnswers = {cPrompts::eSave::Save};
+        m_Prompts.m_ConflictAnswers = {answer};
+        EXPECT_FALSE(m_Window.close());
+    }
+}
+
 // --- files that can't be read
 
 TEST_F(SharedDefinitions, AFileThatWasMendedIsReadAndOneThatWasRemovedHasNoRow) {

@@ -159,6 +159,24 @@ TEST_P(SharedFile, ThatIsGoneCanBeLetGo) {
     EXPECT_FALSE(m_Files.FileExists(Path()));
 }
 
+TEST_P(SharedFile, ThatIsTakenInTheLastMomentLetsTheWindowClose) {
+    Change();
+    WriteTheirs();
+    m_Prompts.m_SaveAnswers = {cPrompts::eSave::Save};
+    m_Prompts.m_ConflictAnswers = {eConflict::Theirs};
+    EXPECT_TRUE(m_Window->close());
+    EXPECT_EQ(OnDisk(), GetParam().theirs);
+}
+
+TEST_P(SharedFile, ThatIsLetGoInTheLastMomentLetsTheWindowClose) {
+    Change();
+    m_Files.RemoveFile(Path());
+    m_Prompts.m_SaveAnswers = {cPrompts::eSave::Save};
+    m_Prompts.m_ConflictAnswers = {eConflict::Theirs};
+    EXPECT_TRUE(m_Window->close());
+    EXPECT_FALSE(m_Files.FileExists(Path()));
+}
+
 TEST_P(SharedFile, IsReadAgainWhenThePageIsSeenAgain) {
     WriteTheirs();
     ComeBack();

@@ -314,19 +314,27 @@ void cDefinitionPage::SaveChosen() {
 
 bool cDefinitionPage::Save() {
     int saved = 0;
-    for (int position = 0; position < m_Model.Definitions(); ++position) {
-        if (!m_Model.HasChanges(position)) continue;
-        if (!SavePosition(position)) {
+    bool isWhole = true;
+    for (int position = 0; position < m_Model.Definitions();) {
+        const int all = m_Model.Definitions();
+        if (m_Model.HasChanges(position)) {
+            const bool isSaved = SavePosition(position);
+            saved += isSaved ? 1 : 0;
+            isWhole = isWhole && isSaved;
+        }
+        // One that went, or is as others have it, is no hindrance for those behind it.
+        if (m_Model.Definitions() < all) continue;
+        if (m_Model.HasChanges(position)) {
             Changed();
             return false;
         }
-        ++saved;
+        ++position;
     }
     ShowChosen();
     m_List->Sort();
     Changed();
-    emit Message(tr("Saved: %1").arg(saved));
-    return true;
+    if (isWhole || saved > 0) emit Message(tr("Saved: %1").arg(saved));
+    return isWhole;
 }
 
 // The other pages of the station speak of these definitions, too.

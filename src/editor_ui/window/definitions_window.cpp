@@ -212,7 +212,8 @@ bool cDefinitionsWindow::MayClose(cEditorPage& page) {
     m_Tabs.setCurrentWidget(&page);
     switch (m_Services.m_Prompts.AskToSave(this, page.Title())) {
         case cPrompts::eSave::Save:
-            return page.Save();
+            // Where what others saved was taken, or the file let go, nothing is left to be saved, either.
+            return page.Save() || !Pages().contains(&page) || !page.IsDirty();
         case cPrompts::eSave::Discard:
             return true;
         default:
