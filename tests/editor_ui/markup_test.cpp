@@ -51,7 +51,7 @@ TEST_P(EditorMarkup, InAToolTipIsPlain) {
 
 TEST_P(EditorMarkup, InWhatHappenedToFilesIsPlain) {
     cNoteBar bar;
-    bar.Show({{cDefinitionNote::eKind::Failed, GetParam()}});
+    bar.Add({{cDefinitionNote::eKind::Failed, GetParam()}});
     EXPECT_EQ(bar.findChild<QPlainTextEdit*>("Text_Notes")->toPlainText(), shown);
     ExpectAllPlain(bar);
 }

@@ -241,6 +241,36 @@ TEST_F(SharedDefinitions, AFileThatIsDamagedInAnotherWayByNowSaysSo) {
     EXPECT_NE(Rows(Page()).find("Receiver_0041.dat | The file has 1 bytes"), std::string::npos);
 }
 
+TEST_F(SharedDefinitions, WhatWasToldAndNotClosedStaysWhenMoreIsToBeTold) {
+    Put("Receivers\\Receiver_0041.dat", "??");
+    m_Window.ShowReceivers();
+    EXPECT_EQ(LabelOf(Page(), "Label_Notes"), "What could not be read: 1.");
+    GiveNumbers(7, "99");
+    ComeBack();
+    EXPECT_TRUE(Find<QWidget>(Page(), "Bar_Notes")->isVisible());
+    Put("Receivers\\Receiver_0042.dat", "??");
+    ComeBack();
+    EXPECT_EQ(LabelOf(Page(), "Label_Notes"), "What could not be read: 2.");
+    Press(Page(), "Button_Notes_Close");
+    Put("Receivers\\Receiver_0043.dat", "??");
+    ComeBack();
+    EXPECT_EQ(LabelOf(Page(), "Label_Notes"), "What could not be read: 1.");
+}
+
+TEST_F(SharedDefinitions, AFileThatCantBeReadSaysSoInPlaceOfTheFormOfAnother) {
+    Put("Receivers\\Receiver_0041.dat", "??");
+    m_Window.ShowReceivers();
+    Page().Choose(0);
+    EXPECT_TRUE(Find<QWidget>(Page(), "Text_ReceiverName")->isVisible());
+    Page().Choose(1);
+    EXPECT_FALSE(Find<QWidget>(Page(), "Text_ReceiverName")->isVisible());
+    EXPECT_TRUE(Find<QWidget>(Page(), "Label_Unreadable")->isVisible());
+    EXPECT_EQ(LabelOf(Page(), "Label_Unreadable"),
+              "Receiver_0041.dat\n\nThe file's version is 16191, not one of 3 to 5.");
+    Page().Choose(0);
+    EXPECT_TRUE(Find<QWidget>(Page(), "Text_ReceiverName")->isVisible());
+}
+
 // --- removed by others
 
 TEST_F(SharedDefinitions, WhatOthersRemovedLeavesTheListAsAStep) {

@@ -40,10 +40,12 @@ cNoteBar::cNoteBar(QWidget* parent)
     hide();
 }
 
-void cNoteBar::Show(const std::vector<cDefinitionNote>& notes) {
+void cNoteBar::Add(const std::vector<cDefinitionNote>& notes) {
     using eKind = cDefinitionNote::eKind;
+    if (isHidden()) m_Notes.clear();
+    m_Notes.insert(m_Notes.end(), notes.begin(), notes.end());
     const auto count = [&](eKind kind) {
-        return std::count_if(notes.begin(), notes.end(),
+        return std::count_if(m_Notes.begin(), m_Notes.end(),
                              [kind](const auto& note) { return note.kind == kind; });
     };
     QStringList summary;
@@ -60,7 +62,7 @@ void cNoteBar::Show(const std::vector<cDefinitionNote>& notes) {
         summary += tr("What could not be read: %1.").arg(failed);
     }
     QStringList lines;
-    for (const cDefinitionNote& note : notes) lines += Told(note.line);
+    for (const cDefinitionNote& note : m_Notes) lines += Told(note.line);
     m_Summary->setText(summary.join(' '));
     m_Lines->setPlainText(lines.join('\n'));
     setVisible(!summary.isEmpty());

@@ -17,10 +17,11 @@ class cNoteBar : public QFrame {
   public:
     explicit cNoteBar(QWidget* parent = nullptr);
 
-    // Hidden when there is nothing to tell.
-    void Show(const std::vector<cDefinitionNote>& notes);
+    // Adds what was not told yet; what nobody has closed stays. Hidden as long as there is nothing to tell.
+    void Add(const std::vector<cDefinitionNote>& notes);
 
   private:
+    std::vector<cDefinitionNote> m_Notes;  // that show
     QLabel* m_Summary;
     QPlainTextEdit* m_Lines;
 };

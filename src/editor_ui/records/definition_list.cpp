@@ -95,6 +95,13 @@ int cDefinitionList::Chosen() const {
     return current.isValid() && current.row() < m_Model.Definitions() ? current.row() : -1;
 }
 
+QString cDefinitionList::ChosenUnreadable() const {
+    const QModelIndex current = m_Filter->mapToSource(m_Table->currentIndex());
+    if (!current.isValid() || current.row() < m_Model.Definitions()) return {};
+    const auto text = [&](int column) { return current.siblingAtColumn(column).data().toString(); };
+    return text(cDefinitionModel::Name) + "\n\n" + text(cDefinitionModel::Details);
+}
+
 void cDefinitionList::Choose(int position) {
     const auto find = [&] {
         return position < 0 ? QModelIndex() : m_Filter->mapFromSource(m_Model.index(position, 0));

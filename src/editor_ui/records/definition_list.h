@@ -22,6 +22,8 @@ class cDefinitionList : public QWidget {
     // For who can't see what the list is of.
     void SetName(const QString& name);
     int Chosen() const;
+    // Of a chosen file that can't be read: which, and why; else empty.
+    QString ChosenUnreadable() const;
     // A search that hides the wanted one is given up.
     void Choose(int position);
     int PlaceOf(int position) const;

@@ -19,6 +19,8 @@ namespace {
 
 constexpr int kUndoSteps = 200;
 
+enum eFormPanel { FormOfOne, First, Unreadable };  // what shows beside the list
+
 // Where a definition stands after what was taken up; -1 when it has gone.
 int PositionAfter(const std::vector<cTakenUp>& taken, int position) {
     for (const cTakenUp& each : taken) {
@@ -41,7 +43,8 @@ cDefinitionPage::cDefinitionPage(cEditorServices& services, std::unique_ptr<cDef
       m_Actions(*this),
       m_Notes(new cNoteBar),
       m_List(new cDefinitionList(m_Model)),
-      m_FormPanel(new QStackedWidget) {
+      m_FormPanel(new QStackedWidget),
+      m_Unreadable(new cPlainLabel) {
     m_UndoStack.setUndoLimit(kUndoSteps);
     connect(qApp, &QApplication::focusChanged, this, [this] { ++m_Session; });
 }
@@ -70,7 +73,7 @@ void cDefinitionPage::SetUp(cPageWords words, cPageForm form) {
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_Notes);
     layout->addWidget(splitter, 1);
-    m_Notes->Show(m_TakeNotes());
+    m_Notes->Add(m_TakeNotes());
     Choose(m_List->PositionNear(0));
     m_Source->SetTakeUp([this] { TakeUpFolder(); });
 }
@@ -93,8 +96,18 @@ QWidget* cDefinitionPage::MakeListPanel() {
     return panel;
 }
 
-// In place of the form, as long as there is nothing that it could show.
+// The form, and what stands in its place while there is nothing that it could show.
 QWidget* cDefinitionPage::MakeFormPanel() {
+    m_Unreadable->setObjectName("Label_Unreadable");
+    m_Unreadable->setWordWrap(true);
+    m_Unreadable->setAlignment(Qt::AlignCenter);
+    m_FormPanel->addWidget(Scrolled(m_Form.widget));
+    m_FormPanel->addWidget(MakeFirst());
+    m_FormPanel->addWidget(m_Unreadable);
+    return m_FormPanel;
+}
+
+QWidget* cDefinitionPage::MakeFirst() {
     auto* first = new QWidget;
     auto* layout = new QVBoxLayout(first);
     auto* text = new cPlainLabel(m_Words.none);
@@ -108,9 +121,7 @@ QWidget* cDefinitionPage::MakeFormPanel() {
     layout->addWidget(text);
     layout->addWidget(make, 0, Qt::AlignHCenter);
     layout->addStretch(2);
-    m_FormPanel->addWidget(Scrolled(m_Form.widget));
-    m_FormPanel->addWidget(first);
-    return m_FormPanel;
+    return first;
 }
 
 void cDefinitionPage::Choose(int position) {
@@ -122,7 +133,8 @@ void cDefinitionPage::ShowChosen() {
     const int chosen = Chosen();
     m_Form.show(chosen);
     m_Before = chosen < 0 ? nullptr : m_Source->Copy(static_cast<std::size_t>(chosen));
-    m_FormPanel->setCurrentIndex(m_Model.rowCount() == 0 ? 1 : 0);
+    m_Unreadable->setText(m_List->ChosenUnreadable());
+    m_FormPanel->setCurrentIndex(chosen >= 0 ? FormOfOne : m_Model.rowCount() == 0 ? First : Unreadable);
     UpdateActions();
     emit StateChanged();
 }
@@ -387,7 +399,7 @@ void cDefinitionPage::TakeUpFolder() {
     TellTakenUp(taken);
     PushTakenUp(std::move(taken));
     Changed();
-    m_Notes->Show(m_TakeNotes());
+    m_Notes->Add(m_TakeNotes());
 }
 
 // The steps of before stand on what was there before: without this one between they would put it back over

@@ -13,6 +13,7 @@
 #include "editor_ui/records/definition_model.h"
 #include "editor_ui/records/record_commands.h"
 
+class QLabel;
 class QStackedWidget;
 
 namespace vigrel {
@@ -84,6 +85,7 @@ class cDefinitionPage : public cEditorPage, private cRecordSteps {
     void ConnectActions();
     QWidget* MakeListPanel();
     QWidget* MakeFormPanel();
+    QWidget* MakeFirst();
     void New();
     void Copy();
     void Delete();
@@ -123,6 +125,7 @@ class cDefinitionPage : public cEditorPage, private cRecordSteps {
     cNoteBar* m_Notes;
     cDefinitionList* m_List;
     QStackedWidget* m_FormPanel;
+    QLabel* m_Unreadable;
 };
 
 }  // namespace vigrel
