@@ -1448,6 +1448,10 @@ Programmets mappe: %3</translation>
         <source>%1 is read again: another program has changed it</source>
         <translation>%1 er læst igen: et andet program har ændret den</translation>
     </message>
+    <message>
+        <source>opening &quot;%1&quot;</source>
+        <translation>åbning af &quot;%1&quot;</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cFilePage</name>

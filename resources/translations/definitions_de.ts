@@ -1448,6 +1448,10 @@ Programmordner: %3</translation>
         <source>%1 is read again: another program has changed it</source>
         <translation>%1 wurde neu gelesen: Ein anderes Programm hat die Datei geändert</translation>
     </message>
+    <message>
+        <source>opening &quot;%1&quot;</source>
+        <translation>Öffnen von „%1“</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cFilePage</name>

@@ -1448,6 +1448,10 @@ Ohjelman kansio: %3</translation>
         <source>%1 is read again: another program has changed it</source>
         <translation>%1 luettiin uudelleen: toinen ohjelma on muuttanut sitä</translation>
     </message>
+    <message>
+        <source>opening &quot;%1&quot;</source>
+        <translation>avaus: &quot;%1&quot;</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cFilePage</name>

@@ -1448,6 +1448,10 @@ Programmets mappe: %3</translation>
         <source>%1 is read again: another program has changed it</source>
         <translation>%1 er lest på nytt: et annet program har endret den</translation>
     </message>
+    <message>
+        <source>opening &quot;%1&quot;</source>
+        <translation>åpning av &quot;%1&quot;</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cFilePage</name>

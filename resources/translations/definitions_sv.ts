@@ -1448,6 +1448,10 @@ Programmets mapp: %3</translation>
         <source>%1 is read again: another program has changed it</source>
         <translation>%1 har lästs på nytt: ett annat program har ändrat den</translation>
     </message>
+    <message>
+        <source>opening &quot;%1&quot;</source>
+        <translation>öppning av &quot;%1&quot;</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cFilePage</name>

@@ -490,6 +490,36 @@ TEST_F(ProfilesPage, AnotherCalendarIsOpenedOnlyWhenTheChangedOneIsSavedOrGivenU
     }
 }
 
+TEST_F(ProfilesPage, AnotherCalendarIsAStepAndKeepsTheStepsOfBefore) {
+    const std::string empty(29220, '\0');
+    std::string other = empty;
+    other[0] = 9;
+    Put("Calendar.cal", empty);
+    Put("Other.cal", other);
+    Type(Page(), "Text_ProfileName", "Day");
+    ShowTab(4);
+    cCalendarEditor& editor = *Page().findChild<cCalendarEditor*>();
+    MarkADay(editor);
+    m_Prompts.m_Texts = {"C:/App/Other.cal"};
+    m_Prompts.m_SaveAnswers = {cPrompts::eSave::Discard};
+    Press(Page(), "Button_OpenCalendar");
+    EXPECT_EQ(editor.Calendar().GetDayType(0), 9);
+    EXPECT_EQ(Page().UndoStack()->undoText(), "opening \"Other.cal\"");
+    Page().UndoStack()->undo();
+    EXPECT_EQ(editor.Calendar().GetDayType(0), 0);
+    EXPECT_TRUE(LabelOf(Page(), "Label_Calendar").ends_with("Calendar.cal"));
+    // With the changes that had been given up, and for the file that they are of.
+    EXPECT_TRUE(Page().findChild<cFileDocument*>()->IsDirty());
+    ASSERT_TRUE(Page().Save());
+    EXPECT_NE(OnDisk("Calendar.cal"), empty);
+    EXPECT_EQ(OnDisk("Other.cal"), other);
+    Page().UndoStack()->redo();
+    EXPECT_TRUE(LabelOf(Page(), "Label_Calendar").ends_with("Other.cal"));
+    EXPECT_FALSE(Page().IsDirty());
+    for (int i = 0; i < 3; ++i) Page().UndoStack()->undo();
+    EXPECT_EQ(TextOf(Page(), "Text_ProfileName"), "Night");
+}
+
 TEST_F(ProfilesPage, ACalendarUnderOtherHandsIsAskedFor) {
     using eConflict = cPrompts::eConflict;
     const std::string empty(29220, '\0');

@@ -15,28 +15,28 @@ cFileDocument::cFileDocument(cEditorServices& services, cFileForm form, QWidget*
       m_Services(services),
       m_Form(std::move(form)),
       m_Owner(owner),
-      m_StateOfNew(m_Form.state()),
-      m_StateInFile(m_StateOfNew) {}
+      m_Behind{{}, {}, m_Form.state()},
+      m_StateOfNew(m_Behind.state) {}
 
 QString cFileDocument::Title() const {
-    return m_Path.empty() ? m_Form.newName : PathToQString(SplitPath(m_Path).name);
+    return m_Behind.path.empty() ? m_Form.newName : PathToQString(SplitPath(m_Behind.path).name);
 }
 
 QString cFileDocument::Path() const {
-    return PathToQString(m_Path);
+    return PathToQString(m_Behind.path);
 }
 
 void cFileDocument::NoteChange() {
-    const bool dirty = m_Form.state() != m_StateInFile;
+    const bool dirty = m_Form.state() != m_Behind.state;
     if (dirty == std::exchange(m_Dirty, dirty)) return;
     emit StateChanged();
 }
 
 // The file holds what the editor shows.
 void cFileDocument::Take(const std::string& path, const cFileReader::cStamp& stamp) {
-    m_Path = path;
-    m_Stamp = stamp;
-    m_StateInFile = m_Form.state();
+    m_Behind.path = path;
+    m_Behind.stamp = stamp;
+    m_Behind.state = m_Form.state();
     m_Dirty = false;
     emit StateChanged();
     emit FileUsed(Path());
@@ -51,11 +51,20 @@ bool cFileDocument::Read(const std::string& path) {
 // The stamp is that of before: a file that others write meanwhile counts as changed.
 bool cFileDocument::Open(const std::string& path) {
     const cFileReader::cStamp stamp = m_Services.m_Files.Stamp(path);
+    const cBehind before = m_Behind;
+    const std::string content = m_Form.state();
     if (!Read(path)) return false;
     RemoveTemporaryOf(m_Services.m_Files, path);
     Take(path, stamp);
-    emit Opened();
+    emit Opened(before, {tr("opening \"%1\"").arg(Title()), content, m_Behind.state});
     return true;
+}
+
+void cFileDocument::GoBack(const cBehind& behind) {
+    m_Behind = behind;
+    m_Dirty = m_Form.state() != m_Behind.state;
+    emit StateChanged();
+    if (!m_Behind.path.empty()) emit FileUsed(Path());
 }
 
 bool cFileDocument::OpenCopy(const std::string& path) {
@@ -67,24 +76,25 @@ bool cFileDocument::OpenCopy(const std::string& path) {
 }
 
 bool cFileDocument::Save() {
-    if (m_Path.empty()) return SaveAs();
-    return MayReplace() && WriteTo(m_Path);
+    if (m_Behind.path.empty()) return SaveAs();
+    return MayReplace() && WriteTo(m_Behind.path);
 }
 
 // --- files under other hands
 
 // A file that was only touched, copied back or saved by others as it was is no news.
 bool cFileDocument::HasNews(const cFileReader::cStamp& now) {
-    if (now == m_Stamp) return false;
+    if (now == m_Behind.stamp) return false;
     bool isSame = false;
-    if (now.size == m_Stamp.size) SkipFailure([&] { isSame = m_Form.holds(m_Path, m_StateInFile); });
-    if (isSame) m_Stamp = now;
+    if (now.size == m_Behind.stamp.size)
+        SkipFailure([&] { isSame = m_Form.holds(m_Behind.path, m_Behind.state); });
+    if (isSame) m_Behind.stamp = now;
     return !isSame;
 }
 
 // Another program, or another window, may have written or removed the file meanwhile.
 bool cFileDocument::MayReplace() {
-    const cFileReader::cStamp now = m_Services.m_Files.Stamp(m_Path);
+    const cFileReader::cStamp now = m_Services.m_Files.Stamp(m_Behind.path);
     if (!HasNews(now)) return true;
     // While it is asked, nothing is taken up on the quiet.
     m_Seen = now;
@@ -110,8 +120,8 @@ bool cFileDocument::MayWriteAgain() {
     const eAnswer answer = m_Services.m_Prompts.AskConflict(m_Owner, text, true);
     if (answer == eAnswer::Theirs) {
         m_Form.newName = Title();
-        m_Path.clear();
-        m_StateInFile = m_StateOfNew;
+        m_Behind.path.clear();
+        m_Behind.state = m_StateOfNew;
         emit LetGo();
         NoteChange();
     }
@@ -120,16 +130,16 @@ bool cFileDocument::MayWriteAgain() {
 
 void cFileDocument::TakeTheirs() {
     const std::string before = m_Form.state();
-    const cFileReader::cStamp stamp = m_Services.m_Files.Stamp(m_Path);
-    if (!Read(m_Path)) return;
-    Take(m_Path, stamp);
-    emit Replaced({tr("taking over \"%1\"").arg(Title()), before, m_StateInFile});
+    const cFileReader::cStamp stamp = m_Services.m_Files.Stamp(m_Behind.path);
+    if (!Read(m_Behind.path)) return;
+    Take(m_Behind.path, stamp);
+    emit Replaced({tr("taking over \"%1\"").arg(Title()), before, m_Behind.state});
     emit Message(tr("%1 is read again: another program has changed it").arg(Path()));
 }
 
 void cFileDocument::TakeUp() {
-    const cFileReader::cStamp now = m_Services.m_Files.Stamp(m_Path);
-    if (m_Path.empty() || m_Dirty || now.size < 0 || now == m_Seen || !HasNews(now)) return;
+    const cFileReader::cStamp now = m_Services.m_Files.Stamp(m_Behind.path);
+    if (m_Behind.path.empty() || m_Dirty || now.size < 0 || now == m_Seen || !HasNews(now)) return;
     // Told once: what can't be read stays as it was read before.
     m_Seen = now;
     TakeTheirs();
@@ -137,7 +147,7 @@ void cFileDocument::TakeUp() {
 
 bool cFileDocument::SaveAs() {
     const QString suggestion =
-        m_Path.empty()
+        m_Behind.path.empty()
             ? PathToQString(m_Services.m_Ini.FullPath(PathFromQString(m_Form.newName))) + "." + m_Form.suffix
             : Path();
     const QString chosen =

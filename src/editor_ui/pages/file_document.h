@@ -25,6 +25,13 @@ struct cFileForm {
     std::function<bool(const std::string& path, const std::string& state)> holds;
 };
 
+// Which file is behind an editor, and what of it is known.
+struct cBehind {
+    std::string path;           // empty for none
+    cFileReader::cStamp stamp;  // of the file as it was read or written last
+    std::string state;          // the content that it has
+};
+
 // The file behind an editor: opened, saved, and whether it holds what the editor shows. What goes wrong is
 // told over the owner's window. A file that other programs changed or removed since is not written before the
 // user has said whose version counts.
@@ -45,6 +52,10 @@ class cFileDocument : public QObject {
     bool Open(const std::string& path);
     bool Save();
     bool SaveAs();
+    // Goes back to the file of before, after the content was set back to what it was then. That others
+    // changed it meanwhile shows at the next save.
+    void GoBack(const cBehind& behind);
+    const cBehind& Behind() const { return m_Behind; }
     // Reads a file into the content, which stays without a file: nothing else may hold it any more.
     bool OpenCopy(const std::string& path);
     // Reads the file again when others have changed it and nothing is changed here.
@@ -53,8 +64,8 @@ class cFileDocument : public QObject {
   signals:
     // Title, path or dirty state have changed.
     void StateChanged();
-    // The content is that of another file.
-    void Opened();
+    // The content is that of another file, which had been the one of the step's begin.
+    void Opened(const vigrel::cBehind& before, const vigrel::cEditStep& step);
     // What others have saved took the place of the content.
     void Replaced(const vigrel::cEditStep& step);
     // The user wants to see what the file holds beside the content.
@@ -78,11 +89,9 @@ class cFileDocument : public QObject {
     cEditorServices& m_Services;
     cFileForm m_Form;
     QWidget* m_Owner;
-    std::string m_Path;
-    cFileReader::cStamp m_Stamp;  // of the file as it was read or written last
-    cFileReader::cStamp m_Seen;   // of a file that others changed, and that was asked about or read
-    std::string m_StateOfNew;     // of a content that has no file yet
-    std::string m_StateInFile;
+    cBehind m_Behind;
+    cFileReader::cStamp m_Seen;  // of a file that others changed, and that was asked about or read
+    std::string m_StateOfNew;    // of a content that has no file yet
     bool m_Dirty = false;
 };
 

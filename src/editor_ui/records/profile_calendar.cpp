@@ -35,7 +35,8 @@ cProfileCalendar::cProfileCalendar(cEditorServices& services, const cTimeSchedul
     layout->addWidget(m_Editor, 1);
     connect(open, &QPushButton::clicked, this, [this] { Choose(); });
     connect(&m_Document, &cFileDocument::FileUsed, this, [this](const QString& path) { Remember(path); });
-    connect(&m_Document, &cFileDocument::LetGo, this, [this] { m_Path->setText(tr("A new calendar")); });
+    connect(&m_Document, &cFileDocument::StateChanged, this, [this] { ShowPath(); });
+    connect(&m_Document, &cFileDocument::LetGo, this, [this] { ShowPath(); });
     connect(&m_Editor->ShowTimeAxis(), &QCheckBox::clicked, this, [this](bool on) {
         if (OnViewTimeAxis) OnViewTimeAxis(on);
     });
@@ -47,9 +48,13 @@ cProfileCalendar::cProfileCalendar(cEditorServices& services, const cTimeSchedul
 void cProfileCalendar::OpenRemembered() {
     std::string path = m_Services.m_Ini.GetIniString(kSection, kKey, "", kDefinitionsIni);
     if (path.empty()) path = m_Services.m_Ini.FullPath(kUsualName);
-    m_Path->setText(tr("A new calendar"));
+    ShowPath();
     // One that was taken away since is no failure to be told.
     if (m_Services.m_Files.FileExists(path)) m_Document.Open(path);
+}
+
+void cProfileCalendar::ShowPath() {
+    m_Path->setText(m_Document.Path().isEmpty() ? tr("A new calendar") : m_Document.Path());
 }
 
 void cProfileCalendar::Choose() {
@@ -68,7 +73,6 @@ bool cProfileCalendar::MayLeave() {
 }
 
 void cProfileCalendar::Remember(const QString& path) {
-    m_Path->setText(path);
     m_Services.m_Ini.PutIniString(kSection, kKey, PathFromQString(path), kDefinitionsIni);
 }
 

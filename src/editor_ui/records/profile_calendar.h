@@ -27,6 +27,7 @@ class cProfileCalendar : public QWidget {
 
   private:
     void OpenRemembered();
+    void ShowPath();
     void Choose();
     bool MayLeave();
     void Remember(const QString& path);

@@ -27,6 +27,32 @@ std::unique_ptr<cFolderSource<cProfile>> ReadProfiles(cStationDefinitions& stati
     return std::make_unique<cFolderSource<cProfile>>(station.Profiles(), Conditions, ProblemOf);
 }
 
+// Another calendar has come into the editor: the content, and the file behind it.
+class cOpenCommand : public cStepCommand {
+  public:
+    // The document must outlive the command.
+    cOpenCommand(const cEditStep& step, cContentEditor& editor, std::function<void()> show,
+                 cFileDocument& document, const cBehind& before)
+        : cStepCommand(step, editor, std::move(show)),
+          m_Document(document),
+          m_Before(before),
+          m_After(document.Behind()) {}
+    void undo() override {
+        cStepCommand::undo();
+        m_Document.GoBack(m_Before);
+        m_Undone = true;
+    }
+    void redo() override {
+        cStepCommand::redo();
+        if (m_Undone) m_Document.GoBack(m_After);
+    }
+
+  private:
+    cFileDocument& m_Document;
+    cBehind m_Before, m_After;
+    bool m_Undone = false;
+};
+
 }  // namespace
 
 cProfilesPage::cProfilesPage(cEditorServices& services, QWidget* parent)
@@ -82,14 +108,17 @@ void cProfilesPage::ConnectCalendar() {
         connect(editor, &cContentEditor::Message, this, &cEditorPage::Message);
         connect(editor, &cContentEditor::DayTypesChanged, this, &cEditorPage::DayTypesChanged);
     }
-    connect(&calendar, &cFileDocument::Opened, this, [this] { UndoStack()->clear(); });
     connect(&calendar, &cFileDocument::BothWanted, this, &cEditorPage::BothWanted);
     cCalendarEditor& editor = m_Form->Calendar().Editor();
     connect(&calendar, &cFileDocument::LetGo, &editor, &cCalendarEditor::Clear);
-    const auto push = [this, &editor](const cEditStep& step) {
-        UndoStack()->push(
-            new cStepCommand(step, editor, [this, &editor] { ShowField(editor.objectName()); }));
+    const auto show = [this, &editor] { ShowField(editor.objectName()); };
+    const auto push = [this, &editor, show](const cEditStep& step) {
+        UndoStack()->push(new cStepCommand(step, editor, show));
     };
+    connect(&calendar, &cFileDocument::Opened, this,
+            [this, &editor, &calendar, show](const cBehind& before, const cEditStep& step) {
+                UndoStack()->push(new cOpenCommand(step, editor, show, calendar, before));
+            });
     connect(&editor, &cContentEditor::Edited, this, push);
     connect(&calendar, &cFileDocument::Replaced, this, push);
     connect(UndoStack(), &QUndoStack::indexChanged, &calendar, &cFileDocument::NoteChange);
