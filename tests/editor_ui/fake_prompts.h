@@ -4,6 +4,7 @@
 #include <QString>
 #include <QWidget>
 #include <deque>
+#include <functional>
 
 #include "editor_ui/pages/prompts.h"
 
@@ -17,10 +18,12 @@ class cFakePrompts : public cPrompts {
         return Take(m_SaveAnswers, eSave::Cancel);
     }
     eConflict AskConflict(QWidget*, const QString& text, bool isGone) override {
+        if (m_WhileAsked) m_WhileAsked();
         m_Asked += (isGone ? "mine, theirs: " : "mine, theirs, both: ") + text + "\n";
         return Take(m_ConflictAnswers, eConflict::Cancel);
     }
     bool AskYesNo(QWidget*, const QString& question) override {
+        if (m_WhileAsked) m_WhileAsked();
         m_Asked += "yes or no: " + question + "\n";
         return Take(m_YesNoAnswers, false);
     }
@@ -48,8 +51,9 @@ class cFakePrompts : public cPrompts {
     }
 
     QString m_Asked;
-    QString m_PrintedFile;        // where a print goes; empty: cancelled
-    QWidget* m_Window = nullptr;  // over which the last failure was shown
+    std::function<void()> m_WhileAsked;  // what happens while a question is open
+    QString m_PrintedFile;               // where a print goes; empty: cancelled
+    QWidget* m_Window = nullptr;         // over which the last failure was shown
     std::deque<eSave> m_SaveAnswers;
     std::deque<eConflict> m_ConflictAnswers;
     std::deque<bool> m_YesNoAnswers;

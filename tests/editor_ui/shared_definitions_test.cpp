@@ -184,6 +184,39 @@ TEST_F(SharedDefinitions, AProfileThatOthersChangedIsTakenUpAsAStep) {
     EXPECT_EQ(Asked(), Changed("Day"));
 }
 
+// --- while a question is open
+
+TEST_F(SharedDefinitions, WhatOthersDoWhileItIsAskedDoesntTurnTheAnswerToAnotherOne) {
+    PutSample("Receivers\\Receiver_0042.dat", "receiver_version_5.dat");
+    PutSample("Receivers\\Receiver_0043.dat", "receiver_version_5.dat");
+    m_Window.ShowReceivers();
+    Page().Choose(1);
+    m_Prompts.m_WhileAsked = [this] {
+        if (m_Files.FileExists(Path(kEast))) m_Files.RemoveFile(Path(kEast));
+        ComeBack();
+        QCoreApplication::processEvents();
+    };
+    m_Prompts.m_YesNoAnswers = {true};
+    Press(Page(), "Button_Delete");
+    EXPECT_FALSE(m_Files.FileExists(Path("Receivers\\Receiver_0042.dat")));
+    EXPECT_TRUE(m_Files.FileExists(Path("Receivers\\Receiver_0043.dat")));
+    EXPECT_EQ(m_Station.Receivers().Count(), 2u);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(m_Station.Receivers().Count(), 1u);
+    EXPECT_EQ(UndoText(), "removing \"\xC3\x96st\"");
+    Undo();
+    Undo();
+    EXPECT_EQ(Receiver(1).m_DiskIdentity, 42);
+    // A step that asks is under way.
+    m_Prompts.m_YesNoAnswers = {true};
+    m_Files.RemoveFile(Path("Receivers\\Receiver_0043.dat"));
+    Page().UndoStack()->redo();
+    EXPECT_FALSE(m_Files.FileExists(Path("Receivers\\Receiver_0042.dat")));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(UndoText(), "removing \"\xC3\x96st\"");
+    EXPECT_EQ(m_Station.Receivers().Count(), 1u);
+}
+
 // --- closing
 
 TEST_F(SharedDefinitions, TheWindowClosesWhenWhatOthersSavedWasTaken) {

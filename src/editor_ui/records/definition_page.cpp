@@ -7,6 +7,7 @@
 #include <QStackedWidget>
 #include <QTabWidget>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "editor_ui/pages/note_bar.h"
 #include "editor_ui/pages/reasons.h"
@@ -75,7 +76,9 @@ void cDefinitionPage::SetUp(cPageWords words, cPageForm form) {
     layout->addWidget(splitter, 1);
     m_Notes->Add(m_TakeNotes());
     Choose(m_List->PositionNear(0));
-    m_Source->SetTakeUp([this] { TakeUpFolder(); });
+    m_Source->SetTakeUp([this] {
+        if (m_Works == 0) TakeUpFolder();
+    });
 }
 
 void cDefinitionPage::ConnectActions() {
@@ -223,6 +226,7 @@ QString cDefinitionPage::DeleteQuestion(int position) const {
 
 void cDefinitionPage::Delete() {
     FinishTyping();
+    const cWork work(*this);
     const int position = Chosen();
     if (position < 0 || !m_Services.m_Prompts.AskYesNo(this, DeleteQuestion(position))) return;
     const QString name = NameAt(position);
@@ -314,6 +318,7 @@ bool cDefinitionPage::SavePosition(int position) {
 
 void cDefinitionPage::SaveChosen() {
     FinishTyping();
+    const cWork work(*this);
     const int position = Chosen();
     if (position < 0 || !SavePosition(position)) return;
     // The form shows what the file has now.
@@ -325,27 +330,28 @@ void cDefinitionPage::SaveChosen() {
 }
 
 bool cDefinitionPage::Save() {
+    const cWork work(*this);
     int saved = 0;
     bool isWhole = true;
     for (int position = 0; position < m_Model.Definitions();) {
         const int all = m_Model.Definitions();
-        if (m_Model.HasChanges(position)) {
-            const bool isSaved = SavePosition(position);
-            saved += isSaved ? 1 : 0;
-            isWhole = isWhole && isSaved;
-        }
-        // One that went, or is as others have it, is no hindrance for those behind it.
-        if (m_Model.Definitions() < all) continue;
-        if (m_Model.HasChanges(position)) {
+        if (!m_Model.HasChanges(position)) {
+            ++position;
+        } else if (SavePosition(position)) {
+            ++position;
+            ++saved;
+        } else {
+            isWhole = false;
+            // One that went, or is as others have it, is no hindrance for those behind it.
+            if (m_Model.Definitions() < all || !m_Model.HasChanges(position)) continue;
             Changed();
             return false;
         }
-        ++position;
     }
     ShowChosen();
     m_List->Sort();
     Changed();
-    if (isWhole || saved > 0) emit Message(tr("Saved: %1").arg(saved));
+    if (isWhole) emit Message(tr("Saved: %1").arg(saved));
     return isWhole;
 }
 
@@ -362,6 +368,7 @@ void cDefinitionPage::GiveUp() {
 
 void cDefinitionPage::Revert() {
     FinishTyping();
+    const cWork work(*this);
     if (Chosen() >= 0) RevertPosition(Chosen());
 }
 
@@ -385,6 +392,20 @@ void cDefinitionPage::RevertPosition(int position) {
 }
 
 // --- files under other hands
+
+cDefinitionPage::cWork::~cWork() {
+    if (--m_Page.m_Works > 0 || !std::exchange(m_Page.m_HasNotLooked, false)) return;
+    // A step may be under way, which nothing may be pushed on.
+    const auto look = [page = &m_Page] {
+        if (page->isVisible()) page->SeenAgain();
+    };
+    QMetaObject::invokeMethod(&m_Page, look, Qt::QueuedConnection);
+}
+
+void cDefinitionPage::SeenAgain() {
+    m_HasNotLooked = m_Works > 0;
+    if (!m_HasNotLooked) LookAgain();
+}
 
 // Another editor may have worked on the folder while this one was away. What is changed here stays.
 void cDefinitionPage::TakeUpFolder() {
@@ -440,6 +461,7 @@ void cDefinitionPage::RestoreRecord(int position, const cRecord& record, const Q
 
 // A file goes only with a yes, whichever way it goes.
 RecordPtr cDefinitionPage::TakeOutRecord(int position) {
+    const cWork work(*this);
     Choose(position);
     const auto place = static_cast<std::size_t>(position);
     const bool hasFile = m_Source->Identity(place) >= 0 && m_Source->StateOfFile(place) != eFileState::Gone;
@@ -450,6 +472,7 @@ RecordPtr cDefinitionPage::TakeOutRecord(int position) {
 }
 
 void cDefinitionPage::BringBackRecord(int position, const cRecord& record) {
+    const cWork work(*this);
     const bool whole = m_Model.BringBack(position, record);
     Choose(position);
     Changed();

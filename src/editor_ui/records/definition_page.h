@@ -79,9 +79,22 @@ class cDefinitionPage : public cEditorPage, private cRecordSteps {
     void Changed();
     // Brings a field of the form into sight and the keyboard to it.
     void ShowField(const QString& field);
-    void SeenAgain() override { TakeUpFolder(); }
+    // Not while the page waits for an answer, which is about what was there when it was asked.
+    void SeenAgain() final;
+    virtual void LookAgain() { TakeUpFolder(); }
 
   private:
+    // Something in which the user may be asked.
+    class cWork {
+      public:
+        explicit cWork(cDefinitionPage& page) : m_Page(page) { ++page.m_Works; }
+        cWork(const cWork&) = delete;
+        cWork& operator=(const cWork&) = delete;
+        ~cWork();
+
+      private:
+        cDefinitionPage& m_Page;
+    };
     void ConnectActions();
     QWidget* MakeListPanel();
     QWidget* MakeFormPanel();
@@ -120,7 +133,9 @@ class cDefinitionPage : public cEditorPage, private cRecordSteps {
     cPageForm m_Form{};
     QUndoStack m_UndoStack;
     RecordPtr m_Before;  // the chosen one before the next edit
-    int m_Session = 0;   // what is typed in one joins to one step
+    int m_Works = 0;
+    bool m_HasNotLooked = false;  // since there was work
+    int m_Session = 0;            // what is typed in one joins to one step
     cDefinitionActions m_Actions;
     cNoteBar* m_Notes;
     cDefinitionList* m_List;

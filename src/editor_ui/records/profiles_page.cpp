@@ -141,8 +141,8 @@ void cProfilesPage::RefreshDayTypes() {
     m_Form->RefreshDayTypes();
 }
 
-void cProfilesPage::SeenAgain() {
-    cDefinitionPage::SeenAgain();
+void cProfilesPage::LookAgain() {
+    cDefinitionPage::LookAgain();
     m_Station.Receivers().LookAgain();
     m_Form->RefreshReceivers();
     m_Form->Calendar().Document().TakeUp();

@@ -25,7 +25,7 @@ class cProfilesPage : public cDefinitionPage {
 
   protected:
     // Receivers may have been renamed meanwhile, on their page or by others.
-    void SeenAgain() override;
+    void LookAgain() override;
     void showEvent(QShowEvent* event) override;
 
   private:
