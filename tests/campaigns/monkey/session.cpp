@@ -9,7 +9,9 @@
 #include <algorithm>
 #include <iterator>
 #include <stdexcept>
+#include <utility>
 
+#include "campaigns/monkey/others.h"
 #include "editor_ui/drawing/drawing_view.h"
 #include "editor_ui/pages/content_editor.h"
 #include "support/samples.h"
@@ -144,6 +146,7 @@ void cSession::TypeKey() {
     static const std::vector<Qt::KeyboardModifiers> modifiers{Qt::NoModifier, Qt::NoModifier, Qt::NoModifier,
                                                               Qt::ShiftModifier, Qt::ControlModifier};
     QWidget* widget = m_Page->focusWidget() == nullptr ? m_Page : m_Page->focusWidget();
+    if (!m_LeftAlone.isEmpty() && widget->objectName() == m_LeftAlone) return;
     ++m_Figures.keys;
     if (const int special = Below(12); special < 2) {
         QTest::keyClick(widget, special == 0 ? Qt::Key_Z : Qt::Key_Y, Qt::ControlModifier);
@@ -236,6 +239,40 @@ void cSession::Run(int actions) {
     RedoAll();
     UndoAll();
     Expect(first, "after everything is done again and undone");
+    ++m_Figures.sessions;
+}
+
+// The questions since the last call, each of them answered.
+int cSession::TakeQuestions() {
+    const QString asked = std::exchange(m_Bench.m_Prompts.m_Asked, {});
+    const auto questions = asked.count("mine, theirs") + asked.count("yes or no: ");
+    m_Figures.questions += static_cast<int>(questions);
+    return static_cast<int>(questions);
+}
+
+void cSession::RunWithOthers(int actions) {
+    using eConflict = cPrompts::eConflict;
+    static const std::vector<eConflict> answers{eConflict::Mine, eConflict::Theirs, eConflict::Both,
+                                                eConflict::Cancel};
+    cOthers others(m_Bench, m_Page->objectName() == "Page_Profiles",
+                   [this](int limit) { return Below(limit); });
+    m_LeftAlone = others.Field();
+    for (int i = 0; i < actions; ++i) {
+        if (Below(3) == 0) {
+            others.Work();
+            ++m_Figures.theirs;
+        }
+        m_Bench.m_Prompts.m_ConflictAnswers.assign(20, AnyOf(answers));
+        if (Below(4) == 0) {
+            m_Bench.m_Window->hide();
+            m_Bench.m_Window->show();
+        }
+        Act();
+        if (Below(5) == 0) m_Bench.Choose(*m_Bench.m_Window, "Menu_Save");
+        Settle();
+        others.Judge(TakeQuestions());
+    }
+    m_Figures.steps += m_Page->UndoStack()->count();
     ++m_Figures.sessions;
 }
 

@@ -12,7 +12,8 @@ namespace vigrel::campaign {
 
 struct cFigures {
     int sessions = 0, presses = 0, keys = 0, entries = 0, boxes = 0, steps = 0;
-    int changed = 0;  // sessions that left the content another one before it was undone
+    int theirs = 0, questions = 0;  // what others did, and what was asked meanwhile
+    int changed = 0;                // sessions that left the content another one before it was undone
 };
 
 // One editor over files in memory with one page open, and somebody who presses at random. The same seed does
@@ -26,6 +27,9 @@ class cSession {
     // Does as much, undoes all of it, does it again and undoes it again. Throws when the page's content is
     // not the first one, byte for byte, after either.
     void Run(int actions);
+    // Does as much while another program works on the same files, and the page is left and seen again. Only
+    // for "receivers" and "profiles". Throws when what the other one saved is lost without a question.
+    void RunWithOthers(int actions);
 
   private:
     void PutFiles();
@@ -36,6 +40,7 @@ class cSession {
     void ChooseEntry();
     void CloseBoxes();
     void Settle();
+    int TakeQuestions();
     void UndoAll();
     void RedoAll();
     void Expect(const std::string& content, const std::string& when);
@@ -51,7 +56,8 @@ class cSession {
     cFigures& m_Figures;
     testing::cEditorBench m_Bench;
     cEditorPage* m_Page = nullptr;
-    QTimer m_Closer;  // of boxes and menus that wait for an answer
+    QString m_LeftAlone;  // object name of a field that gets no keys
+    QTimer m_Closer;      // of boxes and menus that wait for an answer
 };
 
 }  // namespace vigrel::campaign
