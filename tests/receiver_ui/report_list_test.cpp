@@ -67,6 +67,8 @@ class ReportList : public ::testing::Test {
         m_List.TakeOverRecords();
         m_List.Rows();
     }
+    // Until what was done stands on the screen.
+    static void LetItFlush() { RunEvents(cQtReportList::kFlushMilliseconds + 20); }
     QTableView& View() { return m_List.View(); }
     QModelIndex Cell(int row, int column) { return View().model()->index(row, column); }
     QPoint Middle(int row, int column) { return View().visualRect(Cell(row, column)).center(); }
@@ -88,17 +90,18 @@ class ReportList : public ::testing::Test {
 
 TEST_F(ReportList, ABurstOfArrivalsIsPaintedOnceAndStandsWithinTheFlushTime) {
     Fill(1);
-    RunEvents(cQtReportList::kFlushMilliseconds + 10);
+    LetItFlush();
     QSignalSpy inserted(View().model(), &QAbstractItemModel::rowsInserted);
     for (int i = 0; i < 500; ++i) Arrive("burst", 1000 + i);
     EXPECT_EQ(View().model()->rowCount(), 1);
-    EXPECT_TRUE(WaitUntil([&] { return View().model()->rowCount() == 501; }, 200));
+    EXPECT_TRUE(
+        WaitUntil([&] { return View().model()->rowCount() == 501; }, 2 * cQtReportList::kFlushMilliseconds));
     EXPECT_EQ(inserted.count(), 1);
 }
 
 TEST_F(ReportList, ALoneArrivalShowsAtTheNextTurnOfTheLoop) {
     Fill(1);
-    RunEvents(cQtReportList::kFlushMilliseconds + 10);
+    LetItFlush();
     Arrive("lone", 1000);
     QCoreApplication::processEvents();
     QCoreApplication::processEvents();
@@ -107,10 +110,10 @@ TEST_F(ReportList, ALoneArrivalShowsAtTheNextTurnOfTheLoop) {
 
 TEST_F(ReportList, AnArrivalIsScrolledIntoView) {
     Fill(200);
-    RunEvents(60);
+    LetItFlush();
     EXPECT_EQ(View().verticalScrollBar()->value(), 0);
     Arrive("last", 1000);
-    RunEvents(100);
+    LetItFlush();
     EXPECT_TRUE(View().viewport()->rect().contains(View().visualRect(Cell(200, 1))));
     EXPECT_TRUE(m_List.SelectedRows().empty());
 }
@@ -118,10 +121,10 @@ TEST_F(ReportList, AnArrivalIsScrolledIntoView) {
 TEST_F(ReportList, ScrollingToAnArrivalLeavesTheColumnsWhereTheyAre) {
     m_List.SetColumnWidth(1, 2000);
     Fill(200);
-    RunEvents(60);
+    LetItFlush();
     View().horizontalScrollBar()->setValue(300);
     Arrive("last", 1000);
-    RunEvents(100);
+    LetItFlush();
     EXPECT_EQ(View().horizontalScrollBar()->value(), 300);
 }
 
@@ -457,7 +460,7 @@ class ReportListPicture : public ReportList {
   protected:
     // The cell as it stands on the screen.
     QImage Picture(int row, int column) {
-        RunEvents(60);
+        LetItFlush();
         return View().viewport()->grab(View().visualRect(Cell(row, column))).toImage();
     }
     // How many pixels of the picture have about that colour.
@@ -564,14 +567,14 @@ TEST_F(ReportListPicture, TheListsOwnStyleIsWhereARowStartsFrom) {
 }
 
 TEST_F(ReportListPicture, AnEmptyListShowsItsText) {
-    RunEvents(60);
+    LetItFlush();
     const QImage blank = View().viewport()->grab().toImage();
     m_List.SetEmptyText("(nothing to show)");
-    RunEvents(60);
+    LetItFlush();
     EXPECT_NE(View().viewport()->grab().toImage(), blank);
     Fill(1);
     m_List.RemoveAllRecords();
-    RunEvents(60);
+    LetItFlush();
     EXPECT_NE(View().viewport()->grab().toImage(), blank);
 }
 
