@@ -50,6 +50,8 @@ cSettingEdit::cSettingEdit(const QString& name, QWidget* parent)
     // One line, however high the form.
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setFocusProxy(m_Text);
+    // Else the access key of a label passes it over.
+    setFocusPolicy(Qt::ClickFocus);
     connect(m_Text, &QLineEdit::textEdited, this, [this](const QString& text) { EditText(text); });
     connect(m_Choice, &QComboBox::activated, this, [this](int choice) { EditChoice(choice); });
 }
