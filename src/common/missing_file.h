@@ -11,8 +11,10 @@ namespace vigrel {
 // answer, and what is made in place of a file that is taken for missing replaces it.
 inline bool IsThere(const cFileReader& files, std::string_view path) {
     const auto failure = CatchFailure([&] { files.ReadFile(path); });
-    if (failure && failure->Number() != eFailure::FileNotFound) throw *failure;
-    return !failure;
+    if (failure && failure->Number() == eFailure::FileNotFound) return false;
+    // One that can't be read is there all the same.
+    if (failure && !files.FileExists(path)) throw *failure;
+    return true;
 }
 
 // Whether a file is certainly not there.

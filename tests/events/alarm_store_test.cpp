@@ -179,7 +179,7 @@ TEST_F(AlarmStore, ANumberThatCouldNotBeLookedForIsGivenToNoAlarm) {
     cAlarmStore ofFaulty({faulty, faulty, clock, random, log, texts, settings, categories, timerSave}, kApp);
     random.m_Values = {0.5, 0.25};
     const AlarmPtr alarm = MakeAlarm();
-    faulty.m_Count = 1;
+    faulty.m_Count = 2;  // the read, and the look that follows it
     ofFaulty.SaveAlarm(alarm);
     EXPECT_EQ(faulty.m_Met.count("read " + other), 1u);
     EXPECT_EQ(files.ReadFile(other), before);
@@ -190,13 +190,22 @@ TEST_F(AlarmStore, ANumberThatCouldNotBeLookedForIsGivenToNoAlarm) {
     EXPECT_EQ(files.ReadFile(other), before);
 }
 
+TEST_F(AlarmStore, ANumberWhoseFileCannotBeReadIsTakenAndHoldsNoSaveUp) {
+    files.SetUnreadable(PutFile(5000000, 1), true);
+    random.m_Values = {0.5, 0.25};
+    const AlarmPtr alarm = MakeAlarm();
+    store.SaveAlarm(alarm);
+    EXPECT_EQ(alarm->m_FileId, 2500000);
+    EXPECT_EQ(AlarmFiles().size(), 2u);
+}
+
 // Number 0 is an alarm's like any other.
 TEST_F(AlarmStore, AnAlarmThatLeavesBeforeItHasANumberTakesNoFileAlong) {
     const std::string zero = PutFile(0, 1, "zero");
     cFaultyFiles faulty(files);
     cAlarmStore ofFaulty({faulty, faulty, clock, random, log, texts, settings, categories, timerSave}, kApp);
     const AlarmPtr alarm = MakeAlarm();
-    faulty.m_Count = 1;
+    faulty.m_Count = 2;
     ofFaulty.SaveAlarm(alarm);
     ASSERT_EQ(alarm->m_FileId, 0);
     ofFaulty.DeleteAlarmFile(*alarm);
