@@ -173,7 +173,7 @@ TEST_F(ForeignFiles, WhatACrashLeftBesideALinksTargetGoesUnlessAnotherUserMadeTh
     const bool planted = lchown(Native("VigrelReceiver.INI").c_str(), 4711, 4711) == 0;
     RemoveTemporariesOfLinks(m_Files, Path(""), "vigrelreceiver.ini");
     EXPECT_EQ(fs::exists(Native("etc/shared.ini.$~")), planted);
-    if (planted) lchown(Native("VigrelReceiver.INI").c_str(), geteuid(), getegid());
+    ASSERT_TRUE(!planted || lchown(Native("VigrelReceiver.INI").c_str(), geteuid(), getegid()) == 0);
     RemoveTemporariesOfLinks(m_Files, Path(""), "vigrelreceiver.ini");
     RemoveTemporariesOfLinks(m_Files, Path(""), "vigrelreceiver.ini");
     EXPECT_FALSE(fs::exists(Native("etc/shared.ini.$~")));
@@ -290,7 +290,7 @@ TEST_F(ForeignFiles, AFolderThatIsALinkOfAnotherUsersIsNotWrittenIn) {
     EXPECT_EQ(refused([&] { m_Files.RemoveFile(Path("LogFiles\\theirs")); }), planted);
     EXPECT_EQ(m_Files.ListFiles(Path("elsewhere"), "*").size(), planted ? 1u : 4u);
     // Whoever owns the folder may put links into it.
-    if (planted) chown(m_Folder.Path().c_str(), 4711, 4711);
+    ASSERT_TRUE(!planted || chown(m_Folder.Path().c_str(), 4711, 4711) == 0);
     m_Files.AppendFile(Path("LogFiles\\e.Log"), "line");
     EXPECT_EQ(Content("elsewhere\\e.Log"), "line");
 }
@@ -303,7 +303,7 @@ TEST_F(ForeignFiles, ALinkThatAnotherUserMadeIsNotFollowed) {
     EXPECT_EQ(failure.has_value(), planted);
     EXPECT_EQ(Content("other.ini"), planted ? "old" : "new");
     // Whoever owns the folder may put links into it.
-    if (planted) chown(m_Folder.Path().c_str(), 4711, 4711);
+    ASSERT_TRUE(!planted || chown(m_Folder.Path().c_str(), 4711, 4711) == 0);
     ReplaceFile(m_Files, Path("a.ini"), "newer");
     EXPECT_EQ(Content("other.ini"), "newer");
 }

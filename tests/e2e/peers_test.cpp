@@ -18,7 +18,7 @@
 #include "e2e/station.h"
 #include "e2e/tcp_client.h"
 #include "life/line_maker.h"
-#include "life/naive_station.h"
+#include "life/naive_link.h"
 #include "link/frame.h"
 
 namespace vigrel::testing {
@@ -194,7 +194,7 @@ void SendRandomLines(const std::stop_token& stop, int port) {
     cLineMaker lines(draw);
     while (!stop.stop_requested()) {
         const cTcpClient client(port);
-        cNaiveStation naive({{"PLC1", 0}}, 1);
+        cNaiveLink naive({{"PLC1", 0}});
         naive.Connect();
         std::string expected, received;
         for (bool goesOn = client.Connected(); goesOn && !stop.stop_requested();) {
@@ -285,7 +285,7 @@ TEST(AllBytes, AtAnyPlaceOfAFrameAreAnsweredAsAPlainSecondStationAnswers) {
     cStation station;
     station.Configure("[General]\r\nMaxEvents=20\r\n[Senders]\r\nPLC1=0\r\n");
     ASSERT_TRUE(station.Start()) << station.StandardError();
-    cNaiveStation naive({{"PLC1", 0}}, 1);
+    cNaiveLink naive({{"PLC1", 0}});
     naive.Connect();
     const std::string frames = FramesOfAllBytes();
     const std::string expected = naive.Arrive(frames);

@@ -1,5 +1,7 @@
 #include "life/line_maker.h"
 
+#include <iterator>
+
 #include "link/frame.h"
 
 namespace vigrel::testing {
@@ -19,8 +21,25 @@ std::string cLineMaker::Record() {
     std::string kind = kKinds[Below(10)];
     if (Below(5) == 0) return kind;
     constexpr const char* kBlanks[] = {"", " ", "  "};
-    return kind + "2026-03-15|12:00:00|" + kBlanks[Below(3)] + "a" + std::to_string(++m_Alarms) +
-           kBlanks[Below(3)] + (Below(2) == 0 ? "|b|c|d|e|f|g" : "");
+    constexpr const char* kDates[] = {"2026-03-15", "2026-03-15", "26-03-15", "2026-13-00",
+                                      "95/1/30",    "",           "2026"};
+    return kind + kDates[Below(7)] + "|12:00:00|" + kBlanks[Below(3)] + "a" + std::to_string(++m_Alarms) +
+           kBlanks[Below(3)] +
+           (Below(4) == 0 ? "" : "|" + Text() + "|" + Category() + "|d|" + Text() + "|f|g");
+}
+
+// Full of what templates are made of.
+std::string cLineMaker::Text() {
+    constexpr char kCharacters[] = {'a', 'b', 'A', 'B', ' ', ' ', '[',    ']',
+                                    '{', '}', ':', '?', '-', '1', '\x10', '\xC4'};
+    std::string text;
+    for (int i = Below(20); i > 0; --i) text += kCharacters[Below(static_cast<int>(std::size(kCharacters)))];
+    return text;
+}
+
+std::string cLineMaker::Category() {
+    constexpr const char* kCategories[] = {"Fire", "FIRE", "gas", "Gas ", "Water", "Air", "", "Fire Gas"};
+    return kCategories[Below(8)];
 }
 
 std::string cLineMaker::Line() {

@@ -18,6 +18,8 @@ class cLineMaker {
     int Below(int limit) { return static_cast<int>(m_Draw() % static_cast<unsigned>(limit)); }
     std::string Sender();
     std::string Record();
+    std::string Text();
+    std::string Category();
     std::string Garbage();
 
     std::mt19937& m_Draw;

@@ -1,140 +1,120 @@
 #include "life/naive_station.h"
 
-#include <cctype>
-#include <cstdio>
+#include <cmath>
+#include <utility>
+
+#include "life/naive_template.h"
 
 namespace vigrel::testing {
-namespace {
 
-const std::string kAccepted =
-    "\x04"
-    "04\n\r";
-const std::string kRefused =
-    "\x05"
-    "05\n\r";
+cNaiveStation::cNaiveStation(double now) : m_Link({{"PLC1", 1}, {"PLC2", 3}, {"PLC3", 0}}) {
+    m_Link.m_Now = now;
+    m_Link.OnAlarm = [this](const cNaiveAlarm& alarm) { Take(alarm); };
+}
 
-std::vector<std::string> CutAt(const std::string& text, char separator) {
-    std::vector<std::string> fields(1);
-    for (const char c : text) {
-        if (c == separator) {
-            fields.emplace_back();
-        } else {
-            fields.back() += c;
-        }
+void cNaiveStation::TimePasses(double seconds) {
+    m_Link.m_Now += seconds / 86400;
+    m_Link.m_Steady += seconds / 86400;
+}
+
+void cNaiveStation::Take(const cNaiveAlarm& alarm) {
+    const cNaiveStore::Alarm taken = m_Store.Add(alarm, m_Link.m_Now);
+    m_Changed = true;
+    m_Popups.Open(taken, m_Link.m_Now);
+    m_Sound.Signal(CategoryOf(m_Plan, *taken), taken->status);
+    Print(*taken);
+}
+
+void cNaiveStation::Print(const cNaiveAlarm& alarm) {
+    if (m_Plan.printerPort == 0) return;
+    std::string text = NaiveExpanded(alarm, m_Plan.printerFormat, "", m_Plan.object);
+    for (char& c : text) {
+        if (m_Plan.printerLetters && c == '\xC4') c = '\x8E';
     }
-    return fields;
-}
-
-std::string FieldOf(const std::vector<std::string>& fields, std::size_t i) {
-    return i < fields.size() ? fields[i] : "";
-}
-
-std::string InLowerCase(std::string text) {
-    for (char& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-    return text;
-}
-
-std::string Checksum(const std::string& text) {
-    int sum = 0;
-    for (const char c : text) sum += static_cast<unsigned char>(c);
-    char digits[8];
-    std::snprintf(digits, sizeof digits, "%02X", sum % 256);
-    return digits;
-}
-
-std::string WithoutOuterBlanks(std::string text) {
-    while (!text.empty() && text.front() == ' ') text.erase(0, 1);
-    while (!text.empty() && text.back() == ' ') text.pop_back();
-    return text;
-}
-
-}  // namespace
-
-std::string cNaiveStation::Arrive(const std::string& bytes) {
-    if (!m_Open) return "";
-    for (const char c : bytes) {
-        if (c != '\r') m_Buffer += c;
-    }
-    std::string replies;
-    while (m_Buffer.find('\n') != std::string::npos) {
-        const std::size_t end = m_Buffer.find('\n');
-        replies += Answer(m_Buffer.substr(0, end));
-        m_Buffer = m_Buffer.substr(end + 1);
-    }
-    return replies;
-}
-
-std::string cNaiveStation::Answer(const std::string& line) {
-    if (line.empty() ||
-        line ==
-            "\x04"
-            "04" ||
-        line ==
-            "\x05"
-            "05")
-        return "";
-    if (line.front() != 2 || line.back() != 3) return kRefused;
-    const std::vector<std::string> fields = CutAt(line, '\xFF');
-    const std::string sender = fields[0].substr(1);
-    std::string text = FieldOf(fields, 1);
-    const std::string kind = text.substr(0, 2);
-    bool accepted = (kind == "S0" || kind == "S1" || kind == "S2" || kind == "S3") &&
-                    FieldOf(fields, 2).substr(0, 2) == Checksum(sender + "\xFF" + text);
-    if (accepted) {
-        text = text.substr(2);
-        if (!text.empty() && kind != "S3") Keep(WithoutOuterBlanks(FieldOf(CutAt(text, '|'), 2)));
-    }
-    if (cSender* known = Find(sender)) {
-        known->lastHeard = m_Now;
-        if (known->lost) Keep("VigrelAlarmReceiver");
-        known->lost = false;
-        if (text.empty()) accepted = true;
-    }
-    return accepted ? kAccepted : kRefused;
-}
-
-cNaiveStation::cSender* cNaiveStation::Find(const std::string& name) {
-    for (cSender& sender : m_Senders) {
-        if (InLowerCase(sender.name) == InLowerCase(name)) return &sender;
-    }
-    return nullptr;
-}
-
-void cNaiveStation::Keep(const std::string& text) {
-    m_Alarms.push_back({text});
-    if (m_Alarms.size() > m_Most) m_Alarms.pop_front();
+    for (; !text.empty(); text.erase(0, 80))
+        m_Printed += std::to_string(m_Plan.printerPort - 1) + ":" + text.substr(0, 80) + "\r\n";
 }
 
 void cNaiveStation::Tick() {
-    for (cSender& sender : m_Senders) {
-        if (sender.minutes == 0 || m_Now <= sender.lastHeard + sender.minutes * 60) continue;
-        Keep("VigrelAlarmReceiver");
-        sender.lost = true;
-        sender.lastHeard = m_Now;
-    }
+    m_Link.Tick();
+    const long day = std::lround(std::floor(m_Link.m_Now));
+    if (m_LastDay != 0 && m_LastDay != day) m_Store.RemoveOld(m_Link.m_Now);
+    m_LastDay = day;
+}
+
+void cNaiveStation::PlayTick() {
+    if (!m_Sound.Tick()) return;
+    if (std::exchange(m_Changed, false)) m_Unseen = m_Store.CountUnseen();
+    m_Icon = m_Unseen > 0 && m_Flash ? 1 : 2;
+    m_Flash = !m_Flash;
+}
+
+void cNaiveStation::ClickIcon() {
+    if (m_Plan.stopByClick) m_Sound.Silence();
+}
+
+void cNaiveStation::SilenceUnlessPopups() {
+    if (!m_Plan.untilNoMorePopups || m_Popups.m_Open.empty()) m_Sound.Silence();
+}
+
+void cNaiveStation::Acknowledge(const cNaiveStore::Alarm& alarm) {
+    SilenceUnlessPopups();
+    if (!alarm->acknowledged) m_Store.Acknowledge(alarm);
+    m_Changed = true;
 }
 
 void cNaiveStation::Acknowledge(std::size_t row) {
-    if (row < m_Alarms.size()) m_Alarms[row].acknowledged = true;
+    const std::vector<cNaiveStore::Alarm> rows = m_Store.Rows();
+    if (row < rows.size()) Acknowledge(rows[row]);
 }
 
 void cNaiveStation::AcknowledgeAll() {
-    for (cAlarm& alarm : m_Alarms) alarm.acknowledged = true;
-}
-
-void cNaiveStation::Restart() {
-    m_Open = false;
-    for (cSender& sender : m_Senders) {
-        sender.lastHeard = m_Now;
-        sender.lost = false;
+    for (const cNaiveStore::Alarm& alarm : m_Store.Rows()) {
+        if (!alarm->acknowledged) Acknowledge(alarm);
     }
+    SilenceUnlessPopups();
 }
 
-std::vector<std::string> cNaiveStation::Rows() const {
-    std::vector<std::string> rows;
-    for (const cAlarm& alarm : m_Alarms)
-        rows.push_back(alarm.text + "|" + (alarm.acknowledged ? "#27" : "#26"));
-    return rows;
+void cNaiveStation::Close(const cNaivePopups::cPopup& popup) {
+    const cNaivePopups::cPopup closed = popup;
+    if (!m_Plan.untilNoMorePopups || m_Popups.m_Open.size() == 1) m_Sound.Silence();
+    if (m_Plan.acknowledgeAtClose) Acknowledge(closed.alarm);
+    m_Popups.Close(closed.number, m_Link.m_Now);
+}
+
+void cNaiveStation::ClosePopup(std::size_t open) {
+    if (open < m_Popups.m_Open.size()) Close(m_Popups.m_Open[open]);
+}
+
+void cNaiveStation::AcknowledgeAllAndClose() {
+    AcknowledgeAll();
+    while (!m_Popups.m_Open.empty()) Close(m_Popups.m_Open.front());
+    SilenceUnlessPopups();
+}
+
+void cNaiveStation::Restart(const cPlan& plan) {
+    while (!m_Popups.m_Open.empty()) Close(m_Popups.m_Open.front());
+    m_Plan = plan;
+    m_Link.m_AutoReset = plan.autoReset;
+    m_Link.m_SystemCategory = plan.systemCategory;
+    m_Link.Restart();
+    m_Popups.Restart(plan);
+    m_Sound.Restart(plan);
+    m_Store.Restart(plan.maxEvents, plan.maxDays, m_Link.m_Now);
+    m_Printed.clear();
+    m_LastDay = 0;
+    m_Changed = true;
+    m_Flash = false;
+    m_Unseen = 0;
+    m_Icon = 0;
+}
+
+std::string cNaiveStation::Told() {
+    std::string rows;
+    for (const cNaiveStore::Alarm& alarm : m_Store.Rows())
+        rows += alarm->texts[0] + "|#" + (alarm->acknowledged ? "27" : "26") + " ";
+    return "rows: " + rows + "\npopups: " + m_Popups.Told() + "\nicon: " + std::to_string(m_Icon) +
+           "\nsound: " + m_Sound.Take() + "printed: " + std::exchange(m_Printed, {});
 }
 
 }  // namespace vigrel::testing

@@ -1,59 +1,65 @@
 #pragma once
 
-#include <deque>
 #include <string>
 #include <vector>
+
+#include "life/naive_link.h"
+#include "life/naive_popups.h"
+#include "life/naive_sound.h"
+#include "life/naive_store.h"
+#include "life/plan.h"
 
 namespace vigrel::testing {
 
 // A second receiver, as plain as it can be: what comes over the link, which senders are heard, which alarms
-// are kept. It shares nothing with the real one, and takes one moment after the other as seconds that go by.
+// are kept, what pops up, sounds and is printed. It shares nothing with the real one.
 class cNaiveStation {
   public:
-    struct cSender {
-        std::string name;
-        int minutes;
-        double lastHeard = 0;
-        bool lost = false;
-    };
-    // Senders, and the most alarms to keep.
-    cNaiveStation(std::vector<cSender> senders, std::size_t most)
-        : m_Senders(std::move(senders)), m_Most(most) {}
+    explicit cNaiveStation(double now);
 
-    void Connect() {
-        m_Open = true;
-        m_Buffer.clear();
-    }
-    void PeerCloses() { m_Open = false; }
+    void Connect() { m_Link.Connect(); }
+    void PeerCloses() { m_Link.PeerCloses(); }
     // The replies to what arrives.
-    std::string Arrive(const std::string& bytes);
-    void TimePasses(double seconds) { m_Now += seconds; }
-    // The ten-second tick.
+    std::string Arrive(const std::string& bytes) { return m_Link.Arrive(bytes); }
+    void TimePasses(double seconds);
+    // The clock is set; time doesn't pass.
+    void SetClock(double seconds) { m_Link.m_Now += seconds / 86400; }
+    // The ten-second tick, and the one of twice a second.
     void Tick();
-    // The oldest is row 0.
+    void PlayTick();
+    void PlayEnds() { m_Sound.PlayEnds(); }
+    void ClickIcon();
+    void StopSound() { m_Sound.Silence(); }
+    // Rows count from 0, as they are listed.
     void Acknowledge(std::size_t row);
     void AcknowledgeAll();
-    void Restart();
+    void AcknowledgeAllAndClose();
+    // The popup so far along the open ones, the oldest first.
+    void ClosePopup(std::size_t open);
+    void Restart(const cPlan& plan);
+    void EventIsOver() { m_Sound.EventIsOver(); }
 
-    // The rows, the oldest first: "text|" and whether it is acknowledged.
-    std::vector<std::string> Rows() const;
+    // All that an operator would notice, a line each: rows, popups, the icon. What sounded and was printed is
+    // that of the time since the last call.
+    std::string Told();
 
   private:
-    struct cAlarm {
-        std::string text;
-        bool acknowledged = false;
-    };
-    // What a line is answered with; empty for none.
-    std::string Answer(const std::string& line);
-    void Keep(const std::string& text);
-    cSender* Find(const std::string& name);
+    void Take(const cNaiveAlarm& alarm);
+    void Acknowledge(const cNaiveStore::Alarm& alarm);
+    void SilenceUnlessPopups();
+    void Close(const cNaivePopups::cPopup& popup);
+    void Print(const cNaiveAlarm& alarm);
 
-    std::vector<cSender> m_Senders;
-    std::size_t m_Most;
-    std::deque<cAlarm> m_Alarms;
-    std::string m_Buffer;
-    bool m_Open = false;
-    double m_Now = 0;
+    cPlan m_Plan;
+    cNaiveLink m_Link;
+    cNaiveStore m_Store;
+    cNaivePopups m_Popups;
+    cNaiveSound m_Sound;
+    std::string m_Printed;
+    long m_LastDay = 0;
+    bool m_Changed = false, m_Flash = false;
+    std::size_t m_Unseen = 0;
+    int m_Icon = 0;
 };
 
 }  // namespace vigrel::testing
