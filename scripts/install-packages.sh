@@ -20,7 +20,7 @@ test_packages=(
 # Looking for mistakes that the compiler does not see.
 lint_packages=(clang-tidy)
 # Telling which branches the tests take.
-coverage_packages=(gcovr)
+coverage_packages=(clang-14 llvm-14 libclang-rt-14-dev)
 # Making the packages, looking at what they hold, installing them in a bare Debian.
 package_packages=(
     dpkg-dev file binutils
