@@ -16,7 +16,7 @@ Installs the Debian packages that are missing, builds, and starts a station that
 
 The station's application folder (configuration, stored alarms, logs) is the one that the environment variable
 VIGREL_APPLICATION_PATH names, or VigrelReceiver in your data folder. On first use it is filled with a configuration
-to begin with, in the language of your locale (or of VIGREL_LANGUAGE, such as 046). The station listens on port 12412 (key Port of section TCPIP).
+to begin with, in the language of your locale, or else in English (or in VIGREL_LANGUAGE, such as 046). The station listens on port 12412 (key Port of section TCPIP).
 
 Switches of the receiver, such as /DEBUG, /TOPMOST, /MAXIMIZE, /MINIMIZE, are passed on.
 
@@ -52,7 +52,7 @@ if [ $headless = no ] && [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ];
 fi
 [ $headless = no ] || export QT_QPA_PLATFORM=offscreen
 
-# Ready to receive without a question, where the locale names a language that there is.
+# Ready to receive without a question.
 export VIGREL_LANGUAGE=${VIGREL_LANGUAGE:-locale}
 echo "Application folder: $folder"
 exec build/release/bin/vigrel-receiver "${switches[@]}"

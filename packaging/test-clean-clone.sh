@@ -55,9 +55,9 @@ echo "== ./run.sh"
 port=12412
 ! (: <>/dev/tcp/localhost/$port) 2>/dev/null || { echo "Port $port is in use on this machine." >&2; exit 2; }
 begin_desktop
-# The language is that of the locale.
+# The locale of a bare machine names no language.
 start=$SECONDS
-in_clone "LANG=en_GB.UTF-8 DISPLAY=$DISPLAY exec ./run.sh" >"$work/output" 2>&1 &
+in_clone "LANG=C.UTF-8 DISPLAY=$DISPLAY exec ./run.sh" >"$work/output" 2>&1 &
 run=$!
 folder=$root/root/.local/share/VigrelReceiver
 is_open() { log_says "$folder" "Port $port is open"; }

@@ -47,7 +47,7 @@ Environment:
                             holds Templates or VigrelReceiver.INI and can be written, and else
                             VigrelReceiver in XDG_DATA_HOME or ~/.local/share
   VIGREL_LANGUAGE           the language of a first start, which then asks for none: three digits such as 046,
-                            or "locale"
+                            or "locale" (English where the locale names none that there is)
   QT_QPA_PLATFORM           "offscreen" runs the station without windows although there is a display
 )";
 

@@ -51,12 +51,9 @@ std::string cFirstStart::UsersLanguage() const {
 
 // Empty where the operator is to be asked.
 std::string cFirstStart::DecidedLanguage(const std::string& users) const {
-    if (!m_Hints.language.empty()) {
-        const std::string texts = std::string(kTextFile) + m_Hints.language;
-        if (m_Files.FileExists(m_Ini.FullPath(texts))) return m_Hints.language;
-        if (!users.empty()) return users;
-    }
-    if (m_Hints.canAsk) return {};
+    const std::string& wished = m_Hints.language;
+    if (wished.empty() && m_Hints.canAsk) return {};
+    if (!wished.empty() && m_Files.FileExists(m_Ini.FullPath(std::string(kTextFile) + wished))) return wished;
     return users.empty() ? std::string(kEnglish) : users;
 }
 

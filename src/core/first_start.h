@@ -12,8 +12,8 @@ namespace vigrel {
 
 // What a first start knows of its surroundings.
 struct cFirstStartHints {
-    // Wished language: three digits, or "locale" for the user's own where there is one; empty: it is asked
-    // for.
+    // Wished language: three digits, or "locale" for the user's own. Where there is no such language, it is
+    // the user's own, or else English: whoever wishes one is not asked. Empty: it is asked for.
     std::string language;
     bool canAsk = true;  // there is somebody at a screen
     // The part of the screen that windows may cover, in pixels; nothing is fitted to one without a size.

@@ -98,14 +98,14 @@ TEST_F(FirstStart, AWishedLanguageIsNotAskedFor) {
     EXPECT_EQ(Setting("General", "Language"), "049");
 }
 
-TEST_F(FirstStart, TheWishForTheLocalesLanguageIsFulfilledOrAskedFor) {
+TEST_F(FirstStart, AWishForTheLocalesLanguageIsEnglishWhereTheLocaleNamesNone) {
     Start({"locale"});
     EXPECT_EQ(Setting("General", "Language"), "046");
     m_Files.RemoveFile(kFolder + "VigrelReceiver.ini");
     m_Files.RemoveFile(kFolder + "Templates\\VigrelReceiver.oni");
     m_Locale.m_EnglishLanguageName = m_Locale.m_NativeLanguageName = "";
     Start({"locale"});
-    EXPECT_EQ(Setting("General", "Language"), "");
+    EXPECT_EQ(Setting("General", "Language"), "044");
 }
 
 TEST_F(FirstStart, AnotherChoiceReplacesTemplateAndConfiguration) {

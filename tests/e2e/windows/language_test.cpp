@@ -119,6 +119,11 @@ TEST(LanguageOfABox, YesHasTheLetterOfTheStationsLanguage) {
     }
 }
 
+TEST(FirstStart, AWishForTheLocalesLanguageAsksNothingWhereTheLocaleNamesNone) {
+    cFreshStation station({{"QT_QPA_PLATFORM", "xcb"}, {"LC_ALL", "C.UTF-8"}, {"VIGREL_LANGUAGE", "locale"}});
+    EXPECT_TRUE(station.WaitForLog(DeliveredText("044", 10040))) << station.StandardError();
+}
+
 TEST(FirstStart, WithoutAChoiceTheProgramEndsWithoutAWord) {
     cStation station;
     PutDeliveredTexts(station);
