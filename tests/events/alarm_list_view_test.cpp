@@ -246,6 +246,9 @@ TEST_F(AlarmListView, TheRowHeightFollowsTheFontSize) {
     EXPECT_EQ(view.RowHeight(), 21);  // 12 * 1440 / 72 / 15 + 5
     list.SetFont("Arial", 10.5);
     EXPECT_EQ(view.RowHeight(), 19);
+    list.SetFont("Arial", 72);
+    EXPECT_EQ(view.RowHeight(), 101);
+    list.SetFont("Arial", 10.5);
     screen.m_TwipsPerPixel = 7.5;
     EXPECT_EQ(view.RowHeight(), 33);
 }

@@ -212,6 +212,13 @@ TEST_F(AlarmStore, AnAlarmThatLeavesBeforeItHasANumberTakesNoFileAlong) {
     EXPECT_TRUE(files.FileExists(zero));
 }
 
+TEST_F(AlarmStore, TheFileOfNumberZeroGoesWithItsAlarm) {
+    const std::string zero = PutFile(0, 1, "zero");
+    Load();
+    store.DeleteAlarmFile(*store.m_Alarms.front());
+    EXPECT_FALSE(files.FileExists(zero));
+}
+
 TEST_F(AlarmStore, ASavedAlarmSurvivesACrashAsSoonAsSaveReturns) {
     const AlarmPtr alarm = MakeAlarm();
     store.SaveAlarm(alarm);

@@ -231,6 +231,10 @@ TEST_F(RecordDecoder, BlanksAroundDateAndTimeDoNotCount) {
     EXPECT_DOUBLE_EQ(EventTime("  ", "  "), clock.Now());
 }
 
+TEST_F(RecordDecoder, ABlankInPlaceOfAZeroIsReadOver) {
+    EXPECT_DOUBLE_EQ(EventTime("2024- 3- 5", " 6: 7: 8"), DateSerial(2024, 3, 5) + TimeSerial(6, 7, 8));
+}
+
 TEST_F(RecordDecoder, FourCharactersWithoutHyphenAreAYearOfFourDigits) {
     EXPECT_EQ(EventTime("2024", "12:00:00"), DateSerial(2024, 0, 0) + 0.5);
 }
