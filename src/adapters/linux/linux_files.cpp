@@ -13,6 +13,7 @@
 
 #include "adapters/linux/file_failure.h"
 #include "adapters/linux/file_handle.h"
+#include "adapters/linux/file_times.h"
 #include "adapters/linux/folder_entries.h"
 #include "adapters/linux/links.h"
 #include "adapters/linux/native_path.h"
@@ -56,20 +57,6 @@ class cSyncThread : public cPendingSync {
     std::atomic<bool> m_Synced{false}, m_Done{false};
     std::thread m_Thread;  // behind what it uses
 };
-
-// A change within this time of another one may not show in the times of a file: clocks of file systems are
-// coarse.
-constexpr std::int64_t kSettlesNs = 2'000'000'000;
-
-std::int64_t Nanoseconds(const timespec& time) {
-    return static_cast<std::int64_t>(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
-}
-
-bool IsSettled(const struct stat& status) {
-    timespec now{};
-    clock_gettime(CLOCK_REALTIME, &now);
-    return Nanoseconds(now) - Nanoseconds(status.st_ctim) > kSettlesNs;
-}
 
 // What follows the folder; lasts as long as the path.
 const char* NameIn(const std::string& native) {
@@ -115,12 +102,14 @@ std::string cLinuxFiles::Spelling(std::string_view path) const {
 }
 
 std::string cLinuxFiles::LookFor(std::string_view path, struct stat& status) const {
-    std::string native = SpelledPath(path);
-    const bool isThere = stat(native.c_str(), &status) == 0;
-    if (m_Names == eNames::Exact) return isThere ? native : "";
-    if (isThere && S_ISREG(status.st_mode)) return native;
-    native = NativePath(path);
-    return stat(native.c_str(), &status) == 0 ? native : "";
+    const std::string spelled = SpelledPath(path);
+    const auto leads = [&status](const std::string& native) { return stat(native.c_str(), &status) == 0; };
+    if (m_Names == eNames::Exact) return leads(spelled) ? spelled : "";
+    std::string native = m_Spellings.Recall(spelled);
+    if (!native.empty() && leads(native)) return native;
+    if (leads(spelled) && S_ISREG(status.st_mode)) return spelled;
+    native = m_Spellings.Search(path);
+    return leads(native) ? native : "";
 }
 
 bool cLinuxFiles::FileExists(std::string_view path) const {

@@ -2,6 +2,7 @@
 
 #include <sys/stat.h>
 
+#include "adapters/linux/found_spellings.h"
 #include "adapters/linux/held_file.h"
 #include "platform/files.h"
 
@@ -56,6 +57,7 @@ class cLinuxFiles : public cFiles {
     bool HoldFolder(const std::string& folder);
 
     eNames m_Names;
+    mutable cFoundSpellings m_Spellings;
     // The folder of what the program alone names, and what was appended to last.
     cHeldFile m_Folder, m_Appended;
 };
