@@ -57,11 +57,13 @@ class cOnMemory {
 std::unique_ptr<cStation> StartedStation(const std::string& further, int stored, const cSize& size) {
     auto station = std::make_unique<cStation>();
     UseDisplay(*station);
+    // As a first start spells it.
+    station->m_ConfigurationName = "VigrelReceiver.ini";
     station->Configure(kConfiguration + further + kSenders);
     StoreAlarms(station->Folder() / "Alarms", stored);
     if (!station->Start())
         throw std::runtime_error("the station does not start: " + station->StandardError());
-    // A configuration that was written within two seconds is read for each alarm.
+    // A configuration that was written within two seconds is searched for and read for each alarm.
     std::this_thread::sleep_for(std::chrono::milliseconds(size.settles));
     return station;
 }

@@ -102,7 +102,7 @@ cStation::~cStation() {
 }
 
 void cStation::WriteConfiguration() const {
-    const std::filesystem::path ini = Folder() / "VigrelReceiver.INI";
+    const std::filesystem::path ini = Folder() / m_ConfigurationName;
     if (m_MakesConfiguration || std::filesystem::exists(ini)) return;
     std::string content = m_Configuration;
     const std::string own = "Language=046\r\n";

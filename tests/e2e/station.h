@@ -74,6 +74,7 @@ class cStation {
     int m_Port;
     bool m_MakesConfiguration = false;  // the program itself; the port is the usual one then
     std::string m_Address;              // empty: all
+    std::string m_ConfigurationName = "VigrelReceiver.INI";
     std::map<std::string, std::string> m_Environment{{"QT_QPA_PLATFORM", "offscreen"}};
 
   private:
