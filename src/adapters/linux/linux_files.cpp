@@ -102,7 +102,7 @@ std::string cLinuxFiles::Spelling(std::string_view path) const {
 }
 
 std::string cLinuxFiles::LookFor(std::string_view path, struct stat& status) const {
-    const std::string spelled = SpelledPath(path);
+    std::string spelled = SpelledPath(path);
     const auto leads = [&status](const std::string& native) { return stat(native.c_str(), &status) == 0; };
     if (m_Names == eNames::Exact) return leads(spelled) ? spelled : "";
     std::string native = m_Spellings.Recall(spelled);
