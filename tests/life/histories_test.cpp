@@ -4,19 +4,14 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <memory>
 
 #include "common/text.h"
-#include "life/history.h"
-#include "life/naive_station.h"
-#include "life/plan.h"
+#include "life/side_by_side.h"
 #include "support/fake_receiver.h"
 
 namespace vigrel::testing {
 namespace {
-
-using eKind = cEvent::eKind;
 
 // The real station, on a disk that outlives it.
 class cRealStation {
@@ -25,6 +20,7 @@ class cRealStation {
         m_Disk.Put("C:\\App\\Vigrel_Texts.046",
                    "837=T837\r\n838=T838\r\n839=T839\r\n10031=T10031\r\n10032=T10032\r\n");
     }
+    bool HasStarted() const { return m_Station != nullptr; }
     void Restart(const cPlan& plan) {
         if (m_Station) m_Station->mainWindow.CloseFor(eCloseReason::SessionEnd);
         m_Disk.Put("C:\\App\\VigrelReceiver.INI", IniOf(plan));
@@ -33,17 +29,38 @@ class cRealStation {
         m_Station = std::move(next);
         m_Station->Start();
     }
-    bool HasStarted() const { return m_Station != nullptr; }
-    cFakeReceiver* operator->() { return m_Station.get(); }
-
+    void EventIsOver() { m_Station->waveDevice.RunEvents(); }
+    void TimePasses(double seconds) { m_Station->clock.AddSeconds(seconds); }
+    void SetClock(double seconds) { m_Station->clock.m_Now += seconds / 86400; }
+    void Connect() { m_Station->listener.Knock(++m_Connections); }
+    std::string Arrive(const std::string& bytes) {
+        m_Station->data.Arrive(bytes);
+        return m_Station->data.TakeSent();
+    }
+    void PeerCloses() { m_Station->data.PeerCloses(); }
+    void Tick() { m_Station->timerKeepAlive.Tick(); }
+    void PlayTick() { m_Station->timerPlay.Tick(); }
+    void PlayEnds() { m_Station->waveDevice.EndPlay(); }
+    void SaveTurn() { m_Station->timerSave.Tick(); }
+    void ClickIcon() { m_Station->trayArea.OnFirstClick(); }
+    void StopSound() { m_Station->menus.OnMenuStopSound(); }
+    void AcknowledgeAll() { m_Station->menus.OnMenuAckAll(); }
+    bool AcknowledgeAllAndClose() {
+        m_Station->menus.OnMenuAckAllAndClosePopups();
+        return true;
+    }
     void Acknowledge(std::size_t row) {
         const std::vector<RecordId> rows = m_Station->list.Rows();
         if (row < rows.size()) m_Station->list.DoubleClick(rows[row]);
     }
-    void ClosePopup(std::size_t open) {
+    // The number of the one that was closed; 0 for none.
+    int ClosePopup(std::size_t open) {
         const std::vector<std::string> numbers = Split(m_Station->popups.Open(), ' ');
-        if (open < numbers.size()) Popup(numbers[open]).CloseFor(eCloseReason::Control);
+        if (open >= numbers.size()) return 0;
+        Popup(numbers[open]).CloseFor(eCloseReason::Control);
+        return std::stoi(numbers[open]);
     }
+    static std::string AsShown(std::string told) { return told; }
     std::string Told() {
         return "rows: " + Rows() + "\npopups: " + Popups() +
                "\nicon: " + std::to_string(m_Station->trayArea.m_Image) + "\nsound: " + Sounded() +
@@ -84,149 +101,18 @@ class cRealStation {
 
     cFakeFiles m_Disk;
     std::unique_ptr<cFakeReceiver> m_Station;
-};
-
-// Both of them, side by side.
-class cPair {
-  public:
-    // What they disagree on behind the event; empty for nothing.
-    std::string Take(const cEvent& event) {
-        if (m_Real.HasStarted()) TimePasses(0.001);
-        const auto [realReplies, naiveReplies] = Happen(event);
-        m_Real->waveDevice.RunEvents();
-        m_Naive.EventIsOver();
-        if (realReplies != naiveReplies)
-            return Against("replies: " + realReplies, "replies: " + naiveReplies);
-        const std::string real = m_Real.Told(), naive = m_Naive.Told();
-        return real == naive ? "" : Against(real, naive);
-    }
-
-  private:
-    struct cReplies {
-        std::string real, naive;
-    };
-    static std::string Against(const std::string& real, const std::string& naive) {
-        return cFakeDataSocket::Visible(real) + "\nagainst\n" + cFakeDataSocket::Visible(naive);
-    }
-    void TimePasses(double seconds) {
-        m_Real->clock.AddSeconds(seconds);
-        m_Naive.TimePasses(seconds);
-    }
-    cReplies Happen(const cEvent& event) {
-        switch (event.kind) {
-            case eKind::Connect:
-                m_Real->listener.Knock(++m_Connections);
-                m_Naive.Connect();
-                break;
-            case eKind::Arrive:
-                m_Real->data.Arrive(event.bytes);
-                return {m_Real->data.TakeSent(), m_Naive.Arrive(event.bytes)};
-            case eKind::PeerCloses:
-                m_Real->data.PeerCloses();
-                m_Naive.PeerCloses();
-                break;
-            case eKind::TimePasses:
-                TimePasses(event.number);
-                m_Real->timerKeepAlive.Tick();
-                m_Naive.Tick();
-                break;
-            case eKind::ClockIsSet:
-                m_Real->clock.m_Now += event.number / 86400.0;
-                m_Naive.SetClock(event.number);
-                break;
-            case eKind::SaveTurn:
-                m_Real->timerSave.Tick();
-                break;
-            case eKind::Restart:
-                m_Real.Restart(MakePlan(static_cast<unsigned>(event.number)));
-                m_Naive.Restart(MakePlan(static_cast<unsigned>(event.number)));
-                break;
-            default:
-                Operate(event);
-        }
-        return {};
-    }
-    void Operate(const cEvent& event) {
-        const auto place = static_cast<std::size_t>(event.number);
-        switch (event.kind) {
-            case eKind::PlayTick:
-                m_Real->timerPlay.Tick();
-                m_Naive.PlayTick();
-                break;
-            case eKind::PlayEnds:
-                m_Real->waveDevice.EndPlay();
-                m_Naive.PlayEnds();
-                break;
-            case eKind::ClickIcon:
-                m_Real->trayArea.OnFirstClick();
-                m_Naive.ClickIcon();
-                break;
-            case eKind::StopSound:
-                m_Real->menus.OnMenuStopSound();
-                m_Naive.StopSound();
-                break;
-            case eKind::Acknowledge:
-                m_Real.Acknowledge(place);
-                m_Naive.Acknowledge(place);
-                break;
-            case eKind::AcknowledgeAll:
-                m_Real->menus.OnMenuAckAll();
-                m_Naive.AcknowledgeAll();
-                break;
-            case eKind::AcknowledgeAllAndClose:
-                m_Real->menus.OnMenuAckAllAndClosePopups();
-                m_Naive.AcknowledgeAllAndClose();
-                break;
-            default:
-                m_Real.ClosePopup(place);
-                m_Naive.ClosePopup(place);
-        }
-    }
-
-    cRealStation m_Real;
-    cNaiveStation m_Naive{cFakeClock().Now()};
     int m_Connections = 0;
 };
 
-// Where they disagree, and on what; the history's length for nowhere.
-struct cDisagreement {
-    std::size_t at;
-    std::string on;
-};
-cDisagreement Compare(const cHistory& history) {
-    cPair pair;
-    for (std::size_t i = 0; i < history.size(); ++i) {
-        const std::string difference = pair.Take(history[i]);
-        if (!difference.empty()) return {i, difference};
-    }
-    return {history.size(), ""};
-}
-
-// VIGREL_HISTORIES in the environment makes a campaign of it.
-unsigned HowMany() {
-    const char* number = std::getenv("VIGREL_HISTORIES");
-    return number ? static_cast<unsigned>(std::stoul(number)) : 10;
-}
-
 TEST(Histories, AreLivedAlikeByAPlainSecondStation) {
-    for (unsigned seed = 1; seed <= HowMany(); ++seed) {
-        cHistory history = cHistoryMaker(seed).Make(3000);
-        const cDisagreement found = Compare(history);
-        if (found.at == history.size()) continue;
-        history.resize(found.at + 1);
-        const cHistory shortest =
-            Shortest(history, [](const cHistory& shorter) { return Compare(shorter).at < shorter.size(); });
-        std::string told;
-        for (const cEvent& event : shortest) told += Told(event) + "\n";
-        FAIL() << "seed " << seed << ", event " << found.at << ":\n"
-               << told << Compare(shortest).on << "\n"
-               << IniOf(MakePlan(static_cast<unsigned>(shortest.front().number)));
-    }
+    EXPECT_EQ(FirstDisagreement<cRealStation>(HistoriesToLive(10), 3000), "");
 }
 
 TEST(Histories, AreShortenedToTheEventsThatMatter) {
     const cHistory history = cHistoryMaker(1).Make(400);
-    const auto isAcknowledgeAll = [](const cEvent& event) { return event.kind == eKind::AcknowledgeAll; };
+    const auto isAcknowledgeAll = [](const cEvent& event) {
+        return event.kind == cEvent::eKind::AcknowledgeAll;
+    };
     const auto hasOne = [&](const cHistory& some) {
         return std::any_of(some.begin(), some.end(), isAcknowledgeAll);
     };

@@ -1,6 +1,7 @@
 #include "life/history.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 #include "support/fake_sockets.h"
 
@@ -75,6 +76,11 @@ cHistory Shortest(cHistory history, const std::function<bool(const cHistory&)>& 
         }
     }
     return history;
+}
+
+unsigned HistoriesToLive(unsigned usually) {
+    const char* number = std::getenv("VIGREL_HISTORIES");
+    return number ? static_cast<unsigned>(std::stoul(number)) : usually;
 }
 
 }  // namespace vigrel::testing

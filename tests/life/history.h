@@ -58,4 +58,7 @@ class cHistoryMaker {
 // Leaves out events, many at a time and then one by one, as long as something remains. The first event stays.
 cHistory Shortest(cHistory history, const std::function<bool(const cHistory&)>& remains);
 
+// VIGREL_HISTORIES in the environment makes a campaign of it.
+unsigned HistoriesToLive(unsigned usually);
+
 }  // namespace vigrel::testing

@@ -1,5 +1,6 @@
 #include "life/naive_station.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -82,8 +83,10 @@ void cNaiveStation::Close(const cNaivePopups::cPopup& popup) {
     m_Popups.Close(closed.number, m_Link.m_Now);
 }
 
-void cNaiveStation::ClosePopup(std::size_t open) {
-    if (open < m_Popups.m_Open.size()) Close(m_Popups.m_Open[open]);
+void cNaiveStation::ClosePopup(int number) {
+    const auto found = std::find_if(m_Popups.m_Open.begin(), m_Popups.m_Open.end(),
+                                    [number](const auto& popup) { return popup.number == number; });
+    if (found != m_Popups.m_Open.end()) Close(*found);
 }
 
 void cNaiveStation::AcknowledgeAllAndClose() {

@@ -34,8 +34,8 @@ class cNaiveStation {
     void Acknowledge(std::size_t row);
     void AcknowledgeAll();
     void AcknowledgeAllAndClose();
-    // The popup so far along the open ones, the oldest first.
-    void ClosePopup(std::size_t open);
+    // By number, from 1; another number is none.
+    void ClosePopup(int number);
     void Restart(const cPlan& plan);
     void EventIsOver() { m_Sound.EventIsOver(); }
 
