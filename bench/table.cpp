@@ -9,7 +9,7 @@
 namespace vigrel::bench {
 namespace {
 
-constexpr double kWidth = 720, kHeight = 420, kLeft = 90, kRight = 20, kTop = 40, kBottom = 50;
+constexpr double kWidth = 720, kHeight = 420, kLeft = 90, kRight = 40, kTop = 40, kBottom = 50;
 constexpr std::array<const char*, 4> kColours{"#1f5fa8", "#b3441e", "#3c7a34", "#6b4c9a"};
 
 std::string Text(double x, double y, const std::string& text, const char* anchor = "middle") {
@@ -26,6 +26,15 @@ double Largest(const std::vector<cCurve>& curves, double std::pair<double, doubl
     return largest;
 }
 
+// To what five steps divide into round numbers.
+double RoundedUp(double largest) {
+    const double power = std::pow(10, std::floor(std::log10(largest)));
+    for (const double factor : {1.0, 1.5, 2.0, 3.0, 5.0, 7.5}) {
+        if (largest <= factor * power) return factor * power;
+    }
+    return 10 * power;
+}
+
 struct cScale {
     double maxX, maxY;
     double X(double x) const { return kLeft + x / maxX * (kWidth - kLeft - kRight); }
@@ -39,7 +48,7 @@ std::string Axes(const cScale& scale) {
         const double y = scale.maxY * i / 5;
         svg += "<line x1=\"" + Number(kLeft, 1) + "\" y1=\"" + Number(scale.Y(y), 1) + "\" x2=\"" +
                Number(kWidth - kRight, 1) + "\" y2=\"" + Number(scale.Y(y), 1) + "\" stroke=\"#ddd\"/>\n";
-        svg += Text(kLeft - 8, scale.Y(y) + 4, Number(y, y < 10 ? 2 : 0), "end");
+        svg += Text(kLeft - 8, scale.Y(y) + 4, Number(y, scale.maxY < 20 ? 1 : 0), "end");
         svg += Text(scale.X(x), kHeight - kBottom + 18, Number(x, 0));
     }
     return svg;
@@ -82,8 +91,8 @@ double Percentile(std::vector<double> values, double share) {
 
 std::string Plot(const std::string& title, const std::string& across, const std::string& up,
                  const std::vector<cCurve>& curves) {
-    const cScale scale{Largest(curves, &std::pair<double, double>::first),
-                       Largest(curves, &std::pair<double, double>::second) * 1.1};
+    const cScale scale{RoundedUp(Largest(curves, &std::pair<double, double>::first)),
+                       RoundedUp(Largest(curves, &std::pair<double, double>::second))};
     std::string svg =
         "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 720 420\" font-family=\"sans-serif\" "
         "font-size=\"12\">\n<rect width=\"720\" height=\"420\" fill=\"white\"/>\n";
