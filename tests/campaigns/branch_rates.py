@@ -4,8 +4,8 @@
     llvm-cov export ... | tests/campaigns/branch_rates.py FOLDER...
 
 Prints each side that was not taken, the share of each file, and that of each folder; ends with 1 when a folder is below
-97 %. What stands in tests/campaigns/open-branches.txt doesn't count, and is printed with its reason; an entry whose side
-was taken, or that no decision has any more, ends it with 1 too.
+97 %, or has a source that no test program takes. What stands in tests/campaigns/open-branches.txt doesn't count, and is
+printed with its reason; an entry whose side was taken, or that no decision has any more, ends it with 1 too.
 """
 import collections
 import json
@@ -62,6 +62,13 @@ def sides(exported, root=ROOT):
     return taken
 
 
+def unseen(folder, exported, root=ROOT):
+    """Sources of a folder that no test program has."""
+    names = {os.path.normpath(name) for function in exported["data"][0]["functions"] for name in function["filenames"]}
+    found = sorted((root / "src" / folder).glob("*.cpp"))
+    return [str(path.relative_to(root)) for path in found if str(path) not in names]
+
+
 def share(taken):
     """(sides taken, sides) of some sides."""
     return sum(1 for times in taken.values() if times), len(taken)
@@ -96,11 +103,14 @@ def needless(folders, taken, known):
 
 def main(folders):
     known = listed((ROOT / "tests" / "campaigns" / "open-branches.txt").read_text())
-    taken, failed = sides(json.load(sys.stdin)), False
+    exported, failed = json.load(sys.stdin), False
+    taken = sides(exported)
     for folder in folders:
         lines, low = report(folder, taken, known)
         print(f"== {folder}", *lines, sep="\n")
-        failed = failed or low
+        without = unseen(folder, exported)
+        print(*(f"{file} is in no test program" for file in without), sep="\n", end="\n" if without else "")
+        failed = failed or low or bool(without)
     print("== left out")
     for (file, side, text), reason in known.items():
         if file.split("/")[1] in folders:

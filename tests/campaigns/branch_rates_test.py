@@ -63,6 +63,12 @@ class Rates(unittest.TestCase):
     def test_a_folder_that_nobody_knows_has_no_branches(self):
         self.assertIn("0 of     0", branch_rates.report("core", self.sides(), {})[0][-1])
 
+    def test_a_source_that_no_program_has_is_told(self):
+        program = {"data": [{"functions": [exported(self.path)]}]}
+        self.assertEqual(branch_rates.unseen("link", program, self.root), [])
+        (self.path.parent / "b.cpp").write_text(SOURCE)
+        self.assertEqual(branch_rates.unseen("link", program, self.root), ["src/link/b.cpp"])
+
     def test_an_entry_whose_side_was_taken_is_needless(self):
         taken = self.sides(exported(self.path, (2, 12, 2, 17, 3, 0)))
         open_side, taken_side = ("src/link/a.cpp", "false", "a > 1"), ("src/link/a.cpp", "true", "a > 1")
