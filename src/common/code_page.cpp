@@ -18,11 +18,10 @@ int Find(char32_t codePoint) {
     return found == kHigh.end() ? -1 : 0x80 + static_cast<int>(found - kHigh.begin());
 }
 
+// Of what ASCII lacks.
 void AppendUtf8(std::string& out, char32_t codePoint) {
     const auto byte = [&out](char32_t value) { out.push_back(static_cast<char>(value)); };
-    if (codePoint < 0x80) {
-        byte(codePoint);
-    } else if (codePoint < 0x800) {
+    if (codePoint < 0x800) {
         byte(0xC0 | (codePoint >> 6));
         byte(0x80 | (codePoint & 0x3F));
     } else {

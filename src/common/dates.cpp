@@ -8,7 +8,7 @@
 namespace vigrel {
 namespace {
 
-// Days from 1970-01-01 of a date of the Gregorian calendar, and back, for any year.
+// Days from 1970-01-01 of a date of the Gregorian calendar, for any year.
 std::int64_t DaysFromCivil(std::int64_t year, int month, int day) {
     year -= month <= 2;
     const std::int64_t era = (year >= 0 ? year : year - 399) / 400;
@@ -18,9 +18,11 @@ std::int64_t DaysFromCivil(std::int64_t year, int month, int day) {
     return era * 146097 + dayOfEra - 719468;
 }
 
+// And back, from the year 100 on.
 void CivilFromDays(std::int64_t days, cDateParts& parts) {
+    // From 0000-03-01 on; no day of the calendar is before it.
     days += 719468;
-    const std::int64_t era = (days >= 0 ? days : days - 146096) / 146097;
+    const std::int64_t era = days / 146097;
     const std::int64_t dayOfEra = days - era * 146097;
     const std::int64_t yearOfEra = (dayOfEra - dayOfEra / 1460 + dayOfEra / 36524 - dayOfEra / 146096) / 365;
     const std::int64_t dayOfYear = dayOfEra - (365 * yearOfEra + yearOfEra / 4 - yearOfEra / 100);

@@ -34,7 +34,7 @@ void cLog::WriteLog(std::string_view text) {
 bool cLog::TakesRefusal() {
     constexpr double kMinute = 1.0 / 1440;
     const double now = m_Clock.Steady();
-    if (now < m_MinuteStart || now - m_MinuteStart >= kMinute) {
+    if (now - m_MinuteStart >= kMinute) {
         m_MinuteStart = now;
         m_InMinute = 0;
     }

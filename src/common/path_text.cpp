@@ -37,9 +37,9 @@ void AppendEscaped(std::string& path, char byte) {
     path += {kPathEscape, kDigits[code >> 4], kDigits[code & 15]};
 }
 
-// The byte of an escape at the front of a text, if there is one.
+// The byte that is escaped where a text begins with the character of escapes; that can stand for itself.
 std::optional<char> EscapedByte(std::string_view text) {
-    if (text.size() < kPathEscapeLength || text[0] != kPathEscape) return std::nullopt;
+    if (text.size() < kPathEscapeLength) return std::nullopt;
     const std::size_t high = kDigits.find(ToUpper(text[1]));
     const std::size_t low = kDigits.find(ToUpper(text[2]));
     // A path ends at a zero, whatever follows.

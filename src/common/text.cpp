@@ -12,7 +12,6 @@ namespace {
 
 // Position of find at or behind start, 0 for none.
 std::size_t FindFrom(std::string_view text, std::string_view find, std::size_t start) {
-    if (start > text.size() + 1) return 0;
     const std::size_t found = text.find(find, start - 1);
     if (found == std::string_view::npos) return 0;
     return static_cast<std::size_t>(PositionAt(found));
@@ -44,7 +43,7 @@ bool cLessNoCase::operator()(std::string_view a, std::string_view b) const {
 std::size_t FindNoCase(std::string_view text, std::string_view find) {
     const auto found = std::search(text.begin(), text.end(), find.begin(), find.end(),
                                    [](char x, char y) { return ToUpper(x) == ToUpper(y); });
-    if (found == text.end() && !find.empty()) return 0;
+    if (found == text.end()) return 0;
     return static_cast<std::size_t>(found - text.begin()) + 1;
 }
 

@@ -67,6 +67,13 @@ TEST(AboutBox, AnUnloadStopsTheTimer) {
     EXPECT_FALSE(timer.Enabled());
 }
 
+TEST(AboutBox, ItsTimeRunsOutWithoutAListenerToo) {
+    cFakeTimer timer(cAboutBox::kTickInterval);
+    cAboutBox box(timer);
+    for (int i = 0; i < 21; ++i) timer.Tick();
+    EXPECT_EQ(TicksUntilClosed(timer, box), 21);
+}
+
 TEST(AboutBox, LeavesNothingBehindAtItsTimer) {
     cFakeTimer timer(cAboutBox::kTickInterval);
     { const cAboutBox box(timer); }

@@ -59,6 +59,15 @@ TEST(CodePage, AnOverlongFormIsNoUtf8) {
     EXPECT_EQ(Utf8ToCodePage("\xF0\x80\x80\xAF"), "????");
 }
 
+TEST(IsUtf8, WantsEveryByteToBelongToACharacter) {
+    for (const char* text : {"", "a", "\xC3\xA5", "a\xE2\x82\xAC", "\xF0\x9F\x94\x94"})
+        EXPECT_TRUE(IsUtf8(text)) << text;
+    for (const char* bytes : {"\xE5", "a\xC3", "\xC3\xA5\xFF", "\xC0\x80", "\x80"})
+        EXPECT_FALSE(IsUtf8(bytes)) << bytes;
+    // The character that stands for broken text is a character itself.
+    EXPECT_TRUE(IsUtf8("\xEF\xBF\xBD"));
+}
+
 TEST(CodePage, UpperAndLowerCaseReachAllLetters) {
     EXPECT_EQ(ToUpper("abc xyz \xE5\xE4\xF6 \xE9 \x9A\x9C\x9E \xFF"),
               "ABC XYZ \xC5\xC4\xD6 \xC9 \x8A\x8C\x8E \x9F");

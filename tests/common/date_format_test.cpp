@@ -203,10 +203,16 @@ TEST(FormatDateTime, AnEmptyPatternIsTheGeneralDate) {
 TEST(FormatDateTime, CShowsTheDateOnlyWhenThereIsADate) {
     ExpectAll({{"c", "kl 14.05.09"}, {"General Date", "kl 14.05.09"}}, TimeSerial(14, 5, 9));
     ExpectAll({{"c", "kl 00.00.00"}}, 0);
+    // Day 0 alone is no date: its neighbours in month and year are.
+    ExpectAll({{"c", "1899-12-31"}}, DateSerial(1899, 12, 31));
+    ExpectAll({{"c", "1899-11-30"}}, DateSerial(1899, 11, 30));
+    ExpectAll({{"c", "1900-12-30"}}, DateSerial(1900, 12, 30));
 }
 
 TEST(FormatDateTime, CShowsTheTimeOnlyWhenThereIsATime) {
     ExpectAll({{"c", "2026-03-15"}, {"(c)", "(2026-03-15)"}}, DateSerial(2026, 3, 15));
+    ExpectAll({{"c", "2026-03-15 kl 00.07.00"}}, DateSerial(2026, 3, 15) + TimeSerial(0, 7, 0));
+    ExpectAll({{"c", "2026-03-15 kl 00.00.09"}}, DateSerial(2026, 3, 15) + TimeSerial(0, 0, 9));
 }
 
 TEST(FormatDateTime, WeeksBeginOnSundayAndTheFirstHoldsTheFirstOfJanuary) {

@@ -28,6 +28,11 @@ TEST(CompleteTexts, ALastLineWithoutAnEndStaysALine) {
     EXPECT_EQ(CompleteTexts("10011=x\r10049=y", kDelivered).content, "10011=x\r10049=y\r10050=sedan\r");
 }
 
+TEST(CompleteTexts, ALastLineOfAnyEndNeedsNoOther) {
+    EXPECT_EQ(CompleteTexts("10011=x\n10049=y\n", kDelivered).content, "10011=x\n10049=y\n10050=sedan\n");
+    EXPECT_EQ(CompleteTexts("10011=x\r10049=y\r", kDelivered).content, "10011=x\r10049=y\r10050=sedan\r");
+}
+
 TEST(CompleteTexts, WhatIsThereStaysInEveryByte) {
     const std::string own = "  10011 = own \r\n10049=\r\n10050=a=b\r\nno entry\r\n99999999999=x";
     const cCompletedTexts completed = CompleteTexts(own, kDelivered);
@@ -73,6 +78,30 @@ TEST_F(TextFiles, AreCompletedOnceAndToldInALine) {
     const int calls = files.m_Calls;
     EXPECT_TRUE(CompleteTextFiles(files, kFolder, delivered, texts).empty());
     EXPECT_EQ(files.m_Calls, calls);
+}
+
+TEST_F(TextFiles, OfManyAddedTextsTheFirstTwentyAreNamed) {
+    cDeliveredTexts many;
+    std::string texts046, named;
+    for (int id = 20001; id <= 20021; ++id) texts046 += std::to_string(id) + "=x\r\n";
+    for (int id = 20001; id <= 20020; ++id)
+        named += std::string(id == 20001 ? "" : ", ") + std::to_string(id);
+    many.Add("046", texts046);
+    files.Put(kFile, "11000=added\r\n");
+    ASSERT_TRUE(texts.LoadTexts());
+    EXPECT_EQ(CompleteTextFiles(files, kFolder, many, texts),
+              std::vector<std::string>{"Vigrel_Texts.046: 21 added: " + named + "... (+1)"});
+    files.Put(kFile, "11000=added\r\n20021=mine\r\n");
+    EXPECT_EQ(CompleteTextFiles(files, kFolder, many, texts),
+              std::vector<std::string>{"Vigrel_Texts.046: 20 added: " + named});
+}
+
+TEST_F(TextFiles, OnlyLanguagesAreCompleted) {
+    for (const char* name : {"Vigrel_Texts.eng", "Vigrel_Texts.bak", "Vigrel_Texts.0461"}) {
+        files.Put(kFolder + name, "11000=added\r\n");
+        EXPECT_TRUE(Complete().empty()) << name;
+        EXPECT_EQ(files.ReadFile(kFolder + name), "11000=added\r\n");
+    }
 }
 
 TEST_F(TextFiles, ThatCannotBeWrittenAreToldAndTheTextsAreThereAllTheSame) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "common/failure.h"
 #include "support/fake_files.h"
 
 namespace vigrel::testing {
@@ -163,6 +164,37 @@ TEST(PutIniString, LineEndsStayThoseOfTheFile) {
     cIniFile file("[S]\na=1\n[T]\r\nb=2\r\n");
     file.ini.PutIniString("S", "c", "3");
     EXPECT_EQ(file.Content(), "[S]\na=1\nc=3\n[T]\r\nb=2\r\n");
+    cIniFile old("[S]\ra=1\r");
+    old.ini.PutIniString("S", "c", "3");
+    old.ini.PutIniString("T", "b", "2");
+    EXPECT_EQ(old.Content(), "[S]\ra=1\rc=3\r[T]\rb=2\r");
+}
+
+TEST(PutIniString, AFileOfOneOpenLineGetsTheLineEndsOfTheSystem) {
+    cIniFile file("[General]");
+    file.ini.PutIniString("General", "Language", "046");
+    EXPECT_EQ(file.Content(), "[General]\r\nLanguage=046\r\n");
+}
+
+TEST(IniNumbers, AreRoundedAndHoldTheirRange) {
+    const cIniFile file("");
+    EXPECT_EQ(file.ini.Int16("Printer", "Port", "2.5"), 2);
+    EXPECT_EQ(file.ini.Int16("Printer", "Port", "-32768"), -32768);
+    EXPECT_EQ(file.ini.Int32("TCPIP", "Port", "2147483647 or so"), 2147483647);
+    EXPECT_EQ(file.ini.Int32("TCPIP", "Port", "none"), 0);
+}
+
+TEST(IniNumbers, ANumberBeyondItsBitsNamesFileSectionKeyAndText) {
+    const cIniFile file("");
+    const auto small = CatchFailure([&] { file.ini.Int16("Printer", "Port", "32768"); });
+    ASSERT_TRUE(small);
+    EXPECT_EQ(small->Number(), eFailure::Overflow);
+    EXPECT_TRUE(
+        std::string(small->what()).starts_with(kPath + ": key Port of section Printer is \"32768\": "))
+        << small->what();
+    const auto large = CatchFailure([&] { file.ini.Int32("TCPIP", "Port", "-2147483649"); });
+    ASSERT_TRUE(large);
+    EXPECT_EQ(large->Number(), eFailure::Overflow);
 }
 
 TEST(PutIniString, AMissingFileIsCreated) {
@@ -344,6 +376,20 @@ TEST(ReadIniEntries, GivesTheSameAsAList) {
     const cIniEntries names = ReadIniEntries(files, "", 100, kPath);
     EXPECT_EQ(names.entries, (std::vector<std::string>{"S", "", "T"}));
     EXPECT_EQ(names.characters, 5);
+}
+
+TEST(ReadIniEntries, TellsOfAFileThatIsThereAndCannotBeRead) {
+    cFakeFiles files;
+    files.Put(kPath, "[S]\r\na=1\r\n");
+    EXPECT_EQ(ReadIniEntries(files, "S", 100, kPath).problem, "");
+    files.SetUnreadable(kPath, true);
+    const cIniEntries unreadable = ReadIniEntries(files, "S", 100, kPath);
+    EXPECT_NE(unreadable.problem.find(kPath), std::string::npos) << unreadable.problem;
+    EXPECT_TRUE(unreadable.entries.empty());
+    EXPECT_EQ(unreadable.characters, 0);
+    const cIniEntries missing = ReadIniEntries(files, "S", 100, kFolder + "Other.INI");
+    EXPECT_EQ(missing.problem, "");
+    EXPECT_TRUE(missing.entries.empty());
 }
 
 }  // namespace

@@ -203,6 +203,18 @@ TEST_F(LanguageSelection, WithoutSelectionNothingIsWritten) {
     EXPECT_FALSE(m_Files.FileExists("C:\\App\\VigrelReceiver.INI"));
 }
 
+TEST_F(LanguageSelection, AChoiceBehindTheListWritesNothing) {
+    Put("044", "0=English\r\n");
+    m_Selection.Load();
+    m_Selection.Select(1);
+    m_Selection.Confirm();
+    EXPECT_EQ(Setting("Language"), "(none)");
+    EXPECT_EQ(Setting("CountryFilter"), "(none)");
+    m_Selection.Select(0);
+    m_Selection.Confirm();
+    EXPECT_EQ(Setting("Language"), "044");
+}
+
 TEST_F(LanguageSelection, AnEmptyListLeavesNothingSelected) {
     EXPECT_EQ(Loaded(), "");
     m_Selection.Confirm();

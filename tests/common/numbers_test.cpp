@@ -59,6 +59,7 @@ TEST(Val, IsInfiniteAboveTheRangeAndZeroBelowIt) {
     const double infinity = std::numeric_limits<double>::infinity();
     EXPECT_EQ(Val("1e400"), infinity);
     EXPECT_EQ(Val("-1e400"), -infinity);
+    EXPECT_EQ(Val("1e+400"), infinity);
     EXPECT_EQ(Val("1e-400"), 0);
     EXPECT_EQ(Val("-1e-400"), 0);
     EXPECT_EQ(Val("1e99999999999999999999"), infinity);
@@ -143,6 +144,10 @@ TEST(NumberText, IsTheShortestTextThatReadsBack) {
     EXPECT_EQ(NumberText(0), "0");
     EXPECT_EQ(NumberText(0.1), "0.1");
     EXPECT_EQ(NumberText(123456789012.0), "123456789012");
+    EXPECT_EQ(NumberText(0.00001), "0.00001");
+    EXPECT_EQ(NumberText(0.000009), "9e-06");
+    EXPECT_EQ(NumberText(999999999999999.0), "999999999999999");
+    EXPECT_EQ(NumberText(1e15), "1e+15");
     EXPECT_EQ(Val(NumberText(1e300)), 1e300);
     EXPECT_EQ(Val(NumberText(1.0 / 3)), 1.0 / 3);
 }

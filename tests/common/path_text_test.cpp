@@ -50,6 +50,10 @@ TEST(PathText, ASubstituteThatEscapesNothingStandsForItself) {
                         "G1"),
               "\x1A"
               "G1");
+    EXPECT_EQ(PathBytes("\x1A"
+                        "4G"),
+              "\x1A"
+              "4G");
     // A zero would end the path early.
     EXPECT_EQ(PathBytes("\x1A"
                         "00x"),

@@ -172,6 +172,7 @@ TEST(FindNoCase, GivesThePositionFromOne) {
     EXPECT_EQ(FindNoCase("abc", "x"), 0u);
     EXPECT_EQ(FindNoCase("", "x"), 0u);
     EXPECT_EQ(FindNoCase("abc", ""), 1u);
+    EXPECT_EQ(FindNoCase("", ""), 0u);
 }
 
 TEST(Mid, CountsFromOneAndEndsWithTheText) {
