@@ -33,7 +33,9 @@ void cAcknowledgement::Menu_AckAll() {
     const auto observeAll = [&] {
         for (const RecordId row : m_Services.list.Rows()) {
             const AlarmPtr alarm = m_Services.view.AlarmOf(row);
-            if (alarm && alarm->m_Observed == False16 && Observe(*alarm)) observed.push_back(alarm);
+            if (alarm->m_Observed != False16) continue;
+            Observe(*alarm);
+            observed.push_back(alarm);
         }
     };
     // What was answered in front of a failure is answered.

@@ -49,8 +49,7 @@ void cAlarmListView::SetUpColumns(cSettings& settings) {
     m_Services.list.SetColumnTag(hidden, kHiddenColumn);
     m_Services.list.SetColumnWidth(hidden, 0);
     m_Services.list.OnItem = [this](const RecordTag& tag, int column) {
-        const auto* alarm = static_cast<const cVigrelRecieverAlarm*>(tag.get());
-        return alarm == nullptr ? cReportItem{} : Item(*alarm, column);
+        return Item(*static_cast<const cVigrelRecieverAlarm*>(tag.get()), column);
     };
 }
 
@@ -228,8 +227,7 @@ void cAlarmListView::CopyRowsToClipboard() {
             SkipFailure([&] { line += CopyText(m_Services.list.GetItemValue(row, i)); });
             line += '\t';
         }
-        text += line;
-        if (!text.empty()) text += "\r\n";
+        text += line + "\r\n";
     }
     m_Services.clipboard.Clear();
     m_Services.clipboard.SetText(text);

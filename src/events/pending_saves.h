@@ -34,7 +34,7 @@ class cPendingSaves {
     explicit cPendingSaves(cServices services) : m_Services(std::move(services)) {}
 
     void Add(const std::vector<AlarmPtr>& alarms);
-    bool Empty() const { return m_Batch.empty() && m_Next.empty(); }
+    bool Empty() const { return m_Batch.empty(); }
     // Does what a turn allows; at once what is left where it is the last chance.
     void Turn();
     void Finish();
@@ -55,8 +55,8 @@ class cPendingSaves {
     void Step();
 
     cServices m_Services;
-    std::vector<AlarmPtr> m_Batch, m_Next;
-    std::size_t m_Done = 0;  // of the batch, in this step
+    std::vector<AlarmPtr> m_Batch, m_Next;  // what comes while a batch is written is the next one
+    std::size_t m_Done = 0;                 // of the batch, in this step
     eStep m_Step = eStep::Write;
     std::unique_ptr<cPendingSync> m_Sync;
     bool m_Synced = true;

@@ -272,5 +272,20 @@ TEST_F(CategorySettings, AStatusOutsideItsRangeIsRefused) {
     EXPECT_THROW(General().GetIcon(-1, true), cFailure);
 }
 
+TEST_F(CategorySettings, AFileThatCannotBeReadIsAFailureSinceACategoryWouldSoundLikeAnyOther) {
+    Read("[CategorySpecificSetting_Fire]\r\nEventSignal=3\r\n");
+    cCategorySettings again;
+    files.SetUnreadable("C:\\App\\VigrelReceiver.INI", true);
+    const auto failure = CatchFailure([&] { again.ReadCategories(files, ini); });
+    ASSERT_TRUE(failure);
+    EXPECT_NE(std::string(failure->what()).find("C:\\App\\VigrelReceiver.INI"), std::string::npos);
+    EXPECT_TRUE(again.m_CategorySettings.empty());
+}
+
+TEST_F(CategorySettings, AMissingFileHasNoCategories) {
+    settings.ReadCategories(files, ini);
+    EXPECT_TRUE(settings.m_CategorySettings.empty());
+}
+
 }  // namespace
 }  // namespace vigrel::testing

@@ -286,7 +286,7 @@ TEST_F(Running, WithoutDayLimitTheChangeOfDateRemovesNoAlarmButCleansLogsAndRepa
     Start();
     timerKeepAlive.Tick();
     Send("PLC1", "S1||old");
-    list.AddRecord(nullptr);
+    list.AddRecord(list.RecordTagOf(list.Rows().at(0)));
     clock.AddSeconds(400.0 * 86400);
     timerKeepAlive.Tick();
     EXPECT_EQ(AlarmFiles().size(), 1u);
@@ -297,11 +297,12 @@ TEST_F(Running, WithoutDayLimitTheChangeOfDateRemovesNoAlarmButCleansLogsAndRepa
 TEST_F(Running, TheChangeOfDateTakesOverRecordsThoughNothingWasRemoved) {
     Start();
     timerKeepAlive.Tick();
-    list.AddRecord(nullptr);
-    EXPECT_TRUE(list.Rows().empty());
+    Send("PLC1", "S1||a");
+    list.AddRecord(list.RecordTagOf(list.Rows().at(0)));
+    EXPECT_EQ(list.Rows().size(), 1u);
     clock.AddSeconds(86400);
     timerKeepAlive.Tick();
-    EXPECT_EQ(list.Rows().size(), 1u);
+    EXPECT_EQ(list.Rows().size(), 2u);
 }
 
 TEST_F(Running, InThePauseOfARepeatTheTrayPartOfTheTickIsLeftOut) {

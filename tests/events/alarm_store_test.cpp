@@ -275,6 +275,20 @@ TEST_F(AlarmStore, AnAlarmThatCouldNotBeWrittenIsTriedAgainUntilItIsOnDisk) {
     EXPECT_EQ(files.m_Calls, calls);
 }
 
+TEST_F(AlarmStore, AnAlarmThatCannotBeWrittenTwiceIsOneAndWaitsSinceTheFirstTime) {
+    files.m_DiskFull = true;
+    const AlarmPtr alarm = Take(MakeAlarm());
+    const DateTime since = clock.Now();
+    clock.AddSeconds(60);
+    acknowledgement.AckAlarm(0, alarm);
+    EXPECT_EQ(store.UnsavedCount(), 1u);
+    EXPECT_EQ(store.UnsavedSince(), since);
+    files.m_DiskFull = false;
+    store.RetryUnsaved();
+    EXPECT_EQ(store.UnsavedCount(), 0u);
+    EXPECT_EQ(AlarmFiles().size(), 1u);
+}
+
 TEST_F(AlarmStore, AnUnsavedAlarmThatLeavesTheStoreIsNotWrittenAnyMore) {
     settings.m_MaxEvents = 1;
     files.m_DiskFull = true;
@@ -411,6 +425,34 @@ TEST_F(AlarmStore, WhileTheDiskIsBusyTurnsPassAndNoNameIsTouched) {
     files.m_OnCall = nullptr;
     store.FinishSaves();
     EXPECT_FALSE(timerSave.Enabled());
+    files.Crash();
+    for (const AlarmPtr& alarm : alarms) ExpectStored(*this, alarm);
+}
+
+TEST_F(AlarmStore, AlsoTheWaitForTheNamesGoesOnBesideTheTurns) {
+    const std::vector<AlarmPtr> alarms = TakeSome(*this, 3);
+    int renames = 0;
+    files.m_OnCall = [&](std::string_view operation, std::string_view) {
+        renames += operation == "rename" ? 1 : 0;
+        files.m_DiskIsBusy = renames > 0;
+    };
+    SeeAll(*this, alarms);
+    for (int tick = 0; tick < 20; ++tick) store.Timer_Save_Tick();
+    EXPECT_EQ(renames, 3);
+    EXPECT_TRUE(timerSave.Enabled());
+    files.m_OnCall = nullptr;
+    store.FinishSaves();
+    EXPECT_FALSE(timerSave.Enabled());
+    EXPECT_EQ(store.UnsavedCount(), 0u);
+}
+
+TEST_F(AlarmStore, TheEndOfTheStoreKnowsNoTurns) {
+    const std::vector<AlarmPtr> alarms = TakeSome(*this, cPendingSaves::kTurnFiles + 10);
+    SeeAll(*this, alarms);
+    files.m_OnCall = [this](std::string_view, std::string_view) { clock.AddSeconds(0.015); };
+    store.FinishSaves();
+    EXPECT_FALSE(timerSave.Enabled());
+    files.m_OnCall = nullptr;
     files.Crash();
     for (const AlarmPtr& alarm : alarms) ExpectStored(*this, alarm);
 }
@@ -759,6 +801,16 @@ TEST_F(AlarmStore, ATooOldAlarmIsGivenUpWithItsFileAndNotInserted) {
     EXPECT_TRUE(store.m_Alarms.empty());
     EXPECT_TRUE(AlarmFiles().empty());
     EXPECT_EQ(givenUp, std::vector<std::string>{"old"});
+}
+
+TEST_F(AlarmStore, WithNobodyToTellATooOldAlarmGoesAllTheSame) {
+    store.OnGivenUp = nullptr;
+    const AlarmPtr alarm = At(clock.Now() - 31, "old");
+    store.SaveAlarm(alarm);
+    EXPECT_FALSE(store.InsertAlarm(alarm, 1000));
+    EXPECT_TRUE(store.m_Alarms.empty());
+    EXPECT_TRUE(AlarmFiles().empty());
+    EXPECT_TRUE(alarm->m_Removed);
 }
 
 TEST_F(AlarmStore, TheSweepStopsAtTheFirstAlarmThatIsYoungEnough) {
