@@ -54,12 +54,12 @@ DateTime EventDate(std::string_view text, DateTime now) {
     return date == 0 || text.empty() ? DateOf(now) : date;
 }
 
-// The time of day, or that of now when the text is empty or says midnight: most senders that mean midnight
+// The time of day, or that of now when the text says midnight or nothing: most senders that mean midnight
 // have no time to tell.
 DateTime EventTime(std::string_view text, DateTime now) {
     const auto part = [&](std::size_t position) { return LeadingDigits(Mid(text, position, 2)); };
     const DateTime time = TimeSerial(part(1), part(4), part(7));
-    return time == 0 || text.empty() ? now - DateOf(now) : time;
+    return time == 0 ? now - DateOf(now) : time;
 }
 
 // A name as a log line shows it. A peer can send names of any length; what is cut is told.

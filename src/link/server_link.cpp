@@ -20,7 +20,7 @@ void cServerLink::Listen(std::string_view address, std::int32_t port) {
 }
 
 void cServerLink::Trace(std::string_view text, std::int16_t kind) const {
-    if (m_State.m_DebugMode && WriteTrace) WriteTrace(text, kind);
+    if (m_State.m_DebugMode) WriteTrace(text, kind);
 }
 
 // The last to arrive wins: a sender that lost its connection without a word must get in again.

@@ -119,6 +119,36 @@ TEST_F(FirstStart, AnotherChoiceReplacesTemplateAndConfiguration) {
     EXPECT_EQ(Setting("General", "Vigrel_Receiver_Main.Width"), "12000");
 }
 
+TEST_F(FirstStart, TheSameChoiceLeavesWhatTheFirstStartMade) {
+    cFirstStart& start = Start({});
+    m_Ini.PutIniString("General", "Object", "Plant");
+    Choose("046");
+    start.FollowChoice();
+    EXPECT_EQ(Setting("General", "Object"), "Plant");
+    EXPECT_EQ(Setting("General", "Language"), "046");
+}
+
+TEST_F(FirstStart, WithoutAChoiceNothingFollows) {
+    cFirstStart& start = Start({});
+    m_Ini.PutIniString("General", "Object", "Plant");
+    start.FollowChoice();
+    EXPECT_EQ(Setting("General", "Object"), "Plant");
+    EXPECT_EQ(Setting("General", "Language"), "");
+}
+
+TEST_F(FirstStart, AChosenLanguageWithoutATemplateKeepsTheConfiguration) {
+    m_Files.Put(kFolder + "Vigrel_Texts.033",
+                "0=fran\xE7"
+                "ais\r\n");
+    cFirstStart& start = Start({});
+    Choose("033");
+    start.FollowChoice();
+    EXPECT_EQ(Setting("t0", "ColumnText"), "Larm");
+    EXPECT_EQ(Setting("General", "Language"), "033");
+    EXPECT_EQ(Setting("General", "CountryFilter"), "Sweden");
+    EXPECT_TRUE(Template().starts_with("; svenska"));
+}
+
 TEST_F(FirstStart, AConfigurationOfAnEarlierStartStaysAtAnotherChoice) {
     Start({});
     m_Ini.PutIniString("General", "Object", "Plant");
@@ -157,6 +187,17 @@ TEST_F(FirstStart, TheWindowTakesWhatTheScreenOffers) {
     EXPECT_EQ(Setting("General", "Vigrel_Receiver_Main.Top"), "300");
     EXPECT_EQ(Setting("General", "Vigrel_Receiver_Main.Width"), "12000");
     EXPECT_EQ(Setting("General", "Vigrel_Receiver_Main.Height"), "8400");
+}
+
+TEST_F(FirstStart, AScreenWithoutRoomToTellOfIsNone) {
+    for (const auto& [width, height] : {std::pair{0, 560}, {800, 0}, {-1, 560}, {800, -1}}) {
+        cFakeFiles files = m_Files;
+        cIni ini(files, kFolder);
+        cFirstStart(files, ini, m_Locale, {"", true, 10, 20, width, height}).Prepare();
+        EXPECT_EQ(ini.GetIniString("t0", "ColumnText", ""), "Larm");
+        EXPECT_EQ(ini.GetIniString("General", "Vigrel_Receiver_Main.Left", "(none)"), "(none)");
+        EXPECT_EQ(ini.GetIniString("t0", "ColumnWidth", ""), "200");
+    }
 }
 
 TEST_F(FirstStart, ColumnsGetWhatTheWindowLeavesTheAlarmsTextMostOfAll) {

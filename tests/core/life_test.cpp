@@ -261,6 +261,66 @@ TEST_F(Life, AnInterruptInTheStartCannotKeepTheSessionsEndOut) {
     EXPECT_EQ(receiver->Start(), eStartUp::Stopped);
 }
 
+TEST_F(Life, AnInterruptInTheStartIsRefusedWhereTheStationMayNotBeClosed) {
+    std::string senders = "[Senders]\r\n";
+    for (int i = 0; i < 100; ++i) senders += "P" + std::to_string(i) + "=0\r\n";
+    Ini("DisableShutdown=1\r\n", senders);
+    Make();
+    messageBox.m_OnShow = [&] { receiver->Stop(eCloseReason::Interrupt); };
+    EXPECT_EQ(receiver->Start(), eStartUp::Running);
+    EXPECT_TRUE(mainWindow.m_Open);
+    EXPECT_TRUE(mainWindow.m_Visible);
+    EXPECT_TRUE(Log().ends_with("T10011\n")) << Log();
+    listener.Knock(1);
+    data.Arrive(MakeFrame("PLC1", "S1||taken"));
+    EXPECT_EQ(AlarmFiles().size(), 1u);
+}
+
+TEST_F(Life, WhatHasEndedIsNotEndedAgain) {
+    Start();
+    EXPECT_TRUE(mainWindow.CloseFor(eCloseReason::SessionEnd));
+    const std::string before = Traces();
+    const std::vector<std::string> told = serviceManager.m_Told;
+    receiver->DisplayIsLost();
+    EXPECT_FALSE(mainWindow.CloseFor(eCloseReason::SessionEnd));
+    receiver->Stop(eCloseReason::SessionEnd);
+    EXPECT_EQ(Traces(), before);
+    EXPECT_EQ(serviceManager.m_Told, told);
+}
+
+TEST(LifeStates, NothingWakesUpWhatHasEnded) {
+    cLife life;
+    EXPECT_TRUE(life.Starting());
+    life.Run();
+    EXPECT_TRUE(life.Running());
+    life.End();
+    life.Run();
+    EXPECT_TRUE(life.Ended());
+    EXPECT_FALSE(life.Running());
+}
+
+TEST(LifeStates, AGatedEventIsHeardWhileTheReceiverRuns) {
+    cLife life;
+    int heard = 0;
+    std::function<void(int)> event = [&](int by) { heard += by; };
+    life.Gate(event);
+    event(1);
+    EXPECT_EQ(heard, 0);
+    life.Run();
+    event(10);
+    EXPECT_EQ(heard, 10);
+    life.End();
+    event(100);
+    EXPECT_EQ(heard, 10);
+}
+
+TEST(LifeStates, AnEventThatNobodyHearsStaysOne) {
+    cLife life;
+    std::function<void()> nobody;
+    life.Gate(nobody);
+    EXPECT_FALSE(nobody);
+}
+
 TEST_F(Life, ALostDisplayIsTheLastWordOfTheLog) {
     Start();
     receiver->DisplayIsLost();

@@ -142,6 +142,26 @@ TEST_F(StartUp, ALanguageFileThatIsMissingAsksToo) {
     EXPECT_TRUE(Did("language window"));
 }
 
+TEST_F(StartUp, TextsThatAFileLacksAreAddedAndTold) {
+    files.Put("C:\\App\\Vigrel_Texts.046", "11000=added\r\n10011=started\r\n");
+    deliveredTexts.Add("046", "10011=other\r\n10040=begins\r\n");
+    EXPECT_EQ(Load(), eStartUp::Running);
+    EXPECT_NE(Log().find("Vigrel_Texts.046: 1 added: 10040\n"), std::string::npos) << Log();
+    EXPECT_EQ(files.ReadFile("C:\\App\\Vigrel_Texts.046"),
+              "11000=added\r\n10011=started\r\n10040=begins\r\n");
+    EXPECT_TRUE(status.m_Texts.empty());
+}
+
+TEST_F(StartUp, ATextFileThatCannotBeReadIsToldAndTheDeliveredTextsSpeak) {
+    files.SetUnreadable("C:\\App\\Vigrel_Texts.046", true);
+    deliveredTexts.Add("046", "10011=delivered\r\n11002=not read\r\n");
+    EXPECT_EQ(Load(), eStartUp::Running);
+    const std::string told = "not read: C:\\App\\Vigrel_Texts.046: the file can't be read";
+    EXPECT_NE(Log().find(told + "\n"), std::string::npos) << Log();
+    EXPECT_TRUE(Log().ends_with("delivered\n")) << Log();
+    EXPECT_EQ(status.m_Texts, std::vector<std::string>{told});
+}
+
 TEST_F(StartUp, ASecondInstanceEndsAfterItsFirstLogLines) {
     singleInstance.m_Another = true;
     light.m_Version = 2;
@@ -433,6 +453,25 @@ TEST_F(StartUp, AConfigurationThatCannotBeReadAnyMoreOnTheWayEndsTheStart) {
     };
     files.Put("C:\\App\\LogFiles\\20260101.log", "old");
     EXPECT_THROW(Load(), cFailure);
+    EXPECT_FALSE(listener.m_Listening);
+    EXPECT_TRUE(files.FileExists("C:\\App\\LogFiles\\20260101.log"));
+}
+
+TEST_F(StartUp, AConfigurationThatCouldNotBeReadForAMomentEndsTheStartToo) {
+    // Changed and unreadable while the settings are read, and behind them there again.
+    deliveredTexts.Add("046", "20001=more\r\n");
+    files.m_OnCall = [this](std::string_view, std::string_view path) {
+        if (path.find("Vigrel_Texts") == std::string_view::npos) return;
+        Ini("MaxEvents=5000\r\n");
+        files.SetUnreadable("C:\\App\\VigrelReceiver.INI", true);
+    };
+    otherWindows.m_OnAboutBox = [this] { files.SetUnreadable("C:\\App\\VigrelReceiver.INI", false); };
+    files.Put("C:\\App\\LogFiles\\20260101.log", "old");
+    Make("/minimize");
+    const auto failure = CatchFailure([this] { receiver->Form_Load(); });
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->Number(), eFailure::InputOutput);
+    EXPECT_TRUE(Did("about box"));
     EXPECT_FALSE(listener.m_Listening);
     EXPECT_TRUE(files.FileExists("C:\\App\\LogFiles\\20260101.log"));
 }

@@ -244,6 +244,31 @@ TEST_F(Sound, WithoutADelayTheNextPlayStartsOnTheFirstTickAfterTheEnd) {
     EXPECT_EQ(TicksUntilPlay(), 1);
 }
 
+TEST_F(Sound, APlayThatEndsWithinItsCommandHasEndedAndTheNextStartsAtTheNextTick) {
+    // A file without a sound in it.
+    class cAtOnce : public cFakeWaveDevice {
+      public:
+        void Command(std::string_view command) override {
+            cFakeWaveDevice::Command(command);
+            if (command == "Play") EndPlay();
+        }
+        int Mode() const override {
+            ++m_Asked;
+            return cFakeWaveDevice::Mode();
+        }
+        mutable int m_Asked = 0;
+    };
+    cAtOnce device;
+    cSound sound{{device, m_Timer, m_Beeper, state, settings, texts, log}};
+    sound.OpenSound(Setting(3));
+    sound.StartSignal(Setting(3));
+    for (int tick = 0; tick < 2; ++tick) {
+        EXPECT_TRUE(sound.TickSound());
+        EXPECT_EQ(m_State.m_SoundState, 4);
+    }
+    EXPECT_EQ(device.m_Asked, 0);
+}
+
 TEST_F(Sound, ADelayRoundsUpToTheNextTick) {
     for (const auto& [delay, ticks] :
          {std::pair{1, 1}, {499, 1}, {500, 1}, {501, 2}, {700, 2}, {1000, 2}, {1001, 3}, {10000, 20}}) {
