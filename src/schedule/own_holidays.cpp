@@ -26,9 +26,9 @@ struct cDay {
     int year, month, day;
 };
 
+// A day that the month doesn't have is carried into another month.
 bool IsOfYear(const cDay& day, int year) {
-    const cDateParts date = SplitDateTime(DateSerial(year, day.month, day.day));
-    return date.month == day.month && date.day == day.day;
+    return SplitDateTime(DateSerial(year, day.month, day.day)).month == day.month;
 }
 
 std::int32_t IndexIn(const cDay& day, int year) {

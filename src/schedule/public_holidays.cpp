@@ -58,8 +58,12 @@ class cHolidayYear {
         std::int32_t day;
     };
     void Add(std::int32_t day, bool isFree, std::string name) {
-        m_Holidays.Add(
-            {day, isFree ? kLikeSunday : kLikeSaturday, isFree ? True16 : False16, std::move(name)});
+        cHolidayLabel label{day, kLikeSaturday, False16, std::move(name)};
+        if (isFree) {
+            label.m_DayType = kLikeSunday;
+            label.m_ViewInCalendar = True16;
+        }
+        m_Holidays.Add(std::move(label));
     }
     bool IsFree(std::int32_t day) const {
         return std::find(m_FreeDays.begin(), m_FreeDays.end(), day) != m_FreeDays.end();

@@ -45,7 +45,8 @@ void cTimeSchedule::Delete(cTimeScheduleContainer& parent, cPaintObject* paintOb
     m_SelectedDayType = -1;
 }
 
-// Minute 1440 is never covered, so a day covered to 24:00 inverts to an empty period at its end. A period
+// Minute 1440 is never covered, so behind each covered minute there is a free one, and a day covered to 24:00
+// inverts to an empty period at its end. A period
 // from a damaged file that reaches out of the day covers what it covers of the day.
 void cTimeSchedule::InvertTimeSchedule(cTimeScheduleContainer& parent, cPaintObject* paintObject) {
     if (m_SelectedDayType < 0) return;
@@ -59,7 +60,6 @@ void cTimeSchedule::InvertTimeSchedule(cTimeScheduleContainer& parent, cPaintObj
     Periods(m_SelectedDayType).clear();
     for (auto from = covered.begin(); from != covered.end();) {
         from = std::find(from, covered.end(), false);
-        if (from == covered.end()) break;
         const auto to = std::min(std::find(from, covered.end(), true), covered.end() - 1);
         AddPeriod(m_SelectedDayType, static_cast<std::int16_t>(from - covered.begin()),
                   static_cast<std::int16_t>(to - covered.begin()));

@@ -208,6 +208,21 @@ TEST(CalendarMouse, APressPaintsTheSelectedEntryLessOne) {
     EXPECT_NE(bench.m_Transcript.Text().find("print 112 47 10\n"), std::string::npos);
 }
 
+TEST(CalendarMouse, AnEntryOfNumberZeroPaintsZeroLikeTheFirst) {
+    // A container whose list counts from 0.
+    class cFromZero : public cFakeCalendarContainer {
+      public:
+        using cFakeCalendarContainer::cFakeCalendarContainer;
+        std::optional<std::string> Get_Combo_Calendar_DayType_SelectedItem() const override { return "none"; }
+    };
+    cCalendarBench bench;
+    cFromZero container(bench.m_Transcript);
+    bench.Show(2026, 6);
+    bench.SetValue(2026, 6, 10, 8);
+    bench.m_Calendar.MouseDown(container, &bench.m_Paint, 1, 0, cCalendarBench::X(2), cCalendarBench::Y(1));
+    EXPECT_EQ(bench.Value(2026, 6, 10), 0);
+}
+
 TEST(CalendarMouse, APressOnADayOfThatValueDrawsNothing) {
     cCalendarBench bench;
     bench.Show(2026, 6);

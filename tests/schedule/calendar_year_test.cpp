@@ -66,5 +66,13 @@ TEST_F(CalendarYear, TheLastHasNoNext) {
     EXPECT_EQ(Value(2039, 5, 1), 0);
 }
 
+TEST_F(CalendarYear, OneInFrontOfTheSpanIsNotCopied) {
+    SetValue(2000, 5, 1, 8);
+    CopyToNextYear(m_Calendar, m_Holidays, 1999);
+    EXPECT_EQ(Value(2000, 5, 1), 8);
+    CopyToNextYear(m_Calendar, m_Holidays, 2000);
+    EXPECT_EQ(Value(2001, 5, 1), 8);
+}
+
 }  // namespace
 }  // namespace vigrel::testing

@@ -78,6 +78,16 @@ TEST_F(OwnHolidays, TheLeapDayIsThereInLeapYearsAlone) {
     EXPECT_EQ(Marks(), 10u);
 }
 
+TEST_F(OwnHolidays, DaysFromTheLeapDayOnBeginInMarchInOtherYears) {
+    EXPECT_EQ(Parse("02-29..03-02 | Inventory\n"), "");
+    EXPECT_EQ(NameOn(2028, 2, 28), "");
+    EXPECT_EQ(NameOn(2028, 2, 29), "Inventory");
+    EXPECT_EQ(NameOn(2027, 2, 28), "");
+    EXPECT_EQ(NameOn(2027, 3, 1), "Inventory");
+    EXPECT_EQ(NameOn(2027, 3, 2), "Inventory");
+    EXPECT_EQ(NameOn(2027, 3, 3), "");
+}
+
 TEST_F(OwnHolidays, WhatIsNoHolidayIsToldWithItsLineAndReason) {
     const std::map<std::string, std::string> lines{
         {"12-24", "a holiday has two fields (day | name), this line has 1"},
@@ -85,6 +95,14 @@ TEST_F(OwnHolidays, WhatIsNoHolidayIsToldWithItsLineAndReason) {
         {"24.12. | x", "\"24.12.\" is no day such as 2026-12-24, or 12-24 for every year"},
         {"2026-1-2 | x", "\"2026-1-2\" is no day such as 2026-12-24, or 12-24 for every year"},
         {"12-2x | x", "\"12-2x\" is no day such as 2026-12-24, or 12-24 for every year"},
+        {"12/24 | x", "\"12/24\" is no day such as 2026-12-24, or 12-24 for every year"},
+        {"x2-24 | x", "\"x2-24\" is no day such as 2026-12-24, or 12-24 for every year"},
+        {"2026/12-24 | x", "\"2026/12-24\" is no day such as 2026-12-24, or 12-24 for every year"},
+        {"2026-12/24 | x", "\"2026-12/24\" is no day such as 2026-12-24, or 12-24 for every year"},
+        {"20x6-12-24 | x", "\"20x6-12-24\" is no day such as 2026-12-24, or 12-24 for every year"},
+        {"01-32 | x", "\"01-32\" is no day of the calendar"},
+        {"00-10 | x", "\"00-10\" is no day of the calendar"},
+        {"12-99 | x", "\"12-99\" is no day of the calendar"},
         {" | x", "\"\" is no day such as 2026-12-24, or 12-24 for every year"},
         {"02-30 | x", "\"02-30\" is no day of the calendar"},
         {"2026-02-29 | x", "\"2026-02-29\" is no day of the calendar"},
@@ -120,6 +138,18 @@ TEST_F(OwnHolidays, WhatWasWrittenStaysWhereAnotherEntryIsChanged) {
     EXPECT_EQ(m_Own.Text(), "# ours\r\n  12-24   |  Company holiday\r\n\r\nnonsense\r\n# end\r\n");
     m_Own.Remove(0);
     EXPECT_EQ(m_Own.Text(), "# ours\r\n\r\nnonsense\r\n# end\r\n");
+}
+
+TEST_F(OwnHolidays, AnEntryThatSaysSomethingElseInAnyOfItsPartsIsWrittenAnew) {
+    Parse("  12-24   |  Old\n");
+    m_Own.m_Holidays[0].m_Name = "New";
+    EXPECT_EQ(m_Own.Text(), "12-24 | New\r\n");
+    Parse("  12-24   |  Old\n");
+    m_Own.m_Holidays[0].m_First = "12-23";
+    EXPECT_EQ(m_Own.Text(), "12-23 | Old\r\n");
+    Parse("  12-24   |  Old\n");
+    m_Own.m_Holidays[0].m_Last = "12-26";
+    EXPECT_EQ(m_Own.Text(), "12-24..12-26 | Old\r\n");
 }
 
 TEST_F(OwnHolidays, AFileIsReadAndReplacedWhole) {

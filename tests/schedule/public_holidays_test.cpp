@@ -280,5 +280,15 @@ TEST(Holidays, ADayOutsideTheSpanIsLeftOut) {
     EXPECT_EQ(holidays.LabelOf(kCalendarDays), nullptr);
 }
 
+TEST(Holidays, AMarkWithoutALabelHasNone) {
+    cHolidays holidays;
+    holidays.m_HolidayMarks[7] = True16;
+    EXPECT_EQ(holidays.LabelOf(7), nullptr);
+    holidays.Add({8, 6, True16, "named"});
+    EXPECT_EQ(holidays.LabelOf(7), nullptr);
+    ASSERT_NE(holidays.LabelOf(8), nullptr);
+    EXPECT_EQ(holidays.LabelOf(8)->m_Label, "named");
+}
+
 }  // namespace
 }  // namespace vigrel::testing

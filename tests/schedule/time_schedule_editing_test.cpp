@@ -352,6 +352,45 @@ TEST(ScheduleMouse, TheReleaseCopiesFromTheSelectedDayAndMergesTheDraggedOne) {
     EXPECT_EQ(Periods(bench.m_Schedule, 4), "7-8");
 }
 
+TEST(ScheduleMouse, TheReleaseOfADragWhoseSelectionWasTakenAwayMergesAndCopiesNothing) {
+    cScheduleBench bench(cContent().Day(0, {{100, 200}, {300, 400}}).Day(2, {{7, 8}}).Grouped({0, 2}));
+    bench.Play("left 0 200;move 0 350");
+    bench.m_Schedule.ClearSelection(bench.m_Container);
+    bench.Up();
+    EXPECT_FALSE(bench.m_Schedule.IsDragging());
+    EXPECT_EQ(Periods(bench.m_Schedule, 0), "100-400");
+    EXPECT_EQ(Periods(bench.m_Schedule, 2), "7-8");
+    EXPECT_EQ(bench.m_Schedule.SelectedDayType(), -1);
+}
+
+TEST(ScheduleSelection, APeriodOfTheDayIsSelectedWithItsTimes) {
+    cScheduleBench bench(cContent().Day(0, {{420, 960}}).Day(2, {{60, 90}, {600, 700}}));
+    std::int16_t start = 0, stop = 0;
+    const PeriodPtr first = bench.m_Schedule.GetNextTimePeriod(2, start, stop, nullptr);
+    const PeriodPtr second = bench.m_Schedule.GetNextTimePeriod(2, start, stop, first);
+    bench.m_Schedule.Select(bench.m_Container, 2, second);
+    EXPECT_EQ(bench.m_Schedule.SelectedDayType(), 2);
+    EXPECT_EQ(bench.Selected(), "600-700");
+    EXPECT_EQ(bench.Fields(), "10:00|11:40");
+    // What is typed now is that period's.
+    bench.m_Container.m_Start = "9";
+    bench.m_Schedule.ExtractTimeFromTextboxes(bench.m_Container, &bench.m_Paint);
+    EXPECT_EQ(Periods(bench.m_Schedule, 2), "60-90 540-700");
+}
+
+TEST(ScheduleSelection, ADayIsSelectedAloneWithoutAPeriodOrWithAnotherDays) {
+    cScheduleBench bench(cContent().Day(0, {{420, 960}}).Day(2, {{60, 90}}));
+    bench.Click(0, 600);
+    const PeriodPtr ofMonday = bench.m_Schedule.SelectedPeriod();
+    for (const PeriodPtr& period : {PeriodPtr(), ofMonday}) {
+        bench.m_Container.m_Start = bench.m_Container.m_Stop = "left over";
+        bench.m_Schedule.Select(bench.m_Container, 2, period);
+        EXPECT_EQ(bench.m_Schedule.SelectedDayType(), 2);
+        EXPECT_EQ(bench.Selected(), "none");
+        EXPECT_EQ(bench.Fields(), "|");
+    }
+}
+
 TEST(ScheduleMouse, ARightPressSelectsTheDayTypeKeepsThePeriodAndOnlySetsPopupStates) {
     cScheduleBench bench(cContent().Day(0, {{420, 960}}).Grouped({0, 2}));
     bench.Click(0, 600);
@@ -380,6 +419,16 @@ TEST(ScheduleMouse, ThePopupStatesTellOfTheGroupAndOfACopiedDay) {
               "grouped checked 0\n"
               "paste enabled 1\n"
               "delete enabled 1\n");
+}
+
+TEST(ScheduleMouse, WithoutASelectedDayThePopupStatesOfferNeitherGroupNorDelete) {
+    cScheduleBench bench(cContent().Grouped({0, 1, 2, 3, 4}));
+    bench.m_Schedule.PreparePopupMenu(bench.m_Container);
+    EXPECT_EQ(bench.m_Transcript.Text(),
+              "monfri checked 1\n"
+              "grouped checked 0\n"
+              "paste enabled 0\n"
+              "delete enabled 0\n");
 }
 
 TEST(ScheduleMouse, MondayToFridayIsNotCheckedWhenAnotherDayIsGroupedWithThem) {

@@ -297,6 +297,12 @@ TEST(SchedulePainting, TheMarkerIsANarrowingPointerWithAGreyLine) {
               "line 130 65 130 70 #949494\n");
 }
 
+TEST(SchedulePainting, WithoutAPaintObjectThereIsNoMarker) {
+    cScheduleBench bench;
+    bench.m_Schedule.PaintMarker(nullptr, 100, 2);
+    EXPECT_EQ(bench.m_Transcript.Text(), "");
+}
+
 // --- layout
 
 TEST(ScheduleLayout, ScrollBarAndViewAreLaidOutFromTheFrame) {

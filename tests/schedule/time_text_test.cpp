@@ -21,8 +21,8 @@ TEST(TimeText, WhatIsNoneIsRefusedWithItsReason) {
     EXPECT_EQ(FaultOfTimeText("1375"), "\"1375\" has more than 59 minutes.");
     EXPECT_EQ(FaultOfTimeText("8:60"), "\"8:60\" has more than 59 minutes.");
     EXPECT_EQ(FaultOfTimeText(" "), "The time is missing.");
-    for (const char* text :
-         {"x", "16:30x", "1630x", "16:", ":30", "-1", "12345", "1:2:3", "123:00", "8:000"}) {
+    for (const char* text : {"x", "16:30x", "1630x", "16:", ":30", "-1", "12345", "1:2:3", "123:00", "8:000",
+                             "a:30", "8h:30", "8:3x"}) {
         EXPECT_EQ(FaultOfTimeText(text),
                   "\"" + std::string(text) + "\" is not a time such as 8, 0830 or 16:30.");
     }
