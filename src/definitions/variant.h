@@ -41,7 +41,7 @@ class cVariant {
     static cVariant Currency(std::int64_t tenThousandths) { return Holding(cCurrency{tenThousandths}); }
     static cVariant Date(DateTime value) { return Holding(cDate{value}); }
     static cVariant String(std::string value) { return Holding(std::move(value)); }
-    static cVariant Boolean(bool value) { return Holding(cFlag{value ? True16 : False16}); }
+    static cVariant Boolean(bool value) { return value ? Holding(cFlag{True16}) : Holding(cFlag{}); }
     static cVariant Byte(std::uint8_t value) { return Holding(value); }
 
     eVariantType Type() const;

@@ -1,5 +1,9 @@
 #include "definitions/definition_folder.h"
 
+#include <map>
+#include <memory>
+#include <set>
+
 #include "definitions/definition_fixture.h"
 #include "definitions/receiver_list.h"
 #include "support/samples.h"
@@ -32,6 +36,21 @@ TEST_F(DefinitionFolder, LoadsWhatCanBeReadInTheOrderOfTheIdentities) {
         {ReceiverPath("0008"), "The file's version is 262, not one of 3 to 5."}};
     EXPECT_EQ(m_Receivers.Unreadable(), unreadable);
     EXPECT_FALSE(m_Receivers.HasChanges());
+}
+
+TEST_F(DefinitionFolder, AFileThatIsLeftOutIsToldWithItsReason) {
+    m_Files.Put(ReceiverPath("0002"), "");
+    m_Files.Put(ReceiverPath("0003"), "x");
+    m_Files.Put(ReceiverPath("0004"), std::string("\x02\x00", 2));
+    m_Files.Put(ReceiverPath("0005"), std::string("\x05\x00", 2));
+    m_Receivers.Load();
+    const std::vector<cUnreadableFile> unreadable{
+        {ReceiverPath("0002"), "The file has 0 bytes: it is empty."},
+        {ReceiverPath("0003"), "The file has 1 bytes: it is empty."},
+        {ReceiverPath("0004"), "The file's version is 2, not one of 3 to 5."},
+        {ReceiverPath("0005"), "The file is damaged: it ends too early or holds a value that is none."},
+        {ReceiverPath("0008"), "The file's version is 262, not one of 3 to 5."}};
+    EXPECT_EQ(m_Receivers.Unreadable(), unreadable);
 }
 
 TEST_F(DefinitionFolder, TheIdentitiesRiseWhateverOrderTheFolderGives) {
@@ -112,6 +131,23 @@ TEST_F(DefinitionFolder, ASaveReadsBackWhatTheFileHas) {
     EXPECT_EQ(m_Receivers.At(0).m_ReceiverName, "Again");
 }
 
+TEST_F(DefinitionFolder, ASaveThatCannotBeReadBackIsNoneAndIsReadWhenItCan) {
+    m_Receivers.Load();
+    m_Receivers.At(0).m_ReceiverName = "Changed";
+    m_Files.m_OnCall = [this](std::string_view operation, std::string_view) {
+        if (operation == "sync") m_Files.SetUnreadable(ReceiverPath("0007"), true);
+    };
+    EXPECT_FALSE(m_Receivers.Save(0));
+    m_Files.m_OnCall = nullptr;
+    EXPECT_EQ(m_Notes.back().kind, eNote::Failed);
+    EXPECT_EQ(m_Receivers.At(0).m_ReceiverName, "Changed");
+    EXPECT_EQ(m_Receivers.StateOfFile(0), eFileState::Changed);
+    m_Files.SetUnreadable(ReceiverPath("0007"), false);
+    EXPECT_TRUE(m_Receivers.Rescan([](std::size_t) { return false; }));
+    EXPECT_EQ(m_Receivers.At(0).m_ReceiverName, "Changed");
+    EXPECT_EQ(m_Receivers.StateOfFile(0), eFileState::Unchanged);
+}
+
 TEST_F(DefinitionFolder, RemovingTakesTheFileAwayToo) {
     m_Receivers.Load();
     EXPECT_TRUE(m_Receivers.Remove(0));
@@ -153,6 +189,236 @@ TEST_F(DefinitionFolder, AnUpgradeThatCantBeWrittenIsTold) {
     EXPECT_EQ(m_Receivers.Count(), 2u);
 }
 
+// What others did to the folder since it was loaded, told by Rescan: "0 changed: old name", one a line.
+struct cOthers {
+    cReceiverFolder::Taken Taken() {
+        return [this](std::size_t position, const std::unique_ptr<cReceiver>& before, bool isGone) {
+            told += std::to_string(position) + (isGone ? " gone: " : " changed: ") + before->m_ReceiverName +
+                    "\n";
+        };
+    }
+    std::string told;
+};
+
+bool HoldsNone(std::size_t) {
+    return false;
+}
+
+bool HoldsAll(std::size_t) {
+    return true;
+}
+
+TEST_F(DefinitionFolder, AFileThatOthersChangedIsTakenUpWithWhatItWas) {
+    m_Receivers.Load();
+    m_Files.Put(ReceiverPath("0007"), testing::Sample("receiver_version_4.dat"));
+    EXPECT_EQ(m_Receivers.StateOfFile(0), eFileState::Changed);
+    EXPECT_TRUE(m_Receivers.HasNews(HoldsNone));
+    cOthers others;
+    EXPECT_TRUE(m_Receivers.Rescan(HoldsNone, others.Taken()));
+    EXPECT_EQ(others.told, "0 changed: \xD6st\n");
+    EXPECT_EQ(m_Receivers.At(0).m_ReceiverName, "Nord");
+    EXPECT_EQ(m_Receivers.StateOfFile(0), eFileState::Unchanged);
+    EXPECT_FALSE(m_Receivers.Rescan(HoldsNone, others.Taken()));
+}
+
+TEST_F(DefinitionFolder, AFileThatOthersRemovedGoes) {
+    m_Receivers.Load();
+    m_Files.RemoveFile(ReceiverPath("0007"));
+    EXPECT_EQ(m_Receivers.StateOfFile(0), eFileState::Gone);
+    EXPECT_TRUE(m_Receivers.HasNews(HoldsNone));
+    cOthers others;
+    EXPECT_TRUE(m_Receivers.Rescan(HoldsNone, others.Taken()));
+    EXPECT_EQ(others.told, "0 gone: \xD6st\n");
+    ASSERT_EQ(m_Receivers.Count(), 1u);
+    EXPECT_EQ(m_Receivers.At(0).m_DiskIdentity, 9);
+    EXPECT_FALSE(m_Receivers.HasNews(HoldsNone));
+}
+
+TEST_F(DefinitionFolder, WhatOthersAddedComesLast) {
+    m_Receivers.Load();
+    m_Files.Put(ReceiverPath("0001"), testing::Sample("receiver_version_5.dat"));
+    EXPECT_TRUE(m_Receivers.HasNews(HoldsAll));
+    EXPECT_TRUE(m_Receivers.Rescan(HoldsAll));
+    ASSERT_EQ(m_Receivers.Count(), 3u);
+    EXPECT_EQ(m_Receivers.At(2).m_DiskIdentity, 1);
+}
+
+TEST_F(DefinitionFolder, SeveralNewsAreToldFromTheLastPositionOnWithNobodyToTellTheyAreTakenUpToo) {
+    m_Files.Put(ReceiverPath("0001"), testing::Sample("receiver_version_5.dat"));
+    for (const bool told : {true, false}) {
+        m_Files.Put(ReceiverPath("0007"), testing::Sample("receiver_version_5.dat"));
+        m_Files.Put(ReceiverPath("0009"), testing::Sample("receiver_version_5.dat"));
+        m_Receivers.Load();
+        ASSERT_EQ(m_Receivers.Count(), 3u);
+        m_Files.RemoveFile(ReceiverPath("0009"));
+        m_Files.Put(ReceiverPath("0007"), testing::Sample("receiver_version_4.dat"));
+        cOthers others;
+        EXPECT_TRUE(m_Receivers.Rescan(HoldsNone, told ? others.Taken() : nullptr));
+        EXPECT_EQ(others.told, told ? "2 gone: \xD6st\n1 changed: \xD6st\n" : "");
+        ASSERT_EQ(m_Receivers.Count(), 2u);
+        EXPECT_EQ(m_Receivers.At(1).m_ReceiverName, "Nord");
+    }
+}
+
+TEST_F(DefinitionFolder, OneThatCannotBeReadAgainDoesNotHideThatAnotherWasTakenUp) {
+    m_Receivers.Load();
+    m_Files.Put(ReceiverPath("0009"), testing::Sample("receiver_version_4.dat"));
+    m_Files.Put(ReceiverPath("0007"), "??");
+    EXPECT_TRUE(m_Receivers.Rescan(HoldsNone));
+    EXPECT_EQ(m_Receivers.At(1).m_ReceiverName, "Nord");
+    EXPECT_EQ(m_Receivers.At(0).m_ReceiverName, "\xD6st");
+}
+
+TEST_F(DefinitionFolder, WhatIsHeldStaysAndIsNoNews) {
+    m_Receivers.Load();
+    m_Receivers.At(0).m_ReceiverName = "mine";
+    m_Files.Put(ReceiverPath("0007"), testing::Sample("receiver_version_4.dat"));
+    m_Files.RemoveFile(ReceiverPath("0009"));
+    EXPECT_FALSE(m_Receivers.HasNews(HoldsAll));
+    EXPECT_FALSE(m_Receivers.Rescan(HoldsAll));
+    EXPECT_EQ(m_Receivers.Count(), 2u);
+    EXPECT_EQ(m_Receivers.At(0).m_ReceiverName, "mine");
+}
+
+TEST_F(DefinitionFolder, OneThatWasNeverSavedHasNoFileToChange) {
+    m_Receivers.Load();
+    const std::size_t position = m_Receivers.Add("New");
+    EXPECT_EQ(m_Receivers.StateOfFile(position), eFileState::Unchanged);
+    EXPECT_FALSE(m_Receivers.HasNews(HoldsNone));
+    EXPECT_FALSE(m_Receivers.Rescan(HoldsNone));
+    EXPECT_EQ(m_Receivers.Count(), 3u);
+    EXPECT_EQ(m_Receivers.InFile(position), nullptr);
+    EXPECT_EQ(m_Receivers.FileOf(position), std::nullopt);
+    EXPECT_EQ(m_Receivers.AddFromFile(position), std::nullopt);
+}
+
+// Stamps of paths in this set can't be had, though the files are there and can be read.
+class cFilesWithoutStamps : public testing::cFakeFiles {
+  public:
+    std::set<std::string> m_Without;
+    std::map<std::string, std::int64_t> m_Attributes;  // when they changed last
+    cStamp Stamp(std::string_view path) const override {
+        if (m_Without.contains(std::string(path))) return {};
+        cStamp stamp = cFakeFiles::Stamp(path);
+        if (const auto changed = m_Attributes.find(std::string(path)); changed != m_Attributes.end())
+            stamp.changedNs = changed->second;
+        return stamp;
+    }
+};
+
+TEST_F(DefinitionFolder, ALookThatFailsLetsNoneGo) {
+    cFilesWithoutStamps files;
+    files.Put(ReceiverPath("0007"), testing::Sample("receiver_version_5.dat"));
+    const cDefinitionServices services{files, m_Clock, m_Random, m_Texts, m_Log, m_Ini, m_Types};
+    cReceiverFolder folder(services);
+    folder.Load();
+    files.m_Without.insert(ReceiverPath("0007"));
+    EXPECT_EQ(folder.StateOfFile(0), eFileState::Gone);
+    EXPECT_FALSE(folder.HasNews(HoldsNone));
+    EXPECT_FALSE(folder.Rescan(HoldsNone));
+    EXPECT_EQ(folder.Count(), 1u);
+}
+
+TEST_F(DefinitionFolder, AnUnreadableFileIsTriedAgainWhenItsContentOrItsPermissionsChange) {
+    cFilesWithoutStamps files;
+    const std::string path = ReceiverPath("0007");
+    files.Put(path, testing::Sample("receiver_version_5.dat"));
+    files.SetUnreadable(path, true);
+    const cDefinitionServices services{files, m_Clock, m_Random, m_Texts, m_Log, m_Ini, m_Types};
+    cReceiverFolder folder(services);
+    folder.Load();
+    EXPECT_EQ(folder.Unreadable().size(), 1u);
+    EXPECT_FALSE(folder.HasNews(HoldsNone));
+    // Allowed now, which changes the attributes alone.
+    files.SetUnreadable(path, false);
+    files.m_Attributes[path] = 77;
+    EXPECT_TRUE(folder.HasNews(HoldsNone));
+    EXPECT_TRUE(folder.Rescan(HoldsNone));
+    EXPECT_EQ(folder.Count(), 1u);
+    EXPECT_TRUE(folder.Unreadable().empty());
+    // Damaged, and mended by others.
+    files.Put(ReceiverPath("0008"), "??");
+    EXPECT_FALSE(folder.Rescan(HoldsNone));
+    EXPECT_EQ(folder.Unreadable().size(), 1u);
+    files.Put(ReceiverPath("0008"), testing::Sample("receiver_version_5.dat"));
+    EXPECT_TRUE(folder.HasNews(HoldsNone));
+    EXPECT_TRUE(folder.Rescan(HoldsNone));
+    EXPECT_EQ(folder.Count(), 2u);
+}
+
+TEST_F(DefinitionFolder, WhoOnlyLooksLetsTheEditorTakeUpWhatOthersDid) {
+    m_Receivers.Load();
+    m_Files.RemoveFile(ReceiverPath("0007"));
+    int takenUp = 0;
+    auto editor = std::make_shared<const cReceiverFolder::TakeUp>([&] { ++takenUp; });
+    m_Receivers.SetEditor(editor);
+    m_Receivers.LookAgain();
+    EXPECT_EQ(takenUp, 1);
+    EXPECT_EQ(m_Receivers.Count(), 2u);
+    // Once the editor is gone, the folder looks itself.
+    editor.reset();
+    m_Receivers.LookAgain();
+    EXPECT_EQ(takenUp, 1);
+    EXPECT_EQ(m_Receivers.Count(), 1u);
+}
+
+TEST_F(DefinitionFolder, TheirVersionCanBeAddedBesideOnesOwn) {
+    m_Receivers.Load();
+    m_Receivers.At(0).m_ReceiverName = "mine";
+    m_Files.Put(ReceiverPath("0007"), testing::Sample("receiver_version_4.dat"));
+    const auto added = m_Receivers.AddFromFile(0);
+    ASSERT_TRUE(added);
+    EXPECT_EQ(m_Receivers.At(*added).m_ReceiverName, "Nord");
+    EXPECT_EQ(m_Receivers.At(*added).m_DiskIdentity, -1);
+    EXPECT_EQ(m_Receivers.At(0).m_ReceiverName, "mine");
+    m_Files.Put(ReceiverPath("0007"), "??");
+    EXPECT_EQ(m_Receivers.AddFromFile(0), std::nullopt);
+    m_Files.RemoveFile(ReceiverPath("0007"));
+    EXPECT_EQ(m_Receivers.AddFromFile(0), std::nullopt);
+    EXPECT_FALSE(m_Files.FileExists(ReceiverPath("0007")));
+}
+
+TEST_F(DefinitionFolder, OneWhoseFileOthersRemovedIsRemovedWithoutAFailure) {
+    m_Receivers.Load();
+    m_Files.RemoveFile(ReceiverPath("0007"));
+    EXPECT_FALSE(m_Receivers.Revert(0));
+    EXPECT_TRUE(m_Receivers.Remove(0));
+    EXPECT_EQ(m_Receivers.Count(), 1u);
+}
+
+TEST_F(DefinitionFolder, WhatComesBackWithoutAFileHasItsNumberAgainUnlessSomebodyElseHasIt) {
+    m_Receivers.Load();
+    const auto content = m_Receivers.CopyOf(0);
+    const std::string file = m_Files.ReadFile(ReceiverPath("0007"));
+    ASSERT_TRUE(m_Receivers.Remove(0));
+    EXPECT_TRUE(m_Receivers.BringBack(0, *content, 7, std::nullopt));
+    EXPECT_EQ(m_Receivers.At(0).m_DiskIdentity, 7);
+    EXPECT_FALSE(m_Files.FileExists(ReceiverPath("0007")));
+    // One that was never saved.
+    EXPECT_TRUE(m_Receivers.BringBack(2, *content, -1, std::nullopt));
+    EXPECT_EQ(m_Receivers.At(2).m_DiskIdentity, -1);
+    // Another definition of the list has the number.
+    EXPECT_TRUE(m_Receivers.BringBack(3, *content, 9, std::nullopt));
+    EXPECT_EQ(m_Receivers.At(3).m_DiskIdentity, -1);
+    // A file that others made has it.
+    m_Files.Put(ReceiverPath("0011"), file);
+    EXPECT_TRUE(m_Receivers.BringBack(4, *content, 11, std::nullopt));
+    EXPECT_EQ(m_Receivers.At(4).m_DiskIdentity, -1);
+}
+
+TEST_F(DefinitionFolder, WhatComesBackOverwritesNoFileOfOthersAndNeedsOneThatCanBeRead) {
+    m_Receivers.Load();
+    const auto content = m_Receivers.CopyOf(0);
+    const auto file = m_Receivers.FileOf(0);
+    ASSERT_TRUE(m_Receivers.Remove(0));
+    m_Files.Put(ReceiverPath("0007"), "of others");
+    EXPECT_FALSE(m_Receivers.BringBack(0, *content, 7, file));
+    EXPECT_EQ(m_Receivers.At(0).m_DiskIdentity, -1);
+    EXPECT_EQ(m_Files.ReadFile(ReceiverPath("0007")), "of others");
+    EXPECT_FALSE(m_Receivers.BringBack(0, *content, 12, std::string("??")));
+    EXPECT_EQ(m_Receivers.At(0).m_ReceiverName, "\xD6st");
+}
+
 // Two spellings of one name, as other systems can put them into the folder.
 class cFilesWithTwins : public testing::cFakeFiles {
   public:
@@ -174,6 +440,27 @@ TEST_F(DefinitionFolder, OfTwoFilesWithOneNumberOneIsOpenedAndTheOtherTold) {
     const std::vector<cUnreadableFile> others{
         {"C:\\App\\Receivers\\RECEIVER_0007.DAT",
          "It has the same number as Receiver_0007.dat; rename one of them."}};
+    EXPECT_EQ(folder.Unreadable(), others);
+}
+
+TEST_F(DefinitionFolder, OfTwoFilesOfOneNumberWithoutTheOwnSpellingTheFirstIsOpened) {
+    // Neither is spelled as the editor would.
+    class cFilesOfOthers : public testing::cFakeFiles {
+      public:
+        std::vector<std::string> ListFiles(std::string_view folder, std::string_view mask) const override {
+            if (!mask.starts_with("Receiver_")) return cFakeFiles::ListFiles(folder, mask);
+            return {"RECEIVER_0007.DAT", "receiver_0007.dat"};
+        }
+    };
+    cFilesOfOthers files;
+    files.Put(ReceiverPath("0007"), testing::Sample("receiver_version_5.dat"));
+    const cDefinitionServices services{files, m_Clock, m_Random, m_Texts, m_Log, m_Ini, m_Types};
+    cReceiverFolder folder(services);
+    folder.Load();
+    EXPECT_EQ(folder.Count(), 1u);
+    const std::vector<cUnreadableFile> others{
+        {"C:\\App\\Receivers\\receiver_0007.dat",
+         "It has the same number as RECEIVER_0007.DAT; rename one of them."}};
     EXPECT_EQ(folder.Unreadable(), others);
 }
 
@@ -248,6 +535,7 @@ TEST(ReceiverList, IsIdentitiesSeparatedBySemicolons) {
     EXPECT_EQ(ReceiverIdentity("abc"), std::nullopt);
     EXPECT_EQ(ReceiverIdentity("12345"), std::nullopt);
     EXPECT_EQ(ReceiverIdentity("-1"), std::nullopt);
+    EXPECT_EQ(ReceiverIdentity(""), std::nullopt);
 }
 
 }  // namespace

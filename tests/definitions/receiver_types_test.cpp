@@ -46,7 +46,8 @@ TEST_F(ReceiverTypesFile, AWrongLineIsNamedAndSkipped) {
         "40000;XRT;Radio\n"
         "-2;XRT;Radio\n"
         "1.5;XRT;Radio\n"
-        "9;XRT;Radio\n");
+        "9;XRT;Radio\n"
+        "10;XRT;Radio;.hidden\n");
     EXPECT_EQ(problems,
               (std::vector<cLineProblem>{
                   {2, "the type id \"x\" is not a whole number from 0 to 32767"},
@@ -60,7 +61,10 @@ TEST_F(ReceiverTypesFile, AWrongLineIsNamedAndSkipped) {
                   {8, "a line has three or four fields (id; kind; name; settings file), this one has 5"},
                   {9, "the type id \"40000\" is not a whole number from 0 to 32767"},
                   {10, "the type id \"-2\" is not a whole number from 0 to 32767"},
-                  {11, "the type id \"1.5\" is not a whole number from 0 to 32767"}}));
+                  {11, "the type id \"1.5\" is not a whole number from 0 to 32767"},
+                  {13,
+                   "the settings file \".hidden\" is not the plain name of a file of the application "
+                   "folder"}}));
     EXPECT_EQ(m_Types.ReceiverTypeCount(), 2);
     EXPECT_EQ(LineProblemPhrase(kReceiverTypesFile, problems[2]),
               "ReceiverTypes.txt, line 4: the kind is empty");

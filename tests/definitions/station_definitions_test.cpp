@@ -57,6 +57,30 @@ TEST_F(StationDefinitions, TellsWhichProfilesListAReceiver) {
     EXPECT_TRUE(m_Station.ProfilesWith(10).empty());
 }
 
+TEST_F(StationDefinitions, AProfileListsAReceiverAsLongAsItsFileDoes) {
+    m_Files.Put(ProfilePath("0012"), testing::Sample("profile_version_5.dat"));
+    m_Station.OpenReceivers();
+    cProfile& profile = m_Station.Profiles().At(0);
+    profile.m_ParallellReceivers = "8";
+    profile.m_SequentialReceivers = "10";
+    // Taken out and not saved: the file has it still. Put in and not saved: it is meant.
+    EXPECT_EQ(m_Station.ProfilesWith(7), std::vector<std::string>{"Night"});
+    EXPECT_EQ(m_Station.ProfilesWith(9), std::vector<std::string>{"Night"});
+    EXPECT_EQ(m_Station.ProfilesWith(10), std::vector<std::string>{"Night"});
+    EXPECT_TRUE(m_Station.ProfilesWith(11).empty());
+    ASSERT_TRUE(m_Station.Profiles().Save(0));
+    EXPECT_TRUE(m_Station.ProfilesWith(7).empty());
+    EXPECT_EQ(m_Station.ProfilesWith(10), std::vector<std::string>{"Night"});
+}
+
+TEST_F(StationDefinitions, ANewProfileListsWhatItHasWithoutAFile) {
+    m_Station.OpenReceivers();
+    const std::size_t position = m_Station.Profiles().Add("Day");
+    m_Station.Profiles().At(position).m_ParallellReceivers = "7";
+    EXPECT_EQ(m_Station.ProfilesWith(7), std::vector<std::string>{"Day"});
+    EXPECT_TRUE(m_Station.ProfilesWith(8).empty());
+}
+
 TEST_F(StationDefinitions, OpeningOneKindAgainGivesUpItsChangesAndKeepsTheOthers) {
     m_Files.Put(ReceiverPath("0007"), testing::Sample("receiver_version_5.dat"));
     m_Files.Put(ProfilePath("0012"), testing::Sample("profile_version_5.dat"));

@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <limits>
+#include <utility>
 
 #include "common/failure.h"
 #include "support/bytes.h"
@@ -156,12 +157,36 @@ TEST(VariantFromText, ATextThatDoesntFitItsTypeIsRefusedByName) {
         {eVariantType::Int32, "3e9"},      {eVariantType::Byte, "-1"},      {eVariantType::Byte, "256"},
         {eVariantType::Single, "1e39"},    {eVariantType::Double, "12 kg"}, {eVariantType::Currency, "1e15"},
         {eVariantType::Date, "yesterday"}, {eVariantType::Boolean, "2"},    {eVariantType::Empty, "x"},
+        {eVariantType::Currency, "-1e15"}, {eVariantType::Single, "-1e39"},
     };
     for (const auto& entry : refused) {
         const auto failure = CatchFailure([&] { VariantFromText(entry.type, entry.text); });
         ASSERT_TRUE(failure) << entry.text;
         EXPECT_NE(std::string(failure->what()), "") << entry.text;
     }
+}
+
+TEST(VariantTypePhrase, NamesEveryTypeAndWhatIsNone) {
+    const std::pair<eVariantType, const char*> names[] = {{eVariantType::Empty, "empty"},
+                                                          {eVariantType::Null, "null"},
+                                                          {eVariantType::Int16, "whole number (16 bits)"},
+                                                          {eVariantType::Int32, "whole number (32 bits)"},
+                                                          {eVariantType::Single, "number (single)"},
+                                                          {eVariantType::Double, "number (double)"},
+                                                          {eVariantType::Currency, "currency"},
+                                                          {eVariantType::Date, "date"},
+                                                          {eVariantType::String, "text"},
+                                                          {eVariantType::Boolean, "yes or no"},
+                                                          {eVariantType::Byte, "whole number (8 bits)"},
+                                                          {static_cast<eVariantType>(9), "unknown"}};
+    for (const auto& [type, name] : names) EXPECT_EQ(VariantTypePhrase(type).English(), name);
+}
+
+TEST(VariantFromText, ARefusalNamesTheTextAndTheType) {
+    const auto failure = CatchFailure([] { VariantFromText(eVariantType::Byte, "abc"); });
+    ASSERT_TRUE(failure);
+    EXPECT_NE(std::string(failure->what()).find("\"abc\""), std::string::npos) << failure->what();
+    EXPECT_NE(std::string(failure->what()).find("whole number (8 bits)"), std::string::npos);
 }
 
 TEST(VariantFromText, BlanksAroundANumberDontMatter) {
