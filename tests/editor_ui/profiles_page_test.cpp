@@ -562,6 +562,17 @@ TEST_F(ProfilesPage, ACalendarThatOthersChangedIsReadAgain) {
     Page().show();
     EXPECT_EQ(editor.Calendar().GetDayType(0), 9);
     EXPECT_FALSE(Page().IsDirty());
+    for (int round = 0; round < 2; ++round) {
+        Page().UndoStack()->undo();
+        EXPECT_EQ(editor.Calendar().GetDayType(0), 0);
+        EXPECT_FALSE(Page().Save());
+        EXPECT_EQ(Asked().substr(0, 20), "mine, theirs, both: ");
+        EXPECT_EQ(OnDisk("Calendar.cal"), theirs);
+        Page().UndoStack()->redo();
+        EXPECT_FALSE(Page().IsDirty());
+        EXPECT_TRUE(Page().Save());
+        EXPECT_EQ(Asked(), "");
+    }
 }
 
 TEST_F(ProfilesPage, ADayIsAnsweredForWithItsReason) {

@@ -7,7 +7,7 @@
 
 #include "common/binary.h"
 #include "editor_ui/editor_bench.h"
-#include "schedule/definition_files.h"
+#include "schedule/calendar_days.h"
 #include "support/samples.h"
 
 namespace vigrel::testing {
@@ -28,6 +28,12 @@ std::string CalendarOf(std::int32_t day, std::int16_t value) {
     return file.Bytes();
 }
 
+// The bytes of the sample but for its last field.
+std::string ScheduleThatUsesNoCalendar() {
+    const std::string sample = Sample("schedule.dat");
+    return sample.substr(0, sample.size() - 2) + std::string(2, '\0');
+}
+
 struct cSharedFile {
     const char* name;
     const char* title;
@@ -36,7 +42,7 @@ struct cSharedFile {
 };
 
 const cSharedFile kFiles[] = {
-    {"schedule", "a.sch", Sample("schedule.dat"), std::string(kSmallestScheduleFileSize, '\0'),
+    {"schedule", "a.sch", Sample("schedule.dat"), ScheduleThatUsesNoCalendar(),
      [](cEditorBench&, cEditorPage& page) {
          QWidget& view = cEditorBench::Find<QWidget>(page, "Picture_TimeSchedule");
          cEditorBench::Drag(view, {cEditorBench::At(6, 600), cEditorBench::At(6, 700)});
@@ -73,6 +79,18 @@ class SharedFile : public ::testing::TestWithParam<cSharedFile>, protected cEdit
     void ComeBack() {
         m_Window->hide();
         m_Window->show();
+    }
+    void ExpectAskedBeforeTheirsIsReplaced() {
+        Asked();
+        EXPECT_TRUE(Page().IsDirty());
+        EXPECT_FALSE(Page().Save());
+        EXPECT_EQ(Asked(), Of(kChanged));
+        EXPECT_EQ(OnDisk(), GetParam().theirs);
+    }
+    void ExpectSavedUnasked(const std::string& content) {
+        EXPECT_TRUE(Page().Save());
+        EXPECT_EQ(Asked(), "");
+        EXPECT_EQ(OnDisk(), content);
     }
 };
 
@@ -119,6 +137,8 @@ TEST_P(SharedFile, ThatOthersChangedCanTakeThePlaceOfMineAndBeUndone) {
     Choose(*m_Window, "Menu_Undo");
     EXPECT_TRUE(Page().IsDirty());
     Choose(*m_Window, "Menu_Undo");
+    ExpectAskedBeforeTheirsIsReplaced();
+    m_Prompts.m_ConflictAnswers = {eConflict::Mine};
     EXPECT_TRUE(Page().Save());
     EXPECT_EQ(OnDisk(), GetParam().first);
 }
@@ -181,12 +201,74 @@ TEST_P(SharedFile, IsReadAgainWhenThePageIsSeenAgain) {
     WriteTheirs();
     ComeBack();
     EXPECT_FALSE(Page().IsDirty());
-    EXPECT_TRUE(Page().Save());
-    EXPECT_EQ(Asked(), "");
-    EXPECT_EQ(OnDisk(), GetParam().theirs);
+    ExpectSavedUnasked(GetParam().theirs);
+}
+
+TEST_P(SharedFile, ThatWasTakenUpIsNotReplacedUnaskedByWhatUndoBringsBack) {
+    WriteTheirs();
+    ComeBack();
+    for (int round = 0; round < 2; ++round) {
+        Choose(*m_Window, "Menu_Undo");
+        ExpectAskedBeforeTheirsIsReplaced();
+        Choose(*m_Window, "Menu_Redo");
+        EXPECT_FALSE(Page().IsDirty());
+        ExpectSavedUnasked(GetParam().theirs);
+    }
     Choose(*m_Window, "Menu_Undo");
+    m_Prompts.m_ConflictAnswers = {eConflict::Mine};
     EXPECT_TRUE(Page().Save());
     EXPECT_EQ(OnDisk(), GetParam().first);
+    Asked();
+    // That is decided now: both are the user's own.
+    Choose(*m_Window, "Menu_Redo");
+    ExpectSavedUnasked(GetParam().theirs);
+    Choose(*m_Window, "Menu_Undo");
+    ExpectSavedUnasked(GetParam().first);
+}
+
+TEST_P(SharedFile, ThatWasTakenUpStaysWithTheStepsMadeOnIt) {
+    WriteTheirs();
+    ComeBack();
+    Change();
+    EXPECT_TRUE(Page().Save());
+    Choose(*m_Window, "Menu_Undo");
+    ExpectSavedUnasked(GetParam().theirs);
+    Choose(*m_Window, "Menu_Undo");
+    ExpectAskedBeforeTheirsIsReplaced();
+    m_Prompts.m_ConflictAnswers = {eConflict::Theirs};
+    EXPECT_FALSE(Page().Save());
+    EXPECT_FALSE(Page().IsDirty());
+    Asked();
+    ExpectSavedUnasked(GetParam().theirs);
+    Choose(*m_Window, "Menu_Undo");
+    ExpectAskedBeforeTheirsIsReplaced();
+}
+
+TEST_P(SharedFile, ThatOthersSetBackIsAskedForByWhatItHolds) {
+    WriteTheirs();
+    ComeBack();
+    m_Files.WriteFile(Path(), GetParam().first, false);
+    ComeBack();
+    Choose(*m_Window, "Menu_Undo");
+    EXPECT_FALSE(Page().Save());
+    EXPECT_EQ(Asked(), Of(kChanged));
+    // The content of the first opening, which the file has again.
+    Choose(*m_Window, "Menu_Undo");
+    EXPECT_FALSE(Page().IsDirty());
+    ExpectSavedUnasked(GetParam().first);
+}
+
+TEST_P(SharedFile, OfAnotherNameHasNothingOfOthers) {
+    WriteTheirs();
+    ComeBack();
+    m_Prompts.m_Texts = {"/app/mine"};
+    EXPECT_TRUE(Page().SaveAs());
+    Asked();
+    Choose(*m_Window, "Menu_Undo");
+    EXPECT_TRUE(Page().Save());
+    EXPECT_EQ(Asked(), "");
+    EXPECT_EQ(m_Files.ReadFile("/app/mine"), GetParam().first);
+    EXPECT_EQ(OnDisk(), GetParam().theirs);
 }
 
 TEST_P(SharedFile, WithChangesOfMineStaysAsItIsWhenThePageIsSeenAgain) {

@@ -15,7 +15,7 @@ cFileDocument::cFileDocument(cEditorServices& services, cFileForm form, QWidget*
       m_Services(services),
       m_Form(std::move(form)),
       m_Owner(owner),
-      m_Behind{{}, {}, m_Form.state()},
+      m_Behind{{}, {}, m_Form.state(), 0, 0},
       m_StateOfNew(m_Behind.state) {}
 
 QString cFileDocument::Title() const {
@@ -56,6 +56,7 @@ bool cFileDocument::Open(const std::string& path) {
     if (!Read(path)) return false;
     RemoveTemporaryOf(m_Services.m_Files, path);
     Take(path, stamp);
+    m_Behind.fileGround = m_Behind.ground = 0;
     emit Opened(before, {tr("opening \"%1\"").arg(Title()), content, m_Behind.state});
     return true;
 }
@@ -92,10 +93,15 @@ bool cFileDocument::HasNews(const cFileReader::cStamp& now) {
     return !isSame;
 }
 
+// Undo has brought back a content from before others' version took its place.
+bool cFileDocument::IsOfBefore() const {
+    return m_Dirty && m_Behind.ground < m_Behind.fileGround;
+}
+
 // Another program, or another window, may have written or removed the file meanwhile.
 bool cFileDocument::MayReplace() {
     const cFileReader::cStamp now = m_Services.m_Files.Stamp(m_Behind.path);
-    if (!HasNews(now)) return true;
+    if (!HasNews(now) && !IsOfBefore()) return true;
     // While it is asked, nothing is taken up on the quiet.
     m_Seen = now;
     return now.size < 0 ? MayWriteAgain() : MayReplaceChanged();
@@ -132,8 +138,10 @@ void cFileDocument::TakeTheirs() {
     const std::string before = m_Form.state();
     const cFileReader::cStamp stamp = m_Services.m_Files.Stamp(m_Behind.path);
     if (!Read(m_Behind.path)) return;
+    const int groundBefore = m_Behind.ground;
+    m_Behind.fileGround = m_Behind.ground = ++m_TakenOver;
     Take(m_Behind.path, stamp);
-    emit Replaced({tr("taking over \"%1\"").arg(Title()), before, m_Behind.state});
+    emit Replaced({tr("taking over \"%1\"").arg(Title()), before, m_Behind.state}, groundBefore);
     emit Message(tr("%1 is read again: another program has changed it").arg(Path()));
 }
 
@@ -162,6 +170,8 @@ bool cFileDocument::WriteTo(const std::string& path) {
                                          tr("The file was not saved.\n%1").arg(ToldReason(*failure)));
         return false;
     }
+    // Was the content of before, the user has said so: there is nothing of others left in the file.
+    if (path != m_Behind.path || IsOfBefore()) m_Behind.fileGround = 0;
     Take(path, m_Services.m_Files.Stamp(path));
     emit Message(tr("Saved %1").arg(Path()));
     return true;

@@ -30,6 +30,8 @@ struct cBehind {
     std::string path;           // empty for none
     cFileReader::cStamp stamp;  // of the file as it was read or written last
     std::string state;          // the content that it has
+    // Which taking over of what others saved the file stands on, and which the content; 0 for none.
+    int fileGround = 0, ground = 0;
 };
 
 // The file behind an editor: opened, saved, and whether it holds what the editor shows. What goes wrong is
@@ -56,6 +58,9 @@ class cFileDocument : public QObject {
     // changed it meanwhile shows at the next save.
     void GoBack(const cBehind& behind);
     const cBehind& Behind() const { return m_Behind; }
+    // The content was set back to what it was before others' version took its place, or to that version
+    // again. One of before isn't written over theirs before it was asked.
+    void StandOn(int ground) { m_Behind.ground = ground; }
     // Reads a file into the content, which stays without a file: nothing else may hold it any more.
     bool OpenCopy(const std::string& path);
     // Reads the file again when others have changed it and nothing is changed here.
@@ -66,8 +71,8 @@ class cFileDocument : public QObject {
     void StateChanged();
     // The content is that of another file, which had been the one of the step's begin.
     void Opened(const vigrel::cBehind& before, const vigrel::cEditStep& step);
-    // What others have saved took the place of the content.
-    void Replaced(const vigrel::cEditStep& step);
+    // What others have saved took the place of the content, which had stood on that ground.
+    void Replaced(const vigrel::cEditStep& step, int groundBefore);
     // The user wants to see what the file holds beside the content.
     void BothWanted(const QString& path);
     // The file is gone, and the content is to go as well.
@@ -78,6 +83,7 @@ class cFileDocument : public QObject {
 
   private:
     bool HasNews(const cFileReader::cStamp& now);
+    bool IsOfBefore() const;
     bool MayReplace();
     bool MayReplaceChanged();
     bool MayWriteAgain();
@@ -92,6 +98,7 @@ class cFileDocument : public QObject {
     cBehind m_Behind;
     cFileReader::cStamp m_Seen;  // of a file that others changed, and that was asked about or read
     std::string m_StateOfNew;    // of a content that has no file yet
+    int m_TakenOver = 0;         // how often what others saved took the place of the content
     bool m_Dirty = false;
 };
 

@@ -3,6 +3,7 @@
 #include <QVBoxLayout>
 
 #include "editor_ui/pages/step_command.h"
+#include "editor_ui/pages/take_over_command.h"
 
 namespace vigrel {
 namespace {
@@ -35,8 +36,9 @@ cFilePage::cFilePage(cEditorServices& services, cContentEditor* editor, cFileFor
     connect(&m_Document, &cFileDocument::Message, this, &cEditorPage::Message);
     connect(&m_Document, &cFileDocument::BothWanted, this, &cEditorPage::BothWanted);
     connect(&m_Document, &cFileDocument::LetGo, this, &cEditorPage::Ended);
-    connect(&m_Document, &cFileDocument::Replaced, this,
-            [this](const cEditStep& step) { m_UndoStack.push(new cStepCommand(step, m_Editor)); });
+    connect(&m_Document, &cFileDocument::Replaced, this, [this](const cEditStep& step, int groundBefore) {
+        m_UndoStack.push(new cTakeOverCommand(step, m_Editor, m_Document, groundBefore));
+    });
 }
 
 // The stack tells of its end when there is no editor any more, and the editor takes over what is typed in a

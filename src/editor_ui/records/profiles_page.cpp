@@ -3,6 +3,7 @@
 #include "common/text.h"
 #include "editor_ui/pages/content_editor.h"
 #include "editor_ui/pages/step_command.h"
+#include "editor_ui/pages/take_over_command.h"
 #include "editor_ui/records/profile_calendar.h"
 #include "editor_ui/records/profile_form.h"
 
@@ -112,15 +113,17 @@ void cProfilesPage::ConnectCalendar() {
     cCalendarEditor& editor = m_Form->Calendar().Editor();
     connect(&calendar, &cFileDocument::LetGo, &editor, &cCalendarEditor::Clear);
     const auto show = [this, &editor] { ShowField(editor.objectName()); };
-    const auto push = [this, &editor, show](const cEditStep& step) {
-        UndoStack()->push(new cStepCommand(step, editor, show));
-    };
     connect(&calendar, &cFileDocument::Opened, this,
             [this, &editor, &calendar, show](const cBehind& before, const cEditStep& step) {
                 UndoStack()->push(new cOpenCommand(step, editor, show, calendar, before));
             });
-    connect(&editor, &cContentEditor::Edited, this, push);
-    connect(&calendar, &cFileDocument::Replaced, this, push);
+    connect(&editor, &cContentEditor::Edited, this, [this, &editor, show](const cEditStep& step) {
+        UndoStack()->push(new cStepCommand(step, editor, show));
+    });
+    connect(&calendar, &cFileDocument::Replaced, this,
+            [this, &editor, &calendar, show](const cEditStep& step, int groundBefore) {
+                UndoStack()->push(new cTakeOverCommand(step, editor, calendar, groundBefore, show));
+            });
     connect(UndoStack(), &QUndoStack::indexChanged, &calendar, &cFileDocument::NoteChange);
 }
 
