@@ -216,6 +216,33 @@ TEST_F(ColourRulesOfAlarms, OfVeryManyTheNewestAreShown) {
     EXPECT_EQ(Alarms().item(0, 1)->text().toStdString(), "2026-03-15 09:00:00");
 }
 
+TEST_F(ColourRulesOfAlarms, AreReadAgainWhenThePageIsSeenAgain) {
+    const auto comeBack = [this] {
+        Page().hide();
+        Page().show();
+    };
+    Put("ColourRules.txt", "* | * | * | 0,0,0 | 200,0,0 | 15\r\n");
+    PutAlarm(1, 8, "PU1", "5");
+    PutAlarm(2, 9, "PU2", "5");
+    ASSERT_EQ(Alarms().rowCount(), 2);
+    // One has come, one has gone, one is another.
+    PutAlarm(3, 10, "PU3", "5");
+    m_Files.RemoveFile(Path("Alarms\\A0000001.alm"));
+    PutAlarm(2, 11, "PU4", "5");
+    comeBack();
+    ASSERT_EQ(Alarms().rowCount(), 2);
+    EXPECT_EQ(Alarms().item(0, 3)->text(), "PU4");
+    EXPECT_EQ(Alarms().item(1, 3)->text(), "PU3");
+    EXPECT_EQ(Ground(0), QColor(200, 0, 0));
+    EXPECT_EQ(LabelOf(Page(), "Label_Preview_Alarms"), "2 of 2");
+    EXPECT_FALSE(Page().IsDirty());
+    // Without news no file is read.
+    for (const int number : {2, 3})
+        m_Files.SetUnreadable(Path("Alarms\\A000000" + std::to_string(number) + ".alm"), true);
+    comeBack();
+    EXPECT_EQ(Alarms().rowCount(), 2);
+}
+
 TEST_F(ColourRulesOfAlarms, AreShownAsRulesAreEdited) {
     PutAlarm(1, 8, "PU1", "5");
     Press(Page(), "Button_Add");

@@ -7,8 +7,7 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <functional>
-#include <utility>
+#include <tuple>
 
 #include "adapters/qt/qt_text.h"
 #include "categories/colour_rules.h"
@@ -29,15 +28,9 @@ constexpr std::size_t kMostFiles = 2000, kMostRows = 200;
 constexpr const char* kTagKey = "PreviewTag";
 
 // The numbers of the files are drawn at random; when they were written tells which are the newest.
-void KeepNewest(const cFileReader& files, const std::string& folder, std::vector<std::string>& names) {
-    if (names.size() <= kMostFiles) return;
-    std::vector<std::pair<std::int64_t, std::string>> written;
-    written.reserve(names.size());
-    for (const std::string& name : names) written.emplace_back(files.Stamp(folder + name).modifiedNs, name);
-    std::sort(written.begin(), written.end(), std::greater<>());
-    names.resize(kMostFiles);
-    std::transform(written.begin(), written.begin() + kMostFiles, names.begin(),
-                   [](const auto& each) { return each.second; });
+bool IsNewer(const std::pair<cFileReader::cStamp, std::string>& a,
+             const std::pair<cFileReader::cStamp, std::string>& b) {
+    return std::tie(a.first.modifiedNs, a.second) > std::tie(b.first.modifiedNs, b.second);
 }
 
 }  // namespace
@@ -76,17 +69,36 @@ cAlarmPreview::cAlarmPreview(cEditorServices& services, QWidget* parent)
     layout->addWidget(m_Count);
     connect(m_Tag, &QComboBox::currentIndexChanged, this, [this](int tag) {
         m_Services.m_Settings.setValue(kTagKey, tag);
-        Show(std::vector<cUserColor>(m_Rules), m_Category, m_Area);
+        Fill();
     });
+    m_Files = FilesOfAlarms();
     Read();
 }
 
+cAlarmPreview::StampedNames cAlarmPreview::FilesOfAlarms() const {
+    const std::vector<std::string> names = AlarmFileNames(m_Services.m_Files, Folder());
+    StampedNames files(names.size());
+    std::transform(names.begin(), names.end(), files.begin(), [this](const std::string& name) {
+        return std::make_pair(m_Services.m_Files.Stamp(Folder() + name), name);
+    });
+    std::sort(files.begin(), files.end(), IsNewer);
+    return files;
+}
+
+void cAlarmPreview::LookAgain() {
+    StampedNames files = FilesOfAlarms();
+    if (files == m_Files) return;
+    m_Files = std::move(files);
+    Read();
+    Fill();
+}
+
 void cAlarmPreview::Read() {
-    const std::string folder = m_Services.m_Ini.FullPath("Alarms\\");
-    std::vector<std::string> names = AlarmFileNames(m_Services.m_Files, folder);
-    const std::size_t all = names.size();
-    KeepNewest(m_Services.m_Files, folder, names);
-    ReadStoredAlarms(m_Services.m_Files, folder, names,
+    std::vector<std::string> names(std::min(m_Files.size(), kMostFiles));
+    std::transform(m_Files.begin(), m_Files.begin() + static_cast<std::ptrdiff_t>(names.size()),
+                   names.begin(), [](const auto& each) { return each.second; });
+    m_Alarms.clear();
+    ReadStoredAlarms(m_Services.m_Files, Folder(), names,
                      [this](const std::string&, const cStoredAlarm& stored) {
                          if (!stored.problem.empty()) return;
                          cRow row{stored.alarm.m_CreatedTime, {}};
@@ -98,13 +110,17 @@ void cAlarmPreview::Read() {
               [](const cRow& a, const cRow& b) { return Earlier(b.created, a.created); });
     m_Alarms.resize(std::min(m_Alarms.size(), kMostRows));
     m_Count->setText(m_Alarms.empty() ? tr("The station has no alarms yet.")
-                                      : tr("%1 of %2").arg(m_Alarms.size()).arg(all));
+                                      : tr("%1 of %2").arg(m_Alarms.size()).arg(m_Files.size()));
 }
 
 void cAlarmPreview::Show(const std::vector<cUserColor>& rules, int category, int area) {
     m_Rules = rules;
     m_Category = category;
     m_Area = area;
+    Fill();
+}
+
+void cAlarmPreview::Fill() {
     m_Table->setRowCount(static_cast<int>(m_Alarms.size()));
     for (int row = 0; row < m_Table->rowCount(); ++row) FillRow(row);
 }

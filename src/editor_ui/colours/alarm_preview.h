@@ -2,6 +2,7 @@
 
 #include <QWidget>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "categories/user_color.h"
@@ -23,6 +24,8 @@ class cAlarmPreview : public QWidget {
     explicit cAlarmPreview(cEditorServices& services, QWidget* parent = nullptr);
 
     bool IsEmpty() const { return m_Alarms.empty(); }
+    // Reads the alarms again when there are others by now.
+    void LookAgain();
     void Show(const std::vector<cUserColor>& rules, int category, int area);
 
   private:
@@ -30,11 +33,16 @@ class cAlarmPreview : public QWidget {
         DateTime created;
         std::vector<std::string> texts;
     };
+    using StampedNames = std::vector<std::pair<cFileReader::cStamp, std::string>>;
+    std::string Folder() const { return m_Services.m_Ini.FullPath("Alarms\\"); }
+    StampedNames FilesOfAlarms() const;
     void Read();
+    void Fill();
     void FillRow(int row);
     int CategoryOf(const cRow& alarm) const;
 
     cEditorServices& m_Services;
+    StampedNames m_Files;  // as they were when the alarms were read
     std::vector<cRow> m_Alarms;
     std::vector<cUserColor> m_Rules;
     int m_Category = 0, m_Area = 0;

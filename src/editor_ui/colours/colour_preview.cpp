@@ -119,6 +119,10 @@ void cColourPreview::SetRules(std::vector<cUserColor> rules) {
     Refresh();
 }
 
+void cColourPreview::LookAgain() {
+    m_StationAlarms->LookAgain();
+}
+
 void cColourPreview::Refresh() {
     const QStringList tags = m_Tags->toPlainText().split('\n', Qt::SkipEmptyParts);
     m_Table->setRowCount(static_cast<int>(tags.size()));

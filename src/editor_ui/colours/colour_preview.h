@@ -28,6 +28,8 @@ class cColourPreview : public QWidget {
     static QString ContrastText(double contrast);
     // The rules in the order in which they are tried.
     void SetRules(std::vector<cUserColor> rules);
+    // The station may have other alarms by now.
+    void LookAgain();
 
   private:
     QWidget* MakeTyped();

@@ -300,4 +300,8 @@ bool cColourRulesEditor::IsInFile(const std::string& path, const std::string& st
     return cTypedState{{}, rules.Text()}.Text() == state;
 }
 
+void cColourRulesEditor::RefreshAlarms() {
+    m_Preview->LookAgain();
+}
+
 }  // namespace vigrel

@@ -22,6 +22,8 @@ class cColourRulesEditor : public cTableEditor {
     void ReadFile(const std::string& path);
     void WriteFile(const std::string& path);
     bool IsInFile(const std::string& path, const std::string& state) const;
+    // The station may have other alarms by now.
+    void RefreshAlarms();
 
   private:
     std::string Text() const override { return m_Rules.Text(); }

@@ -14,8 +14,14 @@ cColourRulesPage::cColourRulesPage(cEditorServices& services, cColourRulesEditor
                  [editor](const std::string& path) { editor->WriteFile(path); },
                  [editor] { return editor->State(); },
                  [editor](const auto&... file) { return editor->IsInFile(file...); }},
-                parent) {
+                parent),
+      m_Editor(*editor) {
     setObjectName("Page_ColourRules");
+}
+
+void cColourRulesPage::SeenAgain() {
+    cFilePage::SeenAgain();
+    m_Editor.RefreshAlarms();
 }
 
 }  // namespace vigrel

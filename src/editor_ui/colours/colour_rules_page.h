@@ -16,8 +16,13 @@ class cColourRulesPage : public cFilePage {
     // The station has one list.
     bool HasSaveAs() const override { return false; }
 
+  protected:
+    void SeenAgain() override;
+
   private:
     cColourRulesPage(cEditorServices& services, cColourRulesEditor* editor, QWidget* parent);
+
+    cColourRulesEditor& m_Editor;
 };
 
 }  // namespace vigrel
