@@ -1378,6 +1378,14 @@ Programmets mappe: %3</translation>
         <translation>S&amp;tationens farveregler</translation>
     </message>
     <message>
+        <source>%1 can&apos;t be printed.
+
+%2</source>
+        <translation>%1 kan ikke udskrives.
+
+%2</translation>
+    </message>
+    <message>
         <source>%1 was not printed.</source>
         <translation>%1 blev ikke udskrevet.</translation>
     </message>

@@ -1378,6 +1378,14 @@ Programmordner: %3</translation>
         <translation>Fa&amp;rbregeln der Station</translation>
     </message>
     <message>
+        <source>%1 can&apos;t be printed.
+
+%2</source>
+        <translation>%1 kann nicht gedruckt werden.
+
+%2</translation>
+    </message>
+    <message>
         <source>%1 was not printed.</source>
         <translation>%1 wurde nicht gedruckt.</translation>
     </message>

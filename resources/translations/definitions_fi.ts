@@ -1378,6 +1378,14 @@ Ohjelman kansio: %3</translation>
         <translation>As&amp;eman värisäännöt</translation>
     </message>
     <message>
+        <source>%1 can&apos;t be printed.
+
+%2</source>
+        <translation>Kohdetta %1 ei voida tulostaa.
+
+%2</translation>
+    </message>
+    <message>
         <source>%1 was not printed.</source>
         <translation>Kohdetta %1 ei tulostettu.</translation>
     </message>

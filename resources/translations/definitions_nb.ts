@@ -1378,6 +1378,14 @@ Programmets mappe: %3</translation>
         <translation>S&amp;tasjonens fargeregler</translation>
     </message>
     <message>
+        <source>%1 can&apos;t be printed.
+
+%2</source>
+        <translation>%1 kan ikke skrives ut.
+
+%2</translation>
+    </message>
+    <message>
         <source>%1 was not printed.</source>
         <translation>%1 ble ikke skrevet ut.</translation>
     </message>

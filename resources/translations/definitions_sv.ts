@@ -1378,6 +1378,14 @@ Programmets mapp: %3</translation>
         <translation>Stationens &amp;färgregler</translation>
     </message>
     <message>
+        <source>%1 can&apos;t be printed.
+
+%2</source>
+        <translation>%1 kan inte skrivas ut.
+
+%2</translation>
+    </message>
+    <message>
         <source>%1 was not printed.</source>
         <translation>%1 skrevs inte ut.</translation>
     </message>

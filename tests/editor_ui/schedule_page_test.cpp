@@ -1,4 +1,5 @@
 #include <QContextMenuEvent>
+#include <QFile>
 #include <QMenu>
 #include <QScrollBar>
 #include <QWheelEvent>
@@ -399,6 +400,38 @@ TEST_F(SchedulePage, ATimeThatIsNoneIsRefusedWithAReasonAndStaysAsTyped) {
     Type("Text_Schedule_Period_Stop", "1630");
     EXPECT_EQ(problem.text(), "");
     EXPECT_EQ(Day(0), "420-990");
+}
+
+// The sheet is that of the screen: nothing of it is still on the way.
+TEST_F(SchedulePage, ATimeThatIsStillBeingTypedIsOnPaperToo) {
+    QApplication::setActiveWindow(m_Window.get());
+    Click(0, 600);
+    auto& stop = Find<QLineEdit>(m_Page, "Text_Schedule_Period_Stop");
+    const auto type = [&](const QString& time) {
+        stop.setFocus();
+        stop.selectAll();
+        QTest::keyClicks(&stop, time);
+    };
+    type("1730");
+    m_Prompts.m_Texts = {"/app/week.pdf"};
+    Choose(*m_Window, "Menu_Pdf");
+    EXPECT_EQ(Day(0), "420-1050");
+    EXPECT_TRUE(m_Files.FileExists("/app/week.pdf"));
+    type("18");
+    m_Prompts.m_PrintedFile = m_Folder.filePath("printed.pdf");
+    Choose(*m_Window, "Menu_Print");
+    EXPECT_EQ(Day(0), "420-1080");
+    EXPECT_TRUE(QFile::exists(m_Prompts.m_PrintedFile));
+    // What is no time is told instead.
+    const QString told = "failure: Schedule 1 can't be printed.\n\nStop: \"25:30\" lies behind 24:00.\n";
+    for (const char* entry : {"Menu_Pdf", "Menu_Print"}) {
+        type("25:30");
+        m_Prompts.m_Asked.clear();
+        Choose(*m_Window, entry);
+        EXPECT_EQ(m_Prompts.m_Asked, told);
+        EXPECT_TRUE(stop.hasFocus());
+        EXPECT_EQ(stop.text(), "25:30");
+    }
 }
 
 TEST_F(SchedulePage, ATimeThatIsNoneStaysWithItsPeriod) {

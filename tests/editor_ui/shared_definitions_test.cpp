@@ -4,6 +4,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QUndoStack>
 #include <functional>
 
@@ -246,6 +247,33 @@ TEST_F(SharedDefinitions, TheWindowStaysWhenSomethingIsStillToBeSaved) {
         m_Prompts.m_ConflictAnswers = {answer};
         EXPECT_FALSE(m_Window.close());
     }
+}
+
+// --- on paper
+
+TEST_F(SharedDefinitions, AWeekWithATimeThatIsNoneIsNotPrinted) {
+    m_Window.ShowProfiles();
+    m_Station.Profiles().At(0).m_TimeSchedule = std::make_unique<cTimeSchedule>();
+    m_Station.Profiles().At(0).m_TimeSchedule->SetDefaultPeriod();
+    Page().Choose(0);
+    auto* tabs = Find<QTabWidget>(Page(), "Tabs_Profile");
+    tabs->setCurrentIndex(3);
+    QApplication::setActiveWindow(&m_Window);
+    auto* view = Find<QWidget>(Page(), "Picture_TimeSchedule");
+    view->setFocus();
+    for (int i = 0; i < 7; ++i) QTest::keyClick(view, Qt::Key_Up);
+    Find<QWidget>(Page(), "Text_Schedule_Period_Stop")->setFocus();
+    Type(Page(), "Text_Schedule_Period_Stop", "25:30");
+    tabs->setCurrentIndex(0);
+    Asked();
+    Find<QAction>(m_Window, "Menu_Pdf")->trigger();
+    EXPECT_EQ(Asked(), "failure: Night can't be printed.\n\nStop: \"25:30\" lies behind 24:00.\n");
+    EXPECT_EQ(tabs->currentIndex(), 3);
+    EXPECT_TRUE(Find<QWidget>(Page(), "Text_Schedule_Period_Stop")->hasFocus());
+    // The calendar has no part in it.
+    tabs->setCurrentIndex(4);
+    Find<QAction>(m_Window, "Menu_Pdf")->trigger();
+    EXPECT_NE(Asked().find("save as "), std::string::npos);
 }
 
 // --- files that can't be read

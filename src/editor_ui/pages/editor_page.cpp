@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QEvent>
 #include <QLineEdit>
+#include <QTabWidget>
 
 namespace vigrel {
 namespace {
@@ -35,6 +36,14 @@ void cEditorPage::FinishTyping() {
     if (field == nullptr) return;
     if (QAbstractItemView* view = ViewOfCell(*field)) return CloseCell(*view, *field);
     emit field->editingFinished();
+}
+
+void cEditorPage::BringIntoSight(QWidget& inner) {
+    for (QWidget* each = &inner; each != this && each->parentWidget() != nullptr;
+         each = each->parentWidget()) {
+        auto* tabs = qobject_cast<QTabWidget*>(each->parentWidget()->parentWidget());
+        if (tabs != nullptr && tabs->indexOf(each) >= 0) tabs->setCurrentWidget(each);
+    }
 }
 
 void cEditorPage::showEvent(QShowEvent* event) {

@@ -12,6 +12,8 @@ class QUndoStack;
 
 namespace vigrel {
 
+class cContentEditor;
+
 // One tab of the editor's window.
 class cEditorPage : public QWidget {
     Q_OBJECT
@@ -26,6 +28,8 @@ class cEditorPage : public QWidget {
     // Takes over what stands in a field, or in an open cell of a table, that still has the keyboard: neither
     // a key of the menu nor the menu itself leaves it.
     void FinishTyping();
+    // Turns the tabs around something on the page to it.
+    void BringIntoSight(QWidget& inner);
     // False when nothing was saved; the operator has been told why, or has cancelled.
     virtual bool Save() = 0;
     // The page closes: what others may see of its changes goes back to what is saved.
@@ -33,9 +37,10 @@ class cEditorPage : public QWidget {
     // Whether the content can be saved under another name, by SaveAs.
     virtual bool HasSaveAs() const { return false; }
     virtual bool SaveAs() { return Save(); }
-    // What the page shows, for paper; none for one that prints nothing.
+    // What the page shows, for paper, and the editor of it; none for one that prints nothing.
     virtual bool CanPrint() const { return false; }
     virtual std::optional<cPrintout> Printout() { return std::nullopt; }
+    virtual cContentEditor* PrintedEditor() { return nullptr; }
     // None for a page that can't undo.
     virtual QUndoStack* UndoStack();
     // The page's entries of the menu Edit; null stands for a separator.

@@ -27,6 +27,7 @@ class cFilePage : public cEditorPage {
     QList<QAction*> EditActions() const override { return m_Editor.EditActions(); }
     bool CanPrint() const override { return m_Editor.CanPrint(); }
     std::optional<cPrintout> Printout() override;
+    cContentEditor* PrintedEditor() override { return &m_Editor; }
     void SetZoom(double zoom) override { m_Editor.SetZoom(zoom); }
     void RefreshDayTypes() override { m_Editor.RefreshDayTypes(); }
 

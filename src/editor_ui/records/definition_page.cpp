@@ -5,7 +5,6 @@
 #include <QPushButton>
 #include <QSplitter>
 #include <QStackedWidget>
-#include <QTabWidget>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -147,12 +146,7 @@ void cDefinitionPage::ShowField(const QString& field) {
     if (field.isEmpty()) return;
     auto* widget = m_Form.widget->findChild<QWidget*>(m_Form.reveal ? m_Form.reveal(field) : field);
     if (widget == nullptr) return;
-    for (QWidget* inner = widget; inner != m_Form.widget; inner = inner->parentWidget()) {
-        auto* tabs = inner->parentWidget() == nullptr
-                         ? nullptr
-                         : qobject_cast<QTabWidget*>(inner->parentWidget()->parentWidget());
-        if (tabs != nullptr && tabs->indexOf(inner) >= 0) tabs->setCurrentWidget(inner);
-    }
+    BringIntoSight(*widget);
     widget->setFocus();
     if (auto* line = qobject_cast<QLineEdit*>(widget)) line->selectAll();
 }

@@ -291,9 +291,9 @@ QList<cContentEditor*> cProfileForm::Editors() const {
     return {m_Schedule, &m_Calendar->Editor()};
 }
 
-std::optional<cPrintout> cProfileForm::Printout() {
-    if (m_Tabs->currentWidget()->isAncestorOf(m_Calendar)) return m_Calendar->Editor().Printout();
-    return m_Schedule->Printout();
+cContentEditor& cProfileForm::PrintedEditor() {
+    if (m_Tabs->currentWidget()->isAncestorOf(m_Calendar)) return m_Calendar->Editor();
+    return *m_Schedule;
 }
 
 void cProfileForm::SetZoom(double zoom) {

@@ -2,11 +2,9 @@
 
 #include <QWidget>
 #include <functional>
-#include <optional>
 
 #include "definitions/definition_folder.h"
 #include "editor_ui/pages/editor_services.h"
-#include "editor_ui/pages/printout.h"
 #include "editor_ui/records/field_binder.h"
 
 class QLabel;
@@ -41,7 +39,7 @@ class cProfileForm : public QWidget {
     QList<cContentEditor*> Editors() const;
     cProfileCalendar& Calendar() { return *m_Calendar; }
     // The calendar while it shows, else the week of the schedule.
-    std::optional<cPrintout> Printout();
+    cContentEditor& PrintedEditor();
     void SetZoom(double zoom);
     void RefreshDayTypes();
     // The receivers of the station may be others by now.

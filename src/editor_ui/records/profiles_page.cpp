@@ -130,10 +130,14 @@ void cProfilesPage::ConnectCalendar() {
 // Under the name of the profile and of what is shown of it.
 std::optional<cPrintout> cProfilesPage::Printout() {
     if (!CanPrint()) return std::nullopt;
-    std::optional<cPrintout> printout = m_Form->Printout();
+    std::optional<cPrintout> printout = m_Form->PrintedEditor().Printout();
     const QString name = ToQString(m_Station.Profiles().At(static_cast<std::size_t>(Chosen())).GetName());
     printout->title = printout->title.isEmpty() ? name : name + " - " + printout->title;
     return printout;
+}
+
+cContentEditor* cProfilesPage::PrintedEditor() {
+    return &m_Form->PrintedEditor();
 }
 
 void cProfilesPage::SetZoom(double zoom) {

@@ -20,6 +20,7 @@ class cProfilesPage : public cDefinitionPage {
     bool Save() override;
     bool CanPrint() const override { return Chosen() >= 0; }
     std::optional<cPrintout> Printout() override;
+    cContentEditor* PrintedEditor() override;
     void SetZoom(double zoom) override;
     void RefreshDayTypes() override;
 

@@ -14,6 +14,7 @@
 #include "common/file_procedures.h"
 #include "editor_ui/calendar/own_holidays_page.h"
 #include "editor_ui/colours/colour_rules_page.h"
+#include "editor_ui/pages/content_editor.h"
 #include "editor_ui/pages/reasons.h"
 #include "editor_ui/records/profiles_page.h"
 #include "editor_ui/records/receivers_page.h"
@@ -295,8 +296,24 @@ void cDefinitionsWindow::SchedulesChanged() {
     }
 }
 
+// Of what is still being typed, too: a sheet without it would not be what was on the screen.
+std::optional<cPrintout> cDefinitionsWindow::FinishedPrintout() {
+    cEditorPage& page = *CurrentPage();
+    page.FinishTyping();
+    std::optional<cPrintout> printout = page.Printout();
+    if (!printout) return printout;
+    cContentEditor& editor = *page.PrintedEditor();
+    const QString problem = editor.Problem();
+    if (problem.isEmpty()) return printout;
+    const QString text = tr("%1 can't be printed.\n\n%2").arg(printout->title, problem);
+    m_Services.m_Prompts.ShowFailure(this, text);
+    page.BringIntoSight(editor);
+    editor.FocusProblem();
+    return std::nullopt;
+}
+
 void cDefinitionsWindow::Print() {
-    const std::optional<cPrintout> printout = CurrentPage()->Printout();
+    const std::optional<cPrintout> printout = FinishedPrintout();
     if (!printout) return;
     QPrinter printer;
     printer.setDocName(printout->title);
@@ -307,7 +324,7 @@ void cDefinitionsWindow::Print() {
 }
 
 void cDefinitionsWindow::SaveAsPdf() {
-    const std::optional<cPrintout> printout = CurrentPage()->Printout();
+    const std::optional<cPrintout> printout = FinishedPrintout();
     if (!printout) return;
     const QString folder = PathToQString(m_Services.m_Ini.ApplicationPath());
     // A profile may be called "East/West".

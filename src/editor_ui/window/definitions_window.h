@@ -4,6 +4,7 @@
 #include <QStackedWidget>
 #include <QTabWidget>
 #include <QUndoGroup>
+#include <optional>
 
 #include "editor_ui/calendar/calendar_page.h"
 #include "editor_ui/drawing/drawing_room.h"
@@ -81,6 +82,7 @@ class cDefinitionsWindow : public QMainWindow {
     void TurnPage(int step);
     void SetZoom(double zoom);
     void ShowAbout();
+    std::optional<cPrintout> FinishedPrintout();
     void Print();
     void SaveAsPdf();
 
