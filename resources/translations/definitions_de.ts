@@ -677,6 +677,14 @@
         <source>&amp;Remove here</source>
         <translation>&amp;Hier entfernen</translation>
     </message>
+    <message>
+        <source>Another program has changed the file of &quot;%1&quot; since it was read here. Keep your version, take the one in the file, or show both?</source>
+        <translation>Ein anderes Programm hat die Datei von „%1“ geändert, seit sie hier gelesen wurde. Möchten Sie Ihre Fassung behalten, die der Datei übernehmen oder beide zeigen?</translation>
+    </message>
+    <message>
+        <source>Another program has removed the file of &quot;%1&quot;. Write it again, or remove it here too?</source>
+        <translation>Ein anderes Programm hat die Datei von „%1“ entfernt. Möchten Sie sie neu schreiben oder den Eintrag auch hier entfernen?</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cActiveDayView</name>
@@ -1157,14 +1165,6 @@
 %2</translation>
     </message>
     <message>
-        <source>Another program has changed the file of &quot;%1&quot; since it was read here. Keep your version, take the one in the file, or show both?</source>
-        <translation>Ein anderes Programm hat die Datei von „%1“ geändert, seit sie hier gelesen wurde. Möchten Sie Ihre Fassung behalten, die der Datei übernehmen oder beide zeigen?</translation>
-    </message>
-    <message>
-        <source>Another program has removed the file of &quot;%1&quot;. Write it again, or remove it here too?</source>
-        <translation>Ein anderes Programm hat die Datei von „%1“ entfernt. Möchten Sie sie neu schreiben oder den Eintrag auch hier entfernen?</translation>
-    </message>
-    <message>
         <source>removing &quot;%1&quot;</source>
         <translation>Entfernen von „%1“</translation>
     </message>
@@ -1439,14 +1439,6 @@ Programmordner: %3</translation>
     <message>
         <source>Saved %1</source>
         <translation>%1 wurde gespeichert</translation>
-    </message>
-    <message>
-        <source>Another program has changed the file of &quot;%1&quot; since it was read here. Keep your version, take the one in the file, or show both?</source>
-        <translation>Ein anderes Programm hat die Datei von „%1“ geändert, seit sie hier gelesen wurde. Möchten Sie Ihre Fassung behalten, die der Datei übernehmen oder beide zeigen?</translation>
-    </message>
-    <message>
-        <source>Another program has removed the file of &quot;%1&quot;. Write it again, or remove it here too?</source>
-        <translation>Ein anderes Programm hat die Datei von „%1“ entfernt. Möchten Sie sie neu schreiben oder den Eintrag auch hier entfernen?</translation>
     </message>
     <message>
         <source>taking over &quot;%1&quot;</source>

@@ -677,6 +677,14 @@
         <source>&amp;Remove here</source>
         <translation>&amp;Poista täältä</translation>
     </message>
+    <message>
+        <source>Another program has changed the file of &quot;%1&quot; since it was read here. Keep your version, take the one in the file, or show both?</source>
+        <translation>Toinen ohjelma on muuttanut kohteen &quot;%1&quot; tiedostoa sen jälkeen, kun se luettiin tässä. Pidetäänkö oma versio, otetaanko tiedoston versio vai näytetäänkö molemmat?</translation>
+    </message>
+    <message>
+        <source>Another program has removed the file of &quot;%1&quot;. Write it again, or remove it here too?</source>
+        <translation>Toinen ohjelma on poistanut kohteen &quot;%1&quot; tiedoston. Kirjoitetaanko se uudelleen vai poistetaanko kohde tästäkin?</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cActiveDayView</name>
@@ -1157,14 +1165,6 @@
 %2</translation>
     </message>
     <message>
-        <source>Another program has changed the file of &quot;%1&quot; since it was read here. Keep your version, take the one in the file, or show both?</source>
-        <translation>Toinen ohjelma on muuttanut kohteen &quot;%1&quot; tiedostoa sen jälkeen, kun se luettiin tässä. Pidetäänkö oma versio, otetaanko tiedoston versio vai näytetäänkö molemmat?</translation>
-    </message>
-    <message>
-        <source>Another program has removed the file of &quot;%1&quot;. Write it again, or remove it here too?</source>
-        <translation>Toinen ohjelma on poistanut kohteen &quot;%1&quot; tiedoston. Kirjoitetaanko se uudelleen vai poistetaanko kohde tästäkin?</translation>
-    </message>
-    <message>
         <source>removing &quot;%1&quot;</source>
         <translation>poisto: &quot;%1&quot;</translation>
     </message>
@@ -1439,14 +1439,6 @@ Ohjelman kansio: %3</translation>
     <message>
         <source>Saved %1</source>
         <translation>%1 tallennettiin</translation>
-    </message>
-    <message>
-        <source>Another program has changed the file of &quot;%1&quot; since it was read here. Keep your version, take the one in the file, or show both?</source>
-        <translation>Toinen ohjelma on muuttanut kohteen &quot;%1&quot; tiedostoa sen jälkeen, kun se luettiin tässä. Pidetäänkö oma versio, otetaanko tiedoston versio vai näytetäänkö molemmat?</translation>
-    </message>
-    <message>
-        <source>Another program has removed the file of &quot;%1&quot;. Write it again, or remove it here too?</source>
-        <translation>Toinen ohjelma on poistanut kohteen &quot;%1&quot; tiedoston. Kirjoitetaanko se uudelleen vai poistetaanko kohde tästäkin?</translation>
     </message>
     <message>
         <source>taking over &quot;%1&quot;</source>

@@ -677,6 +677,14 @@
         <source>&amp;Remove here</source>
         <translation>&amp;Fjern her</translation>
     </message>
+    <message>
+        <source>Another program has changed the file of &quot;%1&quot; since it was read here. Keep your version, take the one in the file, or show both?</source>
+        <translation>Et annet program har endret filen til &quot;%1&quot; siden den ble lest her. Vil du beholde din versjon, ta den i filen eller vise begge?</translation>
+    </message>
+    <message>
+        <source>Another program has removed the file of &quot;%1&quot;. Write it again, or remove it here too?</source>
+        <translation>Et annet program har fjernet filen til &quot;%1&quot;. Vil du skrive den på nytt eller fjerne den her også?</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cActiveDayView</name>
@@ -1157,14 +1165,6 @@
 %2</translation>
     </message>
     <message>
-        <source>Another program has changed the file of &quot;%1&quot; since it was read here. Keep your version, take the one in the file, or show both?</source>
-        <translation>Et annet program har endret filen til &quot;%1&quot; siden den ble lest her. Vil du beholde din versjon, ta den i filen eller vise begge?</translation>
-    </message>
-    <message>
-        <source>Another program has removed the file of &quot;%1&quot;. Write it again, or remove it here too?</source>
-        <translation>Et annet program har fjernet filen til &quot;%1&quot;. Vil du skrive den på nytt eller fjerne den her også?</translation>
-    </message>
-    <message>
         <source>removing &quot;%1&quot;</source>
         <translation>fjerning av &quot;%1&quot;</translation>
     </message>
@@ -1439,14 +1439,6 @@ Programmets mappe: %3</translation>
     <message>
         <source>Saved %1</source>
         <translation>%1 er lagret</translation>
-    </message>
-    <message>
-        <source>Another program has changed the file of &quot;%1&quot; since it was read here. Keep your version, take the one in the file, or show both?</source>
-        <translation>Et annet program har endret filen til &quot;%1&quot; siden den ble lest her. Vil du beholde din versjon, ta den i filen eller vise begge?</translation>
-    </message>
-    <message>
-        <source>Another program has removed the file of &quot;%1&quot;. Write it again, or remove it here too?</source>
-        <translation>Et annet program har fjernet filen til &quot;%1&quot;. Vil du skrive den på nytt eller fjerne den her også?</translation>
     </message>
     <message>
         <source>taking over &quot;%1&quot;</source>

@@ -677,6 +677,14 @@
         <source>&amp;Remove here</source>
         <translation>&amp;Ta bort här</translation>
     </message>
+    <message>
+        <source>Another program has changed the file of &quot;%1&quot; since it was read here. Keep your version, take the one in the file, or show both?</source>
+        <translation>Ett annat program har ändrat filen till &quot;%1&quot; sedan den lästes här. Vill du behålla din version, ta den som finns i filen eller visa båda?</translation>
+    </message>
+    <message>
+        <source>Another program has removed the file of &quot;%1&quot;. Write it again, or remove it here too?</source>
+        <translation>Ett annat program har tagit bort filen till &quot;%1&quot;. Vill du skriva den igen eller ta bort den här också?</translation>
+    </message>
 </context>
 <context>
     <name>vigrel::cActiveDayView</name>
@@ -1157,14 +1165,6 @@
 %2</translation>
     </message>
     <message>
-        <source>Another program has changed the file of &quot;%1&quot; since it was read here. Keep your version, take the one in the file, or show both?</source>
-        <translation>Ett annat program har ändrat filen till &quot;%1&quot; sedan den lästes här. Vill du behålla din version, ta den som finns i filen eller visa båda?</translation>
-    </message>
-    <message>
-        <source>Another program has removed the file of &quot;%1&quot;. Write it again, or remove it here too?</source>
-        <translation>Ett annat program har tagit bort filen till &quot;%1&quot;. Vill du skriva den igen eller ta bort den här också?</translation>
-    </message>
-    <message>
         <source>removing &quot;%1&quot;</source>
         <translation>borttagning av &quot;%1&quot;</translation>
     </message>
@@ -1439,14 +1439,6 @@ Programmets mapp: %3</translation>
     <message>
         <source>Saved %1</source>
         <translation>%1 har sparats</translation>
-    </message>
-    <message>
-        <source>Another program has changed the file of &quot;%1&quot; since it was read here. Keep your version, take the one in the file, or show both?</source>
-        <translation>Ett annat program har ändrat filen till &quot;%1&quot; sedan den lästes här. Vill du behålla din version, ta den som finns i filen eller visa båda?</translation>
-    </message>
-    <message>
-        <source>Another program has removed the file of &quot;%1&quot;. Write it again, or remove it here too?</source>
-        <translation>Ett annat program har tagit bort filen till &quot;%1&quot;. Vill du skriva den igen eller ta bort den här också?</translation>
     </message>
     <message>
         <source>taking over &quot;%1&quot;</source>

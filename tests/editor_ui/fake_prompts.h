@@ -17,9 +17,9 @@ class cFakePrompts : public cPrompts {
         m_Asked += "save " + title + "\n";
         return Take(m_SaveAnswers, eSave::Cancel);
     }
-    eConflict AskConflict(QWidget*, const QString& text, bool isGone) override {
+    eConflict AskConflict(QWidget*, const QString& name, bool isGone) override {
         if (m_WhileAsked) m_WhileAsked();
-        m_Asked += (isGone ? "mine, theirs: " : "mine, theirs, both: ") + text + "\n";
+        m_Asked += (isGone ? "mine, theirs: " : "mine, theirs, both: ") + name + "\n";
         return Take(m_ConflictAnswers, eConflict::Cancel);
     }
     bool AskYesNo(QWidget*, const QString& question) override {

@@ -15,8 +15,10 @@ namespace {
 
 using eConflict = cPrompts::eConflict;
 
-// The captions of the box that asks whose version of a file counts, and what a key is as an answer to it.
+// The text and the captions of the box that asks whose version of a file counts, and what a key is as an
+// answer to it.
 struct cAsked {
+    QString text;
     QStringList captions;
     eConflict answer = eConflict::Mine;
 };
@@ -26,6 +28,7 @@ cAsked AskConflict(bool isGone, Qt::Key key) {
     press.callOnTimeout([&] {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         if (box == nullptr) return;
+        asked.text = box->text();
         for (const QAbstractButton* button : box->buttons()) asked.captions += button->text().remove('&');
         asked.captions.sort();
         press.stop();
@@ -34,7 +37,7 @@ cAsked AskConflict(bool isGone, Qt::Key key) {
         if (box->isVisible()) box->done(0);
     });
     press.start(1);
-    asked.answer = cDialogPrompts().AskConflict(nullptr, "?", isGone);
+    asked.answer = cDialogPrompts().AskConflict(nullptr, "East", isGone);
     return asked;
 }
 
@@ -43,6 +46,15 @@ TEST(ConflictQuestion, HasTheAnswersThatItNames) {
               (QStringList{"Cancel", "Keep mine", "Show both", "Take theirs"}));
     EXPECT_EQ(AskConflict(true, Qt::Key_Escape).captions,
               (QStringList{"Cancel", "Remove here", "Write again"}));
+}
+
+TEST(ConflictQuestion, NamesWhatHasTheFile) {
+    EXPECT_EQ(
+        AskConflict(false, Qt::Key_Escape).text,
+        "Another program has changed the file of \"East\" since it was read here. Keep your version, take "
+        "the one in the file, or show both?");
+    EXPECT_EQ(AskConflict(true, Qt::Key_Escape).text,
+              "Another program has removed the file of \"East\". Write it again, or remove it here too?");
 }
 
 TEST(ConflictQuestion, IsNotAnsweredByEnter) {

@@ -481,8 +481,7 @@ TEST_F(ReceiversPage, GivenUpChangesComeBackByUndo) {
 
 TEST_F(ReceiversPage, AFileThatWasChangedMeanwhileIsNotReplacedUnasked) {
     const std::string question =
-        "mine, theirs, both: Another program has changed the file of \"East\" since it was read here. Keep "
-        "your version, take the one in the file, or show both?\n";
+        "mine, theirs, both: East\n";
     std::string theirs = testing::Sample("receiver_version_5.dat");
     theirs[10] = 'A';
     using eConflict = cPrompts::eConflict;
@@ -506,8 +505,7 @@ TEST_F(ReceiversPage, AFileThatIsGoneIsNotBroughtBackUnasked) {
     m_Files.RemoveFile(Path("Receivers\\Receiver_0007.dat"));
     EXPECT_FALSE(Page().Save());
     EXPECT_EQ(Asked(),
-              "mine, theirs: Another program has removed the file of \"East\". Write it again, or remove it "
-              "here too?\n");
+              "mine, theirs: East\n");
     EXPECT_FALSE(m_Files.FileExists(Path("Receivers\\Receiver_0007.dat")));
     m_Prompts.m_ConflictAnswers = {cPrompts::eConflict::Mine};
     EXPECT_TRUE(Page().Save());

@@ -70,10 +70,7 @@ class SharedDefinitions : public PageTest {
     }
     void Undo() { Page().UndoStack()->undo(); }
     std::string UndoText() { return Page().UndoStack()->undoText().toStdString(); }
-    static std::string Changed(const std::string& name) {
-        return "mine, theirs, both: Another program has changed the file of \"" + name +
-               "\" since it was read here. Keep your version, take the one in the file, or show both?\n";
-    }
+    static std::string Changed(const std::string& name) { return "mine, theirs, both: " + name + "\n"; }
 
     cDefinitionsWindow m_Window{m_Services};
 };
@@ -351,9 +348,7 @@ TEST_F(SharedDefinitions, WhatOthersRemovedLeavesTheListAsAStep) {
     EXPECT_EQ(Rows(Page()),
               "North | (Unknown type: 0009) | 0042\n\xC3\x96st * | (Unknown type: 0009) | 0007\n");
     EXPECT_FALSE(Page().Save());
-    EXPECT_EQ(Asked(),
-              "mine, theirs: Another program has removed the file of \"\xC3\x96st\". Write it again, or "
-              "remove it here too?\n");
+    EXPECT_EQ(Asked(), "mine, theirs: \xC3\x96st\n");
     Undo();
     EXPECT_EQ(Receiver(1).m_ReceiverName, "\xD6st");
     for (int i = 0; i < 2; ++i) Page().UndoStack()->redo();

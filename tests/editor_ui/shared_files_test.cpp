@@ -15,11 +15,8 @@ namespace {
 
 using eConflict = cPrompts::eConflict;
 
-constexpr const char* kChanged =
-    "mine, theirs, both: Another program has changed the file of \"%1\" since it was read here. Keep your "
-    "version, take the one in the file, or show both?\n";
-constexpr const char* kRemoved =
-    "mine, theirs: Another program has removed the file of \"%1\". Write it again, or remove it here too?\n";
+constexpr const char* kChanged = "mine, theirs, both: %1\n";
+constexpr const char* kRemoved = "mine, theirs: %1\n";
 
 // The bytes of a calendar that gives one day a type.
 std::string CalendarOf(std::int32_t day, std::int16_t value) {

@@ -132,17 +132,8 @@ TEST_P(TextRoom, IsThereForEveryTextOfTheBoxes) {
         look.start(10);
         cDialogPrompts prompts;
         const QString name = "North wing, technical alarms";
-        prompts.AskConflict(&pages.Window(),
-                            cDefinitionPage::tr("Another program has changed the file of \"%1\" since it was "
-                                                "read here. Keep your version, take the one in the file, or "
-                                                "show both?")
-                                .arg(name),
-                            false);
-        prompts.AskConflict(&pages.Window(),
-                            cDefinitionPage::tr("Another program has removed the file of \"%1\". Write it "
-                                                "again, or remove it here too?")
-                                .arg(name),
-                            true);
+        prompts.AskConflict(&pages.Window(), name, false);
+        prompts.AskConflict(&pages.Window(), name, true);
         prompts.AskToSave(&pages.Window(), "North wing, technical alarms.sch");
         cEditorBench::Find<QAction>(pages.Window(), "Menu_About").trigger();
         EXPECT_EQ(boxes, 4) << language;

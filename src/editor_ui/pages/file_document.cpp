@@ -109,10 +109,7 @@ bool cFileDocument::MayReplace() {
 
 bool cFileDocument::MayReplaceChanged() {
     using eAnswer = cPrompts::eConflict;
-    const QString text = tr("Another program has changed the file of \"%1\" since it was read here. Keep "
-                            "your version, take the one in the file, or show both?")
-                             .arg(Title());
-    const eAnswer answer = m_Services.m_Prompts.AskConflict(m_Owner, text, false);
+    const eAnswer answer = m_Services.m_Prompts.AskConflict(m_Owner, Title(), false);
     if (answer == eAnswer::Theirs) TakeTheirs();
     if (answer == eAnswer::Both) emit BothWanted(Path());
     return answer == eAnswer::Mine;
@@ -120,10 +117,7 @@ bool cFileDocument::MayReplaceChanged() {
 
 bool cFileDocument::MayWriteAgain() {
     using eAnswer = cPrompts::eConflict;
-    const QString text =
-        tr("Another program has removed the file of \"%1\". Write it again, or remove it here too?")
-            .arg(Title());
-    const eAnswer answer = m_Services.m_Prompts.AskConflict(m_Owner, text, true);
+    const eAnswer answer = m_Services.m_Prompts.AskConflict(m_Owner, Title(), true);
     if (answer == eAnswer::Theirs) {
         m_Form.newName = Title();
         m_Behind.path.clear();

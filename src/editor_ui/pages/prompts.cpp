@@ -33,8 +33,13 @@ cPrompts::eSave cDialogPrompts::AskToSave(QWidget* owner, const QString& title) 
     }
 }
 
-cPrompts::eConflict cDialogPrompts::AskConflict(QWidget* owner, const QString& text, bool isGone) {
-    cPlainMessageBox box(QMessageBox::Warning, QGuiApplication::applicationDisplayName(), text,
+cPrompts::eConflict cDialogPrompts::AskConflict(QWidget* owner, const QString& name, bool isGone) {
+    const QString text =
+        isGone
+            ? tr("Another program has removed the file of \"%1\". Write it again, or remove it here too?")
+            : tr("Another program has changed the file of \"%1\" since it was read here. Keep your version, "
+                 "take the one in the file, or show both?");
+    cPlainMessageBox box(QMessageBox::Warning, QGuiApplication::applicationDisplayName(), text.arg(name),
                          QMessageBox::Cancel, owner);
     box.setObjectName("MessageBox_Definitions");
     // Who presses Enter without reading overwrites nobody's work.

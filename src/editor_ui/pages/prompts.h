@@ -15,9 +15,9 @@ class cPrompts {
     enum class eSave { Save, Discard, Cancel };
     virtual eSave AskToSave(QWidget* owner, const QString& title) = 0;
     enum class eConflict { Mine, Theirs, Both, Cancel };
-    // Whose version of a file counts that others changed meanwhile, or whether both are to be shown; when it
-    // is gone: whether it is written again (mine) or removed here as well (theirs).
-    virtual eConflict AskConflict(QWidget* owner, const QString& text, bool isGone) = 0;
+    // Whose version counts of the file of what has that name, which others changed meanwhile, or whether both
+    // are to be shown; when it is gone: whether it is written again (mine) or removed here as well (theirs).
+    virtual eConflict AskConflict(QWidget* owner, const QString& name, bool isGone) = 0;
     virtual bool AskYesNo(QWidget* owner, const QString& question) = 0;
     virtual void ShowFailure(QWidget* owner, const QString& text) = 0;
     // Empty texts: the operator has cancelled.
@@ -34,7 +34,7 @@ class cDialogPrompts : public cPrompts {
     Q_DECLARE_TR_FUNCTIONS(cDialogPrompts)
   public:
     eSave AskToSave(QWidget* owner, const QString& title) override;
-    eConflict AskConflict(QWidget* owner, const QString& text, bool isGone) override;
+    eConflict AskConflict(QWidget* owner, const QString& name, bool isGone) override;
     bool AskYesNo(QWidget* owner, const QString& question) override;
     void ShowFailure(QWidget* owner, const QString& text) override;
     QString AskOpenPath(QWidget* owner, const QString& folder, const QString& filter) override;

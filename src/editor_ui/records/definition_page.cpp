@@ -259,10 +259,7 @@ bool cDefinitionPage::MaySave(int position) {
 // Another program, or another window, may have written or removed the file meanwhile.
 bool cDefinitionPage::MayReplaceChanged(int position) {
     using eAnswer = cPrompts::eConflict;
-    const QString text = tr("Another program has changed the file of \"%1\" since it was read here. Keep "
-                            "your version, take the one in the file, or show both?")
-                             .arg(NameAt(position));
-    switch (m_Services.m_Prompts.AskConflict(this, text, false)) {
+    switch (m_Services.m_Prompts.AskConflict(this, NameAt(position), false)) {
         case eAnswer::Mine:
             return true;
         case eAnswer::Theirs:
@@ -279,10 +276,7 @@ bool cDefinitionPage::MayReplaceChanged(int position) {
 bool cDefinitionPage::MayWriteAgain(int position) {
     using eAnswer = cPrompts::eConflict;
     const QString name = NameAt(position);
-    const QString text =
-        tr("Another program has removed the file of \"%1\". Write it again, or remove it here too?")
-            .arg(name);
-    const eAnswer answer = m_Services.m_Prompts.AskConflict(this, text, true);
+    const eAnswer answer = m_Services.m_Prompts.AskConflict(this, name, true);
     if (answer != eAnswer::Theirs) return answer == eAnswer::Mine;
     if (RecordPtr record = TakeOut(position)) {
         m_UndoStack.push(
