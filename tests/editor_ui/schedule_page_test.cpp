@@ -402,6 +402,20 @@ TEST_F(SchedulePage, ATimeThatIsNoneIsRefusedWithAReasonAndStaysAsTyped) {
     EXPECT_EQ(Day(0), "420-990");
 }
 
+// The field loses the keyboard as the page goes, and must not make a step of its time any more.
+TEST_F(SchedulePage, APageCanGoWhileATimeIsBeingTyped) {
+    QApplication::setActiveWindow(m_Window.get());
+    Click(0, 600);
+    auto& stop = Find<QLineEdit>(m_Page, "Text_Schedule_Period_Stop");
+    stop.setFocus();
+    stop.selectAll();
+    QTest::keyClicks(&stop, "1730");
+    int steps = 0;
+    QObject::connect(m_Page.UndoStack(), &QUndoStack::indexChanged, [&steps] { ++steps; });
+    m_Window.reset();
+    EXPECT_EQ(steps, 0);
+}
+
 // The sheet is that of the screen: nothing of it is still on the way.
 TEST_F(SchedulePage, ATimeThatIsStillBeingTypedIsOnPaperToo) {
     QApplication::setActiveWindow(m_Window.get());
