@@ -18,13 +18,13 @@ class cFakePrompts : public cPrompts {
         return Take(m_SaveAnswers, eSave::Cancel);
     }
     eConflict AskConflict(QWidget*, const QString& name, bool isGone) override {
-        if (m_WhileAsked) m_WhileAsked();
         m_Asked += (isGone ? "mine, theirs: " : "mine, theirs, both: ") + name + "\n";
+        if (m_WhileAsked) m_WhileAsked();
         return Take(m_ConflictAnswers, eConflict::Cancel);
     }
     bool AskYesNo(QWidget*, const QString& question) override {
-        if (m_WhileAsked) m_WhileAsked();
         m_Asked += "yes or no: " + question + "\n";
+        if (m_WhileAsked) m_WhileAsked();
         return Take(m_YesNoAnswers, false);
     }
     void ShowFailure(QWidget* owner, const QString& text) override {

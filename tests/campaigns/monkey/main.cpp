@@ -20,8 +20,8 @@ constexpr const char* kHelp =
     "does\n"
     "it again and undoes it again: the content has to be the first one, byte for byte. PAGE is schedule,\n"
     "calendar, colours, holidays, receivers or profiles. A failure tells its seed: --sessions 1 --seed S "
-    "repeats it. With --others 1 another program changes, damages, removes and adds receivers or profiles\n"
-    "meanwhile: nothing that it saved may be lost without a question.\n";
+    "repeats it. With --others 1 another program changes, damages, removes and adds files of the page\n"
+    "meanwhile: nothing that it saved may be lost without a question about that file.\n";
 
 std::string TextOption(int argc, char** argv, const std::string& name, const std::string& otherwise) {
     for (int i = 1; i + 1 < argc; i += 2) {

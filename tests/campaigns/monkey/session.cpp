@@ -37,12 +37,12 @@ void SaveAll(Folder& folder) {
 }  // namespace
 
 cSession::cSession(const std::string& page, std::uint32_t seed, cFigures& figures)
-    : m_Random(seed), m_Figures(figures) {
+    : m_Random(seed), m_Figures(figures), m_PageName(page) {
     PutFiles();
     m_Bench.m_Window->resize(1100, 700);
     // Half of them with drawings of the window's size.
     if (seed % 2 == 0) m_Bench.Choose(*m_Bench.m_Window, "Menu_Zoom_Fit");
-    OpenPage(page);
+    OpenPage();
     m_Bench.m_Window->activateWindow();
     m_Closer.callOnTimeout([this] { CloseBoxes(); });
     m_Closer.start(0);
@@ -67,7 +67,8 @@ void cSession::PutFiles() {
               "Setting1Type=Currency\r\nSetting2=C\r\nSetting3=D\r\nSetting3Type=YesNo\r\n");
 }
 
-void cSession::OpenPage(const std::string& page) {
+void cSession::OpenPage() {
+    const std::string& page = m_PageName;
     cDefinitionsWindow& window = *m_Bench.m_Window;
     if (page == "schedule") {
         window.OpenFile("/app/a.sch");
@@ -242,21 +243,32 @@ void cSession::Run(int actions) {
     ++m_Figures.sessions;
 }
 
-// The questions since the last call, each of them answered.
-int cSession::TakeQuestions() {
+// Every one of yes or no is answered with yes.
+void cSession::NoteQuestion(cOthers& others) {
+    ++m_Figures.questions;
     const QString asked = std::exchange(m_Bench.m_Prompts.m_Asked, {});
-    const auto questions = asked.count("mine, theirs") + asked.count("yes or no: ");
-    m_Figures.questions += static_cast<int>(questions);
-    return static_cast<int>(questions);
+    const auto conflict = asked.lastIndexOf("mine, theirs"), yesOrNo = asked.lastIndexOf("yes or no: ");
+    if (yesOrNo > conflict || m_Bench.m_Prompts.m_ConflictAnswers.front() == cPrompts::eConflict::Mine)
+        others.NoteConsent(asked.mid(std::max(conflict, yesOrNo)).trimmed());
+}
+
+void cSession::ComeToPage(cOthers& others) {
+    cDefinitionsWindow& window = *m_Bench.m_Window;
+    m_Bench.m_Prompts.m_SaveAnswers.assign(20, cPrompts::eSave::Discard);
+    if (!m_Page || !window.Pages().contains(m_Page)) {
+        others.Mend();
+        OpenPage();
+    }
+    while (window.CurrentPage() != m_Page) m_Bench.Choose(window, "Menu_Close");
 }
 
 void cSession::RunWithOthers(int actions) {
     using eConflict = cPrompts::eConflict;
     static const std::vector<eConflict> answers{eConflict::Mine, eConflict::Theirs, eConflict::Both,
                                                 eConflict::Cancel};
-    cOthers others(m_Bench, m_Page->objectName() == "Page_Profiles",
-                   [this](int limit) { return Below(limit); });
-    m_LeftAlone = others.Field();
+    cOthers others(m_Bench, m_PageName, [this](int limit) { return Below(limit); });
+    m_LeftAlone = SignFieldOf(m_PageName);
+    m_Bench.m_Prompts.m_WhileAsked = [&] { NoteQuestion(others); };
     for (int i = 0; i < actions; ++i) {
         if (Below(3) == 0) {
             others.Work();
@@ -270,8 +282,11 @@ void cSession::RunWithOthers(int actions) {
         Act();
         if (Below(5) == 0) m_Bench.Choose(*m_Bench.m_Window, "Menu_Save");
         Settle();
-        others.Judge(TakeQuestions());
+        others.Judge();
+        ComeToPage(others);
+        m_Bench.m_Prompts.m_Asked.clear();
     }
+    m_Bench.m_Prompts.m_WhileAsked = nullptr;
     m_Figures.steps += m_Page->UndoStack()->count();
     ++m_Figures.sessions;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QTimer>
 #include <cstdint>
 #include <random>
@@ -9,6 +10,8 @@
 #include "editor_ui/editor_bench.h"
 
 namespace vigrel::campaign {
+
+class cOthers;
 
 struct cFigures {
     int sessions = 0, presses = 0, keys = 0, entries = 0, boxes = 0, steps = 0;
@@ -27,20 +30,22 @@ class cSession {
     // Does as much, undoes all of it, does it again and undoes it again. Throws when the page's content is
     // not the first one, byte for byte, after either.
     void Run(int actions);
-    // Does as much while another program works on the same files, and the page is left and seen again. Only
-    // for "receivers" and "profiles". Throws when what the other one saved is lost without a question.
+    // Does as much while another program works on the same files, and the page is left and seen again. Throws
+    // when what the other one saved is lost without a question about that file.
     void RunWithOthers(int actions);
 
   private:
     void PutFiles();
-    void OpenPage(const std::string& page);
+    void OpenPage();
     void Act();
     void Press();
     void TypeKey();
     void ChooseEntry();
     void CloseBoxes();
     void Settle();
-    int TakeQuestions();
+    void NoteQuestion(cOthers& others);
+    // One that was let go with its file opens anew, and what is shown beside it closes.
+    void ComeToPage(cOthers& others);
     void UndoAll();
     void RedoAll();
     void Expect(const std::string& content, const std::string& when);
@@ -55,7 +60,8 @@ class cSession {
     std::mt19937 m_Random;
     cFigures& m_Figures;
     testing::cEditorBench m_Bench;
-    cEditorPage* m_Page = nullptr;
+    std::string m_PageName;
+    QPointer<cEditorPage> m_Page;
     QString m_LeftAlone;  // object name of a field that gets no keys
     QTimer m_Closer;      // of boxes and menus that wait for an answer
 };
