@@ -479,9 +479,37 @@ TEST_F(ReceiversPage, GivenUpChangesComeBackByUndo) {
 
 // --- files under other hands
 
+TEST_F(ReceiversPage, TheKeyboardStaysInItsFieldWhenChangesAreGivenUpAndComeBack) {
+    QApplication::setActiveWindow(&Page());
+    auto* name = Find<QLineEdit>(Page(), "Text_ReceiverName");
+    auto* numbers = Find<QLineEdit>(Page(), "Text_ParallellNumbers");
+    name->setFocus();
+    Type(Page(), "Text_ReceiverName", "East");
+    numbers->setFocus();
+    Press(Page(), "Button_Revert");
+    EXPECT_EQ(QApplication::focusWidget(), numbers);
+    EXPECT_NE(name->text(), "East");
+    for (int round = 0; round < 2; ++round) {
+        Page().UndoStack()->undo();
+        EXPECT_EQ(name->text(), "East");
+        EXPECT_EQ(QApplication::focusWidget(), numbers);
+        Page().UndoStack()->redo();
+        EXPECT_EQ(QApplication::focusWidget(), numbers);
+    }
+}
+
+TEST_F(ReceiversPage, TheListHasTheKeyboardWhenTheDefinitionUnderItWasDeleted) {
+    PutSample("Receivers\\Receiver_0042.dat", "receiver_version_5.dat");
+    QApplication::setActiveWindow(&Page());
+    Find<QLineEdit>(Page(), "Text_ReceiverName")->setFocus();
+    m_Prompts.m_YesNoAnswers = {true};
+    Press(Page(), "Button_Delete");
+    EXPECT_EQ(m_Station.Receivers().Count(), 1u);
+    EXPECT_EQ(QApplication::focusWidget(), Find<QAbstractItemView>(Page(), "List_Definitions"));
+}
+
 TEST_F(ReceiversPage, AFileThatWasChangedMeanwhileIsNotReplacedUnasked) {
-    const std::string question =
-        "mine, theirs, both: East\n";
+    const std::string question = "mine, theirs, both: East\n";
     std::string theirs = testing::Sample("receiver_version_5.dat");
     theirs[10] = 'A';
     using eConflict = cPrompts::eConflict;
@@ -504,8 +532,7 @@ TEST_F(ReceiversPage, AFileThatIsGoneIsNotBroughtBackUnasked) {
     Type(Page(), "Text_ReceiverName", "East");
     m_Files.RemoveFile(Path("Receivers\\Receiver_0007.dat"));
     EXPECT_FALSE(Page().Save());
-    EXPECT_EQ(Asked(),
-              "mine, theirs: East\n");
+    EXPECT_EQ(Asked(), "mine, theirs: East\n");
     EXPECT_FALSE(m_Files.FileExists(Path("Receivers\\Receiver_0007.dat")));
     m_Prompts.m_ConflictAnswers = {cPrompts::eConflict::Mine};
     EXPECT_TRUE(Page().Save());

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -20,6 +21,22 @@ namespace {
 constexpr int kUndoSteps = 200;
 
 enum eFormPanel { FormOfOne, First, Unreadable };  // what shows beside the list
+
+// A form that shows nothing for a moment lets the keyboard go. The field that had it gets it back.
+class cKeptKeyboard {
+  public:
+    explicit cKeptKeyboard(const QWidget& page) : m_Page(page), m_Field(page.focusWidget()) {}
+    cKeptKeyboard(const cKeptKeyboard&) = delete;
+    cKeptKeyboard& operator=(const cKeptKeyboard&) = delete;
+    ~cKeptKeyboard() {
+        const bool isFree = m_Page.focusWidget() == nullptr;
+        if (isFree && m_Field && m_Field->isVisible() && m_Field->isEnabled()) m_Field->setFocus();
+    }
+
+  private:
+    const QWidget& m_Page;
+    QPointer<QWidget> m_Field;
+};
 
 // Where a definition stands after what was taken up; -1 when it has gone.
 int PositionAfter(const std::vector<cTakenUp>& taken, int position) {
@@ -237,6 +254,8 @@ RecordPtr cDefinitionPage::TakeOut(int position) {
     m_Form.show(-1);
     RecordPtr record = m_Model.TakeOut(position);
     Choose(record ? m_List->PositionNear(place) : position);
+    // What is typed next is not meant for a field of the next one.
+    if (focusWidget() == nullptr) m_List->setFocus();
     Changed();
     if (record) {
         m_TakeNotes();
@@ -370,6 +389,7 @@ void cDefinitionPage::RevertPosition(int position) {
         return;
     }
     RecordPtr before = m_Source->Copy(static_cast<std::size_t>(position));
+    const cKeptKeyboard keyboard(*this);
     m_Form.show(-1);
     const bool reverted = m_Model.Revert(position);
     Choose(position);
@@ -439,6 +459,7 @@ void cDefinitionPage::TellTakenUp(const std::vector<cTakenUp>& taken) {
 // --- steps
 
 void cDefinitionPage::RestoreRecord(int position, const cRecord& record, const QString& field) {
+    const cKeptKeyboard keyboard(*this);
     // What is half typed must not become a step in the middle of one.
     m_Form.show(-1);
     m_Model.Restore(position, record);
