@@ -7,6 +7,7 @@
 #include <QPlainTextEdit>
 #include <QUndoStack>
 
+#include "categories/readable_colours.h"
 #include "editor_ui/page_fixture.h"
 
 namespace vigrel::testing {
@@ -506,6 +507,29 @@ TEST_F(ReceiversPage, TheListHasTheKeyboardWhenTheDefinitionUnderItWasDeleted) {
     Press(Page(), "Button_Delete");
     EXPECT_EQ(m_Station.Receivers().Count(), 1u);
     EXPECT_EQ(QApplication::focusWidget(), Find<QAbstractItemView>(Page(), "List_Definitions"));
+}
+
+// Light or dark, it is told from the others and can be read.
+TEST_F(ReceiversPage, OneThatTakesNoPartCanBeReadInTheList) {
+    const auto number = [](const QColor& colour) {
+        return colour.red() + 256 * colour.green() + 65536 * colour.blue();
+    };
+    Press(Page(), "Check_Enabled");
+    const QPalette light = QGuiApplication::palette();
+    QPalette dark = light;
+    dark.setColor(QPalette::Text, Qt::white);
+    dark.setColor(QPalette::Base, QColor(27, 30, 32));
+    for (const QPalette& palette : {light, dark}) {
+        QApplication::setPalette(palette);
+        const QModelIndex name = Find<QAbstractItemView>(Page(), "List_Definitions")->model()->index(0, 0);
+        const auto shown = name.data(Qt::ForegroundRole).value<QColor>();
+        EXPECT_NE(shown, palette.color(QPalette::Text));
+        cUserColor row;
+        row.m_ForeColor = number(shown);
+        row.m_BackColor = row.m_BackColorFade = row.m_BackColorFlash = number(palette.color(QPalette::Base));
+        EXPECT_GE(LeastContrast(row), kReadableContrast) << shown.name().toStdString();
+    }
+    QApplication::setPalette(light);
 }
 
 TEST_F(ReceiversPage, AFileThatWasChangedMeanwhileIsNotReplacedUnasked) {

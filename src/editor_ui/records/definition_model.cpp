@@ -1,6 +1,7 @@
 #include "editor_ui/records/definition_model.h"
 
 #include <QApplication>
+#include <QColor>
 #include <QFont>
 #include <QPalette>
 #include <QStyle>
@@ -11,6 +12,19 @@
 #include "editor_ui/pages/reasons.h"
 
 namespace vigrel {
+namespace {
+
+// Of one that takes no part. The toolkit's own colour of what is disabled is hardly to be read.
+QColor Dimmed() {
+    constexpr double kText = 0.62;
+    const QPalette palette = QGuiApplication::palette();
+    const QColor text = palette.color(QPalette::Text), ground = palette.color(QPalette::Base);
+    const auto mix = [](int of, int with) { return static_cast<int>(kText * of + (1 - kText) * with); };
+    return {mix(text.red(), ground.red()), mix(text.green(), ground.green()),
+            mix(text.blue(), ground.blue())};
+}
+
+}  // namespace
 
 cDefinitionModel::cDefinitionModel(cDefinitionSource& source, QObject* parent)
     : QAbstractTableModel(parent), m_Source(source) {
@@ -89,7 +103,7 @@ QVariant cDefinitionModel::DefinitionData(const QModelIndex& index, int role) co
         }
         case Qt::ForegroundRole:
             if (m_Source.Enabled(static_cast<std::size_t>(index.row()))) return {};
-            return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
+            return Dimmed();
         case Qt::ToolTipRole:
             if (!changed) return {};
             return Obstacle(index.row()).isEmpty() ? tr("Not saved yet") : Obstacle(index.row());
