@@ -11,7 +11,6 @@
 #include "adapters/linux/standard_error_box.h"
 #include "adapters/linux/standard_random.h"
 #include "adapters/linux/system_clock.h"
-#include "adapters/qt/qt_locale.h"
 #include "common/exit_codes.h"
 #include "common/ini.h"
 #include "common/setting_keys.h"
@@ -91,9 +90,9 @@ int ShowUntilClosed(cApplication& application, cEditorServices& services, const 
 int RunEditor(cApplication& application, cLinuxFiles& files, const std::string& applicationPath,
               const QStringList& paths) {
     const cSystemClock clock;
-    const cLocaleForms forms = cQtLocale().Forms();
     cIni ini(files, applicationPath);
     const std::string language = LanguageOf(ini);
+    const cLocaleForms forms = FormsIn(language);
     application.SpeakLanguage(language);
     cEditorWords words(language);
     cApplication::installTranslator(&words);

@@ -288,6 +288,29 @@ KeyOwners KeysAt(const QWidget& widget) {
     return owners;
 }
 
+// --- names of days and months
+
+TEST(EditorForms, HaveTheNamesOfTheStationInTheOrderOfTheDesktop) {
+    const cLocaleForms forms = FormsIn("049", QLocale("en_US"));
+    EXPECT_EQ(forms.dayNames[1], "Montag");
+    EXPECT_EQ(forms.monthNames[2], "M\xE4rz");
+    EXPECT_EQ(forms.shortMonthNames[9].substr(0, 3), "Okt");
+    EXPECT_EQ(forms.shortDayNames[0].substr(0, 2), "So");
+    EXPECT_EQ(forms.shortDate, cQtLocale(QLocale("en_US")).Forms().shortDate);
+    EXPECT_EQ(forms.firstDayOfWeek, 1);
+    // One that writes no language, such as that of a service, speaks the station's.
+    EXPECT_EQ(FormsIn("044", QLocale::c()).dayNames[1], "Monday");
+    EXPECT_EQ(FormsIn("046", QLocale::c()).dayNames[1], "m\xE5ndag");
+    EXPECT_EQ(FormsIn("047", QLocale("sv_SE")).dayNames[0], "s\xF8ndag");
+}
+
+TEST(EditorForms, OfTheDesktopAreKeptWhereItSpeaksTheStationsLanguage) {
+    EXPECT_EQ(FormsIn("049", QLocale("de_AT")).monthNames[0], "J\xE4nner");
+    EXPECT_EQ(FormsIn("049", QLocale("de_DE")).monthNames[0], "Januar");
+    // A language that isn't delivered: the desktop's.
+    EXPECT_EQ(FormsIn("033", QLocale("fr_FR")).dayNames[1], "lundi");
+}
+
 // A key of two entries starts neither of them.
 std::set<std::string> KeysOfTwo(QWidget& page) {
     std::set<std::string> clashes;

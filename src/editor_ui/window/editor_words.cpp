@@ -17,4 +17,17 @@ QString cEditorWords::translate(const char* context, const char* source, const c
     return words.isEmpty() ? m_Toolkit.translate(context, source, disambiguation, number) : words;
 }
 
+cLocaleForms FormsIn(std::string_view language, const QLocale& desktop) {
+    cLocaleForms forms = cQtLocale(desktop).Forms();
+    const QLocale spoken(ToolkitLanguage(language));
+    // A country of the language can have words of its own: Austria's January.
+    if (spoken.language() == QLocale::C || spoken.language() == desktop.language()) return forms;
+    const cLocaleForms words = cQtLocale(spoken).Forms();
+    forms.dayNames = words.dayNames;
+    forms.shortDayNames = words.shortDayNames;
+    forms.monthNames = words.monthNames;
+    forms.shortMonthNames = words.shortMonthNames;
+    return forms;
+}
+
 }  // namespace vigrel

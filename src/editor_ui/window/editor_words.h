@@ -3,6 +3,8 @@
 #include <QTranslator>
 #include <string_view>
 
+#include "adapters/qt/qt_locale.h"
+
 namespace vigrel {
 
 // The editor's texts in the language of a configuration ("046"), from when they are installed. In English,
@@ -18,5 +20,9 @@ class cEditorWords : public QTranslator {
   private:
     QTranslator m_Toolkit;
 };
+
+// How the desktop writes dates, with the names of days and months in such a language: a German station on an
+// English desktop has its Mondays in German.
+cLocaleForms FormsIn(std::string_view language, const QLocale& desktop = QLocale::system());
 
 }  // namespace vigrel
