@@ -135,8 +135,8 @@ status() { awk -v key="$1:" '$1 == key { print $2 }' "/proc/$2/status"; }
 resources() {
     command -v xrestop >/dev/null || { echo ",,,"; return; }
     xrestop -b -m 1 2>/dev/null | awk -v id="$station" '
-        / PID: / { ours = $0 ~ "PID: *" id " " || /[Vv]igrel/ }
-        !ours || / PID: / || $1 == "res_base" || $1 == "res_mask" { next }
+        / PID:/ { ours = $0 ~ "PID: *" id " " || /[Vv]igrel/ }
+        !ours || / PID:/ || $1 == "res_base" || $1 == "res_mask" { next }
         $1 == "windows" || $1 == "pixmaps" { count[$1] += $NF; next }
         $1 == "total" { sub("~", "", $NF); bytes += $NF; next }
         $2 == ":" || $1 == "passive" { others += $NF }
