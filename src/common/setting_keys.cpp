@@ -27,36 +27,41 @@ struct cRow {
     double low = 0, high = 0;
 };
 
+// A flag is on at exactly 1.
+constexpr double HighOf(const cRow& row) {
+    return row.kind == Flag ? 1 : row.high;
+}
+
 constexpr cRow kRows[] = {
-    {"General", "ColumnResizable", Flag, "1", 0, 1},
-    {"General", "ColumnSortable", Flag, "1", 0, 1},
-    {"General", "ColumnWidthStore", Flag, "1", 0, 1},
+    {"General", "ColumnResizable", Flag, "1"},
+    {"General", "ColumnSortable", Flag, "1"},
+    {"General", "ColumnWidthStore", Flag, "1"},
     {"General", "Columns", Text, ""},
     {"General", "Object", Text, "none"},
     {"General", "MaxEvents", Int32, "1000", kInt32Low, kInt32High},
     {"General", "MaxDays", Int32, "30", kInt32Low, kInt32High},
     {"General", "PopupFormTopMostCategory", Text, ""},
-    {"General", "ViewOnlyOnePopupForm", Flag, "0", 0, 1},
+    {"General", "ViewOnlyOnePopupForm", Flag, "0"},
     {"General", "DateFormat", Text, "Short Date"},
     {"General", "TimeFormat", Text, "Long Time"},
-    {"General", "ShowInTaskBar", Flag, "1", 0, 1},
-    {"General", "AutoResetKeepAliveTimer", Flag, "1", 0, 1},
+    {"General", "ShowInTaskBar", Flag, "1"},
+    {"General", "AutoResetKeepAliveTimer", Flag, "1"},
     {"General", "EventSoundFileDelay", Int32, "0", 0, kInt32High},
-    {"General", "EventRestore", Flag, "1", 0, 1},
-    {"General", "EventSignalOnlyForActive", Flag, "0", 0, 1},
-    {"General", "EventSignalStopByNotifyClick", Flag, "0", 0, 1},
-    {"General", "EventRestoreOnlyForActive", Flag, "0", 0, 1},
-    {"General", "ViewPopupForm", Flag, "0", 0, 1},
-    {"General", "PopupFormOnlyForActive", Flag, "0", 0, 1},
-    {"General", "AckEventWhenPopupFormIsClosed", Flag, "0", 0, 1},
+    {"General", "EventRestore", Flag, "1"},
+    {"General", "EventSignalOnlyForActive", Flag, "0"},
+    {"General", "EventSignalStopByNotifyClick", Flag, "0"},
+    {"General", "EventRestoreOnlyForActive", Flag, "0"},
+    {"General", "ViewPopupForm", Flag, "0"},
+    {"General", "PopupFormOnlyForActive", Flag, "0"},
+    {"General", "AckEventWhenPopupFormIsClosed", Flag, "0"},
     {"General", "SystemErrorCategory", Text, "Vigrel"},
-    {"General", "DisableShutdown", Flag, "0", 0, 1},
-    {"General", "EventSignalUntilNoMorePopupForms", Flag, "0", 0, 1},
+    {"General", "DisableShutdown", Flag, "0"},
+    {"General", "EventSignalUntilNoMorePopupForms", Flag, "0"},
     {"General", "EventFontName", Text, "Arial"},
     {"General", "EventFontSize", Decimal, "12", 1, kLargestFont},
     {"General", "ViewOnlyPopupFormForCategory", Text, ""},
-    {"General", "PreventMinimize", Flag, "0", 0, 1},
-    {"General", "SortDescending", Flag, "0", 0, 1},
+    {"General", "PreventMinimize", Flag, "0"},
+    {"General", "SortDescending", Flag, "0"},
     {"General", "KeepForDays", Int16, "0", 0, kInt16High},
     {"General", "Language", Text, ""},
     {"General", "CountryFilter", Text, ""},
@@ -114,7 +119,7 @@ cSettingKey KeyOf(const cRow& row, std::string_view suffix = "") {
             row.kind,
             std::string(row.defaultValue),
             row.low,
-            row.high};
+            HighOf(row)};
 }
 
 std::vector<cSettingKey> MakeCategoryKeys() {

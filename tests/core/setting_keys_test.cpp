@@ -216,6 +216,17 @@ TEST_F(SettingKeyTable, EachKeyThatTheReceiverReadsAtStartChangesItsSettings) {
     EXPECT_EQ(keys, 28);
 }
 
+TEST_F(SettingKeyTable, AFlagIsZeroOrOne) {
+    int flags = 0;
+    for (const cSettingKey& key : SettingKeys()) {
+        if (key.kind != eValueKind::Flag) continue;
+        ++flags;
+        EXPECT_EQ(key.low, 0) << key.name;
+        EXPECT_EQ(key.high, 1) << key.name;
+    }
+    EXPECT_GT(flags, 10);
+}
+
 TEST_F(SettingKeyTable, KeysAreFoundInAnyCaseAndCategoryKeysInEverySectionOfACategory) {
     const cSettingKey* key = FindSettingKey("GENERAL", "maxevents");
     ASSERT_NE(key, nullptr);
