@@ -28,8 +28,7 @@ void cPendingSaves::Begin() {
 bool cPendingSaves::Advance(Work work) {
     const double until = m_Services.clock.Steady() + kTurnSeconds / kSecondsPerDay;
     for (int files = 0; m_Done < m_Batch.size(); ++m_Done, ++files) {
-        const bool over = files == kTurnFiles || m_Services.clock.Steady() > until;
-        if (over && !m_Finishing) return false;
+        if (files == kTurnFiles || m_Services.clock.Steady() > until) return false;
         (this->*work)(m_Batch[m_Done]);
     }
     m_Done = 0;
