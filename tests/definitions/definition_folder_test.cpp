@@ -394,6 +394,11 @@ TEST_F(DefinitionFolder, WhatComesBackWithoutAFileHasItsNumberAgainUnlessSomebod
     EXPECT_TRUE(m_Receivers.BringBack(0, *content, 7, std::nullopt));
     EXPECT_EQ(m_Receivers.At(0).m_DiskIdentity, 7);
     EXPECT_FALSE(m_Files.FileExists(ReceiverPath("0007")));
+    // Another definition of the list has it by now, without a file too.
+    EXPECT_TRUE(m_Receivers.BringBack(1, *content, 7, std::nullopt));
+    EXPECT_EQ(m_Receivers.At(1).m_DiskIdentity, -1);
+    EXPECT_EQ(m_Receivers.At(0).m_DiskIdentity, 7);
+    ASSERT_TRUE(m_Receivers.Remove(1));
     // One that was never saved.
     EXPECT_TRUE(m_Receivers.BringBack(2, *content, -1, std::nullopt));
     EXPECT_EQ(m_Receivers.At(2).m_DiskIdentity, -1);
