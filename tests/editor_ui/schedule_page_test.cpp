@@ -404,15 +404,22 @@ TEST_F(SchedulePage, ATimeThatIsNoneIsRefusedWithAReasonAndStaysAsTyped) {
 
 // The field loses the keyboard as the page goes, and must not make a step of its time any more.
 TEST_F(SchedulePage, APageCanGoWhileATimeIsBeingTyped) {
-    QApplication::setActiveWindow(m_Window.get());
-    Click(0, 600);
-    auto& stop = Find<QLineEdit>(m_Page, "Text_Schedule_Period_Stop");
+    auto page = std::make_unique<cSchedulePage>(m_Services, "Week");
+    page->resize(900, 600);
+    page->show();
+    QApplication::setActiveWindow(page.get());
+    auto& view = Find<QWidget>(*page, "Picture_TimeSchedule");
+    view.setFocus();
+    for (int i = 0; i < 7; ++i) QTest::keyClick(&view, Qt::Key_Up);
+    auto& stop = Find<QLineEdit>(*page, "Text_Schedule_Period_Stop");
+    ASSERT_EQ(stop.text(), "16:00");
     stop.setFocus();
     stop.selectAll();
     QTest::keyClicks(&stop, "1730");
+    ASSERT_EQ(QApplication::focusWidget(), &stop);
     int steps = 0;
-    QObject::connect(m_Page.UndoStack(), &QUndoStack::indexChanged, [&steps] { ++steps; });
-    m_Window.reset();
+    QObject::connect(page->UndoStack(), &QUndoStack::indexChanged, [&steps] { ++steps; });
+    page.reset();
     EXPECT_EQ(steps, 0);
 }
 
