@@ -29,7 +29,9 @@ void cOthers::Work() {
     if (choice < 6 || (choice < 8 && file.damaged.empty())) return Sign(file);
     if (choice < 8) {
         m_Bench.m_Files.Put(file.path, file.damaged);
-    } else if (m_Bench.m_Files.FileExists(file.path)) {
+    } else {
+        // Where there is nothing to remove, the last word stays whose it is.
+        if (!m_Bench.m_Files.FileExists(file.path)) return;
         m_Bench.m_Files.RemoveFile(file.path);
     }
     m_Seen[file.path] = {OnDisk(file.path), true};
