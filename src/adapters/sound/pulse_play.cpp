@@ -2,6 +2,7 @@
 
 #include <pulse/pulseaudio.h>
 
+#include <algorithm>
 #include <chrono>
 #include <memory>
 #include <vector>
@@ -15,6 +16,8 @@ using Clock = std::chrono::steady_clock;
 constexpr int kTurnMicroseconds = 20000;
 // What is handed to the server ahead of its playing: enough for a machine that is busy for a moment.
 constexpr int kAheadMilliseconds = 300;
+// What a connection that is being made gets to be made whole once the play is called off.
+constexpr auto kCalledOffPatience = std::chrono::milliseconds(200);
 
 template <class T, auto unref>
 struct cUnref {
@@ -45,8 +48,9 @@ class cPlay {
 
   private:
     // A turn of the loop. False when the play is to end: called off, or nothing moved for too long.
-    bool Turn() {
-        if (!m_GoesOn() || Clock::now() > m_Patience) return false;
+    bool Turn() { return m_GoesOn() && TurnUnasked(); }
+    bool TurnUnasked() {
+        if (Clock::now() > m_Patience) return false;
         return pa_mainloop_prepare(m_Loop.get(), kTurnMicroseconds) >= 0 &&
                pa_mainloop_poll(m_Loop.get()) >= 0 && pa_mainloop_dispatch(m_Loop.get()) >= 0;
     }
@@ -75,10 +79,17 @@ bool cPlay::Connect() {
     m_Context.reset(pa_context_new(pa_mainloop_get_api(m_Loop.get()), "Vigrel Alarm Receiver"));
     if (!m_Context || pa_context_connect(m_Context.get(), nullptr, PA_CONTEXT_NOFLAGS, nullptr) < 0)
         return false;
+    // The library leaves memory and descriptors behind of a connection that is given up while it is being
+    // made.
+    bool goesOn = true;
     while (pa_context_get_state(m_Context.get()) != PA_CONTEXT_READY) {
-        if (!PA_CONTEXT_IS_GOOD(pa_context_get_state(m_Context.get())) || !Turn()) return false;
+        if (goesOn && !m_GoesOn()) {
+            goesOn = false;
+            m_Patience = std::min(m_Patience, Clock::now() + kCalledOffPatience);
+        }
+        if (!PA_CONTEXT_IS_GOOD(pa_context_get_state(m_Context.get())) || !TurnUnasked()) return false;
     }
-    return true;
+    return goesOn;
 }
 
 bool cPlay::OpenStream() {
