@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <compare>
+#include <cstring>
 
 #include "common/code_page.h"
 #include "common/dates.h"
@@ -58,10 +60,15 @@ struct cSortEntry {
 
     explicit cSortEntry(cReportRecord* owner)
         : id(owner->id), record(owner), isAll(owner->key.size() <= kWords * 8) {
-        for (std::size_t i = 0; i < kWords * 8; ++i) {
-            const auto byte = static_cast<std::uint64_t>(i < owner->key.size() ? Code(owner->key[i]) : 0);
-            front[i / 8] = front[i / 8] << 8 | byte;
-        }
+        std::array<char, kWords * 8> bytes{};
+        std::memcpy(bytes.data(), owner->key.data(), std::min(owner->key.size(), bytes.size()));
+        for (std::size_t word = 0; word < kWords; ++word) front[word] = BigEndian(&bytes[word * 8]);
+    }
+
+    static std::uint64_t BigEndian(const char* bytes) {
+        std::uint64_t word = 0;
+        for (std::size_t i = 0; i < 8; ++i) word = word << 8 | static_cast<std::uint64_t>(Code(bytes[i]));
+        return word;
     }
 };
 
@@ -100,7 +107,7 @@ void cRecordOrder::Sort(std::vector<cReportRecord*>& records) const {
     if (std::is_sorted(records.begin(), records.end(), before)) return;
     std::vector<cSortEntry> entries(records.begin(), records.end());
     std::sort(entries.begin(), entries.end(), [this](const cSortEntry& a, const cSortEntry& b) {
-        if (a.front != b.front) return a.front < b.front;
+        if (const auto order = a.front <=> b.front; std::is_neq(order)) return std::is_lt(order);
         return a.isAll && b.isAll ? IsInFrontByAge(a.id, b.id) : Before(*a.record, *b.record);
     });
     std::transform(entries.begin(), entries.end(), records.begin(),
