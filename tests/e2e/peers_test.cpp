@@ -67,6 +67,9 @@ std::ptrdiff_t OpenFiles(pid_t process) {
     return std::distance(begin(files), end(files));
 }
 
+// Those that wait for their turn and those that were replaced, the listener's queue not among them.
+constexpr std::ptrdiff_t kMostConnections = 50;
+
 // Whether the files come down to so many within ten seconds: connections that were replaced stay for two.
 bool ComesDownToOpenFiles(pid_t process, std::ptrdiff_t most) {
     const auto end = Clock::now() + std::chrono::seconds(10);
@@ -138,18 +141,24 @@ void SendOneLineForever(const std::stop_token& stop, int port) {
     }
 }
 
-// Ten thousand a minute, which leave in one way or another; some stay.
+// More than ten thousand a minute, which leave in one way or another; some stay.
 void ConnectAgainAndAgain(const std::stop_token& stop, int port) {
     std::deque<cTcpClient> staying;
     auto next = Clock::now();
+    long connected = 0;
     for (int count = 0; !stop.stop_requested(); ++count) {
-        next += milliseconds(6);
+        next += milliseconds(5);
         std::this_thread::sleep_until(next);
         cTcpClient& client = staying.emplace_back(port);
+        if (client.Connected()) ++connected;
         if (count % 4 != 0) client.TrySend(kRefusedFrame.substr(0, static_cast<std::size_t>(count % 20)));
         if (count % 4 == 2) client.Reset();
         if (count % 4 == 3) client.EndSending();
         if (staying.size() > 100) staying.pop_front();
+    }
+    std::cout << connected << " connections; ";
+    if (TimeWithEach() >= std::chrono::minutes(1)) {
+        EXPECT_GT(connected, TimeWithEach().count() * 10'000 / 60);
     }
 }
 
@@ -236,19 +245,23 @@ TEST_P(Peers, KeepNoGoodSenderFromItsAnswers) {
     good.SendOne();
     const long memory = Memory(station.Process());
     const std::ptrdiff_t files = OpenFiles(station.Process());
+    std::ptrdiff_t mostFiles = files;
     {
         const std::jthread peer(GetParam().work, station.m_Port);
         for (const auto end = Clock::now() + TimeWithEach(); Clock::now() < end;) {
             std::this_thread::sleep_for(milliseconds(20));
             good.SendOne();
+            mostFiles = std::max(mostFiles, OpenFiles(station.Process()));
         }
     }
     good.SendOne();
     EXPECT_LT(good.Longest(), MostForAnAnswer());
     EXPECT_LT(Memory(station.Process()), memory + kMostGrowth);
+    EXPECT_LT(mostFiles, files + kMostConnections);
     EXPECT_TRUE(ComesDownToOpenFiles(station.Process(), files + kOpenedOnce));
     std::cout << "answered " << good.Answered().size() << ", the slowest in " << good.Longest().count()
-              << " ms; memory " << memory << " KB before, " << Memory(station.Process()) << " KB behind\n";
+              << " ms; files " << files << ", at most " << mostFiles << "; memory " << memory
+              << " KB before, " << Memory(station.Process()) << " KB behind\n";
     EXPECT_EQ(station.Stop(SIGTERM), 0);
     EXPECT_EQ(Lost(station, good.Answered()), std::set<std::string>{});
 }
