@@ -86,6 +86,15 @@ TEST_F(FirstStart, WithoutAScreenTheUsersLanguageIsTaken) {
     EXPECT_EQ(Setting("General", "Language"), "046");
 }
 
+TEST_F(FirstStart, TheUsersLanguageCanBeTheFirstOfAll) {
+    m_Files.Put(kFolder + "Vigrel_Texts.031", "0=Nederlands\r\n");
+    m_Files.Put(kFolder + "Templates\\VigrelReceiver.031", "; Nederlands\r\n[General]\r\nLanguage=\r\n");
+    m_Locale.m_EnglishLanguageName = "Dutch";
+    m_Locale.m_NativeLanguageName = "Nederlands";
+    Start({"", false});
+    EXPECT_EQ(Setting("General", "Language"), "031");
+}
+
 TEST_F(FirstStart, WithoutAScreenAndAKnownLocaleItIsEnglish) {
     m_Locale.m_EnglishLanguageName = m_Locale.m_NativeLanguageName = "";
     Start({"", false});
@@ -204,6 +213,7 @@ TEST_F(FirstStart, ColumnsGetWhatTheWindowLeavesTheAlarmsTextMostOfAll) {
     Start({"", true, 0, 0, 40 + 200 + 100 + 28 + 1000, 600});
     EXPECT_EQ(Setting("StateIcon", "ColumnWidth"), "40");
     EXPECT_EQ(Setting("t0", "ColumnWidth"), "700");
+    EXPECT_EQ(Setting("t1", "ColumnWidth"), "300");
     EXPECT_EQ(Setting("t4", "ColumnWidth"), "400");
 }
 

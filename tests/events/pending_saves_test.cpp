@@ -2,16 +2,23 @@
 
 #include <gtest/gtest.h>
 
+#include "common/failure.h"
 #include "support/fake_station.h"
 
 namespace vigrel::testing {
 namespace {
 
-// A disk whose syncs fail from the given wait on: of the bytes (0), of the names (1).
+// A disk whose syncs fail from the given wait on: of the bytes (0), of the names (1). The file whose name is
+// given is written half.
 class cRefusingDisk : public cFakeFiles {
   public:
     int m_WaitsWell = 0;
-    std::string m_Renamed;
+    std::string m_Renamed, m_Half;
+    void WriteFile(std::string_view path, std::string_view bytes, bool sync) override {
+        const bool half = !m_Half.empty() && path.find(m_Half) != std::string_view::npos;
+        cFakeFiles::WriteFile(path, half ? bytes.substr(0, 1) : bytes, sync);
+        if (half) throw cFailure(eFailure::InputOutput, "no room");
+    }
     std::unique_ptr<cPendingSync> StartSync(std::string_view folder) override {
         if (m_WaitsWell-- > 0) return cFakeFiles::StartSync(folder);
         return std::make_unique<cRefusal>();
@@ -31,8 +38,9 @@ class cRefusingDisk : public cFakeFiles {
 
 // The saves of two alarms with the files A0000001.alm and A0000002.alm on such a disk.
 struct cSavesOnRefusingDisk {
-    explicit cSavesOnRefusingDisk(int waitsWell) {
+    explicit cSavesOnRefusingDisk(int waitsWell, const std::string& half = "") {
         disk.m_WaitsWell = waitsWell;
+        disk.m_Half = half;
         std::vector<AlarmPtr> alarms;
         for (const std::int32_t id : {1, 2}) {
             disk.Put("C:\\App\\A000000" + std::to_string(id) + ".alm", "old");
@@ -65,6 +73,16 @@ TEST(PendingSaves, NoNameComesToStandForBytesThatTheDiskRefused) {
     EXPECT_EQ(saves.disk.AllPaths(),
               (std::vector<std::string>{"C:\\App\\A0000001.alm", "C:\\App\\A0000002.alm"}));
     EXPECT_EQ(saves.disk.ReadFile("C:\\App\\A0000002.alm"), "old");
+}
+
+TEST(PendingSaves, NoNameComesToStandForWhatWasWrittenHalf) {
+    const cSavesOnRefusingDisk saves(2, "A0000001");
+    EXPECT_TRUE(saves.saves.Empty());
+    EXPECT_EQ(saves.failed, std::vector<std::string>{"1: no room"});
+    EXPECT_EQ(saves.disk.m_Renamed, "C:\\App\\A0000002.alm\n");
+    EXPECT_EQ(saves.disk.ReadFile("C:\\App\\A0000001.alm"), "old");
+    EXPECT_EQ(saves.disk.ReadFile("C:\\App\\A0000002.alm"), "new");
+    EXPECT_EQ(saves.disk.AllPaths().size(), 2u);
 }
 
 TEST(PendingSaves, WhenTheDiskRefusesTheNamesAllAreToldToHaveFailed) {

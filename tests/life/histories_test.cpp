@@ -72,10 +72,14 @@ class cRealStation {
         return text.empty() ? std::vector<std::string>{} : CutAt(text, separator);
     }
     cFakePopupWindow& Popup(const std::string& number) { return m_Station->popups[std::stoi(number)]; }
-    std::string Rows() const {
+    std::string Rows() {
         std::string rows;
-        for (const std::string& row : SplitLines(m_Station->list.Screen()))
-            rows += row.substr(row.find('|') + 1, row.size() - row.find('|') - 2) + " ";
+        cFakeReportList& list = m_Station->list;
+        for (const RecordId row : list.Rows()) {
+            for (int column = 1; column < kIconColumn; ++column)
+                rows += std::get<std::string>(list.Item(row, column).value) + "|";
+            rows += "#" + std::to_string(list.Item(row, kIconColumn).icon) + " ";
+        }
         return rows;
     }
     std::string Popups() {

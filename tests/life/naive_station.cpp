@@ -114,8 +114,10 @@ void cNaiveStation::Restart(const cPlan& plan) {
 
 std::string cNaiveStation::Told() {
     std::string rows;
-    for (const cNaiveStore::Alarm& alarm : m_Store.Rows())
-        rows += alarm->texts[0] + "|#" + (alarm->acknowledged ? "27" : "26") + " ";
+    for (const cNaiveStore::Alarm& alarm : m_Store.Rows()) {
+        for (const std::string& text : alarm->texts) rows += text + "|";
+        rows += alarm->sourceDate + (alarm->acknowledged ? "|#27 " : "|#26 ");
+    }
     return "rows: " + rows + "\npopups: " + m_Popups.Told() + "\nicon: " + std::to_string(m_Icon) +
            "\nsound: " + m_Sound.Take() + "printed: " + std::exchange(m_Printed, {});
 }

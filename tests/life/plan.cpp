@@ -136,10 +136,10 @@ cPlan MakePlan(unsigned seed) {
 
 std::string IniOf(const cPlan& plan) {
     std::string ini =
-        "[General]\r\nLanguage=046\r\nColumns=StateIcon,t0,Observed\r\n" + Line("DateFormat", "yyyy-mm-dd") +
-        Line("TimeFormat", "hh:nn") + Line("MaxEvents", std::to_string(plan.maxEvents)) +
-        Line("MaxDays", std::to_string(plan.maxDays)) + Line("ViewPopupForm", Flag(plan.popups)) +
-        Line("ViewOnlyOnePopupForm", Flag(plan.oneAtATime)) +
+        "[General]\r\nLanguage=046\r\nColumns=StateIcon,t0,t1,t2,t3,t4,t5,AlarmDate,Observed\r\n" +
+        Line("DateFormat", "yyyy-mm-dd") + Line("TimeFormat", "hh:nn") +
+        Line("MaxEvents", std::to_string(plan.maxEvents)) + Line("MaxDays", std::to_string(plan.maxDays)) +
+        Line("ViewPopupForm", Flag(plan.popups)) + Line("ViewOnlyOnePopupForm", Flag(plan.oneAtATime)) +
         Line("PopupFormOnlyForActive", Flag(plan.popupsOnlyForActive)) +
         Line("AckEventWhenPopupFormIsClosed", Flag(plan.acknowledgeAtClose)) +
         Line("ViewOnlyPopupFormForCategory", plan.popupsFor) +

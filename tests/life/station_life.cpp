@@ -7,7 +7,7 @@ namespace {
 
 constexpr double kDay = 86400;
 constexpr const char* kGeneral =
-    "Columns=StateIcon,t0,t4,Observed\r\nColumnWidthStore=1\r\nMaxEvents=6\r\nMaxDays=3\r\nKeepForDays=0\r\n"
+    "Columns=StateIcon,t0,t4,Observed\r\nColumnWidthStore=1\r\nMaxEvents=6\r\nKeepForDays=0\r\n"
     "ViewPopupForm=1\r\nAckEventWhenPopupFormIsClosed=1\r\nEventSignal=3\r\nDateFormat=yyyy-mm-dd\r\n"
     "TimeFormat=hh:nn:ss\r\n";
 constexpr const char* kSections =
@@ -15,11 +15,11 @@ constexpr const char* kSections =
 
 }  // namespace
 
-cStationLife::cStationLife() {
+cStationLife::cStationLife(int days) {
     // Few texts, since every start reads them.
     m_Disk.Put("C:\\App\\Vigrel_Texts.046", "10040=T10040\r\n10041=T10041\r\n");
-    m_Disk.Put("C:\\App\\VigrelReceiver.INI",
-               std::string("[General]\r\nLanguage=046\r\n") + kGeneral + kSections);
+    m_Disk.Put("C:\\App\\VigrelReceiver.INI", "[General]\r\nLanguage=046\r\nMaxDays=" + std::to_string(days) +
+                                                  "\r\n" + kGeneral + kSections);
     // What a first start begins with, and no later one must come back to.
     m_Disk.Put("C:\\App\\Templates\\VigrelReceiver.oni", "[General]\r\nLanguage=046\r\n");
 }
@@ -87,7 +87,7 @@ void cStationLife::Send(const std::string& sender) {
     if (m_Station->data.State() == 0) m_Station->listener.Knock(m_Sent);
     m_Station->data.Arrive(MakeFrame(sender, "S1||" + text + "||Fire"));
     if (m_Station->data.TakeSent() == std::string(kPositive) + std::string(kReplyEnd))
-        m_Answered.insert(text);
+        m_Answered.push_back(text);
 }
 
 void cStationLife::Acknowledge(std::size_t row) {

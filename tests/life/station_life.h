@@ -2,7 +2,6 @@
 
 #include <functional>
 #include <memory>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -18,8 +17,8 @@ using cRows = std::vector<std::string>;
 // and a second run over what the first one left.
 class cStationLife {
   public:
-    // On a new disk, or on what another life left, at its time.
-    cStationLife();
+    // On a new disk, or on what another life left, at its time. Days: how long alarms stay, 0 for good.
+    explicit cStationLife(int days = 3);
     cStationLife(const cFakeFiles& left, const cFakeClock& now) : m_Disk(left), m_Clock(now) {}
 
     // A step of the life. It does nothing while no station runs, but for the one that starts it.
@@ -40,8 +39,8 @@ class cStationLife {
 
     // The list as an operator sees it; empty while no station runs.
     cRows Rows() const;
-    // The texts of those frames that were answered positively.
-    const std::set<std::string>& Answered() const { return m_Answered; }
+    // The texts of those frames that were answered positively, in their order.
+    const std::vector<std::string>& Answered() const { return m_Answered; }
 
     cFakeFiles m_Disk;
     cFaultyFiles m_Faulty{m_Disk};
@@ -58,7 +57,7 @@ class cStationLife {
 
     cFakeClock m_Clock;  // while no station runs
     std::unique_ptr<cFakeReceiver> m_Station;
-    std::set<std::string> m_Answered;
+    std::vector<std::string> m_Answered;
     int m_Sent = 0;
 };
 

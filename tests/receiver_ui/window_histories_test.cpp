@@ -192,8 +192,9 @@ class cWindowedStation {
         const auto* model = dynamic_cast<cReportModel*>(m_Station->mainWindow.List().View().model());
         for (std::size_t row = 0; row < count; ++row) {
             const auto cell = [&](int column) { return model->index(static_cast<int>(row), column); };
-            rows += FromQString(model->data(cell(1), Qt::DisplayRole).toString()) + "|#" +
-                    std::to_string(model->Item(cell(2)).icon) + " ";
+            for (int column = 1; column < kIconColumn; ++column)
+                rows += FromQString(model->data(cell(column), Qt::DisplayRole).toString()) + "|";
+            rows += "#" + std::to_string(model->Item(cell(kIconColumn)).icon) + " ";
         }
         return rows;
     }

@@ -104,7 +104,9 @@ std::string cFakeFiles::ReadFile(std::string_view path) const {
     const cFile* file = Find(path);
     if (file == nullptr) Fail(eFailure::FileNotFound, "the file does not exist", path);
     if (file->unreadable) Fail(eFailure::PermissionDenied, "the file can't be read", path);
-    return file->bytes;
+    std::string bytes = file->bytes;
+    if (m_OnRead) m_OnRead(path);
+    return bytes;
 }
 
 std::vector<std::string> cFakeFiles::ListFiles(std::string_view folder, std::string_view mask) const {
@@ -326,8 +328,9 @@ void cFakeFiles::Crash(const std::vector<eFate>& fates) {
     for (std::size_t i = 0; i < contents.size(); ++i) {
         const std::string& bytes = m_Inodes.at(contents[i]).bytes;
         const eFate fate = fateOf(m_Changes.size() + i);
-        if (fate != eFate::Lost)
-            m_DurableBytes[contents[i]] = fate == eFate::Kept ? bytes : bytes.substr(0, bytes.size() / 2);
+        if (fate == eFate::Kept) m_DurableBytes[contents[i]] = bytes;
+        if (fate == eFate::Torn) m_DurableBytes[contents[i]] = bytes.substr(0, bytes.size() / 2);
+        if (fate == eFate::Zeroed) m_DurableBytes[contents[i]] = std::string(bytes.size(), '\0');
     }
     for (std::size_t i = 0; i < m_Changes.size(); ++i) {
         if (fateOf(i) != eFate::Lost) Apply(m_Changes[i], m_DurableNames);

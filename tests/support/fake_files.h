@@ -43,9 +43,9 @@ class cFakeFiles : public cFiles {
     bool HasFolder(std::string_view path) const;
     // Every path with its spelling, sorted.
     std::vector<std::string> AllPaths() const;
-    // What a power failure makes of a change that no sync has made durable. A torn content is its first half;
-    // a name is there or it is not.
-    enum class eFate { Lost, Kept, Torn };
+    // What a power failure makes of a change that no sync has made durable. A torn content is its first half,
+    // a zeroed one has its length; a name is there or it is not.
+    enum class eFate { Lost, Kept, Torn, Zeroed };
     // How many such changes there are: first those of names, in the order in which they were made, then the
     // contents.
     std::size_t UnsyncedCount() const;
@@ -70,6 +70,7 @@ class cFakeFiles : public cFiles {
     bool m_DiskFull = false;        // writes fail, leaving a partial file
     bool m_FolderReadOnly = false;  // creating, renaming and removing fails
     std::function<void(std::string_view operation, std::string_view path)> m_OnCall;
+    std::function<void(std::string_view path)> m_OnRead;  // others at work, once its bytes were taken
     bool m_DiskIsBusy = false;  // a pending sync is not done until somebody waits for it
 
   private:
