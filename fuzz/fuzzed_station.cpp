@@ -121,9 +121,11 @@ void cFuzzedStation::DoMachine(int kind) {
             m_Station->clock.m_Now += (m_Input.Byte() - 128) / 24.0;
             return;
         case 2:
+            m_DiskFailed = true;
             m_Disk.m_DiskFull = !m_Disk.m_DiskFull;
             return;
         case 3:
+            m_DiskFailed = true;
             m_Disk.m_FailCall = m_Disk.m_Calls + m_Input.Byte() % 16;
             return;
         case 4:
@@ -139,7 +141,7 @@ void cFuzzedStation::DoMachine(int kind) {
 }
 
 void cFuzzedStation::DoOperator(int kind) {
-    switch (kind % 10) {
+    switch (kind % 14) {
         case 0:
             return Acknowledge(static_cast<std::size_t>(m_Input.Byte()));
         case 1:
@@ -158,8 +160,33 @@ void cFuzzedStation::DoOperator(int kind) {
             return m_Station->menus.OnMenuExit();
         case 8:
             return m_Station->menus.OnMenuStopSound();
-        default:
+        case 9:
             return m_Station->menus.OnMenuFileOpens();
+        case 10:
+            return m_Station->menus.OnMenuStopLight();
+        default:
+            return DoWindows(m_Input.Byte());
+    }
+}
+
+// What a start that asks has not connected yet does nothing.
+void cFuzzedStation::DoWindows(int kind) {
+    const auto happen = [](const auto& event) {
+        if (event) event();
+    };
+    switch (kind % 6) {
+        case 0:
+            return happen(m_Station->trayArea.OnFirstClick);
+        case 1:
+            return happen(m_Station->trayArea.OnSecondClick);
+        case 2:
+            return happen(m_Station->trayArea.OnHostGone);
+        case 3:
+            return happen(m_Station->mainWindow.OnResize);
+        case 4:
+            return happen(m_Station->mainWindow.OnActivate);
+        default:
+            return m_Station->waveDevice.EndPlay();
     }
 }
 
@@ -210,6 +237,11 @@ void cFuzzedStation::CheckRows() {
     const std::int32_t most = m_Station->receiver->Settings().m_MaxEvents;
     Require(most <= 0 || static_cast<int>(rows.size()) <= most, "the limit holds");
     for (const RecordId row : rows) m_Station->list.DrawnStyle(row);
+}
+
+bool cFuzzedStation::StoresWhatItLists() const {
+    return m_DiskFailed || !Runs() ||
+           m_Disk.ListFiles("C:\\App\\Alarms\\", "*.alm").size() == m_Station->list.Rows().size();
 }
 
 void cFuzzedStation::DoAll() {

@@ -45,6 +45,8 @@ class cFuzzedStation {
     bool Runs() const { return m_Station != nullptr; }
     // One step of the input.
     void Step();
+    // As many files as rows, where the folder was in order and the disk has never failed.
+    bool StoresWhatItLists() const;
     // Everything acknowledged, copied, sorted and swept.
     void DoAll();
     // Ends the program and starts it again; whether it lists the same.
@@ -53,6 +55,7 @@ class cFuzzedStation {
   private:
     void Do(int kind);
     void DoOperator(int kind);
+    void DoWindows(int kind);
     void DoMachine(int kind);
     void StepsInABox();
     void Die();
@@ -70,7 +73,7 @@ class cFuzzedStation {
     std::unique_ptr<testing::cFakeReceiver> m_Station;
     int m_Connections = 0;
     int m_BoxesOpen = 0;
-    bool m_PortInUse = false;
+    bool m_PortInUse = false, m_DiskFailed = false;
 };
 
 }  // namespace vigrel::fuzz
