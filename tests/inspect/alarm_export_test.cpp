@@ -158,6 +158,19 @@ TEST_F(AlarmExport, ADamagedFileHasARowThatSaysSoWhateverTheFilter) {
     EXPECT_NE(result.table.find("the file can't be read\"\r\n"), std::string::npos);
 }
 
+TEST_F(AlarmExport, AStatusThatIsNoneIsToldAndHasNoName) {
+    Put("0000001", 100, "", "", -1);
+    Put("0000002", 200, "", "", 4);
+    Put("0000003", 300, "", "", 3);
+    const cExportResult result = Export();
+    EXPECT_EQ(result.damaged, 2u);
+    EXPECT_NE(result.table.find("\"the status is not in 0 to 3\"\r\n"), std::string::npos);
+    EXPECT_EQ(StateName(-1), "");
+    EXPECT_EQ(StateName(0), "inactive");
+    EXPECT_EQ(StateName(3), "message");
+    EXPECT_EQ(StateName(4), "");
+}
+
 TEST_F(AlarmExport, AFileCutAtAnyLengthIsToldAsDamaged) {
     for (std::size_t length = 0; length < samples::kAlarm.size(); ++length) {
         m_Files.Put("/app/Alarms/A0000001.alm", samples::kAlarm.substr(0, length));
@@ -168,6 +181,8 @@ TEST_F(AlarmExport, AFileCutAtAnyLengthIsToldAsDamaged) {
 TEST_F(AlarmExport, OnlyNamesOfSevenDigitsAreAlarms) {
     Put("0000001", 100);
     Put("00000x2", 100);
+    Put("x000004", 100);
+    Put("000005x", 100);
     m_Files.Put("/app/Alarms/A0000003.alm.$~", samples::kAlarm);
     EXPECT_EQ(Export().files, 1u);
 }

@@ -74,6 +74,8 @@ TEST(Replace, NeverMakesAValueLongerThanTheLongest) {
     const std::string longer(kLongestValue + 10, 'a');
     EXPECT_EQ(ApplyModifier(longer, "R:a:bb"), longer);
     EXPECT_EQ(ApplyModifier(longer, "R:a:").size(), 0u);
+    // What makes it no longer is done all the same.
+    EXPECT_TRUE(ApplyModifier(longer, "R:a:b").starts_with("bb"));
 }
 
 TEST(ShapeValue, KeepsAValueWithoutFields) {

@@ -5,7 +5,6 @@
 #include "common/dates.h"
 #include "common/failure.h"
 #include "common/path_text.h"
-#include "tool_support/csv.h"
 
 namespace vigrel::testing {
 namespace {
@@ -48,15 +47,6 @@ TEST_F(OptionWords, DatesAreMeantAsWritten) {
     EXPECT_EQ(DateFromWord("--from", "2026-03-15"), DateSerial(2026, 3, 15));
     EXPECT_EQ(EndFromWord("--to", "2026-03-15"), DateSerial(2026, 3, 16));
     EXPECT_THROW(DateFromWord("--from", "15 March"), cFailure);
-}
-
-TEST(CsvLine, QuotesCellsAndDisarmsFormulas) {
-    cCsvLine line, exact(true);
-    for (cCsvLine* one : {&line, &exact}) {
-        for (const char* cell : {"a\"b", "=1+1", "-5", "@x", "\xE5"}) one->Cell(cell);
-    }
-    EXPECT_EQ(line.Line(), "\"a\"\"b\",\"'=1+1\",\"-5\",\"'@x\",\"\xC3\xA5\"\r\n");
-    EXPECT_EQ(exact.Line(), "\"a\"\"b\",\"=1+1\",\"-5\",\"@x\",\"\xC3\xA5\"\r\n");
 }
 
 }  // namespace

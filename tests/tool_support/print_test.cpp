@@ -1,27 +1,58 @@
 #include "tool_support/print.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
-#include "tool_support/json.h"
+#include <cstdio>
+#include <fstream>
+#include <iterator>
+
+#include "common/failure.h"
+#include "support/temporary_folder.h"
 
 namespace vigrel::testing {
 namespace {
 
-TEST(JsonString, EscapesWhatWouldEndOrSteerIt) {
-    EXPECT_EQ(JsonString("a\"b\\c\n\x7F\xE5"), "\"a\\\"b\\\\c\\u000A\\u007F\xC3\xA5\"");
-    EXPECT_EQ(JsonStringOfUtf8("\xC3\xA5"), "\"\xC3\xA5\"");
+constexpr int kPrinted = 0, kNotBegun = 255;
+
+// Prints in a process of its own, whose standard output is that file, closed for none: kPrinted, or the
+// number of the failure. What isn't written by then is lost with the process.
+int PrintTo(const std::string& file, const std::string& text) {
+    std::fflush(stdout);
+    const pid_t process = fork();
+    if (process == 0) {
+        close(STDOUT_FILENO);
+        if (!file.empty() && dup2(open(file.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600), STDOUT_FILENO) < 0)
+            _exit(kNotBegun);
+        const auto failure = CatchFailure([&] { PrintOutput(text); });
+        _exit(failure ? static_cast<int>(failure->Number()) : kPrinted);
+    }
+    int status = 0;
+    waitpid(process, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
-TEST(JsonString, EscapesEveryControlCharacterAndNothingElse) {
-    EXPECT_EQ(JsonString(std::string("\0\x01\x0F\x10\x1F", 5)), "\"\\u0000\\u0001\\u000F\\u0010\\u001F\"");
-    EXPECT_EQ(JsonString(" /~"), "\" /~\"");
-    EXPECT_EQ(JsonString("\"\\"), "\"\\\"\\\\\"");
+TEST(PrintOutput, WritesEveryByteAtOnce) {
+    const cTemporaryFolder folder;
+    const std::string path = (folder.Path() / "out.txt").string();
+    for (const std::string& text :
+         {std::string(), std::string("\xC3\xA5\0\n.", 5), std::string(100'000, 'x')}) {
+        EXPECT_EQ(PrintTo(path, text), kPrinted);
+        std::ifstream file(path, std::ios::binary);
+        EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}), text);
+    }
 }
 
-TEST(JsonList, HasALineForEachItem) {
-    const auto write = [](int number) { return std::to_string(number); };
-    EXPECT_EQ(JsonList(std::vector<int>{}, write), "[]");
-    EXPECT_EQ(JsonList(std::vector{1, 2}, write), "[\n    1,\n    2\n  ]");
+TEST(PrintOutput, ADiskThatIsFullIsAFailureForAShortTextAndALongOne) {
+    for (const std::size_t length : {1, 100'000})
+        EXPECT_EQ(PrintTo("/dev/full", std::string(length, 'x')), static_cast<int>(eFailure::DiskFull))
+            << length;
+}
+
+TEST(PrintOutput, AStandardOutputThatIsClosedIsAFailure) {
+    EXPECT_EQ(PrintTo("", "x"), static_cast<int>(eFailure::DiskFull));
 }
 
 }  // namespace

@@ -10,7 +10,7 @@ and the tests of the folder and of those that use it run, until one fails. A cha
 noticed too. What survived is listed, and told apart from what tests/campaigns/mutants/equivalent.txt names with the
 reason why it changes nothing.
 
-FOLDER       folders of src; all of the logic unless told
+FOLDER       folders of src: of the logic, all of it unless told, or of the windows: windows, receiver_ui, editor_ui
 --number N   so many places of each folder, chosen at random; all of them unless told
 --seed S     another choice of places (1)
 --since C    only places on lines that differ from the commit C
@@ -40,6 +40,9 @@ import trial  # noqa: E402
 ROOT = pathlib.Path(__file__).resolve().parents[3]
 HERE = pathlib.Path(__file__).resolve().parent
 LOGIC = ("common", "categories", "events", "signals", "link", "core", "schedule", "definitions", "tool_support")
+# The folders with windows, and the programs that test each.
+WINDOWS = {"windows": ["windows_tests", "receiver_ui_tests", "editor_ui_tests"],
+           "receiver_ui": ["receiver_ui_tests", "x11_tests"], "editor_ui": ["editor_ui_tests"]}
 # Programs that test what stands on a folder of the logic, besides the folder's own.
 TOOLS = {"definitions": ["inspect_tests"], "events": ["inspect_tests"], "core": ["receiver_check_tests"],
          "tool_support": ["inspect_tests", "receiver_check_tests"], "categories": ["receiver_check_tests"]}
@@ -54,6 +57,8 @@ def users(folder, page=None):
 
 
 def programs_of(folder):
+    if folder in WINDOWS:
+        return WINDOWS[folder]
     programs = [f"{name}_tests" for name in users(folder)]
     return programs + [name for name in TOOLS.get(folder, []) if name not in programs]
 
@@ -88,7 +93,7 @@ def equivalents(text=None):
 
 def places(folder):
     """(name, file, change) of every place of a folder."""
-    for path in sorted([*(ROOT / "src" / folder).glob("*.cpp"), *(ROOT / "src" / folder).glob("*.h")]):
+    for path in sorted([*(ROOT / "src" / folder).rglob("*.cpp"), *(ROOT / "src" / folder).rglob("*.h")]):
         file = str(path.relative_to(ROOT))
         for change in changes.changes(path.read_text()):
             yield f"{file}: {change.name}", file, change
@@ -133,10 +138,11 @@ def try_all(folders, wish, tried, known):
     work = {folder: chosen(folder, wish, lines) for folder in folders}
     untried = {folder: [place for place in work[folder] if place[0] not in known and
                         tried.outcome(place[0], place[1], wish.again) is None] for folder in folders}
-    bench = trial.Trial(ROOT, wish.jobs)
-    if any(untried.values()):
-        bench.prepare()
+    benches = [trial.Trial(ROOT, windows, wish.jobs) for windows in (False, True)]
     for folder in folders:
+        bench = benches[folder in WINDOWS]
+        if untried[folder]:
+            bench.prepare()
         for number, (name, file, change) in enumerate(untried[folder], 1):
             source = (ROOT / file).read_text()
             programs = programs_of(folder) + (["life_tests"] if wish.life else [])
@@ -167,7 +173,7 @@ def report(work, tried, known):
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter,
                                      usage=argparse.SUPPRESS)
-    parser.add_argument("folders", nargs="*", choices=[[], *LOGIC], metavar="FOLDER", help=argparse.SUPPRESS)
+    parser.add_argument("folders", nargs="*", choices=[[], *LOGIC, *WINDOWS], metavar="FOLDER", help=argparse.SUPPRESS)
     for option, kind in (("--number", int), ("--seed", int), ("--since", str), ("--jobs", int)):
         parser.add_argument(option, type=kind, help=argparse.SUPPRESS)
     for option in ("--again", "--list", "--life", "--report"):

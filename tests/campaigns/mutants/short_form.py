@@ -99,7 +99,7 @@ class Places(unittest.TestCase):
 
 class Lists(unittest.TestCase):
     def test_every_change_that_is_said_to_be_equivalent_is_there_and_has_a_reason(self):
-        names = {name for folder in mutants.LOGIC for name, _, _ in mutants.places(folder)}
+        names = {name for folder in (*mutants.LOGIC, *mutants.WINDOWS) for name, _, _ in mutants.places(folder)}
         for name, reason in mutants.equivalents().items():
             self.assertIn(name, names)
             self.assertGreater(len(reason.split()), 2, name)
@@ -112,6 +112,10 @@ class Lists(unittest.TestCase):
         self.assertEqual(mutants.users("link"), ["link", "core"])
         self.assertEqual(mutants.users("schedule"), ["schedule", "definitions"])
         self.assertEqual(mutants.programs_of("link"), ["link_tests", "core_tests"])
+
+    def test_windows_are_found_in_folders_of_folders_and_tested_by_their_own_programs(self):
+        self.assertIn("src/receiver_ui/popups/popup_stack.cpp", {file for _, file, _ in mutants.places("receiver_ui")})
+        self.assertEqual(mutants.programs_of("receiver_ui"), ["receiver_ui_tests", "x11_tests"])
 
     def test_places_are_chosen_alike_for_a_seed(self):
         wish = type("Wish", (), {"number": 5, "seed": 3})

@@ -16,10 +16,10 @@ QUIET = "".join(f'#pragma GCC diagnostic ignored "-W{name}"\n' for name in (
 class Trial:
     """Builds and runs in a copy of its own, so that a campaign that is cut off leaves nothing broken."""
 
-    def __init__(self, root, jobs=2):
-        self.root, self.jobs = root, jobs
+    def __init__(self, root, windows=False, jobs=2):
+        self.root, self.windows, self.jobs = root, windows, jobs
         self.copy = root / "build" / "mutants" / "source"
-        self.build = self.copy / "build" / "dev"
+        self.build = self.copy / "build" / ("windows" if windows else "dev")
         self.limits = {}
         self.environment = {**os.environ, "TZ": "Europe/Stockholm", "LC_ALL": "C.UTF-8",
                             "CCACHE_BASEDIR": str(self.copy), "CCACHE_NOHASHDIR": "1"}
@@ -45,7 +45,8 @@ class Trial:
         self.refresh()
         launcher = "-DCMAKE_CXX_COMPILER_LAUNCHER=" + ("ccache" if shutil.which("ccache") else "")
         linker = "-DCMAKE_EXE_LINKER_FLAGS=" + ("-fuse-ld=lld" if shutil.which("ld.lld") else "")
-        self.must(["cmake", "--preset", "dev", "-DVIGREL_WITH_QT=OFF", launcher, linker,
+        windows = "-DVIGREL_WITH_QT=" + ("ON" if self.windows else "OFF")
+        self.must(["cmake", "--preset", "dev", "-B", self.build, windows, launcher, linker,
                    "-DCMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE=PRE_TEST"])
 
     def learn(self, program):

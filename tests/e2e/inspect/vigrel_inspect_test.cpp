@@ -78,6 +78,47 @@ TEST_F(VigrelInspect, NamesAFileWhoseKindCantBeTold) {
     EXPECT_NE(run.output.find("the kind can't be told from the name; --as says it"), std::string::npos);
 }
 
+// Friday, 25 December 2026, is day 9855 of a calendar; there it is of the first special type, which the week
+// knows and gives no period.
+TEST_F(VigrelInspect, TellsWhatIsInForceAtAMoment) {
+    Put("Profile_0012.dat", testing::Sample("profile_version_5.dat"));
+    Put("Week.sch", testing::Sample("schedule.dat"));
+    std::string calendar(29220, '\0');
+    calendar[2 * 9855] = 8;
+    Put("Calendar.cal", calendar);
+    const cRun weekday = Run("Week.sch --at '2026-12-25 10:00'");
+    EXPECT_EQ(weekday.exitCode, 0);
+    EXPECT_EQ(weekday.output,
+              "Week.sch\nWhen: 2026-12-25 10:00, Friday\n"
+              "Day type: Friday, by the weekday; no calendar was named\n"
+              "In a group with: Monday, Tuesday, Wednesday, Thursday\nPeriods: 07:00-16:00\n"
+              "Active: yes, until 16:00\n");
+    const cRun holiday = Run("Profile_0012.dat Week.sch --at '2026-12-25 10:00' --calendar Calendar.cal");
+    EXPECT_EQ(holiday.exitCode, 0);
+    EXPECT_TRUE(holiday.output.starts_with("Profile_0012.dat (Night)\nWhen: 2026-12-25 10:00, Friday\n"))
+        << holiday.output;
+    EXPECT_TRUE(
+        holiday.output.ends_with("\n\nWeek.sch\nWhen: 2026-12-25 10:00, Friday\n"
+                                 "Day type: special day type 1, by Calendar.cal\nPeriods: none\n"
+                                 "Active: no, until 24:00 at least\n"))
+        << holiday.output;
+    EXPECT_EQ(Content("Week.sch"), testing::Sample("schedule.dat"));
+}
+
+TEST_F(VigrelInspect, GoesOnBehindAFileThatHasNothingInForce) {
+    Put("Week.sch", testing::Sample("schedule.dat"));
+    Put("Receiver_0007.dat", testing::Sample("receiver_version_5.dat"));
+    const cRun run = RunTelling("Receiver_0007.dat Week.sch --at '2026-12-25 10:00'");
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.errors, "vigrel-inspect: Receiver_0007.dat is neither a profile nor a time schedule\n");
+    EXPECT_TRUE(run.output.starts_with("Week.sch\n")) << run.output;
+    EXPECT_EQ(RunTelling("Week.sch --at '25 December'").exitCode, 2);
+    const cRun missing = RunTelling("Week.sch --at '2026-12-25 10:00' --calendar none.cal");
+    EXPECT_EQ(missing.exitCode, 1);
+    EXPECT_EQ(missing.output, "");
+    EXPECT_NE(missing.errors.find("none.cal: No such file"), std::string::npos) << missing.errors;
+}
+
 TEST_F(VigrelInspect, PrintsHelpWithExamples) {
     const cRun run = Run("--help");
     EXPECT_EQ(run.exitCode, 0);
