@@ -154,6 +154,30 @@ constexpr std::array kAustria{
     Fixed(12, 31, "Silvester").NameOnly(),
 };
 
+// Four days are free in all of the cantons. What only some of them keep has a name alone.
+constexpr std::array kSwitzerland{
+    Fixed(1, 1, "Neujahr"),
+    Fixed(1, 2, "Berchtoldstag").NameOnly(),
+    Fixed(1, 6, kEpiphany).NameOnly(),
+    Fixed(3, 19, "Josefstag").NameOnly(),
+    FromEaster(-2, "Karfreitag").NameOnly(),
+    FromEaster(0, "Ostersonntag").NameOnly(),
+    FromEaster(1, "Ostermontag").NameOnly(),
+    Fixed(5, 1, "Tag der Arbeit").NameOnly(),
+    FromEaster(39, "Auffahrt"),
+    FromEaster(49, "Pfingstsonntag").NameOnly(),
+    FromEaster(50, "Pfingstmontag").NameOnly(),
+    FromEaster(60, kCorpusChristi).NameOnly(),
+    Fixed(8, 1, "Bundesfeier"),
+    Fixed(8, 15, kAssumption).NameOnly(),
+    Fixed(11, 1, kAllSaints).NameOnly(),
+    Fixed(12, 8, "Mariä Empfängnis").NameOnly(),
+    Fixed(12, 24, "Heiligabend").NameOnly(),
+    Fixed(12, 25, "Weihnachtstag"),
+    Fixed(12, 26, "Stephanstag").NameOnly(),
+    Fixed(12, 31, "Silvester").NameOnly(),
+};
+
 // What all of the United Kingdom shares. The bank holidays in May were moved for jubilees and anniversaries.
 constexpr std::array kUnitedKingdom{
     Fixed(1, 1, "New Year's Day").WithSubstitute(),
@@ -228,6 +252,7 @@ constexpr std::array kCountries{
     cCountryRules{{"FI", "Finland"}, {}, kFinland},
     cCountryRules{{"NO", "Norway"}, {}, kNorway},
     cCountryRules{{"SE", "Sweden"}, {}, kSweden},
+    cCountryRules{{"CH", "Switzerland"}, {}, kSwitzerland},
     cCountryRules{{"GB", "United Kingdom (England and Wales)"}, kUnitedKingdom, kEnglandAndWales},
     cCountryRules{{"GB-NIR", "United Kingdom (Northern Ireland)"}, kUnitedKingdom, kNorthernIreland},
     cCountryRules{{"GB-SCT", "United Kingdom (Scotland)"}, kUnitedKingdom, kScotland},

@@ -18,13 +18,13 @@ std::string DateText(std::int32_t day) {
     return Digits(parts.year, 4) + "-" + Digits(parts.month, 2) + "-" + Digits(parts.day, 2);
 }
 
-// The public holidays of a year: "01-01 01-06".
-std::string FreeDays(std::string_view code, int year) {
+// Of a year, "01-01 01-06": its public holidays, or the days that have a name alone.
+std::string Days(std::string_view code, int year, bool free) {
     std::string text;
     const std::string prefix = std::to_string(year) + "-";
     for (const cHolidayLabel& label : PublicHolidays(code).m_HolidayLabels) {
         const std::string date = DateText(label.m_Day);
-        if (label.m_ViewInCalendar == False16 || date.rfind(prefix, 0) != 0) continue;
+        if ((label.m_ViewInCalendar != False16) != free || date.rfind(prefix, 0) != 0) continue;
         text += (text.empty() ? "" : " ") + date.substr(5);
     }
     return text;
@@ -62,7 +62,7 @@ struct cYear {
 class HolidaysOfAYear : public ::testing::TestWithParam<cYear> {};
 
 TEST_P(HolidaysOfAYear, AreThoseOfThePrintedCalendar) {
-    EXPECT_EQ(FreeDays(GetParam().code, GetParam().year), GetParam().days);
+    EXPECT_EQ(Days(GetParam().code, GetParam().year, true), GetParam().days);
 }
 
 const cYear kYears[] = {
@@ -167,6 +167,20 @@ const cYear kYears[] = {
     {"GB", 2039, "01-01 01-03 04-08 04-11 05-02 05-30 08-29 12-25 12-26 12-27"},
     {"GB-SCT", 2039, "01-01 01-02 01-03 01-04 04-08 05-02 05-30 08-01 11-30 12-25 12-26 12-27"},
     {"GB-NIR", 2039, "01-01 01-03 03-17 04-08 04-11 05-02 05-30 07-12 08-29 12-25 12-26 12-27"},
+    // The first and the last years of rules that began or ended.
+    {"DE-BE", 2019, "01-01 03-08 04-19 04-22 05-01 05-30 06-10 10-03 12-25 12-26"},
+    {"DE-BB", 2018, "01-01 03-30 04-01 04-02 05-01 05-10 05-20 05-21 10-03 10-31 12-25 12-26"},
+    {"DE-MV", 2017, "01-01 04-14 04-17 05-01 05-25 06-05 10-03 10-31 12-25 12-26"},
+    {"DE-MV", 2018, "01-01 03-30 04-02 05-01 05-10 05-21 10-03 10-31 12-25 12-26"},
+    {"DE-MV", 2023, "01-01 03-08 04-07 04-10 05-01 05-18 05-29 10-03 10-31 12-25 12-26"},
+    {"DE-SN", 2017, "01-01 04-14 04-17 05-01 05-25 06-05 10-03 10-31 11-22 12-25 12-26"},
+    {"DE-SN", 2018, "01-01 03-30 04-02 05-01 05-10 05-21 10-03 10-31 11-21 12-25 12-26"},
+    {"DE-ST", 2017, "01-01 01-06 04-14 04-17 05-01 05-25 06-05 10-03 10-31 12-25 12-26"},
+    {"DE-ST", 2018, "01-01 01-06 03-30 04-02 05-01 05-10 05-21 10-03 10-31 12-25 12-26"},
+    {"DE-TH", 2017, "01-01 04-14 04-17 05-01 05-25 06-05 10-03 10-31 12-25 12-26"},
+    {"DE-TH", 2019, "01-01 04-19 04-22 05-01 05-30 06-10 09-20 10-03 10-31 12-25 12-26"},
+    {"GB", 2003, "01-01 04-18 04-21 05-05 05-26 08-25 12-25 12-26"},
+    {"GB", 2013, "01-01 03-29 04-01 05-06 05-27 08-26 12-25 12-26"},
 };
 
 INSTANTIATE_TEST_SUITE_P(Schedule, HolidaysOfAYear, ::testing::ValuesIn(kYears), [](const auto& year) {
@@ -191,6 +205,17 @@ TEST(PublicHolidays, DenmarkKeptItsDayOfPrayerUntil2023) {
     EXPECT_EQ(NameOf("DK", 2000, 5, 19), "Store bededag");
     EXPECT_EQ(NameOf("DK", 2023, 5, 5), "Store bededag");
     EXPECT_EQ(NameOf("DK", 2024, 4, 26), "");
+}
+
+// What all cantons keep is shown; what some keep is named.
+TEST(PublicHolidays, SwitzerlandShowsWhatAllCantonsShare) {
+    EXPECT_EQ(Days("CH", 2026, true), "01-01 05-14 08-01 12-25");
+    EXPECT_EQ(
+        Days("CH", 2026, false),
+        "01-02 01-06 03-19 04-03 04-05 04-06 05-01 05-24 05-25 06-04 08-15 11-01 12-08 12-24 12-26 12-31");
+    EXPECT_EQ(NameOf("CH", 2026, 5, 14), "Auffahrt");
+    EXPECT_EQ(NameOf("CH", 2026, 4, 3), "Karfreitag");
+    EXPECT_EQ(NameOf("CH", 2026, 12, 26), "Stephanstag");
 }
 
 TEST(PublicHolidays, BritishSubstitutesAreNamed) {
@@ -219,6 +244,20 @@ TEST(PublicHolidays, EvesAreNamedLikeASaturdayAndNotShown) {
     EXPECT_EQ(holidays.LabelOf(CalendarIndex(DateSerial(2026, 6, 20)))->m_DayType, 6);
 }
 
+// Easter is on 5 April.
+TEST(PublicHolidays, DaysThatHaveANameAloneAreThoseOfThePrintedCalendar) {
+    const std::pair<const char*, const char*> days[] = {{"SE", "04-04 06-19 12-24 12-31"},
+                                                        {"NO", "03-29 04-04 05-23 12-24 12-31"},
+                                                        {"DK", "06-05 12-24 12-31"},
+                                                        {"FI", "06-19 12-24 12-31"},
+                                                        {"DE", "04-05 05-24 12-24 12-31"},
+                                                        {"DE-BY", "04-05 05-24 08-15 12-24 12-31"},
+                                                        {"DE-SN", "04-05 05-24 06-04 12-24 12-31"},
+                                                        {"DE-TH", "04-05 05-24 06-04 12-24 12-31"},
+                                                        {"AT", "04-03 04-05 05-24 12-24 12-31"}};
+    for (const auto& [code, expected] : days) EXPECT_EQ(Days(code, 2026, false), expected) << code;
+}
+
 TEST(PublicHolidays, TheNamesOfAYearLastToTheEndOfTheSpan) {
     const auto namesOf = [](const cHolidays& holidays, int year) {
         std::set<std::string> names;
@@ -238,7 +277,7 @@ TEST(PublicHolidays, TheNamesOfAYearLastToTheEndOfTheSpan) {
 }
 
 TEST(PublicHolidays, EveryListedCountryHasHolidaysInEveryYear) {
-    ASSERT_EQ(HolidayCountries().size(), 25u);
+    ASSERT_EQ(HolidayCountries().size(), 26u);
     for (const cHolidayCountry& country : HolidayCountries()) {
         const cHolidays holidays = PublicHolidays(country.code);
         std::array<int, 40> perYear{};

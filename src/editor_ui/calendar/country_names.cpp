@@ -29,6 +29,7 @@ namespace {
     QT_TRANSLATE_NOOP("Country", "Finland"),
     QT_TRANSLATE_NOOP("Country", "Norway"),
     QT_TRANSLATE_NOOP("Country", "Sweden"),
+    QT_TRANSLATE_NOOP("Country", "Switzerland"),
     QT_TRANSLATE_NOOP("Country", "United Kingdom (England and Wales)"),
     QT_TRANSLATE_NOOP("Country", "United Kingdom (Northern Ireland)"),
     QT_TRANSLATE_NOOP("Country", "United Kingdom (Scotland)")};
