@@ -103,6 +103,10 @@
         <source>Germany (Thuringia)</source>
         <translation>Tyskland (Thüringen)</translation>
     </message>
+    <message>
+        <source>Switzerland</source>
+        <translation>Schweiz</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -743,6 +747,10 @@
     <message>
         <source>The day&apos;s 24 hours</source>
         <translation>Dagens 24 timer</translation>
+    </message>
+    <message>
+        <source>Day type: %1, by the weekday: no calendar is open</source>
+        <translation>Dagtype: %1, efter ugedagen: ingen kalender er åben</translation>
     </message>
 </context>
 <context>
@@ -2055,6 +2063,14 @@ Programmets mappe: %3</translation>
     <message>
         <source>The day has no gap for another period.</source>
         <translation>Dagen har ikke plads til endnu en periode.</translation>
+    </message>
+    <message>
+        <source>renaming a day type</source>
+        <translation>omdøbning af en dagtype</translation>
+    </message>
+    <message>
+        <source>choosing an image</source>
+        <translation>valg af et billede</translation>
     </message>
 </context>
 <context>

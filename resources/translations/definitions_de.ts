@@ -103,6 +103,10 @@
         <source>Germany (Thuringia)</source>
         <translation>Deutschland (Thüringen)</translation>
     </message>
+    <message>
+        <source>Switzerland</source>
+        <translation>Schweiz</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -743,6 +747,10 @@
     <message>
         <source>The day&apos;s 24 hours</source>
         <translation>Die 24 Stunden des Tages</translation>
+    </message>
+    <message>
+        <source>Day type: %1, by the weekday: no calendar is open</source>
+        <translation>Tagestyp: %1, nach dem Wochentag: kein Kalender ist geöffnet</translation>
     </message>
 </context>
 <context>
@@ -2055,6 +2063,14 @@ Programmordner: %3</translation>
     <message>
         <source>The day has no gap for another period.</source>
         <translation>Der Tag hat keine Lücke für einen weiteren Zeitraum.</translation>
+    </message>
+    <message>
+        <source>renaming a day type</source>
+        <translation>Umbenennen eines Tagestyps</translation>
+    </message>
+    <message>
+        <source>choosing an image</source>
+        <translation>Wahl eines Bildes</translation>
     </message>
 </context>
 <context>

@@ -103,6 +103,10 @@
         <source>Germany (Thuringia)</source>
         <translation>Saksa (Thüringen)</translation>
     </message>
+    <message>
+        <source>Switzerland</source>
+        <translation>Sveitsi</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -743,6 +747,10 @@
     <message>
         <source>The day&apos;s 24 hours</source>
         <translation>Päivän 24 tuntia</translation>
+    </message>
+    <message>
+        <source>Day type: %1, by the weekday: no calendar is open</source>
+        <translation>Päivätyyppi: %1, viikonpäivän mukaan: mikään kalenteri ei ole auki</translation>
     </message>
 </context>
 <context>
@@ -2055,6 +2063,14 @@ Ohjelman kansio: %3</translation>
     <message>
         <source>The day has no gap for another period.</source>
         <translation>Päivässä ei ole tilaa uudelle jaksolle.</translation>
+    </message>
+    <message>
+        <source>renaming a day type</source>
+        <translation>päivätyypin nimen vaihto</translation>
+    </message>
+    <message>
+        <source>choosing an image</source>
+        <translation>kuvan valinta</translation>
     </message>
 </context>
 <context>

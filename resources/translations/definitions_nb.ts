@@ -103,6 +103,10 @@
         <source>Germany (Thuringia)</source>
         <translation>Tyskland (Thüringen)</translation>
     </message>
+    <message>
+        <source>Switzerland</source>
+        <translation>Sveits</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -743,6 +747,10 @@
     <message>
         <source>The day&apos;s 24 hours</source>
         <translation>Dagens 24 timer</translation>
+    </message>
+    <message>
+        <source>Day type: %1, by the weekday: no calendar is open</source>
+        <translation>Dagtype: %1, etter ukedagen: ingen kalender er åpen</translation>
     </message>
 </context>
 <context>
@@ -2055,6 +2063,14 @@ Programmets mappe: %3</translation>
     <message>
         <source>The day has no gap for another period.</source>
         <translation>Dagen har ikke plass til flere perioder.</translation>
+    </message>
+    <message>
+        <source>renaming a day type</source>
+        <translation>nytt navn på en dagtype</translation>
+    </message>
+    <message>
+        <source>choosing an image</source>
+        <translation>valg av et bilde</translation>
     </message>
 </context>
 <context>

@@ -103,6 +103,10 @@
         <source>Germany (Thuringia)</source>
         <translation>Tyskland (Thüringen)</translation>
     </message>
+    <message>
+        <source>Switzerland</source>
+        <translation>Schweiz</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -743,6 +747,10 @@
     <message>
         <source>The day&apos;s 24 hours</source>
         <translation>Dagens 24 timmar</translation>
+    </message>
+    <message>
+        <source>Day type: %1, by the weekday: no calendar is open</source>
+        <translation>Dagtyp: %1, enligt veckodagen: ingen kalender är öppen</translation>
     </message>
 </context>
 <context>
@@ -2055,6 +2063,14 @@ Programmets mapp: %3</translation>
     <message>
         <source>The day has no gap for another period.</source>
         <translation>Dagen har ingen lucka för ytterligare en period.</translation>
+    </message>
+    <message>
+        <source>renaming a day type</source>
+        <translation>byte av en dagtyps namn</translation>
+    </message>
+    <message>
+        <source>choosing an image</source>
+        <translation>byte av en dagtyps bild</translation>
     </message>
 </context>
 <context>

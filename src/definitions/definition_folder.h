@@ -127,8 +127,9 @@ class cDefinitionFolder {
     // Writes one, and reads it back as the file has it.
     bool Save(std::size_t position) {
         Definition& definition = At(position);
-        if (!definition.SaveToDisk() || !definition.LoadFromDisk(definition.m_DiskIdentity)) return false;
-        m_Entries[position].stamp = StampOf(definition);
+        cFileReader::cStamp stamp;
+        if (!definition.SaveToDisk() || !Read(definition, definition.m_DiskIdentity, stamp)) return false;
+        m_Entries[position].stamp = stamp;
         return true;
     }
     // Takes one away, with its file when it has one. False, and it stays, when the file can't be removed.
@@ -141,10 +142,10 @@ class cDefinitionFolder {
     // can no longer be read; it keeps its changes then.
     bool Revert(std::size_t position) {
         if (At(position).m_DiskIdentity < 0) return Remove(position);
-        auto again = InFile(position);
-        if (!again) return false;
-        m_Entries[position] = {std::move(again), {}, {}};
-        m_Entries[position].stamp = StampOf(At(position));
+        auto again = std::make_unique<Definition>(m_Services);
+        cFileReader::cStamp stamp;
+        if (!HasFile(position) || !Read(*again, At(position).m_DiskIdentity, stamp)) return false;
+        m_Entries[position] = {std::move(again), stamp, {}};
         return true;
     }
 
@@ -167,13 +168,14 @@ class cDefinitionFolder {
     bool BringBack(std::size_t position, const Definition& content, std::int16_t identity,
                    const std::optional<std::string>& file) {
         auto definition = std::make_unique<Definition>(m_Services);
-        const bool asFile = file && WriteBack(identity, *file) && definition->LoadFromDisk(identity);
+        cFileReader::cStamp stamp;
+        const bool asFile = file && WriteBack(identity, *file) && Read(*definition, identity, stamp);
         definition->CopyFrom(content);
         if (!file && identity >= 0 && !Holds(identity) && IsMissing(m_Services.files, PathOf(identity))) {
             definition->m_DiskIdentity = identity;
         }
         cEntry entry{std::move(definition), {}, {}};
-        if (asFile) entry.stamp = StampOf(*entry.definition);
+        if (asFile) entry.stamp = stamp;
         m_Entries.insert(m_Entries.begin() + static_cast<std::ptrdiff_t>(position), std::move(entry));
         return asFile || !file;
     }
@@ -293,13 +295,23 @@ class cDefinitionFolder {
         for (const auto& [path, file] : m_NotLoaded) m_Unreadable.push_back({path, file.reason});
         return m_Entries.size() != before;
     }
-    // The stamp of one that isn't loaded is that of before: who writes it meanwhile is seen.
+    // Gives the stamp of before: who writes the file meanwhile is seen. Bringing it up to the current version
+    // writes it, too, and then it is read again.
+    bool Read(Definition& definition, std::int16_t identity, cFileReader::cStamp& stamp) const {
+        const std::string path = PathOf(identity);
+        for (int i = 0; i < 2; ++i) {
+            stamp = m_Services.files.Stamp(path);
+            if (!definition.LoadFromDisk(identity)) return false;
+            if (stamp == m_Services.files.Stamp(path)) break;
+        }
+        return true;
+    }
     void Load(std::int16_t identity) {
         const std::string path = PathOf(identity);
-        const cFileReader::cStamp stamp = m_Services.files.Stamp(path);
+        cFileReader::cStamp stamp;
         auto definition = std::make_unique<Definition>(m_Services);
-        if (definition->LoadFromDisk(identity)) {
-            m_Entries.push_back({std::move(definition), m_Services.files.Stamp(path), {}});
+        if (Read(*definition, identity, stamp)) {
+            m_Entries.push_back({std::move(definition), stamp, {}});
         } else {
             m_NotLoaded.emplace(path,
                                 cNotLoaded{stamp, ReasonNotLoaded(m_Services, Definition::kKind, path)});

@@ -43,12 +43,14 @@ TEST_F(DefinitionFolder, AFileThatIsLeftOutIsToldWithItsReason) {
     m_Files.Put(ReceiverPath("0003"), "x");
     m_Files.Put(ReceiverPath("0004"), std::string("\x02\x00", 2));
     m_Files.Put(ReceiverPath("0005"), std::string("\x05\x00", 2));
+    m_Files.Put(ReceiverPath("0006"), std::string("\x03\x00", 2));
     m_Receivers.Load();
     const std::vector<cUnreadableFile> unreadable{
         {ReceiverPath("0002"), "The file has 0 bytes: it is empty."},
         {ReceiverPath("0003"), "The file has 1 bytes: it is empty."},
         {ReceiverPath("0004"), "The file's version is 2, not one of 3 to 5."},
         {ReceiverPath("0005"), "The file is damaged: it ends too early or holds a value that is none."},
+        {ReceiverPath("0006"), "The file is damaged: it ends too early or holds a value that is none."},
         {ReceiverPath("0008"), "The file's version is 262, not one of 3 to 5."}};
     EXPECT_EQ(m_Receivers.Unreadable(), unreadable);
 }
@@ -219,6 +221,44 @@ TEST_F(DefinitionFolder, AFileThatOthersChangedIsTakenUpWithWhatItWas) {
     EXPECT_EQ(m_Receivers.At(0).m_ReceiverName, "Nord");
     EXPECT_EQ(m_Receivers.StateOfFile(0), eFileState::Unchanged);
     EXPECT_FALSE(m_Receivers.Rescan(HoldsNone, others.Taken()));
+}
+
+// Once, as soon as the bytes of a file were taken. The first time it is only looked whether there is one.
+void ChangeWhenRead(cFakeFiles& files, const std::string& file, const std::string& bytes) {
+    files.m_OnRead = [&files, file, bytes, reads = 0](std::string_view path) mutable {
+        if (path == file && ++reads == 2) files.Put(file, bytes);
+    };
+}
+
+TEST_F(DefinitionFolder, WhatOthersWriteWhileAFileIsReadIsNoticed) {
+    const std::string ours = testing::Sample("receiver_version_5.dat");
+    const std::string theirs = std::string(ours).replace(10, 3, "XYZ");
+    ChangeWhenRead(m_Files, ReceiverPath("0007"), theirs);
+    m_Receivers.Load();
+    EXPECT_EQ(m_Receivers.At(0).m_ReceiverName, "XYZ");
+    EXPECT_EQ(m_Receivers.StateOfFile(0), eFileState::Unchanged);
+    m_Receivers.At(0).m_ReceiverName = "Mine";
+    ChangeWhenRead(m_Files, ReceiverPath("0007"), ours);
+    EXPECT_TRUE(m_Receivers.Revert(0));
+    EXPECT_EQ(m_Receivers.At(0).m_ReceiverName, "\xD6st");
+    m_Receivers.At(0).m_ReceiverName = "Mine";
+    ChangeWhenRead(m_Files, ReceiverPath("0007"), theirs);
+    EXPECT_TRUE(m_Receivers.Save(0));
+    EXPECT_EQ(m_Receivers.At(0).m_ReceiverName, "XYZ");
+    EXPECT_EQ(m_Receivers.StateOfFile(0), eFileState::Unchanged);
+}
+
+// Somebody who goes on writing is seen at the next look.
+TEST_F(DefinitionFolder, AFileThatOthersWriteAgainAndAgainCountsAsChanged) {
+    const std::string sample = testing::Sample("receiver_version_5.dat");
+    m_Files.m_OnRead = [this, &sample](std::string_view path) {
+        if (path == ReceiverPath("0007")) m_Files.Put(ReceiverPath("0007"), sample);
+    };
+    m_Receivers.Load();
+    m_Files.m_OnRead = nullptr;
+    EXPECT_EQ(m_Receivers.StateOfFile(0), eFileState::Changed);
+    EXPECT_TRUE(m_Receivers.Rescan(HoldsNone));
+    EXPECT_EQ(m_Receivers.StateOfFile(0), eFileState::Unchanged);
 }
 
 TEST_F(DefinitionFolder, AFileThatOthersRemovedGoes) {
@@ -448,16 +488,20 @@ TEST_F(DefinitionFolder, OfTwoFilesWithOneNumberOneIsOpenedAndTheOtherTold) {
     EXPECT_EQ(folder.Unreadable(), others);
 }
 
+// A folder of receivers whose names others have spelled.
+class cFilesOfOthers : public testing::cFakeFiles {
+  public:
+    explicit cFilesOfOthers(std::vector<std::string> names) : m_Names(std::move(names)) {}
+    std::vector<std::string> ListFiles(std::string_view folder, std::string_view mask) const override {
+        return mask.starts_with("Receiver_") ? m_Names : cFakeFiles::ListFiles(folder, mask);
+    }
+
+  private:
+    std::vector<std::string> m_Names;
+};
+
 TEST_F(DefinitionFolder, OfTwoFilesOfOneNumberWithoutTheOwnSpellingTheFirstIsOpened) {
-    // Neither is spelled as the editor would.
-    class cFilesOfOthers : public testing::cFakeFiles {
-      public:
-        std::vector<std::string> ListFiles(std::string_view folder, std::string_view mask) const override {
-            if (!mask.starts_with("Receiver_")) return cFakeFiles::ListFiles(folder, mask);
-            return {"RECEIVER_0007.DAT", "receiver_0007.dat"};
-        }
-    };
-    cFilesOfOthers files;
+    cFilesOfOthers files({"RECEIVER_0007.DAT", "receiver_0007.dat"});
     files.Put(ReceiverPath("0007"), testing::Sample("receiver_version_5.dat"));
     const cDefinitionServices services{files, m_Clock, m_Random, m_Texts, m_Log, m_Ini, m_Types};
     cReceiverFolder folder(services);
@@ -467,6 +511,12 @@ TEST_F(DefinitionFolder, OfTwoFilesOfOneNumberWithoutTheOwnSpellingTheFirstIsOpe
         {"C:\\App\\Receivers\\receiver_0007.dat",
          "It has the same number as RECEIVER_0007.DAT; rename one of them."}};
     EXPECT_EQ(folder.Unreadable(), others);
+}
+
+TEST_F(DefinitionFolder, TwinsThatLieApartInTheFolderHaveOneNumber) {
+    cFilesOfOthers files({"RECEIVER_0007.DAT", "Receiver_0009.dat", "receiver_0007.dat"});
+    const cDefinitionServices services{files, m_Clock, m_Random, m_Texts, m_Log, m_Ini, m_Types};
+    EXPECT_EQ(DefinitionIdentities(services, cReceiver::kKind), (std::vector<std::int16_t>{7, 9}));
 }
 
 TEST_F(DefinitionFolder, TwinsThatComeAndGoAreNews) {

@@ -1,4 +1,7 @@
+#include <QContextMenuEvent>
+#include <QMenu>
 #include <QStatusBar>
+#include <QToolButton>
 
 #include "editor_ui/editor_bench.h"
 #include "schedule/calendar_geometry.h"
@@ -284,6 +287,30 @@ TEST_F(CalendarPage, TheLastYearIsNotCopiedAndThatIsTold) {
     EXPECT_EQ(m_Page.UndoStack()->count(), 0);
     EXPECT_EQ(m_Window->statusBar()->currentMessage().toStdString(),
               "2039 is the last year of a calendar: there is none to copy it to.");
+}
+
+TEST_F(CalendarPage, ThePopupMenuOpensOverMonthAndYear) {
+    auto& menu = Find<QMenu>(m_Page, "Menu_CalendarPopup");
+    QStringList entries;
+    for (const QAction* action : menu.actions()) entries += action->text().remove('&');
+    EXPECT_EQ(entries.join('|'),
+              "Give the year's holidays the chosen day type|Give all years' holidays the chosen day type||"
+              "Copy the year to the next|Clear the year");
+    const auto open = [&](QWidget& view, QContextMenuEvent::Reason reason) {
+        QContextMenuEvent event(reason, Cell(0, 0), view.mapToGlobal(Cell(0, 0)));
+        QCoreApplication::sendEvent(&view, &event);
+        const bool isOpen = menu.isVisible();
+        menu.hide();
+        return isOpen;
+    };
+    EXPECT_TRUE(open(View(), QContextMenuEvent::Mouse));
+    EXPECT_TRUE(open(View(), QContextMenuEvent::Keyboard));
+    // Not in the middle of a stroke.
+    Press(View(), Cell(0, 0));
+    EXPECT_FALSE(open(View(), QContextMenuEvent::Mouse));
+    Release(View(), Cell(0, 0));
+    Find<QToolButton>(m_Page, "Button_Calendar_ShowYear").click();
+    EXPECT_TRUE(open(Find<QWidget>(m_Page, "Picture_Calendar_Year"), QContextMenuEvent::Mouse));
 }
 
 TEST_F(CalendarPage, TheTimeAxisIsThatOfTheChosenSchedule) {

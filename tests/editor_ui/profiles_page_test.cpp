@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QDateEdit>
 #include <QImage>
 #include <QListWidget>
@@ -17,6 +18,7 @@
 #include <QUndoStack>
 #include <QWheelEvent>
 
+#include "common/dates.h"
 #include "editor_ui/calendar/calendar_editor.h"
 #include "editor_ui/page_fixture.h"
 #include "editor_ui/pages/file_document.h"
@@ -575,6 +577,39 @@ TEST_F(ProfilesPage, ACalendarThatOthersChangedIsReadAgain) {
     }
 }
 
+// The window's menu speaks of the profiles there.
+TEST_F(ProfilesPage, TheCalendarBesideAProfileIsCopiedToTheNextYearByItsMenu) {
+    Put("Calendar.cal", std::string(29220, '\0'));
+    ShowTab(4);
+    cCalendarEditor& editor = *Page().findChild<cCalendarEditor*>();
+    MarkADay(editor);
+    auto* view = Find<QWidget>(Page(), "Picture_Calendar");
+    QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(50, 32), view->mapToGlobal(QPoint(50, 32)));
+    QCoreApplication::sendEvent(view, &event);
+    auto* menu = Find<QMenu>(Page(), "Menu_CalendarPopup");
+    ASSERT_TRUE(menu->isVisible());
+    menu->hide();
+    Find<QAction>(Page(), "Menu_Calendar_CopyYear")->trigger();
+    EXPECT_EQ(editor.Calendar().GetDayType(CalendarIndex(DateSerial(2027, 6, 1))), 8);
+    EXPECT_EQ(Page().UndoStack()->undoText(), "copying a year");
+}
+
+TEST_F(ProfilesPage, UndoShowsTheScheduleWhoseDayTypeItGivesItsNameBack) {
+    ShowTab(3);
+    auto* list = Find<QListWidget>(Page(), "List_DayTypes");
+    QApplication::setActiveWindow(&Page());
+    list->setFocus();
+    list->setCurrentRow(7);
+    m_Prompts.m_Texts = {"Lucia"};
+    Find<QAction>(Page(), "Menu_TimeSchedulePopup_Rename")->trigger();
+    EXPECT_EQ(m_Services.m_DayTypeNames.Name(7), "Lucia");
+    ShowTab(0);
+    Page().UndoStack()->undo();
+    EXPECT_EQ(m_Services.m_DayTypeNames.Name(7), "Special day type 1");
+    EXPECT_EQ(Find<QTabWidget>(Page(), "Tabs_Profile")->currentIndex(), 3);
+    EXPECT_FALSE(Page().IsDirty());
+}
+
 TEST_F(ProfilesPage, ADayIsAnsweredForWithItsReason) {
     Shown().m_TimeSchedule = std::make_unique<cTimeSchedule>();
     Shown().m_TimeSchedule->SetDefaultPeriod();
@@ -641,6 +676,45 @@ TEST_F(ProfilesPage, TheAnswerForADayFollowsTheTickAndTheCalendar) {
     EXPECT_TRUE(
         reason().starts_with("Day type: Friday, by the weekday: the calendar gives Special day type 1"))
         << reason();
+}
+
+TEST_F(ProfilesPage, TheAnswerForADaySaysThatThereIsNoCalendar) {
+    ShowTab(5);
+    Find<QDateEdit>(Page(), "Date_ActiveDay")->setDate({2026, 12, 24});
+    const auto rule = [this] {
+        const std::string reason = LabelOf(Page(), "Label_ActiveDay_Reason");
+        return reason.substr(0, reason.find('\n'));
+    };
+    EXPECT_EQ(rule(), "Day type: Thursday, by the weekday: no calendar is open");
+    // Days that were painted are a calendar, too.
+    MarkADay(*Page().findChild<cCalendarEditor*>());
+    EXPECT_EQ(rule(), "Day type: Thursday, by the weekday: the calendar says nothing of the date");
+    Page().UndoStack()->undo();
+    ShowTab(5);
+    EXPECT_EQ(rule(), "Day type: Thursday, by the weekday: no calendar is open");
+    Put("Calendar.cal", std::string(29220, '\0'));
+    ASSERT_TRUE(Page().findChild<cFileDocument*>()->Open(Path("Calendar.cal")));
+    EXPECT_EQ(rule(), "Day type: Thursday, by the weekday: the calendar says nothing of the date");
+}
+
+// Also when the application folder has another place by then, as one that was restored on another machine.
+TEST_F(ProfilesPage, TheCalendarOfTheLastTimeComesBackByItsNameInTheApplicationFolder) {
+    std::string site(29220, '\0');
+    site[0] = 9;
+    Put("Calendar.cal", std::string(29220, '\0'));
+    Put("Site.cal", site);
+    m_Prompts.m_Texts = {"C:/App/Site.cal"};
+    Press(Page(), "Button_OpenCalendar");
+    EXPECT_EQ(m_Ini.GetIniString("Profiles", "Calendar", "", "VigrelDefinitions.INI"), "Site.cal");
+    Reopen();
+    EXPECT_EQ(LabelOf(Page(), "Label_Calendar"), "C:/App/Site.cal");
+    EXPECT_EQ(Page().findChild<cCalendarEditor*>()->Calendar().GetDayType(0), 9);
+    // One of elsewhere by its path.
+    m_Files.Put("/elsewhere/Other.cal", site);
+    m_Prompts.m_Texts = {"/elsewhere/Other.cal"};
+    Press(Page(), "Button_OpenCalendar");
+    Reopen();
+    EXPECT_EQ(LabelOf(Page(), "Label_Calendar"), "/elsewhere/Other.cal");
 }
 
 TEST_F(ProfilesPage, TheActiveHoursAreALineOfTheDay) {

@@ -2,6 +2,7 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -36,6 +37,13 @@ class ReceiversPage : public PageTest {
         ASSERT_GE(row, 0) << name.toStdString();
         combo->setCurrentIndex(row);
         emit combo->activated(row);
+    }
+    // With values that its settings can have.
+    void MakeRadio() {
+        ChooseType("Radio");
+        Type(Page(), "Text_Setting_1", "45");
+        emit Find<QComboBox>(Page(), "Combo_Setting_2")->activated(1);
+        ASSERT_TRUE(Page().Save());
     }
     cReceiver& Shown() { return m_Station.Receivers().At(static_cast<std::size_t>(Page().Chosen())); }
 
@@ -281,6 +289,14 @@ TEST_F(ReceiversPage, AnEmptyStationOffersTheFirstReceiver) {
     EXPECT_TRUE(Find<QWidget>(Page(), "Label_NoDefinitions")->isVisible());
 }
 
+// The toolkit asks for the text of the row that is none.
+TEST_F(ReceiversPage, TheKeyThatCopiesTakesNothingFromAListWithoutRows) {
+    m_Files.RemoveFile(Path("Receivers\\Receiver_0007.dat"));
+    QApplication::clipboard()->setText("before");
+    QTest::keyClick(Find<QAbstractItemView>(Page(), "List_Definitions"), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), "before");
+}
+
 // What the type doesn't use takes no room and no input, in whichever order types are chosen; of a type that
 // isn't known all values are shown, since they are in the file.
 TEST_F(ReceiversPage, OnlyTheFieldsOfTheTypeAreShown) {
@@ -318,16 +334,14 @@ TEST_F(ReceiversPage, EveryFieldHasANameForAssistiveTools) {
 
 TEST_F(ReceiversPage, AHalfTypedValueStandsInTheWayWhicheverReceiverIsShown) {
     PutSample("Receivers\\Receiver_0042.dat", "receiver_version_5.dat");
-    ChooseType("Radio");
-    Page().Save();
+    MakeRadio();
     Page().Choose(1);
-    ChooseType("Radio");
-    Page().Save();
+    MakeRadio();
     const std::string before = OnDisk("Receivers\\Receiver_0042.dat");
     Type(Page(), "Text_Setting_1", "1500x");
     Page().Choose(0);
     EXPECT_TRUE(Page().IsDirty());
-    EXPECT_EQ(TextOf(Page(), "Text_Setting_1"), "2.5");
+    EXPECT_EQ(TextOf(Page(), "Text_Setting_1"), "45");
     EXPECT_FALSE(Page().Save());
     EXPECT_EQ(OnDisk("Receivers\\Receiver_0042.dat"), before);
     // The message leads to the receiver and the field.
@@ -341,8 +355,7 @@ TEST_F(ReceiversPage, AHalfTypedValueStandsInTheWayWhicheverReceiverIsShown) {
 }
 
 TEST_F(ReceiversPage, AReceiverWithAHalfTypedValueIsMarkedUntilTheTypingIsTakenBack) {
-    ChooseType("Radio");
-    Page().Save();
+    MakeRadio();
     const auto mark = [this] {
         const auto* list = Find<QAbstractItemView>(Page(), "List_Definitions");
         return list->model()->index(0, 0).data(Qt::ToolTipRole).toString().toStdString();
@@ -371,6 +384,49 @@ TEST_F(ReceiversPage, AnotherTypeTakesWhatIsAValueForIt) {
     EXPECT_FALSE(Page().Save());
     ChooseType("Printer");
     EXPECT_TRUE(Page().Save());
+}
+
+TEST_F(ReceiversPage, AnotherTypeMarksWhatIsNoValueForIt) {
+    const std::string before = OnDisk("Receivers\\Receiver_0007.dat");
+    ChooseType("Radio");
+    EXPECT_EQ(Page().UndoStack()->count(), 1);
+    EXPECT_EQ(TextOf(Page(), "Text_Setting_1"), "2.5");
+    EXPECT_EQ(LabelOf(Page(), "Label_Setting_1_Problem"),
+              "\"2.5\" is no value of the type whole number (32 bits)");
+    EXPECT_FALSE(Page().Save());
+    EXPECT_NE(Asked().find("\n\nKeep-alive interval: \"2.5\" is no value"), std::string::npos);
+    EXPECT_EQ(Page().focusWidget()->objectName().toStdString(), "Text_Setting_1");
+    // For another one it is a value again, as it was stored.
+    ChooseType("Printer");
+    EXPECT_EQ(Shown().GetSetting(1), cVariant::Double(2.5));
+    ChooseType("Radio");
+    Type(Page(), "Text_Setting_1", "45");
+    EXPECT_FALSE(Page().Save());
+    EXPECT_NE(Asked().find("\n\nNight: \"123.45\" is no value"), std::string::npos);
+    EXPECT_EQ(OnDisk("Receivers\\Receiver_0007.dat"), before);
+    emit Find<QComboBox>(Page(), "Combo_Setting_2")->activated(1);
+    EXPECT_TRUE(Page().Save());
+    EXPECT_EQ(Shown().GetSetting(1), cVariant::Int32(45));
+    while (Page().UndoStack()->canUndo()) Page().UndoStack()->undo();
+    EXPECT_TRUE(Page().Save());
+    Reopen();
+    EXPECT_EQ(Shown().GetSetting(1), cVariant::Double(2.5));
+}
+
+// Which of them it uses can't be told then, and they are in the receiver's file.
+TEST_F(ReceiversPage, ATypeWhoseSettingsFileIsMissingShowsAllValues) {
+    Put("ReceiverTypes.txt", "9;XRT;Radio;Gone.INI\n");
+    EXPECT_EQ(Find<QComboBox>(Page(), "Combo_ReceiverType")->currentText(), "Radio");
+    EXPECT_TRUE(Find<QLineEdit>(Page(), "Text_Setting_1")->isVisible());
+    EXPECT_EQ(LabelOf(Page(), "Label_Setting_1"), "Setting 1:");
+    EXPECT_EQ(TextOf(Page(), "Text_Setting_1"), "2.5");
+    Type(Page(), "Text_Setting_0", "x");
+    EXPECT_FALSE(Page().Save());
+    EXPECT_NE(Asked().find("\n\nSetting 0: \"x\" is no value"), std::string::npos);
+    Type(Page(), "Text_Setting_0", "7");
+    EXPECT_TRUE(Page().Save());
+    EXPECT_EQ(Shown().GetSetting(0), cVariant::Int32(7));
+    EXPECT_EQ(Shown().GetSetting(1), cVariant::Double(2.5));
 }
 
 TEST_F(ReceiversPage, AReceiverWithoutATypeIsNotSaved) {
@@ -406,6 +462,16 @@ TEST_F(ReceiversPage, WhatIsTypedInOneGoIsOneStep) {
     while (Page().UndoStack()->canUndo()) Page().UndoStack()->undo();
     EXPECT_FALSE(Page().IsDirty());
     EXPECT_EQ(TextOf(Page(), "Text_ReceiverName"), "\xC3\x96st");
+}
+
+TEST_F(ReceiversPage, WhatIsTypedBehindASaveIsAStepOfItsOwn) {
+    Type(Page(), "Text_ReceiverName", "East");
+    ASSERT_TRUE(Page().Save());
+    QTest::keyClicks(Find<QLineEdit>(Page(), "Text_ReceiverName"), "ern");
+    EXPECT_EQ(Page().UndoStack()->count(), 2);
+    Page().UndoStack()->undo();
+    EXPECT_EQ(TextOf(Page(), "Text_ReceiverName"), "East");
+    EXPECT_FALSE(Page().IsDirty());
 }
 
 TEST_F(ReceiversPage, UndoShowsTheReceiverThatItChanges) {

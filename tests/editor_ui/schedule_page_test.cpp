@@ -676,6 +676,39 @@ TEST_F(SchedulePage, ASpecialDayTypeGetsOneOfTheDrawings) {
     EXPECT_EQ(cDayTypeImages(m_Ini).DrawingOf(1), 1);
 }
 
+TEST_F(SchedulePage, ADayTypesNameAndImageAreStepsThatUndoTakesBack) {
+    auto& list = Find<QListWidget>(m_Page, "List_DayTypes");
+    Find<QCheckBox>(m_Page, "Check_TimeSchedule_UseCalendar").click();
+    list.item(7)->setCheckState(Qt::Checked);
+    Drag(View(), {QPoint(150, 7 * 25 + 10)});
+    const int before = m_Page.UndoStack()->count();
+    m_Prompts.m_Texts = {"Lucia", "Lucia", "Yule"};
+    Entry("Rename");
+    // The same name again is none.
+    Entry("Rename");
+    EXPECT_EQ(m_Page.UndoStack()->undoText(), "renaming a day type");
+    Find<QMenu>(m_Page, "Menu_DayTypeImages").actions()[2]->trigger();
+    EXPECT_EQ(m_Page.UndoStack()->undoText(), "choosing an image");
+    Entry("Rename");
+    EXPECT_EQ(m_Page.UndoStack()->count(), before + 3);
+    const auto now = [&] {
+        return list.item(7)->text().toStdString() + " " +
+               std::to_string(m_Services.m_DayTypeImages.DrawingOf(1));
+    };
+    EXPECT_EQ(now(), "Yule 3");
+    Choose(*m_Window, "Menu_Undo");
+    EXPECT_EQ(now(), "Lucia 3");
+    Choose(*m_Window, "Menu_Undo");
+    EXPECT_EQ(now(), "Lucia 1");
+    Choose(*m_Window, "Menu_Undo");
+    EXPECT_EQ(now(), "Special day type 1 1");
+    EXPECT_EQ(cDayTypeNames(m_Ini, m_Forms).Name(7), "Special day type 1");
+    for (int i = 0; i < 3; ++i) Choose(*m_Window, "Menu_Redo");
+    EXPECT_EQ(now(), "Yule 3");
+    EXPECT_EQ(cDayTypeNames(m_Ini, m_Forms).Name(7), "Yule");
+    EXPECT_EQ(cDayTypeImages(m_Ini).DrawingOf(1), 3);
+}
+
 TEST_F(SchedulePage, AnImageThatCannotBeStoredIsTold) {
     Find<QCheckBox>(m_Page, "Check_TimeSchedule_UseCalendar").click();
     Find<QListWidget>(m_Page, "List_DayTypes").item(7)->setCheckState(Qt::Checked);

@@ -110,6 +110,20 @@ TEST_P(SharedFile, ThatOthersChangedIsNotReplacedUnasked) {
     EXPECT_EQ(OnDisk(), GetParam().first);
 }
 
+TEST_P(SharedFile, ThatOthersWriteInTheMomentOfASaveIsNotReplacedUnasked) {
+    Change();
+    bool isWritten = false;
+    // The file has its name when the folder is synced.
+    m_Files.m_OnCall = [&](std::string_view operation, std::string_view) {
+        if (operation == "sync" && !std::exchange(isWritten, true)) WriteTheirs();
+    };
+    EXPECT_TRUE(Page().Save());
+    m_Files.m_OnCall = nullptr;
+    EXPECT_EQ(OnDisk(), GetParam().theirs);
+    Choose(*m_Window, "Menu_Undo");
+    ExpectAskedBeforeTheirsIsReplaced();
+}
+
 // A copy that is put back, a second editor that saves what it has read: nothing is lost, nothing is asked.
 TEST_P(SharedFile, ThatOthersWroteAsItWasIsNoNews) {
     m_Files.WriteFile(Path(), GetParam().first, false);

@@ -194,6 +194,30 @@ TEST_F(YearOverview, OnPaperHasItsColours) {
               cYearDrawing::ColourOf(kHoliday).rgb());
 }
 
+// Types without a name of their own differ in the number at the end.
+TEST_F(YearOverview, TellsDayTypesApartWhoseNamesHaveNoRoom) {
+    std::string bytes(29220, '\0');
+    const auto first = static_cast<std::size_t>(Index(2026, 3, 2));
+    for (int i = 0; i < kDayTypes; ++i)
+        bytes[2 * (first + static_cast<std::size_t>(i))] = static_cast<char>(i + 1);
+    m_Files.Put("/app/all.cal", bytes);
+    ASSERT_TRUE(m_Page.Open("/app/all.cal"));
+    const QRectF area(0, 0, 700, 500);
+    QImage sheet(area.size().toSize(), QImage::Format_RGB32);
+    {
+        QPainter painter(&sheet);
+        m_Page.Printout()->paint(painter, area);
+    }
+    // The name's room is higher than its line.
+    const auto name = [&](int place) {
+        const cYearDrawing::cLegend legend = cYearDrawing(area, 2026).LegendAt(place, kDayTypes);
+        return sheet.copy(
+            QRectF(legend.name.left(), legend.box.top(), legend.name.width(), legend.box.height()).toRect());
+    };
+    // In the middle line of two columns that lie on pixels alike.
+    EXPECT_NE(name(10), name(16));
+}
+
 TEST_F(YearOverview, IsPrintedThroughTheDialogOfTheSystem) {
     m_Prompts.m_PrintedFile = m_Folder.filePath("printed.pdf");
     Choose(*m_Window, "Menu_Print");
@@ -213,6 +237,45 @@ TEST_F(YearOverview, IsPrintedAsTheDialogSays) {
     EXPECT_TRUE(PrintOn(printer, *m_Page.Printout()));
     EXPECT_EQ(printer.pageLayout().orientation(), QPageLayout::Portrait);
     EXPECT_EQ(printer.pageLayout().margins(QPageLayout::Millimeter).left(), 30);
+}
+
+QStringList NamesOf(const cPrintout& printout) {
+    QStringList names;
+    for (const auto& sign : printout.legend) names += sign.name;
+    return names;
+}
+
+// At the wall nobody can rest the pointer on a picture.
+TEST_F(YearOverview, APrintedMonthTellsWhatItsPicturesMean) {
+    m_Ini.PutIniString("DayTypes", "7", "Holiday", kDefinitionsIni);
+    Drag(View(), {Cell(6, 30)});
+    Find<QToolButton>(m_Page, "Button_Calendar_ShowYear").click();
+    m_Page.Editor().ShowMonth(2026, 6);
+    const auto printout = m_Page.Printout();
+    EXPECT_EQ(NamesOf(*printout).join("|"), "Holiday");
+    QImage sheet(1000, 700, QImage::Format_RGB32);
+    sheet.fill(Qt::white);
+    {
+        QPainter painter(&sheet);
+        PaintSheet(painter, sheet.rect(), *printout);
+    }
+    // The star in the first place of the foot, and its name beside it.
+    EXPECT_EQ(sheet.pixelColor(11, 655), QColor("#b86a00"));
+    const QImage name = sheet.copy(28, 644, 100, 24);
+    EXPECT_NE(name, QImage(sheet.copy(500, 644, 100, 24)));
+    m_Page.Editor().ShowMonth(2026, 7);
+    EXPECT_TRUE(m_Page.Printout()->legend.isEmpty());
+}
+
+TEST_F(YearOverview, APrintedWeekTellsWhatItsPicturesMean) {
+    cSchedulePage& week = NewSchedule();
+    EXPECT_TRUE(week.Printout()->legend.isEmpty());
+    auto& list = Find<QListWidget>(week, "List_DayTypes");
+    list.item(8)->setCheckState(Qt::Checked);
+    // Without special day types it has no row.
+    EXPECT_TRUE(week.Printout()->legend.isEmpty());
+    Find<QCheckBox>(week, "Check_TimeSchedule_UseCalendar").click();
+    EXPECT_EQ(NamesOf(*week.Printout()).join("|"), "Special day type 2");
 }
 
 TEST_F(YearOverview, APageThatPrintsNothingOffersNoPrint) {

@@ -72,8 +72,9 @@ void cActiveDayView::ShowNow() {
     Answer();
 }
 
-void cActiveDayView::Refresh(bool isUsed) {
+void cActiveDayView::Refresh(bool isUsed, bool hasCalendar) {
     m_IsUsed = isUsed;
+    m_HasCalendar = hasCalendar;
     if (isVisible()) Answer();
 }
 
@@ -95,7 +96,8 @@ QString cActiveDayView::Reason(const cActiveDay& day) const {
             return tr("Day type: %1, by the weekday: the calendar gives %2, which the schedule doesn't use")
                 .arg(NameOf(day.dayType), NameOf(day.calendarValue - 1));
         default:
-            return tr("Day type: %1, by the weekday: the calendar says nothing of the date")
+            return (m_HasCalendar ? tr("Day type: %1, by the weekday: the calendar says nothing of the date")
+                                  : tr("Day type: %1, by the weekday: no calendar is open"))
                 .arg(NameOf(day.dayType));
     }
 }

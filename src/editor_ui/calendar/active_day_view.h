@@ -21,8 +21,9 @@ class cActiveDayView : public QWidget {
     cActiveDayView(cEditorServices& services, const cTimeSchedule& schedule, const cCalendar& calendar,
                    QWidget* parent = nullptr);
 
-    // The schedule or the calendar may have changed; whether the schedule counts at all.
-    void Refresh(bool isUsed);
+    // The schedule or the calendar may have changed; whether the schedule counts at all, and whether there is
+    // a calendar, not only an empty one in its place.
+    void Refresh(bool isUsed, bool hasCalendar);
 
   protected:
     void showEvent(QShowEvent* event) override;
@@ -41,7 +42,7 @@ class cActiveDayView : public QWidget {
     QTimeEdit m_Time;
     cDayLine m_Line;
     cPlainLabel m_Answer, m_Reason;
-    bool m_IsUsed = true;
+    bool m_IsUsed = true, m_HasCalendar = true;
 };
 
 }  // namespace vigrel

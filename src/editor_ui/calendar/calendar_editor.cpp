@@ -41,7 +41,8 @@ cCalendarEditor::cCalendarEditor(cEditorServices& services, QWidget* parent)
       m_Calendar(Surroundings()),
       m_View("Picture_Calendar", this),
       m_YearView("Picture_Calendar_Year", this),
-      m_ShowTimeAxis(tr("Show the day's &periods")) {
+      m_ShowTimeAxis(tr("Show the day's &periods")),
+      m_Popup(this) {
     setObjectName("Editor_Calendar");
     setFocusProxy(&m_View);
     MakeActions();

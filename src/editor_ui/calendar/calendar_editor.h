@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QListWidget>
+#include <QMenu>
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QToolButton>
@@ -76,6 +77,7 @@ class cCalendarEditor : public cContentEditor, private cCalendarContainer {
     void MakeActions();
     QAction* MakeAction(const char* name, const QString& text, const QKeySequence& keys,
                         const std::function<void()>& chosen);
+    void ShowPopupMenu(QPoint place);
     void MakeLayout();
     QLayout* MakeMonthBar();
     cDrawingRoom* MakeRoom();
@@ -124,6 +126,7 @@ class cCalendarEditor : public cContentEditor, private cCalendarContainer {
     void YearMouseMove(QPoint place);
     void SetPaintedDay(std::int32_t day);
     QString TipOf(std::int32_t day) const;
+    QList<cPrintout::cSign> LegendOfMonth() const;
 
     cEditorServices& m_Services;
     cHolidays m_Holidays;  // the country's, and the station's own
@@ -142,6 +145,7 @@ class cCalendarEditor : public cContentEditor, private cCalendarContainer {
     QCheckBox m_ShowTimeAxis;
     QList<cNamedSchedule> m_Schedules;  // in the order of the list, behind its first entry
     QList<QAction*> m_Actions;
+    QMenu m_Popup;
     int m_Day = 0;  // the keyboard's day in the month, from 0
     bool m_Painting = false;
     bool m_IsPrinting = false;

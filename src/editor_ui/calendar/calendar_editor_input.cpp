@@ -21,6 +21,9 @@ void cCalendarEditor::MakeActions() {
         MakeAction("CopyYear", tr("Cop&y the year to the next"), {}, [this] { CopyYear(); }),
         MakeAction("ClearYear", tr("&Clear the year"), {}, [this] { ClearYear(); }),
     };
+    // Beside a profile the window's menu speaks of profiles.
+    m_Popup.setObjectName("Menu_CalendarPopup");
+    AddEntries(m_Popup, m_Actions);
 }
 
 QAction* cCalendarEditor::MakeAction(const char* name, const QString& text, const QKeySequence& keys,
@@ -47,7 +50,12 @@ void cCalendarEditor::ConnectView() {
         m_Calendar.MouseMove(*this, &m_View.Surface(), button, shift, static_cast<float>(unit.x()),
                              static_cast<float>(unit.y()));
     };
+    m_View.OnPopupMenu = [this](QPoint place) { ShowPopupMenu(place); };
     m_View.OnKey = [this](const QKeyEvent& event) { return Key(event); };
+}
+
+void cCalendarEditor::ShowPopupMenu(QPoint place) {
+    if (!m_Painting) m_Popup.popup(place);
 }
 
 // A stroke is one step of undo. It is the left button's.

@@ -1,3 +1,5 @@
+#include <set>
+
 #include "adapters/qt/qt_text.h"
 #include "common/dates.h"
 #include "editor_ui/calendar/calendar_editor.h"
@@ -20,6 +22,7 @@ void cCalendarEditor::ConnectYear() {
     };
     m_YearView.OnMouseMove = [this](std::int16_t, std::int16_t, QPoint place) { YearMouseMove(place); };
     m_YearView.OnMouseUp = [this](std::int16_t button, std::int16_t, QPoint) { YearMouseUp(button); };
+    m_YearView.OnPopupMenu = [this](QPoint place) { ShowPopupMenu(place); };
     m_YearView.OnKey = [this](const QKeyEvent& event) { return Key(event); };
 }
 
@@ -93,12 +96,15 @@ void cCalendarEditor::Redraw() {
 
 std::optional<cPrintout> cCalendarEditor::Printout() {
     if (ShowsYear()) {
-        return cPrintout{QString::number(m_Calendar.m_SelectedYear), kPaperYear,
+        return cPrintout{QString::number(m_Calendar.m_SelectedYear),
+                         kPaperYear,
                          [this](QPainter& painter, const QRectF& place) {
                              cYearDrawing(place, m_Calendar.m_SelectedYear).Paint(painter, YearSource());
-                         }};
+                         },
+                         {}};
     }
-    return cPrintout{m_Month.text(), kPaperMonth, [this](QPainter& painter, const QRectF& place) {
+    return cPrintout{m_Month.text(), kPaperMonth,
+                     [this](QPainter& painter, const QRectF& place) {
                          painter.save();
                          painter.translate(place.topLeft());
                          const double scale = place.width() / m_View.width();
@@ -107,7 +113,21 @@ std::optional<cPrintout> cCalendarEditor::Printout() {
                          m_View.render(&painter, {}, {}, QWidget::DrawWindowBackground);
                          m_IsPrinting = false;
                          painter.restore();
-                     }};
+                     },
+                     LegendOfMonth()};
+}
+
+// Of the special day types that the month has.
+QList<cPrintout::cSign> cCalendarEditor::LegendOfMonth() const {
+    std::set<std::int16_t> used;
+    for (std::int32_t day = 0; day < m_Calendar.m_DaysInActualMonth; ++day)
+        used.insert(m_Calendar.GetDayType(m_Calendar.m_ActualMonthOffset + day));
+    QList<cPrintout::cSign> legend;
+    for (const std::int16_t value : used) {
+        if (value > kWeekDays && value <= kDayTypes)
+            legend.append(SignOf(static_cast<std::int16_t>(value - 1), m_Services));
+    }
+    return legend;
 }
 
 }  // namespace vigrel

@@ -120,7 +120,7 @@ void cYearDrawing::PaintLegend(QPainter& painter, const cSource& source) const {
         const QString name = ToQString(source.names.Entry(static_cast<std::int16_t>(value + 1)));
         painter.drawText(
             legend.name, Qt::AlignVCenter,
-            painter.fontMetrics().elidedText(name, Qt::ElideRight, static_cast<int>(legend.name.width())));
+            painter.fontMetrics().elidedText(name, Qt::ElideMiddle, static_cast<int>(legend.name.width())));
     }
 }
 

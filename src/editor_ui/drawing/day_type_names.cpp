@@ -23,9 +23,12 @@ cDayNames DayNamesOf(const cLocaleForms& forms) {
 std::string cDayTypeNames::Name(std::int16_t dayType) const {
     const std::size_t index = DayTypeIndex(dayType);
     if (dayType < kWeekDays) return m_DayNames.m_LongNames[index];
-    return m_Ini.GetIniString(kSection, std::to_string(dayType),
-                              FromQString(tr("Special day type %1").arg(dayType - kWeekDays + 1)),
-                              kDefinitionsIni);
+    const std::string own = OwnName(dayType);
+    return own.empty() ? FromQString(tr("Special day type %1").arg(dayType - kWeekDays + 1)) : own;
+}
+
+std::string cDayTypeNames::OwnName(std::int16_t dayType) const {
+    return m_Ini.GetIniString(kSection, std::to_string(dayType), "", kDefinitionsIni);
 }
 
 std::string cDayTypeNames::Entry(std::int16_t number) const {
@@ -36,7 +39,7 @@ std::string cDayTypeNames::Entry(std::int16_t number) const {
 bool cDayTypeNames::Rename(std::int16_t dayType, std::string_view name) {
     if (DayTypeIndex(dayType) < static_cast<std::size_t>(kWeekDays)) return false;
     m_Ini.PutIniString(kSection, std::to_string(dayType), name, kDefinitionsIni);
-    return Name(dayType) == name;
+    return OwnName(dayType) == name;
 }
 
 }  // namespace vigrel

@@ -30,7 +30,9 @@ class cDayTypeNames {
     // Of an entry in a calendar's list of day types: 1 is no special type, k day type k - 2. Another number
     // throws cFailure (OutOfBounds).
     std::string Entry(std::int16_t number) const;
-    // False when the name could not be stored.
+    // The installation's own name of a special day type; empty for none.
+    std::string OwnName(std::int16_t dayType) const;
+    // An empty name takes the own one away. False when it could not be stored.
     bool Rename(std::int16_t dayType, std::string_view name);
 
   private:

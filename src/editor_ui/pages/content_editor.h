@@ -19,6 +19,12 @@ struct cEditStep {
     std::string before, after;
 };
 
+// One that lies beside the content, such as a day type's name, which belongs to the whole station.
+struct cStepBeside {
+    QString name;
+    std::function<void()> undo, redo;
+};
+
 // A widget in which one content is edited: a schedule, a calendar, a list of rules. It knows no file, and it
 // keeps no steps: it tells each, and can be set back to the text of any.
 class cContentEditor : public QWidget {
@@ -46,6 +52,7 @@ class cContentEditor : public QWidget {
   signals:
     // Not for what Restore does.
     void Edited(const vigrel::cEditStep& step);
+    void EditedBeside(const vigrel::cStepBeside& step);
     // What is typed, or why it can't be taken over, is another.
     void ProblemChanged();
     // The user has given a day type another name or image.

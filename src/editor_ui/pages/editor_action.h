@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QKeySequence>
+#include <QMenu>
 #include <QWidget>
 
 namespace vigrel {
@@ -15,6 +16,17 @@ inline QAction* MakeEditorAction(QWidget& editor, const QString& objectName, con
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     editor.addAction(action);
     return action;
+}
+
+// Null stands for a line between.
+inline void AddEntries(QMenu& menu, const QList<QAction*>& actions) {
+    for (QAction* action : actions) {
+        if (action == nullptr) {
+            menu.addSeparator();
+        } else {
+            menu.addAction(action);
+        }
+    }
 }
 
 }  // namespace vigrel

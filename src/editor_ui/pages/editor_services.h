@@ -9,6 +9,7 @@
 #include "definitions/station_definitions.h"
 #include "editor_ui/drawing/day_type_images.h"
 #include "editor_ui/drawing/day_type_names.h"
+#include "editor_ui/pages/printout.h"
 #include "editor_ui/pages/prompts.h"
 #include "platform/clock.h"
 #include "platform/files.h"
@@ -29,5 +30,8 @@ struct cEditorServices {
     cDayTypeImages m_DayTypeImages;
     cStationDefinitions& m_Station;  // receivers and profiles of the application folder
 };
+
+// What the picture of a special day type, 7 to 22, means.
+cPrintout::cSign SignOf(std::int16_t dayType, const cEditorServices& services);
 
 }  // namespace vigrel

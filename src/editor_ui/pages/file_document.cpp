@@ -86,11 +86,15 @@ bool cFileDocument::Save() {
 // A file that was only touched, copied back or saved by others as it was is no news.
 bool cFileDocument::HasNews(const cFileReader::cStamp& now) {
     if (now == m_Behind.stamp) return false;
-    bool isSame = false;
-    if (now.size == m_Behind.stamp.size)
-        SkipFailure([&] { isSame = m_Form.holds(m_Behind.path, m_Behind.state); });
+    const bool isSame = now.size == m_Behind.stamp.size && Holds(m_Behind.path, m_Behind.state);
     if (isSame) m_Behind.stamp = now;
     return !isSame;
+}
+
+bool cFileDocument::Holds(const std::string& path, const std::string& state) const {
+    bool holds = false;
+    SkipFailure([&] { holds = m_Form.holds(path, state); });
+    return holds;
 }
 
 // Undo has brought back a content from before others' version took its place.
@@ -166,7 +170,9 @@ bool cFileDocument::WriteTo(const std::string& path) {
     }
     // Was the content of before, the user has said so: there is nothing of others left in the file.
     if (path != m_Behind.path || IsOfBefore()) m_Behind.fileGround = 0;
-    Take(path, m_Services.m_Files.Stamp(path));
+    // What others wrote in the same moment has a stamp that is not known here, and is asked about.
+    const cFileReader::cStamp now = m_Services.m_Files.Stamp(path);
+    Take(path, Holds(path, m_Form.state()) ? now : cFileReader::cStamp{});
     emit Message(tr("Saved %1").arg(Path()));
     return true;
 }

@@ -83,6 +83,7 @@ class cFileDocument : public QObject {
 
   private:
     bool HasNews(const cFileReader::cStamp& now);
+    bool Holds(const std::string& path, const std::string& state) const;
     bool IsOfBefore() const;
     bool MayReplace();
     bool MayReplaceChanged();

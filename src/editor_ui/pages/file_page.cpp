@@ -24,6 +24,8 @@ cFilePage::cFilePage(cEditorServices& services, cContentEditor* editor, cFileFor
     m_UndoStack.setUndoLimit(kUndoSteps);
     connect(editor, &cContentEditor::Edited, this,
             [this](const cEditStep& step) { m_UndoStack.push(new cStepCommand(step, m_Editor)); });
+    connect(editor, &cContentEditor::EditedBeside, this,
+            [this](const cStepBeside& step) { m_UndoStack.push(new cBesideCommand(step)); });
     connect(editor, &cContentEditor::ProblemChanged, this, &cEditorPage::StateChanged);
     connect(editor, &cContentEditor::DayTypesChanged, this, &cEditorPage::DayTypesChanged);
     connect(editor, &cContentEditor::Message, this, &cEditorPage::Message);

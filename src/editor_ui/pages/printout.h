@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QList>
 #include <QPainter>
+#include <QPixmap>
 #include <QRectF>
 #include <QString>
 #include <functional>
@@ -17,7 +19,16 @@ struct cPrintout {
     QSizeF shape;
     // Draws into a rectangle of the painter.
     std::function<void(QPainter&, const QRectF&)> paint;
+    // What the pictures of the drawing mean, at the foot of the sheet.
+    struct cSign {
+        QPixmap image;
+        QString name;
+    };
+    QList<cSign> legend;
 };
+
+// Title, drawing and legend in a rectangle of the painter.
+void PaintSheet(QPainter& painter, const QRectF& sheet, const cPrintout& printout);
 
 // The sheet as it fits a printout best, across with narrow margins, before the user says how it is to be.
 void SetUpSheet(QPagedPaintDevice& device);

@@ -35,4 +35,28 @@ class cStepCommand : public QUndoCommand {
     bool m_Undone = false;
 };
 
+// The same for a step beside the content.
+class cBesideCommand : public QUndoCommand {
+  public:
+    explicit cBesideCommand(cStepBeside step, std::function<void()> show = nullptr)
+        : QUndoCommand(step.name), m_Step(std::move(step)), m_Show(std::move(show)) {}
+    void undo() override {
+        m_Undone = true;
+        Run(m_Step.undo);
+    }
+    void redo() override {
+        if (m_Undone) Run(m_Step.redo);
+    }
+
+  private:
+    void Run(const std::function<void()>& step) {
+        if (m_Show) m_Show();
+        step();
+    }
+
+    cStepBeside m_Step;
+    std::function<void()> m_Show;
+    bool m_Undone = false;
+};
+
 }  // namespace vigrel

@@ -82,7 +82,8 @@ QString cDefinitionModel::PlainText(const QModelIndex& index) const {
 }
 
 QVariant cDefinitionModel::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
+    // A list without a chosen row is asked for its text by the key that copies.
+    if (!index.isValid() || !checkIndex(index)) return {};
     return index.row() < Definitions() ? DefinitionData(index, role) : UnreadableData(index, role);
 }
 

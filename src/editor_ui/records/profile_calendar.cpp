@@ -47,7 +47,8 @@ cProfileCalendar::cProfileCalendar(cEditorServices& services, const cTimeSchedul
 
 void cProfileCalendar::OpenRemembered() {
     std::string path = m_Services.m_Ini.GetIniString(kSection, kKey, "", kDefinitionsIni);
-    if (path.empty()) path = m_Services.m_Ini.FullPath(kUsualName);
+    if (path.empty()) path = kUsualName;
+    if (path[0] != '/') path = m_Services.m_Ini.FullPath(path);
     ShowPath();
     // One that was taken away since is no failure to be told.
     if (m_Services.m_Files.FileExists(path)) m_Document.Open(path);
@@ -72,8 +73,15 @@ bool cProfileCalendar::MayLeave() {
     return answer == cPrompts::eSave::Discard;
 }
 
+// One of the application folder by its name there: the folder can be moved, or restored on another machine.
 void cProfileCalendar::Remember(const QString& path) {
-    m_Services.m_Ini.PutIniString(kSection, kKey, PathFromQString(path), kDefinitionsIni);
+    const QString folder = PathToQString(m_Services.m_Ini.ApplicationPath());
+    const QString known = path.startsWith(folder) ? path.mid(folder.size()) : path;
+    m_Services.m_Ini.PutIniString(kSection, kKey, PathFromQString(known), kDefinitionsIni);
+}
+
+bool cProfileCalendar::HasCalendar() const {
+    return !m_Document.Path().isEmpty() || m_Document.IsDirty();
 }
 
 void cProfileCalendar::Show(const cProfile& profile) {

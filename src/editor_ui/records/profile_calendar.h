@@ -22,6 +22,8 @@ class cProfileCalendar : public QWidget {
     void Show(const cProfile& profile);
     cCalendarEditor& Editor() { return *m_Editor; }
     cFileDocument& Document() { return m_Document; }
+    // Whether it is one of a file, or one with days painted.
+    bool HasCalendar() const;
     // The day boxes are to show the periods, or not.
     std::function<void(bool on)> OnViewTimeAxis;
 

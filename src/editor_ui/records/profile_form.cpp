@@ -233,13 +233,15 @@ QWidget* cProfileForm::MakeActiveDay() {
     m_ActiveDay = new cActiveDayView(m_Editor, m_Schedule->Schedule(), m_Calendar->Editor().Calendar());
     m_Binder.AddShow([this](const cProfile&) { RefreshActiveDay(); });
     const cFileDocument& calendar = m_Calendar->Document();
-    connect(&calendar, &cFileDocument::Opened, this, &cProfileForm::RefreshActiveDay);
+    connect(&calendar, &cFileDocument::StateChanged, this, &cProfileForm::RefreshActiveDay);
     connect(&calendar, &cFileDocument::Replaced, this, &cProfileForm::RefreshActiveDay);
     return m_ActiveDay;
 }
 
 void cProfileForm::RefreshActiveDay() {
-    if (const cProfile* shown = m_Binder.Shown()) m_ActiveDay->Refresh(shown->m_UseTimeSchedule != False16);
+    const cProfile* shown = m_Binder.Shown();
+    if (shown != nullptr)
+        m_ActiveDay->Refresh(shown->m_UseTimeSchedule != False16, m_Calendar->HasCalendar());
 }
 
 QWidget* cProfileForm::MakeExternal() {

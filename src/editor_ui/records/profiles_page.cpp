@@ -106,6 +106,9 @@ void cProfilesPage::ConnectCalendar() {
     connect(&calendar, &cFileDocument::Message, this, &cEditorPage::Message);
     for (cContentEditor* editor : m_Form->Editors()) {
         connect(editor, &cContentEditor::ProblemChanged, this, [this] { Changed(); });
+        connect(editor, &cContentEditor::EditedBeside, this, [this, editor](const cStepBeside& step) {
+            UndoStack()->push(new cBesideCommand(step, [this, editor] { ShowField(editor->objectName()); }));
+        });
         connect(editor, &cContentEditor::Message, this, &cEditorPage::Message);
         connect(editor, &cContentEditor::DayTypesChanged, this, &cEditorPage::DayTypesChanged);
     }

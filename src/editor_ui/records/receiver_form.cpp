@@ -6,6 +6,7 @@
 #include "common/date_text.h"
 #include "common/failure.h"
 #include "common/file_procedures.h"
+#include "editor_ui/pages/reasons.h"
 #include "editor_ui/records/file_label.h"
 #include "editor_ui/records/setting_edit.h"
 #include "windows/plain_text.h"
@@ -58,13 +59,13 @@ void cReceiverForm::AddSettings(QFormLayout& layout) {
                                     value, SettingStep(index));
         };
         m_Settings[index]->OnTyped = [this, index](const cTypedText& typed) {
-            m_Binder.Keep({typed.text, m_Captions[index] + ": " + typed.problem}, SettingStep(index));
+            m_Binder.Keep({typed.text, m_Shown[index].caption + ": " + typed.problem}, SettingStep(index));
         };
     }
 }
 
 cFieldStep cReceiverForm::SettingStep(std::size_t index) const {
-    return {QObject::tr("changing %1").arg(m_Captions[index]), m_Settings[index]->Field(), true};
+    return {QObject::tr("changing %1").arg(m_Shown[index].caption), m_Settings[index]->Field(), true};
 }
 
 void cReceiverForm::Show(cReceiver* receiver, TypedTexts* typed) {
@@ -86,27 +87,43 @@ void cReceiverForm::ShowType(const cReceiver& receiver) {
     m_Type->setCurrentIndex(m_Type->findData(int{shown}));
 }
 
-SettingForms cReceiverForm::FormsOf(const cReceiver& receiver) const {
-    if (receiver.m_ReceiverTypeIndex < 0) return {};
-    const auto row = static_cast<std::size_t>(receiver.m_ReceiverTypeIndex);
-    return ReadSettingForms(m_Services.ini, m_Services.receiverTypes.m_ReceiverTypes[row]);
+// Which settings the type uses is told by its settings file. Of a type that is not known, or whose file is
+// not there, all are shown as they are: they are in the receiver's file.
+bool cReceiverForm::IsTypeTold(const cReceiver& receiver) const {
+    if (receiver.m_ReceiverTypeIndex < 0) return receiver.GetReceiverTypeId() < 0;
+    const std::string& file = TypeOf(receiver).m_SettingsFile;
+    return file.empty() || FileExists(m_Services.files, m_Services.ini.FullPath(file));
 }
 
-// Only the settings that the type uses; those of a type that is not known all, as they are.
-void cReceiverForm::ShowSettings(const cReceiver& receiver) {
-    SettingForms forms = FormsOf(receiver);
-    const bool unknown = receiver.m_ReceiverTypeIndex < 0 && receiver.GetReceiverTypeId() >= 0;
+const cReceiverType& cReceiverForm::TypeOf(const cReceiver& receiver) const {
+    return m_Services.receiverTypes.m_ReceiverTypes[static_cast<std::size_t>(receiver.m_ReceiverTypeIndex)];
+}
+
+cReceiverForm::cShownSettings cReceiverForm::SettingsOf(const cReceiver& receiver) const {
+    const bool isTold = IsTypeTold(receiver);
+    SettingForms forms;
+    if (receiver.m_ReceiverTypeIndex >= 0) forms = ReadSettingForms(m_Services.ini, TypeOf(receiver));
+    cShownSettings shown;
     for (std::size_t i = 0; i < forms.size(); ++i) {
-        const cVariant& value = receiver.GetSetting(static_cast<std::int16_t>(i));
-        const bool named = !forms[i].caption.empty();
-        m_Captions[i] = named ? ToQString(forms[i].caption) : tr("Setting %1").arg(i);
-        // A label with a field takes a single "&" for the sign of an access key.
-        m_SettingLabels[i]->setText(QString(m_Captions[i]).replace('&', "&&") + ":");
+        const eVariantType stored = receiver.GetSetting(static_cast<std::int16_t>(i)).Type();
+        const bool isNamed = !forms[i].caption.empty();
         // Without a form a value keeps the type it has.
-        if (!named && value.Type() != eVariantType::Empty) forms[i].type = value.Type();
-        forms[i].caption = FromQString(m_Captions[i]);
-        m_Settings[i]->Show(forms[i], value, m_Binder.Typed(m_Settings[i]->Field()));
-        m_Layout->setRowVisible(m_Settings[i], named || unknown);
+        const bool keepsType = !isNamed && stored != eVariantType::Empty;
+        shown[i] = {isNamed ? ToQString(forms[i].caption) : tr("Setting %1").arg(i),
+                    keepsType ? stored : forms[i].type, isNamed || !isTold};
+    }
+    return shown;
+}
+
+void cReceiverForm::ShowSettings(const cReceiver& receiver) {
+    m_Shown = SettingsOf(receiver);
+    for (std::size_t i = 0; i < m_Shown.size(); ++i) {
+        const auto& [caption, type, isShown] = m_Shown[i];
+        // A label with a field takes a single "&" for the sign of an access key.
+        m_SettingLabels[i]->setText(QString(caption).replace('&', "&&") + ":");
+        m_Settings[i]->Show({FromQString(caption), type}, receiver.GetSetting(static_cast<std::int16_t>(i)),
+                            m_Binder.Typed(m_Settings[i]->Field()));
+        m_Layout->setRowVisible(m_Settings[i], isShown);
     }
 }
 
@@ -128,25 +145,34 @@ void cReceiverForm::ChooseType(int row) {
     m_Binder.Edit<std::int16_t>(
         [this](cReceiver& shown, const std::int16_t& id) {
             shown.SetReceiverTypeId(id);
-            TryTypedAgain(shown);
+            TryAgain(shown);
         },
         typeId, m_Binder.Step(tr("Type"), m_Type->objectName(), false));
     ShowType(*m_Binder.Shown());
     ShowSettings(*m_Binder.Shown());
 }
 
-// What was no value for the type before may be one now. What the type doesn't use has no field in which it
-// could be mended.
-void cReceiverForm::TryTypedAgain(cReceiver& receiver) {
-    const SettingForms forms = FormsOf(receiver);
-    for (std::size_t i = 0; i < forms.size(); ++i) {
-        const cTypedText* typed = m_Binder.Typed(m_Settings[i]->Field());
-        if (typed == nullptr) continue;
-        const bool taken = !CatchFailure([&] {
-            const cVariant value = VariantFromText(forms[i].type, FromQString(typed->text));
-            if (!forms[i].caption.empty()) receiver.SaveSetting(static_cast<std::int16_t>(i), value);
-        });
-        if (taken || forms[i].caption.empty()) m_Binder.Forget(m_Settings[i]->Field());
+// What was no value for the type before may be one now, and the other way round. What the type doesn't use
+// has no field in which it could be mended.
+void cReceiverForm::TryAgain(cReceiver& receiver) {
+    const cShownSettings settings = SettingsOf(receiver);
+    for (std::size_t i = 0; i < settings.size(); ++i) {
+        const QString field = m_Settings[i]->Field();
+        const auto index = static_cast<std::int16_t>(i);
+        const cTypedText* typed = m_Binder.Typed(field);
+        const bool isTyped = typed != nullptr;
+        const QString text = isTyped ? typed->text : ToQString(receiver.GetSetting(index).Text());
+        m_Binder.Forget(field);
+        if (!settings[i].isShown || (!isTyped && text.isEmpty())) continue;
+        cVariant value;
+        const auto fault =
+            CatchFailure([&] { value = VariantFromText(settings[i].type, FromQString(text)); });
+        if (fault) {
+            m_Binder.SetTypedIn(field,
+                                {{field, {text, settings[i].caption + ": " + Told(fault->Description())}}});
+        } else if (isTyped) {
+            receiver.SaveSetting(index, value);
+        }
     }
 }
 

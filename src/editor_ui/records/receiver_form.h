@@ -35,8 +35,16 @@ class cReceiverForm : public QWidget {
     void ShowFile(const cReceiver& receiver);
     void ChooseType(int row);
     cFieldStep SettingStep(std::size_t index) const;
-    void TryTypedAgain(cReceiver& receiver);
-    SettingForms FormsOf(const cReceiver& receiver) const;
+    void TryAgain(cReceiver& receiver);
+    struct cShownSetting {
+        QString caption;  // as the type's file has it
+        eVariantType type = eVariantType::String;
+        bool isShown = false;
+    };
+    using cShownSettings = std::array<cShownSetting, cReceiver::kSettings>;
+    cShownSettings SettingsOf(const cReceiver& receiver) const;
+    bool IsTypeTold(const cReceiver& receiver) const;
+    const cReceiverType& TypeOf(const cReceiver& receiver) const;
 
     const cDefinitionServices& m_Services;
     cFieldBinder<cReceiver> m_Binder;
@@ -44,7 +52,7 @@ class cReceiverForm : public QWidget {
     QComboBox* m_Type;
     QLabel* m_File;
     std::array<QLabel*, cReceiver::kSettings> m_SettingLabels{};
-    std::array<QString, cReceiver::kSettings> m_Captions;  // of the settings, as the type's file has them
+    cShownSettings m_Shown;
     std::array<cSettingEdit*, cReceiver::kSettings> m_Settings{};
 };
 

@@ -144,7 +144,14 @@ std::optional<cPrintout> cScheduleEditor::Printout() {
     QWidget& view = m_Frame.View();
     const int hours = m_Hours.height();
     const QSizeF shape(view.width(), view.height() + hours);
-    return cPrintout{{}, shape, [this, &view, hours](QPainter& painter, const QRectF& place) {
+    QList<cPrintout::cSign> legend;
+    for (std::int16_t dayType = kWeekDays; dayType < kDayTypes; ++dayType) {
+        if (!m_Schedule.GetActive(dayType) || RowOf(dayType) >= ShownRows()) continue;
+        legend.append(SignOf(dayType, m_Services));
+    }
+    return cPrintout{{},
+                     shape,
+                     [this, &view, hours](QPainter& painter, const QRectF& place) {
                          painter.save();
                          painter.translate(place.topLeft());
                          const double scale = place.width() / view.width();
@@ -155,7 +162,8 @@ std::optional<cPrintout> cScheduleEditor::Printout() {
                          view.render(&painter, {}, {}, QWidget::DrawWindowBackground);
                          m_IsPrinting = false;
                          painter.restore();
-                     }};
+                     },
+                     legend};
 }
 
 // --- content

@@ -109,7 +109,10 @@ class cScheduleEditor : public cContentEditor, private cTimeScheduleContainer {
     void GroupMonFri();
     void Rename();
     QString AskName(QString name);
+    void SetName(std::int16_t dayType, const std::string& name);
     void ChooseImage(int drawing);
+    void SetImage(int number, int drawing);
+    void SetForAll(const std::function<bool()>& store);
     // The day type of the list's current entry, else the selected row's, as the number of a special type.
     // None for another one; the operator has been told.
     std::optional<int> ChosenSpecialType();

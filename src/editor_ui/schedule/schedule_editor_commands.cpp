@@ -20,11 +20,8 @@ void cScheduleEditor::MakeActions() {
     m_Grouped->setCheckable(true);
     m_GroupedMonFri->setCheckable(true);
     m_Popup.setObjectName("Menu_TimeSchedulePopup");
-    m_Popup.addActions({m_Delete, m_Copy, m_Paste});
-    m_Popup.addSeparator();
-    m_Popup.addActions({m_WholeDay, m_Invert});
-    m_Popup.addSeparator();
-    m_Popup.addActions({m_Grouped, m_GroupedMonFri});
+    AddEntries(m_Popup, {m_Delete, m_Copy, m_Paste, nullptr, m_WholeDay, m_Invert, nullptr, m_Grouped,
+                         m_GroupedMonFri});
 }
 
 // The keys work while the focus is in the page.
@@ -120,8 +117,20 @@ void cScheduleEditor::Rename() {
     if (!number) return;
     const auto dayType = static_cast<std::int16_t>(*number + kWeekDays - 1);
     const QString name = AskName(ToQString(m_Services.m_DayTypeNames.Name(dayType)));
-    if (name.isEmpty()) return;
-    if (!m_Services.m_DayTypeNames.Rename(dayType, FromQString(name))) ShowNotStored();
+    const std::string before = m_Services.m_DayTypeNames.OwnName(dayType), after = FromQString(name);
+    if (name.isEmpty() || after == m_Services.m_DayTypeNames.Name(dayType)) return;
+    SetName(dayType, after);
+    emit EditedBeside({tr("renaming a day type"), [this, dayType, before] { SetName(dayType, before); },
+                       [this, dayType, after] { SetName(dayType, after); }});
+}
+
+void cScheduleEditor::SetName(std::int16_t dayType, const std::string& name) {
+    SetForAll([&] { return m_Services.m_DayTypeNames.Rename(dayType, name); });
+}
+
+// What belongs to the station is stored at once.
+void cScheduleEditor::SetForAll(const std::function<bool()>& store) {
+    if (!store()) ShowNotStored();
     emit DayTypesChanged();
 }
 
@@ -139,8 +148,15 @@ void cScheduleEditor::MakeImageMenu() {
 void cScheduleEditor::ChooseImage(int drawing) {
     const auto number = ChosenSpecialType();
     if (!number) return;
-    if (!m_Services.m_DayTypeImages.Choose(*number, drawing)) ShowNotStored();
-    emit DayTypesChanged();
+    const int before = m_Services.m_DayTypeImages.DrawingOf(*number);
+    if (before == drawing) return;
+    SetImage(*number, drawing);
+    emit EditedBeside({tr("choosing an image"), [this, number, before] { SetImage(*number, before); },
+                       [this, number, drawing] { SetImage(*number, drawing); }});
+}
+
+void cScheduleEditor::SetImage(int number, int drawing) {
+    SetForAll([&] { return m_Services.m_DayTypeImages.Choose(number, drawing); });
 }
 
 void cScheduleEditor::ShowNotStored() {

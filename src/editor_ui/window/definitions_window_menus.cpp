@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "adapters/qt/qt_text.h"
+#include "editor_ui/pages/editor_action.h"
 #include "editor_ui/window/definitions_window.h"
 #include "windows/plain_text.h"
 
@@ -93,14 +94,7 @@ void cDefinitionsWindow::FillEditMenu() {
     m_EditMenu->addActions({m_Undo, m_Redo});
     m_EditMenu->addSeparator();
     const cEditorPage* page = CurrentPage();
-    const QList<QAction*> actions = page == nullptr ? QList<QAction*>() : page->EditActions();
-    for (QAction* action : actions) {
-        if (action == nullptr) {
-            m_EditMenu->addSeparator();
-        } else {
-            m_EditMenu->addAction(action);
-        }
-    }
+    if (page != nullptr) AddEntries(*m_EditMenu, page->EditActions());
 }
 
 void cDefinitionsWindow::MakeViewMenu() {

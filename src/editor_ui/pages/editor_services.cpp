@@ -1,0 +1,17 @@
+#include "editor_ui/pages/editor_services.h"
+
+#include "adapters/qt/qt_text.h"
+
+namespace vigrel {
+namespace {
+
+constexpr int kPaperImage = 128;  // pixels
+
+}  // namespace
+
+cPrintout::cSign SignOf(std::int16_t dayType, const cEditorServices& services) {
+    return {services.m_DayTypeImages.Image(dayType - kWeekDays + 1, kPaperImage, 1),
+            ToQString(services.m_DayTypeNames.Name(dayType))};
+}
+
+}  // namespace vigrel
