@@ -7,6 +7,8 @@
 #   bench/soak.sh [SECONDS [FOLDER [RATE]]]     3600 s; the folder keeps samples.csv, the log, what was printed
 #
 # Beyond an event a second one popup shows at a time: Xvfb does not keep up with fifty new windows a second.
+# Ends with 1 where something was refused, or where the last sixth of the time has more memory (a tenth), open files (2) or
+# windows of the display (4) than the second sixth.
 # Draws memory, open files and what the display holds over time: the folder's samples.svg.
 #
 # Wants the release build and the packages of scripts/install-packages.sh test; xrestop too, for what the display holds
@@ -198,5 +200,21 @@ awk -F, -v all="$seconds" 'NR == 1 { print "mean of sixth\t" $0; next }
 echo "processor time of the station: $(awk '{ print ($14 + $15) / 100 }' "/proc/$station/stat") s in $seconds s"
 echo "stored alarms: $(find "$folder/station/Alarms" -type f | wc -l), lines printed: $(count "$folder/printed")," \
     "packets to the light: $(count "$folder/lights/packets"), heard: $(cat "$folder/heard" 2>/dev/null)"
-echo "minutes refused or not sent: $(grep -c FAILED "$folder/sent" || true)"
+refused=$(grep -c FAILED "$folder/sent" || true)
+echo "minutes refused or not sent: $refused"
 echo "folder: $folder"
+awk -F, -v all="$seconds" 'NR == 1 { for (i = 1; i <= NF; ++i) place[$i] = i; next }
+    { sixth = int($1 * 6 / (all + 1)); ++rows[sixth]; for (i = 1; i <= NF; ++i) sum[sixth, i] += $i }
+    function mean(sixth, name) { return rows[sixth] ? sum[sixth, place[name]] / rows[sixth] : 0 }
+    function judge(name, most) {
+        if (mean(5, name) <= most) return
+        printf "soak.sh: %s grew: %.1f in the second sixth, %.1f in the last\n", name, mean(1, name), mean(5, name)
+        grew = 1
+    }
+    END {
+        judge("rss_kb", mean(1, "rss_kb") * 1.1)
+        judge("files", mean(1, "files") + 2)
+        judge("x_windows", mean(1, "x_windows") + 4)
+        exit grew
+    }' "$folder/samples.csv" >&2
+[ "$refused" -eq 0 ]
