@@ -1,5 +1,7 @@
 #include "windows/qt_message_box.h"
 
+#include <QApplication>
+#include <QPointer>
 #include <QTimer>
 
 #include "adapters/qt/qt_text.h"
@@ -21,11 +23,26 @@ QMessageBox::Icon IconOf(eMessageIcon icon) {
     return QMessageBox::NoIcon;
 }
 
-// A window that is hidden or minimised can't hold the box in front.
-QWidget* Owner() {
-    QWidget* active = QApplication::activeWindow();
-    return active != nullptr && active->isVisible() && !active->isMinimized() ? active : nullptr;
-}
+// Belongs to no window, since any may hide or go while it stands, and lies over all of them. It leaves the
+// keyboard to the window that had it: the window manager would choose any, a popup that Esc closes among
+// them.
+class cBox : public cPlainMessageBox {
+  public:
+    cBox() : cPlainMessageBox(nullptr) {
+        setWindowModality(Qt::ApplicationModal);
+        setWindowFlag(Qt::WindowStaysOnTopHint);
+    }
+    void done(int result) override {
+        const bool hasKeyboard = isActiveWindow();
+        cPlainMessageBox::done(result);
+        if (hasKeyboard && m_Before && m_Before->isVisible() && !m_Before->isMinimized()) {
+            m_Before->activateWindow();
+        }
+    }
+
+  private:
+    const QPointer<QWidget> m_Before = QApplication::activeWindow();
+};
 
 }  // namespace
 
@@ -34,12 +51,11 @@ void cQtMessageBox::Furnish(QMessageBox& box, std::string_view text, eMessageIco
     box.setWindowTitle(ToQString(m_Title));
     box.setText(WithPathsToQString(text));
     box.setIcon(IconOf(icon));
-    box.setWindowModality(Qt::ApplicationModal);
     box.setStandardButtons(QMessageBox::Ok);
 }
 
 eMessageAnswer cQtMessageBox::Show(std::string_view text, eMessageIcon icon, eMessageButtons buttons) {
-    cPlainMessageBox box(Owner());
+    cBox box;
     Furnish(box, text, icon);
     if (buttons == eMessageButtons::Ok) {
         box.exec();
@@ -52,7 +68,7 @@ eMessageAnswer cQtMessageBox::Show(std::string_view text, eMessageIcon icon, eMe
 }
 
 void cQtMessageBox::ShowForAWhile(std::string_view text, eMessageIcon icon) {
-    cPlainMessageBox box(Owner());
+    cBox box;
     Furnish(box, text, icon);
     QTimer::singleShot(cApplication::kFailureBoxMilliseconds, &box, &QDialog::reject);
     box.exec();

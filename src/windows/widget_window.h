@@ -13,6 +13,7 @@
 #include "adapters/qt/qt_text.h"
 #include "common/failure.h"
 #include "platform/windows.h"
+#include "windows/box_in_front.h"
 #include "windows/icon_restore.h"
 #include "windows/open_windows.h"
 #include "windows/resize_notice.h"
@@ -78,6 +79,7 @@ class cWidgetWindow : public Widget, public Port {
         m_Hiding.Reappear();
         m_ResizeNotice.Hold();
         this->show();
+        KeepBoxInFront();
         FlushToScreen();
         m_ResizeNotice.Release();
     }
@@ -92,6 +94,7 @@ class cWidgetWindow : public Widget, public Port {
     void SetTopMost(bool topMost) override {
         SetStaysOnTop(topMost);
         this->raise();
+        KeepBoxInFront();
         FlushToScreen();
     }
     bool CloseFor(eCloseReason reason) override {

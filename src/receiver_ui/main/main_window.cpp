@@ -103,6 +103,7 @@ void cMainWindow::ComeToFront() {
     if (m_FrontWished) return;
     raise();
     activateWindow();
+    KeepBoxInFront();
     FlushToScreen();
     m_FrontTimer.start();
     m_RefusedTimer.start();

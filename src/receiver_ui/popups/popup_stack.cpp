@@ -4,6 +4,7 @@
 #include <iterator>
 #include <limits>
 
+#include "windows/box_in_front.h"
 #include "windows/screen_flush.h"
 
 namespace vigrel {
@@ -102,6 +103,7 @@ void cPopupStack::BringInOrder() {
     auto changed =
         std::mismatch(wished.rbegin(), wished.rend(), m_OnScreen.rbegin(), m_OnScreen.rend()).first;
     std::for_each(changed, wished.rend(), [](cStackedPopup* popup) { popup->RaiseOnScreen(); });
+    if (changed != wished.rend()) KeepBoxInFront();
     m_OnScreen = wished;
     FlushToScreen();
 }

@@ -1,0 +1,177 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QProcess>
+#include <QTimer>
+#include <QWindow>
+#include <algorithm>
+#include <functional>
+
+#include "receiver_ui/dialogs/notice_window.h"
+#include "receiver_ui/main/main_window.h"
+#include "receiver_ui/popups/popup_widget.h"
+#include "support/qt_wait.h"
+#include "windows/qt_message_box.h"
+#include "x11/x_screen.h"
+
+namespace vigrel::testing {
+namespace {
+
+// A question over the main window. Until it is answered nothing else takes a key or a click, so that it must
+// be seen whatever happens meanwhile.
+class BoxesUnderX : public ::testing::Test {
+  protected:
+    BoxesUnderX() {
+        m_Main.SetWidth(9000);
+        m_Main.SetHeight(6000);
+        m_Main.OnResize = [&] {
+            if (m_Main.State() == eWindowState::Minimised) m_Main.Hide();
+        };
+        m_Main.Show();
+        EXPECT_TRUE(WaitUntil([&] { return m_Screen.ActiveWindow() == IdOf(m_Main); }));
+    }
+
+    static xcb_window_t IdOf(const QWidget& widget) {
+        return static_cast<xcb_window_t>(widget.windowHandle()->winId());
+    }
+    void Ask(const std::function<void(QMessageBox&)>& meanwhile) {
+        QTimer::singleShot(0, [&] {
+            ASSERT_TRUE(WaitUntil([] { return QApplication::activeModalWidget() != nullptr; }));
+            auto& box = *qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            EXPECT_TRUE(WaitUntil([&] { return m_Screen.ActiveWindow() == IdOf(box); }));
+            meanwhile(box);
+            box.reject();
+        });
+        cQtMessageBox("Vigrel").Show("Close?", eMessageIcon::Question, eMessageButtons::YesNo);
+    }
+    void OpenPopup() {
+        cPopupWindow& popup = m_Popups.MakePopup();
+        popup.SetTopMost(true);
+        popup.Show();
+        m_Popup = dynamic_cast<cPopupWidget*>(&popup);
+        EXPECT_TRUE(WaitUntil([&] { return m_Popup->isVisible() && Position(*m_Popup) >= 0; }));
+    }
+    // From the lowest window up; -1 for one that the window manager doesn't have.
+    int Position(const QWidget& widget) const {
+        const auto windows = m_Screen.RootWindows("_NET_CLIENT_LIST_STACKING");
+        const auto found = std::find(windows.begin(), windows.end(), IdOf(widget));
+        return found == windows.end() ? -1 : static_cast<int>(found - windows.begin());
+    }
+    bool IsOver(const QWidget& upper, const QWidget& lower) {
+        const auto is = [&] { return Position(upper) > Position(lower); };
+        return WaitUntil(is, 3000) && (RunEvents(100), is());
+    }
+    bool IsIcon(const QWidget& widget) { return m_Screen.HasState(IdOf(widget), "_NET_WM_STATE_HIDDEN"); }
+    void Iconify(const QWidget& widget) {
+        QProcess process;
+        process.start("xdotool", {"windowminimize", QString::number(IdOf(widget))});
+        ASSERT_TRUE(WaitUntil([&] { return process.state() == QProcess::NotRunning; }));
+    }
+    // As an alarm does.
+    void BringMainToTheFront() {
+        if (m_Main.State() == eWindowState::Minimised) m_Main.SetState(eWindowState::Normal);
+        SkipFailure([&] { m_Main.SetFocus(); });
+        m_Main.Show();
+    }
+    bool WaitsForItsAnswer(const QWidget& box) {
+        return WaitUntil([&] { return !IsIcon(box) && m_Screen.ActiveWindow() == IdOf(box); }, 3000);
+    }
+
+    cXScreen m_Screen;
+    cOpenWindows m_Windows;
+    cMainWindow m_Main{m_Windows};
+    cPopupWidgetMaker m_Popups{m_Windows};
+    cPopupWidget* m_Popup = nullptr;  // the newest
+};
+
+TEST_F(BoxesUnderX, LieOverThePopupsThatAreThereAndThoseThatCome) {
+    OpenPopup();
+    Ask([&](QMessageBox& box) {
+        EXPECT_TRUE(IsOver(box, *m_Popup));
+        for (int i = 0; i < 3; ++i) {
+            OpenPopup();
+            EXPECT_TRUE(IsOver(box, *m_Popup)) << i;
+        }
+        EXPECT_TRUE(WaitsForItsAnswer(box));
+    });
+}
+
+TEST_F(BoxesUnderX, LieOverAMainWindowThatStaysOnTop) {
+    m_Main.SetTopMost(true);
+    QWidget other;
+    other.show();
+    ASSERT_TRUE(WaitUntil([&] { return m_Screen.ActiveWindow() == IdOf(other); }));
+    Ask([&](QMessageBox& box) {
+        EXPECT_TRUE(IsOver(box, m_Main));
+        BringMainToTheFront();
+        EXPECT_TRUE(IsOver(box, m_Main));
+        EXPECT_TRUE(WaitsForItsAnswer(box));
+    });
+}
+
+TEST_F(BoxesUnderX, LieOverANotice) {
+    cNoticeWindow notice(m_Windows);
+    Ask([&](QMessageBox& box) {
+        notice.SetText("The disk is full.");
+        notice.Show();
+        ASSERT_TRUE(WaitUntil([&] { return Position(notice) >= 0; }));
+        EXPECT_TRUE(IsOver(box, notice));
+    });
+}
+
+// Not to a popup, which the next Esc would close.
+TEST_F(BoxesUnderX, LeaveTheKeyboardWhereItWas) {
+    for (int i = 0; i < 3; ++i) OpenPopup();
+    Ask([&](QMessageBox&) { OpenPopup(); });
+    const auto isActive = [&] { return m_Screen.ActiveWindow() == IdOf(m_Main); };
+    EXPECT_TRUE(WaitUntil(isActive, 3000));
+    RunEvents(100);
+    EXPECT_TRUE(isActive());
+}
+
+// The window manager takes the box away together with the main window.
+TEST_F(BoxesUnderX, AreThereWhenTheMainWindowThatHidMeanwhileComesBack) {
+    Ask([&](QMessageBox& box) {
+        Iconify(m_Main);
+        ASSERT_TRUE(WaitUntil([&] { return !m_Main.isVisible(); }));
+        RunEvents(100);
+        BringMainToTheFront();
+        EXPECT_TRUE(WaitsForItsAnswer(box));
+        EXPECT_TRUE(IsOver(box, m_Main));
+    });
+}
+
+TEST_F(BoxesUnderX, MadeAnIconComeBackWithTheNextAlarm) {
+    Ask([&](QMessageBox& box) {
+        Iconify(box);
+        RunEvents(100);
+        BringMainToTheFront();
+        EXPECT_TRUE(WaitsForItsAnswer(box));
+        Iconify(box);
+        RunEvents(100);
+        OpenPopup();
+        EXPECT_TRUE(WaitsForItsAnswer(box));
+        EXPECT_TRUE(IsOver(box, *m_Popup));
+    });
+}
+
+// One popup at a time: the box belongs to none that gives way to the next.
+TEST_F(BoxesUnderX, StayWhenThePopupHidesFromWhichTheyWereAsked) {
+    OpenPopup();
+    m_Popup->activateWindow();
+    ASSERT_TRUE(WaitUntil([&] { return m_Popup->isActiveWindow(); }));
+    Ask([&](QMessageBox& box) {
+        cPopupWidget& popup = *m_Popup;
+        popup.Hide();
+        ASSERT_TRUE(WaitUntil([&] { return !popup.isVisible(); }));
+        RunEvents(100);
+        EXPECT_TRUE(WaitsForItsAnswer(box));
+        popup.Close();
+        RunEvents(100);
+        EXPECT_TRUE(WaitsForItsAnswer(box));
+    });
+}
+
+}  // namespace
+}  // namespace vigrel::testing
