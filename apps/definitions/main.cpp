@@ -3,6 +3,7 @@
 #include <QCommandLineParser>
 #include <QSettings>
 #include <QTimer>
+#include <csignal>
 
 #include "adapters/linux/application_folder.h"
 #include "adapters/linux/file_rights.h"
@@ -10,6 +11,7 @@
 #include "adapters/linux/native_path.h"
 #include "adapters/linux/standard_error_box.h"
 #include "adapters/linux/standard_random.h"
+#include "adapters/linux/standard_streams.h"
 #include "adapters/linux/system_clock.h"
 #include "common/exit_codes.h"
 #include "common/ini.h"
@@ -120,6 +122,9 @@ int RunEditor(cApplication& application, cLinuxFiles& files, const std::string& 
 }
 
 int Run(int argc, char** argv) {
+    OpenStandardStreams();
+    // A file that is larger than the machine lets one become is told like a full disk.
+    std::signal(SIGXFSZ, SIG_IGN);
     KeepFilesPrivate();
     cApplication::ChoosePlatform();
     cApplication application(argc, argv);

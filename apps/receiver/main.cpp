@@ -13,6 +13,7 @@
 #include "adapters/linux/native_path.h"
 #include "adapters/linux/notify_socket.h"
 #include "adapters/linux/standard_error_box.h"
+#include "adapters/linux/standard_streams.h"
 #include "adapters/qt/qt_locale.h"
 #include "adapters/qt/stop_signals.h"
 #include "common/exit_codes.h"
@@ -127,8 +128,11 @@ int RunStation(cApplication& application, cServiceManager& serviceManager, const
 }
 
 int Run(int argc, char** argv) {
-    // A reader of standard error that has gone must not end the station.
+    OpenStandardStreams();
+    // A reader of standard error that has gone must not end the station, nor a log that is as large as the
+    // machine lets a file become.
     std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
     KeepFilesPrivate();
     cApplication::ChoosePlatform();
     cApplication application(argc, argv);

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <signal.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -77,6 +78,24 @@ TEST(UnlistedAlarms, AreToldAndTheStationRuns) {
         std::this_thread::sleep_for(std::chrono::milliseconds(100));
     EXPECT_EQ(station.StandardError(), line);
     EXPECT_EQ(station.Stop(SIGTERM), 0);
+}
+
+TEST(LargestFile, ALogThatReachesItKeepsNoAlarmAway) {
+    constexpr rlim_t kMost = 100'000;
+    cStation station;
+    ASSERT_TRUE(station.Start()) << station.StandardError();
+    EXPECT_EQ(station.Stop(SIGTERM), 0);
+    const fs::path log = fs::directory_iterator(station.Folder() / "LogFiles")->path();
+    fs::resize_file(log, kMost - 10);
+    station.m_InChild = [] {
+        const rlimit limit{kMost, kMost};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    };
+    station.Launch();
+    EXPECT_TRUE(TakesAnAlarm(station));
+    EXPECT_EQ(station.AlarmFiles().size(), 1u);
+    EXPECT_EQ(station.Stop(SIGTERM), 0);
+    EXPECT_EQ(fs::file_size(log), kMost);
 }
 
 TEST(Lock, OneThatCannotBeTakenIsToldAndTheStationRuns) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <signal.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <map>
@@ -89,6 +90,20 @@ TEST_F(Unseen, AWarningIsToldAndTheStationStarts) {
     EXPECT_EQ(station.Send({"--t0", "received"}).exitCode, 0);
     EXPECT_EQ(station.Stop(SIGTERM), 0);
     EXPECT_EQ(station.StandardError(), Line(station, "T10025"));
+}
+
+// The next files would get their numbers: the one by which the station is told to end, for example.
+TEST_F(Unseen, WithoutStandardStreamsWhatIsToldReachesNothingElse) {
+    cStation station;
+    std::filesystem::create_directory(station.Folder() / "VigrelReceiver.lock");
+    station.m_InChild = [] {
+        for (const int stream : {0, 1, 2}) close(stream);
+    };
+    ASSERT_TRUE(station.Start());
+    EXPECT_TRUE(
+        station.WaitForLog("T11003: " + station.Folder().string() + "/VigrelReceiver.lock: Is a directory"));
+    EXPECT_EQ(station.Send({"--t0", "still here"}).exitCode, 0);
+    EXPECT_EQ(station.Stop(SIGTERM), 0);
 }
 
 TEST_F(Unseen, AMissingLanguageIsTold) {

@@ -30,12 +30,14 @@ std::string ProgramPath(const std::string& program) {
 }
 
 // The child's side of starting a program; does not return.
-[[noreturn]] void Execute(const std::string& path, const std::vector<std::string>& arguments, int output) {
+[[noreturn]] void Execute(const std::string& path, const std::vector<std::string>& arguments, int output,
+                          const std::function<void()>& last = nullptr) {
     dup2(output, 1);
     dup2(output, 2);
     std::vector<char*> pointers{const_cast<char*>(path.c_str())};
     for (const std::string& argument : arguments) pointers.push_back(const_cast<char*>(argument.c_str()));
     pointers.push_back(nullptr);
+    if (last) last();
     execv(path.c_str(), pointers.data());
     _exit(127);
 }
@@ -126,7 +128,8 @@ void cStation::Launch(const std::vector<std::string>& switches) {
         std::filesystem::permissions(m_Runtime.Path(), std::filesystem::perms::owner_all);
         setenv("XDG_RUNTIME_DIR", m_Runtime.Path().c_str(), 1);
         for (const auto& [name, value] : m_Environment) setenv(name.c_str(), value.c_str(), 1);
-        Execute(path, switches, open((Folder() / m_ErrorFile).c_str(), O_WRONLY | O_CREAT | O_APPEND, 0666));
+        Execute(path, switches, open((Folder() / m_ErrorFile).c_str(), O_WRONLY | O_CREAT | O_APPEND, 0666),
+                m_InChild);
     }
 }
 

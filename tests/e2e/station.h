@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -76,6 +77,7 @@ class cStation {
     std::string m_Address;              // empty: all
     std::string m_ConfigurationName = "VigrelReceiver.INI";
     std::map<std::string, std::string> m_Environment{{"QT_QPA_PLATFORM", "offscreen"}};
+    std::function<void()> m_InChild;  // done by the process that becomes the program, last of all
 
   private:
     void WriteConfiguration() const;
