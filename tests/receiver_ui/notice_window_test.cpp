@@ -74,6 +74,14 @@ TEST_F(NoticeWindow, PutAwayItComesBackWithTheNextText) {
     EXPECT_NE(Window(), nullptr);
 }
 
+TEST_F(NoticeWindow, MadeAnIconItComesBackWithTheNextText) {
+    m_Others.ShowNotice("3 alarms");
+    Window()->setWindowState(Qt::WindowMinimized);
+    ASSERT_TRUE(Window()->isMinimized());
+    m_Others.ShowNotice("4 alarms");
+    EXPECT_FALSE(Window()->isMinimized());
+}
+
 TEST_F(NoticeWindow, ItsTextIsPlain) {
     for (const char* text : kMarkup) {
         m_Others.ShowNotice(text);

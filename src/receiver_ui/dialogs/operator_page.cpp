@@ -82,6 +82,7 @@ void cOperatorPage::GoTo(const QUrl& link) {
 void cOperatorPage::Show(const std::string& path, QWidget& mainWindow) {
     auto* window = mainWindow.findChild<QDialog*>(kWindowName);
     if (window == nullptr) window = MakeWindow(path, mainWindow);
+    window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
     window->show();
     window->raise();
     window->activateWindow();

@@ -46,6 +46,7 @@ void cQtOtherWindows::ShowNotice(std::string_view text) {
     }
     if (!m_Notice) m_Notice = std::make_unique<cNoticeWindow>(m_Services.windows);
     m_Notice->SetText(text);
+    if (m_Notice->State() == eWindowState::Minimised) m_Notice->SetState(eWindowState::Normal);
     m_Notice->Show();
 }
 

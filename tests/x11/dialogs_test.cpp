@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDialog>
 #include <QMessageBox>
 #include <QProcess>
 #include <QTimer>
@@ -9,6 +10,7 @@
 #include <functional>
 
 #include "receiver_ui/dialogs/notice_window.h"
+#include "receiver_ui/dialogs/operator_page.h"
 #include "receiver_ui/main/main_window.h"
 #include "receiver_ui/popups/popup_widget.h"
 #include "support/qt_wait.h"
@@ -18,11 +20,10 @@
 namespace vigrel::testing {
 namespace {
 
-// A question over the main window. Until it is answered nothing else takes a key or a click, so that it must
-// be seen whatever happens meanwhile.
-class BoxesUnderX : public ::testing::Test {
+// Over a main window that hides when it is made an icon.
+class DialogsUnderX : public ::testing::Test {
   protected:
-    BoxesUnderX() {
+    DialogsUnderX() {
         m_Main.SetWidth(9000);
         m_Main.SetHeight(6000);
         m_Main.OnResize = [&] {
@@ -35,6 +36,37 @@ class BoxesUnderX : public ::testing::Test {
     static xcb_window_t IdOf(const QWidget& widget) {
         return static_cast<xcb_window_t>(widget.windowHandle()->winId());
     }
+    bool IsIcon(const QWidget& widget) { return m_Screen.HasState(IdOf(widget), "_NET_WM_STATE_HIDDEN"); }
+    void Iconify(const QWidget& widget) {
+        QProcess process;
+        process.start("xdotool", {"windowminimize", QString::number(IdOf(widget))});
+        ASSERT_TRUE(WaitUntil([&] { return process.state() == QProcess::NotRunning; }));
+    }
+    // By an icon's way.
+    void HideMain() {
+        Iconify(m_Main);
+        ASSERT_TRUE(WaitUntil([&] { return !m_Main.isVisible(); }));
+        RunEvents(100);
+    }
+    // As an alarm does.
+    void BringMainToTheFront() {
+        if (m_Main.State() == eWindowState::Minimised) m_Main.SetState(eWindowState::Normal);
+        SkipFailure([&] { m_Main.SetFocus(); });
+        m_Main.Show();
+    }
+    bool HasKeyboard(const QWidget& widget) {
+        return WaitUntil([&] { return !IsIcon(widget) && m_Screen.ActiveWindow() == IdOf(widget); }, 3000);
+    }
+
+    cXScreen m_Screen;
+    cOpenWindows m_Windows;
+    cMainWindow m_Main{m_Windows};
+};
+
+// A question. Until it is answered nothing else takes a key or a click, so that it must be seen whatever
+// happens meanwhile.
+class BoxesUnderX : public DialogsUnderX {
+  protected:
     void Ask(const std::function<void(QMessageBox&)>& meanwhile) {
         QTimer::singleShot(0, [&] {
             ASSERT_TRUE(WaitUntil([] { return QApplication::activeModalWidget() != nullptr; }));
@@ -62,25 +94,7 @@ class BoxesUnderX : public ::testing::Test {
         const auto is = [&] { return Position(upper) > Position(lower); };
         return WaitUntil(is, 3000) && (RunEvents(100), is());
     }
-    bool IsIcon(const QWidget& widget) { return m_Screen.HasState(IdOf(widget), "_NET_WM_STATE_HIDDEN"); }
-    void Iconify(const QWidget& widget) {
-        QProcess process;
-        process.start("xdotool", {"windowminimize", QString::number(IdOf(widget))});
-        ASSERT_TRUE(WaitUntil([&] { return process.state() == QProcess::NotRunning; }));
-    }
-    // As an alarm does.
-    void BringMainToTheFront() {
-        if (m_Main.State() == eWindowState::Minimised) m_Main.SetState(eWindowState::Normal);
-        SkipFailure([&] { m_Main.SetFocus(); });
-        m_Main.Show();
-    }
-    bool WaitsForItsAnswer(const QWidget& box) {
-        return WaitUntil([&] { return !IsIcon(box) && m_Screen.ActiveWindow() == IdOf(box); }, 3000);
-    }
 
-    cXScreen m_Screen;
-    cOpenWindows m_Windows;
-    cMainWindow m_Main{m_Windows};
     cPopupWidgetMaker m_Popups{m_Windows};
     cPopupWidget* m_Popup = nullptr;  // the newest
 };
@@ -93,7 +107,7 @@ TEST_F(BoxesUnderX, LieOverThePopupsThatAreThereAndThoseThatCome) {
             OpenPopup();
             EXPECT_TRUE(IsOver(box, *m_Popup)) << i;
         }
-        EXPECT_TRUE(WaitsForItsAnswer(box));
+        EXPECT_TRUE(HasKeyboard(box));
     });
 }
 
@@ -106,7 +120,7 @@ TEST_F(BoxesUnderX, LieOverAMainWindowThatStaysOnTop) {
         EXPECT_TRUE(IsOver(box, m_Main));
         BringMainToTheFront();
         EXPECT_TRUE(IsOver(box, m_Main));
-        EXPECT_TRUE(WaitsForItsAnswer(box));
+        EXPECT_TRUE(HasKeyboard(box));
     });
 }
 
@@ -133,11 +147,9 @@ TEST_F(BoxesUnderX, LeaveTheKeyboardWhereItWas) {
 // The window manager takes the box away together with the main window.
 TEST_F(BoxesUnderX, AreThereWhenTheMainWindowThatHidMeanwhileComesBack) {
     Ask([&](QMessageBox& box) {
-        Iconify(m_Main);
-        ASSERT_TRUE(WaitUntil([&] { return !m_Main.isVisible(); }));
-        RunEvents(100);
+        HideMain();
         BringMainToTheFront();
-        EXPECT_TRUE(WaitsForItsAnswer(box));
+        EXPECT_TRUE(HasKeyboard(box));
         EXPECT_TRUE(IsOver(box, m_Main));
     });
 }
@@ -147,11 +159,11 @@ TEST_F(BoxesUnderX, MadeAnIconComeBackWithTheNextAlarm) {
         Iconify(box);
         RunEvents(100);
         BringMainToTheFront();
-        EXPECT_TRUE(WaitsForItsAnswer(box));
+        EXPECT_TRUE(HasKeyboard(box));
         Iconify(box);
         RunEvents(100);
         OpenPopup();
-        EXPECT_TRUE(WaitsForItsAnswer(box));
+        EXPECT_TRUE(HasKeyboard(box));
         EXPECT_TRUE(IsOver(box, *m_Popup));
     });
 }
@@ -166,11 +178,45 @@ TEST_F(BoxesUnderX, StayWhenThePopupHidesFromWhichTheyWereAsked) {
         popup.Hide();
         ASSERT_TRUE(WaitUntil([&] { return !popup.isVisible(); }));
         RunEvents(100);
-        EXPECT_TRUE(WaitsForItsAnswer(box));
+        EXPECT_TRUE(HasKeyboard(box));
         popup.Close();
         RunEvents(100);
-        EXPECT_TRUE(WaitsForItsAnswer(box));
+        EXPECT_TRUE(HasKeyboard(box));
     });
+}
+
+// --- the operator's page
+
+class HelpUnderX : public DialogsUnderX {
+  protected:
+    HelpUnderX() { EXPECT_TRUE(ComesUp()); }
+    QDialog& Page() const { return *m_Main.findChild<QDialog*>(); }
+    bool ComesUp() {
+        cOperatorPage::Show("", m_Main);
+        return HasKeyboard(Page());
+    }
+};
+
+TEST_F(HelpUnderX, ComesToTheFrontFromBehind) {
+    m_Main.SetFocus();
+    ASSERT_TRUE(HasKeyboard(m_Main));
+    EXPECT_TRUE(ComesUp());
+}
+
+TEST_F(HelpUnderX, ComesBackFromAnIcon) {
+    Iconify(Page());
+    ASSERT_TRUE(WaitUntil([&] { return IsIcon(Page()); }));
+    EXPECT_TRUE(ComesUp());
+}
+
+// The window manager takes the page away together with the main window.
+TEST_F(HelpUnderX, ComesBackAfterTheMainWindowWasHidden) {
+    for (int i = 0; i < 2; ++i) {
+        HideMain();
+        BringMainToTheFront();
+        ASSERT_TRUE(HasKeyboard(m_Main)) << i;
+        EXPECT_TRUE(ComesUp()) << i;
+    }
 }
 
 }  // namespace
