@@ -417,6 +417,27 @@ TEST_F(ReportListKeys, ARowThatSlipsUnderThePointerBetweenTheClicksIsNotChosen) 
     EXPECT_TRUE(m_Chosen.empty());
 }
 
+// As the oldest rows do when the list is full or they are too old.
+TEST_F(ReportListKeys, ARowThatTakesTheOneClickedsPlaceIsNotChosen) {
+    const auto clickWhileItGoes = [&](int row) {
+        const QPoint pointer = Middle(row, 1);
+        QTest::mouseClick(View().viewport(), Qt::LeftButton, Qt::NoModifier, pointer);
+        m_List.RemoveRecord(m_List.SelectedRows().at(0));
+        m_List.TakeOverRecords();
+        m_List.Rows();
+        QTest::mouseDClick(View().viewport(), Qt::LeftButton, Qt::NoModifier, pointer);
+    };
+    clickWhileItGoes(0);
+    EXPECT_TRUE(m_Chosen.empty());
+    Add("in front", -1);  // comes in as the last one goes
+    clickWhileItGoes(m_List.RecordCount() - 2);
+    EXPECT_TRUE(m_Chosen.empty());
+    // Both clicks on the row that is there now are meant.
+    QTest::mouseClick(View().viewport(), Qt::LeftButton, Qt::NoModifier, Middle(1, 1));
+    QTest::mouseDClick(View().viewport(), Qt::LeftButton, Qt::NoModifier, Middle(1, 1));
+    EXPECT_EQ(m_Chosen, m_List.SelectedRows());
+}
+
 TEST_F(ReportListKeys, AClickSelectsTheWholeRow) {
     QTest::mouseClick(View().viewport(), Qt::LeftButton, Qt::NoModifier, Middle(1, 1));
     QTest::mouseClick(View().viewport(), Qt::LeftButton, Qt::ControlModifier, Middle(3, 0));

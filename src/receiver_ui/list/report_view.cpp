@@ -101,13 +101,24 @@ bool cReportView::event(QEvent* event) {
     return QTableView::event(event);
 }
 
+void cReportView::mousePressEvent(QMouseEvent* event) {
+    m_ClickedIsGone = false;
+    QTableView::mousePressEvent(event);
+}
+
+void cReportView::rowsAboutToBeRemoved(const QModelIndex& parent, int first, int last) {
+    // The toolkit makes a neighbour the current row.
+    if (currentIndex().row() >= first && currentIndex().row() <= last) m_ClickedIsGone = true;
+    QTableView::rowsAboutToBeRemoved(parent, first, last);
+}
+
 void cReportView::mouseDoubleClickEvent(QMouseEvent* event) {
-    // A row that came in between the two clicks has pushed another one under the pointer; that one was not
-    // meant.
-    const QPersistentModelIndex clicked = currentIndex();
+    // A row that came or went between the two clicks has brought another one under the pointer; that one was
+    // not meant.
     const QModelIndex index = indexAt(event->position().toPoint());
+    const bool meant = !m_ClickedIsGone && index.isValid() && index.row() == currentIndex().row();
     QTableView::mouseDoubleClickEvent(event);
-    if (event->button() == Qt::LeftButton && index.isValid() && index.row() == clicked.row()) {
+    if (event->button() == Qt::LeftButton && meant) {
         ChooseRow(index);
     }
 }

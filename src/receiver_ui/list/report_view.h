@@ -29,14 +29,17 @@ class cReportView : public QTableView {
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void rowsAboutToBeRemoved(const QModelIndex& parent, int first, int last) override;
 
   private:
     void ChooseRow(const QModelIndex& index);
     cReportHeader* m_Header;  // the toolkit's to delete
     QString m_EmptyText;
-    bool m_InMenu = false;  // a menu of the window has taken the focus over
+    bool m_ClickedIsGone = false;  // the row of the last click
+    bool m_InMenu = false;         // a menu of the window has taken the focus over
 };
 
 }  // namespace vigrel
