@@ -1,16 +1,30 @@
 #include "windows/window_frame.h"
 
+#include <QGuiApplication>
+#include <QScreen>
 #include <QWidget>
 #include <QWindow>
 #include <utility>
 
 namespace vigrel {
+namespace {
+
+// All screens together, and what one may become that is small now. The picture of a window takes memory by
+// its size: a slip in a size of the configuration would take all that there is.
+QSize Largest() {
+    constexpr QSize kAnyScreen(2048, 2048);
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen == nullptr ? kAnyScreen : screen->virtualSize().expandedTo(kAnyScreen);
+}
+
+}  // namespace
 
 QSize cWindowFrame::Size() const {
     return m_State == eState::Wished ? m_Wish : m_Window.size().grownBy(m_Margins);
 }
 
-void cWindowFrame::SetSize(QSize size) {
+void cWindowFrame::SetSize(QSize wanted) {
+    const QSize size = wanted.boundedTo(Largest());
     if (m_State != eState::Seen) {
         m_State = eState::Wished;
         m_Wish = size;

@@ -26,7 +26,8 @@ class cWindowFrame {
 
     eState State() const { return m_State; }
     QSize Size() const;
-    void SetSize(QSize size);
+    // Larger than all screens it does not become.
+    void SetSize(QSize wanted);
     // From the frame's upper left corner to that of the inside.
     QPoint Corner() const { return {m_Margins.left(), m_Margins.top()}; }
 

@@ -143,6 +143,18 @@ TEST_F(Unseen, AlarmsPopupsAndTheirEndPrintNothing) {
     EXPECT_EQ(station.StandardError(), "");
 }
 
+TEST(Sizes, BeyondEveryScreenKeepNoAlarmWaiting) {
+    cStation station;
+    station.Configure(
+        "[General]\r\nViewPopupForm=1\r\nVigrel_Receiver_Main.Width=1e9\r\nVigrel_Receiver_Main.Height="
+        "1e9\r\n"
+        "[PopupForm]\r\nX_Size=40000\r\nY_Size=40000\r\n");
+    ASSERT_TRUE(station.Start()) << station.StandardError();
+    EXPECT_EQ(station.Send({"--count", "5", "--quiet"}).exitCode, 0);
+    EXPECT_EQ(station.AlarmFiles().size(), 5u);
+    EXPECT_EQ(station.Stop(SIGTERM), 0);
+}
+
 TEST(Display, OneThatDoesNotAnswerEndsTheProgramWithTheReason) {
     cStation station;
     station.ExpectStandardError();

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QScreen>
 #include <QWidget>
 
 namespace vigrel::testing {
@@ -54,6 +55,17 @@ TEST_F(WindowFrame, SeenItTakesItsShareOfASize) {
     EXPECT_EQ(m_Window.size(), QSize(396, 278));
     m_Frame.SetSize({1, 1});
     EXPECT_EQ(m_Window.size(), QSize(0, 0));
+}
+
+TEST_F(WindowFrame, ASizeBeyondEveryScreenEndsAtTheScreens) {
+    const QSize screens = m_Window.screen()->virtualSize();
+    const QSize largest = screens.expandedTo({2048, 2048});
+    m_Frame.SetSize({32000, 300});
+    EXPECT_EQ(m_Frame.Size(), QSize(largest.width(), 300));
+    m_Frame.SetSize({300, 32000});
+    EXPECT_EQ(m_Frame.Size(), QSize(300, largest.height()));
+    m_Frame.SetSize(screens);
+    EXPECT_EQ(m_Frame.Size(), screens);
 }
 
 TEST_F(WindowFrame, AnotherFrameLeavesTheInsideAsItIs) {
