@@ -65,11 +65,24 @@ std::string cAlarmStore::FileName(std::int32_t fileId) const {
     return m_Folder + (spelled == m_Spellings.end() ? OwnName(fileId) : spelled->second);
 }
 
-// Of names that differ in case only, the one counts that the files give for the store's own.
-void cAlarmStore::NoteSpelling(const std::string& name, std::int32_t fileId) {
-    const std::string own = OwnName(fileId);
-    if (name == own || m_Services.files.Spelling(m_Folder + own) != m_Folder + name) return;
-    m_Spellings.emplace(fileId, name);
+// Several names can stand for one number: some differ in case only, some are numeric in their own way. The
+// number is that one's which the files give for the store's own name; to save or to remove another would hit
+// its file.
+void cAlarmStore::NoteName(const std::string& name, cVigrelRecieverAlarm& alarm,
+                           std::set<std::int32_t>& oddlyNamed) {
+    const std::string own = OwnName(alarm.m_FileId);
+    if (name == own) return;
+    const std::string path = m_Services.files.Spelling(m_Folder + own);
+    if (path == m_Folder + name) {
+        m_Spellings.emplace(alarm.m_FileId, name);
+    } else if (!oddlyNamed.insert(alarm.m_FileId).second || IsThere(m_Services.ownFiles, path)) {
+        RenameToFreeNumber(name, alarm);
+    }
+}
+
+void cAlarmStore::RenameToFreeNumber(const std::string& name, cVigrelRecieverAlarm& alarm) {
+    DrawFileId(alarm);
+    SkipFailure([&] { m_Services.ownFiles.RenameFile(m_Folder + name, FileName(alarm.m_FileId)); });
 }
 
 bool cAlarmStore::IsTooOld(const cVigrelRecieverAlarm& alarm, DateTime now) const {
@@ -230,6 +243,7 @@ std::int32_t cAlarmStore::ReadFiles(std::vector<std::string> names, std::vector<
     const cStoppedClock clock(m_Services.clock);
     const cAlarmMaker maker(clock, m_Services.categories);
     std::int32_t removed = 0;
+    std::set<std::int32_t> oddlyNamed;
     m_Services.ownFiles.ReadFiles(m_Folder, names, [&](std::size_t i, const std::string& content) {
         AlarmPtr alarm = maker.Make([&](cVigrelRecieverAlarm& read) {
             cBinaryReader file(content);
@@ -237,7 +251,7 @@ std::int32_t cAlarmStore::ReadFiles(std::vector<std::string> names, std::vector<
             // The name decides, since it is what the next save replaces.
             read.m_FileId = fileIds[i];
         });
-        NoteSpelling(names[i], fileIds[i]);
+        NoteName(names[i], *alarm, oddlyNamed);
         if (IsTooOld(*alarm, clock.Now())) {
             GiveUp(*alarm);
             ++removed;

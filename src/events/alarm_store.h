@@ -86,7 +86,8 @@ class cAlarmStore {
     std::string FileName(std::int32_t fileId) const;
 
   private:
-    void NoteSpelling(const std::string& name, std::int32_t fileId);
+    void NoteName(const std::string& name, cVigrelRecieverAlarm& alarm, std::set<std::int32_t>& oddlyNamed);
+    void RenameToFreeNumber(const std::string& name, cVigrelRecieverAlarm& alarm);
     bool IsTooOld(const cVigrelRecieverAlarm& alarm, DateTime now) const;
     std::size_t FindPlace(const cVigrelRecieverAlarm& alarm) const;
     void GiveUp(cVigrelRecieverAlarm& alarm);

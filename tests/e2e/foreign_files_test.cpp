@@ -80,6 +80,28 @@ TEST(UnlistedAlarms, AreToldAndTheStationRuns) {
     EXPECT_EQ(station.Stop(SIGTERM), 0);
 }
 
+// A copy in upper case, such as one that comes back from a disk of another kind.
+TEST(ForeignAlarms, OneWhoseNameDiffersInCaseOnlyTakesNoOtherAlong) {
+    cStation station;
+    ASSERT_TRUE(station.Start()) << station.StandardError();
+    EXPECT_EQ(station.Send({"--t0", "here"}).exitCode, 0);
+    EXPECT_EQ(station.Stop(SIGTERM), 0);
+    ASSERT_EQ(station.AlarmFiles().size(), 1u);
+    const fs::path own = station.AlarmFiles()[0];
+    std::string bytes = ReadAll(own);
+    // The time of creation, in front of the file's number and what is reserved: too old for every limit.
+    ASSERT_GT(bytes.size(), 72u);
+    bytes.replace(bytes.size() - 72, 8, 8, '\0');
+    fs::path copy = own;
+    std::ofstream(copy.replace_extension(".ALM"), std::ios::binary) << bytes;
+    ASSERT_TRUE(station.Start()) << station.StandardError();
+    EXPECT_TRUE(station.WaitForLog("1 T10036"));
+    EXPECT_TRUE(station.WaitForLog("1 T10041"));
+    EXPECT_EQ(station.Stop(SIGTERM), 0);
+    EXPECT_TRUE(fs::exists(own));
+    EXPECT_FALSE(fs::exists(copy));
+}
+
 TEST(LargestFile, ALogThatReachesItKeepsNoAlarmAway) {
     constexpr rlim_t kMost = 100'000;
     cStation station;

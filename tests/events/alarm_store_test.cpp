@@ -685,6 +685,48 @@ TEST_F(AlarmStore, AForeignNameCaseIsReadAndReplacedUnderItsOwnNumber) {
     EXPECT_EQ(AlarmFiles().size(), 1u);
 }
 
+// Names that are numeric in their own way.
+class NamesOfOneNumber : public AlarmStore {
+  protected:
+    void Put(const std::string& name, double ageDays, const std::string& sender) {
+        const std::string file = PutFile(999, ageDays, sender);
+        files.Put(std::string(kApp) + "Alarms\\" + name, files.ReadFile(file));
+        files.RemoveFile(file);
+    }
+    std::string SendersByName() {
+        std::string senders = Senders();
+        std::sort(senders.begin(), senders.end());
+        return senders;
+    }
+};
+
+TEST_F(NamesOfOneNumber, OneThatIsTooOldTakesNoOtherAlong) {
+    settings.m_MaxDays = 30;
+    Put("A+000005.alm", 31, "x");
+    Put("A0000005.alm", 1, "a");
+    Put("A5.00000.alm", 31, "x");
+    Load();
+    EXPECT_EQ(Senders(), "a");
+    EXPECT_EQ(AlarmFiles().size(), 1u);
+    EXPECT_TRUE(files.FileExists(store.FileName(5)));
+}
+
+TEST_F(NamesOfOneNumber, AreAlarmsOfTheirOwnFromThenOn) {
+    settings.m_MaxDays = 30;
+    Put("A+000005.alm", 1, "a");
+    Put("A0000005.alm", 2, "b");
+    Put("A+000006.alm", 3, "c");
+    Put("A 000006.alm", 4, "d");
+    Load();
+    EXPECT_EQ(SendersByName(), "abcd");
+    for (const AlarmPtr& alarm : store.m_Alarms) store.SaveAlarm(alarm);
+    const AlarmPtr oldest = store.m_Alarms.front();
+    EXPECT_EQ(oldest->m_Sender, "d");
+    store.DeleteAlarmFile(*oldest);
+    Load();
+    EXPECT_EQ(SendersByName().substr(0, 3), "abc");
+}
+
 TEST_F(AlarmStore, TheNameDecidesTheNumberAndTheNextSaveCorrectsTheFile) {
     const std::string bytes = files.ReadFile(PutFile(5, 1));
     files.RemoveFile(store.FileName(5));
