@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include "windows/seen_place.h"
+
 namespace vigrel {
 
 const QRect* cWindowHiding::HiddenMaximised() const {
@@ -54,8 +56,9 @@ void cWindowHiding::GiveUp() {
 void cWindowHiding::Reappear() {
     if (!m_HiddenPlace) return;
     GiveUp();
+    const QPoint place = SeenPlace({*m_HiddenPlace, m_Frame.Size()});
     // By the inside, for which the toolkit needs to know nothing of the frame.
-    m_Window.setGeometry(QRect(*m_HiddenPlace + m_Frame.Corner(), m_Window.size()));
+    m_Window.setGeometry(QRect(place + m_Frame.Corner(), m_Window.size()));
     m_HiddenPlace.reset();
     m_Maximised.reset();
 }

@@ -13,9 +13,10 @@ class QWidget;
 
 namespace vigrel {
 
-// Hides a window and brings it back where it was. A hidden native window keeps what the window manager made
-// of it, its frame, its place, its being an icon, and the toolkit remembers one or the other of it depending
-// on the moment; so the native one is given up, and a new one comes up where and as the widget says.
+// Hides a window and brings it back where it was, or where a screen is when its own has gone. A hidden native
+// window keeps what the window manager made of it, its frame, its place, its being an icon, and the toolkit
+// remembers one or the other of it depending on the moment; so the native one is given up, and a new one
+// comes up where and as the widget says.
 //
 // state   its place is                 setting a place      leaves the state by
 // ------  ---------------------------  -------------------  -------------------

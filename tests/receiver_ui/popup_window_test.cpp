@@ -511,6 +511,19 @@ TEST_F(PopupWidget, APlaceOnNoScreenIsBroughtBack) {
     EXPECT_TRUE(QGuiApplication::primaryScreen()->geometry().contains(popup.frameGeometry().center()));
 }
 
+// One of many of which one shows, hidden on a monitor that has gone meanwhile.
+TEST_F(PopupWidget, APopupThatWasHiddenWhereNoScreenIsIsBroughtBack) {
+    cPopupWidget& popup = Make();
+    popup.Show();
+    m_Maker.Stack().Apply();
+    popup.move(20000, 300);
+    popup.Hide();
+    m_Maker.Stack().Apply();
+    popup.Show();
+    m_Maker.Stack().Apply();
+    EXPECT_TRUE(QGuiApplication::primaryScreen()->geometry().contains(popup.frameGeometry().center()));
+}
+
 TEST_F(PopupWidget, NewPopupsStandOnAStairThatStaysOnTheScreen) {
     const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
     double last = 0;

@@ -2,7 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QScreen>
 #include <QWidget>
 
 namespace vigrel::testing {
@@ -71,6 +72,18 @@ TEST_F(WindowHiding, APlaceSetWhileHiddenCountsWhenItReappears) {
     EXPECT_EQ(m_Hiding.Place(), QPoint(40, 50));
     m_Hiding.Reappear();
     EXPECT_EQ(m_Window.geometry().topLeft(), QPoint(42, 70));
+}
+
+TEST_F(WindowHiding, WhereNoScreenIsAnyMoreItReappearsOnOneThatIsThere) {
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    ShowWithFrame();
+    for (const QPoint gone : {QPoint(screen.right() + 1, 100), QPoint(100, screen.top() - 300)}) {
+        m_Hiding.Vanish();
+        m_Hiding.PlaceAt(gone);
+        m_Hiding.Reappear();
+        EXPECT_EQ(m_Window.geometry().topLeft(), screen.topLeft() + QPoint(2, 20));
+        m_Window.show();
+    }
 }
 
 TEST_F(WindowHiding, ThereNothingHappensWhenItReappears) {

@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "windows/seen_place.h"
+
 namespace vigrel {
 namespace {
 
@@ -104,15 +106,9 @@ bool cPopupWidget::ReachScreen() {
 
 void cPopupWidget::ReachPlace() {
     if (!m_Place) return;
-    QRect frame(*m_Place, frameGeometry().size());
+    const QPoint place = SeenPlace({*m_Place, frameGeometry().size()});
     m_Place.reset();
-    // A place on no screen, as after a monitor went, would hide an alarm from the operator.
-    const auto screens = QGuiApplication::screens();
-    const bool seen = std::any_of(screens.begin(), screens.end(), [&](const QScreen* screen) {
-        return screen->availableGeometry().intersects(frame);
-    });
-    if (!seen) frame.moveTopLeft(QGuiApplication::primaryScreen()->availableGeometry().topLeft());
-    if (frame.topLeft() != Place() || !testAttribute(Qt::WA_Moved)) PlaceAt(frame.topLeft());
+    if (place != Place() || !testAttribute(Qt::WA_Moved)) PlaceAt(place);
 }
 
 void cPopupWidget::Map() {
