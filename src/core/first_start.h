@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "common/ini.h"
 #include "platform/files.h"
@@ -31,7 +32,7 @@ class cFirstStart {
     // Makes template and configuration in the wished language, or else in the user's, or else in English,
     // and fits window and columns to the screen. The language is set where it was wished or nobody can be
     // asked. A folder with a configuration or a template of its own is left alone. Failures are skipped: the
-    // start goes on with what there is.
+    // start goes on with what there is. An end at any moment leaves the whole configuration, or none.
     void Prepare();
     // When the operator chose another language than the one prepared: its template and configuration take
     // their place. Only in the start that prepared them: later on they are the installer's.
@@ -40,8 +41,10 @@ class cFirstStart {
   private:
     std::string UsersLanguage() const;
     std::string DecidedLanguage(const std::string& users) const;
-    bool Place(const std::string& language);
-    void FitToScreen();
+    // Keys of section General and their values.
+    using cKeys = std::vector<std::pair<std::string_view, std::string>>;
+    bool Place(const std::string& language, const cKeys& general);
+    void FitToScreen(std::string_view fileName);
 
     cFiles& m_Files;
     cIni& m_Ini;

@@ -9,6 +9,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "adapters/linux/linux_files.h"
 #include "common/failure.h"
@@ -91,6 +92,62 @@ TEST_F(ApplicationFolder, WhatCannotBeLookedForIsNotReplaced) {
     cBlindFiles blind(folder);
     FillApplicationFolder(blind, folder, other.Path().string());
     EXPECT_EQ(files.ReadFile(folder + "Sounds\\alarm.wav"), "the plant's");
+}
+
+struct cEnd {};
+
+// A program that ends at one of its changes to the disk.
+class cEndingFiles : public cLinuxFiles {
+  public:
+    explicit cEndingFiles(int changes) : m_Left(changes) {}
+    void WriteFile(std::string_view path, std::string_view bytes, bool sync) override {
+        Change();
+        cLinuxFiles::WriteFile(path, bytes, sync);
+    }
+    void WriteFileLike(std::string_view path, std::string_view bytes, std::string_view like) override {
+        Change();
+        cLinuxFiles::WriteFileLike(path, bytes, like);
+    }
+    void RenameFile(std::string_view from, std::string_view to) override {
+        Change();
+        cLinuxFiles::RenameFile(from, to);
+    }
+    void RemoveFile(std::string_view path) override {
+        Change();
+        cLinuxFiles::RemoveFile(path);
+    }
+
+  private:
+    void Change() {
+        if (m_Left-- == 0) throw cEnd();
+    }
+    int m_Left;
+};
+
+TEST_F(ApplicationFolder, WhatAnEndLeftHalfFilledIsFilledByTheNextStart) {
+    const std::vector<std::string> delivered{"Vigrel_Texts.044", "Vigrel_Texts.046", "ReceiverTypes.txt",
+                                             "Templates/VigrelReceiver.044", "Sounds/alarm.wav"};
+    for (const std::string& name : delivered) Put(other, name, name);
+    Put(program, "VigrelReceiver.INI", "mine");
+    Put(program, "ColourRules.txt", "mine");
+    bool ended = true;
+    for (int changes = 0; ended; ++changes) {
+        const std::string folder = data.Path().string() + "/" + std::to_string(changes) + "\\";
+        cEndingFiles ending(changes);
+        ended = false;
+        try {
+            FillApplicationFolder(ending, folder, other.Path().string(), program.Path().string());
+        } catch (const cEnd&) {
+            ended = true;
+        }
+        EXPECT_EQ(FillApplicationFolder(files, folder, other.Path().string(), program.Path().string()), ended)
+            << changes;
+        for (const std::string& name : delivered) EXPECT_TRUE(files.FileExists(folder + name)) << changes;
+        EXPECT_EQ(files.ReadFile(folder + "VigrelReceiver.INI"), "mine");
+        EXPECT_EQ(files.ReadFile(folder + "ColourRules.txt"), "mine");
+        EXPECT_EQ(
+            std::distance(std::filesystem::directory_iterator(data.Path() / std::to_string(changes)), {}), 7);
+    }
 }
 
 TEST_F(ApplicationFolder, TheFolderMayBeNamedInAnyScript) {

@@ -74,6 +74,35 @@ TEST_F(FirstStart, IsNoneWhereTheConfigurationCannotBeLookedAt) {
     }
 }
 
+struct cEnd {};
+
+TEST_F(FirstStart, ThatEndsAtAnyMomentLeavesTheNextOneNoHalfConfiguration) {
+    const cFirstStartHints hints{"", false, 0, 0, 1024, 768};
+    const cFakeFiles before = m_Files;
+    Start(hints);
+    const std::string whole = m_Files.ReadFile(kFolder + "VigrelReceiver.ini");
+    EXPECT_NE(whole.find("Language=046"), std::string::npos);
+    bool ended = true;
+    for (int calls = 0; ended; ++calls) {
+        cFakeFiles files = before;
+        int left = calls;
+        files.m_OnCall = [&](std::string_view, std::string_view) {
+            if (left-- == 0) throw cEnd();
+        };
+        cIni ini(files, kFolder);
+        ended = false;
+        try {
+            cFirstStart(files, ini, m_Locale, hints).Prepare();
+        } catch (const cEnd&) {
+            ended = true;
+        }
+        files.m_OnCall = nullptr;
+        cIni next(files, kFolder);
+        cFirstStart(files, next, m_Locale, hints).Prepare();
+        EXPECT_EQ(files.ReadFile(kFolder + "VigrelReceiver.ini"), whole) << calls;
+    }
+}
+
 TEST_F(FirstStart, AnUnknownLocaleGetsEnglish) {
     m_Locale.m_EnglishLanguageName = m_Locale.m_NativeLanguageName = "";
     Start({});

@@ -85,6 +85,9 @@ constexpr std::array<cFileGroup, 7> kConfiguration{{{"", kIniFile},
                                                     {"Receivers\\", "*.dat"},
                                                     {"Profiles\\", "*.dat"}}};
 
+// Stands in the folder while it is being filled: whoever finds it goes on where an end in between left off.
+constexpr std::string_view kFilling = "VigrelReceiver.filling";
+
 // What is there already, or may be, stays; what can't be copied is left out.
 void CopyGroup(cFiles& files, const cFileGroup& group, const std::string& source,
                const std::string& applicationPath) {
@@ -155,7 +158,9 @@ std::optional<std::string> WhyNoConfiguration(const cFiles& files, const std::st
 bool FillApplicationFolder(cFiles& files, const std::string& applicationPath,
                            const std::string& installedFolder, const std::string& formerFolder) {
     MakeApplicationFolder(applicationPath);
-    if (IsApplicationFolder(files, applicationPath)) return false;
+    const std::string filling = applicationPath + std::string(kFilling);
+    if (IsApplicationFolder(files, applicationPath) && !files.FileExists(filling)) return false;
+    SkipFailure([&] { files.WriteFile(filling, "", true); });
     const auto copy = [&](const std::string& source, const auto& groups) {
         if (source.empty()) return;
         for (const cFileGroup& group : groups)
@@ -165,6 +170,7 @@ bool FillApplicationFolder(cFiles& files, const std::string& applicationPath,
     copy(formerFolder, kConfiguration);
     copy(formerFolder, kDelivered);
     copy(installedFolder, kDelivered);
+    SkipFailure([&] { files.RemoveFile(filling); });
     return true;
 }
 
