@@ -5,10 +5,13 @@
 #include <netinet/tcp.h>
 #include <poll.h>
 #include <sys/socket.h>
+#include <sys/time.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <cmath>
 #include <cstring>
 #include <memory>
@@ -16,13 +19,24 @@
 namespace vigrel::send {
 namespace {
 
-constexpr std::size_t kReplySize = 5;
+using Clock = std::chrono::steady_clock;
 
-int Connect(const addrinfo& address) {
+using std::chrono::milliseconds;
+
+// Neither connecting nor sending waits longer, for a peer that says nothing or takes nothing.
+void LimitWaits(int descriptor, milliseconds longest) {
+    timeval wait{};
+    wait.tv_sec = longest.count() / 1000;
+    wait.tv_usec = longest.count() % 1000 * 1000;
+    setsockopt(descriptor, SOL_SOCKET, SO_SNDTIMEO, &wait, sizeof wait);
+}
+
+int Connect(const addrinfo& address, milliseconds longest) {
     const int descriptor = socket(address.ai_family, address.ai_socktype | SOCK_CLOEXEC, address.ai_protocol);
     if (descriptor < 0) return -1;
+    LimitWaits(descriptor, longest);
     if (connect(descriptor, address.ai_addr, address.ai_addrlen) == 0) return descriptor;
-    const int error = errno;
+    const int error = errno == EINPROGRESS ? ETIMEDOUT : errno;
     close(descriptor);
     errno = error;
     return -1;
@@ -35,7 +49,7 @@ void cConnection::Fail(const std::string& what) const {
 }
 
 cConnection::cConnection(const std::string& host, const std::string& port, double timeoutSeconds)
-    : m_Peer(host + " port " + port), m_Timeout(static_cast<int>(std::ceil(timeoutSeconds * 1000))) {
+    : m_Peer(host + " port " + port), m_Timeout(std::llround(std::ceil(timeoutSeconds * 1000))) {
     addrinfo hints{};
     hints.ai_socktype = SOCK_STREAM;
     addrinfo* found = nullptr;
@@ -43,7 +57,7 @@ cConnection::cConnection(const std::string& host, const std::string& port, doubl
     if (error != 0) Fail(gai_strerror(error));
     const std::unique_ptr<addrinfo, void (*)(addrinfo*)> addresses(found, freeaddrinfo);
     for (const addrinfo* address = found; address != nullptr && m_Socket < 0; address = address->ai_next) {
-        m_Socket = Connect(*address);
+        m_Socket = Connect(*address, m_Timeout);
     }
     if (m_Socket < 0) Fail(std::strerror(errno));
     const int on = 1;
@@ -59,15 +73,17 @@ void cConnection::Send(const std::string& bytes) {
     while (sent < bytes.size()) {
         const ssize_t count = ::send(m_Socket, bytes.data() + sent, bytes.size() - sent, MSG_NOSIGNAL);
         if (count < 0 && errno == EINTR) continue;
-        if (count < 0) Fail(std::strerror(errno));
+        if (count < 0) Fail(errno == EAGAIN ? "takes nothing" : std::strerror(errno));
         sent += static_cast<std::size_t>(count);
     }
 }
 
 std::string cConnection::ReadReply() {
+    const Clock::time_point end = Clock::now() + m_Timeout;
     while (m_Received.size() < kReplySize) {
+        const auto left = std::chrono::ceil<milliseconds>(end - Clock::now());
         pollfd wait{m_Socket, POLLIN, 0};
-        const int ready = poll(&wait, 1, m_Timeout);
+        const int ready = poll(&wait, 1, std::max(static_cast<int>(left.count()), 0));
         if (ready < 0 && errno == EINTR) continue;
         if (ready <= 0) break;
         std::array<char, 4096> buffer;

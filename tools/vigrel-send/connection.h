@@ -1,5 +1,7 @@
 #pragma once
 
+#include <chrono>
+#include <cstddef>
 #include <stdexcept>
 #include <string>
 
@@ -10,7 +12,10 @@ class cConnectionError : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-// One TCP connection to a station. Every failure is a cConnectionError that names host and port.
+inline constexpr std::size_t kReplySize = 5;
+
+// One TCP connection to a station. Every failure is a cConnectionError that names host and port; a station
+// that doesn't answer, or takes nothing, for so many seconds is one.
 class cConnection {
   public:
     cConnection(const std::string& host, const std::string& port, double timeoutSeconds);
@@ -19,14 +24,14 @@ class cConnection {
     cConnection& operator=(const cConnection&) = delete;
 
     void Send(const std::string& bytes);
-    // The next five bytes, or what came of them before the time was over or the peer closed.
+    // The next reply, or what came of it before the time was over or the peer closed.
     std::string ReadReply();
 
   private:
     [[noreturn]] void Fail(const std::string& what) const;
 
     std::string m_Peer;
-    int m_Timeout;  // milliseconds
+    std::chrono::milliseconds m_Timeout;
     int m_Socket = -1;
     std::string m_Received;
 };

@@ -135,7 +135,7 @@ usage: vigrel-send [options]
 where to
   --host HOST        the station's machine (localhost)
   --port PORT        its port (12412)
-  --timeout SECONDS  longest wait for a reply (10)
+  --timeout SECONDS  longest wait for the station: to be reached, to take a frame, to reply (10)
 
 what
   --sender NAME      the name that the frame carries (vigrel-send)

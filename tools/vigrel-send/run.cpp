@@ -77,11 +77,15 @@ class cSending {
         m_Connection.Send(frame);
         ++m_Sent;
         for (int i = RepliesTo(frame); i > 0; --i) {
-            const std::string reply = Describe(m_Connection.ReadReply());
+            const std::string bytes = m_Connection.ReadReply(), reply = Describe(bytes);
             ++m_Replies;
             if (reply == "positive") ++m_Positive;
             if (!m_Options.quiet) std::printf("%s\n", reply.c_str());
-            if (reply == "no reply") throw cConnectionError("no reply to frame " + std::to_string(m_Sent));
+            // Its rest would be taken for the beginning of the next one.
+            if (bytes.size() < kReplySize) {
+                throw cConnectionError((bytes.empty() ? "no reply to frame " : "half a reply to frame ") +
+                                       std::to_string(m_Sent));
+            }
         }
         Progress(false);
     }
