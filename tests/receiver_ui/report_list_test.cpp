@@ -13,6 +13,7 @@
 #include "adapters/qt/qt_text.h"
 #include "contract/report_list_contract.h"
 #include "support/fake_report_list.h"
+#include "support/markup.h"
 #include "support/qt_wait.h"
 #include "windows/colours.h"
 
@@ -444,6 +445,37 @@ TEST_F(ReportListKeys, AClickSelectsTheWholeRow) {
     EXPECT_EQ(m_List.SelectedRows(), (std::vector<RecordId>{m_Records[1], m_Records[3]}));
 }
 
+// --- what the toolkit asks
+
+TEST_F(ReportList, AColumnIsThereWhenItsComingIsTold) {
+    int told = 0;
+    QObject::connect(View().model(), &QAbstractItemModel::columnsInserted, &View(), [&] {
+        ++told;
+        EXPECT_EQ(View().model()->columnCount(), 4);
+    });
+    m_List.AddColumn("Address", 80);
+    EXPECT_EQ(told, 1);
+}
+
+TEST_F(ReportList, OnlyACutCellHasAToolTipAndNothingElseOfHelp) {
+    Fill(1);
+    LetItFlush();
+    const auto ToolTipFor = [this](QEvent::Type type, QPoint place) {
+        QToolTip::hideText();
+        EXPECT_TRUE(WaitUntil([] { return ShownToolTip() == nullptr; }));
+        QHelpEvent help(type, place, View().viewport()->mapToGlobal(place));
+        QCoreApplication::sendEvent(View().viewport(), &help);
+        const QLabel* shown = ShownToolTip();
+        return shown != nullptr ? shown->text() : QString();
+    };
+    EXPECT_EQ(ToolTipFor(QEvent::ToolTip, Middle(0, 1)), "");
+    View().setColumnWidth(1, 20);
+    EXPECT_EQ(ToolTipFor(QEvent::ToolTip, Middle(0, 1)), "alarm 0");
+    EXPECT_EQ(ToolTipFor(QEvent::WhatsThis, Middle(0, 1)), "");
+    EXPECT_EQ(ToolTipFor(QEvent::ToolTip, Middle(0, 1) + QPoint(0, 100)), "");
+    QToolTip::hideText();
+}
+
 // --- focus
 
 TEST_F(ReportList, LosingTheFocusIsTold) {
@@ -527,6 +559,26 @@ TEST_F(ReportListPicture, ASelectedRowIsFramedOnEveryColour) {
     const QImage selected = Picture(1, 1);
     EXPECT_GT(Count(selected, Qt::black), 2 * plain.width() - 10);
     EXPECT_LT(Count(plain, Qt::black), plain.width());
+}
+
+TEST_F(ReportListPicture, ASelectedRowHasALightLineWithinTheDarkOne) {
+    Fill(2);
+    m_List.SelectAndShow(m_Records[1]);
+    const QImage first = Picture(1, 0);
+    const QImage last = Picture(1, 1);
+    const int across = last.width() - 1;
+    const int down = last.height() - 1;
+    // From the outside in, where no text stands.
+    const auto ExpectFrame = [](const QImage& cell, QPoint from, QPoint step) {
+        EXPECT_EQ(cell.pixelColor(from), QColor(Qt::black));
+        EXPECT_EQ(cell.pixelColor(from + step), QColor(Qt::white));
+        EXPECT_NE(cell.pixelColor(from + 2 * step), QColor(Qt::white));
+        EXPECT_NE(cell.pixelColor(from + 2 * step), QColor(Qt::black));
+    };
+    ExpectFrame(last, {across - 20, 0}, {0, 1});
+    ExpectFrame(last, {across - 20, down}, {0, -1});
+    ExpectFrame(last, {across, down / 2}, {-1, 0});
+    ExpectFrame(first, {0, down / 2}, {1, 0});
 }
 
 TEST_F(ReportListPicture, ASelectedCellWithoutColoursShowsTheSelectionsColour) {
