@@ -155,6 +155,22 @@ TEST_F(MainWindow, TheListHasTheFocus) {
     EXPECT_TRUE(WaitUntil([&] { return m_Window.List().View().hasFocus(); }));
 }
 
+TEST_F(MainWindow, TheFocusRaisesItToo) {
+    // A desktop may refuse to make a window the active one that nobody clicked.
+    class : public QObject {
+      public:
+        int m_Raised = 0;
+        bool eventFilter(QObject*, QEvent* event) override {
+            m_Raised += event->type() == QEvent::ZOrderChange;
+            return false;
+        }
+    } watch;
+    m_Window.Show();
+    m_Window.installEventFilter(&watch);
+    WaitUntil([&] { return SkipFailure([&] { m_Window.SetFocus(); }) && watch.m_Raised > 0; });
+    EXPECT_EQ(watch.m_Raised, 1);
+}
+
 TEST_F(MainWindow, FocusOnAHiddenOrMinimisedWindowIsAFailure) {
     EXPECT_THROW(m_Window.SetFocus(), cFailure);
     m_Window.Show();

@@ -341,6 +341,19 @@ TEST_F(ReportListKeys, TheOwnersKeysHaveNoEffectOfTheToolkits) {
     EXPECT_EQ(m_List.SelectedRows().size(), 5u);
 }
 
+TEST_F(ReportListKeys, TheOwnersKeysGoNoFurtherThanTheList) {
+    const auto IsTaken = [this](int key, Qt::KeyboardModifiers modifiers) {
+        QKeyEvent event(QEvent::KeyPress, key, modifiers);
+        QCoreApplication::sendEvent(&View(), &event);
+        return event.isAccepted();
+    };
+    EXPECT_TRUE(IsTaken(Qt::Key_Escape, Qt::NoModifier));
+    EXPECT_TRUE(IsTaken(Qt::Key_F9, Qt::NoModifier));
+    EXPECT_TRUE(IsTaken(Qt::Key_A, Qt::ControlModifier));
+    EXPECT_TRUE(IsTaken(Qt::Key_C, Qt::ControlModifier));
+    EXPECT_FALSE(IsTaken(Qt::Key_F8, Qt::NoModifier));
+}
+
 TEST_F(ReportListKeys, NoOtherKeyCopies) {
     QGuiApplication::clipboard()->setText("before");
     View().setCurrentIndex(Cell(1, 1));
@@ -477,6 +490,15 @@ TEST_F(ReportList, OnlyACutCellHasAToolTipAndNothingElseOfHelp) {
 }
 
 // --- focus
+
+TEST_F(ReportList, TheFocusPutsTheKeysOnTheFirstRowAndChoosesNone) {
+    Fill(3);
+    View().clearFocus();
+    ASSERT_FALSE(View().currentIndex().isValid());
+    View().setFocus();
+    EXPECT_EQ(View().currentIndex().row(), 0);
+    EXPECT_TRUE(m_List.SelectedRows().empty());
+}
 
 TEST_F(ReportList, LosingTheFocusIsTold) {
     int told = 0;

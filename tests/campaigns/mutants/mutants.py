@@ -42,7 +42,7 @@ HERE = pathlib.Path(__file__).resolve().parent
 LOGIC = ("common", "categories", "events", "signals", "link", "core", "schedule", "definitions", "tool_support")
 # The folders with windows, and the programs that test each.
 WINDOWS = {"windows": ["windows_tests", "receiver_ui_tests", "editor_ui_tests"],
-           "receiver_ui": ["receiver_ui_tests", "x11_tests"], "editor_ui": ["editor_ui_tests"]}
+           "receiver_ui": ["receiver_ui_tests", "x11_tests", "tray_bus_tests"], "editor_ui": ["editor_ui_tests"]}
 # Programs that test what stands on a folder of the logic, besides the folder's own.
 TOOLS = {"definitions": ["inspect_tests"], "events": ["inspect_tests"], "core": ["receiver_check_tests"],
          "tool_support": ["inspect_tests", "receiver_check_tests"], "categories": ["receiver_check_tests"]}
