@@ -11,6 +11,7 @@
 #include "receiver-check/installation.h"
 #include "receiver-check/posix_machine.h"
 #include "receiver_check/checked_station.h"
+#include "support/faulty_files.h"
 #include "support/temporary_folder.h"
 
 namespace vigrel::testing {
@@ -106,6 +107,19 @@ TEST_F(FolderCheck, AlarmsWithoutNumberAndStrangersAreNotRead) {
               "warning not-an-alarm Alarms\\A004291X.alm\n"
               "warning not-an-alarm Alarms\\A42917.alm\n"
               "remark not-an-alarm Alarms\\notes.txt");
+}
+
+TEST_F(FolderCheck, StrangersCostNoLookAtTheFolderEach) {
+    const auto looks = [this] {
+        const cFaultyFiles counted(m_Files);
+        CheckInstallation(counted, kApp, &m_Machine);
+        return counted.m_Calls;
+    };
+    m_Files.Put(kApp + "VigrelReceiver.INI", Content());
+    Alarm("0.txt", "");
+    const int withOne = looks();
+    for (int i = 1; i <= 100; ++i) Alarm(std::to_string(i) + ".txt", "");
+    EXPECT_EQ(looks(), withOne);
 }
 
 TEST_F(FolderCheck, MoreAlarmsThanAreKeptAreRemarked) {

@@ -43,11 +43,8 @@ void CheckAlarm(const cInstallation& installation, const std::string& name, cFin
                          (first.field.empty() ? "" : ", " + first.field) + ": " + first.description + more);
 }
 
-void CheckStranger(const cInstallation& installation, const std::string& name, cFindings& findings) {
-    const auto leftovers =
-        installation.Files().ListFiles(installation.Path() + std::string(kFolder), kTemporaryMask);
-    for (const std::string& leftover : leftovers) {
-        if (leftover != name) continue;
+void CheckStranger(const std::string& name, bool isLeftover, cFindings& findings) {
+    if (isLeftover) {
         findings.Remark("leftover", PlaceOf(name), "was left by a crash; the next start removes it");
         return;
     }
@@ -77,15 +74,17 @@ std::set<std::string> CheckUnreadable(const cInstallation& installation, cFindin
 
 void CheckAlarmFiles(const cInstallation& installation, cFindings& findings) {
     const std::set<std::string> unreadable = CheckUnreadable(installation, findings);
+    const std::string folder = installation.Path() + std::string(kFolder);
+    const auto temporaries = installation.Files().ListFiles(folder, kTemporaryMask);
+    const std::set<std::string> leftovers(temporaries.begin(), temporaries.end());
     double alarms = 0;
-    for (const std::string& name :
-         installation.Files().ListFiles(installation.Path() + std::string(kFolder), "*")) {
+    for (const std::string& name : installation.Files().ListFiles(folder, "*")) {
         if (unreadable.contains(name)) continue;
         if (IsAlarmName(name)) {
             CheckAlarm(installation, name, findings);
             ++alarms;
         } else {
-            CheckStranger(installation, name, findings);
+            CheckStranger(name, leftovers.contains(name), findings);
         }
     }
     const double most = installation.Number("General", "MaxEvents");
