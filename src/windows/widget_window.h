@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QEvent>
+#include <QMenu>
 #include <QMoveEvent>
 #include <QResizeEvent>
 #include <QShowEvent>
@@ -78,7 +80,7 @@ class cWidgetWindow : public Widget, public Port {
         m_Windows.Enter(*this);
         m_Hiding.Reappear();
         m_ResizeNotice.Hold();
-        this->show();
+        ShowBesideMenus();
         KeepBoxInFront();
         FlushToScreen();
         m_ResizeNotice.Release();
@@ -114,7 +116,22 @@ class cWidgetWindow : public Widget, public Port {
             this->windowHandle()->setFlag(Qt::WindowStaysOnTopHint, on);
         }
     }
-    void Vanish() { m_Hiding.Vanish(); }
+    // The toolkit closes an open menu when it shows a window, but for a tool's: while alarms keep coming in,
+    // nobody would get at an entry.
+    void ShowBesideMenus() {
+        if (QApplication::activePopupWidget() == nullptr) return this->show();
+        this->create();
+        const Qt::WindowFlags flags = this->windowFlags();
+        this->overrideWindowFlags((flags & ~Qt::WindowType_Mask) | Qt::Tool);
+        this->show();
+        this->overrideWindowFlags(flags);
+    }
+    void Vanish() {
+        for (QMenu* menu : this->template findChildren<QMenu*>()) {
+            if (menu->isVisible()) menu->close();
+        }
+        m_Hiding.Vanish();
+    }
     void Reappear() { m_Hiding.Reappear(); }
     QPoint Place() const { return m_Hiding.Place(); }
     void PlaceAt(QPoint place) { m_Hiding.PlaceAt(place); }

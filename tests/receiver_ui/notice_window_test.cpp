@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QMenu>
 #include <QTest>
 
 #include "core/receiver_ports.h"
@@ -80,6 +81,17 @@ TEST_F(NoticeWindow, MadeAnIconItComesBackWithTheNextText) {
     ASSERT_TRUE(Window()->isMinimized());
     m_Others.ShowNotice("4 alarms");
     EXPECT_FALSE(Window()->isMinimized());
+}
+
+TEST_F(NoticeWindow, LeavesAnOpenMenuOpen) {
+    QWidget station;
+    station.show();
+    QMenu menu(&station);
+    menu.addAction("Acknowledge all");
+    menu.popup({});
+    m_Others.ShowNotice("3 alarms");
+    EXPECT_TRUE(menu.isVisible());
+    EXPECT_EQ(Window()->windowType(), Qt::Dialog);
 }
 
 TEST_F(NoticeWindow, ItsTextIsPlain) {

@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPointer>
+#include <QProcess>
 #include <QWindow>
 
 #include "receiver_ui/popups/popup_widget.h"
@@ -135,6 +138,45 @@ TEST_F(PopupsUnderX, PopupsLieOverOtherWindowsWithoutTakingTheKeyboard) {
     m_Typing.raise();
     RunEvents(50);
     EXPECT_EQ(m_Screen.RootWindows("_NET_CLIENT_LIST_STACKING").front(), IdOf(m_Typing));
+}
+
+// Alarms that keep coming in would let nobody get at an entry.
+TEST_F(PopupsUnderX, AnOpenMenuStaysOpenAndWorks) {
+    QMenu menu(&m_Typing);
+    int chosen = 0;
+    QObject::connect(menu.addAction("Acknowledge all"), &QAction::triggered, [&] { ++chosen; });
+    menu.popup(m_Typing.mapToGlobal(QPoint(0, 0)));
+    ASSERT_TRUE(WaitUntil([&] { return menu.windowHandle()->isExposed(); }));
+    OpenAll({"X", "Y"});
+    ASSERT_TRUE(StacksAs("21"));
+    RunEvents(100);
+    EXPECT_TRUE(menu.isVisible());
+    EXPECT_EQ(QApplication::activePopupWidget(), &menu);
+    const QPoint entry = menu.mapToGlobal(menu.actionGeometry(menu.actions()[0]).center());
+    QProcess mouse;
+    mouse.start("xdotool",
+                {"mousemove", QString::number(entry.x()), QString::number(entry.y()), "click", "1"});
+    EXPECT_TRUE(WaitUntil([&] { return chosen == 1; }, 5000));
+    EXPECT_TRUE(WaitUntil([&] { return mouse.state() == QProcess::NotRunning; }));
+    // They are ordinary windows all the same.
+    EXPECT_TRUE(m_Screen.HasState(IdOf(Popup(2)), "_NET_WM_STATE_ABOVE"));
+    EXPECT_EQ(Popup(2).windowType(), Qt::Window);
+    EXPECT_EQ(m_Screen.ActiveWindow(), IdOf(m_Typing));
+}
+
+// It would stand over the popup that shows in its place, and mean the hidden one.
+TEST_F(PopupsUnderX, APopupThatHidesTakesItsMenuAlong) {
+    m_Settings.m_PopupFormTopMostCategory = "A";
+    m_Settings.m_ViewOnlyOnePopupForm = true;
+    Open("B");
+    ASSERT_TRUE(StacksAs("1"));
+    QMenu menu(Popup(1).findChild<cPopupLabel*>());
+    menu.addAction("Copy");
+    menu.popup(Popup(1).mapToGlobal(QPoint(50, 50)));
+    ASSERT_TRUE(WaitUntil([&] { return menu.windowHandle()->isExposed(); }));
+    Open("A");
+    ASSERT_TRUE(StacksAs("2"));
+    EXPECT_FALSE(menu.isVisible());
 }
 
 TEST_F(PopupsUnderX, APopupOfAnUnlistedCategoryIsNotTopmostWhenOneShows) {

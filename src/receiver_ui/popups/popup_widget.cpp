@@ -114,7 +114,7 @@ void cPopupWidget::ReachPlace() {
 void cPopupWidget::Map() {
     Build();
     Reappear();
-    show();
+    ShowBesideMenus();
     // Screen readers speak it, as they would a message box.
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
