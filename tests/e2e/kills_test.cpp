@@ -4,7 +4,11 @@
 #include <gtest/gtest.h>
 #include <signal.h>
 
+#include <algorithm>
 #include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <functional>
 #include <random>
 #include <set>
 #include <string>
@@ -19,9 +23,34 @@ namespace {
 class Kills : public ::testing::Test {
   protected:
     Kills() { station.ExpectStandardError(); }
-    void SetLimit(int limit) {
+    void SetLimit(int limit) { SetLimits("MaxEvents=" + std::to_string(limit)); }
+    void SetLimits(const std::string& keys) {
         std::filesystem::remove(station.Folder() / "VigrelReceiver.INI");
-        station.Configure("[General]\r\nMaxEvents=" + std::to_string(limit) + "\r\n");
+        station.Configure("[General]\r\n" + keys + "\r\n");
+    }
+    // Of all alarms but the newest.
+    void SetTimes(int newest, const std::function<double(double)>& time) {
+        for (const auto& path : station.AlarmFiles()) {
+            std::string bytes = ReadAll(path);
+            if (NumberOf(bytes) > alarms.m_Answered - newest) continue;
+            SetCreatedTime(bytes, time(CreatedTimeOf(bytes)));
+            std::ofstream(path, std::ios::binary) << bytes;
+        }
+    }
+    // Whether one of the alarms goes, within the time that a change of date takes to be seen.
+    bool WaitUntilOneGoes() const {
+        const std::filesystem::path oldest = OldestFile();
+        for (int tries = 0; tries < 40'000; ++tries) {
+            if (!std::filesystem::exists(oldest)) return true;
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        }
+        return false;
+    }
+    std::filesystem::path OldestFile() const {
+        const auto files = station.AlarmFiles();
+        return *std::min_element(files.begin(), files.end(), [](const auto& a, const auto& b) {
+            return CreatedTimeOf(ReadAll(a)) < CreatedTimeOf(ReadAll(b));
+        });
     }
     void KillAfter(int mostMilliseconds) {
         const std::chrono::milliseconds moment(
@@ -63,7 +92,7 @@ class Kills : public ::testing::Test {
         }
     }
 
-    std::mt19937 m_Random{std::random_device{}()};
+    std::mt19937 m_Random = RandomMoments();
     std::set<int> m_Gaps;
     cNumberedAlarms alarms;
     cStation station;
@@ -123,6 +152,53 @@ TEST_F(Kills, WhileItStartsLoseNoneThatIsToStay) {
         station.Stop(SIGKILL);
     }
     RecordProperty("answered", alarms.m_Answers);
+}
+
+// The start removes what has become too old meanwhile.
+TEST_F(Kills, WhileItStartsLoseNoneThatIsYoungEnough) {
+    constexpr int kYoung = 40;
+    for (int i = 0; i < KillsOfEachKind(); ++i) {
+        SetLimits("MaxEvents=0\r\nMaxDays=0");
+        ASSERT_TRUE(station.Start()) << station.StandardError();
+        alarms.Send(station.m_Port, 300);
+        station.Stop(SIGKILL);
+        SetTimes(kYoung, [](double time) { return time - 10; });
+        SetLimits("MaxEvents=0\r\nMaxDays=5");
+        station.Launch();
+        KillAfter(500);
+        station.WaitForEnd();
+        ExpectTheAnswered(kYoung);
+        station.Stop(SIGKILL);
+    }
+    RecordProperty("answered", alarms.m_Answers);
+}
+
+// At the change of date, which a station notices ten seconds later: a tenth of the kills.
+TEST_F(Kills, WhileItSweepsAtMidnightLoseNoneThatIsYoungEnough) {
+    constexpr int kYoung = 40, kSeconds = 15, kMostSweepMilliseconds = 20;
+    int inTheMidst = 0;
+    SetLimits("MaxEvents=0\r\nMaxDays=1");
+    for (int i = 0; i < std::max(1, KillsOfEachKind() / 10); ++i) {
+        ASSERT_TRUE(station.Start()) << station.StandardError();
+        alarms.Send(station.m_Port, 600);
+        station.Stop(SIGKILL);
+        const cZoneBeforeMidnight zone(kSeconds);
+        double old = zone.m_Midnight - 1 - 5.0 / 86400;
+        SetTimes(kYoung, [&](double) { return old += 1e-9; });
+        station.m_Environment["TZ"] = zone.m_Name;
+        station.Launch();
+        ASSERT_TRUE(WaitUntilOneGoes());
+        KillAfter(kMostSweepMilliseconds);
+        station.WaitForEnd();
+        station.m_Environment.erase("TZ");
+        const std::set<int> stored = StoredNumbers(station);
+        for (int number = alarms.m_Answered; number > alarms.m_Answered - kYoung; --number)
+            EXPECT_TRUE(stored.contains(number)) << number << " is lost";
+        if (stored.size() > kYoung) ++inTheMidst;
+        for (const auto& path : station.AlarmFiles()) std::filesystem::remove(path);
+    }
+    RecordProperty("answered", alarms.m_Answers);
+    RecordProperty("in the midst of sweeping", inTheMidst);
 }
 
 }  // namespace

@@ -85,6 +85,18 @@ int FreePort() {
     return ntohs(address.sin_port);
 }
 
+cZoneBeforeMidnight::cZoneBeforeMidnight(int seconds) {
+    constexpr std::time_t kDay = 86400, kDaysBefore1970 = 25569;
+    const std::time_t now = std::time(nullptr);
+    // What the zone's clock lacks to Greenwich's; written west of it as a positive number.
+    std::time_t west = ((now + seconds) % kDay + kDay) % kDay;
+    if (west > kDay / 2) west -= kDay;
+    const std::time_t length = std::abs(west);
+    m_Name = (west < 0 ? "TST-" : "TST+") + std::to_string(length / 3600) + ":" +
+             std::to_string(length / 60 % 60) + ":" + std::to_string(length % 60);
+    m_Midnight = static_cast<double>((now + seconds - west) / kDay + kDaysBefore1970);
+}
+
 cStation::cStation() : m_Port(FreePort()), m_Folder(std::make_shared<cTemporaryFolder>()) {
     std::string texts;
     for (int id = 1; id < 1100; ++id) texts += std::to_string(id) + "=T" + std::to_string(id) + "\r\n";

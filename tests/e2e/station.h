@@ -35,6 +35,13 @@ cResult RunProgram(const std::string& program, const std::vector<std::string>& a
 // A free TCP port of this machine.
 int FreePort();
 
+// A time zone in which it is this long until midnight.
+struct cZoneBeforeMidnight {
+    explicit cZoneBeforeMidnight(int seconds);
+    std::string m_Name;
+    double m_Midnight = 0;  // days since 1899-12-30
+};
+
 // A real vigrel-receiver on an application folder of its own, with the texts "T<id>" and a free port.
 //
 // Whoever reads its standard error looks for a reason: one that prints anything that its test doesn't expect

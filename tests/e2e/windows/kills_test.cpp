@@ -62,7 +62,7 @@ class KillsOnScreen : public ::testing::Test {
         return temporaries > 0 || (written > 0 && written < kAlarms);
     }
 
-    std::mt19937 m_Random{std::random_device{}()};
+    std::mt19937 m_Random = RandomMoments();
     cStation m_Station;
 };
 

@@ -24,18 +24,6 @@ void OnScreen(cStation& station) {
     station.m_Environment["LC_ALL"] = "C.UTF-8";
 }
 
-// A time zone in which it is this long until midnight.
-std::string ZoneBeforeMidnight(int seconds) {
-    const int now = static_cast<int>(std::time(nullptr) % 86400);
-    // What the zone's clock lacks to Greenwich's; written west of it as a positive number.
-    int west = ((now + seconds) % 86400 + 86400) % 86400;
-    if (west > 43200) west -= 86400;
-    const int length = std::abs(west);
-    std::string zone = west < 0 ? "TST-" : "TST+";
-    return zone + std::to_string(length / 3600) + ":" + std::to_string(length / 60 % 60) + ":" +
-           std::to_string(length % 60);
-}
-
 // Three boxes of the start, left standing for longer than anything in the receiver waits: over a midnight,
 // and beyond the longest silence of a sender.
 TEST(BoxesLeftStanding, NoLogGoesAndNoSenderIsMissed) {
@@ -48,7 +36,7 @@ TEST(BoxesLeftStanding, NoLogGoesAndNoSenderIsMissed) {
 
     cStation second(&running);
     OnScreen(second);
-    second.m_Environment["TZ"] = ZoneBeforeMidnight(15);
+    second.m_Environment["TZ"] = cZoneBeforeMidnight(15).m_Name;
     second.Launch();
     const std::string secondBox = FindWindow(second.Process(), "^Vigrel Alarm Receiver$");
     ASSERT_NE(secondBox, "");
