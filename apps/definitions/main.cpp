@@ -80,6 +80,7 @@ int ShowUntilClosed(cApplication& application, cEditorServices& services, const 
     cDefinitionsWindow window(services);
     QObject::connect(&window, &cDefinitionsWindow::Closed, &application, &QCoreApplication::quit,
                      Qt::QueuedConnection);
+    application.MaySessionEnd = [&window] { return window.MayEnd(); };
     window.show();
     // Once the window manager has placed the window, so that a message about a file lies over it.
     QTimer::singleShot(kPlacingTime, &window, [&] {

@@ -70,8 +70,18 @@ cApplication::cApplication(int& argc, char** argv, cDisplayGuard&& guard) : QApp
         [this, neverRestart](QSessionManager& session) {
             neverRestart(session);
             if (OnSessionEnds) OnSessionEnds();
+            if (MaySessionEnd) AskBeforeSessionEnds(session);
         },
         Qt::DirectConnection);
+}
+
+// Now or never: when the programs are told to end, the display goes, whatever is still asked on it.
+void cApplication::AskBeforeSessionEnds(QSessionManager& session) {
+    m_EndsWithSession = false;
+    if (!session.allowsInteraction()) return;
+    m_EndsWithSession = MaySessionEnd();
+    if (m_EndsWithSession) return session.release();
+    session.cancel();
 }
 
 void cApplication::LoadToolkitTexts(const QLocale& locale) {
@@ -128,6 +138,10 @@ void cApplication::MakeHintsReadable() {
 }
 
 bool cApplication::event(QEvent* event) {
+    if (event->type() == QEvent::Quit && m_EndsWithSession) {
+        exit();
+        return true;
+    }
     const bool handled = QApplication::event(event);
     if (event->type() == QEvent::ApplicationPaletteChange) MakeHintsReadable();
     return handled;

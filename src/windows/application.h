@@ -12,6 +12,7 @@
 #include "windows/toolkit_words.h"
 
 class QMessageBox;
+class QSessionManager;
 
 namespace vigrel {
 
@@ -67,6 +68,9 @@ class cApplication : public QApplication {
     // The desktop's session is about to end, or may be. Windows are closed later, unless the end is called
     // off.
     std::function<void()> OnSessionEnds;
+    // Asks what has to be asked before the session ends; false calls the end off. Behind a yes the program
+    // ends with the session, and without another question.
+    std::function<bool()> MaySessionEnd;
 
   protected:
     bool event(QEvent* event) override;
@@ -74,6 +78,7 @@ class cApplication : public QApplication {
     void timerEvent(QTimerEvent* event) override;
 
   private:
+    void AskBeforeSessionEnds(QSessionManager& session);
     void LoadToolkitTexts(const QLocale& locale);
     void MakeHintsReadable();
     static void HandleExit();
@@ -88,7 +93,7 @@ class cApplication : public QApplication {
     std::function<void()> m_RepeatedStep;
     std::string m_MessageTitle, m_Origin;
     int m_FailureBoxMilliseconds = kFailureBoxMilliseconds;
-    bool m_Failed = false;
+    bool m_Failed = false, m_EndsWithSession = false;
     QMessageBox* m_FailureBox = nullptr;
 };
 

@@ -237,14 +237,17 @@ void cDefinitionsWindow::RemovePage(cEditorPage& page) {
     page.deleteLater();
 }
 
-void cDefinitionsWindow::closeEvent(QCloseEvent* event) {
+bool cDefinitionsWindow::MayEnd() {
     KeepLastPage();
     for (cEditorPage* page : Pages()) {
-        if (MayClose(*page)) continue;
-        event->ignore();
-        return;
+        if (!MayClose(*page)) return false;
     }
     m_Services.m_Settings.setValue("Geometry", saveGeometry());
+    return true;
+}
+
+void cDefinitionsWindow::closeEvent(QCloseEvent* event) {
+    if (!MayEnd()) return event->ignore();
     event->accept();
     emit Closed();
 }

@@ -41,6 +41,9 @@ class cDefinitionsWindow : public QMainWindow {
     // A file that is open already comes to the front. False when it could not be opened; the operator has
     // been told.
     bool OpenFile(const QString& path);
+    // Asks what is to become of unsaved changes, and keeps what the next start goes on with. False when the
+    // user refuses.
+    bool MayEnd();
 
   signals:
     // The window was closed, and nothing is left unsaved that the operator wanted.

@@ -7,6 +7,8 @@
 
 #include "common/binary.h"
 #include "e2e/definitions/editor_program.h"
+#include "e2e/definitions/session_manager.h"
+#include "e2e/windows/operator.h"
 #include "schedule/schedule_builder.h"
 #include "support/samples.h"
 
@@ -119,6 +121,49 @@ TEST_F(DefinitionsFiles, UnsavedChangesAreAskedForAtTheEnd) {
     ASSERT_TRUE(EnterDialog("Vigrel Definitions"));
     Type("\x1B");
     EXPECT_TRUE(HasTitle("schedule.dat* - Vigrel Definitions"));
+    Keys({"ctrl+z"});
+    EXPECT_TRUE(HasTitle("schedule.dat - Vigrel Definitions"));
+    Keys({"ctrl+q"});
+    EXPECT_EQ(WaitForEnd(), 0);
+}
+
+// With a day of the schedule changed.
+class EndOfTheSession : public ::testing::Test, protected cEditorProgram {
+  protected:
+    using eMessage = cSessionManager::eMessage;
+    void StartChanged() {
+        Start(2, {SamplePath("schedule.dat")});
+        ASSERT_TRUE(FindAxis());
+        Drag({At(6, 540), At(6, 600), At(6, 780)});
+        ASSERT_TRUE(HasTitle("schedule.dat* - Vigrel Definitions"));
+    }
+    void EndUntilItIsAsked() {
+        m_Session.EndSession();
+        ASSERT_TRUE(m_Session.Await(eMessage::InteractRequest).has_value());
+        m_Session.Send(eMessage::Interact);
+        ASSERT_TRUE(EnterDialog("^Vigrel Definitions$"));
+    }
+
+    cSessionManager m_Session{Path("session")};
+};
+
+TEST_F(EndOfTheSession, WaitsForTheAnswerWhatBecomesOfChanges) {
+    ASSERT_NO_FATAL_FAILURE(StartChanged());
+    ASSERT_NO_FATAL_FAILURE(EndUntilItIsAsked());
+    PressHere({"Tab", "Return"});  // Discard
+    EXPECT_EQ(m_Session.Await(eMessage::InteractDone), false);
+    EXPECT_EQ(m_Session.Await(eMessage::SaveYourselfDone), true);
+    m_Session.Send(eMessage::Die);
+    EXPECT_EQ(WaitForEnd(), 0);
+}
+
+TEST_F(EndOfTheSession, IsCalledOffByWhoGoesOnEditing) {
+    ASSERT_NO_FATAL_FAILURE(StartChanged());
+    ASSERT_NO_FATAL_FAILURE(EndUntilItIsAsked());
+    Type("\x1B");
+    EXPECT_EQ(m_Session.Await(eMessage::InteractDone), true);
+    EXPECT_TRUE(m_Session.Await(eMessage::SaveYourselfDone).has_value());
+    m_Session.Send(eMessage::ShutdownCancelled);
     Keys({"ctrl+z"});
     EXPECT_TRUE(HasTitle("schedule.dat - Vigrel Definitions"));
     Keys({"ctrl+q"});
