@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Runs a station on a real file system of 1 MB that fills and empties, and turns read-only and back.
+# Runs a station on a real file system of 1 MB that fills and empties, and turns read-only and back; it ends and
+# starts again meanwhile.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 
@@ -10,7 +11,9 @@ tests/campaigns/small-disk.sh [ROUNDS]
 Mounts file systems of 1 MB in memory, in a mount namespace of its own, and runs a station on them. ROUNDS times (3) the
 one of the whole station is filled up and emptied, and the one of its alarms turned read-only and back; alarms are sent
 all the while. Each is answered, the station tells that they wait and that all are stored, and at the end, started again,
-it has every one.
+it has every one. Once in each of both troubles it is told to end and started again: it starts, takes alarms, and has those
+that were stored before; those that waited when it ended are gone, since nothing could take them. One that is told to end
+when the disk has just got room has stored all.
 Needs root or user namespaces. Takes the programs of build/dev, or of the folder that VIGREL_PROGRAMS names.
 HELP
 }
@@ -82,13 +85,35 @@ waits() {
     until_true all_stored || fail "$what: alarms are missing"
 }
 
+end() {
+    kill -TERM $pid
+    wait $pid || fail "$1: it does not end in order"
+}
+# Told to end and started again WHAT: with what is stored, and it takes alarms.
+starts_again() {
+    local stored
+    stored=$(find "$folder/Alarms" -name '*.alm' | wc -l)
+    end "$1"
+    [ "$(find "$folder/Alarms" -name '*.alm' | wc -l)" -eq "$stored" ] || fail "$1: its end changes what is stored"
+    # What waited has gone with it.
+    sent=$stored
+    launch
+}
+
 launch
 for round in $(seq "$rounds"); do
     dd if=/dev/zero of="$folder/ballast" bs=4k 2>/dev/null || true
     waits "a full disk" rm "$folder/ballast"
 done
-kill -TERM $pid
-wait $pid
+dd if=/dev/zero of="$folder/ballast" bs=4k 2>/dev/null || true
+send 20 || fail "a full disk: not every alarm was answered"
+starts_again "a full disk"
+waits "a full disk, started again" rm "$folder/ballast"
+dd if=/dev/zero of="$folder/ballast" bs=4k 2>/dev/null || true
+send 20 || fail "a full disk: not every alarm was answered"
+rm "$folder/ballast"
+end "a disk that has just got room"
+all_stored || fail "a disk that has just got room: the end stores not every alarm"
 mv "$folder/Alarms" "$folder/Before"
 mkdir "$folder/Alarms"
 mount -t tmpfs -o size=1M tmpfs "$folder/Alarms"
@@ -98,6 +123,10 @@ for round in $(seq "$rounds"); do
     mount -o remount,ro "$folder/Alarms"
     waits "a disk that is read-only" mount -o remount,rw "$folder/Alarms"
 done
+mount -o remount,ro "$folder/Alarms"
+send 20 || fail "a disk that is read-only: not every alarm was answered"
+starts_again "a disk that is read-only"
+waits "a disk that is read-only, started again" mount -o remount,rw "$folder/Alarms"
 kill -KILL $pid
 wait $pid 2>/dev/null || true
 before=$sent
