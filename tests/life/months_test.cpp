@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 #include <malloc.h>
 
+#include <algorithm>
+#include <string>
+
 #include "common/dates.h"
 #include "common/failure.h"
 #include "link/frame.h"
@@ -19,11 +22,12 @@ constexpr std::size_t kMostEvents = 20;
 // day.
 class Months : public ::testing::Test, public cFakeReceiver {
   protected:
-    Months() {
+    explicit Months(const std::string& settings = "") {
         clock.Set(2026, 8, 15);
         files.Put("C:\\App\\Vigrel_Texts.046", "10040=T10040\r\n");
         Ini("Columns=StateIcon,t0,t4,Observed\r\nMaxEvents=20\r\nMaxDays=1\r\nKeepForDays=5\r\nEventSignal="
-            "3\r\n",
+            "3\r\n" +
+                settings,
             "[Senders]\r\nPLC1=0\r\nPLC2=30\r\n");
         Start();
         list.m_OnAddRecord = [this] { ++m_Rows; };
@@ -43,8 +47,12 @@ class Months : public ::testing::Test, public cFakeReceiver {
         const bool silent = minute >= 180 && minute < 300;
         if (!silent) Send("PLC2", "S0");
         if (!IsQuiet(day)) Send("PLC1", "S1||a" + std::to_string(++m_Alarms));
-        if (minute % 97 == 0) menus.OnMenuAckAll();
+        Attend(minute);
         for (int turn = 0; turn < 8; ++turn) timerSave.Tick();
+    }
+    // What the operator does.
+    virtual void Attend(int minute) {
+        if (minute % 97 == 0) menus.OnMenuAckAll();
     }
     void Day(int day) {
         for (int minute = 0; minute < kMinutesPerDay; ++minute) {
@@ -68,7 +76,7 @@ class Months : public ::testing::Test, public cFakeReceiver {
         if (day == 50) clock.m_Now += 10;
         if (day == 52) clock.m_Now -= 10;
     }
-    void ExpectInOrder() {
+    virtual void ExpectInOrder() {
         EXPECT_LE(list.Rows().size(), kMostEvents);
         EXPECT_EQ(AlarmFiles().size(), list.Rows().size());
         EXPECT_TRUE(files.ListFiles("C:\\App\\Alarms\\", "*.$~").empty());
@@ -76,11 +84,12 @@ class Months : public ::testing::Test, public cFakeReceiver {
     }
     std::vector<std::string> Logs() const { return files.ListFiles("C:\\App\\LogFiles\\", "*"); }
     static std::size_t Memory() { return mallinfo2().uordblks; }
+    void LiveThem();
 
     int m_Alarms = 0, m_Rows = 0, m_Connections = 0;
 };
 
-TEST_F(Months, LeaveNoMoreBehindThanTheirLastDays) {
+void Months::LiveThem() {
     std::size_t memory = 0;
     for (int day = 0; day < kDays; ++day) {
         Day(day);
@@ -97,12 +106,47 @@ TEST_F(Months, LeaveNoMoreBehindThanTheirLastDays) {
     for (const std::string& name : Logs()) EXPECT_GE(name, "20261107") << name;
     EXPECT_NE(files.ReadFile("C:\\App\\VigrelReceiver.INI").find("PLC2=30"), std::string::npos);
 
-    const std::string listed = list.Screen();
     mainWindow.CloseFor(eCloseReason::SessionEnd);
+    // With what the end acknowledges.
+    const std::string listed = list.Screen();
     cFakeReceiver next(files);
     next.clock = clock;
     EXPECT_EQ(next.Load(), eStartUp::Running);
     EXPECT_EQ(next.list.Screen(), listed);
+}
+
+TEST_F(Months, LeaveNoMoreBehindThanTheirLastDays) {
+    LiveThem();
+}
+
+// Every alarm opens a popup; the operator closes the oldest, which acknowledges it, and now and then all.
+class MonthsOfPopups : public Months {
+  protected:
+    MonthsOfPopups()
+        : Months(
+              "ViewPopupForm=1\r\nAckEventWhenPopupFormIsClosed=1\r\nEventPopupFormat=[T0]\r\n"
+              "EventSignalUntilNoMorePopupForms=1\r\nPopupFormTopMostCategory=Vigrel\r\n") {}
+    void Attend(int minute) override {
+        constexpr int kMostOpen = 5;
+        m_MostOpen = std::max(m_MostOpen, popups.ForgetClosed());
+        for (; popups.ForgetClosed() > kMostOpen; ++m_Closed) popups[1].CloseFor(eCloseReason::Control);
+        if (minute % 97 == 0) menus.OnMenuAckAllAndClosePopups();
+    }
+    void ExpectInOrder() override {
+        Months::ExpectInOrder();
+        const int open = popups.ForgetClosed();
+        EXPECT_EQ(receiver->State().m_PopupFormCount, open);
+        EXPECT_EQ(windows.OpenWindows().size(), static_cast<std::size_t>(open) + 1);
+        EXPECT_EQ(popups.m_Stack.m_Windows.size(), static_cast<std::size_t>(open));
+    }
+
+    int m_Closed = 0, m_MostOpen = 0;
+};
+
+TEST_F(MonthsOfPopups, LeaveNoMoreBehindThanTheirLastDays) {
+    LiveThem();
+    EXPECT_GE(m_MostOpen, 6);
+    EXPECT_GT(m_Closed, kDays * 1000);
 }
 
 }  // namespace

@@ -177,6 +177,12 @@ class cFakePopupMaker : public cPopupMaker {
         return text;
     }
 
+    // For tests that open more popups than they could keep: those that are left count from 1 again.
+    int ForgetClosed() {
+        std::erase_if(m_Popups, [](const auto& popup) { return !popup->m_Open; });
+        return static_cast<int>(m_Popups.size());
+    }
+
     cFakeStack m_Stack;
     bool m_FailNext = false;
 
