@@ -57,6 +57,27 @@ TEST_F(CalendarPage, ADragPaintsTheChosenTypeInOneStepOfUndo) {
     EXPECT_EQ(Value(2026, 6, 3), 0);
 }
 
+TEST_F(CalendarPage, WithoutAChosenTypeADragPaintsNothing) {
+    m_Page.Editor().ShowMonth(2026, 6);
+    DayTypes().setCurrentRow(-1);
+    Drag(View(), {Cell(0, 0), Cell(1, 0)});
+    EXPECT_EQ(Value(2026, 6, 1), 0);
+    EXPECT_EQ(Value(2026, 6, 2), 0);
+    EXPECT_FALSE(m_Page.IsDirty());
+}
+
+TEST_F(CalendarPage, TheMarkOfTheKeysIsNotPrintedAndStaysOnTheScreen) {
+    const QRectF area(View().rect());
+    const QImage printed = OnPaper(m_Page.Printout(), area);
+    const QImage unmarked = View().grab().toImage();
+    QApplication::setActiveWindow(m_Window.get());
+    View().setFocus();
+    const QImage marked = View().grab().toImage();
+    EXPECT_NE(marked, unmarked);
+    EXPECT_EQ(OnPaper(m_Page.Printout(), area), printed);
+    EXPECT_EQ(View().grab().toImage(), marked);
+}
+
 TEST_F(CalendarPage, TheFirstPressPaintsASpecialDayType) {
     m_Page.Editor().ShowMonth(2026, 6);
     Drag(View(), {Cell(0, 0), Cell(1, 0)});

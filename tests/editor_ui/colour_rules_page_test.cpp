@@ -11,6 +11,7 @@
 #include <QTableWidget>
 #include <QUndoStack>
 #include <map>
+#include <set>
 
 #include "common/dates.h"
 #include "editor_ui/page_fixture.h"
@@ -258,6 +259,16 @@ TEST_F(ColourRulesOfAlarms, AStationWithoutAnySaysSo) {
     EXPECT_EQ(Find<QTabWidget>(Page(), "Tabs_Preview")->currentIndex(), 1);
     EXPECT_EQ(LabelOf(Page(), "Label_Preview_Alarms"), "The station has no alarms yet.");
     EXPECT_EQ(Alarms().rowCount(), 0);
+}
+
+TEST_F(ColourRulesPage, EachHeadTellsWhatItsColumnTakes) {
+    std::set<QString> tips;
+    for (int column = 0; column < Rules().columnCount(); ++column) {
+        tips.insert(Rules().horizontalHeaderItem(column)->toolTip());
+    }
+    EXPECT_EQ(tips.size(), 7u);
+    EXPECT_FALSE(tips.contains(QString()));
+    EXPECT_TRUE(Rules().horizontalHeaderItem(0)->toolTip().startsWith("A pattern"));
 }
 
 TEST_F(ColourRulesPage, AWrongFieldStaysAsTypedAndStandsInTheWayOfSaving) {

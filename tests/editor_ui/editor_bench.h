@@ -2,15 +2,19 @@
 
 #include <gtest/gtest.h>
 
+#include <QImage>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QUndoStack>
 #include <memory>
+#include <optional>
 
 #include "adapters/qt/qt_text.h"
 #include "editor_ui/fake_prompts.h"
+#include "editor_ui/pages/printout.h"
 #include "editor_ui/window/definitions_window.h"
 #include "schedule/schedule_builder.h"
 #include "support/fake_clock.h"
@@ -20,6 +24,19 @@
 namespace vigrel::testing {
 
 // The editor over fake files in the application folder /app, on 2026-03-15.
+// What a page puts into an area of a white sheet.
+inline QImage OnPaper(const std::optional<cPrintout>& printout, const QRectF& area) {
+    QImage sheet(area.size().toSize(), QImage::Format_RGB32);
+    sheet.fill(Qt::white);
+    QPainter painter(&sheet);
+    if (printout) {
+        printout->paint(painter, area);
+    } else {
+        ADD_FAILURE() << "nothing to print";
+    }
+    return sheet;
+}
+
 class cEditorBench {
   public:
     cEditorBench() {

@@ -52,6 +52,20 @@ TEST_F(SchedulePage, ANewScheduleIsAWorkingWeekAndNotDirty) {
     EXPECT_EQ(m_Page.Title(), "Schedule 1");
 }
 
+TEST_F(SchedulePage, TheMarkOfTheKeysIsNotPrintedAndStaysOnTheScreen) {
+    Click(2, 600);
+    View().clearFocus();
+    const QRectF area(View().rect());
+    const QImage printed = OnPaper(m_Page.Printout(), area);
+    const QImage unmarked = View().grab().toImage();
+    QApplication::setActiveWindow(m_Window.get());
+    View().setFocus();
+    const QImage marked = View().grab().toImage();
+    EXPECT_NE(marked, unmarked);
+    EXPECT_EQ(OnPaper(m_Page.Printout(), area), printed);
+    EXPECT_EQ(View().grab().toImage(), marked);
+}
+
 TEST_F(SchedulePage, ADragMakesAPeriodInOneStepOfUndo) {
     Drag(View(), {At(5, 600), At(5, 640), At(5, 700)});
     EXPECT_EQ(Day(5), "600-700");

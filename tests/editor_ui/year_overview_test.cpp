@@ -57,6 +57,23 @@ TEST(YearDrawing, FindsEachDayOfTheYearAtItsCellAndNoOther) {
     }
 }
 
+// Each month has six weeks and two lines above them, one beside and one below the other without much lost.
+TEST(YearDrawing, FillsTheAreaAboveItsLegend) {
+    const cYearDrawing drawing(QRectF(0, 0, 1000, 800), 2028);
+    const auto CellOf = [&](int month, int day) {
+        return drawing.CellOf(CalendarIndex(DateSerial(2028, month, day)));
+    };
+    // January and October 2028 begin with the last days of a first week, and need six.
+    const QRectF january = CellOf(1, 31), october = CellOf(10, 31), december = CellOf(12, 31);
+    const double weeks = 6, head = 2, below = 4;
+    EXPECT_DOUBLE_EQ(january.height(), 240 * 0.92 / (head + weeks));
+    EXPECT_DOUBLE_EQ(january.bottom(), 240 * 0.96);
+    EXPECT_DOUBLE_EQ(october.bottom(), 2 * 240 + 240 * 0.96);
+    EXPECT_DOUBLE_EQ(december.right(), 1000 - 250 * 0.04);
+    EXPECT_DOUBLE_EQ(december.width() * 7, (1000 / below) * 0.92);
+    EXPECT_GT(drawing.LegendAt(0, 1).box.top(), october.bottom());
+}
+
 TEST(YearDrawing, GivesEachSpecialDayTypeAColourOfItsOwn) {
     std::set<QRgb> colours;
     for (std::int16_t value = kWeekDays + 1; value <= kDayTypes; ++value) {
@@ -124,15 +141,8 @@ TEST_F(YearOverview, TellsTheColoursOfAllItsDayTypes) {
                        kDefinitionsIni);
     ASSERT_TRUE(m_Page.Open("/app/all.cal"));
     m_Page.Editor().ShowMonth(2026, 3);
-    const auto printout = m_Page.Printout();
-    ASSERT_TRUE(printout);
     const QRectF area(0, 0, 700, 500);
-    QImage sheet(area.size().toSize(), QImage::Format_RGB32);
-    sheet.fill(Qt::white);
-    {
-        QPainter painter(&sheet);
-        printout->paint(painter, area);
-    }
+    const QImage sheet = OnPaper(m_Page.Printout(), area);
     const cYearDrawing drawing(area, 2026);
     for (int i = 0; i < kDayTypes; ++i) {
         const cYearDrawing::cLegend legend = drawing.LegendAt(i, kDayTypes);
@@ -181,20 +191,27 @@ TEST_F(YearOverview, AndMonthAndWeekAreSavedAsPdf) {
 // The sheet has what the screen has: a painted day is in its colour.
 TEST_F(YearOverview, OnPaperHasItsColours) {
     Drag(View(), {Cell(6, 30)});
-    const auto printout = m_Page.Printout();
-    ASSERT_TRUE(printout);
-    QImage sheet(1200, 900, QImage::Format_RGB32);
-    sheet.fill(Qt::white);
-    {
-        QPainter painter(&sheet);
-        printout->paint(painter, QRectF(0, 0, 1200, 900));
-    }
-    const QRectF cell = cYearDrawing(QRectF(0, 0, 1200, 900), 2026).CellOf(Index(2026, 6, 30));
+    const QRectF area(0, 0, 1200, 900);
+    const QImage sheet = OnPaper(m_Page.Printout(), area);
+    const QRectF cell = cYearDrawing(area, 2026).CellOf(Index(2026, 6, 30));
     EXPECT_EQ(sheet.pixelColor(cell.topLeft().toPoint() + QPoint(2, 2)).rgb(),
               cYearDrawing::ColourOf(kHoliday).rgb());
 }
 
 // Types without a name of their own differ in the number at the end.
+TEST_F(YearOverview, KeepsItsLettersWithinTheirCellsOnANarrowSheet) {
+    const QRectF area(0, 0, 280, 1200);
+    const QImage sheet = OnPaper(m_Page.Printout(), area);
+    // Between two months beside each other nothing is drawn.
+    const cYearDrawing drawing(area, 2026);
+    const QRectF left = drawing.CellOf(Index(2026, 2, 1)), right = drawing.CellOf(Index(2026, 3, 2));
+    const int from = static_cast<int>(left.right()) + 2, to = static_cast<int>(right.left()) - 1;
+    ASSERT_GT(to, from);
+    for (int y = static_cast<int>(left.top() - left.height()); y < left.bottom(); ++y) {
+        for (int x = from; x < to; ++x) EXPECT_EQ(sheet.pixelColor(x, y), QColor(Qt::white)) << x << "," << y;
+    }
+}
+
 TEST_F(YearOverview, TellsDayTypesApartWhoseNamesHaveNoRoom) {
     std::string bytes(29220, '\0');
     const auto first = static_cast<std::size_t>(Index(2026, 3, 2));
@@ -203,11 +220,7 @@ TEST_F(YearOverview, TellsDayTypesApartWhoseNamesHaveNoRoom) {
     m_Files.Put("/app/all.cal", bytes);
     ASSERT_TRUE(m_Page.Open("/app/all.cal"));
     const QRectF area(0, 0, 700, 500);
-    QImage sheet(area.size().toSize(), QImage::Format_RGB32);
-    {
-        QPainter painter(&sheet);
-        m_Page.Printout()->paint(painter, area);
-    }
+    const QImage sheet = OnPaper(m_Page.Printout(), area);
     // The name's room is higher than its line.
     const auto name = [&](int place) {
         const cYearDrawing::cLegend legend = cYearDrawing(area, 2026).LegendAt(place, kDayTypes);
