@@ -372,6 +372,24 @@ TEST_F(ReportListKeys, TheArrowKeysMoveTheCurrentRow) {
     EXPECT_EQ(m_List.SelectedRows(), std::vector<RecordId>{m_Records[2]});
 }
 
+TEST_F(ReportListKeys, HomeAndEndLeadToTheFirstAndTheLastRow) {
+    View().setCurrentIndex(Cell(2, 1));
+    QTest::keyClick(&View(), Qt::Key_End);
+    EXPECT_EQ(View().currentIndex(), Cell(4, 1));
+    EXPECT_EQ(m_List.SelectedRows(), std::vector<RecordId>{m_Records[4]});
+    QTest::keyClick(&View(), Qt::Key_Home);
+    EXPECT_EQ(View().currentIndex(), Cell(0, 1));
+    EXPECT_EQ(m_List.SelectedRows(), std::vector<RecordId>{m_Records[0]});
+    QTest::keyClick(&View(), Qt::Key_End, Qt::ShiftModifier);
+    EXPECT_EQ(m_List.SelectedRows().size(), 5u);
+}
+
+TEST_F(ReportList, HomeAndEndOfAnEmptyListLeadNowhere) {
+    QTest::keyClick(&View(), Qt::Key_End);
+    QTest::keyClick(&View(), Qt::Key_Home);
+    EXPECT_FALSE(View().currentIndex().isValid());
+}
+
 TEST_F(ReportListKeys, EnterAndSpaceChooseTheCurrentRow) {
     View().setCurrentIndex(Cell(3, 1));
     QTest::keyClick(&View(), Qt::Key_Return);

@@ -78,6 +78,14 @@ void cReportView::keyPressEvent(QKeyEvent* event) {
     QTableView::keyPressEvent(event);
 }
 
+// Rows are chosen whole: what leads to the ends of a row elsewhere leads to those of the list.
+QModelIndex cReportView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+    if (action != MoveHome && action != MoveEnd) return QTableView::moveCursor(action, modifiers);
+    const int row = action == MoveHome ? 0 : model()->rowCount() - 1;
+    const int column = currentIndex().isValid() ? currentIndex().column() : std::max(0, columnAt(0));
+    return model()->index(row, column);
+}
+
 void cReportView::ChooseRow(const QModelIndex& index) {
     if (index.isValid() && OnRowChosen) OnRowChosen(index);
 }
