@@ -193,6 +193,17 @@ TEST_F(ProfilesPage, ShowingAProfileChangesNothing) {
     EXPECT_FALSE(Shown().HasChangedSinceLastLoadFromDisk());
 }
 
+TEST_F(ProfilesPage, TheButtonsOfAllSystemsStandBesideEachOtherBelowThem) {
+    ShowTab(7);
+    QCoreApplication::processEvents();
+    const QRect all = Find<QPushButton>(Page(), "Button_Systems_All")->geometry();
+    const QRect none = Find<QPushButton>(Page(), "Button_Systems_None")->geometry();
+    EXPECT_EQ(all.top(), none.top());
+    EXPECT_EQ(all.height(), none.height());
+    EXPECT_LT(all.right(), none.left());
+    EXPECT_GT(all.top(), Find<QCheckBox>(Page(), "Check_System_63")->geometry().bottom());
+}
+
 TEST_F(ProfilesPage, AllSystemsAreSetOrClearedAtOnce) {
     ShowTab(7);
     Press(Page(), "Button_Systems_All");
@@ -210,6 +221,14 @@ TEST_F(ProfilesPage, ReceiversAreShownByNameAndMissingOnesStay) {
     Shown().m_SequentialReceivers = "9;a b";
     Page().Choose(0);
     EXPECT_EQ(Items("List_Sequential"), "(missing receiver 0009)\n(not a receiver: a b)");
+}
+
+TEST_F(ProfilesPage, AReceiverThatOthersAddedHasItsNameAtTheNextLook) {
+    ShowTab(2);
+    PutSample("Receivers\\Receiver_0008.dat", "receiver_version_4.dat");
+    Page().hide();
+    Page().show();
+    EXPECT_EQ(Items("List_Parallel"), "\xC3\x96st (0007)\nNord (0008)");
 }
 
 TEST_F(ProfilesPage, ReceiversAreAddedFromTheListOfReceiversRemovedAndPutInOrder) {
