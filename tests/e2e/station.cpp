@@ -94,7 +94,8 @@ cZoneBeforeMidnight::cZoneBeforeMidnight(int seconds) {
     const std::time_t length = std::abs(west);
     m_Name = (west < 0 ? "TST-" : "TST+") + std::to_string(length / 3600) + ":" +
              std::to_string(length / 60 % 60) + ":" + std::to_string(length % 60);
-    m_Midnight = static_cast<double>((now + seconds - west) / kDay + kDaysBefore1970);
+    const std::time_t day = (now + seconds - west) / kDay;
+    m_Midnight = static_cast<double>(day + kDaysBefore1970);
 }
 
 cStation::cStation() : m_Port(FreePort()), m_Folder(std::make_shared<cTemporaryFolder>()) {
