@@ -92,6 +92,30 @@ std::vector<std::pair<std::int16_t, std::string>> NumberedNames(const cDefinitio
     return names;
 }
 
+// All but the one of each number that can be opened.
+std::vector<cUnreadableFile> DefinitionsWithTheSameNumber(const cDefinitionServices& services,
+                                                          const cDefinitionKind& kind) {
+    std::multimap<std::int16_t, std::string> names;
+    for (auto& [identity, name] : NumberedNames(services, kind)) names.emplace(identity, std::move(name));
+    std::vector<cUnreadableFile> others;
+    for (auto first = names.begin(); first != names.end(); first = names.upper_bound(first->first)) {
+        const std::string path = DefinitionFileName(services, kind, first->first);
+        const cPathParts parts = SplitPath(path);
+        // The exact name is the one that is opened; without it the first that the folder gives.
+        const auto end = names.upper_bound(first->first);
+        const auto exact =
+            std::find_if(first, end, [&](const auto& each) { return each.second == parts.name; });
+        const auto opened = exact == end ? first : exact;
+        for (auto other = first; other != end; ++other) {
+            if (other == opened) continue;
+            others.push_back({parts.folder + other->second,
+                              {Pattern("Reasons", "It has the same number as %1; rename one of them."),
+                               {opened->second}}});
+        }
+    }
+    return others;
+}
+
 void RequireComplete(const cBinaryReader& file) {
     if (file.Complete()) return;
     throw cFailure(eFailure::InputOutput, {Pattern("Reasons", "the file ends too early, at its byte %1"),
@@ -120,27 +144,13 @@ void RemoveDefinitionTemporaries(const cDefinitionServices& services, const cDef
     RemoveTemporariesOfLinks(services.files, parts.folder, parts.name + "????.dat");
 }
 
-std::vector<cUnreadableFile> DefinitionsWithTheSameNumber(const cDefinitionServices& services,
-                                                          const cDefinitionKind& kind) {
-    std::multimap<std::int16_t, std::string> names;
-    for (auto& [identity, name] : NumberedNames(services, kind)) names.emplace(identity, std::move(name));
-    std::vector<cUnreadableFile> others;
-    for (auto first = names.begin(); first != names.end(); first = names.upper_bound(first->first)) {
-        const std::string path = DefinitionFileName(services, kind, first->first);
-        const cPathParts parts = SplitPath(path);
-        // The exact name is the one that is opened; without it the first that the folder gives.
-        const auto end = names.upper_bound(first->first);
-        const auto exact =
-            std::find_if(first, end, [&](const auto& each) { return each.second == parts.name; });
-        const auto opened = exact == end ? first : exact;
-        for (auto other = first; other != end; ++other) {
-            if (other == opened) continue;
-            others.push_back({parts.folder + other->second,
-                              {Pattern("Reasons", "It has the same number as %1; rename one of them."),
-                               {opened->second}}});
-        }
-    }
-    return others;
+std::vector<cUnreadableFile> DefinitionsOutOfReach(const cDefinitionServices& services,
+                                                   const cDefinitionKind& kind) {
+    std::string folder = SplitPath(services.ini.FullPath(kind.folderAndStem)).folder;
+    const auto failure = CatchFailure([&] { services.files.ListNames(folder, ""); });
+    if (!failure) return DefinitionsWithTheSameNumber(services, kind);
+    folder.pop_back();
+    return {{std::move(folder), failure->Description()}};
 }
 
 cPhrase ReasonNotLoaded(const cDefinitionServices& services, const cDefinitionKind& kind,

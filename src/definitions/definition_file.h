@@ -69,9 +69,10 @@ struct cUnreadableFile {
     cPhrase reason;
     bool operator==(const cUnreadableFile&) const = default;
 };
-// Names that differ in case only from another one with the same number: only one of them can be opened.
-std::vector<cUnreadableFile> DefinitionsWithTheSameNumber(const cDefinitionServices& services,
-                                                          const cDefinitionKind& kind);
+// What is not even looked at: the folder, when it can't be listed, and names that differ in case only from
+// another one with the same number, since only one of them can be opened.
+std::vector<cUnreadableFile> DefinitionsOutOfReach(const cDefinitionServices& services,
+                                                   const cDefinitionKind& kind);
 // Why a file can't be loaded.
 cPhrase ReasonNotLoaded(const cDefinitionServices& services, const cDefinitionKind& kind,
                         const std::string& fileName);

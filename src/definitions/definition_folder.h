@@ -252,13 +252,13 @@ class cDefinitionFolder {
     static bool IsSame(const cFileReader::cStamp& a, const cFileReader::cStamp& b) {
         return a == b && a.changedNs == b.changedNs;
     }
-    // Mended, removed, or one of two with one number by now.
+    // Mended, removed, or one of two with one number by now; or the folder is.
     bool HaveUnreadableChanged() const {
         return std::any_of(m_NotLoaded.begin(), m_NotLoaded.end(),
                            [this](const auto& each) {
                                return !IsSame(each.second.stamp, m_Services.files.Stamp(each.first));
                            }) ||
-               DefinitionsWithTheSameNumber(m_Services, Definition::kKind) != m_Twins;
+               DefinitionsOutOfReach(m_Services, Definition::kKind) != m_OutOfReach;
     }
     std::string PathOf(std::int16_t identity) const {
         return DefinitionFileName(m_Services, Definition::kKind, identity);
@@ -279,7 +279,7 @@ class cDefinitionFolder {
     bool LoadNew() {
         const std::size_t before = m_Entries.size();
         const auto known = std::exchange(m_NotLoaded, {});
-        m_Twins = DefinitionsWithTheSameNumber(m_Services, Definition::kKind);
+        m_OutOfReach = DefinitionsOutOfReach(m_Services, Definition::kKind);
         for (const std::int16_t identity : DefinitionIdentities(m_Services, Definition::kKind)) {
             if (Holds(identity)) continue;
             const auto former = known.find(PathOf(identity));
@@ -291,7 +291,7 @@ class cDefinitionFolder {
                 Load(identity);
             }
         }
-        m_Unreadable = m_Twins;
+        m_Unreadable = m_OutOfReach;
         for (const auto& [path, file] : m_NotLoaded) m_Unreadable.push_back({path, file.reason});
         return m_Entries.size() != before;
     }
@@ -321,8 +321,8 @@ class cDefinitionFolder {
     const cDefinitionServices& m_Services;
     std::vector<cEntry> m_Entries;
     std::map<std::string, cNotLoaded> m_NotLoaded;  // by path
-    std::vector<cUnreadableFile> m_Twins;           // of a number that another one has
-    std::vector<cUnreadableFile> m_Unreadable;      // both
+    std::vector<cUnreadableFile> m_OutOfReach;
+    std::vector<cUnreadableFile> m_Unreadable;  // both
     std::weak_ptr<const TakeUp> m_Editor;
 };
 

@@ -55,6 +55,25 @@ TEST_F(DefinitionFolder, AFileThatIsLeftOutIsToldWithItsReason) {
     EXPECT_EQ(m_Receivers.Unreadable(), unreadable);
 }
 
+TEST_F(DefinitionFolder, ThatCannotBeListedIsToldAndIsNews) {
+    const std::string path = ReceiverPath("0007"), folder = path.substr(0, path.rfind('\\') + 1);
+    const auto none = [](std::size_t) { return false; };
+    m_Receivers.Load();
+    m_Files.m_FolderProblems[folder] = "Permission denied";
+    EXPECT_TRUE(m_Receivers.HasNews(none));
+    m_Receivers.Load();
+    EXPECT_EQ(m_Receivers.Count(), 0u);
+    const std::vector<cUnreadableFile> unreadable{{folder.substr(0, folder.size() - 1), "Permission denied"}};
+    EXPECT_EQ(m_Receivers.Unreadable(), unreadable);
+    EXPECT_FALSE(m_Receivers.HasNews(none));
+
+    m_Files.m_FolderProblems.clear();
+    EXPECT_TRUE(m_Receivers.HasNews(none));
+    m_Receivers.Rescan(none);
+    EXPECT_EQ(m_Receivers.Count(), 2u);
+    EXPECT_EQ(m_Receivers.Unreadable().size(), 1u);
+}
+
 TEST_F(DefinitionFolder, TheIdentitiesRiseWhateverOrderTheFolderGives) {
     m_Files.m_ListsBackwards = true;
     m_Receivers.Load();
