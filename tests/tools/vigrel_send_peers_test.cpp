@@ -32,6 +32,11 @@ TEST(VigrelSendTo, AStationGetsNothingOfWhatIsToldWithoutAStandardError) {
     EXPECT_TRUE(frame.ends_with("\x03\n")) << frame;
 }
 
+TEST(VigrelSendTo, AnOutputThatCannotBeWrittenIsSaidSo) {
+    EXPECT_EQ(Send("--help >/dev/full 2>/dev/null"), 1);
+    EXPECT_EQ(Send("--version >/dev/full 2>/dev/null"), 1);
+}
+
 // A connection that the test accepts from a port; ends with the object.
 class cPeer {
   public:

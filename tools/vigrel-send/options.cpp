@@ -1,5 +1,6 @@
 #include "vigrel-send/options.h"
 
+#include <cmath>
 #include <functional>
 #include <map>
 
@@ -25,6 +26,16 @@ double Number(const std::string& option, const std::string& text, double least, 
                           NumberText(most));
     }
     return value;
+}
+
+long WholeNumber(const std::string& option, const std::string& text, long least, long most) {
+    const double value = Val(text);
+    if (!IsNumeric(text) || value < static_cast<double>(least) || value > static_cast<double>(most) ||
+        value != std::floor(value)) {
+        throw cUsageError(option + ": \"" + text + "\" is not a whole number from " + std::to_string(least) +
+                          " to " + std::to_string(most));
+    }
+    return static_cast<long>(value);
 }
 
 int HexDigit(const std::string& text, char c) {
@@ -71,19 +82,15 @@ using Setter = std::function<void(const std::string& option, const std::string& 
 std::map<std::string, Setter> ValueOptions(cOptions& o) {
     std::map<std::string, Setter> setters{
         {"--host", [&o](auto&, auto& v) { o.host = v; }},
-        {"--port",
-         [&o](auto& n, auto& v) {
-             Number(n, v, 1, 65535);
-             o.port = v;
-         }},
+        {"--port", [&o](auto& n, auto& v) { o.port = std::to_string(WholeNumber(n, v, 1, 65535)); }},
         {"--sender", [&o](auto& n, auto& v) { o.sender = FieldText(n, v); }},
-        {"--kind", [&o](auto& n, auto& v) { o.kind = static_cast<int>(Number(n, v, 0, 3)); }},
+        {"--kind", [&o](auto& n, auto& v) { o.kind = static_cast<int>(WholeNumber(n, v, 0, 3)); }},
         {"--date", [&o](auto& n, auto& v) { o.date = FieldText(n, v); }},
         {"--time", [&o](auto& n, auto& v) { o.time = FieldText(n, v); }},
         {"--message", [&o](auto& n, auto& v) { o.message = FieldText(n, v); }},
         {"--file", [&o](auto&, auto& v) { o.file = v; }},
         {"--raw", [&o](auto&, auto& v) { o.raw.push_back(HexBytes(v)); }},
-        {"--count", [&o](auto& n, auto& v) { o.count = static_cast<long>(Number(n, v, 1, 1e9)); }},
+        {"--count", [&o](auto& n, auto& v) { o.count = WholeNumber(n, v, 1, 1'000'000'000); }},
         {"--rate", [&o](auto& n, auto& v) { o.rate = Number(n, v, 0, 1e6); }},
         {"--timeout", [&o](auto& n, auto& v) { o.timeout = Number(n, v, 0.001, 86400); }},
         {"--corrupt", [&o](auto&, auto& v) { o.corrupt = CorruptKind(v); }},
@@ -156,8 +163,8 @@ how
   --quiet            no line for each reply
   --version          prints the version
 
-Exit code: 0 when every frame got the positive reply, 1 when one did not, 2 for a command line that can't be
-followed, 3 when the station can't be reached.
+Exit code: 0 when every frame got the positive reply, 1 when one did not or standard output can't be written,
+2 for a command line that can't be followed, 3 when the station can't be reached.
 
 examples
   vigrel-send --sender PLC1 --t0 "Fan 3 tripped" --t2 Technical

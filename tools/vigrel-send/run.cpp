@@ -130,9 +130,7 @@ int SendAll(const cOptions& options) {
     return sending.AllPositive() ? kAllPositive : kNotAllPositive;
 }
 
-}  // namespace
-
-int Run(const std::vector<std::string>& arguments) {
+int Follow(const std::vector<std::string>& arguments) {
     try {
         const cOptions options = ReadOptions(arguments);
         if (options.help) {
@@ -152,6 +150,15 @@ int Run(const std::vector<std::string>& arguments) {
         PrintError(kProgram, PathText(error.what()));
         return kNotReached;
     }
+}
+
+}  // namespace
+
+int Run(const std::vector<std::string>& arguments) {
+    const int result = Follow(arguments);
+    if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return result;
+    PrintError(kProgram, "standard output can't be written");
+    return result == kAllPositive ? kNotAllPositive : result;
 }
 
 }  // namespace vigrel::send
