@@ -8,7 +8,7 @@ usage() {
     cat <<'HELP'
 tests/campaigns/kills.sh [KILLS]
 
-Kills a station with SIGKILL, KILLS times (100) in each of seven situations, but a tenth as often at midnight, for which it
+Kills a station with SIGKILL, KILLS times (100) in each of eight situations, but a tenth as often at midnight, for which it
 has to wait. Started again it must have every alarm that was answered, but for those that its limits remove, whole, and
 nothing else; and its configuration. Prints how many alarms were answered. Each situation tells the seed of its random
 moments, and takes the one of VIGREL_SEED in the environment instead. Takes the programs of build/dev, or of the folder that

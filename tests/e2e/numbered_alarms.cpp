@@ -21,7 +21,7 @@ constexpr int kTogether = 10;
 // Where the texts of an alarm's file begin, behind numbers of any bytes.
 constexpr std::size_t kFirstText = 22;
 
-// What ends an alarm's file: the time, the number, what is reserved.
+// What ends an alarm's file, behind its being acknowledged: the time, the number, what is reserved.
 constexpr std::size_t kTime = 8 + 4 + 20 + 40;
 
 }  // namespace
@@ -43,6 +43,10 @@ double CreatedTimeOf(const std::string& bytes) {
 
 void SetCreatedTime(std::string& bytes, double time) {
     std::memcpy(&bytes.at(bytes.size() - kTime), &time, sizeof time);
+}
+
+bool IsAcknowledged(const std::string& bytes) {
+    return bytes.at(bytes.size() - kTime - 2) != 0;
 }
 
 std::mt19937 RandomMoments() {

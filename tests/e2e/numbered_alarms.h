@@ -35,6 +35,8 @@ int NumberOf(const std::string& bytes);
 double CreatedTimeOf(const std::string& bytes);
 void SetCreatedTime(std::string& bytes, double time);
 
+bool IsAcknowledged(const std::string& bytes);
+
 // The numbers of the alarms that are stored. A file that is not whole fails the test.
 std::set<int> StoredNumbers(const cStation& station);
 

@@ -62,6 +62,12 @@ class KillsOnScreen : public ::testing::Test {
         return temporaries > 0 || (written > 0 && written < kAlarms);
     }
 
+    std::ptrdiff_t Written() const {
+        const auto files = Files();
+        return std::count_if(files.begin(), files.end(),
+                             [](const auto& file) { return IsAcknowledged(file.second); });
+    }
+
     std::mt19937 m_Random = RandomMoments();
     cStation m_Station;
 };
@@ -80,6 +86,40 @@ TEST_F(KillsOnScreen, WhileAllIsAcknowledgedLeaveEveryAlarmWhole) {
     EXPECT_EQ(alarms.m_Answered, alarms.m_Sent);
     RecordProperty("answered", alarms.m_Answers);
     RecordProperty("in the midst", inTheMidst);
+}
+
+// Each is on disk before the next key; the log tells of it just before.
+TEST_F(KillsOnScreen, WhileRowsAreAcknowledgedOneByOneKeepWhatWasAcknowledged) {
+    constexpr int kRows = 30;
+    cNumberedAlarms alarms;
+    for (int i = 0; i < KillsOfEachKind(); ++i) {
+        ASSERT_TRUE(m_Station.Start()) << m_Station.StandardError();
+        alarms.Send(m_Station.m_Port, kRows);
+        const std::ptrdiff_t written = Written(), told = Acknowledged();
+        const std::string window = FindWindow(m_Station.Process(), "^T10000 .* - ");
+        ASSERT_NE(window, "");
+        // The box that greets at the first look goes by any key.
+        Press(window, {"Escape"});
+        Press(window, {"Escape"});
+        std::thread operatorsHand([&] {
+            std::vector<std::string> keys{"End"};
+            for (int row = 0; row < kRows; ++row) keys.insert(keys.end(), {"Return", "Up"});
+            Press(window, keys);
+        });
+        for (int tries = 0; tries < 5000 && Acknowledged() == told; ++tries)
+            std::this_thread::sleep_for(std::chrono::milliseconds(2));
+        std::this_thread::sleep_for(
+            std::chrono::milliseconds(std::uniform_int_distribution<>(0, kMostMilliseconds)(m_Random)));
+        kill(m_Station.Process(), SIGKILL);
+        m_Station.WaitForEnd();
+        operatorsHand.join();
+        const std::ptrdiff_t newlyTold = Acknowledged() - told, newlyWritten = Written() - written;
+        EXPECT_GT(newlyTold, 0);
+        EXPECT_LE(newlyWritten, newlyTold);
+        EXPECT_GE(newlyWritten, newlyTold - 1);
+        EXPECT_EQ(StoredNumbers(m_Station).size(), static_cast<std::size_t>(alarms.m_Answered));
+    }
+    RecordProperty("answered", alarms.m_Answers);
 }
 
 }  // namespace
