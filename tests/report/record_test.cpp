@@ -75,6 +75,16 @@ TEST_F(Record, AFileThatCannotBeReadIsNamed) {
     EXPECT_NE(measured.Record().faults.unreadableFiles[0].find("20260316.Log"), std::string::npos);
 }
 
+TEST_F(Record, ALogThatTheFolderTellsAsUnreadableIsNamed) {
+    station.Start(day);
+    station.Finish();
+    files.m_Unreadable["/app/LogFiles/"] = {{"20260316.Log", "Permission denied"},
+                                            {"notes.log", "Permission denied"}};
+    const cMeasured measured = Measure();
+    EXPECT_EQ(measured.Record().faults.unreadableFiles,
+              std::vector<std::string>{"/app/LogFiles/20260316.Log: Permission denied"});
+}
+
 TEST_F(Record, TextsOfSendersCanHoldLineBreaks) {
     station.Active(day + 60, "Fan\n00:01:00 " + station.Text(10021) + " (Roof/Technical//)");
     station.KeepAlive(day + 120);

@@ -71,12 +71,18 @@ class cFolderReader {
     }
 
   private:
-    std::vector<std::pair<WallTime, std::string>> ListLogs() const {
+    // What the folder tells as unreadable is missing from the report, which says so.
+    std::vector<std::pair<WallTime, std::string>> ListLogs() {
         std::vector<std::pair<WallTime, std::string>> logs;
         const auto listing = m_Files.List(m_Folder + std::string(kLogFolder), "*.log");
         if (!listing.problem.empty()) throw cFailure(eFailure::PathAccess, listing.problem);
         for (const std::string& name : listing.names) {
             if (const auto day = DayOfLog(name)) logs.emplace_back(*day, name);
+        }
+        for (const auto& [name, reason] : listing.unreadable) {
+            if (!DayOfLog(name)) continue;
+            m_Record.faults.unreadableFiles.push_back(m_Folder + std::string(kLogFolder) + name + ": " +
+                                                      reason);
         }
         std::sort(logs.begin(), logs.end());
         return logs;
