@@ -585,6 +585,20 @@ TEST_F(ReportListPicture, ACellWithoutCaptionAndColoursShowsTheListsOwnColourAlo
     EXPECT_EQ(Count(cell, View().palette().color(QPalette::Base)), cell.width() * (cell.height() - 1));
 }
 
+TEST_F(ReportListPicture, ATextThatDoesNotFitIsCutAtTheSamePlaceHoweverLongItIs) {
+    Fill(2);
+    const std::string narrow(400, 'i');
+    m_Items.SetText(m_Records[1], 1, narrow);
+    m_List.Redraw();
+    const QImage cut = Picture(1, 1);
+    m_Items.SetText(m_Records[1], 1, narrow + std::string(30'000, 'W'));
+    m_List.Redraw();
+    EXPECT_EQ(Picture(1, 1), cut);
+    m_Items.SetText(m_Records[1], 1, std::string(20, 'i'));
+    m_List.Redraw();
+    EXPECT_NE(Picture(1, 1), cut);
+}
+
 TEST_F(ReportListPicture, ACellWithIconShowsItsPicture) {
     Fill(2);
     m_Items.SetIcon(m_Records[1], 0, 2);

@@ -115,7 +115,10 @@ void cReportDelegate::DrawContent(QPainter& painter, const QStyleOptionViewItem&
     if (layout.text.width() > 0) {
         painter.setFont(RowFont(index.row()));
         painter.setPen(colour);
-        const QString shown = painter.fontMetrics().elidedText(text, Qt::ElideRight, layout.text.width());
+        // No character is narrower than a pixel. The toolkit would measure a text of thousands whole, at each
+        // painting.
+        const int width = layout.text.width();
+        const QString shown = painter.fontMetrics().elidedText(text.left(width + 1), Qt::ElideRight, width);
         const Qt::Alignment across = centred ? Qt::AlignHCenter : Qt::AlignLeft;
         painter.drawText(layout.text, static_cast<int>(across | Qt::AlignVCenter | Qt::TextSingleLine),
                          shown);
