@@ -115,7 +115,7 @@ class Lists(unittest.TestCase):
 
     def test_windows_are_found_in_folders_of_folders_and_tested_by_their_own_programs(self):
         self.assertIn("src/receiver_ui/popups/popup_stack.cpp", {file for _, file, _ in mutants.places("receiver_ui")})
-        self.assertEqual(mutants.programs_of("receiver_ui"), ["receiver_ui_tests", "x11_tests"])
+        self.assertEqual(mutants.programs_of("receiver_ui"), ["receiver_ui_tests", "x11_tests", "tray_bus_tests"])
 
     def test_places_are_chosen_alike_for_a_seed(self):
         wish = type("Wish", (), {"number": 5, "seed": 3})
