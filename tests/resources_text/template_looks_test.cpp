@@ -15,8 +15,6 @@ namespace {
 
 using namespace vigrel::testing;
 
-INSTANTIATE_TEST_SUITE_P(Languages, EveryTemplate, ::testing::ValuesIn(kDeliveredLanguages));
-
 TEST_P(EveryTemplate, ColumnsAreKnownAndBeginWithTheIcon) {
     const std::string columns = m_Ini.GetIniString("General", "Columns", "");
     std::vector<std::string> shown;
