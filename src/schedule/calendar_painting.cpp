@@ -8,8 +8,6 @@
 namespace vigrel {
 namespace {
 
-constexpr std::int32_t kBlack = Rgb(0, 0, 0);
-constexpr std::int32_t kWhite = Rgb(255, 255, 255);
 constexpr std::int32_t kBarEnd = Rgb(128, 128, 128);
 constexpr int kHeadingRoom = 4;  // more than the height of a line
 constexpr int kNumberGap = 2;    // between a week's number and the grid

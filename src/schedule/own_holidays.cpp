@@ -13,7 +13,6 @@
 namespace vigrel {
 namespace {
 
-constexpr std::int16_t kLikeSunday = 6;
 constexpr int kLeapYear = 2000;
 constexpr std::string_view kTo = "..";
 

@@ -11,6 +11,7 @@ constexpr std::int32_t Rgb(int red, int green, int blue) {
     const auto part = [](int value) { return std::clamp(value, 0, 255); };
     return part(red) | part(green) << 8 | part(blue) << 16;
 }
+inline constexpr std::int32_t kBlack = Rgb(0, 0, 0), kWhite = Rgb(255, 255, 255);
 
 enum class eMousePointer : std::int16_t { Normal = 0, SizeHorizontal = 9 };
 

@@ -13,8 +13,6 @@ namespace {
 using eKind = cHolidayRule::eKind;
 using eStanding = cHolidayRule::eStanding;
 
-constexpr std::int16_t kLikeSaturday = 5, kLikeSunday = 6;
-
 DateTime DateOfRule(const cHolidayRule& rule, int year) {
     if (rule.kind == eKind::Easter) return EasterSunday(year) + rule.day;
     const DateTime date = DateSerial(year, rule.month, rule.day);

@@ -5,8 +5,6 @@
 namespace vigrel {
 namespace {
 
-constexpr std::int32_t kBlack = Rgb(0, 0, 0);
-constexpr std::int32_t kWhite = Rgb(255, 255, 255);
 constexpr std::int32_t kHourLine = Rgb(148, 148, 148);
 constexpr int kAxisRight = kAxisLeft + kAxisWidth;
 constexpr int kNameGap = 2;           // between a row's name and the axis

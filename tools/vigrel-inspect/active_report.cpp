@@ -11,15 +11,13 @@
 #include "schedule/definition_files.h"
 #include "vigrel-inspect/inspect.h"
 #include "vigrel-inspect/print.h"
+#include "vigrel-inspect/week_days.h"
 
 namespace vigrel {
 namespace {
 
-constexpr std::string_view kWeekDayNames[] = {"Monday", "Tuesday",  "Wednesday", "Thursday",
-                                              "Friday", "Saturday", "Sunday"};
-
 std::string NameOfDayType(std::int16_t dayType) {
-    if (dayType < kWeekDays) return std::string(kWeekDayNames[dayType]);
+    if (dayType < kWeekDays) return std::string(kWeekDayNames[static_cast<std::size_t>(dayType)]);
     return "special day type " + std::to_string(dayType - kWeekDays + 1);
 }
 

@@ -1,21 +1,17 @@
 #include "vigrel-inspect/formats.h"
 
-#include <array>
-
 #include "common/date_text.h"
 #include "common/dates.h"
 #include "common/numbers.h"
 #include "definitions/definition_file.h"
 #include "schedule/definition_files.h"
+#include "vigrel-inspect/week_days.h"
 
 namespace vigrel {
 namespace {
 
-constexpr std::array kWeekDayNames = {"Monday", "Tuesday",  "Wednesday", "Thursday",
-                                      "Friday", "Saturday", "Sunday"};
-
 std::string DayTypeName(int dayType) {
-    if (dayType < kWeekDays) return kWeekDayNames[static_cast<std::size_t>(dayType)];
+    if (dayType < kWeekDays) return std::string(kWeekDayNames[static_cast<std::size_t>(dayType)]);
     return "special day " + std::to_string(dayType - kWeekDays + 1);
 }
 

@@ -1,6 +1,7 @@
 #include "adapters/linux/found_spellings.h"
 
 #include "adapters/linux/file_times.h"
+#include "adapters/linux/links.h"
 #include "adapters/linux/native_path.h"
 
 namespace vigrel {
@@ -8,10 +9,6 @@ namespace {
 
 // No program asks for more such files again and again.
 constexpr std::size_t kMost = 100;
-
-std::string FolderOf(const std::string& path) {
-    return path.substr(0, path.rfind('/') + 1);
-}
 
 bool Look(const std::string& folder, struct stat& status) {
     return stat(folder.empty() ? "." : folder.c_str(), &status) == 0;

@@ -5,6 +5,14 @@
 #include "common/date_text.h"
 
 namespace vigrel::report {
+
+Cell CountCell(std::size_t count) {
+    return cNumber{static_cast<double>(count), 0};
+}
+Cell DurationCell(Seconds seconds) {
+    return cDuration{static_cast<double>(seconds)};
+}
+
 namespace {
 
 // Digits of a number without sign, in groups of three behind the fourth digit.

@@ -29,6 +29,8 @@ struct cDayCell {
 // Nothing; text in UTF-8, without control characters.
 using Cell = std::variant<std::monostate, std::string, eWord, cNumber, cPercent, cDuration, cTimeCell,
                           cDayCell, eVerdict>;
+Cell CountCell(std::size_t count);
+Cell DurationCell(Seconds seconds);
 
 // The forms that people read, in the report's language. UTF-8.
 class cForms {

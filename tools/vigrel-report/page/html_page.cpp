@@ -78,7 +78,7 @@ bool HasLongWord(const std::string& text) {
 }
 
 // Whether a column holds numbers, wherever it holds anything. Nothing stands where numbers would.
-bool IsNumeric(const cTable& table, std::size_t column) {
+bool HoldsNumbers(const cTable& table, std::size_t column) {
     return std::all_of(table.rows.begin(), table.rows.end(), [column](const std::vector<Cell>& row) {
         return IsNumericCell(row[column]) || std::holds_alternative<std::monostate>(row[column]);
     });
@@ -158,7 +158,7 @@ class cPage {
         m_Html += "<div class=\"scroll\"><table>\n<thead><tr>";
         std::vector<bool> numericColumns;
         for (std::size_t i = 0; i < table.columns.size(); ++i) {
-            const bool numeric = IsNumeric(table, i);
+            const bool numeric = HoldsNumbers(table, i);
             numericColumns.push_back(numeric);
             m_Html += std::string("<th scope=\"col\"") + (numeric ? " class=\"number\">" : ">") +
                       Say(table.columns[i].title) + "</th>";

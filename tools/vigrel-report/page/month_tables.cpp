@@ -20,13 +20,6 @@ struct cMonthLoad {
     }
 };
 
-Cell Counted(std::size_t count) {
-    return cNumber{static_cast<double>(count), 0};
-}
-Cell Lasting(Seconds seconds) {
-    return cDuration{static_cast<double>(seconds)};
-}
-
 }  // namespace
 
 cTable MonthsTable(const cFigures& figures, const cTimeZone& zone) {
@@ -41,8 +34,8 @@ cTable MonthsTable(const cFigures& figures, const cTimeZone& zone) {
                   {"record", eWord::Observed}},
                  {}};
     for (const auto& [month, load] : months) {
-        table.rows.push_back(
-            {month, Counted(load.alarms), Counted(load.peak), Lasting(load.flooded), Lasting(load.observed)});
+        table.rows.push_back({month, CountCell(load.alarms), CountCell(load.peak), DurationCell(load.flooded),
+                              DurationCell(load.observed)});
     }
     return table;
 }
@@ -57,7 +50,7 @@ cTable StaleMonthsTable(const cFigures& figures, const cTimeZone& zone) {
                  eWord::StaleMonths,
                  {{"month", eWord::Month}, {"most_on_a_day", eWord::MostOnADay}},
                  {}};
-    for (const auto& [month, most] : months) table.rows.push_back({month, Counted(most)});
+    for (const auto& [month, most] : months) table.rows.push_back({month, CountCell(most)});
     return table;
 }
 

@@ -5,12 +5,6 @@ namespace {
 
 using W = eWord;
 
-Cell Counted(std::size_t count) {
-    return cNumber{static_cast<double>(count), 0};
-}
-Cell Lasting(Seconds seconds) {
-    return cDuration{static_cast<double>(seconds)};
-}
 Cell YesNo(bool yes) {
     return yes ? W::Yes : W::No;
 }
@@ -125,8 +119,8 @@ class cTables {
                       {"record", W::Observed}},
                      {}};
         for (const cDayLoad& day : m_Figures.load.days) {
-            table.rows.push_back({cDayCell{day.midnight}, Counted(day.alarms), Counted(day.peak),
-                                  Lasting(day.flooded), Lasting(day.observed)});
+            table.rows.push_back({cDayCell{day.midnight}, CountCell(day.alarms), CountCell(day.peak),
+                                  DurationCell(day.flooded), DurationCell(day.observed)});
         }
         return table;
     }
@@ -142,7 +136,8 @@ class cTables {
                      {}};
         for (const cFlood& flood : m_Figures.load.floods) {
             table.rows.push_back({cTimeCell{flood.span.begin}, cTimeCell{flood.span.end},
-                                  Lasting(flood.span.Length()), Counted(flood.alarms), Counted(flood.peak),
+                                  DurationCell(flood.span.Length()), CountCell(flood.alarms),
+                                  CountCell(flood.peak),
                                   flood.firstSource ? Source(*flood.firstSource) : Cell()});
         }
         return table;
@@ -157,10 +152,11 @@ class cTables {
         std::size_t sum = 0;
         for (const cSourceCount& count : m_Figures.sources.ranking) {
             sum += count.activations;
-            AddSourceRow(table, count.source,
-                         {Counted(count.activations), cPercent{static_cast<double>(count.activations) / all},
-                          cPercent{static_cast<double>(sum) / all}});
-            table.rows.back().insert(table.rows.back().begin(), Counted(table.rows.size()));
+            AddSourceRow(
+                table, count.source,
+                {CountCell(count.activations), cPercent{static_cast<double>(count.activations) / all},
+                 cPercent{static_cast<double>(sum) / all}});
+            table.rows.back().insert(table.rows.back().begin(), CountCell(table.rows.size()));
         }
         return table;
     }
@@ -174,7 +170,7 @@ class cTables {
                      {}};
         for (const cChattering& found : m_Figures.nuisance.chattering) {
             AddSourceRow(table, found.source,
-                         {Counted(found.bursts), Counted(found.activations), Counted(found.most),
+                         {CountCell(found.bursts), CountCell(found.activations), CountCell(found.most),
                           cTimeCell{found.first}});
         }
         return table;
@@ -182,14 +178,14 @@ class cTables {
     cTable Fleeting() const {
         cTable table{"fleeting", W::Fleeting, SourceColumns({{"alarms", W::Alarms}}), {}};
         for (const cFleeting& found : m_Figures.nuisance.fleeting) {
-            AddSourceRow(table, found.source, {Counted(found.activations)});
+            AddSourceRow(table, found.source, {CountCell(found.activations)});
         }
         return table;
     }
     cTable StaleDays() const {
         cTable table{"stale_days", W::StaleDays, {{"day", W::Day}, {"alarms", W::Alarms}}, {}};
         for (const cStaleDay& day : m_Figures.nuisance.staleDays) {
-            table.rows.push_back({cDayCell{day.midnight}, Counted(day.alarms)});
+            table.rows.push_back({cDayCell{day.midnight}, CountCell(day.alarms)});
         }
         return table;
     }
@@ -203,7 +199,7 @@ class cTables {
                      {}};
         for (const cStale& found : alarms) {
             AddSourceRow(table, found.source,
-                         {cTimeCell{found.since}, Lasting(found.activeFor), YesNo(found.active),
+                         {cTimeCell{found.since}, DurationCell(found.activeFor), YesNo(found.active),
                           YesNo(found.acknowledged)});
         }
         return table;
@@ -219,7 +215,7 @@ class cTables {
         const auto all = static_cast<double>(m_Figures.load.activations);
         for (const cGroupAnswers& group : m_Figures.answers.categories) {
             table.rows.push_back({NameText(group.category), PriorityCell(group.priority),
-                                  Counted(group.activations),
+                                  CountCell(group.activations),
                                   cPercent{static_cast<double>(group.activations) / all}});
         }
         return table;
@@ -227,12 +223,12 @@ class cTables {
     static std::vector<Cell> AnswerRow(Cell group, const cAnswerTimes& times) {
         const bool any = times.count > 0;
         return {std::move(group),
-                Counted(times.count),
+                CountCell(times.count),
                 any ? Cell(cDuration{times.median}) : Cell(),
-                any ? Lasting(times.ninetieth) : Cell(),
-                any ? Lasting(times.most) : Cell(),
-                Counted(times.untimed),
-                Counted(times.never)};
+                any ? DurationCell(times.ninetieth) : Cell(),
+                any ? DurationCell(times.most) : Cell(),
+                CountCell(times.untimed),
+                CountCell(times.never)};
     }
     cTable Acknowledgement() const {
         cTable table{"acknowledgement",
@@ -301,10 +297,10 @@ class cTables {
             for (const cSenderFigures& sender : station.senders) {
                 table.rows.push_back(
                     {StationText(station), NameText(m_Report.names.SenderName(sender.sender)),
-                     sender.minutes && *sender.minutes > 0 ? Lasting(*sender.minutes * kMinute) : Cell(),
-                     Counted(sender.lost), Counted(sender.returned), Lasting(sender.without),
+                     sender.minutes && *sender.minutes > 0 ? DurationCell(*sender.minutes * kMinute) : Cell(),
+                     CountCell(sender.lost), CountCell(sender.returned), DurationCell(sender.without),
                      YesNo(sender.isLost),
-                     sender.longestSilence > 0 ? Lasting(sender.longestSilence) : Cell()});
+                     sender.longestSilence > 0 ? DurationCell(sender.longestSilence) : Cell()});
             }
         }
         return table;
@@ -325,12 +321,12 @@ class cTables {
                       {"from_unknown_senders", W::UnknownSenders}},
                      {}};
         for (const cStationFigures& station : m_Figures.stations) {
-            table.rows.push_back({StationText(station), Counted(station.starts), Counted(station.orderlyEnds),
-                                  Counted(station.unexpectedEnds), Lasting(station.running),
-                                  Lasting(station.notRunning), Lasting(station.notKnown),
-                                  Counted(station.failedPrints),
-                                  cNumber{static_cast<double>(station.removed), 0}, Counted(station.messages),
-                                  Counted(station.unknownSenders)});
+            table.rows.push_back({StationText(station), CountCell(station.starts),
+                                  CountCell(station.orderlyEnds), CountCell(station.unexpectedEnds),
+                                  DurationCell(station.running), DurationCell(station.notRunning),
+                                  DurationCell(station.notKnown), CountCell(station.failedPrints),
+                                  cNumber{static_cast<double>(station.removed), 0},
+                                  CountCell(station.messages), CountCell(station.unknownSenders)});
         }
         return table;
     }
@@ -353,7 +349,7 @@ class cTables {
     }
     static void AddOutage(cTable& table, const cStationFigures& station, const cSpan& span, Cell kind) {
         table.rows.push_back({StationText(station), cTimeCell{span.begin}, cTimeCell{span.end},
-                              Lasting(span.Length()), std::move(kind)});
+                              DurationCell(span.Length()), std::move(kind)});
     }
 
     const cReport& m_Report;
