@@ -34,13 +34,13 @@ std::string Format(std::string_view pattern, DateTime value = kSunday) {
     return FormatDateTime(value, pattern, Swedish());
 }
 
-struct cCase {
+struct cForm {
     const char* pattern;
     const char* text;
 };
 
-void ExpectAll(std::initializer_list<cCase> cases, DateTime value = kSunday) {
-    for (const cCase& c : cases) EXPECT_EQ(Format(c.pattern, value), c.text) << "pattern: " << c.pattern;
+void ExpectAll(std::initializer_list<cForm> cases, DateTime value = kSunday) {
+    for (const cForm& c : cases) EXPECT_EQ(Format(c.pattern, value), c.text) << "pattern: " << c.pattern;
 }
 
 TEST(FormatDateTime, NamedFormsAreThoseOfTheLocale) {

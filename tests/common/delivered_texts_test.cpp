@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "common/app_folder.h"
 #include "common/failure.h"
 #include "common/text_files.h"
 #include "common/texts.h"
@@ -10,7 +11,6 @@
 namespace vigrel::testing {
 namespace {
 
-const std::string kFolder = "C:\\App\\";
 const std::string kFile = kFolder + "Vigrel_Texts.046";
 constexpr std::string_view kDelivered =
     "0=Svenska\r\nA remark\r\n10011=klar\r\n\r\n10049=larm\r\n10050=sedan\r\n";

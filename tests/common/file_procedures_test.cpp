@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "common/app_folder.h"
 #include "common/failure.h"
 #include "support/fake_files.h"
 
@@ -9,13 +10,12 @@ namespace vigrel::testing {
 namespace {
 
 using Paths = std::vector<std::string>;
-const std::string kFolder = "C:\\App\\";
-const std::string kFile = kFolder + "a.dat";
+const std::string kData = kFolder + "a.dat";
 
 TEST(FileExists, IsTrueForAnOrdinaryFile) {
     cFakeFiles files;
-    files.Put(kFile, "");
-    EXPECT_TRUE(FileExists(files, kFile));
+    files.Put(kData, "");
+    EXPECT_TRUE(FileExists(files, kData));
     EXPECT_TRUE(FileExists(files, "c:\\app\\A.DAT"));
     EXPECT_FALSE(FileExists(files, kFolder + "b.dat"));
     EXPECT_FALSE(FileExists(files, "C:\\None\\a.dat"));
@@ -33,7 +33,7 @@ TEST(FileExists, IsFalseForAFolderAndAHiddenFile) {
 
 TEST(FileExists, AMaskIsTrueWhenAnythingMatches) {
     cFakeFiles files;
-    files.Put(kFile, "");
+    files.Put(kData, "");
     EXPECT_TRUE(FileExists(files, kFolder + "*.dat"));
     EXPECT_TRUE(FileExists(files, kFolder + "?.DAT"));
     EXPECT_FALSE(FileExists(files, kFolder + "*.txt"));
@@ -131,31 +131,31 @@ TEST(CopyMissingFiles, AMissingFolderIsIgnored) {
 
 TEST(ReplaceFile, WhenItReturnsTheNewContentSurvivesACrash) {
     cFakeFiles files;
-    files.Put(kFile, "old");
-    ReplaceFile(files, kFile, "new content");
+    files.Put(kData, "old");
+    ReplaceFile(files, kData, "new content");
     files.Crash();
-    EXPECT_EQ(files.ReadFile(kFile), "new content");
-    EXPECT_EQ(files.AllPaths(), Paths{kFile});
+    EXPECT_EQ(files.ReadFile(kData), "new content");
+    EXPECT_EQ(files.AllPaths(), Paths{kData});
 }
 
 TEST(ReplaceFile, CreatesAFileThatIsMissing) {
     cFakeFiles files;
     files.PutFolder(kFolder);
-    ReplaceFile(files, kFile, "new");
+    ReplaceFile(files, kData, "new");
     files.Crash();
-    EXPECT_EQ(files.ReadFile(kFile), "new");
+    EXPECT_EQ(files.ReadFile(kData), "new");
 }
 
 TEST(ReplaceFile, WhateverCallFailsTheFileIsWholeAndNoTemporaryIsLeft) {
     int call = 0;
     for (;; ++call) {
         cFakeFiles files;
-        files.Put(kFile, "old");
+        files.Put(kData, "old");
         files.m_FailCall = call;
-        const bool done = SkipFailure([&] { ReplaceFile(files, kFile, "new"); });
-        EXPECT_EQ(files.AllPaths(), Paths{kFile}) << "call " << call;
+        const bool done = SkipFailure([&] { ReplaceFile(files, kData, "new"); });
+        EXPECT_EQ(files.AllPaths(), Paths{kData}) << "call " << call;
         if (done) break;
-        const std::string content = files.ReadFile(kFile);
+        const std::string content = files.ReadFile(kData);
         EXPECT_TRUE(content == "old" || content == "new") << "call " << call << ": " << content;
     }
     EXPECT_EQ(call, 3);
@@ -163,11 +163,11 @@ TEST(ReplaceFile, WhateverCallFailsTheFileIsWholeAndNoTemporaryIsLeft) {
 
 TEST(ReplaceFile, AFullDiskLeavesTheOldFileAndNoTemporary) {
     cFakeFiles files;
-    files.Put(kFile, "old");
+    files.Put(kData, "old");
     files.m_DiskFull = true;
-    EXPECT_THROW(ReplaceFile(files, kFile, "new"), cFailure);
-    EXPECT_EQ(files.ReadFile(kFile), "old");
-    EXPECT_EQ(files.AllPaths(), Paths{kFile});
+    EXPECT_THROW(ReplaceFile(files, kData, "new"), cFailure);
+    EXPECT_EQ(files.ReadFile(kData), "old");
+    EXPECT_EQ(files.AllPaths(), Paths{kData});
 }
 
 // Runs steps on a file system that loses power in front of call 0, 1, 2, ..., and then once behind the last;
@@ -177,7 +177,7 @@ void CrashAtEveryCall(Steps steps, Check check) {
     struct cPowerLoss {};
     for (int crash = 0;; ++crash) {
         cFakeFiles files;
-        files.Put(kFile, "old a");
+        files.Put(kData, "old a");
         files.Put(kFolder + "b.dat", "old b");
         int calls = 0;
         files.m_OnCall = [&](std::string_view, std::string_view) {
@@ -204,18 +204,18 @@ void ExpectOldOrNew(const cFakeFiles& files, const std::string& path, const std:
 
 TEST(ReplaceFile, ACrashAtAnyStepLeavesTheOldFileOrTheNewOneWhole) {
     CrashAtEveryCall(
-        [](cFakeFiles& files) { ReplaceFile(files, kFile, "new a"); },
-        [](const cFakeFiles& files, bool finished) { ExpectOldOrNew(files, kFile, "a", finished); });
+        [](cFakeFiles& files) { ReplaceFile(files, kData, "new a"); },
+        [](const cFakeFiles& files, bool finished) { ExpectOldOrNew(files, kData, "a", finished); });
 }
 
 TEST(ReplaceFile, ACrashInTheNextReplacementLeavesBothFilesWhole) {
     CrashAtEveryCall(
         [](cFakeFiles& files) {
-            ReplaceFile(files, kFile, "new a");
+            ReplaceFile(files, kData, "new a");
             ReplaceFile(files, kFolder + "b.dat", "new b");
         },
         [](const cFakeFiles& files, bool finished) {
-            ExpectOldOrNew(files, kFile, "a", finished);
+            ExpectOldOrNew(files, kData, "a", finished);
             ExpectOldOrNew(files, kFolder + "b.dat", "b", finished);
         });
 }
@@ -224,15 +224,15 @@ TEST(ReplaceFile, ACrashInTheNextReplacementLeavesBothFilesWhole) {
 
 TEST(RemoveTemporaries, RemovesWhatACrashLeftAndNothingElse) {
     cFakeFiles files;
-    files.Put(kFile, "a");
+    files.Put(kData, "a");
     files.m_OnCall = [](std::string_view operation, std::string_view) {
         if (operation == "rename") throw 1;
     };
-    EXPECT_THROW(ReplaceFile(files, kFile, "new"), int);
+    EXPECT_THROW(ReplaceFile(files, kData, "new"), int);
     files.m_OnCall = nullptr;
     EXPECT_EQ(files.AllPaths().size(), 2u);
     RemoveTemporaries(files, kFolder);
-    EXPECT_EQ(files.AllPaths(), Paths{kFile});
+    EXPECT_EQ(files.AllPaths(), Paths{kData});
 }
 
 TEST(RemoveTemporaries, AFailureSkipsThatFileAlone) {
@@ -247,13 +247,13 @@ TEST(RemoveTemporaries, AFailureSkipsThatFileAlone) {
 TEST(RemoveTemporaries, OfALinkTheOneBesideItsTargetGoes) {
     cFakeFiles files;
     const std::string target = "C:\\Shared\\a.dat";
-    files.m_Links[kFile] = target;
-    for (const std::string& path : {kFile, target, target + ".$~", std::string("C:\\Shared\\b.dat.$~")})
+    files.m_Links[kData] = target;
+    for (const std::string& path : {kData, target, target + ".$~", std::string("C:\\Shared\\b.dat.$~")})
         files.Put(path, "");
     RemoveTemporariesOfLinks(files, kFolder, "b*");
     EXPECT_EQ(files.AllPaths().size(), 4u);
     RemoveTemporariesOfLinks(files, kFolder, "*.dat");
-    EXPECT_EQ(files.AllPaths(), (Paths{kFile, target, "C:\\Shared\\b.dat.$~"}));
+    EXPECT_EQ(files.AllPaths(), (Paths{kData, target, "C:\\Shared\\b.dat.$~"}));
 }
 
 TEST(RemoveTemporaries, OfAnOrdinaryFileOnlyItsOwnGoes) {
@@ -262,22 +262,22 @@ TEST(RemoveTemporaries, OfAnOrdinaryFileOnlyItsOwnGoes) {
         files.Put(kFolder + name, "");
     RemoveTemporariesOfLinks(files, kFolder, "*.dat");
     EXPECT_EQ(files.AllPaths().size(), 5u);
-    RemoveTemporaryOf(files, kFile);
+    RemoveTemporaryOf(files, kData);
     RemoveTemporaryOf(files, kFolder + "c.dat");
     EXPECT_EQ(files.AllPaths(),
-              (Paths{kFile, kFolder + "b.dat", kFolder + "b.dat.$~", kFolder + "C.DAT.$~"}));
+              (Paths{kData, kFolder + "b.dat", kFolder + "b.dat.$~", kFolder + "C.DAT.$~"}));
 }
 
 TEST(RemoveTemporaries, ALinkThatIsNotFollowedTakesNothingAway) {
     cFakeFiles files;
-    files.m_Links[kFile] = "";
-    files.Put(kFile, "");
+    files.m_Links[kData] = "";
+    files.Put(kData, "");
     files.Put(kFolder + "b.dat", "");
     files.m_Links[kFolder + "b.dat"] = "C:\\Shared\\b.dat";
     files.Put("C:\\Shared\\b.dat.$~", "");
     RemoveTemporariesOfLinks(files, kFolder, "*.dat");
-    RemoveTemporaryOf(files, kFile);
-    EXPECT_EQ(files.AllPaths(), (Paths{kFile, kFolder + "b.dat"}));
+    RemoveTemporaryOf(files, kData);
+    EXPECT_EQ(files.AllPaths(), (Paths{kData, kFolder + "b.dat"}));
 }
 
 }  // namespace

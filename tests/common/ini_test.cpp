@@ -2,13 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include "common/app_folder.h"
 #include "common/failure.h"
 #include "support/fake_files.h"
 
 namespace vigrel::testing {
 namespace {
 
-const std::string kFolder = "C:\\App\\";
 const std::string kPath = kFolder + "VigrelReceiver.INI";
 
 // The configuration file with the given content.

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "common/app_folder.h"
 #include "common/failure.h"
 #include "support/fake_clock.h"
 #include "support/fake_files.h"
@@ -12,12 +13,11 @@ namespace vigrel::testing {
 namespace {
 
 using Paths = std::vector<std::string>;
-const std::string kFolder = "C:\\App\\";
 const std::string kLogs = kFolder + "LogFiles\\";
 
 // A station at 2026-03-15 12:30:15.
-struct cStation {
-    cStation() {
+struct cLoggingStation {
+    cLoggingStation() {
         files.PutFolder(kLogs);
         files.Put(kFolder + "VigrelReceiver.INI", "[General]\r\nLanguage=046\r\n");
         files.Put(kFolder + "Vigrel_Texts.046", "141=Log file deleted (\r\n10048=more like this\r\n");
@@ -39,14 +39,14 @@ struct cStation {
 };
 
 TEST(WriteLog, TheFirstLineOfADayCreatesTheFile) {
-    cStation station;
+    cLoggingStation station;
     station.log.WriteLog("started");
     EXPECT_EQ(station.files.AllPaths()[0], kLogs + "20260315.Log");
     EXPECT_EQ(station.Today(), "12:30:15 started\r\n");
 }
 
 TEST(WriteLog, AppendsOneLineForEachCall) {
-    cStation station;
+    cLoggingStation station;
     station.log.WriteLog("one");
     station.clock.Set(2026, 3, 15, 3, 4, 5);
     station.log.WriteLog("two\r\nlines");
@@ -55,7 +55,7 @@ TEST(WriteLog, AppendsOneLineForEachCall) {
 }
 
 TEST(WriteLog, TheLastMomentOfADayIsThatDays) {
-    cStation station;
+    cLoggingStation station;
     station.clock.Set(2026, 3, 15, 23, 59, 59);
     station.clock.AddSeconds(0.9);
     station.log.WriteLog("late");
@@ -64,7 +64,7 @@ TEST(WriteLog, TheLastMomentOfADayIsThatDays) {
 }
 
 // Ten refusals, as a sender that is set up wrongly brings them, and what stands in the log behind them.
-std::string Refusals(cStation& station, int count, const std::string& text = "no") {
+std::string Refusals(cLoggingStation& station, int count, const std::string& text = "no") {
     for (int i = 0; i < count; ++i) station.log.WriteRefusal(text);
     return station.Today();
 }
@@ -76,12 +76,12 @@ std::string Lines(int count, const std::string& text = "no") {
 }
 
 TEST(WriteRefusal, TheFirstEqualOnesInARowAreWritten) {
-    cStation station;
+    cLoggingStation station;
     EXPECT_EQ(Refusals(station, 10), Lines(10));
 }
 
 TEST(WriteRefusal, FurtherOnesAreCountedUntilSomethingElseIsWritten) {
-    cStation station;
+    cLoggingStation station;
     EXPECT_EQ(Refusals(station, 2423), Lines(10));
     station.log.WriteLog("other");
     EXPECT_EQ(station.Today(), Lines(10) + Lines(1, "... 2413 more like this") + Lines(1, "other"));
@@ -91,7 +91,7 @@ TEST(WriteRefusal, FurtherOnesAreCountedUntilSomethingElseIsWritten) {
 }
 
 TEST(WriteRefusal, AnotherRefusalEndsTheRow) {
-    cStation station;
+    cLoggingStation station;
     Refusals(station, 12);
     EXPECT_EQ(Refusals(station, 1, "never"),
               Lines(10) + Lines(1, "... 2 more like this") + Lines(1, "never"));
@@ -101,7 +101,7 @@ TEST(WriteRefusal, AnotherRefusalEndsTheRow) {
 }
 
 TEST(WriteRefusal, TheCountIsWrittenAtIntervalsAndTheRowGoesOn) {
-    cStation station;
+    cLoggingStation station;
     Refusals(station, 15);
     station.log.WriteRepeats();
     station.log.WriteRepeats();
@@ -112,7 +112,7 @@ TEST(WriteRefusal, TheCountIsWrittenAtIntervalsAndTheRowGoesOn) {
 }
 
 TEST(WriteRefusal, AFloodOfChangingNamesIsBoundedByTheMinute) {
-    cStation station;
+    cLoggingStation station;
     std::string expected;
     for (int i = 0; i < 5000; ++i) {
         const std::string text = "sender " + std::to_string(i);
@@ -125,7 +125,7 @@ TEST(WriteRefusal, AFloodOfChangingNamesIsBoundedByTheMinute) {
 }
 
 TEST(WriteRefusal, ANewMinuteTakesThemAgain) {
-    cStation station;
+    cLoggingStation station;
     for (const char* text : {"a", "b"}) {
         for (int i = 0; i < 1000; ++i) station.log.WriteRefusal(text + std::to_string(i));
         station.clock.AddSeconds(61);
@@ -136,7 +136,7 @@ TEST(WriteRefusal, ANewMinuteTakesThemAgain) {
 }
 
 TEST(WriteLog, EachDayHasItsFile) {
-    cStation station;
+    cLoggingStation station;
     station.log.WriteLog("a");
     station.clock.Set(2026, 12, 1);
     station.log.WriteLog("b");
@@ -145,7 +145,7 @@ TEST(WriteLog, EachDayHasItsFile) {
 }
 
 TEST(WriteLog, ALineIsInTheFileWhenTheCallReturns) {
-    cStation station;
+    cLoggingStation station;
     for (const char* line : {"a", "b", "c"}) {
         const int calls = station.files.m_Calls;
         station.log.WriteLog(line);
@@ -162,7 +162,7 @@ TEST(WriteLog, AMissingFolderAFullDiskOrALockedFileLosesTheLineInSilence) {
     cLog(nothing, clock, texts, kFolder).WriteLog("lost");
     EXPECT_EQ(nothing.AllPaths(), Paths{});
 
-    cStation station;
+    cLoggingStation station;
     station.log.WriteLog("kept");
     station.files.m_DiskFull = true;
     station.log.WriteLog("lost");
@@ -173,14 +173,14 @@ TEST(WriteLog, AMissingFolderAFullDiskOrALockedFileLosesTheLineInSilence) {
 }
 
 TEST(CleanLogFiles, ALogOfTheKeptAgeStaysAndAnOlderOneGoes) {
-    cStation station;
+    cLoggingStation station;
     EXPECT_TRUE(station.Keeps("20260215.Log", 30));
     EXPECT_FALSE(station.Keeps("20260214.Log", 30));
 }
 
 TEST(CleanLogFiles, OldLogsGoWhateverOrderTheFolderGives) {
     for (const bool backwards : {false, true}) {
-        cStation station;
+        cLoggingStation station;
         station.files.m_ListsBackwards = backwards;
         for (const char* name : {"20260101.Log", "20260102.Log", "20260314.Log"})
             station.files.Put(kLogs + name, "x");
@@ -192,10 +192,10 @@ TEST(CleanLogFiles, OldLogsGoWhateverOrderTheFolderGives) {
 }
 
 TEST(CleanLogFiles, AgesCountYearsOf365DaysAndMonthsOf30) {
-    const auto ageIs = [](cStation& station, const std::string& name, std::int16_t age) {
+    const auto ageIs = [](cLoggingStation& station, const std::string& name, std::int16_t age) {
         return station.Keeps(name, age) && !station.Keeps(name, static_cast<std::int16_t>(age - 1));
     };
-    cStation station;
+    cLoggingStation station;
     station.clock.Set(2026, 2, 28);
     EXPECT_TRUE(ageIs(station, "20260201.Log", 27));
     station.clock.Set(2026, 1, 1);
@@ -206,7 +206,7 @@ TEST(CleanLogFiles, AgesCountYearsOf365DaysAndMonthsOf30) {
 }
 
 TEST(CleanLogFiles, KeepingZeroDaysLeavesTodayAndWhatComputesToNoAge) {
-    cStation station;
+    cLoggingStation station;
     EXPECT_TRUE(station.Keeps("20260315.Log", 0));
     EXPECT_TRUE(station.Keeps("20270101.Log", 0));
     EXPECT_FALSE(station.Keeps("20260314.Log", 0));
@@ -215,7 +215,7 @@ TEST(CleanLogFiles, KeepingZeroDaysLeavesTodayAndWhatComputesToNoAge) {
 }
 
 TEST(CleanLogFiles, AttributesAreLeftAloneWhereTheyAreNotInTheWay) {
-    cStation station;
+    cLoggingStation station;
     // As with the file of another user: it may be removed, and not be changed.
     station.files.m_OnCall = [](std::string_view operation, std::string_view) {
         if (operation == "attributes") throw cFailure(eFailure::PermissionDenied, "not the owner");
@@ -224,14 +224,14 @@ TEST(CleanLogFiles, AttributesAreLeftAloneWhereTheyAreNotInTheWay) {
 }
 
 TEST(CleanLogFiles, NamesAreTakenWithoutRegardToCase) {
-    cStation station;
+    cLoggingStation station;
     EXPECT_FALSE(station.Keeps("20260101.log", 0));
     EXPECT_FALSE(station.Keeps("20260102.Log", 0));
     EXPECT_FALSE(station.Keeps("20260103.LOG", 0));
 }
 
 TEST(CleanLogFiles, OtherNamesAreLeftAlone) {
-    cStation station;
+    cLoggingStation station;
     for (const char* name : {"OLD.LOG", "20200101.txt", "2020010.log", "202001011.log", "2020010x.log",
                              "Debug.txt", "20200101.log.bak", "abcdefgh.log"}) {
         EXPECT_TRUE(station.Keeps(name, 0)) << name;
@@ -239,7 +239,7 @@ TEST(CleanLogFiles, OtherNamesAreLeftAlone) {
 }
 
 TEST(CleanLogFiles, OtherNamesAreLeftAloneWhateverTheMask) {
-    cStation station;
+    cLoggingStation station;
     station.files.Put(kLogs + "OLD.LOG", "");
     station.files.Put(kLogs + "2020010.log", "");
     station.log.CleanLogFiles("*", 0);
@@ -247,14 +247,14 @@ TEST(CleanLogFiles, OtherNamesAreLeftAloneWhateverTheMask) {
 }
 
 TEST(CleanLogFiles, ImpossibleMonthsAndDaysAreNumbersAllTheSame) {
-    cStation station;
+    cLoggingStation station;
     EXPECT_TRUE(station.Keeps("20250000.Log", 365 + 90 + 15));
     EXPECT_FALSE(station.Keeps("20250000.Log", 365 + 90 + 14));
     EXPECT_TRUE(station.Keeps("20259999.Log", 0));
 }
 
 TEST(CleanLogFiles, EachDeletionIsLoggedWithThePathBehindIt) {
-    cStation station;
+    cLoggingStation station;
     station.files.Put(kLogs + "20260101.log", "");
     station.files.Put(kLogs + "20260102.log", "");
     station.log.CleanLogFiles(kLogMask, 30);
@@ -264,7 +264,7 @@ TEST(CleanLogFiles, EachDeletionIsLoggedWithThePathBehindIt) {
 }
 
 TEST(CleanLogFiles, TheLineIsWrittenWhenTheFileIsGone) {
-    cStation station;
+    cLoggingStation station;
     station.files.Put(kLogs + "20260101.log", "");
     std::string steps;
     station.files.m_OnCall = [&](std::string_view operation, std::string_view) {
@@ -275,7 +275,7 @@ TEST(CleanLogFiles, TheLineIsWrittenWhenTheFileIsGone) {
 }
 
 TEST(CleanLogFiles, AWriteProtectedLogGoesToo) {
-    cStation station;
+    cLoggingStation station;
     station.files.Put(kLogs + "20260101.log", "");
     station.files.SetReadOnly(kLogs + "20260101.log", true);
     station.log.CleanLogFiles(kLogMask, 30);
@@ -283,7 +283,7 @@ TEST(CleanLogFiles, AWriteProtectedLogGoesToo) {
 }
 
 TEST(CleanLogFiles, AFailureToDeleteReachesTheCaller) {
-    cStation station;
+    cLoggingStation station;
     station.files.Put(kLogs + "20260101.log", "");
     station.files.m_FolderReadOnly = true;
     EXPECT_THROW(station.log.CleanLogFiles(kLogMask, 30), cFailure);

@@ -7,23 +7,23 @@
 namespace vigrel::testing {
 namespace {
 
-const std::string kPath = "C:\\App\\x.dat";
+const std::string kAsked = "C:\\App\\x.dat";
 
 TEST(MissingFile, AFileIsThereWhateverItHolds) {
     cFakeFiles files;
-    EXPECT_FALSE(IsThere(files, kPath));
-    EXPECT_TRUE(IsMissing(files, kPath));
-    files.Put(kPath, "");
-    EXPECT_TRUE(IsThere(files, kPath));
-    EXPECT_FALSE(IsMissing(files, kPath));
+    EXPECT_FALSE(IsThere(files, kAsked));
+    EXPECT_TRUE(IsMissing(files, kAsked));
+    files.Put(kAsked, "");
+    EXPECT_TRUE(IsThere(files, kAsked));
+    EXPECT_FALSE(IsMissing(files, kAsked));
 }
 
 TEST(MissingFile, OneThatCannotBeReadIsThereAllTheSame) {
     cFakeFiles files;
-    files.Put(kPath, "x");
-    files.SetUnreadable(kPath, true);
-    EXPECT_TRUE(IsThere(files, kPath));
-    EXPECT_FALSE(IsMissing(files, kPath));
+    files.Put(kAsked, "x");
+    files.SetUnreadable(kAsked, true);
+    EXPECT_TRUE(IsThere(files, kAsked));
+    EXPECT_FALSE(IsMissing(files, kAsked));
 }
 
 TEST(MissingFile, ALookThatFailsIsNoAnswer) {
@@ -31,10 +31,10 @@ TEST(MissingFile, ALookThatFailsIsNoAnswer) {
     disk.Put("C:\\App\\y.dat", "y");
     cFaultyFiles files(disk);
     files.m_Count = 1000;
-    const auto failure = CatchFailure([&] { IsThere(files, kPath); });
+    const auto failure = CatchFailure([&] { IsThere(files, kAsked); });
     ASSERT_TRUE(failure);
     EXPECT_EQ(failure->Number(), eFailure::InputOutput);
-    EXPECT_FALSE(IsMissing(files, kPath));
+    EXPECT_FALSE(IsMissing(files, kAsked));
 }
 
 }  // namespace

@@ -2,13 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include "common/app_folder.h"
 #include "common/failure.h"
 #include "support/fake_files.h"
 
 namespace vigrel::testing {
 namespace {
-
-const std::string kFolder = "C:\\App\\";
 
 // A station whose language is 046, with that text file.
 struct cStation {

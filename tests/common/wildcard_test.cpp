@@ -7,12 +7,12 @@
 namespace vigrel::testing {
 namespace {
 
-struct cCase {
+struct cMatch {
     std::string text, pattern;
 };
 
-void ExpectAll(bool matches, std::initializer_list<cCase> cases) {
-    for (const cCase& c : cases) {
+void ExpectAll(bool matches, std::initializer_list<cMatch> cases) {
+    for (const cMatch& c : cases) {
         EXPECT_EQ(WildcardMatch(c.text, c.pattern), matches ? True16 : False16)
             << "text: " << c.text << "  pattern: " << c.pattern;
     }

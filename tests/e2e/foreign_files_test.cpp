@@ -20,8 +20,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kRefused = 69;
-
 // For stations whose log can't be read: whether an alarm is taken within ten seconds.
 bool TakesAnAlarm(const cStation& station) {
     for (int i = 0; i < 100; ++i) {
@@ -37,7 +35,7 @@ TEST(ForeignConfiguration, OneThatCannotBeReadIsRefusedWithItsNameAndTheReason) 
     const std::string ini = (station.Folder() / "VigrelReceiver.INI").string();
     ASSERT_EQ(mkfifo(ini.c_str(), 0666), 0);
     station.Launch();
-    EXPECT_EQ(station.WaitForEnd(), kRefused);
+    EXPECT_EQ(station.WaitForEnd(), kRefusedStart);
     EXPECT_EQ(station.StandardError(), "vigrel-receiver: " + station.Folder().string() +
                                            "/: The configuration can't be read: " + ini +
                                            ": no ordinary file\n");
@@ -196,7 +194,7 @@ TEST_F(Terminal, IsNotSteeredByTheNameOfAFolderInABox) {
     fs::create_directories(folder / "VigrelReceiver.INI");
     station.m_Environment["VIGREL_APPLICATION_PATH"] = folder.string();
     station.Launch();
-    EXPECT_EQ(station.WaitForEnd(), kRefused);
+    EXPECT_EQ(station.WaitForEnd(), kRefusedStart);
     ExpectNothingSteers("no ordinary file");
 }
 
@@ -213,7 +211,7 @@ TEST_F(Terminal, IsNotSteeredByTheNameOfADisplay) {
     station.ExpectStandardError();
     station.m_Environment = {{"QT_QPA_PLATFORM", ""}, {"DISPLAY", std::string(":4711") + kSteering}};
     station.Launch();
-    EXPECT_EQ(station.WaitForEnd(), kRefused);
+    EXPECT_EQ(station.WaitForEnd(), kRefusedStart);
     ExpectNothingSteers("No display can be opened");
 }
 

@@ -15,7 +15,7 @@
 namespace vigrel::testing {
 namespace {
 
-constexpr int kRefused = 69, kNotYet = 75;
+constexpr int kNotYet = 75;
 
 TEST(Ending, EveryStopSignalEndsItInOrder) {
     for (const int signal : {SIGTERM, SIGHUP}) {
@@ -64,7 +64,7 @@ TEST_F(Unseen, ASecondStartNamesTheFolder) {
     cStation second(&first);
     second.ExpectStandardError();
     second.Launch();
-    EXPECT_EQ(second.WaitForEnd(), kRefused);
+    EXPECT_EQ(second.WaitForEnd(), kRefusedStart);
     EXPECT_EQ(second.StandardError(), Line(second, "T10010"));
     EXPECT_EQ(first.Send({"--t0", "still here"}).exitCode, 0);
 }
@@ -76,7 +76,7 @@ TEST_F(Unseen, ATakenPortIsNamed) {
     second.ExpectStandardError();
     second.m_Port = first.m_Port;
     second.Launch();
-    EXPECT_EQ(second.WaitForEnd(), kRefused);
+    EXPECT_EQ(second.WaitForEnd(), kRefusedStart);
     EXPECT_EQ(second.StandardError(), Line(second, "T10015 (" + std::to_string(first.m_Port) + ") T10016"));
 }
 
@@ -111,7 +111,7 @@ TEST_F(Unseen, AMissingLanguageIsTold) {
     station.ExpectStandardError();
     std::filesystem::remove(station.Folder() / "Vigrel_Texts.046");
     station.Launch();
-    EXPECT_EQ(station.WaitForEnd(), kRefused);
+    EXPECT_EQ(station.WaitForEnd(), kRefusedStart);
     const std::string error = station.StandardError();
     EXPECT_TRUE(error.starts_with("vigrel-receiver: " + station.Folder().string() + "/: No language: "))
         << error;
@@ -178,7 +178,7 @@ TEST(Display, OneThatDoesNotAnswerEndsTheProgramWithTheReason) {
         // One that the session names may come, and a service manager tries again; a platform that the toolkit
         // hasn't got will not.
         const bool may = service && station.m_Environment["QT_QPA_PLATFORM"] != "name4711";
-        EXPECT_EQ(station.WaitForEnd(), may ? kNotYet : kRefused);
+        EXPECT_EQ(station.WaitForEnd(), may ? kNotYet : kRefusedStart);
         const std::string error = station.StandardError();
         EXPECT_TRUE(error.starts_with("vigrel-receiver: No display can be opened: ")) << error;
         EXPECT_NE(error.find("4711"), std::string::npos) << error;

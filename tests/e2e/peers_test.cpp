@@ -62,7 +62,7 @@ long Memory(pid_t process) {
 // What the toolkit opens once, at its first use.
 constexpr std::ptrdiff_t kOpenedOnce = 10;
 
-std::ptrdiff_t OpenFiles(pid_t process) {
+std::ptrdiff_t CountOpenFiles(pid_t process) {
     const std::filesystem::directory_iterator files("/proc/" + std::to_string(process) + "/fd");
     return std::distance(begin(files), end(files));
 }
@@ -73,8 +73,9 @@ constexpr std::ptrdiff_t kMostConnections = 50;
 // Whether the files come down to so many within ten seconds: connections that were replaced stay for two.
 bool ComesDownToOpenFiles(pid_t process, std::ptrdiff_t most) {
     const auto end = Clock::now() + std::chrono::seconds(10);
-    while (OpenFiles(process) > most && Clock::now() < end) std::this_thread::sleep_for(milliseconds(50));
-    return OpenFiles(process) <= most;
+    while (CountOpenFiles(process) > most && Clock::now() < end)
+        std::this_thread::sleep_for(milliseconds(50));
+    return CountOpenFiles(process) <= most;
 }
 
 // Sends numbered alarms, each by a connection of its own, and again where another peer took its place.
@@ -244,14 +245,14 @@ TEST_P(Peers, KeepNoGoodSenderFromItsAnswers) {
     cGoodSender good(station.m_Port);
     good.SendOne();
     const long memory = Memory(station.Process());
-    const std::ptrdiff_t files = OpenFiles(station.Process());
+    const std::ptrdiff_t files = CountOpenFiles(station.Process());
     std::ptrdiff_t mostFiles = files;
     {
         const std::jthread peer(GetParam().work, station.m_Port);
         for (const auto end = Clock::now() + TimeWithEach(); Clock::now() < end;) {
             std::this_thread::sleep_for(milliseconds(20));
             good.SendOne();
-            mostFiles = std::max(mostFiles, OpenFiles(station.Process()));
+            mostFiles = std::max(mostFiles, CountOpenFiles(station.Process()));
         }
     }
     good.SendOne();

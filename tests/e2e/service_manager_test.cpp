@@ -98,7 +98,7 @@ TEST(ServiceManager, IsNotToldOfAStartThatWasRefused) {
     second.m_Port = first.m_Port;
     const cManager manager(second);
     second.Launch();
-    EXPECT_EQ(second.WaitForEnd(), 69);
+    EXPECT_EQ(second.WaitForEnd(), kRefusedStart);
     EXPECT_EQ(manager.Hear(std::chrono::milliseconds(100)), cLines{"STOPPING=1"});
 }
 
@@ -118,7 +118,7 @@ TEST(ServiceManager, IsAskedToTryAgainWhileTheAddressIsNotThere) {
     wrong.ExpectStandardError();
     wrong.m_Address = "no address";
     wrong.Launch();
-    EXPECT_EQ(wrong.WaitForEnd(), 69);
+    EXPECT_EQ(wrong.WaitForEnd(), kRefusedStart);
 }
 
 }  // namespace

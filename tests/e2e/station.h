@@ -32,6 +32,9 @@ struct cResult {
 // Runs a program of the build to its end.
 cResult RunProgram(const std::string& program, const std::vector<std::string>& arguments);
 
+// The exit code of a station that can't start as it is.
+inline constexpr int kRefusedStart = 69;
+
 // A free TCP port of this machine.
 int FreePort();
 

@@ -542,7 +542,6 @@ TEST_F(ProfilesPage, AnotherCalendarIsAStepAndKeepsTheStepsOfBefore) {
 }
 
 TEST_F(ProfilesPage, ACalendarUnderOtherHandsIsAskedFor) {
-    using eConflict = cPrompts::eConflict;
     const std::string empty(29220, '\0');
     std::string theirs = empty;
     theirs[0] = 9;
@@ -554,7 +553,7 @@ TEST_F(ProfilesPage, ACalendarUnderOtherHandsIsAskedFor) {
     QObject::connect(&Page(), &cEditorPage::BothWanted, [&](const QString& path) { shown = path; });
     MarkADay(editor);
     Put("Calendar.cal", theirs);
-    m_Prompts.m_ConflictAnswers = {eConflict::Both, eConflict::Theirs};
+    m_Prompts.m_ConflictAnswers = {cPrompts::eConflict::Both, cPrompts::eConflict::Theirs};
     EXPECT_FALSE(Page().Save());
     EXPECT_EQ(shown, calendar.Path());
     EXPECT_TRUE(Page().IsDirty());
@@ -565,7 +564,7 @@ TEST_F(ProfilesPage, ACalendarUnderOtherHandsIsAskedFor) {
     EXPECT_EQ(editor.Calendar().GetDayType(0), 0);
     EXPECT_TRUE(Page().IsDirty());
     m_Files.RemoveFile(Path("Calendar.cal"));
-    m_Prompts.m_ConflictAnswers = {eConflict::Theirs};
+    m_Prompts.m_ConflictAnswers = {cPrompts::eConflict::Theirs};
     EXPECT_FALSE(Page().Save());
     EXPECT_FALSE(Page().IsDirty());
     EXPECT_EQ(LabelOf(Page(), "Label_Calendar"), "A new calendar");

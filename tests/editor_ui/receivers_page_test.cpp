@@ -602,18 +602,19 @@ TEST_F(ReceiversPage, AFileThatWasChangedMeanwhileIsNotReplacedUnasked) {
     const std::string question = "mine, theirs, both: East\n";
     std::string theirs = testing::Sample("receiver_version_5.dat");
     theirs[10] = 'A';
-    using eConflict = cPrompts::eConflict;
-    for (const eConflict answer : {eConflict::Cancel, eConflict::Both, eConflict::Theirs, eConflict::Mine}) {
+    for (const cPrompts::eConflict answer : {cPrompts::eConflict::Cancel, cPrompts::eConflict::Both,
+                                             cPrompts::eConflict::Theirs, cPrompts::eConflict::Mine}) {
         PutSample("Receivers\\Receiver_0007.dat", "receiver_version_5.dat");
         Reopen();
         Type(Page(), "Text_ReceiverName", "East");
         Put("Receivers\\Receiver_0007.dat", theirs);
         m_Prompts.m_ConflictAnswers = {answer};
-        EXPECT_EQ(Page().Save(), answer == eConflict::Mine);
+        EXPECT_EQ(Page().Save(), answer == cPrompts::eConflict::Mine);
         EXPECT_EQ(Asked(), question);
-        EXPECT_EQ(OnDisk("Receivers\\Receiver_0007.dat") == theirs, answer != eConflict::Mine);
-        EXPECT_EQ(m_Station.Receivers().Count(), answer == eConflict::Both ? 2u : 1u);
-        const bool shownIsTheirs = answer == eConflict::Both || answer == eConflict::Theirs;
+        EXPECT_EQ(OnDisk("Receivers\\Receiver_0007.dat") == theirs, answer != cPrompts::eConflict::Mine);
+        EXPECT_EQ(m_Station.Receivers().Count(), answer == cPrompts::eConflict::Both ? 2u : 1u);
+        const bool shownIsTheirs =
+            answer == cPrompts::eConflict::Both || answer == cPrompts::eConflict::Theirs;
         EXPECT_EQ(Shown().m_ReceiverName, shownIsTheirs ? "Ast" : "East");
     }
 }

@@ -17,12 +17,12 @@ namespace {
 
 using eConflict = cPrompts::eConflict;
 
-const std::string kEast = "Receivers\\Receiver_0007.dat", kNight = "Profiles\\Profile_0012.dat";
+const std::string kEastFile = "Receivers\\Receiver_0007.dat", kNight = "Profiles\\Profile_0012.dat";
 
 class SharedDefinitions : public PageTest {
   protected:
     SharedDefinitions() {
-        PutSample(kEast, "receiver_version_5.dat");
+        PutSample(kEastFile, "receiver_version_5.dat");
         PutSample(kNight, "profile_version_5.dat");
         m_Window.show();
     }
@@ -82,7 +82,7 @@ TEST_F(SharedDefinitions, UndoTakesBackWhatWasTakenUpBeforeTheStepsBehindIt) {
     Type(Page(), "Text_ReceiverName", "East");
     ASSERT_TRUE(Page().Save());
     GiveNumbers(7, "99");
-    const std::string theirs = OnDisk(kEast);
+    const std::string theirs = OnDisk(kEastFile);
     ComeBack();
     EXPECT_EQ(TextOf(Page(), "Text_ParallellNumbers"), "99");
     EXPECT_EQ(UndoText(), "taking over \"East\"");
@@ -95,7 +95,7 @@ TEST_F(SharedDefinitions, UndoTakesBackWhatWasTakenUpBeforeTheStepsBehindIt) {
     Page().UndoStack()->redo();
     EXPECT_EQ(TextOf(Page(), "Text_ParallellNumbers"), "99");
     EXPECT_FALSE(Page().IsDirty());
-    EXPECT_EQ(OnDisk(kEast), theirs);
+    EXPECT_EQ(OnDisk(kEastFile), theirs);
     EXPECT_EQ(Asked(), "");
 }
 
@@ -103,16 +103,16 @@ TEST_F(SharedDefinitions, WhatUndoBringsBackOverTheWorkOfOthersIsNotSavedUnasked
     m_Window.ShowReceivers();
     Page();
     GiveNumbers(7, "99");
-    const std::string theirs = OnDisk(kEast);
+    const std::string theirs = OnDisk(kEastFile);
     ComeBack();
     Undo();
     Type(Page(), "Text_ReceiverName", "East");
     EXPECT_FALSE(Page().Save());
     EXPECT_EQ(Asked(), Changed("East"));
-    EXPECT_EQ(OnDisk(kEast), theirs);
+    EXPECT_EQ(OnDisk(kEastFile), theirs);
     m_Prompts.m_ConflictAnswers = {eConflict::Mine};
     EXPECT_TRUE(Page().Save());
-    EXPECT_NE(OnDisk(kEast), theirs);
+    EXPECT_NE(OnDisk(kEastFile), theirs);
     // That is decided now.
     Asked();
     Type(Page(), "Text_ReceiverName", "West");
@@ -136,13 +136,13 @@ TEST_F(SharedDefinitions, GivenUpChangesThatComeBackDontReplaceTheWorkOfOthersUn
     m_Window.ShowReceivers();
     Type(Page(), "Text_ReceiverName", "East");
     GiveNumbers(7, "99");
-    const std::string theirs = OnDisk(kEast);
+    const std::string theirs = OnDisk(kEastFile);
     Press(Page(), "Button_Revert");
     EXPECT_EQ(TextOf(Page(), "Text_ParallellNumbers"), "99");
     Undo();
     EXPECT_FALSE(Page().Save());
     EXPECT_EQ(Asked(), Changed("East"));
-    EXPECT_EQ(OnDisk(kEast), theirs);
+    EXPECT_EQ(OnDisk(kEastFile), theirs);
 }
 
 TEST_F(SharedDefinitions, WhatSeveralFilesBringAtOnceIsOneStep) {
@@ -160,7 +160,7 @@ TEST_F(SharedDefinitions, WhatSeveralFilesBringAtOnceIsOneStep) {
 
 TEST_F(SharedDefinitions, WhatOthersWroteAsItWasIsNoStep) {
     m_Window.ShowReceivers();
-    PutSample(kEast, "receiver_version_5.dat");
+    PutSample(kEastFile, "receiver_version_5.dat");
     ComeBack();
     EXPECT_EQ(Page().UndoStack()->count(), 0);
     EXPECT_FALSE(Page().IsDirty());
@@ -190,7 +190,7 @@ TEST_F(SharedDefinitions, WhatOthersDoWhileItIsAskedDoesntTurnTheAnswerToAnother
     m_Window.ShowReceivers();
     Page().Choose(1);
     m_Prompts.m_WhileAsked = [this] {
-        if (m_Files.FileExists(Path(kEast))) m_Files.RemoveFile(Path(kEast));
+        if (m_Files.FileExists(Path(kEastFile))) m_Files.RemoveFile(Path(kEastFile));
         ComeBack();
         QCoreApplication::processEvents();
     };
@@ -337,7 +337,7 @@ TEST_F(SharedDefinitions, WhatOthersRemovedLeavesTheListAsAStep) {
     Page().Choose(1);
     Type(Page(), "Text_ReceiverName", "North");
     ASSERT_TRUE(Page().Save());
-    m_Files.RemoveFile(Path(kEast));
+    m_Files.RemoveFile(Path(kEastFile));
     ComeBack();
     EXPECT_EQ(Rows(Page()), "North | (Unknown type: 0009) | 0042\n");
     EXPECT_EQ(TextOf(Page(), "Text_ReceiverName"), "North");
@@ -360,7 +360,7 @@ TEST_F(SharedDefinitions, TheNextOneIsChosenWhenOthersRemovedTheChosenOne) {
     PutSample("Receivers\\Receiver_0042.dat", "receiver_version_5.dat");
     m_Window.ShowReceivers();
     Page().Choose(0);
-    m_Files.RemoveFile(Path(kEast));
+    m_Files.RemoveFile(Path(kEastFile));
     ComeBack();
     ASSERT_EQ(Page().Chosen(), 0);
     Type(Page(), "Text_ReceiverName", "North");
@@ -383,7 +383,7 @@ TEST_F(SharedDefinitions, WhatIsChangedHereAndRemovedByOthersStaysWithAMark) {
     GiveNumbers(7, "99");
     ComeBack();
     EXPECT_EQ(row().data(Qt::ToolTipRole), "Another program has changed the file meanwhile.");
-    m_Files.RemoveFile(Path(kEast));
+    m_Files.RemoveFile(Path(kEastFile));
     ComeBack();
     EXPECT_EQ(row().data(Qt::ToolTipRole), "Another program has removed the file.");
     EXPECT_FALSE(row().data(Qt::DecorationRole).isNull());
@@ -391,12 +391,12 @@ TEST_F(SharedDefinitions, WhatIsChangedHereAndRemovedByOthersStaysWithAMark) {
     m_Prompts.m_ConflictAnswers = {eConflict::Mine};
     EXPECT_TRUE(Page().Save());
     EXPECT_TRUE(row().data(Qt::ToolTipRole).isNull());
-    EXPECT_TRUE(m_Files.FileExists(Path(kEast)));
+    EXPECT_TRUE(m_Files.FileExists(Path(kEastFile)));
 }
 
 TEST_F(SharedDefinitions, AReceiverThatOthersRemovedIsMissingInTheProfilesAndNotOffered) {
     m_Window.ShowProfiles();
-    m_Files.RemoveFile(Path(kEast));
+    m_Files.RemoveFile(Path(kEastFile));
     ComeBack();
     EXPECT_EQ(Receivers(), "(missing receiver 0007), (missing receiver 0008), (missing receiver 0009)");
     RemoveReceiver();

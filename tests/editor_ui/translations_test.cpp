@@ -171,9 +171,9 @@ TEST(Translations, NothingThatShowsGoesPastThem) {
 }
 
 // Notes what the toolkit asks for in its own dialogs.
-class cAsked : public QTranslator {
+class cListener : public QTranslator {
   public:
-    explicit cAsked(std::set<std::pair<std::string, std::string>>& asked) : m_Asked(asked) {}
+    explicit cListener(std::set<std::pair<std::string, std::string>>& asked) : m_Asked(asked) {}
     bool isEmpty() const override { return false; }
     QString translate(const char* context, const char* source, const char*, int) const override {
         m_Asked.emplace(context, source);
@@ -187,7 +187,7 @@ class cAsked : public QTranslator {
 // The toolkit has no file of these two languages.
 TEST(Translations, HoldWhatTheToolkitSaysInItsDialogsWhereItsOwnFilesLackThat) {
     std::set<std::pair<std::string, std::string>> asked;
-    cAsked listener(asked);
+    cListener listener(asked);
     QCoreApplication::installTranslator(&listener);
     {
         QFileDialog files;

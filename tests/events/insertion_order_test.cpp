@@ -42,8 +42,8 @@ TEST(InsertionOrder, AnEarlierOrLaterOneFindsTheEnds) {
 }
 
 TEST(InsertionOrder, AllAtOnceIsWhatOneByOneGives) {
-    constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
-    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    constexpr double kNoTime = std::numeric_limits<double>::quiet_NaN();
+    constexpr double kNever = std::numeric_limits<double>::infinity();
     std::mt19937 random(7);
     for (int round = 0; round < 3000; ++round) {
         std::vector<DateTime> times(random() % 60);
@@ -51,8 +51,8 @@ TEST(InsertionOrder, AllAtOnceIsWhatOneByOneGives) {
         const unsigned long kinds = 1 + random() % 80;
         for (DateTime& time : times) {
             time = static_cast<double>(random() % kinds);
-            if (random() % 20 == 0) time = kNone;
-            if (random() % 30 == 0) time = random() % 2 == 0 ? kInfinity : -kInfinity;
+            if (random() % 20 == 0) time = kNoTime;
+            if (random() % 30 == 0) time = random() % 2 == 0 ? kNever : -kNever;
             if (time == 0 && random() % 2 == 0) time = -0.0;
         }
         ASSERT_EQ(OrderByInsertion(times).order, OneByOne(times)) << "round " << round;

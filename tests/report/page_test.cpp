@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "common/path_text.h"
+#include "report/all_languages.h"
 #include "report/written_station.h"
 #include "vigrel-report/page/writers.h"
 #include "vigrel-report/run.h"
@@ -17,9 +18,6 @@ using testing::cFakeFiles;
 using testing::cWrittenStation;
 using testing::kNoZone;
 using testing::Wall;
-
-constexpr eLanguage kAll[] = {eLanguage::English, eLanguage::Swedish,   eLanguage::German,
-                              eLanguage::Danish,  eLanguage::Norwegian, eLanguage::Finnish};
 
 class HandedOut : public ::testing::Test {
   protected:
@@ -71,7 +69,7 @@ TEST_F(HandedOut, EveryPictureHasATableBehindIt) {
 }
 
 TEST_F(HandedOut, ThePageSpeaksEveryLanguage) {
-    for (const eLanguage language : kAll) {
+    for (const eLanguage language : kAllLanguages) {
         const std::string page = Make({"--html", "x", "--language", CodeOf(language), "/app"}).page;
         EXPECT_NE(page.find("<html lang=\"" + CodeOf(language) + "\""), std::string::npos);
         EXPECT_NE(page.find(std::string(Word(language, eWord::Quoted))), std::string::npos);

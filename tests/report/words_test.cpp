@@ -6,6 +6,7 @@
 
 #include <set>
 
+#include "report/all_languages.h"
 #include "report/written_station.h"
 #include "vigrel-report/page/cells.h"
 
@@ -13,9 +14,6 @@ namespace vigrel::report {
 namespace {
 
 using testing::kNoZone;
-
-constexpr eLanguage kAll[] = {eLanguage::English, eLanguage::Swedish,   eLanguage::German,
-                              eLanguage::Danish,  eLanguage::Norwegian, eLanguage::Finnish};
 
 std::set<std::string> PlacesIn(std::string_view text) {
     std::set<std::string> places;
@@ -29,7 +27,7 @@ TEST(Words, AreThereInAllLanguagesWithTheSamePlaces) {
     for (std::size_t i = 0; i < static_cast<std::size_t>(eWord::NumberOfWords); ++i) {
         const auto word = static_cast<eWord>(i);
         const std::string_view english = Word(eLanguage::English, word);
-        for (const eLanguage language : kAll) {
+        for (const eLanguage language : kAllLanguages) {
             const std::string_view text = Word(language, word);
             EXPECT_FALSE(text.empty()) << english;
             EXPECT_EQ(PlacesIn(text), PlacesIn(english)) << text;
@@ -56,7 +54,7 @@ TEST(Words, AreTranslated) {
         const auto word = static_cast<eWord>(i);
         const std::string_view english = Word(eLanguage::English, word);
         std::string found;
-        for (const eLanguage language : kAll) {
+        for (const eLanguage language : kAllLanguages) {
             if (language == eLanguage::English || Word(language, word) != english) continue;
             found += (found.empty() ? "" : " ") + CodeOf(language);
         }

@@ -9,7 +9,7 @@ namespace vigrel::testing {
 namespace {
 
 using eReason = cActiveDay::eReason;
-using Periods = std::vector<std::pair<int, int>>;
+using Minutes = std::vector<std::pair<int, int>>;
 
 class ActiveDays : public ::testing::Test {
   protected:
@@ -29,7 +29,7 @@ TEST_F(ActiveDays, WithoutACalendarTheWeekdayCounts) {
     EXPECT_EQ(day.dayType, 0);
     EXPECT_EQ(day.reason, eReason::Weekday);
     EXPECT_TRUE(day.used);
-    EXPECT_EQ(day.periods, (Periods{{420, 700}, {960, 1200}}));
+    EXPECT_EQ(day.periods, (Minutes{{420, 700}, {960, 1200}}));
     EXPECT_EQ(day.group, std::vector<std::int16_t>{1});
 }
 
@@ -37,7 +37,7 @@ TEST_F(ActiveDays, ADayTypeOfTheCalendarTakesItsPlaceWhenTheScheduleUsesIt) {
     const cActiveDay special = ActiveDay(m_Schedule, 8, 0);
     EXPECT_EQ(special.dayType, 7);
     EXPECT_EQ(special.reason, eReason::Calendar);
-    EXPECT_EQ(special.periods, (Periods{{0, 1440}}));
+    EXPECT_EQ(special.periods, (Minutes{{0, 1440}}));
     EXPECT_TRUE(special.group.empty());
     const cActiveDay unused = ActiveDay(m_Schedule, 9, 0);
     EXPECT_EQ(unused.dayType, 0);

@@ -12,7 +12,7 @@
 namespace vigrel::testing {
 namespace {
 
-const char* const kPath = "C:\\App\\OwnHolidays.txt";
+const char* const kOwnHolidays = "C:\\App\\OwnHolidays.txt";
 
 class OwnHolidays : public ::testing::Test {
   protected:
@@ -153,16 +153,16 @@ TEST_F(OwnHolidays, AnEntryThatSaysSomethingElseInAnyOfItsPartsIsWrittenAnew) {
 }
 
 TEST_F(OwnHolidays, AFileIsReadAndReplacedWhole) {
-    EXPECT_TRUE(m_Own.Load(m_Files, kPath).empty());
+    EXPECT_TRUE(m_Own.Load(m_Files, kOwnHolidays).empty());
     EXPECT_TRUE(m_Own.m_Holidays.empty());
-    m_Files.Put(kPath, "12-24 | Company holiday\n");
-    EXPECT_TRUE(m_Own.Load(m_Files, kPath).empty());
+    m_Files.Put(kOwnHolidays, "12-24 | Company holiday\n");
+    EXPECT_TRUE(m_Own.Load(m_Files, kOwnHolidays).empty());
     m_Own.m_Holidays[0].m_First = "12-23";
-    m_Own.Save(m_Files, kPath);
-    EXPECT_EQ(m_Files.ReadFile(kPath), "12-23 | Company holiday\r\n");
+    m_Own.Save(m_Files, kOwnHolidays);
+    EXPECT_EQ(m_Files.ReadFile(kOwnHolidays), "12-23 | Company holiday\r\n");
     m_Own.m_Holidays[0].m_Name = "a|b";
-    EXPECT_TRUE(CatchFailure([&] { m_Own.Save(m_Files, kPath); }));
-    EXPECT_EQ(m_Files.ReadFile(kPath), "12-23 | Company holiday\r\n");
+    EXPECT_TRUE(CatchFailure([&] { m_Own.Save(m_Files, kOwnHolidays); }));
+    EXPECT_EQ(m_Files.ReadFile(kOwnHolidays), "12-23 | Company holiday\r\n");
 }
 
 TEST_F(OwnHolidays, StandBesideThoseOfTheCountry) {

@@ -5,8 +5,6 @@
 namespace vigrel::testing {
 namespace {
 
-using eState = cResizeNotice::eState;
-
 class ResizeNotice : public ::testing::Test {
   protected:
     int m_Told = 0;
@@ -24,11 +22,11 @@ TEST_F(ResizeNotice, HeldItIsToldOnceAtTheEnd) {
     m_Notice.Hold();
     m_Notice.Resized();
     m_Notice.Resized();
-    EXPECT_EQ(m_Notice.State(), eState::Kept);
+    EXPECT_EQ(m_Notice.State(), cResizeNotice::eState::Kept);
     EXPECT_EQ(m_Told, 0);
     m_Notice.Release();
     EXPECT_EQ(m_Told, 1);
-    EXPECT_EQ(m_Notice.State(), eState::Telling);
+    EXPECT_EQ(m_Notice.State(), cResizeNotice::eState::Telling);
 }
 
 TEST_F(ResizeNotice, WithoutAResizeTheEndTellsNothing) {

@@ -7,8 +7,6 @@
 namespace vigrel::testing {
 namespace {
 
-using eState = cWindowClose::eState;
-
 class WindowClose : public ::testing::Test {
   protected:
     WindowClose() {
@@ -29,7 +27,7 @@ class WindowClose : public ::testing::Test {
 };
 
 TEST_F(WindowClose, AWindowThatIsNotOpenClosesWithoutAWord) {
-    EXPECT_EQ(m_Close.State(), eState::Closed);
+    EXPECT_EQ(m_Close.State(), cWindowClose::eState::Closed);
     EXPECT_TRUE(Close());
     EXPECT_EQ(m_Steps, "");
 }
@@ -38,14 +36,14 @@ TEST_F(WindowClose, AQueryThatIsRefusedLeavesItOpen) {
     m_Windows.Enter(m_Window);
     m_Allowed = false;
     EXPECT_FALSE(Close());
-    EXPECT_EQ(m_Close.State(), eState::Open);
+    EXPECT_EQ(m_Close.State(), cWindowClose::eState::Open);
     EXPECT_EQ(m_Steps, "query ");
 }
 
 TEST_F(WindowClose, TheStepsRunInTheirOrderAndOnce) {
     m_Windows.Enter(m_Window);
     EXPECT_TRUE(Close());
-    EXPECT_EQ(m_Close.State(), eState::Closed);
+    EXPECT_EQ(m_Close.State(), cWindowClose::eState::Closed);
     EXPECT_TRUE(Close());
     EXPECT_EQ(m_Steps, "query unload closed ");
 }
@@ -53,7 +51,7 @@ TEST_F(WindowClose, TheStepsRunInTheirOrderAndOnce) {
 TEST_F(WindowClose, ACloseWithinTheUnloadStepRunsNothingTwice) {
     m_Windows.Enter(m_Window);
     m_Window.OnUnload = [this] {
-        EXPECT_EQ(m_Close.State(), eState::Closing);
+        EXPECT_EQ(m_Close.State(), cWindowClose::eState::Closing);
         EXPECT_TRUE(Close());
         m_Steps += "unload ";
     };
@@ -65,7 +63,7 @@ TEST_F(WindowClose, OpenedAgainItAsksAgain) {
     m_Windows.Enter(m_Window);
     Close();
     m_Windows.Enter(m_Window);
-    EXPECT_EQ(m_Close.State(), eState::Open);
+    EXPECT_EQ(m_Close.State(), cWindowClose::eState::Open);
     EXPECT_TRUE(Close());
     EXPECT_EQ(m_Steps, "query unload closed query unload closed ");
 }

@@ -8,8 +8,6 @@
 namespace vigrel::testing {
 namespace {
 
-using eState = cWindowFrame::eState;
-
 class WindowFrame : public ::testing::Test {
   protected:
     WindowFrame() { m_Window.resize(300, 200); }
@@ -19,19 +17,19 @@ class WindowFrame : public ::testing::Test {
 };
 
 TEST_F(WindowFrame, UnseenItsSizeIsThatOfTheInside) {
-    EXPECT_EQ(m_Frame.State(), eState::Unseen);
+    EXPECT_EQ(m_Frame.State(), cWindowFrame::eState::Unseen);
     EXPECT_EQ(m_Frame.Size(), QSize(300, 200));
     EXPECT_EQ(m_Frame.Corner(), QPoint(0, 0));
 }
 
 TEST_F(WindowFrame, ASizeThatIsSetBeforeItIsSeenIsAnsweredAndFulfilledLater) {
     m_Frame.SetSize({400, 300});
-    EXPECT_EQ(m_Frame.State(), eState::Wished);
+    EXPECT_EQ(m_Frame.State(), cWindowFrame::eState::Wished);
     EXPECT_EQ(m_Window.size(), QSize(400, 300));
     m_Frame.Resized({400, 300});
-    EXPECT_EQ(m_Frame.State(), eState::Wished);
+    EXPECT_EQ(m_Frame.State(), cWindowFrame::eState::Wished);
     m_Frame.Meet(m_Caption);
-    EXPECT_EQ(m_Frame.State(), eState::Seen);
+    EXPECT_EQ(m_Frame.State(), cWindowFrame::eState::Seen);
     EXPECT_EQ(m_Window.size(), QSize(396, 278));
     EXPECT_EQ(m_Frame.Size(), QSize(400, 300));
     EXPECT_EQ(m_Frame.Corner(), QPoint(2, 20));
@@ -41,7 +39,7 @@ TEST_F(WindowFrame, AWishEndsWhenSomebodyElseSizesTheWindow) {
     m_Frame.SetSize({400, 300});
     m_Window.resize(500, 500);
     m_Frame.Resized({500, 500});
-    EXPECT_EQ(m_Frame.State(), eState::Unseen);
+    EXPECT_EQ(m_Frame.State(), cWindowFrame::eState::Unseen);
     m_Frame.Meet(m_Caption);
     EXPECT_EQ(m_Window.size(), QSize(500, 500));
     EXPECT_EQ(m_Frame.Size(), QSize(504, 522));
@@ -51,7 +49,7 @@ TEST_F(WindowFrame, SeenItTakesItsShareOfASize) {
     m_Frame.Meet(m_Caption);
     EXPECT_EQ(m_Window.size(), QSize(300, 200));
     m_Frame.SetSize({400, 300});
-    EXPECT_EQ(m_Frame.State(), eState::Seen);
+    EXPECT_EQ(m_Frame.State(), cWindowFrame::eState::Seen);
     EXPECT_EQ(m_Window.size(), QSize(396, 278));
     m_Frame.SetSize({1, 1});
     EXPECT_EQ(m_Window.size(), QSize(0, 0));
@@ -79,13 +77,13 @@ TEST_F(WindowFrame, AnotherFrameLeavesTheInsideAsItIs) {
 TEST_F(WindowFrame, MarginsOfNothingAreNoFrame) {
     m_Frame.SetSize({400, 300});
     m_Frame.Meet(QMargins());
-    EXPECT_EQ(m_Frame.State(), eState::Wished);
+    EXPECT_EQ(m_Frame.State(), cWindowFrame::eState::Wished);
 }
 
 TEST_F(WindowFrame, AWindowThatDoesNotShowHasNoFrameToMeet) {
     m_Frame.SetSize({400, 300});
     m_Frame.Meet();
-    EXPECT_EQ(m_Frame.State(), eState::Wished);
+    EXPECT_EQ(m_Frame.State(), cWindowFrame::eState::Wished);
 }
 
 }  // namespace

@@ -19,16 +19,16 @@ namespace {
 // A manager that takes nothing for so long goes without the message; the station has other things to do.
 constexpr timeval kPatience{1, 0};
 
-std::string Variable(const char* name) {
+std::string VariableText(const char* name) {
     const char* value = std::getenv(name);
     return value == nullptr ? "" : value;
 }
 
 int ReadAliveInterval() {
     constexpr double kPerMillisecond = 1000, kTimes = 3;
-    const std::string process = Variable("WATCHDOG_PID");
+    const std::string process = VariableText("WATCHDOG_PID");
     if (!process.empty() && process != std::to_string(getpid())) return 0;
-    const double interval = Val(Variable("WATCHDOG_USEC")) / kPerMillisecond / kTimes;
+    const double interval = Val(VariableText("WATCHDOG_USEC")) / kPerMillisecond / kTimes;
     if (!(interval > 0)) return 0;
     return static_cast<int>(std::clamp(interval, 1.0, double{std::numeric_limits<int>::max()}));
 }
@@ -45,7 +45,7 @@ socklen_t MakeAddress(const std::string& path, sockaddr_un& address) {
 
 }  // namespace
 
-cNotifySocket::cNotifySocket() : m_Path(Variable("NOTIFY_SOCKET")) {
+cNotifySocket::cNotifySocket() : m_Path(VariableText("NOTIFY_SOCKET")) {
     if (!m_Path.empty()) m_AliveInterval = ReadAliveInterval();
 }
 

@@ -16,7 +16,7 @@ namespace vigrel {
 namespace {
 
 constexpr int kRetryMilliseconds = 10;
-constexpr mode_t kFileMode = 0644;
+constexpr mode_t kPortMode = 0644;
 
 // A printer on a serial line gets the bytes as they stand, too.
 void MakeRaw(int file) {
@@ -66,7 +66,7 @@ int OpenFlags(const std::string& path) {
 
 // 0, or the number of the error.
 int PrintTo(const std::string& path, std::string_view bytes, Deadline deadline) {
-    const cFileHandle file(open(path.c_str(), OpenFlags(path), kFileMode));
+    const cFileHandle file(open(path.c_str(), OpenFlags(path), kPortMode));
     if (!file) return errno;
     MakeRaw(file.Get());
     const int error = WriteAll(file.Get(), bytes, deadline);

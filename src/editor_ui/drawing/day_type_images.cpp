@@ -6,7 +6,7 @@
 namespace vigrel {
 namespace {
 
-constexpr std::string_view kSection = "DayTypeImages";
+constexpr std::string_view kImagesSection = "DayTypeImages";
 
 constexpr std::array<const char*, cDayTypeImages::kDrawings> kNames{
     QT_TRANSLATE_NOOP("cDayTypeImages", "Star"),       QT_TRANSLATE_NOOP("cDayTypeImages", "Half day"),
@@ -35,7 +35,7 @@ std::string Key(int number) {
 
 cDayTypeImages::cDayTypeImages(cIni& ini) : m_Ini(ini) {
     for (int number = 1; number <= kTypes; ++number) {
-        const double drawing = Val(m_Ini.GetIniString(kSection, Key(number), "", kDefinitionsIni));
+        const double drawing = Val(m_Ini.GetIniString(kImagesSection, Key(number), "", kDefinitionsIni));
         m_Chosen[static_cast<std::size_t>(number) - 1] =
             IsDrawing(drawing) ? static_cast<int>(drawing) : number;
     }
@@ -68,8 +68,8 @@ int cDayTypeImages::DrawingOf(int number) const {
 bool cDayTypeImages::Choose(int number, int drawing) {
     if (DrawingOf(number) == 0 || !IsDrawing(drawing)) return false;
     m_Chosen[static_cast<std::size_t>(number) - 1] = drawing;
-    m_Ini.PutIniString(kSection, Key(number), std::to_string(drawing), kDefinitionsIni);
-    return m_Ini.GetIniString(kSection, Key(number), "", kDefinitionsIni) == std::to_string(drawing);
+    m_Ini.PutIniString(kImagesSection, Key(number), std::to_string(drawing), kDefinitionsIni);
+    return m_Ini.GetIniString(kImagesSection, Key(number), "", kDefinitionsIni) == std::to_string(drawing);
 }
 
 }  // namespace vigrel

@@ -6,7 +6,7 @@
 namespace vigrel {
 namespace {
 
-constexpr std::string_view kSection = "DayTypes";
+constexpr std::string_view kDayTypesSection = "DayTypes";
 
 }  // namespace
 
@@ -28,7 +28,7 @@ std::string cDayTypeNames::Name(std::int16_t dayType) const {
 }
 
 std::string cDayTypeNames::OwnName(std::int16_t dayType) const {
-    return m_Ini.GetIniString(kSection, std::to_string(dayType), "", kDefinitionsIni);
+    return m_Ini.GetIniString(kDayTypesSection, std::to_string(dayType), "", kDefinitionsIni);
 }
 
 std::string cDayTypeNames::Entry(std::int16_t number) const {
@@ -38,7 +38,7 @@ std::string cDayTypeNames::Entry(std::int16_t number) const {
 
 bool cDayTypeNames::Rename(std::int16_t dayType, std::string_view name) {
     if (DayTypeIndex(dayType) < static_cast<std::size_t>(kWeekDays)) return false;
-    m_Ini.PutIniString(kSection, std::to_string(dayType), name, kDefinitionsIni);
+    m_Ini.PutIniString(kDayTypesSection, std::to_string(dayType), name, kDefinitionsIni);
     return OwnName(dayType) == name;
 }
 

@@ -18,14 +18,14 @@ QString Conditions(const cProfile& profile) {
     return texts.join(", ");
 }
 
-cFieldProblem ProblemOf(const cProfile& profile) {
+cFieldProblem ProfileProblem(const cProfile& profile) {
     if (Trim(profile.GetName()).empty()) return {QObject::tr("The name is empty."), "Text_ProfileName"};
     return {};
 }
 
 std::unique_ptr<cFolderSource<cProfile>> ReadProfiles(cStationDefinitions& station) {
     station.OpenProfiles();
-    return std::make_unique<cFolderSource<cProfile>>(station.Profiles(), Conditions, ProblemOf);
+    return std::make_unique<cFolderSource<cProfile>>(station.Profiles(), Conditions, ProfileProblem);
 }
 
 // Another calendar has come into the editor: the content, and the file behind it.

@@ -8,7 +8,7 @@ namespace {
 
 constexpr int kMostNames = 10;
 
-cFieldProblem ProblemOf(const cReceiver& receiver) {
+cFieldProblem ReceiverProblem(const cReceiver& receiver) {
     if (Trim(receiver.m_ReceiverName).empty()) {
         return {QObject::tr("The name is empty."), "Text_ReceiverName"};
     }
@@ -21,7 +21,7 @@ std::unique_ptr<cFolderSource<cReceiver>> ReadReceivers(cStationDefinitions& sta
     station.OpenReceivers();
     return std::make_unique<cFolderSource<cReceiver>>(
         station.Receivers(), [](const cReceiver& receiver) { return ToQString(receiver.m_ReceiverTypeName); },
-        ProblemOf);
+        ReceiverProblem);
 }
 
 }  // namespace

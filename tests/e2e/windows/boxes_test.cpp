@@ -26,11 +26,6 @@ Lines Behind(const Lines& log, std::size_t count) {
     return lines;
 }
 
-void OnScreen(cStation& station) {
-    station.m_Environment["QT_QPA_PLATFORM"] = "xcb";
-    station.m_Environment["LC_ALL"] = "C.UTF-8";
-}
-
 // Waits for the box, checks that the program waits for its answer, and gives it.
 int AnswerBox(cStation& station) {
     const std::string box = FindWindow(station.Process(), "^Vigrel Alarm Receiver$");

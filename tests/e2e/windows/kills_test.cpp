@@ -18,7 +18,7 @@
 namespace vigrel::testing {
 namespace {
 
-constexpr int kAlarms = 600, kMostMilliseconds = 300;
+constexpr int kStored = 600, kMostMilliseconds = 300;
 
 class KillsOnScreen : public ::testing::Test {
   protected:
@@ -59,7 +59,7 @@ class KillsOnScreen : public ::testing::Test {
         });
         std::size_t written = 0;
         for (const auto& [path, bytes] : Files()) written += before.at(path) == bytes ? 0 : 1;
-        return temporaries > 0 || (written > 0 && written < kAlarms);
+        return temporaries > 0 || (written > 0 && written < kStored);
     }
 
     std::ptrdiff_t Written() const {
@@ -77,7 +77,7 @@ TEST_F(KillsOnScreen, WhileAllIsAcknowledgedLeaveEveryAlarmWhole) {
     cNumberedAlarms alarms;
     for (int i = 0; i < KillsOfEachKind(); ++i) {
         ASSERT_TRUE(m_Station.Start()) << m_Station.StandardError();
-        alarms.Send(m_Station.m_Port, kAlarms);
+        alarms.Send(m_Station.m_Port, kStored);
         inTheMidst += KillWhileAllIsAcknowledged() ? 1 : 0;
         const std::set<int> stored = StoredNumbers(m_Station);
         EXPECT_EQ(stored.size(), static_cast<std::size_t>(alarms.m_Answered));

@@ -19,11 +19,6 @@
 namespace vigrel::testing {
 namespace {
 
-void OnScreen(cStation& station) {
-    station.m_Environment["QT_QPA_PLATFORM"] = "xcb";
-    station.m_Environment["LC_ALL"] = "C.UTF-8";
-}
-
 // Three boxes of the start, left standing for longer than anything in the receiver waits: over a midnight,
 // and beyond the longest silence of a sender.
 TEST(BoxesLeftStanding, NoLogGoesAndNoSenderIsMissed) {

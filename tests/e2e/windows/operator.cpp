@@ -28,6 +28,11 @@ std::string KeyCommands(const std::vector<std::string>& keys) {
 
 }  // namespace
 
+void OnScreen(cStation& station) {
+    station.m_Environment["QT_QPA_PLATFORM"] = "xcb";
+    station.m_Environment["LC_ALL"] = "C.UTF-8";
+}
+
 std::string FindWindow(pid_t process, const std::string& title, double seconds) {
     const auto deadline = std::chrono::steady_clock::now() + std::chrono::duration<double>(seconds);
     while (std::chrono::steady_clock::now() < deadline) {

@@ -5,10 +5,14 @@
 #include <string>
 #include <vector>
 
+#include "e2e/station.h"
+
 namespace vigrel::testing {
 
 // Somebody at the screen with a keyboard.
-//
+
+// To be called before the station starts: it shows its windows, in English.
+void OnScreen(cStation& station);
 // The window of a program that shows by now, or within the time; empty when there is none.
 std::string FindWindow(pid_t process, const std::string& title = "", double seconds = 20);
 std::string TitleOf(const std::string& window);
