@@ -21,11 +21,30 @@ std::string cLineMaker::Record() {
     std::string kind = kKinds[Below(10)];
     if (Below(5) == 0) return kind;
     constexpr const char* kBlanks[] = {"", " ", "  "};
-    constexpr const char* kDates[] = {"2026-03-15", "2026-03-15", "26-03-15", "2026-13-00",
-                                      "95/1/30",    "",           "2026"};
-    return kind + kDates[Below(7)] + "|12:00:00|" + kBlanks[Below(3)] + "a" + std::to_string(++m_Alarms) +
-           kBlanks[Below(3)] +
+    return kind + kBlanks[Below(3)] + Date() + "|" + kBlanks[Below(3)] + Time() + "|" + kBlanks[Below(3)] +
+           "a" + std::to_string(++m_Alarms) + kBlanks[Below(3)] +
            (Below(4) == 0 ? "" : "|" + Text() + "|" + Category() + "|d|" + Text() + "|f|g");
+}
+
+std::string cLineMaker::Digits(int count) {
+    std::string digits;
+    for (; count > 0; --count) digits += static_cast<char>('0' + Below(10));
+    return digits;
+}
+
+std::string cLineMaker::Date() {
+    constexpr const char* kDates[] = {"2026-03-15", "2026-03-15", "26-03-15",   "2026-13-00", "95/1/30",
+                                      "",           "2026",       "1899-12-30", "1-23"};
+    constexpr const char* kCenturies[] = {"", "10", "18", "19", "20"};
+    if (Below(2) == 0) return kDates[Below(9)];
+    return kCenturies[Below(5)] + Digits(2) + "-" + Digits(2) + "-" + Digits(2);
+}
+
+std::string cLineMaker::Time() {
+    constexpr const char* kTimes[] = {"12:00:00", "00:00:00", "",      "24:00",
+                                      "7:5:3",    "070503",   "xx:15", "23:59:59.9"};
+    if (Below(2) == 0) return kTimes[Below(8)];
+    return Digits(2) + ":" + Digits(2) + ":" + Digits(2);
 }
 
 // Full of what templates are made of.

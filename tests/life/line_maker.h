@@ -18,6 +18,9 @@ class cLineMaker {
     int Below(int limit) { return static_cast<int>(m_Draw() % static_cast<unsigned>(limit)); }
     std::string Sender();
     std::string Record();
+    std::string Date();
+    std::string Time();
+    std::string Digits(int count);
     std::string Text();
     std::string Category();
     std::string Garbage();

@@ -11,9 +11,11 @@ namespace {
 // From 1899-12-30 to 1970-01-01.
 constexpr std::time_t kDaysToEpoch = 25569;
 
+// The fraction counts forward in front of day 0 too.
 std::tm Civil(double moment) {
-    const std::time_t seconds =
-        static_cast<std::time_t>(std::floor(moment * 86400 + 1e-4)) - kDaysToEpoch * 86400;
+    const double day = std::trunc(moment);
+    const auto second = static_cast<std::time_t>(std::floor(std::abs(moment - day) * 86400 + 1e-4));
+    const std::time_t seconds = (static_cast<std::time_t>(day) - kDaysToEpoch) * 86400 + second;
     std::tm parts{};
     gmtime_r(&seconds, &parts);
     return parts;
@@ -30,25 +32,35 @@ std::string Formed(double moment, const char* form) {
     return {text, std::strftime(text, sizeof text, form, &parts)};
 }
 
+// 0 for none.
+double DayOf(const std::string& written) {
+    const std::size_t yearDigits = CutAt(written, '-')[0].size() == 4 ? 4 : 2;
+    std::tm parts{};
+    const int year = DigitsAt(written, 0, yearDigits);
+    parts.tm_year = year < 30 ? year + 100 : year < 100 ? year : year - 1900;
+    parts.tm_mon = DigitsAt(written, yearDigits + 1, 2) - 1;
+    parts.tm_mday = DigitsAt(written, yearDigits + 4, 2);
+    return written.empty() ? 0 : static_cast<double>(timegm(&parts) / 86400 + kDaysToEpoch);
+}
+
+int SecondsOf(const std::string& written) {
+    return (DigitsAt(written, 0, 2) * 60 + DigitsAt(written, 3, 2)) * 60 + DigitsAt(written, 6, 2);
+}
+
 }  // namespace
 
 std::string NaiveDate(double moment) {
     return Formed(moment, "%Y-%m-%d");
 }
 
-std::string NaiveDate(const std::string& written, double today) {
-    const std::size_t yearDigits = written.find('-') == 4 || written.size() == 4 ? 4 : 2;
-    std::tm parts{};
-    const int year = DigitsAt(written, 0, yearDigits);
-    parts.tm_year = year < 30 ? year + 100 : year < 100 ? year : year - 1900;
-    parts.tm_mon = DigitsAt(written, yearDigits + 1, 2) - 1;
-    parts.tm_mday = DigitsAt(written, yearDigits + 4, 2);
-    const std::time_t days = timegm(&parts) / 86400 + kDaysToEpoch;
-    return NaiveDate(written.empty() || days == 0 ? today : static_cast<double>(days));
-}
-
 std::string NaiveTime(double moment) {
     return Formed(moment, "%H:%M");
+}
+
+double NaiveMoment(const std::string& date, const std::string& time, double now) {
+    const double today = std::floor(now);
+    const double day = DayOf(date), seconds = SecondsOf(time);
+    return (day == 0 ? today : day) + (seconds == 0 ? now - today : seconds / 86400);
 }
 
 std::string InLowerCase(std::string text) {

@@ -10,7 +10,7 @@ namespace vigrel::testing {
 struct cNaiveAlarm {
     std::string sender;
     int status = 0;
-    std::string sourceDate;                 // "2026-03-15"
+    double sourced = 0;                     // a date-time, as its sender wrote it
     std::array<std::string, 6> texts = {};  // the third is the category
     double created = 0;                     // a date-time
     int number = 0;                         // of its file
@@ -19,9 +19,10 @@ struct cNaiveAlarm {
 
 // "2026-03-15" and "12:30" of a date-time.
 std::string NaiveDate(double moment);
-// The same of what a sender wrote: "2026-03-15", "26-03-15", or what makes no date and means today.
-std::string NaiveDate(const std::string& written, double today);
 std::string NaiveTime(double moment);
+// The moment that a sender wrote: "2026-03-15" or "26-03-15", or what makes no date and means today, and
+// "12:30:15", or what makes no time and means the present.
+double NaiveMoment(const std::string& date, const std::string& time, double now);
 
 // Letters in another case are the same letters.
 std::string InLowerCase(std::string text);

@@ -80,7 +80,8 @@ void cNaiveLink::TakeRecord(const std::string& sender, int status, const std::st
     cNaiveAlarm alarm;
     alarm.sender = sender;
     alarm.status = status;
-    alarm.sourceDate = NaiveDate(WithoutOuterBlanks(FieldOf(fields, 0)), m_Now);
+    alarm.sourced =
+        NaiveMoment(WithoutOuterBlanks(FieldOf(fields, 0)), WithoutOuterBlanks(FieldOf(fields, 1)), m_Now);
     alarm.created = m_Now;
     for (std::size_t i = 0; i < alarm.texts.size(); ++i)
         alarm.texts[i] = WithoutOuterBlanks(FieldOf(fields, i + 2));
@@ -91,7 +92,7 @@ void cNaiveLink::Raise(const cSender& sender, int status) {
     cNaiveAlarm alarm;
     alarm.sender = sender.name;
     alarm.status = status;
-    alarm.sourceDate = NaiveDate(m_Now);
+    alarm.sourced = m_Now;
     alarm.created = m_Now;
     alarm.texts[0] = "VigrelAlarmReceiver";
     alarm.texts[2] = m_SystemCategory;

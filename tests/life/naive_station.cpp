@@ -116,7 +116,8 @@ std::string cNaiveStation::Told() {
     std::string rows;
     for (const cNaiveStore::Alarm& alarm : m_Store.Rows()) {
         for (const std::string& text : alarm->texts) rows += text + "|";
-        rows += alarm->sourceDate + (alarm->acknowledged ? "|#27 " : "|#26 ");
+        rows += NaiveDate(alarm->sourced) + " " + NaiveTime(alarm->sourced) +
+                (alarm->acknowledged ? "|#27 " : "|#26 ");
     }
     return "rows: " + rows + "\npopups: " + m_Popups.Told() + "\nicon: " + std::to_string(m_Icon) +
            "\nsound: " + m_Sound.Take() + "printed: " + std::exchange(m_Printed, {});

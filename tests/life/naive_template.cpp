@@ -52,7 +52,8 @@ struct cValue {
 cValue Named(const cNaiveAlarm& alarm, const std::string& name, const std::string& extra,
              const std::string& object) {
     constexpr const char* kStates[] = {"T837", "T838", "T839"};
-    if (name == "alarmdate") return {true, alarm.sourceDate};
+    if (name == "alarmdate") return {true, NaiveDate(alarm.sourced)};
+    if (name == "alarmtime") return {true, NaiveTime(alarm.sourced)};
     if (name == "date") return {true, NaiveDate(alarm.created)};
     if (name == "time") return {true, NaiveTime(alarm.created)};
     if (name == "status") return {true, std::to_string(alarm.status)};

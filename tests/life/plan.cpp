@@ -49,6 +49,8 @@ constexpr const char* kPieces[] = {"{ACTIVE?",
                                    "[DATE]",
                                    "[TIME::9]",
                                    "[ALARMDATE:5-6]",
+                                   "[AlarmTime]",
+                                   "[ALARMTIME:0-1:4]",
                                    "[R:a:bb]",
                                    "[R:a:]",
                                    "[replace:b:A]",
@@ -136,7 +138,7 @@ cPlan MakePlan(unsigned seed) {
 
 std::string IniOf(const cPlan& plan) {
     std::string ini =
-        "[General]\r\nLanguage=046\r\nColumns=StateIcon,t0,t1,t2,t3,t4,t5,AlarmDate,Observed\r\n" +
+        "[General]\r\nLanguage=046\r\nColumns=StateIcon,t0,t1,t2,t3,t4,t5,AlarmDateTime,Observed\r\n" +
         Line("DateFormat", "yyyy-mm-dd") + Line("TimeFormat", "hh:nn") +
         Line("MaxEvents", std::to_string(plan.maxEvents)) + Line("MaxDays", std::to_string(plan.maxDays)) +
         Line("ViewPopupForm", Flag(plan.popups)) + Line("ViewOnlyOnePopupForm", Flag(plan.oneAtATime)) +

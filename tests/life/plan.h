@@ -29,7 +29,7 @@ struct cPlan {
 
 // The same for the same seed.
 cPlan MakePlan(unsigned seed);
-// The list shows the alarm's texts from column 1 on, the day that its sender wrote, and whether it is
+// The list shows the alarm's texts from column 1 on, the moment that its sender wrote, and whether it is
 // acknowledged.
 inline constexpr int kIconColumn = 8;
 // The configuration that says so.
