@@ -40,7 +40,8 @@ double DayOf(const std::string& written) {
     parts.tm_year = year < 30 ? year + 100 : year < 100 ? year : year - 1900;
     parts.tm_mon = DigitsAt(written, yearDigits + 1, 2) - 1;
     parts.tm_mday = DigitsAt(written, yearDigits + 4, 2);
-    return written.empty() ? 0 : static_cast<double>(timegm(&parts) / 86400 + kDaysToEpoch);
+    const std::time_t days = timegm(&parts) / 86400 + kDaysToEpoch;
+    return written.empty() ? 0 : static_cast<double>(days);
 }
 
 int SecondsOf(const std::string& written) {
