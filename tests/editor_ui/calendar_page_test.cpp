@@ -57,6 +57,62 @@ TEST_F(CalendarPage, ADragPaintsTheChosenTypeInOneStepOfUndo) {
     EXPECT_EQ(Value(2026, 6, 3), 0);
 }
 
+TEST_F(CalendarPage, ClosingInTheMiddleOfAStrokeAsksAboutIt) {
+    m_Page.Editor().ShowMonth(2026, 6);
+    Press(View(), Cell(0, 0));
+    Move(View(), Cell(1, 0));
+    EXPECT_FALSE(m_Window->close());
+    EXPECT_EQ(m_Prompts.m_Asked, "save Calendar 1\n");
+    EXPECT_EQ(m_Page.UndoStack()->undoText(), "painting days");
+}
+
+TEST_F(CalendarPage, SavingInTheMiddleOfAStrokeEndsIt) {
+    m_Page.Editor().ShowMonth(2026, 6);
+    m_Prompts.m_Texts = {"/app/a.cal"};
+    Press(View(), Cell(0, 0));
+    Move(View(), Cell(1, 0));
+    Choose(*m_Window, "Menu_Save");
+    Move(View(), Cell(2, 0));
+    Release(View(), Cell(2, 0));
+    EXPECT_EQ(Value(2026, 6, 2), 8);
+    EXPECT_EQ(Value(2026, 6, 3), 0);
+    EXPECT_FALSE(m_Page.IsDirty());
+    Choose(*m_Window, "Menu_Undo");
+    EXPECT_EQ(Value(2026, 6, 2), 0);
+    EXPECT_TRUE(m_Page.IsDirty());
+}
+
+TEST_F(CalendarPage, AStepInTheMiddleOfAStrokeIsASecondOne) {
+    m_Page.Editor().ShowMonth(2026, 6);
+    Press(View(), Cell(0, 0));
+    Choose(m_Page, "Menu_Calendar_ClearYear");
+    EXPECT_EQ(Value(2026, 6, 1), 0);
+    Choose(*m_Window, "Menu_Undo");
+    EXPECT_EQ(Value(2026, 6, 1), 8);
+    Choose(*m_Window, "Menu_Undo");
+    EXPECT_EQ(Value(2026, 6, 1), 0);
+}
+
+TEST_F(CalendarPage, TurningToTheYearInTheMiddleOfAStrokeKeepsItAsAStep) {
+    m_Page.Editor().ShowMonth(2026, 6);
+    Press(View(), Cell(0, 0));
+    Find<QToolButton>(m_Page, "Button_Calendar_ShowYear").click();
+    EXPECT_EQ(Value(2026, 6, 1), 8);
+    EXPECT_TRUE(m_Page.IsDirty());
+    Choose(*m_Window, "Menu_Undo");
+    EXPECT_EQ(Value(2026, 6, 1), 0);
+}
+
+TEST_F(CalendarPage, AnotherPageInTheMiddleOfAStrokeEndsIt) {
+    m_Page.Editor().ShowMonth(2026, 6);
+    Press(View(), Cell(0, 0));
+    NewSchedule();
+    EXPECT_TRUE(m_Page.IsDirty());
+    Find<QTabWidget>(*m_Window, "Tabs_Pages").setCurrentWidget(&m_Page);
+    Move(View(), Cell(1, 0));
+    EXPECT_EQ(Value(2026, 6, 2), 0);
+}
+
 TEST_F(CalendarPage, WithoutAChosenTypeADragPaintsNothing) {
     m_Page.Editor().ShowMonth(2026, 6);
     DayTypes().setCurrentRow(-1);

@@ -368,13 +368,13 @@ TEST_F(ColourRulesPage, ACellThatIsStillOpenIsSavedWithTheRest) {
     QTest::keyClick(&Rules(), Qt::Key_F2);
     QTest::keyClicks(Page().focusWidget(), "20");
     ASSERT_FALSE(Page().IsDirty());
-    Page().FinishTyping();
+    Page().FinishInput();
     EXPECT_TRUE(Page().IsDirty());
     EXPECT_TRUE(Page().Save());
     EXPECT_EQ(OnDisk("ColourRules.txt"), "# rules\r\nP* | 5;7-9 | * | 255,255,255 | 10,20,30 | 20\r\n");
     // The keyboard goes on in the table, where nothing is left open.
     EXPECT_EQ(Page().focusWidget(), &Rules());
-    Page().FinishTyping();
+    Page().FinishInput();
     EXPECT_EQ(Page().UndoStack()->count(), 1);
 }
 

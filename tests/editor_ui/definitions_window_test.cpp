@@ -151,6 +151,20 @@ TEST_F(DefinitionsWindow, ClosingATabAsksToo) {
     EXPECT_TRUE(m_Files.FileExists("/app/Kept.sch"));
 }
 
+TEST_F(DefinitionsWindow, ADragInAProfileIsAskedAboutAtTheEnd) {
+    m_Files.Put("/app/Profiles/Profile_0012.dat", Sample("profile_version_5.dat"));
+    m_Window->ShowProfiles();
+    cEditorPage& page = *m_Window->CurrentPage();
+    Find<QTabWidget>(page, "Tabs_Profile").setCurrentIndex(3);
+    auto& view = Find<QWidget>(page, "Picture_TimeSchedule");
+    Press(view, At(6, 600));
+    Move(view, At(6, 700));
+    EXPECT_FALSE(page.IsDirty());
+    EXPECT_FALSE(m_Window->close());
+    EXPECT_EQ(m_Prompts.m_Asked, "save Profiles\n");
+    EXPECT_EQ(page.UndoStack()->count(), 1);
+}
+
 TEST_F(DefinitionsWindow, RecentFilesAreTheNewestTen) {
     for (int i = 0; i < 12; ++i) {
         const std::string path = "/app/" + std::to_string(i) + ".sch";

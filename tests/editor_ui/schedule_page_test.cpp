@@ -5,6 +5,7 @@
 #include <QWheelEvent>
 
 #include "editor_ui/editor_bench.h"
+#include "schedule/definition_files.h"
 #include "support/qt_wait.h"
 
 namespace vigrel::testing {
@@ -94,7 +95,7 @@ TEST_F(SchedulePage, ADragOnAGroupedDayChangesTheGroup) {
     for (std::int16_t day = 0; day < 5; ++day) EXPECT_EQ(Day(day), "420-960");
 }
 
-TEST_F(SchedulePage, UndoInTheMiddleOfADragEndsTheDrag) {
+TEST_F(SchedulePage, UndoInTheMiddleOfADragTakesTheDragBack) {
     Drag(View(), {At(5, 600), At(5, 700)});
     Press(View(), At(5, 700));
     Move(View(), At(5, 900));
@@ -102,8 +103,55 @@ TEST_F(SchedulePage, UndoInTheMiddleOfADragEndsTheDrag) {
     EXPECT_FALSE(m_Page.Schedule().IsDragging());
     Move(View(), At(5, 1000));
     Release(View(), At(5, 1000));
+    EXPECT_EQ(Day(5), "600-700");
+    EXPECT_EQ(m_Page.UndoStack()->redoText(), "dragging a period");
+}
+
+TEST_F(SchedulePage, ClosingInTheMiddleOfADragAsksAboutIt) {
+    Press(View(), At(5, 600));
+    Move(View(), At(5, 700));
+    EXPECT_FALSE(m_Window->close());
+    EXPECT_EQ(m_Prompts.m_Asked, "save Schedule 1\n");
+    EXPECT_EQ(Day(5), "600-700");
+    EXPECT_EQ(m_Page.UndoStack()->undoText(), "dragging a period");
+}
+
+TEST_F(SchedulePage, SavingInTheMiddleOfADragEndsIt) {
+    m_Prompts.m_Texts = {"/app/a.sch"};
+    Press(View(), At(0, 960));
+    Move(View(), At(0, 1020));
+    Choose(*m_Window, "Menu_Save");
+    // The whole group has what was dragged in one of its days, as when the button is released.
+    cTimeSchedule saved;
+    LoadScheduleFile(m_Files, "/app/a.sch", saved);
+    for (std::int16_t day = 0; day < 5; ++day) EXPECT_EQ(Periods(saved, day), "420-1020");
+    Move(View(), At(0, 1100));
+    Release(View(), At(0, 1100));
+    EXPECT_EQ(Day(0), "420-1020");
+    EXPECT_FALSE(m_Page.IsDirty());
+    EXPECT_EQ(m_Page.UndoStack()->count(), 1);
+}
+
+TEST_F(SchedulePage, AStepInTheMiddleOfADragIsASecondOne) {
+    Press(View(), At(5, 600));
+    Move(View(), At(5, 700));
+    Find<QCheckBox>(m_Page, "Check_TimeSchedule_UseCalendar").click();
+    EXPECT_EQ(m_Page.UndoStack()->count(), 2);
+    Choose(*m_Window, "Menu_Undo");
+    EXPECT_EQ(Day(5), "600-700");
+    Choose(*m_Window, "Menu_Undo");
     EXPECT_EQ(Day(5), "");
     EXPECT_FALSE(m_Page.IsDirty());
+}
+
+TEST_F(SchedulePage, AnotherPageInTheMiddleOfADragEndsIt) {
+    Press(View(), At(5, 600));
+    Move(View(), At(5, 700));
+    NewCalendar();
+    EXPECT_TRUE(m_Page.IsDirty());
+    Find<QTabWidget>(*m_Window, "Tabs_Pages").setCurrentWidget(&m_Page);
+    Move(View(), At(5, 900));
+    EXPECT_EQ(Day(5), "600-700");
 }
 
 TEST_F(SchedulePage, EntriesWorkOnTheSelectedDay) {

@@ -104,6 +104,15 @@ TEST_F(YearOverview, IsPaintedOnInOneStepAcrossMonths) {
     EXPECT_EQ(Value(2026, 7, 2), 0);
 }
 
+TEST_F(YearOverview, AStrokeThatIsUnderWayIsAskedAboutAtTheEnd) {
+    Press(View(), Cell(6, 30));
+    EXPECT_FALSE(m_Window->close());
+    EXPECT_EQ(m_Prompts.m_Asked, "save Calendar 1\n");
+    EXPECT_EQ(m_Page.UndoStack()->undoText(), "painting days");
+    Move(View(), Cell(7, 1));
+    EXPECT_EQ(Value(2026, 7, 1), 0);
+}
+
 TEST_F(YearOverview, ColoursADayByItsType) {
     EXPECT_EQ(Corner(6, 30), QColor(Qt::white));
     Drag(View(), {Cell(6, 30)});

@@ -274,7 +274,7 @@ void cCalendarEditor::MoveMonth(int months) {
 // --- content
 
 void cCalendarEditor::ReadFile(const std::string& path) {
-    EndStroke();
+    DropStroke();
     LoadCalendarFile(m_Services.m_Files, path, m_Calendar);
     Redraw();
 }
@@ -297,13 +297,13 @@ std::string cCalendarEditor::State() const {
 }
 
 // A stroke that is under way has lost what it painted on.
-void cCalendarEditor::EndStroke() {
+void cCalendarEditor::DropStroke() {
     m_Painting = false;
     m_Calendar.MouseUp(*this, &m_View.Surface(), 1, 0, 0, 0);
 }
 
 void cCalendarEditor::Restore(const std::string& state) {
-    EndStroke();
+    DropStroke();
     cBinaryReader reader(state);
     std::vector<std::int32_t> changed;
     for (std::int32_t i = 0; i < kCalendarDays; ++i) {

@@ -61,6 +61,7 @@ class cCalendarEditor : public cContentEditor, private cCalendarContainer {
     QList<QAction*> EditActions() const override;
     void SetZoom(double zoom) override { m_Room->SetZoom(zoom); }
     void RefreshDayTypes() override;
+    void FinishStroke() override { MouseUp(1, 0, {}); }
 
   private:
     // --- cCalendarContainer
@@ -98,7 +99,7 @@ class cCalendarEditor : public cContentEditor, private cCalendarContainer {
     void PaintChosenDay();
     // The pointer counts as over no day until it moves, so that no tip of before stays.
     void ForgetPointer();
-    void EndStroke();
+    void DropStroke();
     QPoint CellOf(int day) const;
     std::optional<int> DayAt(QPoint unit) const;
 
@@ -122,7 +123,6 @@ class cCalendarEditor : public cContentEditor, private cCalendarContainer {
     cYearDrawing::cSource YearSource() const;
     void PaintYear(QPainter& painter);
     void PaintInYear(QPoint place);
-    void YearMouseUp(std::int16_t button);
     void YearMouseMove(QPoint place);
     void SetPaintedDay(std::int32_t day);
     QString TipOf(std::int32_t day) const;

@@ -21,13 +21,13 @@ void cCalendarEditor::ConnectYear() {
         if (button == 1 && !m_Painting) PaintInYear(place);
     };
     m_YearView.OnMouseMove = [this](std::int16_t, std::int16_t, QPoint place) { YearMouseMove(place); };
-    m_YearView.OnMouseUp = [this](std::int16_t button, std::int16_t, QPoint) { YearMouseUp(button); };
+    m_YearView.OnMouseUp = [this](auto... event) { MouseUp(event...); };
     m_YearView.OnPopupMenu = [this](QPoint place) { ShowPopupMenu(place); };
     m_YearView.OnKey = [this](const QKeyEvent& event) { return Key(event); };
 }
 
 void cCalendarEditor::ShowYear(bool year) {
-    EndStroke();
+    FinishStroke();
     m_Stack.setCurrentIndex(year ? 1 : 0);
     setFocusProxy(year ? &m_YearView : &m_View);
     m_MonthNames.setEnabled(!year);
@@ -66,12 +66,6 @@ void cCalendarEditor::YearMouseMove(QPoint place) {
     const auto day = YearDrawing().DayAt(place);
     m_YearView.setToolTip(day ? TipOf(*day) : QString());
     if (day && m_Painting) SetPaintedDay(*day);
-}
-
-void cCalendarEditor::YearMouseUp(std::int16_t button) {
-    if (button != 1 || !m_Painting) return;
-    m_Painting = false;
-    EndEdit(tr("painting days"));
 }
 
 void cCalendarEditor::SetPaintedDay(std::int32_t day) {

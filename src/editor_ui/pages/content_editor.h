@@ -48,6 +48,8 @@ class cContentEditor : public QWidget {
     virtual void SetZoom(double) {}
     // Names or images of day types have changed.
     virtual void RefreshDayTypes() {}
+    // A stroke of the mouse that is under way ends as if its button were released.
+    virtual void FinishStroke() {}
 
   signals:
     // Not for what Restore does.
@@ -65,6 +67,8 @@ class cContentEditor : public QWidget {
     // The same for an edit in several events.
     void BeginEdit();
     void EndEdit(const QString& name);
+    // The button's release goes elsewhere then.
+    void hideEvent(QHideEvent* event) override;
 
   private:
     std::string m_StateBefore;

@@ -8,6 +8,8 @@
 #include <QLineEdit>
 #include <QTabWidget>
 
+#include "editor_ui/pages/content_editor.h"
+
 namespace vigrel {
 namespace {
 
@@ -31,7 +33,8 @@ void CloseCell(QAbstractItemView& view, QWidget& field) {
 
 }  // namespace
 
-void cEditorPage::FinishTyping() {
+void cEditorPage::FinishInput() {
+    for (cContentEditor* editor : findChildren<cContentEditor*>()) editor->FinishStroke();
     auto* field = qobject_cast<QLineEdit*>(focusWidget());
     if (field == nullptr) return;
     if (QAbstractItemView* view = ViewOfCell(*field)) return CloseCell(*view, *field);

@@ -25,9 +25,9 @@ class cEditorPage : public QWidget {
     // none.
     virtual QString Path() const;
     virtual bool IsDirty() const = 0;
-    // Takes over what stands in a field, or in an open cell of a table, that still has the keyboard: neither
-    // a key of the menu nor the menu itself leaves it.
-    void FinishTyping();
+    // Takes over what stands in a field, or in an open cell of a table, that still has the keyboard, and a
+    // stroke of the mouse as far as it has come: neither a key of the menu nor the menu itself ends them.
+    void FinishInput();
     // Turns the tabs around something on the page to it.
     void BringIntoSight(QWidget& inner);
     // False when nothing was saved; the operator has been told why, or has cancelled.

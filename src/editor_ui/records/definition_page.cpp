@@ -196,7 +196,7 @@ void cDefinitionPage::TellFailure(const QString& text) {
 // A button or an entry doesn't take the keyboard from a field: what is being typed there belongs to the one
 // that is chosen so far.
 void cDefinitionPage::New() {
-    FinishTyping();
+    FinishInput();
     const int position = m_Model.Add(m_Words.newName);
     m_UndoStack.push(new cListCommand(*this, tr("adding \"%1\"").arg(NameAt(position)), position, nullptr));
     Choose(position);
@@ -205,7 +205,7 @@ void cDefinitionPage::New() {
 }
 
 void cDefinitionPage::Copy() {
-    FinishTyping();
+    FinishInput();
     const int original = Chosen();
     if (original < 0) return;
     const int position = m_Model.AddCopy(original);
@@ -226,7 +226,7 @@ QString cDefinitionPage::DeleteQuestion(int position) const {
 }
 
 void cDefinitionPage::Delete() {
-    FinishTyping();
+    FinishInput();
     const cWork work(*this);
     const int position = Chosen();
     if (position < 0 || !m_Services.m_Prompts.AskYesNo(this, DeleteQuestion(position))) return;
@@ -278,7 +278,7 @@ bool cDefinitionPage::SavePosition(int position) {
 }
 
 void cDefinitionPage::SaveChosen() {
-    FinishTyping();
+    FinishInput();
     const cWork work(*this);
     const int position = Chosen();
     if (position < 0 || !SavePosition(position)) return;
@@ -328,7 +328,7 @@ void cDefinitionPage::GiveUp() {
 }
 
 void cDefinitionPage::Revert() {
-    FinishTyping();
+    FinishInput();
     const cWork work(*this);
     if (Chosen() >= 0) RevertPosition(Chosen());
 }

@@ -76,7 +76,7 @@ void cDefinitionPage::SeenAgain() {
 void cDefinitionPage::TakeUpFolder() {
     m_Model.LookAtFiles();
     if (!m_Source->HasNews()) return;
-    FinishTyping();
+    FinishInput();
     const int chosen = Chosen();
     const int place = m_List->PlaceOf(chosen);
     std::vector<cTakenUp> taken = m_Model.Rescan();

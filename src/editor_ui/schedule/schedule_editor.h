@@ -51,6 +51,7 @@ class cScheduleEditor : public cContentEditor, private cTimeScheduleContainer {
     QList<QAction*> EditActions() const override;
     void SetZoom(double zoom) override { m_Room->SetZoom(zoom); }
     void RefreshDayTypes() override;
+    void FinishStroke() override { MouseUp(1, 0, {}); }
 
   private:
     // --- cTimeScheduleContainer

@@ -208,7 +208,7 @@ void cDefinitionsWindow::OpenRecent(const QString& path) {
 }
 
 bool cDefinitionsWindow::MayClose(cEditorPage& page) {
-    page.FinishTyping();
+    page.FinishInput();
     if (!page.IsDirty()) return true;
     m_Tabs.setCurrentWidget(&page);
     switch (m_Services.m_Prompts.AskToSave(this, page.Title())) {
@@ -302,7 +302,7 @@ void cDefinitionsWindow::SchedulesChanged() {
 // Of what is still being typed, too: a sheet without it would not be what was on the screen.
 std::optional<cPrintout> cDefinitionsWindow::FinishedPrintout() {
     cEditorPage& page = *CurrentPage();
-    page.FinishTyping();
+    page.FinishInput();
     std::optional<cPrintout> printout = page.Printout();
     if (!printout) return printout;
     cContentEditor& editor = *page.PrintedEditor();

@@ -39,11 +39,11 @@ void cDefinitionsWindow::MakeFileMenu() {
     connect(m_RecentMenu, &QMenu::aboutToShow, this, &cDefinitionsWindow::FillRecentMenu);
     menu.addSeparator();
     m_Save = AddEntry(menu, "Save", tr("&Save"), QKeySequence::Save, [this] {
-        CurrentPage()->FinishTyping();
+        CurrentPage()->FinishInput();
         CurrentPage()->Save();
     });
     m_SaveAs = AddEntry(menu, "SaveAs", tr("Save &as..."), QKeySequence("Ctrl+Shift+S"), [this] {
-        CurrentPage()->FinishTyping();
+        CurrentPage()->FinishInput();
         CurrentPage()->SaveAs();
     });
     m_Print = AddEntry(menu, "Print", tr("&Print..."), {}, [this] { Print(); });
@@ -66,11 +66,11 @@ void cDefinitionsWindow::MakeEditMenu() {
     m_EditMenu = menuBar()->addMenu(tr("&Edit"));
     // What is still being typed becomes a step first: a step that is undone must find nothing half done.
     m_Undo = AddEntry(*m_EditMenu, "Undo", tr("&Undo"), QKeySequence::Undo, [this] {
-        CurrentPage()->FinishTyping();
+        CurrentPage()->FinishInput();
         m_UndoGroup.undo();
     });
     m_Redo = AddEntry(*m_EditMenu, "Redo", tr("&Redo"), {}, [this] {
-        CurrentPage()->FinishTyping();
+        CurrentPage()->FinishInput();
         m_UndoGroup.redo();
     });
     m_Redo->setShortcuts({QKeySequence("Ctrl+Y"), QKeySequence("Ctrl+Shift+Z")});

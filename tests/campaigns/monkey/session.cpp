@@ -231,7 +231,7 @@ void cSession::Expect(const std::string& content, const std::string& when) {
 void cSession::Run(int actions) {
     const std::string first = Content();
     for (int i = 0; i < actions; ++i) Act();
-    m_Page->FinishTyping();
+    m_Page->FinishInput();
     Settle();
     m_Figures.steps += m_Page->UndoStack()->count();
     if (Content() != first) ++m_Figures.changed;
