@@ -130,6 +130,10 @@
 <context>
     <name>Reasons</name>
     <message>
+        <source>The choice could not be stored in %1.</source>
+        <translation>Die Wahl konnte nicht in %1 gespeichert werden.</translation>
+    </message>
+    <message>
         <source>the text has characters that can&apos;t be stored</source>
         <translation>der Text hat Zeichen, die nicht gespeichert werden können</translation>
     </message>
@@ -2043,10 +2047,6 @@ Programmordner: %3</translation>
     <message>
         <source>Name of the day type</source>
         <translation>Name des Tagestyps</translation>
-    </message>
-    <message>
-        <source>The choice could not be stored in %1.</source>
-        <translation>Die Wahl konnte nicht in %1 gespeichert werden.</translation>
     </message>
     <message>
         <source>dragging a period</source>

@@ -130,6 +130,10 @@
 <context>
     <name>Reasons</name>
     <message>
+        <source>The choice could not be stored in %1.</source>
+        <translation>Valintaa ei voitu tallentaa tiedostoon %1.</translation>
+    </message>
+    <message>
         <source>the text has characters that can&apos;t be stored</source>
         <translation>tekstissä on merkkejä, joita ei voida tallentaa</translation>
     </message>
@@ -2043,10 +2047,6 @@ Ohjelman kansio: %3</translation>
     <message>
         <source>Name of the day type</source>
         <translation>Päivätyypin nimi</translation>
-    </message>
-    <message>
-        <source>The choice could not be stored in %1.</source>
-        <translation>Valintaa ei voitu tallentaa tiedostoon %1.</translation>
     </message>
     <message>
         <source>dragging a period</source>

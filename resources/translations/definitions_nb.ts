@@ -130,6 +130,10 @@
 <context>
     <name>Reasons</name>
     <message>
+        <source>The choice could not be stored in %1.</source>
+        <translation>Valget kunne ikke lagres i %1.</translation>
+    </message>
+    <message>
         <source>the text has characters that can&apos;t be stored</source>
         <translation>teksten har tegn som ikke kan lagres</translation>
     </message>
@@ -2043,10 +2047,6 @@ Programmets mappe: %3</translation>
     <message>
         <source>Name of the day type</source>
         <translation>Dagtypens navn</translation>
-    </message>
-    <message>
-        <source>The choice could not be stored in %1.</source>
-        <translation>Valget kunne ikke lagres i %1.</translation>
     </message>
     <message>
         <source>dragging a period</source>

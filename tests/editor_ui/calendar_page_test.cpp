@@ -222,6 +222,23 @@ TEST_F(CalendarPage, TheChosenCountryIsThatOfTheNextCalendar) {
     EXPECT_EQ(Find<QComboBox>(NewCalendar(), "Combo_Calendar_Holidays").currentText(), "None");
 }
 
+TEST_F(CalendarPage, ACountryThatCannotBeStoredIsTold) {
+    auto& countries = Combo("Combo_Calendar_Holidays");
+    const auto take = [&](const char* country) {
+        countries.setCurrentIndex(countries.findText(country));
+        emit countries.activated(countries.currentIndex());
+        return std::exchange(m_Prompts.m_Asked, {});
+    };
+    EXPECT_EQ(take("Denmark"), "");
+    EXPECT_EQ(take("None"), "");
+    m_Files.m_DiskFull = true;
+    EXPECT_EQ(take("Germany"), "failure: The choice could not be stored in /app/VigrelDefinitions.INI.\n");
+    // It holds here all the same.
+    m_Page.Editor().ShowMonth(2026, 1);
+    Move(View(), Cell(3, 0));
+    EXPECT_EQ(View().toolTip(), " (Neujahr)");
+}
+
 TEST_F(CalendarPage, MonthsAreTurnedUpToTheEndsOfTheCalendar) {
     auto& previous = Find<QToolButton>(m_Page, "Button_Calendar_Previous");
     auto& next = Find<QToolButton>(m_Page, "Button_Calendar_Next");

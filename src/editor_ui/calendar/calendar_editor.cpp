@@ -185,16 +185,22 @@ void cCalendarEditor::ConnectChoices() {
     connect(&m_Today, &QToolButton::clicked, this, &cCalendarEditor::ShowToday);
     connect(&m_Year, &QSpinBox::valueChanged, this, &cCalendarEditor::ShowChosenMonth);
     connect(&m_MonthNames, &QComboBox::currentIndexChanged, this, &cCalendarEditor::ShowChosenMonth);
-    connect(&m_Country, &QComboBox::activated, this, [this] {
-        m_Services.m_Ini.PutIniString(kIniSection, kIniHolidays,
-                                      FromQString(m_Country.currentData().toString()), kDefinitionsIni);
-        RefreshHolidays();
-    });
+    connect(&m_Country, &QComboBox::activated, this, &cCalendarEditor::TakeCountry);
     connect(&m_Schedule, &QComboBox::currentIndexChanged, this, &cCalendarEditor::TakeSchedule);
     connect(&m_ShowTimeAxis, &QCheckBox::toggled, this, [this](bool show) {
         m_Calendar.m_ShowTimeAxis = show ? True16 : False16;
         Redraw();
     });
+}
+
+// What belongs to the station is stored at once. Here the choice holds in any case.
+void cCalendarEditor::TakeCountry() {
+    cIni& ini = m_Services.m_Ini;
+    const std::string code = FromQString(m_Country.currentData().toString());
+    ini.PutIniString(kIniSection, kIniHolidays, code, kDefinitionsIni);
+    RefreshHolidays();
+    if (ini.GetIniString(kIniSection, kIniHolidays, "?", kDefinitionsIni) != code)
+        TellNotStored(this, m_Services);
 }
 
 void cCalendarEditor::RefreshHolidays() {

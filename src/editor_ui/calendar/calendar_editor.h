@@ -89,6 +89,7 @@ class cCalendarEditor : public cContentEditor, private cCalendarContainer {
     // What is painted: 0 clears a day.
     std::int16_t ChosenValue() const { return static_cast<std::int16_t>(m_DayTypes.currentRow()); }
     void FillCountries();
+    void TakeCountry();
     void ConnectView();
     void ConnectChoices();
 

@@ -34,4 +34,7 @@ struct cEditorServices {
 // What the picture of a special day type, 7 to 22, means.
 cPrintout::cSign SignOf(std::int16_t dayType, const cEditorServices& services);
 
+// Over the owner's window, that a choice for the station could not be stored.
+void TellNotStored(QWidget* owner, const cEditorServices& services);
+
 }  // namespace vigrel

@@ -117,7 +117,6 @@ class cScheduleEditor : public cContentEditor, private cTimeScheduleContainer {
     // The day type of the list's current entry, else the selected row's, as the number of a special type.
     // None for another one; the operator has been told.
     std::optional<int> ChosenSpecialType();
-    void ShowNotStored();
 
     // --- times that are typed
     void TakeTimes();

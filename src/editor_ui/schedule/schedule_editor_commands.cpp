@@ -130,7 +130,7 @@ void cScheduleEditor::SetName(std::int16_t dayType, const std::string& name) {
 
 // What belongs to the station is stored at once.
 void cScheduleEditor::SetForAll(const std::function<bool()>& store) {
-    if (!store()) ShowNotStored();
+    if (!store()) TellNotStored(this, m_Services);
     emit DayTypesChanged();
 }
 
@@ -157,12 +157,6 @@ void cScheduleEditor::ChooseImage(int drawing) {
 
 void cScheduleEditor::SetImage(int number, int drawing) {
     SetForAll([&] { return m_Services.m_DayTypeImages.Choose(number, drawing); });
-}
-
-void cScheduleEditor::ShowNotStored() {
-    m_Services.m_Prompts.ShowFailure(this,
-                                     tr("The choice could not be stored in %1.")
-                                         .arg(PathToQString(m_Services.m_Ini.FullPath(kDefinitionsIni))));
 }
 
 }  // namespace vigrel
