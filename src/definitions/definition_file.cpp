@@ -1,7 +1,9 @@
 #include "definitions/definition_file.h"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
+#include <optional>
 #include <utility>
 
 #include "common/failure.h"
@@ -79,17 +81,46 @@ void LogFailure(const cDefinitionServices& services, eText text, const std::stri
         {Pattern("Reasons", "%1 Err:%2"), {services.texts.GetText(text) + what, failure.Description()}});
 }
 
+std::string MaskOf(const cPathParts& parts) {
+    return parts.name + "????.dat";
+}
+
+// Of a name that fits the mask; none for another name than that of a definition.
+std::optional<std::int16_t> NumberIn(const std::string& name, const cPathParts& parts) {
+    const std::string digits = name.substr(parts.name.size(), 4);
+    if (digits.find_first_not_of("0123456789") != std::string::npos) return std::nullopt;
+    return ToInt16(Val(digits));
+}
+
 // The numbers and names of the files of a kind, as the folder gives them.
 std::vector<std::pair<std::int16_t, std::string>> NumberedNames(const cDefinitionServices& services,
                                                                 const cDefinitionKind& kind) {
     const cPathParts parts = SplitPath(services.ini.FullPath(kind.folderAndStem));
     std::vector<std::pair<std::int16_t, std::string>> names;
-    for (const std::string& name : services.files.ListFiles(parts.folder, parts.name + "????.dat")) {
-        const std::string digits = name.substr(parts.name.size(), 4);
-        if (digits.find_first_not_of("0123456789") != std::string::npos) continue;
-        names.emplace_back(ToInt16(Val(digits)), name);
+    for (const std::string& name : services.files.ListFiles(parts.folder, MaskOf(parts))) {
+        if (const auto number = NumberIn(name, parts)) names.emplace_back(*number, name);
     }
     return names;
+}
+
+// Folders, pipes, devices and links that lead nowhere, which have the name of a definition.
+std::vector<cUnreadableFile> NoFiles(const cDefinitionServices& services, const cDefinitionKind& kind) {
+    const cPathParts parts = SplitPath(services.ini.FullPath(kind.folderAndStem));
+    std::vector<std::string> names = services.files.ListNames(parts.folder, MaskOf(parts));
+    std::vector<std::string> files = services.files.ListFiles(parts.folder, MaskOf(parts));
+    std::sort(names.begin(), names.end());
+    std::sort(files.begin(), files.end());
+    std::vector<std::string> others;
+    std::set_difference(names.begin(), names.end(), files.begin(), files.end(), std::back_inserter(others));
+    std::vector<cUnreadableFile> unreadable;
+    for (const std::string& name : others) {
+        if (!NumberIn(name, parts)) continue;
+        // The look at it refuses what is no file before anything of it is opened, and says why.
+        const std::string path = parts.folder + name;
+        if (const auto failure = CatchFailure([&] { services.files.ReadFile(path); }))
+            unreadable.push_back({path, failure->Description()});
+    }
+    return unreadable;
 }
 
 // All but the one of each number that can be opened.
@@ -147,8 +178,13 @@ void RemoveDefinitionTemporaries(const cDefinitionServices& services, const cDef
 std::vector<cUnreadableFile> DefinitionsOutOfReach(const cDefinitionServices& services,
                                                    const cDefinitionKind& kind) {
     std::string folder = SplitPath(services.ini.FullPath(kind.folderAndStem)).folder;
-    const auto failure = CatchFailure([&] { services.files.ListNames(folder, ""); });
-    if (!failure) return DefinitionsWithTheSameNumber(services, kind);
+    std::vector<cUnreadableFile> unreadable;
+    const auto failure = CatchFailure([&] { unreadable = NoFiles(services, kind); });
+    if (!failure) {
+        for (cUnreadableFile& each : DefinitionsWithTheSameNumber(services, kind))
+            unreadable.push_back(std::move(each));
+        return unreadable;
+    }
     folder.pop_back();
     return {{std::move(folder), failure->Description()}};
 }

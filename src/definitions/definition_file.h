@@ -69,8 +69,8 @@ struct cUnreadableFile {
     cPhrase reason;
     bool operator==(const cUnreadableFile&) const = default;
 };
-// What is not even looked at: the folder, when it can't be listed, and names that differ in case only from
-// another one with the same number, since only one of them can be opened.
+// What is not even looked at: a folder that can't be listed, what has the name of a file and is none, and
+// names that differ in case only from another one with the same number: only one of them can be opened.
 std::vector<cUnreadableFile> DefinitionsOutOfReach(const cDefinitionServices& services,
                                                    const cDefinitionKind& kind);
 // Why a file can't be loaded.

@@ -74,6 +74,41 @@ TEST_F(DefinitionFolder, ThatCannotBeListedIsToldAndIsNews) {
     EXPECT_EQ(m_Receivers.Unreadable().size(), 1u);
 }
 
+// With folders among the files.
+class cFilesAndFolders : public testing::cFakeFiles {
+  public:
+    std::set<std::string> m_Folders;  // their names
+    std::vector<std::string> ListNames(std::string_view folder, std::string_view mask) const override {
+        std::vector<std::string> names = cFakeFiles::ListNames(folder, mask);
+        names.insert(names.begin(), m_Folders.begin(), m_Folders.end());
+        return names;
+    }
+    std::string ReadFile(std::string_view path) const override {
+        for (const std::string& folder : m_Folders) {
+            if (path.ends_with(folder)) throw cFailure(eFailure::PathAccess, "no ordinary file");
+        }
+        return cFakeFiles::ReadFile(path);
+    }
+};
+
+TEST_F(DefinitionFolder, WhatIsNoFileIsToldAndIsNews) {
+    const auto none = [](std::size_t) { return false; };
+    cFilesAndFolders files;
+    files.Put(ReceiverPath("0007"), testing::Sample("receiver_version_5.dat"));
+    const cDefinitionServices services{files, m_Clock, m_Random, m_Texts, m_Log, m_Ini, m_Types};
+    cReceiverFolder folder(services);
+    folder.Load();
+    EXPECT_TRUE(folder.Unreadable().empty());
+    files.m_Folders = {"Receiver_0012.dat", "Receiver_0003.dat", "Receiver_00AB.dat"};
+    EXPECT_TRUE(folder.HasNews(none));
+    EXPECT_FALSE(folder.Rescan(none));
+    const std::vector<cUnreadableFile> unreadable{{ReceiverPath("0003"), "no ordinary file"},
+                                                  {ReceiverPath("0012"), "no ordinary file"}};
+    EXPECT_EQ(folder.Unreadable(), unreadable);
+    EXPECT_EQ(folder.Count(), 1u);
+    EXPECT_FALSE(folder.HasNews(none));
+}
+
 TEST_F(DefinitionFolder, TheIdentitiesRiseWhateverOrderTheFolderGives) {
     m_Files.m_ListsBackwards = true;
     m_Receivers.Load();
