@@ -300,6 +300,11 @@ TEST_P(SharedFile, ThatCantBeReadAnyMoreIsToldOnceAndStays) {
     EXPECT_TRUE(Asked().startsWith("failure: ")) << GetParam().name;
     ComeBack();
     EXPECT_EQ(Asked(), "");
+    // With all that it held.
+    m_Prompts.m_Texts = {"/app/kept"};
+    EXPECT_TRUE(Page().SaveAs());
+    EXPECT_EQ(m_Files.ReadFile("/app/kept"), GetParam().first);
+    Change();
 }
 
 // Neither loses what the other has saved.

@@ -7,6 +7,7 @@
 #include <QSplitter>
 #include <QStyle>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "adapters/qt/qt_text.h"
 #include "categories/readable_colours.h"
@@ -281,11 +282,13 @@ void cColourRulesEditor::ChooseColour() {
 }
 
 void cColourRulesEditor::ReadFile(const std::string& path) {
-    const std::vector<cLineProblem> problems = m_Rules.Load(m_Services.m_Files, path);
+    cColourRules read;
+    const std::vector<cLineProblem> problems = read.Load(m_Services.m_Files, path);
     // A file that can't be read must not be replaced by an empty list.
     if (problems.size() == 1 && problems[0].line == 0) {
         throw cFailure(eFailure::InputOutput, problems[0].description);
     }
+    m_Rules = std::move(read);
     m_Problems->Show(kColourRulesFile, problems);
     FillAnew();
 }
