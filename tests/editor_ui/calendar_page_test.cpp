@@ -304,6 +304,43 @@ TEST_F(CalendarPage, KeysStopAtTheEndsOfTheCalendar) {
     EXPECT_EQ(Month(), "January 2000");
 }
 
+TEST_F(CalendarPage, KeysStopAtTheLastDayOfTheCalendar) {
+    m_Page.Editor().ShowMonth(2039, 12);
+    for (int i = 0; i < 20; ++i) Key(Qt::Key_Right);
+    DayTypes().setCurrentRow(7);
+    Key(Qt::Key_Space);
+    EXPECT_EQ(Value(2039, 12, 31), 7);
+    EXPECT_EQ(Month(), "December 2039");
+}
+
+TEST_F(CalendarPage, OutsideItsYearsTheNearestMonthIsThatOfToday) {
+    for (const int year : {1999, 2000, 2039, 2040}) {
+        m_Clock.Set(year, 6, 15);
+        Key(Qt::Key_Home);
+        EXPECT_EQ(Month(), year < 2000   ? "January 2000"
+                           : year > 2039 ? "December 2039"
+                                         : QString("June %1").arg(year));
+    }
+}
+
+TEST_F(CalendarPage, ItIsToldHowManyHolidaysWerePainted) {
+    const auto told = [this] { return m_Window->statusBar()->currentMessage().toStdString(); };
+    auto& countries = Combo("Combo_Calendar_Holidays");
+    countries.setCurrentIndex(0);
+    emit countries.activated(0);
+    Choose(m_Page, "Menu_Calendar_HolidaysOfYear");
+    EXPECT_EQ(told(), "There are no holidays: choose their country, or write your own.");
+    countries.setCurrentIndex(countries.findData("DE-BY"));
+    emit countries.activated(0);
+    DayTypes().setCurrentRow(9);
+    Choose(m_Page, "Menu_Calendar_HolidaysOfYear");
+    int painted = 0;
+    for (std::int32_t day = 0; day < kCalendarDays; ++day)
+        painted += m_Page.Editor().Calendar().GetDayType(day) == 9 ? 1 : 0;
+    EXPECT_GT(painted, 9);
+    EXPECT_EQ(told(), "Painted holidays: " + std::to_string(painted) + " (Special day type 2)");
+}
+
 TEST_F(CalendarPage, TheYearsHolidaysTakeTheChosenType) {
     Combo("Combo_Calendar_Holidays").setCurrentIndex(Combo("Combo_Calendar_Holidays").findText("Sweden"));
     emit Combo("Combo_Calendar_Holidays").activated(0);

@@ -151,6 +151,16 @@ TEST_F(DefinitionsWindow, ClosingATabAsksToo) {
     EXPECT_TRUE(m_Files.FileExists("/app/Kept.sch"));
 }
 
+TEST_F(DefinitionsWindow, ATabIsClosedByItsButton) {
+    NewSchedule();
+    NewCalendar();
+    auto& tabs = Find<QTabWidget>(*m_Window, "Tabs_Pages");
+    EXPECT_TRUE(tabs.tabsClosable());
+    emit tabs.tabCloseRequested(0);
+    ASSERT_EQ(m_Window->Pages().size(), 1);
+    EXPECT_EQ(m_Window->Pages()[0]->Title(), "Calendar 1");
+}
+
 TEST_F(DefinitionsWindow, ADragInAProfileIsAskedAboutAtTheEnd) {
     m_Files.Put("/app/Profiles/Profile_0012.dat", Sample("profile_version_5.dat"));
     m_Window->ShowProfiles();
@@ -163,6 +173,86 @@ TEST_F(DefinitionsWindow, ADragInAProfileIsAskedAboutAtTheEnd) {
     EXPECT_FALSE(m_Window->close());
     EXPECT_EQ(m_Prompts.m_Asked, "save Profiles\n");
     EXPECT_EQ(page.UndoStack()->count(), 1);
+}
+
+TEST_F(DefinitionsWindow, EachPageOffersWhatItCanDo) {
+    const auto offered = [this] {
+        QStringList names;
+        for (const char* name : {"Save", "SaveAs", "Print", "Pdf", "Close", "Undo", "Redo"}) {
+            const std::string entry = std::string("Menu_") + name;
+            if (Find<QAction>(*m_Window, entry.c_str()).isEnabled()) names += name;
+        }
+        return names.join(' ').toStdString();
+    };
+    EXPECT_EQ(offered(), "");
+    cSchedulePage& schedule = NewSchedule();
+    EXPECT_EQ(offered(), "Save SaveAs Print Pdf Close");
+    Change(schedule);
+    EXPECT_EQ(offered(), "Save SaveAs Print Pdf Close Undo");
+    Choose(*m_Window, "Menu_Undo");
+    EXPECT_EQ(offered(), "Save SaveAs Print Pdf Close Redo");
+    m_Window->ShowColourRules();
+    EXPECT_EQ(offered(), "Save Close");
+    m_Window->ShowOwnHolidays();
+    EXPECT_EQ(offered(), "Save Close");
+    m_Window->ShowReceivers();
+    EXPECT_EQ(offered(), "Save Close");
+    for (int i = 0; i < 4; ++i) Choose(*m_Window, "Menu_Close");
+    EXPECT_EQ(offered(), "");
+}
+
+TEST_F(DefinitionsWindow, UndoAndRedoNameTheirSteps) {
+    const auto entries = [this] {
+        return Find<QAction>(*m_Window, "Menu_Undo").text() + "|" +
+               Find<QAction>(*m_Window, "Menu_Redo").text();
+    };
+    EXPECT_EQ(entries(), "&Undo|&Redo");
+    Change(NewSchedule());
+    EXPECT_EQ(entries(), "&Undo dragging a period|&Redo");
+    Choose(*m_Window, "Menu_Undo");
+    EXPECT_EQ(entries(), "&Undo|&Redo dragging a period");
+    // A sign in a name is no access key.
+    m_Files.Put("/app/Receivers/Receiver_0007.dat", Sample("receiver_version_5.dat"));
+    m_Window->ShowReceivers();
+    auto& name = Find<QLineEdit>(*m_Window->CurrentPage(), "Text_ReceiverName");
+    name.selectAll();
+    QTest::keyClicks(&name, "A&B");
+    Choose(*m_Window->CurrentPage(), "Action_Copy");
+    EXPECT_EQ(entries(), "&Undo copying \"A&&B\"|&Redo");
+    Choose(*m_Window, "Menu_Undo");
+    EXPECT_EQ(entries(), "&Undo changing Name|&Redo copying \"A&&B\"");
+}
+
+TEST_F(DefinitionsWindow, ASignInTheNameOfAFileIsNoAccessKey) {
+    m_Files.Put("/app/A&B.sch", Sample("schedule.dat"));
+    m_Window->OpenFile("/app/A&B.sch");
+    EXPECT_EQ(Tab(0), "A&&B.sch");
+    EXPECT_EQ(Find<QTabWidget>(*m_Window, "Tabs_Pages").tabToolTip(0), "/app/A&B.sch");
+    auto& menu = Find<QMenu>(*m_Window, "Menu_Recent");
+    emit menu.aboutToShow();
+    EXPECT_EQ(menu.actions().first()->text(), "/app/A&&B.sch");
+}
+
+TEST_F(DefinitionsWindow, ASizeIsThatOfAllPagesAndOfThoseToCome) {
+    cSchedulePage& first = NewSchedule();
+    NewCalendar();
+    Choose(*m_Window, "Menu_Zoom_200");
+    EXPECT_EQ(Find<QWidget>(first, "Picture_TimeSchedule").height(), 2 * 179);
+    EXPECT_EQ(Find<QWidget>(NewSchedule(), "Picture_TimeSchedule").height(), 2 * 179);
+    EXPECT_TRUE(Find<QAction>(*m_Window, "Menu_Zoom_200").isChecked());
+    EXPECT_FALSE(Find<QAction>(*m_Window, "Menu_Zoom_100").isChecked());
+}
+
+TEST_F(DefinitionsWindow, TheListsOfTheStationAreKnownByTheirNamesInAnyCase) {
+    m_Files.Put("/app/COLOURRULES.TXT", "");
+    m_Files.Put("/app/ownholidays.txt", "");
+    EXPECT_TRUE(m_Window->OpenFile("/app/COLOURRULES.TXT"));
+    EXPECT_EQ(m_Window->CurrentPage()->objectName(), "Page_ColourRules");
+    EXPECT_TRUE(m_Window->OpenFile("/app/ownholidays.txt"));
+    EXPECT_EQ(m_Window->CurrentPage()->objectName(), "Page_OwnHolidays");
+    m_Files.Put("/app/short.CAL", "abc");
+    EXPECT_FALSE(m_Window->OpenFile("/app/short.CAL"));
+    EXPECT_TRUE(m_Prompts.m_Asked.contains("is not a calendar"));
 }
 
 TEST_F(DefinitionsWindow, RecentFilesAreTheNewestTen) {

@@ -71,6 +71,40 @@ TEST_F(OwnHolidaysPage, EveryYearAndOnceAreATickApart) {
     EXPECT_EQ(Asked(), "");
 }
 
+TEST_F(OwnHolidaysPage, ATickThatCantBeIsTakenBackWithAReason) {
+    m_Files.Put(kPath, "02-29 | Leap day\r\n");
+    // This year has no such day.
+    Table().item(0, 2)->setCheckState(Qt::Unchecked);
+    EXPECT_EQ(Row(0), "02-29  every year Leap day");
+    EXPECT_TRUE(Asked().starts_with("failure: "));
+    EXPECT_EQ(Page().UndoStack()->count(), 0);
+    EXPECT_FALSE(Page().IsDirty());
+}
+
+TEST_F(OwnHolidaysPage, AHolidayIsAddedBelowTheChosenOneAndTheChosenOneIsDeleted) {
+    m_Files.Put(kPath, "01-01 | A\r\n01-02 | B\r\n01-03 | C\r\n");
+    const auto names = [this] {
+        std::string all;
+        for (int row = 0; row < Table().rowCount(); ++row) all += Cell(row, 3) + ";";
+        return all;
+    };
+    Table().setCurrentCell(1, 3);
+    Choose(Page(), "Action_Add");
+    EXPECT_EQ(names(), "A;B;Company holiday;C;");
+    EXPECT_EQ(Table().currentRow(), 2);
+    Type(2, 3, "new");
+    Table().setCurrentCell(1, 3);
+    Choose(Page(), "Action_Remove");
+    EXPECT_EQ(names(), "A;new;C;");
+    EXPECT_EQ(Table().currentRow(), 1);
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_TRUE(Find<QAction>(Page(), "Action_Remove").isEnabled());
+        Choose(Page(), "Action_Remove");
+    }
+    EXPECT_EQ(names(), "");
+    EXPECT_FALSE(Find<QAction>(Page(), "Action_Remove").isEnabled());
+}
+
 TEST_F(OwnHolidaysPage, AWrongFieldStaysAsTypedAndStandsInTheWayOfSaving) {
     m_Files.Put(kPath, "12-24 | Eve\r\n");
     const auto problem = [this] { return Find<QLabel>(Page(), "Label_CellProblem").text().toStdString(); };

@@ -536,6 +536,108 @@ TEST_F(ReceiversPage, UndoTakesASavedReceiverAwayOnlyWithAYes) {
     EXPECT_EQ(Page().UndoStack()->count(), 0);
 }
 
+TEST_F(ReceiversPage, WhatIsTypedBehindAnUndoIsAStepOfItsOwn) {
+    Type(Page(), "Text_ReceiverName", "East");
+    Page().UndoStack()->undo();
+    Page().UndoStack()->redo();
+    QTest::keyClicks(Find<QLineEdit>(Page(), "Text_ReceiverName"), "ern");
+    EXPECT_EQ(Page().UndoStack()->count(), 2);
+    Page().UndoStack()->undo();
+    EXPECT_EQ(TextOf(Page(), "Text_ReceiverName"), "East");
+}
+
+TEST_F(ReceiversPage, WhatIsTypedInAFieldThatWasLeftIsAStepOfItsOwn) {
+    QApplication::setActiveWindow(&Page());
+    auto* name = Find<QLineEdit>(Page(), "Text_ReceiverName");
+    name->setFocus();
+    Type(Page(), "Text_ReceiverName", "East");
+    Find<QLineEdit>(Page(), "Text_ParallellNumbers")->setFocus();
+    name->setFocus();
+    name->end(false);
+    QTest::keyClicks(name, "ern");
+    EXPECT_EQ(Page().UndoStack()->count(), 2);
+    Page().UndoStack()->undo();
+    EXPECT_EQ(TextOf(Page(), "Text_ReceiverName"), "East");
+}
+
+TEST_F(ReceiversPage, WhatIsTypedForAnotherReceiverIsAStepOfItsOwn) {
+    PutSample("Receivers\\Receiver_0042.dat", "receiver_version_5.dat");
+    Page().Choose(0);
+    Type(Page(), "Text_ReceiverName", "East");
+    Page().Choose(1);
+    Type(Page(), "Text_ReceiverName", "West");
+    EXPECT_EQ(Page().UndoStack()->count(), 2);
+    Page().UndoStack()->undo();
+    EXPECT_EQ(m_Station.Receivers().At(0).m_ReceiverName, "East");
+    EXPECT_EQ(m_Station.Receivers().At(1).m_ReceiverName, "\xD6st");
+}
+
+TEST_F(ReceiversPage, WhatCanBeDoneFitsTheChosenReceiver) {
+    Put("Receivers\\Receiver_0041.dat", "??");
+    const auto offered = [this] {
+        QStringList names;
+        for (const char* name : {"New", "Copy", "Delete", "Save", "Revert"}) {
+            const std::string button = std::string("Button_") + name;
+            if (Find<QWidget>(Page(), button.c_str())->isEnabled()) names += name;
+        }
+        return names.join(' ').toStdString();
+    };
+    Page().Choose(0);
+    EXPECT_EQ(offered(), "New Copy Delete");
+    Type(Page(), "Text_ReceiverName", "East");
+    EXPECT_EQ(offered(), "New Copy Delete Save Revert");
+    Page().Choose(1);
+    EXPECT_EQ(offered(), "New");
+    Page().Choose(0);
+    Press(Page(), "Button_Save");
+    EXPECT_EQ(offered(), "New Copy Delete");
+}
+
+TEST_F(ReceiversPage, SavingOneLeavesTheOthersAsTheyAre) {
+    PutSample("Receivers\\Receiver_0042.dat", "receiver_version_5.dat");
+    Page().Choose(0);
+    Type(Page(), "Text_ReceiverName", "East");
+    Page().Choose(1);
+    Type(Page(), "Text_ReceiverName", "West");
+    std::string told;
+    QObject::connect(&Page(), &cEditorPage::Message, [&](const QString& text) { told = text.toStdString(); });
+    Press(Page(), "Button_Save");
+    EXPECT_EQ(told, "Saved \"West\"");
+    EXPECT_NE(OnDisk("Receivers\\Receiver_0042.dat").find("West"), std::string::npos);
+    EXPECT_EQ(OnDisk("Receivers\\Receiver_0007.dat").find("East"), std::string::npos);
+    EXPECT_TRUE(Page().IsDirty());
+    EXPECT_TRUE(Page().Save());
+    EXPECT_EQ(told, "Saved: 1");
+    EXPECT_NE(OnDisk("Receivers\\Receiver_0007.dat").find("East"), std::string::npos);
+}
+
+TEST_F(ReceiversPage, ARowMovesToItsPlaceWhenItIsSaved) {
+    PutSample("Receivers\\Receiver_0042.dat", "receiver_version_3.dat");
+    const std::string duty = "Duty1 | Radio | 0042\n";
+    EXPECT_EQ(Rows(Page()), duty + kEast);
+    Page().Choose(0);
+    Type(Page(), "Text_ReceiverName", "Admin");
+    EXPECT_EQ(Rows(Page()), duty + "Admin * | (Unknown type: 0009) | 0007\n");
+    Press(Page(), "Button_Save");
+    EXPECT_EQ(Rows(Page()), "Admin | (Unknown type: 0009) | 0007\n" + duty);
+    EXPECT_EQ(TextOf(Page(), "Text_ReceiverName"), "Admin");
+}
+
+TEST_F(ReceiversPage, OfManyProfilesTheQuestionNamesTen) {
+    for (int i = 10; i < 21; ++i)
+        PutSample("Profiles\\Profile_00" + std::to_string(i) + ".dat", "profile_version_5.dat");
+    const auto asked = [this] {
+        Press(Page(), "Button_Delete");
+        const std::string question = Asked();
+        return question.substr(question.find("it:\n") + 4);
+    };
+    std::string ten;
+    for (int i = 0; i < 10; ++i) ten += "Night\n";
+    EXPECT_EQ(asked(), ten + "...\n");
+    m_Files.RemoveFile(Path("Profiles\\Profile_0020.dat"));
+    EXPECT_EQ(asked(), ten);
+}
+
 TEST_F(ReceiversPage, GivenUpChangesComeBackByUndo) {
     Type(Page(), "Text_ReceiverName", "East");
     Press(Page(), "Button_Revert");

@@ -2,6 +2,7 @@
 #include <QFile>
 #include <QMenu>
 #include <QScrollBar>
+#include <QStatusBar>
 #include <QWheelEvent>
 
 #include "editor_ui/editor_bench.h"
@@ -359,6 +360,46 @@ TEST_F(SchedulePage, InsertInAFullDayChangesNothing) {
     Click(5, 600);
     Key(Qt::Key_Insert);
     EXPECT_EQ(Day(5), "0-1440");
+}
+
+TEST_F(SchedulePage, InsertTriesTheNightWhenTheDayIsFull) {
+    Drag(View(), {At(5, 480), At(5, 1440)});
+    Key(Qt::Key_Insert);
+    EXPECT_EQ(Day(5), "480-1440 0-60");
+    // A quarter of an hour keeps them apart.
+    for (int i = 0; i < 9; ++i) Key(Qt::Key_Insert);
+    EXPECT_EQ(Day(5), "480-1440 0-60 120-180 240-300 360-420");
+    EXPECT_EQ(m_Window->statusBar()->currentMessage(), "The day has no gap for another period.");
+    EXPECT_EQ(m_Page.UndoStack()->count(), 5);
+}
+
+TEST_F(SchedulePage, AnEndStopsAtMidnight) {
+    Drag(View(), {At(5, 10), At(5, 60)});
+    for (int i = 0; i < 4; ++i) Key(Qt::Key_Left, kCtrl);
+    EXPECT_EQ(Day(5), "0-60");
+    Drag(View(), {At(6, 1380), At(6, 1430)});
+    for (int i = 0; i < 4; ++i) Key(Qt::Key_Right, kShift);
+    EXPECT_EQ(Day(6), "1380-1440");
+}
+
+TEST_F(SchedulePage, TheRenamedDayTypeIsThatOfTheListWhereTheKeyboardIs) {
+    QApplication::setActiveWindow(m_Window.get());
+    Find<QCheckBox>(m_Page, "Check_TimeSchedule_UseCalendar").click();
+    auto& list = Find<QListWidget>(m_Page, "List_DayTypes");
+    list.setFocus();
+    list.setCurrentRow(7);
+    m_Prompts.m_Texts = {"Lucia"};
+    Entry("Rename");
+    EXPECT_EQ(list.item(7)->text(), "Lucia");
+    // A weekday has no name of its own.
+    list.setCurrentRow(6);
+    m_Prompts.m_Asked.clear();
+    Entry("Rename");
+    EXPECT_TRUE(m_Prompts.m_Asked.startsWith("failure: Choose a special day type"));
+    list.setCurrentRow(22);
+    m_Prompts.m_Texts = {"Yule"};
+    Entry("Rename");
+    EXPECT_EQ(m_Files.ReadFile("/app/VigrelDefinitions.INI"), "[DayTypes]\r\n7=Lucia\r\n22=Yule\r\n");
 }
 
 TEST_F(SchedulePage, ReturnGoesToTheStartField) {
