@@ -18,6 +18,7 @@
 #include "support/fake_clock.h"
 #include "support/fake_files.h"
 #include "support/fake_locale.h"
+#include "support/fake_settings.h"
 #include "support/fake_timer.h"
 #include "support/qt_wait.h"
 #include "support/unnamed_widgets.h"
@@ -26,13 +27,6 @@
 
 namespace vigrel::testing {
 namespace {
-
-class NoSettings : public cSettingStore {
-    std::string GetSetting(std::string_view, std::string_view, std::string_view,
-                           std::string_view defaultValue) const override {
-        return std::string(defaultValue);
-    }
-};
 
 class AssistiveTools : public ::testing::Test {
   protected:
@@ -82,7 +76,7 @@ TEST_F(AssistiveTools, FindNamesInAPopup) {
 
 TEST_F(AssistiveTools, FindNamesInTheDebugView) {
     cProtocolTrace trace(m_State, m_Clock, m_Files, "C:\\App\\");
-    const NoSettings settings;
+    const cFakeSettings settings;
     cDebugWindow window(m_Windows, trace, m_Texts, settings);
     EXPECT_EQ(UnnamedWidgets(window), "");
     EXPECT_GE(InteractiveWidgets(window), 1);

@@ -2,35 +2,27 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractItemModelTester>
 #include <QApplication>
 #include <QClipboard>
 #include <QFontInfo>
 #include <QHeaderView>
 #include <QMenu>
 #include <QScrollBar>
+#include <QSignalSpy>
 #include <QTableView>
 #include <QTest>
-#include <map>
 #include <memory>
 
 #include "common/ini.h"
 #include "common/text.h"
 #include "support/fake_clock.h"
 #include "support/fake_files.h"
+#include "support/fake_settings.h"
 #include "support/qt_wait.h"
 
 namespace vigrel::testing {
 namespace {
-
-class cFixedSettings : public cSettingStore {
-  public:
-    std::string GetSetting(std::string_view, std::string_view, std::string_view key,
-                           std::string_view defaultValue) const override {
-        const auto found = m_Values.find(std::string(key));
-        return found == m_Values.end() ? std::string(defaultValue) : found->second;
-    }
-    std::map<std::string, std::string> m_Values;
-};
 
 class DebugWindow : public ::testing::Test {
   protected:
@@ -64,7 +56,7 @@ class DebugWindow : public ::testing::Test {
     cIni m_Ini{m_Files, "C:\\App\\"};
     cTexts m_Texts{m_Files, m_Ini};
     cProtocolTrace m_Trace{m_State, m_Clock, m_Files, "C:\\App\\"};
-    cFixedSettings m_Settings;
+    cFakeSettings m_Settings;
     cOpenWindows m_Windows;
     std::unique_ptr<cDebugWindow> m_Window;
     int m_Next = 0;
@@ -212,6 +204,152 @@ TEST_F(DebugWindow, SelectedRowsCanBeCopied) {
     QTest::keyClick(&List(), Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QApplication::clipboard()->text(),
               "12:30:15\tV<-S\trow 0\n12:30:15\tV<-S\trow 1\n12:30:15\tV<-S\trow 2");
+}
+
+TEST_F(DebugWindow, AClickSelectsTheWholeRowAndCopiesStandInTheOrderOfTheList) {
+    Open();
+    Trace(4);
+    const auto click = [&](int row, int column, Qt::KeyboardModifiers modifiers) {
+        const QPoint place = List().visualRect(List().model()->index(row, column)).center();
+        QTest::mouseClick(List().viewport(), Qt::LeftButton, modifiers, place);
+    };
+    click(3, 1, Qt::NoModifier);
+    click(0, 0, Qt::ControlModifier);
+    click(2, 1, Qt::ControlModifier);
+    QTest::keyClick(&List(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(),
+              "12:30:15\tV<-S\trow 0\n12:30:15\tV<-S\trow 2\n12:30:15\tV<-S\trow 3");
+}
+
+TEST_F(DebugWindow, TheKeyOfTheMenuSavesTheRows) {
+    cDebugWindow& window = Open();
+    Trace(1);
+    window.activateWindow();
+    ASSERT_TRUE(WaitUntil([&] { return window.isActiveWindow(); }));
+    QTest::keyClick(&List(), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_TRUE(m_Files.FileExists("C:\\App\\LogFiles\\Debug.txt"));
+}
+
+TEST_F(DebugWindow, ABurstOfRowsIsTakenOverAtOnce) {
+    Open();
+    QSignalSpy taken(List().model(), &QAbstractItemModel::rowsInserted);
+    Trace(50);
+    Trace(50);
+    ASSERT_EQ(taken.count(), 2);
+    EXPECT_EQ(taken[0][1].toInt(), 0);
+    EXPECT_EQ(taken[0][2].toInt(), 49);
+    EXPECT_EQ(taken[1][1].toInt(), 50);
+    EXPECT_EQ(taken[1][2].toInt(), 99);
+}
+
+// What a view is told of rows that come and go, before and behind each change.
+TEST_F(DebugWindow, TellsTheViewTheTruthOfEachChange) {
+    Open();
+    const QAbstractItemModelTester tester(List().model(),
+                                          QAbstractItemModelTester::FailureReportingMode::Warning);
+    Trace(399);
+    Trace(1);
+    Trace(1);
+    Trace(300);
+    Trace(2000);
+    EXPECT_EQ(Cell(399, 2), "row 2700");
+    EXPECT_EQ(List().model()->rowCount(List().model()->index(0, 0)), 0);
+    EXPECT_EQ(List().model()->columnCount(List().model()->index(0, 0)), 0);
+    EXPECT_FALSE(List().model()->data(QModelIndex(), Qt::DisplayRole).isValid());
+}
+
+TEST_F(DebugWindow, AsManyRowsOnceMoreLeaveTheNewOnes) {
+    Open();
+    Trace(400);
+    for (int more = 0; more < 3; ++more) Trace(1);
+    EXPECT_EQ(Cell(0, 2), "row 3");
+    EXPECT_EQ(Cell(399, 2), "row 402");
+}
+
+TEST_F(DebugWindow, RowsShowTheWayByTheirPictures) {
+    Open();
+    m_Trace.WriteTrace("to here", 1);
+    m_Trace.WriteTrace("from here", 2);
+    QCoreApplication::processEvents();
+    const auto picture = [&](int row) {
+        return List().model()->index(row, 0).data(Qt::DecorationRole).value<QIcon>().pixmap(16).toImage();
+    };
+    EXPECT_EQ(picture(0), QIcon(":/icons/debug-in.svg").pixmap(16).toImage());
+    EXPECT_EQ(picture(1), QIcon(":/icons/debug-out.svg").pixmap(16).toImage());
+    EXPECT_EQ(List().iconSize(), QSize(16, 16));
+    EXPECT_FALSE(List().model()->index(0, 1).data(Qt::DecorationRole).isValid());
+}
+
+TEST_F(DebugWindow, TheTextAloneStandsInItsOwnFont) {
+    Open();
+    Trace(1);
+    for (const int column : {0, 1}) {
+        EXPECT_FALSE(List().model()->index(0, column).data(Qt::FontRole).isValid()) << column;
+    }
+}
+
+TEST_F(DebugWindow, TheCaptionsStandAsTheirColumnsDo) {
+    Open();
+    Trace(1);
+    for (int column = 0; column < 3; ++column) {
+        const QVariant caption = List().model()->headerData(column, Qt::Horizontal, Qt::TextAlignmentRole);
+        EXPECT_EQ(caption, List().model()->index(0, column).data(Qt::TextAlignmentRole)) << column;
+        EXPECT_FALSE(List().model()->headerData(column, Qt::Horizontal, Qt::DecorationRole).isValid());
+        EXPECT_FALSE(List().model()->headerData(column, Qt::Vertical, Qt::DisplayRole).isValid());
+    }
+}
+
+TEST_F(DebugWindow, RowsStandCloseTogetherEachOnOneLine) {
+    m_Settings.m_Values = {{"DebugViewColWidth3", "600"}};
+    cDebugWindow& window = Open();
+    m_Trace.WriteTrace("many words that need a second line where there is room for it", 1);
+    Trace(2);
+    const int line = std::max(16, window.fontMetrics().height()) + 4;
+    for (int row = 0; row < 3; ++row) EXPECT_EQ(List().rowHeight(row), line);
+    EXPECT_FALSE(List().wordWrap());
+    EXPECT_FALSE(List().showGrid());
+    EXPECT_TRUE(List().verticalHeader()->isHidden());
+    EXPECT_EQ(List().verticalHeader()->sectionResizeMode(0), QHeaderView::Fixed);
+    EXPECT_FALSE(List().horizontalHeader()->highlightSections());
+    EXPECT_EQ(List().horizontalScrollMode(), QAbstractItemView::ScrollPerPixel);
+}
+
+TEST_F(DebugWindow, TheTabKeyMovesNoCell) {
+    Open();
+    Trace(2);
+    List().setCurrentIndex(List().model()->index(0, 0));
+    QTest::keyClick(&List(), Qt::Key_Tab);
+    EXPECT_EQ(List().currentIndex(), List().model()->index(0, 0));
+}
+
+TEST_F(DebugWindow, AUsualRecordIsSeenWhole) {
+    const cDebugWindow& window = Open();
+    EXPECT_EQ(window.size(), QSize(1000, 420));
+}
+
+TEST_F(DebugWindow, AResizeIsTold) {
+    cDebugWindow& window = Open();
+    int told = 0;
+    window.OnResize = [&] { ++told; };
+    window.resize(700, 300);
+    EXPECT_EQ(told, 1);
+}
+
+TEST_F(DebugWindow, AWindowOfJustTheTwoColumnsLeavesNothingToTheLast) {
+    cDebugWindow& window = Open();
+    const int others = List().columnWidth(0) + List().columnWidth(1) + 20;
+    window.resize(others + 1, 300);
+    EXPECT_EQ(List().columnWidth(2), 1);
+    List().setColumnWidth(2, 50);
+    window.resize(others - 1, 300);
+    EXPECT_EQ(List().columnWidth(2), 50);
+}
+
+TEST_F(DebugWindow, ItsEndTakesItsEarFromTheTrace) {
+    Open();
+    ASSERT_TRUE(m_Trace.OnChange);
+    m_Window.reset();
+    EXPECT_FALSE(m_Trace.OnChange);
 }
 
 TEST_F(DebugWindow, ClosingItEndsTheTrace) {

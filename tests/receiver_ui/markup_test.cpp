@@ -17,6 +17,7 @@
 #include "support/fake_clock.h"
 #include "support/fake_files.h"
 #include "support/fake_locale.h"
+#include "support/fake_settings.h"
 #include "support/fake_timer.h"
 #include "support/item_table.h"
 #include "support/markup.h"
@@ -86,12 +87,7 @@ TEST_P(Markup, InTheTraceIsAPlainToolTip) {
     const cFakeClock clock;
     m_Files.PutFolder("C:\\App\\LogFiles\\");
     cProtocolTrace trace(state, clock, m_Files, "C:\\App\\");
-    class : public cSettingStore {
-        std::string GetSetting(std::string_view, std::string_view, std::string_view,
-                               std::string_view defaultValue) const override {
-            return std::string(defaultValue);
-        }
-    } settings;
+    const cFakeSettings settings;
     cDebugWindow window(m_Windows, trace, m_Texts, settings);
     window.Show();
     state.m_DebugMode = true;

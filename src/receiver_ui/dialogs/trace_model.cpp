@@ -78,7 +78,7 @@ QVariant cTraceModel::data(const QModelIndex& index, int role) const {
 }
 
 QVariant cTraceModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal) return {};
+    if (orientation != Qt::Horizontal || section < 0 || section >= columnCount()) return {};
     const bool centred = kTraceColumns[static_cast<std::size_t>(section)].centred;
     if (role == Qt::DisplayRole) return m_Captions[section];
     if (role == Qt::TextAlignmentRole) {
