@@ -10,6 +10,7 @@
 #include "support/fake_files.h"
 #include "support/fake_timer.h"
 #include "support/qt_wait.h"
+#include "support/raises.h"
 #include "windows/desktop.h"
 
 namespace vigrel::testing {
@@ -45,6 +46,36 @@ TEST_F(AboutWindow, ShowsItsLabelWhole) {
               "*** Invalid Text (14) Kelmora AB");
     EXPECT_GE(label->width(), label->sizeHint().width());
     EXPECT_GE(label->height(), label->sizeHint().height());
+}
+
+TEST_F(AboutWindow, ShowsTheProgramsPictureBesideItsWords) {
+    const cAboutWindow& window = Open();
+    const auto labels = window.findChildren<QLabel*>();
+    ASSERT_EQ(labels.size(), 2);
+    const QLabel& picture = *labels[0];
+    const QLabel& words = *labels[1];
+    EXPECT_EQ(picture.pixmap().toImage(), QIcon(":/icons/vigrel-receiver.svg").pixmap(64).toImage());
+    EXPECT_EQ(picture.pos(), QPoint(20, 20));
+    EXPECT_EQ(words.x(), picture.geometry().right() + 1 + 20);
+    EXPECT_EQ(words.y(), 20);
+    EXPECT_GE(words.width(), 260);
+    EXPECT_EQ(window.size(), QSize(words.geometry().right() + 1 + 20, words.geometry().bottom() + 1 + 20));
+}
+
+TEST_F(AboutWindow, CanBeClosedAndNeitherSizedNorMadeAnIcon) {
+    const cAboutWindow& window = Open();
+    EXPECT_EQ(window.minimumSize(), window.maximumSize());
+    EXPECT_EQ(window.windowType(), Qt::Dialog);
+    EXPECT_TRUE(window.windowFlags().testFlag(Qt::WindowCloseButtonHint));
+    EXPECT_FALSE(window.windowFlags() & Qt::WindowMinMaxButtonsHint);
+}
+
+TEST_F(AboutWindow, ComesUpOverTheWindowsThatAreThere) {
+    cAboutWindow& window = Open();
+    window.hide();
+    const cRaises raises(window);
+    window.Show();
+    EXPECT_EQ(raises.m_WhileSeen, 1);
 }
 
 TEST_F(AboutWindow, StandsInTheMiddleOfTheScreen) {

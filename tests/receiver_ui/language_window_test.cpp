@@ -72,6 +72,26 @@ TEST_F(LanguageWindow, CanBeUsedByTheKeyboardAlone) {
     EXPECT_EQ(Language(), "044");
 }
 
+TEST_F(LanguageWindow, TheButtonStandsBelowTheListAndAnswersToEnter) {
+    cLanguageWindow window(m_Selection);
+    const auto* ok = window.findChild<QPushButton*>("Command_Ok");
+    EXPECT_TRUE(ok->isDefault());
+    window.show();
+    const auto* combo = window.findChild<QComboBox*>("Combo_Language");
+    EXPECT_GT(ok->y(), combo->geometry().bottom());
+    EXPECT_EQ(ok->geometry().right(), combo->geometry().right());
+    EXPECT_EQ(window.width(), 320);
+}
+
+TEST_F(LanguageWindow, WhatIsChosenIsWrittenWhenItCloses) {
+    cLanguageWindow window(m_Selection);
+    window.show();
+    std::string written;
+    QObject::connect(&window, &QDialog::finished, [&] { written = Language(); });
+    window.findChild<QPushButton*>("Command_Ok")->click();
+    EXPECT_EQ(written, "046");
+}
+
 TEST_F(LanguageWindow, EscapeClosesItWithoutAChoice) {
     cLanguageWindow window(m_Selection);
     window.show();

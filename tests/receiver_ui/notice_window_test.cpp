@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QMenu>
+#include <QStyle>
 #include <QTest>
 
 #include "core/receiver_ports.h"
@@ -10,6 +11,7 @@
 #include "support/fake_clock.h"
 #include "support/fake_files.h"
 #include "support/fake_locale.h"
+#include "support/fake_settings.h"
 #include "support/fake_windows.h"
 #include "support/markup.h"
 #include "windows/application.h"
@@ -20,12 +22,6 @@ namespace {
 
 class NoticeWindow : public ::testing::Test {
   protected:
-    class cNoSettings : public cSettingStore {
-        std::string GetSetting(std::string_view, std::string_view, std::string_view,
-                               std::string_view defaultValue) const override {
-            return std::string(defaultValue);
-        }
-    };
     QWidget* Window() const {
         for (QWidget* widget : QApplication::topLevelWidgets()) {
             if (widget->objectName() == "Vigrel_Receiver_Notice" && widget->isVisible()) return widget;
@@ -37,7 +33,7 @@ class NoticeWindow : public ::testing::Test {
     const cFakeClock m_Clock{};
     const cFakeLocale m_Locale{};
     const cQtScreen m_Screen{};
-    const cNoSettings m_Settings{};
+    const cFakeSettings m_Settings{};
     cOpenWindows m_Windows;
     cFakeMessageBox m_Box{nullptr};
     cQtOtherWindows m_Others{{m_Files, m_Clock, m_Locale, m_Screen, m_Settings, m_Windows,
@@ -81,6 +77,52 @@ TEST_F(NoticeWindow, MadeAnIconItComesBackWithTheNextText) {
     ASSERT_TRUE(Window()->isMinimized());
     m_Others.ShowNotice("4 alarms");
     EXPECT_FALSE(Window()->isMinimized());
+}
+
+TEST_F(NoticeWindow, StandsWholeHoweverLongItsTextBecomes) {
+    m_Others.ShowNotice("short");
+    QCoreApplication::processEvents();
+    const auto labels = Window()->findChildren<QLabel*>();
+    ASSERT_EQ(labels.size(), 2);
+    const QLabel& words = *Window()->findChild<QLabel*>("Label_Notice");
+    const QLabel& picture = *(labels[0] == &words ? labels[1] : labels[0]);
+    EXPECT_EQ(picture.pixmap().toImage(),
+              qApp->style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(48).toImage());
+    EXPECT_EQ(picture.pos(), QPoint(16, 16));
+    EXPECT_EQ(words.x(), picture.geometry().right() + 1 + 16);
+    EXPECT_EQ(words.width(), 360);
+    const int before = Window()->height();
+    std::string text;
+    for (int i = 0; i < 80; ++i) text += "many words ";
+    m_Others.ShowNotice(text);
+    QCoreApplication::processEvents();
+    EXPECT_GT(Window()->height(), before);
+    EXPECT_LT(Window()->width(), 1000);
+    EXPECT_GE(words.height(), words.heightForWidth(words.width()));
+    EXPECT_EQ(words.geometry().bottom() + 1 + 16, Window()->height());
+    EXPECT_EQ(words.geometry().right() + 1 + 16, Window()->width());
+}
+
+TEST_F(NoticeWindow, AssistiveToolsReadEachText) {
+    for (const auto& [text, read] :
+         {std::pair{"3 alarms\r\nmake room", "3 alarms\nmake room"}, {"4 alarms", "4 alarms"}}) {
+        m_Others.ShowNotice(text);
+        EXPECT_EQ(Window()->findChild<QLabel*>("Label_Notice")->accessibleName(), read);
+    }
+}
+
+TEST_F(NoticeWindow, OtherKeysThanEscapeLeaveIt) {
+    m_Others.ShowNotice("3 alarms");
+    QTest::keyClick(Window(), Qt::Key_A);
+    QTest::keyClick(Window(), Qt::Key_Return);
+    EXPECT_NE(Window(), nullptr);
+}
+
+TEST_F(NoticeWindow, MaximisedItStaysSoWithTheNextText) {
+    m_Others.ShowNotice("3 alarms");
+    Window()->setWindowState(Qt::WindowMaximized);
+    m_Others.ShowNotice("4 alarms");
+    EXPECT_TRUE(Window()->isMaximized());
 }
 
 TEST_F(NoticeWindow, LeavesAnOpenMenuOpen) {
