@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QClipboard>
 #include <QCloseEvent>
+#include <QDialog>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
@@ -13,6 +14,7 @@
 #include "adapters/qt/qt_text.h"
 #include "common/failure.h"
 #include "support/qt_wait.h"
+#include "support/raises.h"
 #include "windows/desktop.h"
 
 namespace vigrel::testing {
@@ -60,6 +62,37 @@ TEST_F(MainWindow, TheKeyForHelpWorksFromTheList) {
     m_Window.show();
     QTest::keyClick(m_Window.findChild<QTableView*>("ListView_Alarms"), Qt::Key_F1);
     EXPECT_EQ(helps, 1);
+}
+
+TEST_F(MainWindow, OtherKeysThanThoseForHelpAndCloseDoNeither) {
+    int helps = 0;
+    m_Window.Show();
+    QTest::keyClick(&m_Window, Qt::Key_F1);  // nobody helps yet
+    m_Window.OnHelp = [&] { ++helps; };
+    m_Allow = false;
+    for (const auto& [key, modifier] : {std::pair{Qt::Key_F2, Qt::NoModifier},
+                                        {Qt::Key_F4, Qt::NoModifier},
+                                        {Qt::Key_F4, Qt::ShiftModifier},
+                                        {Qt::Key_F5, Qt::AltModifier}}) {
+        QTest::keyClick(&m_Window, key, modifier);
+    }
+    EXPECT_EQ(helps, 0);
+    EXPECT_TRUE(m_Reasons.empty());
+}
+
+TEST_F(MainWindow, BeforeItIsToldItsGeometryItHasThatOfTheDesign) {
+    EXPECT_EQ(m_Window.size(), QSize(533, 333));
+    EXPECT_EQ(m_Window.windowIcon().pixmap(32).toImage(),
+              QIcon(":/icons/vigrel-receiver.svg").pixmap(32).toImage());
+    EXPECT_FALSE(m_Window.windowIcon().isNull());
+}
+
+TEST_F(MainWindow, TheKeyboardOfTheWindowIsTheLists) {
+    QWidget* list = &m_Window.List().View();
+    m_Window.show();
+    m_Window.menuBar()->setFocus();
+    m_Window.setFocus();
+    EXPECT_EQ(m_Window.focusWidget(), list);
 }
 
 TEST_F(MainWindow, ItsElementsCarryTheirNames) {
@@ -157,18 +190,67 @@ TEST_F(MainWindow, TheListHasTheFocus) {
 
 TEST_F(MainWindow, TheFocusRaisesItToo) {
     // A desktop may refuse to make a window the active one that nobody clicked.
-    class : public QObject {
-      public:
-        int m_Raised = 0;
-        bool eventFilter(QObject*, QEvent* event) override {
-            m_Raised += event->type() == QEvent::ZOrderChange;
-            return false;
-        }
-    } watch;
     m_Window.Show();
-    m_Window.installEventFilter(&watch);
-    WaitUntil([&] { return SkipFailure([&] { m_Window.SetFocus(); }) && watch.m_Raised > 0; });
-    EXPECT_EQ(watch.m_Raised, 1);
+    const cRaises raises(m_Window);
+    WaitUntil([&] { return SkipFailure([&] { m_Window.SetFocus(); }) && raises.m_Count > 0; });
+    EXPECT_EQ(raises.m_Count, 1);
+}
+
+TEST_F(MainWindow, ManyWhoAskForTheFrontAtOnceShareASecondWayThere) {
+    m_Window.Show();
+    RunEvents(200);
+    const cRaises raises(m_Window);
+    for (int i = 0; i < 20; ++i) m_Window.SetFocus();
+    EXPECT_EQ(raises.m_Count, 1);
+    EXPECT_TRUE(WaitUntil([&] { return raises.m_Count == 2; }));
+    RunEvents(200);
+    EXPECT_EQ(raises.m_Count, 2);
+    m_Window.SetFocus();
+    EXPECT_EQ(raises.m_Count, 3);
+}
+
+TEST_F(MainWindow, WhatIsHiddenOrAnIconByThenComesToTheFrontNoMore) {
+    m_Window.Show();
+    RunEvents(200);
+    const cRaises raises(m_Window);
+    m_Window.SetFocus();
+    m_Window.SetFocus();
+    m_Window.SetState(eWindowState::Minimised);
+    RunEvents(200);
+    EXPECT_EQ(raises.m_Count, 1);
+    m_Window.SetState(eWindowState::Normal);
+    m_Window.SetFocus();
+    m_Window.SetFocus();
+    m_Window.Hide();
+    RunEvents(200);
+    EXPECT_EQ(raises.m_Count, 2);
+}
+
+TEST_F(MainWindow, ShownAsAnIconItDoesNotComeToTheFront) {
+    m_Window.SetState(eWindowState::Minimised);
+    const cRaises raises(m_Window);
+    m_Window.Show();
+    EXPECT_EQ(raises.m_Count, 0);
+    m_Window.SetState(eWindowState::Normal);
+    m_Window.Show();
+    EXPECT_EQ(raises.m_Count, 1);
+}
+
+TEST_F(MainWindow, ComingToTheFrontLeavesAQuestionInFrontAndOpen) {
+    m_Window.Show();
+    RunEvents(200);
+    QDialog question;
+    question.setModal(true);
+    question.show();
+    question.setWindowState(Qt::WindowMinimized);
+    const cRaises raises(question);
+    m_Window.SetFocus();
+    EXPECT_FALSE(question.isMinimized());
+    EXPECT_EQ(raises.m_Count, 1);
+    question.hide();
+    RunEvents(200);
+    m_Window.SetFocus();
+    EXPECT_EQ(raises.m_Count, 1);
 }
 
 TEST_F(MainWindow, FocusOnAHiddenOrMinimisedWindowIsAFailure) {

@@ -5,7 +5,9 @@
 #include <QtTest/qtestspontaneevent.h>
 #include <QAccessible>
 #include <QApplication>
+#include <QClipboard>
 #include <QFontInfo>
+#include <QPainter>
 #include <QScreen>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -536,6 +538,114 @@ TEST_F(PopupWidget, NewPopupsStandOnAStairThatStaysOnTheScreen) {
         last = popup.Left();
     }
     EXPECT_GE(fresh, 1);
+}
+
+TEST_F(PopupWidget, TheStairBeginsAnewWhenAllPopupsAreGone) {
+    const QPoint first = QGuiApplication::primaryScreen()->availableGeometry().topLeft() + QPoint(26, 26);
+    for (int round = 0; round < 2; ++round) {
+        for (int i = 0; i < 3; ++i) {
+            const cPopupWidget& popup = Make();
+            EXPECT_EQ(popup.Left(), ToTwips(first.x() + 26 * i)) << round << i;
+            EXPECT_EQ(popup.Top(), ToTwips(first.y() + 26 * i)) << round << i;
+        }
+        for (cWindow* window : m_Windows.OpenWindows()) window->Close();
+    }
+}
+
+TEST_F(PopupWidget, TheKeyboardOfAClosedPopupGoesToTheNextOne) {
+    cPopupWidget& first = MakeShown();
+    cPopupWidget& second = MakeShown();
+    second.activateWindow();
+    ASSERT_TRUE(WaitUntil([&] { return second.isActiveWindow(); }));
+    second.Close();
+    EXPECT_TRUE(WaitUntil([&] { return first.isActiveWindow(); }));
+}
+
+TEST_F(PopupWidget, APopupThatNobodyTypesInLeavesTheKeyboardWhereItIs) {
+    MakeShown();
+    cPopupWidget& second = MakeShown();
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(WaitUntil([&] { return other.isActiveWindow(); }));
+    second.Close();
+    RunEvents(50);
+    EXPECT_TRUE(other.isActiveWindow());
+}
+
+TEST_F(PopupWidget, TheEndOfTheProgramTakesPopupsAwayWithoutClosingThem) {
+    std::vector<QPointer<QWidget>> popups;
+    {
+        cOpenWindows windows;
+        cPopupWidgetMaker maker(windows);
+        for (int i = 0; i < 3; ++i) {
+            auto& popup = dynamic_cast<cPopupWidget&>(maker.MakePopup());
+            popup.OnUnload = [] { ADD_FAILURE() << "closed"; };
+            if (i != 1) popup.Show();
+            popups.emplace_back(&popup);
+        }
+        maker.Stack().Apply();
+    }
+    for (const QPointer<QWidget>& popup : popups) EXPECT_TRUE(popup.isNull());
+}
+
+TEST_F(PopupWidget, OneCoordinateThatIsSetLeavesTheOther) {
+    cPopupWidget& popup = MakeShown();
+    const double top = popup.Top();
+    popup.SetLeft(3000);
+    EXPECT_EQ(popup.Top(), top);
+    m_Maker.Stack().Apply();
+    EXPECT_EQ(popup.pos(), QPoint(200, ToPixels(top)));
+    popup.SetTop(1500);
+    EXPECT_EQ(popup.Left(), 3000);
+    m_Maker.Stack().Apply();
+    EXPECT_EQ(popup.pos(), QPoint(200, 100));
+}
+
+TEST_F(PopupWidget, ThePictureOfItsStateIsDrawnAndShowsTheKeyboard) {
+    cPopupWidget& popup = MakeShown();
+    for (int i = 0; i < 4; ++i) {
+        cPopupPicture& picture = Picture(popup, i);
+        picture.setVisible(true);
+        QImage expected(32, 32, QImage::Format_RGB32);
+        expected.fill(picture.palette().color(QPalette::Window));
+        QPainter painter(&expected);
+        QIcon(QString(":/icons/popup/%1.svg").arg(i)).paint(&painter, QRect(0, 0, 32, 32));
+        painter.end();
+        EXPECT_EQ(picture.grab().toImage().convertToFormat(QImage::Format_RGB32), expected) << i;
+        EXPECT_EQ(picture.cursor().shape(), Qt::PointingHandCursor);
+        picture.setVisible(false);
+    }
+    popup.activateWindow();
+    ASSERT_TRUE(WaitUntil([&] { return popup.isActiveWindow(); }));
+    cPopupPicture& picture = Picture(popup, 2);
+    picture.setVisible(true);
+    const QImage plain = picture.grab().toImage();
+    QTest::keyClick(popup.focusWidget(), Qt::Key_Tab);
+    ASSERT_TRUE(picture.hasFocus());
+    EXPECT_NE(picture.grab().toImage(), plain);
+}
+
+TEST_F(PopupWidget, ItsTextCanBeMarkedAndCopiedButNotChanged) {
+    cPopupWidget& popup = MakeShown();
+    popup.SetLabelText("Pump 1\r\nstopped");
+    QTest::keyClick(&Label(popup), Qt::Key_X);
+    QTest::keyClick(&Label(popup), Qt::Key_Delete);
+    QTest::keyClick(&Label(popup), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&Label(popup), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "Pump 1\nstopped");
+    EXPECT_TRUE(Label(popup).textInteractionFlags().testFlag(Qt::TextSelectableByMouse));
+    EXPECT_EQ(Label(popup).frameShape(), QFrame::NoFrame);
+    EXPECT_EQ(Label(popup).document()->documentMargin(), 0);
+    EXPECT_FALSE(Label(popup).isUndoRedoEnabled());
+}
+
+TEST_F(PopupWidget, ATabIsAsWideAsEightLetters) {
+    cPopupWidget& popup = Make();
+    for (const double points : {8.0, 20.0}) {
+        popup.SetLabelFont("Arial", points);
+        EXPECT_EQ(Label(popup).tabStopDistance(), 8 * Label(popup).fontMetrics().averageCharWidth());
+    }
 }
 
 TEST_F(PopupWidget, TopmostIsAskedOfTheWindowSystem) {
