@@ -1,4 +1,4 @@
-#include "receiver_ui/list/qt_report_list.h"
+#include "receiver_ui/report_list_rig.h"
 
 #include <gtest/gtest.h>
 
@@ -30,62 +30,6 @@ class cQtReportListRig {
 };
 
 INSTANTIATE_TYPED_TEST_SUITE_P(Qt, ReportListContract, cQtReportListRig);
-
-// A list of three columns (an icon, a text, the hidden time stamp) that shows 20 rows or so.
-class ReportList : public ::testing::Test {
-  protected:
-    ReportList() {
-        m_List.AddColumn("State", 50);
-        m_List.AddColumn("Text", 300);
-        m_List.AddColumn("CreatedTimeStamp", 0);
-        m_List.OnRowHeight = [] { return 21; };
-        m_List.SetFont("Arial", 12);
-        m_List.View().resize(600, 450);
-        m_List.View().show();
-        m_List.View().activateWindow();
-        m_List.View().setFocus();
-        EXPECT_TRUE(WaitUntil([this] { return m_List.View().hasFocus(); }));
-    }
-    RecordId Add(const std::string& text, double created) {
-        const RecordId record = m_Items.Add({std::string("1"), text, created});
-        m_Items.SetIcon(record, 0, 999);  // a number without picture
-        m_Items.SetText(record, 1, text);
-        m_Items.SetColours(record, 1, 0xFFFFFF, 0x0000FF);  // white on red
-        return record;
-    }
-    // What the intake does with each alarm.
-    RecordId Arrive(const std::string& text, double created) {
-        const RecordId record = Add(text, created);
-        m_List.TakeOverRecords();
-        m_List.SelectAndShow(record);
-        m_List.ClearSelection();
-        return record;
-    }
-    void Fill(int count) {
-        m_List.ClearSortOrder();
-        m_List.AddSortColumn(2, true);
-        for (int i = 0; i < count; ++i) m_Records.push_back(Add("alarm " + std::to_string(i), i));
-        m_List.TakeOverRecords();
-        m_List.Rows();
-    }
-    // Until what was done stands on the screen.
-    static void LetItFlush() { RunEvents(cQtReportList::kFlushMilliseconds + 20); }
-    QTableView& View() { return m_List.View(); }
-    QModelIndex Cell(int row, int column) { return View().model()->index(row, column); }
-    QPoint Middle(int row, int column) { return View().visualRect(Cell(row, column)).center(); }
-    QString Text(int row, int column) { return Cell(row, column).data().toString(); }
-    void ClickHeader(int column) {
-        QHeaderView* header = View().horizontalHeader();
-        const QPoint middle(header->sectionViewportPosition(column) + header->sectionSize(column) / 2,
-                            header->height() / 2);
-        QTest::mouseClick(header->viewport(), Qt::LeftButton, Qt::NoModifier, middle);
-    }
-
-    cIconStrip m_Icons;
-    cQtReportList m_List{nullptr, m_Icons};
-    cItemTable m_Items{m_List};
-    std::vector<RecordId> m_Records;
-};
 
 // --- flush
 
@@ -161,31 +105,6 @@ TEST_F(ReportList, HeadersCarryTheColumnsCaptionsAndPlacement) {
     EXPECT_TRUE(alignment(3).testFlag(Qt::AlignHCenter));
     EXPECT_TRUE(alignment(1).testFlag(Qt::AlignLeft));
 }
-
-class ReportListResizing : public ReportList {
-  protected:
-    ReportListResizing() {
-        m_List.OnColumnWidthChanged = [this](int column) { m_Told.push_back(column); };
-    }
-    // Takes hold of the right edge of a column and moves it in steps of ten pixels.
-    void Drag(int column, int steps) {
-        QHeaderView* header = View().horizontalHeader();
-        QWidget* viewport = header->viewport();
-        QPoint edge(header->sectionViewportPosition(column) + header->sectionSize(column) - 1,
-                    header->height() / 2);
-        QTest::mouseMove(viewport, edge);
-        QTest::mousePress(viewport, Qt::LeftButton, Qt::NoModifier, edge);
-        for (int i = 0; i < std::abs(steps); ++i) {
-            edge.rx() += steps > 0 ? 10 : -10;
-            QMouseEvent move(QEvent::MouseMove, edge, viewport->mapToGlobal(edge), Qt::NoButton,
-                             Qt::LeftButton, Qt::NoModifier);
-            QCoreApplication::sendEvent(viewport, &move);
-        }
-        EXPECT_TRUE(m_Told.empty()) << "told before the mouse was let go";
-        QTest::mouseRelease(viewport, Qt::LeftButton, Qt::NoModifier, edge);
-    }
-    std::vector<int> m_Told;
-};
 
 TEST_F(ReportListResizing, ADraggedWidthIsToldOnceWhenTheMouseIsLetGo) {
     Drag(1, 5);
@@ -308,21 +227,6 @@ TEST_F(ReportList, SortingByAClickTakesNothingOver) {
 }
 
 // --- keys
-
-class ReportListKeys : public ReportList {
-  protected:
-    ReportListKeys() {
-        m_List.OnKeyDown = [this](int code, int shift) {
-            const bool shiftKey = code >= 16 && code <= 18;
-            if (!shiftKey) m_Keys.emplace_back(code, shift);
-        };
-        m_List.OnRowDoubleClick = [this](RecordId record) { m_Chosen.push_back(record); };
-        Fill(5);
-    }
-    using Keys = std::vector<std::pair<int, int>>;
-    Keys m_Keys;
-    std::vector<RecordId> m_Chosen;
-};
 
 TEST_F(ReportListKeys, KeysComeAsVirtualKeyCodesWithTheirShiftState) {
     QTest::keyClick(&View(), Qt::Key_A, Qt::ControlModifier);
@@ -548,28 +452,6 @@ TEST_F(ReportList, TheRowHeightIsAskedForWhenTheFontChanges) {
     EXPECT_EQ(View().visualRect(Cell(1, 1)).height(), 37);
     EXPECT_EQ(View().horizontalHeader()->font().pointSizeF(), 24);
 }
-
-class ReportListPicture : public ReportList {
-  protected:
-    // The cell as it stands on the screen.
-    QImage Picture(int row, int column) {
-        LetItFlush();
-        return View().viewport()->grab(View().visualRect(Cell(row, column))).toImage();
-    }
-    // How many pixels of the picture have about that colour.
-    static int Count(const QImage& image, QColor colour) {
-        int count = 0;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                const QColor pixel = image.pixelColor(x, y);
-                count += std::abs(pixel.red() - colour.red()) + std::abs(pixel.green() - colour.green()) +
-                             std::abs(pixel.blue() - colour.blue()) <
-                         12;
-            }
-        }
-        return count;
-    }
-};
 
 TEST_F(ReportListPicture, AColouredCellIsDrawnInItsColours) {
     Fill(2);
