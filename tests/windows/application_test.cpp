@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDialog>
 #include <QPalette>
 #include <QSessionManager>
 #include <QTimer>
@@ -10,6 +11,7 @@
 #include <utility>
 
 #include "common/failure.h"
+#include "support/qt_wait.h"
 
 namespace vigrel::testing {
 namespace {
@@ -63,6 +65,30 @@ TEST(Application, AStepWithoutFailureRuns) {
 
 TEST(Application, GoesOnWithoutWindows) {
     EXPECT_FALSE(QApplication::quitOnLastWindowClosed());
+}
+
+TEST(Application, AStepIsRepeatedUntilAnotherTakesItsPlaceOrNone) {
+    int first = 0, second = 0;
+    Application().Repeat(1, [&] { ++first; });
+    EXPECT_TRUE(WaitUntil([&] { return first >= 3; }));
+    Application().Repeat(1, [&] { ++second; });
+    const int before = first;
+    EXPECT_TRUE(WaitUntil([&] { return second >= 3; }));
+    EXPECT_EQ(first, before);
+    Application().Repeat(0, [&] { ++second; });
+    const int last = second;
+    RunEvents(20);
+    EXPECT_EQ(second, last);
+}
+
+TEST(Application, RefusedDialogsAreClosedTheOneThatStandsAndTheNextUntilTheyAreAllowed) {
+    QDialog standing, next, allowed;
+    QTimer::singleShot(0, [] { Application().RefuseDialogs(); });
+    EXPECT_EQ(standing.exec(), QDialog::Rejected);
+    EXPECT_EQ(next.exec(), QDialog::Rejected);
+    Application().AllowDialogs();
+    QTimer::singleShot(200, &allowed, &QDialog::accept);
+    EXPECT_EQ(allowed.exec(), QDialog::Accepted);
 }
 
 double Luminance(const QColor& colour) {

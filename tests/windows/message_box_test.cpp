@@ -39,6 +39,55 @@ TEST_F(MessageBox, ShowsItsTextAsItStandsWithItsIcon) {
     });
 }
 
+TEST_F(MessageBox, EachKindHasItsIconAndLiesOverAllWindows) {
+    for (const auto& expected : {std::pair{eMessageIcon::Stop, QMessageBox::Critical},
+                                 {eMessageIcon::Warning, QMessageBox::Warning},
+                                 {eMessageIcon::Question, QMessageBox::Question}}) {
+        Show(expected.first, eMessageButtons::Ok, [&](const QMessageBox& box) {
+            EXPECT_EQ(box.icon(), expected.second);
+            EXPECT_EQ(box.parentWidget(), nullptr);
+            EXPECT_EQ(box.windowModality(), Qt::ApplicationModal);
+            EXPECT_TRUE(box.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+            EXPECT_EQ(box.standardButtons(), QMessageBox::Ok);
+            QTest::keyClick(box.button(QMessageBox::Ok), Qt::Key_Return);
+        });
+    }
+}
+
+TEST_F(MessageBox, ABoxForAWhileHasTheSameTextAndCanBeClosedBefore) {
+    bool seen = false;
+    QTimer::singleShot(0, [&] {
+        ASSERT_TRUE(WaitUntil([] { return QApplication::activeModalWidget() != nullptr; }));
+        auto& box = *qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        EXPECT_EQ(box.text(), "no disk");
+        EXPECT_EQ(box.icon(), QMessageBox::Warning);
+        seen = true;
+        box.button(QMessageBox::Ok)->click();
+    });
+    m_Box.ShowForAWhile("no disk", eMessageIcon::Warning);
+    EXPECT_TRUE(seen);
+}
+
+TEST_F(MessageBox, LeavesTheKeyboardToTheWindowThatHadIt) {
+    QWidget first, second;
+    for (QWidget* window : {&first, &second, &first}) {
+        window->show();
+        window->activateWindow();
+        ASSERT_TRUE(WaitUntil([&] { return window->isActiveWindow(); }));
+        Show(eMessageIcon::Warning, eMessageButtons::Ok, [&](QMessageBox& box) {
+            EXPECT_TRUE(WaitUntil([&] { return box.isActiveWindow(); }));
+            box.close();
+        });
+        EXPECT_TRUE(WaitUntil([&] { return window->isActiveWindow(); }));
+    }
+    // One that has become an icon meanwhile stays one.
+    Show(eMessageIcon::Warning, eMessageButtons::Ok, [&](QMessageBox& box) {
+        first.setWindowState(Qt::WindowMinimized);
+        box.close();
+    });
+    EXPECT_TRUE(first.isMinimized());
+}
+
 TEST_F(MessageBox, AnswersWithTheButtonPressed) {
     const auto press = [](QMessageBox::StandardButton button) {
         return [button](QMessageBox& box) { box.button(button)->click(); };
