@@ -75,11 +75,13 @@ void cLog::Append(std::string_view text) {
 }
 
 // The write protection is taken away only where it stands in the way: whoever may remove a file need not be
-// the one who may change it.
-void cLog::RemoveLog(const std::string& path) {
-    if (SkipFailure([&] { m_Files.RemoveFile(path); })) return;
+// the one who may change it. False for a log that somebody else has removed meanwhile.
+bool cLog::RemoveLog(const std::string& path) {
+    if (SkipFailure([&] { m_Files.RemoveFile(path); })) return true;
     SkipFailure([&] { m_Files.SetNormalAttributes(path); });
-    m_Files.RemoveFile(path);
+    const auto failure = CatchFailure([&] { m_Files.RemoveFile(path); });
+    if (failure && failure->Number() != eFailure::FileNotFound) throw *failure;
+    return !failure;
 }
 
 void cLog::CleanLogFiles(std::string_view mask, std::int16_t keepForDays) {
@@ -92,7 +94,7 @@ void cLog::CleanLogFiles(std::string_view mask, std::int16_t keepForDays) {
                            (now.day - Val(Mid(stem, 7, 2)));
         if (age <= keepForDays) continue;
         const std::string path = m_Folder + stem + ".LOG";
-        RemoveLog(path);
+        if (!RemoveLog(path)) continue;
         WriteLog(m_Texts.GetText(TextLogDeleted) + " " + WithPathsInCodePage(path) + ")");
     }
 }

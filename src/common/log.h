@@ -31,7 +31,7 @@ class cLog {
   private:
     bool TakesRefusal();
     void Append(std::string_view text);
-    void RemoveLog(const std::string& path);
+    bool RemoveLog(const std::string& path);
 
     cFiles& m_Files;
     const cClock& m_Clock;

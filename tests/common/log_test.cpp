@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "common/app_folder.h"
 #include "common/failure.h"
@@ -287,6 +288,20 @@ TEST(CleanLogFiles, AFailureToDeleteReachesTheCaller) {
     station.files.Put(kLogs + "20260101.log", "");
     station.files.m_FolderReadOnly = true;
     EXPECT_THROW(station.log.CleanLogFiles(kLogMask, 30), cFailure);
+}
+
+// As a nightly cleaning of the machine may do at the same time.
+TEST(CleanLogFiles, ALogThatSomebodyElseRemovesMeanwhileEndsNothing) {
+    cLoggingStation station;
+    station.files.Put(kLogs + "20260101.log", "");
+    station.files.Put(kLogs + "20260102.log", "");
+    bool isFirst = true;
+    station.files.m_OnCall = [&](std::string_view operation, std::string_view) {
+        if (operation != "remove" || !std::exchange(isFirst, false)) return;
+        station.files.RemoveFile(kLogs + "20260101.log");
+    };
+    station.log.CleanLogFiles(kLogMask, 30);
+    EXPECT_EQ(station.Today(), "12:30:15 Log file deleted ( C:\\App\\LogFiles\\20260102.LOG)\r\n");
 }
 
 TEST(CleanLogFiles, AMissingFolderHasNoLogs) {

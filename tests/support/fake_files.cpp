@@ -254,6 +254,7 @@ void cFakeFiles::MakeFolder(std::string_view path) {
 
 void cFakeFiles::SetNormalAttributes(std::string_view path) {
     Count("attributes", path);
+    if (Find(path) == nullptr) Fail(eFailure::FileNotFound, "the file does not exist", path);
     SetReadOnly(path, false);
 }
 
