@@ -51,6 +51,16 @@ TEST(ForeignConfiguration, AFolderOrPipeOfItsNameInAnotherCaseDoesNotStandInTheW
     EXPECT_EQ(station.Stop(SIGTERM), 0);
 }
 
+// The next start would take the four lines of the window's place for the whole configuration.
+TEST(ForeignConfiguration, OneThatIsTakenAwayFromARunningStationIsNotMadeAnewAtItsEnd) {
+    cStation station;
+    ASSERT_TRUE(station.Start()) << station.StandardError();
+    fs::remove(station.Folder() / "VigrelReceiver.INI");
+    EXPECT_EQ(station.Send({"--t0", "received"}).exitCode, 0);
+    EXPECT_EQ(station.Stop(SIGTERM), 0);
+    EXPECT_FALSE(fs::exists(station.Folder() / "VigrelReceiver.INI"));
+}
+
 TEST(PlantedFolders, NothingIsWrittenThroughALinkOfAnotherUsers) {
     cStation station;
     const fs::path victim = station.Folder() / "victim";
