@@ -1,8 +1,10 @@
 #include "receiver_ui/tray/notification_icon.h"
 
 #include <gtest/gtest.h>
+#include <signal.h>
 
 #include <QApplication>
+#include <QDBusConnectionInterface>
 #include <QElapsedTimer>
 #include <QThread>
 #include <initializer_list>
@@ -109,6 +111,15 @@ TEST_F(IconOnTheBus, AWatcherThatGoesIsToldOf) {
     Tell(&cBusHost::StopWatcher);
     EXPECT_TRUE(WaitUntil([this] { return !m_Notices.empty(); }, kSettled));
     EXPECT_EQ(m_Notices, "gone ");
+}
+
+// The last test: this program has no bus behind it.
+TEST_F(IconOnTheBus, ABusThatDiesTakesItsPanelAlong) {
+    const uint bus = QDBusConnection::sessionBus().interface()->servicePid("org.freedesktop.DBus");
+    ASSERT_EQ(kill(static_cast<pid_t>(bus), SIGKILL), 0);
+    EXPECT_TRUE(WaitUntil([this] { return !m_Notices.empty(); }, kSettled));
+    EXPECT_EQ(m_Notices, "gone ");
+    EXPECT_FALSE(m_Icon->HostAvailable());
 }
 
 }  // namespace

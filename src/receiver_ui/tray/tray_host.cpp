@@ -98,6 +98,9 @@ void cTrayHost::WatchBus() {
     for (const char* change : {"StatusNotifierHostRegistered", "StatusNotifierHostUnregistered"}) {
         m_Bus.connect(kWatcher, kWatcherPath, kWatcher, change, this, SLOT(AskBus()));
     }
+    // A bus that ends says of nobody that he has gone. Its library says this.
+    m_Bus.connect("", "/org/freedesktop/DBus/Local", "org.freedesktop.DBus.Local", "Disconnected", this,
+                  SLOT(AskBus()));
 }
 
 void cTrayHost::AskBus() {
