@@ -88,6 +88,21 @@ TEST(UnlistedAlarms, AreToldAndTheStationRuns) {
     EXPECT_EQ(station.Stop(SIGTERM), 0);
 }
 
+// It is an ordinary file by all its looks, and reading it fails: as one on a bad place of the disk.
+TEST(ForeignAlarms, OneThatTheDiskDoesNotGiveBackKeepsNoOtherFromTheStation) {
+    cStation station;
+    ASSERT_TRUE(station.Start()) << station.StandardError();
+    EXPECT_EQ(station.Send({"--t0", "here"}).exitCode, 0);
+    EXPECT_EQ(station.Stop(SIGTERM), 0);
+    const std::string bad = (station.Folder() / "Alarms" / "A0000000.alm").string();
+    fs::create_symlink("/proc/self/mem", bad);
+    ASSERT_TRUE(station.Start()) << station.StandardError();
+    EXPECT_TRUE(station.WaitForLog("1 T11004 A0000000.alm (" + bad + ": Input/output error)"));
+    EXPECT_TRUE(station.WaitForLog("1 T10041"));
+    EXPECT_EQ(station.Send({"--t0", "another"}).exitCode, 0);
+    EXPECT_EQ(station.Stop(SIGTERM), 0);
+}
+
 // A copy in upper case, such as one that comes back from a disk of another kind.
 TEST(ForeignAlarms, OneWhoseNameDiffersInCaseOnlyTakesNoOtherAlong) {
     cStation station;
