@@ -109,7 +109,6 @@ const cIniReader::cParsed& cIniReader::Parsed(std::string_view fileName) const {
     const auto failure = CatchFailure([&] { content = m_Files.ReadFile(path); });
     // What can't be read now may be readable at the next look without having changed.
     if (failure) parsed.stamp.settled = false;
-    if (!failure) parsed.wasThere = true;
     if (failure && failure->Number() != eFailure::FileNotFound) m_Problem = failure->what();
     cKeys* section = nullptr;
     for (const std::string& line : SplitLines(content)) {
@@ -136,15 +135,7 @@ std::string cIniReader::GetIniString(std::string_view section, std::string_view 
 }
 
 void cIniReader::Forget(std::string_view fileName) {
-    const auto cached = m_Cache.find(fileName);
-    if (cached == m_Cache.end()) return;
-    cached->second.stamp = kNoStamp;
-    cached->second.moment = 0;
-}
-
-bool cIniReader::WasThere(std::string_view fileName) const {
-    const auto cached = m_Cache.find(fileName);
-    return cached != m_Cache.end() && cached->second.wasThere;
+    if (const auto cached = m_Cache.find(fileName); cached != m_Cache.end()) m_Cache.erase(cached);
 }
 
 void cIni::PutIniString(std::string_view section, std::string_view key, std::string_view value,
@@ -154,8 +145,6 @@ void cIni::PutIniString(std::string_view section, std::string_view key, std::str
     // A file that is there and can't be read must not be replaced by one line.
     const auto failure = CatchFailure([&] { content = m_Files.ReadFile(path); });
     if (failure && failure->Number() != eFailure::FileNotFound) return;
-    // Nor must it take the place of one that somebody has moved away: the next start would take it for whole.
-    if (failure && WasThere(fileName)) return;
     const std::string entry = std::string(key) + "=" + std::string(value);
     SkipFailure([&] { ReplaceFile(m_Files, path, WithKey(std::move(content), section, key, entry)); });
     // A file system may stamp two contents written in quick succession alike.

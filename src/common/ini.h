@@ -63,8 +63,6 @@ class cIniReader {
   protected:
     // The next read looks at the file again, whatever its stamp.
     void Forget(std::string_view fileName);
-    // Whether the file has been read before.
-    bool WasThere(std::string_view fileName) const;
 
   private:
     template <class Integer>
@@ -72,11 +70,9 @@ class cIniReader {
                    Integer (*convert)(double)) const;
     friend class cIniMoment;
     using cKeys = std::map<std::string, std::string, cLessNoCase>;
-    static constexpr cFileReader::cStamp kNoStamp{.settled = false};
     struct cParsed {
-        cFileReader::cStamp stamp = kNoStamp;
+        cFileReader::cStamp stamp{.settled = false};
         std::uint64_t moment = 0;  // in which it was looked at last
-        bool wasThere = false;
         std::map<std::string, cKeys, cLessNoCase> sections;
     };
     const cParsed& Parsed(std::string_view fileName) const;
@@ -93,8 +89,7 @@ class cIniReader {
 class cIni : public cIniReader {
   public:
     cIni(cFiles& files, std::string applicationPath);
-    // Creates file, section and key as needed, and keeps every other line; a file that was read before and is
-    // gone is not made anew. A failed write is silent.
+    // Creates file, section and key as needed, and keeps every other line. A failed write is silent.
     void PutIniString(std::string_view section, std::string_view key, std::string_view value,
                       std::string_view fileName = kIniFile);
 

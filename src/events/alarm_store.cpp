@@ -40,41 +40,6 @@ class cStoppedClock : public cClock {
     double m_Steady;
 };
 
-using Unreadable = std::vector<cFileReader::cUnreadable>;
-
-// What may be readable for the next start ends this one.
-void LeaveOut(const std::string& name, const cFailure& failure, Unreadable& unreadable) {
-    if (failure.Number() == eFailure::Unavailable) throw failure;
-    // Somebody has just removed it.
-    if (failure.Number() == eFailure::FileNotFound) return;
-    unreadable.push_back({name, WithPathsInCodePage(failure.what())});
-}
-
-// Reads the files together up to the first that fails, and one by one from there, which looks at that one
-// again. A bad place of the disk under one alarm must not keep the others, and all new ones, from the
-// station.
-Unreadable ReadContents(const cFileReader& files, const std::string& folder,
-                        const std::vector<std::string>& names, const cFileReader::TakeContent& take) {
-    std::size_t next = 0;
-    bool reading = true;
-    const auto failure = CatchFailure([&] {
-        files.ReadFiles(folder, names, [&](std::size_t i, std::string content) {
-            reading = false;
-            take(i, std::move(content));
-            reading = true;
-            next = i + 1;
-        });
-    });
-    if (failure && !reading) throw *failure;
-    Unreadable unreadable;
-    for (; failure && next < names.size(); ++next) {
-        std::string content;
-        const auto failed = CatchFailure([&] { content = files.ReadFile(folder + names[next]); });
-        failed ? LeaveOut(names[next], *failed, unreadable) : take(next, std::move(content));
-    }
-    return unreadable;
-}
-
 }  // namespace
 
 cAlarmStore::cAlarmStore(const cServices& services, std::string applicationPath)
@@ -279,7 +244,7 @@ std::int32_t cAlarmStore::ReadFiles(std::vector<std::string> names, std::vector<
     const cAlarmMaker maker(clock, m_Services.categories);
     std::int32_t removed = 0;
     std::set<std::int32_t> oddlyNamed;
-    const auto take = [&](std::size_t i, const std::string& content) {
+    m_Services.ownFiles.ReadFiles(m_Folder, names, [&](std::size_t i, const std::string& content) {
         AlarmPtr alarm = maker.Make([&](cVigrelRecieverAlarm& read) {
             cBinaryReader file(content);
             read.ReadFromDisk(file);
@@ -293,8 +258,7 @@ std::int32_t cAlarmStore::ReadFiles(std::vector<std::string> names, std::vector<
         } else {
             alarms.push_back(std::move(alarm));
         }
-    };
-    TellUnreadable(ReadContents(m_Services.ownFiles, m_Folder, names, take));
+    });
     return removed;
 }
 

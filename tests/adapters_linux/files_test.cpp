@@ -62,7 +62,7 @@ TEST(LinuxFiles, WithoutDescriptorsNoNameIsTakenForMissing) {
         EXPECT_EQ(read(), std::nullopt);
         {
             const cNoDescriptors none;
-            EXPECT_EQ(read(), eFailure::Unavailable);
+            EXPECT_EQ(read(), eFailure::InputOutput);
             EXPECT_THROW(files.Spelling(path), cFailure);
             EXPECT_THROW(files.WriteFile(path, "", false), cFailure);
             EXPECT_THROW(files.RemoveFile(path), cFailure);

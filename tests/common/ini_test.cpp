@@ -205,20 +205,6 @@ TEST(PutIniString, AMissingFileIsCreated) {
     EXPECT_EQ(files.ReadFile(kPath), "[General]\r\nLanguage=046\r\n");
 }
 
-// The next start would take the one line for a whole configuration, and look for no template.
-TEST(PutIniString, AFileThatIsTakenAwayWhileTheProgramRunsIsNotMadeAnew) {
-    cIniFile file("[S]\r\na=1\r\n");
-    EXPECT_EQ(file.Get("S", "a"), "1");
-    file.ini.PutIniString("S", "a", "2");
-    file.files.RemoveFile(kPath);
-    file.ini.PutIniString("S", "a", "3");
-    EXPECT_FALSE(file.files.FileExists(kPath));
-    EXPECT_EQ(file.Get("S", "a"), "default");
-    file.files.Put(kPath, "[S]\r\na=4\r\n");
-    file.ini.PutIniString("S", "b", "5");
-    EXPECT_EQ(file.Content(), "[S]\r\na=4\r\nb=5\r\n");
-}
-
 TEST(PutIniString, OfARepeatedSectionTheFirstIsWritten) {
     cIniFile file("[S]\r\n[T]\r\n[S]\r\na=1\r\n");
     file.ini.PutIniString("S", "a", "9");

@@ -51,16 +51,6 @@ TEST(ForeignConfiguration, AFolderOrPipeOfItsNameInAnotherCaseDoesNotStandInTheW
     EXPECT_EQ(station.Stop(SIGTERM), 0);
 }
 
-// The next start would take the four lines of the window's place for the whole configuration.
-TEST(ForeignConfiguration, OneThatIsTakenAwayFromARunningStationIsNotMadeAnewAtItsEnd) {
-    cStation station;
-    ASSERT_TRUE(station.Start()) << station.StandardError();
-    fs::remove(station.Folder() / "VigrelReceiver.INI");
-    EXPECT_EQ(station.Send({"--t0", "received"}).exitCode, 0);
-    EXPECT_EQ(station.Stop(SIGTERM), 0);
-    EXPECT_FALSE(fs::exists(station.Folder() / "VigrelReceiver.INI"));
-}
-
 TEST(PlantedFolders, NothingIsWrittenThroughALinkOfAnotherUsers) {
     cStation station;
     const fs::path victim = station.Folder() / "victim";
@@ -85,21 +75,6 @@ TEST(UnlistedAlarms, AreToldAndTheStationRuns) {
     for (int i = 0; i < 100 && station.StandardError() != line; ++i)
         std::this_thread::sleep_for(std::chrono::milliseconds(100));
     EXPECT_EQ(station.StandardError(), line);
-    EXPECT_EQ(station.Stop(SIGTERM), 0);
-}
-
-// It is an ordinary file by all its looks, and reading it fails: as one on a bad place of the disk.
-TEST(ForeignAlarms, OneThatTheDiskDoesNotGiveBackKeepsNoOtherFromTheStation) {
-    cStation station;
-    ASSERT_TRUE(station.Start()) << station.StandardError();
-    EXPECT_EQ(station.Send({"--t0", "here"}).exitCode, 0);
-    EXPECT_EQ(station.Stop(SIGTERM), 0);
-    const std::string bad = (station.Folder() / "Alarms" / "A0000000.alm").string();
-    fs::create_symlink("/proc/self/mem", bad);
-    ASSERT_TRUE(station.Start()) << station.StandardError();
-    EXPECT_TRUE(station.WaitForLog("1 T11004 A0000000.alm (" + bad + ": Input/output error)"));
-    EXPECT_TRUE(station.WaitForLog("1 T10041"));
-    EXPECT_EQ(station.Send({"--t0", "another"}).exitCode, 0);
     EXPECT_EQ(station.Stop(SIGTERM), 0);
 }
 

@@ -766,49 +766,8 @@ TEST_F(AlarmStore, AFileCutShortStandsFirstInTheOrderOrGoesAsTooOld) {
     EXPECT_FALSE(files.FileExists(store.FileName(1)));
 }
 
-// As where the disk has a bad place.
-TEST_F(AlarmStore, AnAlarmFileThatTurnsOutNotToBeReadableIsLeftOutAndNamed) {
-    PutFile(1, 3, "a");
-    const std::string bad = PutFile(2, 2, "b");
-    files.SetUnreadable(bad, true);
-    PutFile(3, 1, "c");
-    Load();
-    EXPECT_EQ(Senders(), "ac");
-    EXPECT_EQ(Log(), "1 T11004 A0000002.alm (" + bad + ": the file can't be read)\n2 T10041\n");
-    EXPECT_EQ(AlarmFiles().size(), 3u);
-}
-
-// As by a file or folder of the machine that is cleaned at the same time.
-TEST_F(AlarmStore, AnAlarmFileThatSomebodyRemovesWhileTheyAreReadIsNoFailure) {
-    PutFile(1, 3, "a");
-    const std::string gone = PutFile(2, 2, "b");
-    PutFile(3, 1, "c");
-    files.m_OnRead = [&](std::string_view path) {
-        if (path == store.FileName(1)) files.RemoveFile(gone);
-    };
-    Load();
-    EXPECT_EQ(Senders(), "ac");
-    EXPECT_EQ(Log(), "2 T10041\n");
-}
-
-TEST_F(AlarmStore, AReadThatFailsOnceLeavesNoAlarmOut) {
-    for (int id = 1; id <= 3; ++id) PutFile(id, 4 - id, std::string(1, static_cast<char>('a' + id - 1)));
-    bool failed = false;
-    files.m_OnRead = [&](std::string_view path) {
-        if (path != store.FileName(2) || std::exchange(failed, true)) return;
-        throw cFailure(eFailure::InputOutput, "for once");
-    };
-    Load();
-    EXPECT_EQ(Senders(), "abc");
-    EXPECT_EQ(Log(), "3 T10041\n");
-}
-
-// The next start can have them again.
-TEST_F(AlarmStore, AMachineWithoutDescriptorsEndsTheStartAndLeavesNoAlarmOut) {
-    PutFile(1, 1);
-    files.m_OnRead = [&](std::string_view path) {
-        if (path == store.FileName(1)) throw cFailure(eFailure::Unavailable, "Too many open files");
-    };
+TEST_F(AlarmStore, AnAlarmFileThatCannotBeReadEndsTheStart) {
+    files.SetUnreadable(PutFile(1, 1), true);
     EXPECT_THROW(Load(), cFailure);
 }
 

@@ -138,7 +138,6 @@ class cFaultyFiles : public cFiles {
     }
     eFailure Number() const {
         if (m_Fault == eFault::DiskFull) return eFailure::DiskFull;
-        if (m_Fault == eFault::TooManyFiles) return eFailure::Unavailable;
         return m_Fault == eFault::Permission ? eFailure::PermissionDenied : eFailure::InputOutput;
     }
 

@@ -26,10 +26,6 @@ eFailure FailureNumber(int error) {
         case ENOTDIR:
         case EISDIR:
             return eFailure::PathAccess;
-        case EMFILE:
-        case ENFILE:
-        case ENOMEM:
-            return eFailure::Unavailable;
         default:
             return eFailure::InputOutput;
     }
