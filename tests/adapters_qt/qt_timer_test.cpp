@@ -59,6 +59,30 @@ TEST(QtTimer, TicksThatCameDueWhileTheLoopWasBusyArriveAsOne) {
     EXPECT_EQ(ticks, 1);
 }
 
+// What came while the program stood still is to be heard before a tick judges who was silent.
+TEST(QtTimer, ATickThatAStandstillMadeLateIsLeftOutOnce) {
+    cQtTimer timer(100);
+    int ticks = 0;
+    timer.OnTick = [&] { ++ticks; };
+    for (const int expected : {0, 1, 1, 2}) {
+        QThread::msleep(1300);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(ticks, expected);
+    }
+    EXPECT_TRUE(WaitUntil([&] { return ticks >= 4; }));
+}
+
+TEST(QtTimer, TheTimeForWhichItWasDisabledMakesNoTickLate) {
+    cQtTimer timer(20, false);
+    int ticks = 0;
+    timer.OnTick = [&] { ++ticks; };
+    QThread::msleep(1300);
+    timer.SetEnabled(true);
+    QThread::msleep(50);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(ticks, 1);
+}
+
 TEST(QtTimer, ItsIntervalCanBeReadAndSet) {
     cQtTimer timer(500);
     EXPECT_EQ(timer.Interval(), 500);
