@@ -118,15 +118,18 @@ TEST_F(ReportListResizing, ADoubleClickOnAnEdgeFitsTheColumnToItsTexts) {
     m_List.TakeOverRecords();
     m_List.Rows();
     LetItFlush();
-    const QFontMetrics bold([this] {
-        QFont font = View().font();
-        font.setBold(true);
-        return font;
-    }());
-    const int text = 8 + bold.horizontalAdvance("a text of some width, in bold");
     DoubleClickEdge(1);
     EXPECT_EQ(m_Told, std::vector<int>{1});
-    EXPECT_EQ(m_List.ColumnWidth(1), text);
+    EXPECT_EQ(m_List.ColumnWidth(1), 8 + BoldWidth("a text of some width, in bold"));
+}
+
+TEST_F(ReportListResizing, AFittedColumnHasRoomForTheIconBesideItsText) {
+    m_Items.SetIcon(Add("a text of some width, in bold", 1), 1, 2);
+    m_List.TakeOverRecords();
+    m_List.Rows();
+    LetItFlush();
+    DoubleClickEdge(1);
+    EXPECT_EQ(m_List.ColumnWidth(1), 8 + 16 + 4 + BoldWidth("a text of some width, in bold"));
 }
 
 TEST_F(ReportListResizing, AWidthThatTheOwnerSetsIsToldOnceAndReachesTheHeader) {

@@ -92,6 +92,11 @@ class ReportListResizing : public ReportList {
         EXPECT_TRUE(m_Told.empty()) << "told before the mouse was let go";
         QTest::mouseRelease(viewport, Qt::LeftButton, Qt::NoModifier, edge);
     }
+    int BoldWidth(const QString& text) {
+        QFont font = View().font();
+        font.setBold(true);
+        return QFontMetrics(font).horizontalAdvance(text);
+    }
     void DoubleClickEdge(int column) {
         QHeaderView* header = View().horizontalHeader();
         const QPoint edge(header->sectionViewportPosition(column) + header->sectionSize(column) - 1,

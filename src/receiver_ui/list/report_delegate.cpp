@@ -1,8 +1,8 @@
 #include "receiver_ui/list/report_delegate.h"
 
-#include <QAbstractItemView>
 #include <QHelpEvent>
 #include <QPainter>
+#include <QTableView>
 #include <QToolTip>
 
 #include "adapters/qt/qt_text.h"
@@ -149,7 +149,9 @@ void cReportDelegate::DrawFrame(QPainter& painter, const QStyleOptionViewItem& o
 
 QSize cReportDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
     const cReportItem item = m_Model.Item(index);
-    const int height = std::max(option.rect.height(), 1);
+    // The toolkit gives no place of a cell where it asks for the width of a column.
+    const auto* view = qobject_cast<const QTableView*>(option.widget);
+    const int height = view != nullptr ? view->rowHeight(index.row()) : std::max(option.rect.height(), 1);
     const int icon = item.icon >= 0 ? IconSize(height) + kMargin : 0;
     return {2 * kMargin + icon + QFontMetrics(m_Fonts[1]).horizontalAdvance(ShownText(item)), height};
 }
