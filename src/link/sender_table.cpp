@@ -42,6 +42,8 @@ void cSenderTable::ReadSenders() {
     if (section.characters >= static_cast<std::int32_t>(kSenderBuffer) - 2) WarnTooMany();
     m_SenderCount = 0;
     for (const std::string& entry : section.entries) {
+        // An empty one is the end of the list: a zero byte in the file can bring one about.
+        if (entry.empty()) break;
         if (entry.find('=') == std::string::npos || Trim(entry).starts_with(';')) continue;
         AddSender(entry);
         if (m_SenderCount == kMostSenders) {

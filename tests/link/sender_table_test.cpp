@@ -59,6 +59,15 @@ TEST_F(SenderTable, ALineIsNameEqualsMinutes) {
     EXPECT_TRUE(messageBox.m_Shown.empty());
 }
 
+TEST_F(SenderTable, AZeroByteEndsALineAndTheOneThatLeavesItEmptyEndsTheList) {
+    using std::string_literals::operator""s;
+    Read("Alpha=5\0Beta=6\r\nGamma=7\r\n\0Delta=8\r\nEpsilon=9\r\n"s);
+    ASSERT_EQ(table.m_SenderCount, 3);
+    EXPECT_EQ(Row(1).SenderName, "Beta");
+    EXPECT_EQ(Row(2).SenderName, "Gamma");
+    EXPECT_TRUE(messageBox.m_Shown.empty());
+}
+
 TEST_F(SenderTable, TheHundredthSenderEndsTheReadingWithAMessage) {
     std::string lines;
     for (int i = 1; i <= 101; ++i) lines += "S" + std::to_string(i) + "=1\r\n";

@@ -52,6 +52,11 @@ TEST_F(SendersCheck, ARepeatedSenderIsNeverHeard) {
               "stands in line 16 already, which counts; this line's sender is never heard");
 }
 
+TEST_F(SendersCheck, WhatStandsBehindALineOfAZeroByteIsNoSender) {
+    using std::string_literals::operator""s;
+    EXPECT_EQ(Senders("PLC1=5\r\n\0PLC2=40000\r\nPLC3=40000"s), "error utf-16 VigrelReceiver.INI");
+}
+
 TEST_F(SendersCheck, TheTableTakes100Senders) {
     EXPECT_EQ(Senders(Many(99)), "");
     EXPECT_EQ(Senders(Many(100)), "remark senders-full [Senders] PLC99");

@@ -299,11 +299,12 @@ TEST_F(Record, LostSendersComeFromAlarmsAndPopups) {
     EXPECT_EQ(measured.figures.load.activations, 0u);  // they are the station's, and told apart
 }
 
-// The log of their start can be gone for long.
+// The log of their start can be gone for long. A line of a zero byte ends them.
 TEST_F(Record, SendersOfTheConfigurationAreThereWithoutALine) {
+    using std::string_literals::operator""s;
     files.Put("/app/VigrelReceiver.INI",
               "[General]\r\nLanguage=044\r\n[Senders]\r\n;PLC0=1\r\nPLC1=5\r\nplc1=6\r\nPLC2=0\r\nPLC3=x\r\n"
-              "PLC4=99999\r\nno pair\r\n");
+              "PLC4=99999\r\nno pair\r\n\0PLC5=1\r\nPLC6=1\r\n"s);
     station.KeepAlive(day + 60);
     station.Line(day + 61, "PLC2 - " + station.Text(10013) + " 7 " + station.Text(10014));
     std::map<std::string, std::optional<std::int64_t>> minutes;

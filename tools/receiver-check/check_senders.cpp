@@ -22,7 +22,8 @@ class cSenderCheck {
         const std::size_t fitting = Read(kSenderBuffer).size();
         const std::vector<std::string> all = Read(m_Installation.Content().size() + 2);
         const std::vector<std::size_t> lines = LinesOf(all);
-        for (std::size_t i = 0; i < all.size(); ++i) {
+        // An empty one ends the table.
+        for (std::size_t i = 0; i < all.size() && !all[i].empty(); ++i) {
             if (i == fitting) {
                 m_Findings.Error("senders-dont-fit", PlaceOf(all[i], lines[i]),
                                  "section Senders fills more than " + std::to_string(kSenderBuffer) +

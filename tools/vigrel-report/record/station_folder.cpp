@@ -108,7 +108,10 @@ class cFolderReader {
             if (!IsCategorySection(section)) continue;
             m_Names.LearnCategory(Trim(section.substr(section.find('_') + 1)));
         }
-        for (const std::string& entry : Entries("Senders")) TakeSender(ini, entry);
+        for (const std::string& entry : Entries("Senders")) {
+            if (entry.empty()) break;  // the station's table ends there
+            TakeSender(ini, entry);
+        }
     }
 
     std::vector<std::string> Entries(std::string_view section) const {
