@@ -2,11 +2,16 @@
 
 #include <gtest/gtest.h>
 #include <signal.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
+#include <chrono>
+#include <fstream>
 #include <map>
 #include <string>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -106,6 +111,38 @@ TEST_F(Unseen, WithoutStandardStreamsWhatIsToldReachesNothingElse) {
     EXPECT_EQ(station.Stop(SIGTERM), 0);
 }
 
+TEST_F(Unseen, AReaderOfStandardErrorThatHasGoneEndsNothing) {
+    cStation station;
+    std::filesystem::create_directory(station.Folder() / "VigrelReceiver.lock");
+    station.m_InChild = [] {
+        std::array<int, 2> ends{};
+        if (pipe(ends.data()) != 0 || dup2(ends[1], STDERR_FILENO) < 0) _exit(1);
+        close(ends[0]);
+        close(ends[1]);
+    };
+    ASSERT_TRUE(station.Start());
+    EXPECT_TRUE(
+        station.WaitForLog("T11003: " + station.Folder().string() + "/VigrelReceiver.lock: Is a directory"));
+    EXPECT_EQ(station.Send({"--t0", "still here"}).exitCode, 0);
+    EXPECT_EQ(station.Stop(SIGTERM), 0);
+}
+
+// By the timer that drives sound and icon too, twice a second.
+TEST_F(Unseen, AFolderThatCannotBeListedIsToldAtTheFirstTick) {
+    cStation station;
+    station.ExpectStandardError();
+    std::ofstream(station.Folder() / "Alarms") << "no folder";
+    ASSERT_TRUE(station.Start());
+    const auto start = std::chrono::steady_clock::now();
+    const auto behind = [&] { return std::chrono::steady_clock::now() - start; };
+    while (station.StandardError().empty() && behind() < std::chrono::seconds(10))
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    EXPECT_LT(behind(), std::chrono::milliseconds(1500));
+    EXPECT_EQ(station.StandardError(),
+              "vigrel-receiver: T10053 (" + (station.Folder() / "Alarms").string() + "/: Not a directory)\n");
+    EXPECT_EQ(station.Stop(SIGTERM), 0);
+}
+
 TEST_F(Unseen, AMissingLanguageIsTold) {
     cStation station;
     station.ExpectStandardError();
@@ -141,6 +178,23 @@ TEST_F(Unseen, AlarmsPopupsAndTheirEndPrintNothing) {
     EXPECT_EQ(station.Send({"--count", "5", "--t2", "Fire", "--quiet"}).exitCode, 0);
     EXPECT_EQ(station.Stop(SIGTERM), 0);
     EXPECT_EQ(station.StandardError(), "");
+}
+
+TEST(NewFiles, AreForTheUserOfTheStationAlone) {
+    namespace fs = std::filesystem;
+    cStation station;
+    station.m_InChild = [] { umask(S_IWGRP | S_IWOTH); };
+    ASSERT_TRUE(station.Start()) << station.StandardError();
+    EXPECT_EQ(station.Send({"--t0", "stored"}).exitCode, 0);
+    const std::vector<fs::path> alarms = station.AlarmFiles();
+    ASSERT_EQ(alarms.size(), 1u);
+    const fs::path log = fs::directory_iterator(station.Folder() / "LogFiles")->path();
+    for (const fs::path& made : {alarms[0], log, station.Folder() / "VigrelReceiver.lock",
+                                 alarms[0].parent_path(), log.parent_path()}) {
+        const fs::perms others =
+            fs::status(made).permissions() & (fs::perms::group_all | fs::perms::others_all);
+        EXPECT_EQ(others, fs::perms::none) << made;
+    }
 }
 
 TEST(Sizes, BeyondEveryScreenKeepNoAlarmWaiting) {
