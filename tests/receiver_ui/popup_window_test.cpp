@@ -242,6 +242,23 @@ TEST_F(PopupWidget, AClickOnThePictureIsTold) {
     EXPECT_EQ(clicked, 1);
 }
 
+// Its first click has closed another popup that lay over this one.
+TEST_F(PopupWidget, TheSecondClickOfADoubleClickIsForNoPicture) {
+    cPopupWidget& popup = MakeShown();
+    popup.SetPictureVisible(1, true);
+    int clicks = 0;
+    popup.OnPictureClick = [&](int) { ++clicks; };
+    cPopupPicture& picture = Picture(popup, 1);
+    QMouseEvent second(QEvent::MouseButtonDblClick, picture.rect().center(),
+                       picture.mapToGlobal(picture.rect().center()), Qt::LeftButton, Qt::LeftButton,
+                       Qt::NoModifier);
+    QCoreApplication::sendEvent(&picture, &second);
+    QTest::mouseRelease(&picture, Qt::LeftButton);
+    EXPECT_EQ(clicks, 0);
+    QTest::mouseClick(&picture, Qt::LeftButton);
+    EXPECT_EQ(clicks, 1);
+}
+
 TEST_F(PopupWidget, TheLabelTakesNoClick) {
     cPopupWidget& popup = MakeShown();
     popup.OnPictureClick = [](int) { FAIL(); };

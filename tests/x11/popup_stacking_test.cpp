@@ -61,6 +61,15 @@ class PopupsUnderX : public ::testing::Test, protected cPopupStation {
     bool StacksAs(const std::string& order) {
         return WaitUntil([&] { return Stacked() == order; }) || (RunEvents(10), Stacked() == order);
     }
+    void ClickPicture(cPopupWidget& popup, int clicks) {
+        const auto& picture = *popup.findChild<cPopupPicture*>("Picture_Alarm_1");
+        ASSERT_TRUE(WaitUntil([&] { return popup.windowHandle()->isExposed(); }));
+        const QPoint place = picture.mapToGlobal(picture.rect().center());
+        QProcess mouse;
+        mouse.start("xdotool", {"mousemove", QString::number(place.x()), QString::number(place.y()), "sleep",
+                                "0.2", "click", "--repeat", QString::number(clicks), "--delay", "120", "1"});
+        EXPECT_TRUE(WaitUntil([&] { return mouse.state() == QProcess::NotRunning; }, 5000));
+    }
     // As the operator does with Alt+Tab.
     void GiveKeyboard(int number) {
         Popup(number).activateWindow();
@@ -246,6 +255,24 @@ TEST_F(PopupsUnderX, APopupThatComesBesideTheOneWithTheKeyboardDoesNotTakeIt) {
     ASSERT_TRUE(StacksAs("21"));
     RunEvents(100);
     EXPECT_TRUE(HasKeyboard(1));
+}
+
+// The second click was meant for the popup that the first one closed; what lies there now hasn't been read.
+TEST_F(PopupsUnderX, ADoubleClickOnAPictureClosesOne) {
+    Configure("WindowPosition=STATIC\nX_Start=100\nY_Start=200\n");
+    for (const bool onlyOne : {false, true}) {
+        m_Settings.m_ViewOnlyOnePopupForm = onlyOne;
+        OpenAll({"X", "X", "X"});
+        const std::string before = onlyOne ? "4" : "321";
+        ASSERT_TRUE(StacksAs(before)) << Stacked();
+        ClickPicture(Popup(before[0] - '0'), 2);
+        ASSERT_TRUE(StacksAs(onlyOne ? "5" : "21")) << Stacked();
+        RunEvents(200);
+        EXPECT_EQ(m_State.m_PopupFormCount, 2) << onlyOne;
+        ClickPicture(Popup(onlyOne ? 5 : 2), 1);
+        EXPECT_TRUE(StacksAs(onlyOne ? "6" : "1")) << Stacked();
+        m_Popups.ClosePopups();
+    }
 }
 
 TEST_F(PopupsUnderX, AllClosedAtOnceLeaveTheKeyboardToTheWindowBehind) {

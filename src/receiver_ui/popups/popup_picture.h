@@ -2,11 +2,12 @@
 
 #include <QAbstractButton>
 #include <QIcon>
+#include <QMouseEvent>
 
 namespace vigrel {
 
 // The status picture of a popup: a click on it, or Space or Enter while it has the keyboard, closes the
-// popup.
+// popup. The second click of a double click is none: it was meant for the popup that the first one closed.
 class cPopupPicture : public QAbstractButton {
   public:
     static constexpr int kSize = 32;  // pixels
@@ -17,6 +18,7 @@ class cPopupPicture : public QAbstractButton {
   protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override { event->accept(); }
 
   private:
     const QIcon& m_Icon;
