@@ -109,6 +109,7 @@ class cWidgetWindow : public Widget, public Port {
     }
 
   protected:
+    cOpenWindows& Windows() { return m_Windows; }
     // Changes a native window live; telling the toolkit in its usual way would make a new one.
     void SetStaysOnTop(bool on) {
         this->overrideWindowFlags(this->windowFlags().setFlag(Qt::WindowStaysOnTopHint, on));

@@ -30,7 +30,8 @@ class cPopupThatCounts : public cStackedPopup {
 class PopupStack : public ::testing::Test {
   protected:
     cPopupThatCounts m_First, m_Second, m_Third;
-    cPopupStack m_Stack;
+    cOpenWindows m_Windows;
+    cPopupStack m_Stack{m_Windows};
 };
 
 TEST_F(PopupStack, AllWishesOfAPopupReachTheScreenAtOnce) {
@@ -187,6 +188,30 @@ TEST_F(PopupStack, ANewOrderLeavesAQuestionInFront) {
     m_Stack.Schedule(m_First);
     m_Stack.Apply();
     EXPECT_EQ(raises.m_Count, 1) << "where nothing was raised";
+}
+
+TEST_F(PopupStack, ComesUpAgainOverAWindowThatStaysOnTopToo) {
+    m_Windows.KeepOver(eLayer::Main);
+    EXPECT_FALSE(m_Stack.Waits());
+    for (cPopupThatCounts* popup : {&m_First, &m_Second}) m_Stack.Raise(*popup);
+    m_Stack.Apply();
+    m_Windows.KeepOver(eLayer::Main);
+    EXPECT_TRUE(WaitUntil([&] { return m_First.m_Raised == 2 && m_Second.m_Raised == 2; }));
+    EXPECT_EQ(m_First.m_Reached, 1) << "nothing was wished of it";
+    m_Windows.KeepOver(eLayer::Popups);
+    m_Stack.Apply();
+    EXPECT_EQ(m_Second.m_Raised, 2);
+}
+
+TEST_F(PopupStack, ANewOrderIsFollowedByWhatLiesOverThePopups) {
+    int noticeRaised = 0;
+    m_Windows.SetRaise(eLayer::Notice, [&] { ++noticeRaised; });
+    m_Stack.Raise(m_First);
+    m_Stack.Apply();
+    EXPECT_EQ(noticeRaised, 1);
+    m_Stack.Schedule(m_First);
+    m_Stack.Apply();
+    EXPECT_EQ(noticeRaised, 1) << "where nothing was raised";
 }
 
 }  // namespace

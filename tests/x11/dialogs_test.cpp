@@ -71,20 +71,9 @@ class DialogsUnderX : public ::testing::Test {
     cMainWindow m_Main{m_Windows};
 };
 
-// A question. Until it is answered nothing else takes a key or a click, so that it must be seen whatever
-// happens meanwhile.
-class BoxesUnderX : public DialogsUnderX {
+// Windows that stay on top, and which of them lies over which.
+class LayersUnderX : public DialogsUnderX {
   protected:
-    void Ask(const std::function<void(QMessageBox&)>& meanwhile) {
-        QTimer::singleShot(0, [&] {
-            ASSERT_TRUE(WaitUntil([] { return QApplication::activeModalWidget() != nullptr; }));
-            auto& box = *qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            EXPECT_TRUE(WaitUntil([&] { return m_Screen.ActiveWindow() == IdOf(box); }));
-            meanwhile(box);
-            box.reject();
-        });
-        cQtMessageBox("Vigrel").Show("Close?", eMessageIcon::Question, eMessageButtons::YesNo);
-    }
     void OpenPopup() {
         cPopupWindow& popup = m_Popups.MakePopup();
         popup.SetTopMost(true);
@@ -105,6 +94,86 @@ class BoxesUnderX : public DialogsUnderX {
 
     cPopupWidgetMaker m_Popups{m_Windows};
     cPopupWidget* m_Popup = nullptr;  // the newest
+};
+
+TEST_F(LayersUnderX, PopupsLieOverAMainWindowThatStaysOnTop) {
+    m_Main.SetTopMost(true);
+    OpenPopup();
+    const cPopupWidget& first = *m_Popup;
+    OpenPopup();
+    for (int i = 0; i < 3; ++i) {
+        ASSERT_TRUE(GiveKeyboard(*m_Popup));
+        BringMainToTheFront();
+        EXPECT_TRUE(HasKeyboard(m_Main));
+        EXPECT_TRUE(IsOver(first, m_Main)) << i;
+        EXPECT_TRUE(IsOver(*m_Popup, first)) << i;
+    }
+}
+
+// Over a notice that its text has brought up.
+class NoticesUnderX : public LayersUnderX {
+  protected:
+    NoticesUnderX() { Tell("The disk is full."); }
+    void Tell(const char* text) {
+        m_Notice.SetText(text);
+        m_Notice.Show();
+        EXPECT_TRUE(WaitUntil([&] { return Position(m_Notice) >= 0; }));
+    }
+
+    cNoticeWindow m_Notice{m_Windows};
+};
+
+TEST_F(NoticesUnderX, LieOverThePopupsThatCome) {
+    for (int i = 0; i < 3; ++i) {
+        OpenPopup();
+        EXPECT_TRUE(IsOver(m_Notice, *m_Popup)) << i;
+    }
+    EXPECT_TRUE(HasKeyboard(m_Main));
+}
+
+TEST_F(NoticesUnderX, LieOverAMainWindowThatStaysOnTop) {
+    m_Main.SetTopMost(true);
+    QWidget other;
+    other.show();
+    ASSERT_TRUE(GiveKeyboard(other));
+    BringMainToTheFront();
+    EXPECT_TRUE(HasKeyboard(m_Main));
+    EXPECT_TRUE(IsOver(m_Notice, m_Main));
+}
+
+TEST_F(NoticesUnderX, ComeBackToTheFrontWithTheirNextText) {
+    OpenPopup();
+    ASSERT_TRUE(IsOver(m_Notice, *m_Popup));
+    // As a click on it does.
+    m_Popup->raise();
+    FlushToScreen();
+    ASSERT_TRUE(IsOver(*m_Popup, m_Notice));
+    Tell("The disk is still full.");
+    EXPECT_TRUE(IsOver(m_Notice, *m_Popup));
+}
+
+TEST_F(NoticesUnderX, PutAwayStayAwayWhenAPopupComes) {
+    Iconify(m_Notice);
+    ASSERT_TRUE(WaitUntil([&] { return IsIcon(m_Notice); }));
+    OpenPopup();
+    RunEvents(100);
+    EXPECT_TRUE(IsIcon(m_Notice));
+}
+
+// A question. Until it is answered nothing else takes a key or a click, so that it must be seen whatever
+// happens meanwhile.
+class BoxesUnderX : public LayersUnderX {
+  protected:
+    void Ask(const std::function<void(QMessageBox&)>& meanwhile) {
+        QTimer::singleShot(0, [&] {
+            ASSERT_TRUE(WaitUntil([] { return QApplication::activeModalWidget() != nullptr; }));
+            auto& box = *qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            EXPECT_TRUE(WaitUntil([&] { return m_Screen.ActiveWindow() == IdOf(box); }));
+            meanwhile(box);
+            box.reject();
+        });
+        cQtMessageBox("Vigrel").Show("Close?", eMessageIcon::Question, eMessageButtons::YesNo);
+    }
 };
 
 TEST_F(BoxesUnderX, LieOverThePopupsThatAreThereAndThoseThatCome) {

@@ -26,6 +26,23 @@ cNoticeWindow::cNoticeWindow(cOpenWindows& windows) : cWidgetWindow("Vigrel_Rece
     layout->setSpacing(kMargin);
     layout->addWidget(icon, 0, Qt::AlignTop);
     layout->addWidget(&m_Label, 1);
+    windows.SetRaise(eLayer::Notice, [this] { RaiseAgain(); });
+}
+
+cNoticeWindow::~cNoticeWindow() {
+    Windows().SetRaise(eLayer::Notice, nullptr);
+}
+
+void cNoticeWindow::Show() {
+    cWidgetWindow::Show();
+    RaiseAgain();
+    Windows().KeepOver(eLayer::Notice);
+    FlushToScreen();
+}
+
+// One that the operator has put away stays so until its next text.
+void cNoticeWindow::RaiseAgain() {
+    if (isVisible() && !isMinimized()) raise();
 }
 
 void cNoticeWindow::SetText(std::string_view text) {

@@ -13,12 +13,16 @@ namespace vigrel {
 class cNoticeWindow : public cWidgetWindow<cWindow> {
   public:
     explicit cNoticeWindow(cOpenWindows& windows);
+    ~cNoticeWindow() override;
     void SetText(std::string_view text);
+    void Show() override;
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
+    void RaiseAgain();
+
     cPlainLabel m_Label;
 };
 

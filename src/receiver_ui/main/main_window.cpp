@@ -103,7 +103,11 @@ void cMainWindow::ComeToFront() {
     if (m_FrontWished) return;
     raise();
     activateWindow();
-    KeepBoxInFront();
+    if (windowFlags().testFlag(Qt::WindowStaysOnTopHint)) {
+        Windows().KeepOver(eLayer::Main);
+    } else {
+        KeepBoxInFront();
+    }
     FlushToScreen();
     m_FrontTimer.start();
     m_RefusedTimer.start();

@@ -4,7 +4,6 @@
 #include <iterator>
 #include <limits>
 
-#include "windows/box_in_front.h"
 #include "windows/screen_flush.h"
 
 namespace vigrel {
@@ -16,10 +15,15 @@ void Erase(std::vector<cStackedPopup*>& popups, const cStackedPopup& popup) {
 
 }  // namespace
 
-cPopupStack::cPopupStack() {
+cPopupStack::cPopupStack(cOpenWindows& windows) : m_Windows(windows) {
+    m_Windows.SetRaise(eLayer::Popups, [this] { RaiseAll(); });
     m_Timer.setSingleShot(true);
     m_Timer.setTimerType(Qt::PreciseTimer);
     QObject::connect(&m_Timer, &QTimer::timeout, &m_Timer, [this] { Due(); });
+}
+
+cPopupStack::~cPopupStack() {
+    m_Windows.SetRaise(eLayer::Popups, nullptr);
 }
 
 void cPopupStack::Raise(cStackedPopup& popup) {
@@ -48,6 +52,14 @@ void cPopupStack::Schedule(cStackedPopup& popup) {
     if (!popup.m_Waits) m_Waiting.push_back(&popup);
     popup.m_Waits = true;
     // Not 0: such a timer waits for a moment without sockets, which a busy link never gives.
+    if (!m_Timer.isActive()) m_Timer.start(1);
+}
+
+// In a turn: an alarm that has brought the other window up may have come with many.
+void cPopupStack::RaiseAll() {
+    if (m_OnScreen.empty()) return;
+    m_OnScreen.clear();
+    m_NewWishes = true;
     if (!m_Timer.isActive()) m_Timer.start(1);
 }
 
@@ -103,7 +115,7 @@ void cPopupStack::BringInOrder() {
     auto changed =
         std::mismatch(wished.rbegin(), wished.rend(), m_OnScreen.rbegin(), m_OnScreen.rend()).first;
     std::for_each(changed, wished.rend(), [](cStackedPopup* popup) { popup->RaiseOnScreen(); });
-    if (changed != wished.rend()) KeepBoxInFront();
+    if (changed != wished.rend()) m_Windows.KeepOver(eLayer::Popups);
     m_OnScreen = wished;
     FlushToScreen();
 }

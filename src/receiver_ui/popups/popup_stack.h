@@ -5,6 +5,8 @@
 #include <deque>
 #include <vector>
 
+#include "windows/open_windows.h"
+
 namespace vigrel {
 
 // What the stack needs of a popup.
@@ -45,7 +47,11 @@ class cPopupStack {
     // something else.
     static constexpr int kPassOnMilliseconds = 1000;
 
-    cPopupStack();
+    explicit cPopupStack(cOpenWindows& windows);
+    ~cPopupStack();
+    cPopupStack(const cPopupStack&) = delete;
+    cPopupStack& operator=(const cPopupStack&) = delete;
+
     // On top of all.
     void Raise(cStackedPopup& popup);
     void PlaceBehind(cStackedPopup& popup, const cStackedPopup& other);
@@ -66,6 +72,8 @@ class cPopupStack {
     const std::vector<cStackedPopup*>& Order() const { return m_Order; }
 
   private:
+    // Another window has come up over them.
+    void RaiseAll();
     void Due();
     void Turn(qint64 milliseconds);
     void BringInOrder();
@@ -73,6 +81,7 @@ class cPopupStack {
     qint64 RestLeft() const;
     std::vector<cStackedPopup*> VisibleOrder() const;
 
+    cOpenWindows& m_Windows;
     std::vector<cStackedPopup*> m_Order;
     std::vector<cStackedPopup*> m_OnScreen;  // the visible ones, as they were last brought in order
     std::deque<cStackedPopup*> m_Waiting;    // in the order of the wishes

@@ -95,7 +95,7 @@ class cPopupWidgetMaker : public cPopupMaker {
     cOpenWindows& m_Windows;
     PopupIcons m_Icons;
     QIcon m_WindowIcon;
-    cPopupStack m_Stack;
+    cPopupStack m_Stack{m_Windows};
     int m_Step = 0;
 };
 
