@@ -11,7 +11,6 @@ QFont FontOf(std::string_view name, double points) {
     constexpr double kSmallest = 5, kLargest = 500;
     QFont font;
     font.setFamilies(QStringList{ToQString(name), "Sans Serif"});
-    font.setStyleHint(QFont::SansSerif);
     font.setPointSizeF(std::clamp(points, kSmallest, kLargest));
     return font;
 }

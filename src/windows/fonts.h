@@ -5,8 +5,9 @@
 
 namespace vigrel {
 
-// The font that the settings name, in that size in points, or a plain sans font in its stead where the
-// machine lacks it. A size that can't be read is raised to the smallest that can.
+// The font that the settings name, in that size in points. Where the machine lacks it: what stands in for it
+// there, such as a free font of the same measures, or else a plain sans font. A size that can't be read is
+// raised to the smallest that can.
 QFont FontOf(std::string_view name, double points);
 
 }  // namespace vigrel

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QFontInfo>
 #include <QWidget>
 
 #include "windows/fonts.h"
@@ -49,7 +50,13 @@ TEST(FontOf, HasASizeThatCanBeReadAndAWayOutForANameThatThereIsNot) {
     EXPECT_EQ(FontOf("Arial", 5.5).pointSizeF(), 5.5);
     EXPECT_EQ(FontOf("Arial", 1e6).pointSizeF(), 500);
     EXPECT_EQ(FontOf("\xC5rial", 9).families(), (QStringList{QString::fromUtf8("Årial"), "Sans Serif"}));
-    EXPECT_EQ(FontOf("Arial", 9).styleHint(), QFont::SansSerif);
+}
+
+// A font that isn't there has one of the same measures on most machines, which the columns' widths count on.
+TEST(FontOf, IsTheOneThatTheDesktopHasForTheName) {
+    for (const char* name : {"Arial", "Courier New", "Times New Roman", "DejaVu Sans", "MS Sans Serif"}) {
+        EXPECT_EQ(QFontInfo(FontOf(name, 9)).family(), QFontInfo(QFont(name)).family()) << name;
+    }
 }
 
 }  // namespace
