@@ -21,7 +21,7 @@ struct cReceiverState {
     bool m_ListChanged = false;  // the next tick of Timer_Play recounts and redraws
     std::int16_t m_SoundState = SoundSilent;
     std::int32_t m_SoundDelayCounter = 0;  // milliseconds waited since the last repeat ended
-    std::int32_t m_PopupFormCount = 0;     // loaded popup windows, over weeks more than 16 bits hold
+    std::int16_t m_PopupFormCount = 0;     // loaded popup windows
     double m_DelcomDllVersion = 0;         // 0: no signal light library
 };
 

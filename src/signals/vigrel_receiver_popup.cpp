@@ -1,6 +1,7 @@
 #include "signals/vigrel_receiver_popup.h"
 
 #include "common/failure.h"
+#include "common/numbers.h"
 
 namespace vigrel {
 
@@ -8,7 +9,7 @@ void Vigrel_Receiver_Popup::Load() {
     m_PriorityIndex = kUnlistedPriority;
     const std::string object = cSettingReader(m_Services.ini, "General").Text("Object");
     m_Window.SetCaption(m_Services.texts.GetText(TextTitle) + " (" + object + ")");
-    ++m_Services.state.m_PopupFormCount;
+    m_Services.state.m_PopupFormCount = ToInt16(m_Services.state.m_PopupFormCount + 1);
 }
 
 void Vigrel_Receiver_Popup::Resize() {

@@ -264,19 +264,6 @@ TEST_F(ShowPopup, ASizeOfZeroIsASize) {
     EXPECT_EQ(m_Maker[1].Height(), 0);
 }
 
-// A station that nobody is at gathers them for weeks.
-TEST_F(ShowPopup, ThereCanBeMoreThan32767) {
-    m_Settings.m_EventSignalUntilNoMorePopupForms = true;
-    m_State.m_SoundState = SoundRepeatPause;
-    m_State.m_PopupFormCount = 32767;
-    const int popup = Show("C");
-    EXPECT_EQ(m_Maker.Visible(), "1");
-    EXPECT_EQ(m_State.m_PopupFormCount, 32768);
-    m_Maker[popup].Close();
-    EXPECT_EQ(m_State.m_PopupFormCount, 32767);
-    EXPECT_EQ(m_State.m_SoundState, SoundRepeatPause) << "others are open";
-}
-
 // --- failing steps
 
 TEST_F(ShowPopup, ASettingOutOfRangeOpensNoPopup) {
