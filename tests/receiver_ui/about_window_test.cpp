@@ -9,6 +9,7 @@
 #include "common/ini.h"
 #include "support/fake_files.h"
 #include "support/fake_timer.h"
+#include "support/paintings.h"
 #include "support/qt_wait.h"
 #include "support/raises.h"
 #include "windows/desktop.h"
@@ -60,6 +61,14 @@ TEST_F(AboutWindow, ShowsTheProgramsPictureBesideItsWords) {
     EXPECT_EQ(words.y(), 20);
     EXPECT_GE(words.width(), 260);
     EXPECT_EQ(window.size(), QSize(words.geometry().right() + 1 + 20, words.geometry().bottom() + 1 + 20));
+}
+
+// The start goes on behind it, and comes to the event loop when it is through.
+TEST_F(AboutWindow, IsPaintedWhenItsShowIsOver) {
+    cAboutWindow window(m_Windows, m_Screen, m_Texts, std::make_unique<cFakeTimer>(cAboutBox::kTickInterval));
+    const cPaintings paintings(window);
+    window.Show();
+    EXPECT_GT(paintings.m_Count, 0);
 }
 
 TEST_F(AboutWindow, CanBeClosedAndNeitherSizedNorMadeAnIcon) {

@@ -40,13 +40,17 @@ class Markup : public ::testing::TestWithParam<const char*> {
         }
         m_Files.Put("C:\\App\\Vigrel_Texts.001", texts);
         m_Texts.LoadTexts();
+        // A main window that was closed outside of an event loop has asked the next one to end at once.
+        QTimer::singleShot(0, [] { QCoreApplication::exit(); });
+        QCoreApplication::exec();
     }
     // Lets the event loop act on the dialog that blocks the caller.
-    static void WithDialog(const std::function<void(QDialog&)>& look) {
-        QTimer::singleShot(0, [look] {
+    void WithDialog(const std::function<void(QDialog&)>& look) {
+        QTimer::singleShot(0, [this, look] {
             ASSERT_TRUE(WaitUntil([] { return QApplication::activeModalWidget() != nullptr; }));
             auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
             look(*dialog);
+            m_Looked = true;
             dialog->reject();
         });
     }
@@ -57,6 +61,7 @@ class Markup : public ::testing::TestWithParam<const char*> {
     cIni m_Ini{m_Files, "C:\\App\\"};
     cTexts m_Texts{m_Files, m_Ini};
     cOpenWindows m_Windows;
+    bool m_Looked = false;
 };
 
 INSTANTIATE_TEST_SUITE_P(Kinds, Markup, ::testing::ValuesIn(kMarkup));
@@ -125,11 +130,13 @@ TEST_P(Markup, InAMessageBoxIsPlain) {
         ExpectAllPlain(box);
     });
     cQtMessageBox("Vigrel").Show(text, eMessageIcon::Warning, eMessageButtons::Ok);
+    EXPECT_TRUE(m_Looked);
 }
 
 TEST_P(Markup, InADialogOfTheToolkitIsPlain) {
     WithDialog([&](QDialog& dialog) { ExpectAllPlain(dialog); });
     QInputDialog::getText(nullptr, "Title", shown);
+    EXPECT_TRUE(m_Looked);
 }
 
 TEST_P(Markup, InTheAboutBoxIsPlain) {

@@ -1,12 +1,21 @@
 #include "receiver_ui/dialogs/about_window.h"
 
+#include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QThread>
 
 #include "common/window_procedures.h"
 #include "windows/plain_text.h"
 
 namespace vigrel {
+namespace {
+
+// The longest that the start waits for the window system.
+constexpr int kPaintMilliseconds = 300;
+
+}  // namespace
 
 cAboutWindow::cAboutWindow(cOpenWindows& windows, const cScreen& screen, const cTexts& texts,
                            std::unique_ptr<cTimer> timerUnload)
@@ -41,6 +50,26 @@ void cAboutWindow::Show() {
     // Over the main window, which keeps the keyboard.
     raise();
     FlushToScreen();
+    AwaitPainting();
+}
+
+// A window can be painted once the window system has said that it shows. The start, which goes on behind the
+// box, hears that at its end only; later the event loop is there for it.
+void cAboutWindow::AwaitPainting() const {
+    if (thread()->loopLevel() > 0) return;
+    QElapsedTimer time;
+    time.start();
+    while (!m_Painted && isVisible() && time.elapsed() < kPaintMilliseconds) {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
+                                        QEventLoop::ExcludeSocketNotifiers);
+        QThread::msleep(1);
+    }
+    FlushToScreen();
+}
+
+void cAboutWindow::paintEvent(QPaintEvent* event) {
+    cWidgetWindow::paintEvent(event);
+    m_Painted = true;
 }
 
 void cAboutWindow::keyPressEvent(QKeyEvent* event) {

@@ -15,15 +15,20 @@ class cAboutWindow : public cWidgetWindow<cWindow> {
     cAboutWindow(cOpenWindows& windows, const cScreen& screen, const cTexts& texts,
                  std::unique_ptr<cTimer> timerUnload);
 
+    // Painted when it is over, also where the event loop has not begun.
     void Show() override;
 
   protected:
     void Closed() override { m_Box.Unload(); }
     void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
   private:
+    void AwaitPainting() const;
+
     std::unique_ptr<cTimer> m_TimerUnload;
     cAboutBox m_Box;
+    bool m_Painted = false;
 };
 
 }  // namespace vigrel

@@ -34,8 +34,6 @@ void cQtOtherWindows::ShowAboutBox(const cTexts& texts) {
     m_About = std::make_unique<cAboutWindow>(m_Services.windows, m_Services.screen, texts,
                                              std::make_unique<cQtTimer>(cAboutBox::kTickInterval));
     m_About->Show();
-    // The start goes on behind it, so it is painted now.
-    m_About->repaint();
 }
 
 // The same window, so that one that the operator has moved aside stays there.
