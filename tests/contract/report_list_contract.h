@@ -244,6 +244,26 @@ TYPED_TEST_P(ReportListContract, TextsSortByTheUpperCasedCodePage) {
     EXPECT_EQ(this->TakenOver(), (std::vector<RecordId>{empty, ten, nine, a, b, c, auml, aring, ouml}));
 }
 
+TYPED_TEST_P(ReportListContract, LongTextsSortByTheFirstLetterInWhichTheyDiffer) {
+    for (const bool ascending : {true, false}) {
+        TypeParam rig;
+        cReportList& list = rig.List();
+        cItemTable items(list);
+        list.AddColumn("text", 100);
+        list.AddSortColumn(0, ascending);
+        // The later the letter, the further in front.
+        std::vector<RecordId> expected;
+        for (std::size_t place = 0; place < 40; ++place) {
+            std::string text(40, 'b');
+            text[place] = 'c';
+            expected.push_back(items.Add({text}));
+        }
+        if (ascending) std::reverse(expected.begin(), expected.end());
+        list.TakeOverRecords();
+        EXPECT_EQ(list.Rows(), expected) << ascending;
+    }
+}
+
 TYPED_TEST_P(ReportListContract, NumbersStandInFrontOfTexts) {
     this->AddColumns(1);
     const RecordId text = this->AddText("1"), number = this->Add({99.0});
@@ -403,20 +423,23 @@ TYPED_TEST_P(ReportListContract, TheFontSizeReadsBack) {
     EXPECT_EQ(this->List().FontPoints(), 12.5);
 }
 
-REGISTER_TYPED_TEST_SUITE_P(
-    ReportListContract, ColumnsAreCountedFromZeroAndKeepTheirTagAndWidth,
-    AColumnOrItemOrRecordThatIsNotThereIsAFailure, AChangedWidthIsTold, ARecordKeepsItsTagUntilItIsRemoved,
-    IdsAreNeverUsedTwice, ItemsAreThoseThatTheOwnerGives, WithoutAnOwnerItemsAreEmpty,
-    RecordsGetRowsWhenTheListTakesThemOver, OnlyRecordsAddedBeforeTheTakeOverGetRows,
-    ARemovedRecordTakesItsRowWithIt, ARecordCanGoBetweenTakeOverAndTheNextLook, AllRecordsCanGoAtOnce,
-    WithoutSortOrderRowsStandByAge, DateTimesSortByNumber, EveryNumberHasAPlaceInBothDirections,
-    RowsOfAnyValueGoWithTheirRecords, TextsSortByTheUpperCasedCodePage, NumbersStandInFrontOfTexts,
-    EqualValuesStandByAgeAndADescendingOrderIsTheReverse, ASecondSortColumnDecidesBetweenEqualsOfTheFirst,
-    ARecordWithoutTheSortedItemSortsAsAnEmptyText, ANewSortOrderHoldsFromTheNextTakeOver,
-    AChangedValueMovesTheRowAtTheNextTakeOver, ARecordWhoseValueChangedCanBeRemoved,
-    NewRecordsFindTheirPlaceAmongTheRows, SelectedRowsComeInDisplayOrder, ARecordWithoutRowIsNotSelected,
-    ARowCanBeSelectedRightAfterTheTakeOver, AnArrivalLeavesNoSelection,
-    AnOrderOfMoreColumnsDropsTheSelectionOfARowThatIsGone, TheSelectionFollowsItsRowsThroughChanges,
-    TheFontSizeReadsBack);
+REGISTER_TYPED_TEST_SUITE_P(ReportListContract, ColumnsAreCountedFromZeroAndKeepTheirTagAndWidth,
+                            AColumnOrItemOrRecordThatIsNotThereIsAFailure, AChangedWidthIsTold,
+                            ARecordKeepsItsTagUntilItIsRemoved, IdsAreNeverUsedTwice,
+                            ItemsAreThoseThatTheOwnerGives, WithoutAnOwnerItemsAreEmpty,
+                            RecordsGetRowsWhenTheListTakesThemOver, OnlyRecordsAddedBeforeTheTakeOverGetRows,
+                            ARemovedRecordTakesItsRowWithIt, ARecordCanGoBetweenTakeOverAndTheNextLook,
+                            AllRecordsCanGoAtOnce, WithoutSortOrderRowsStandByAge, DateTimesSortByNumber,
+                            EveryNumberHasAPlaceInBothDirections, RowsOfAnyValueGoWithTheirRecords,
+                            TextsSortByTheUpperCasedCodePage, LongTextsSortByTheFirstLetterInWhichTheyDiffer,
+                            NumbersStandInFrontOfTexts, EqualValuesStandByAgeAndADescendingOrderIsTheReverse,
+                            ASecondSortColumnDecidesBetweenEqualsOfTheFirst,
+                            ARecordWithoutTheSortedItemSortsAsAnEmptyText,
+                            ANewSortOrderHoldsFromTheNextTakeOver, AChangedValueMovesTheRowAtTheNextTakeOver,
+                            ARecordWhoseValueChangedCanBeRemoved, NewRecordsFindTheirPlaceAmongTheRows,
+                            SelectedRowsComeInDisplayOrder, ARecordWithoutRowIsNotSelected,
+                            ARowCanBeSelectedRightAfterTheTakeOver, AnArrivalLeavesNoSelection,
+                            AnOrderOfMoreColumnsDropsTheSelectionOfARowThatIsGone,
+                            TheSelectionFollowsItsRowsThroughChanges, TheFontSizeReadsBack);
 
 }  // namespace vigrel::testing

@@ -118,6 +118,19 @@ TEST_F(DebugWindow, ColumnsAreWideEnoughForWhatStandsInThem) {
     }
 }
 
+TEST_F(DebugWindow, ColumnsAreWideEnoughForTheirCaptionsInEveryLanguage) {
+    m_Files.Put("C:\\App\\Vigrel_Texts.001",
+                "272=Time of the record by the clock\n273=To or from here\n274=Text\n");
+    m_Texts.LoadTexts();
+    Open();
+    for (int column = 0; column < 2; ++column) {
+        const QHeaderView& header = *List().horizontalHeader();
+        const QString caption = List().model()->headerData(column, Qt::Horizontal).toString();
+        const int margins = 2 * header.style()->pixelMetric(QStyle::PM_HeaderMargin);
+        EXPECT_GE(header.sectionSize(column), header.fontMetrics().horizontalAdvance(caption) + margins);
+    }
+}
+
 TEST_F(DebugWindow, ColumnsTakeTheUsersWidths) {
     m_Settings.m_Values = {{"DebugViewColWidth1", "1500"}, {"DebugViewColWidth2", "50"}};
     Open();

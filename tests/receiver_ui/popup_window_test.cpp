@@ -91,8 +91,16 @@ TEST_F(PopupWidget, HasTheDesignGeometryAndShowsNoPicture) {
         EXPECT_EQ(Picture(popup, i).geometry(), QRect(6, 14, 32, 32));
         EXPECT_TRUE(Picture(popup, i).isHidden());
     }
-    EXPECT_THROW(popup.SetPictureVisible(4, true), cFailure);
-    EXPECT_THROW(popup.PictureLeft(-1), cFailure);
+}
+
+TEST_F(PopupWidget, APictureThatThereIsNoneOfIsAFailure) {
+    cPopupWidget& popup = Make();
+    for (const int picture : {-1, 4}) {
+        EXPECT_THROW(popup.SetPictureBackColour(picture, 0), cFailure) << picture;
+        EXPECT_THROW(popup.SetPictureVisible(picture, true), cFailure) << picture;
+        EXPECT_THROW(popup.PictureLeft(picture), cFailure) << picture;
+        EXPECT_THROW(popup.PictureWidth(picture), cFailure) << picture;
+    }
 }
 
 TEST_F(PopupWidget, IsAmongTheOpenWindowsFromTheStart) {
@@ -174,6 +182,25 @@ TEST_F(PopupWidget, AScrollBarStandsBesideTextThatDoesNotFitAndNowhereElse) {
     }
 }
 
+TEST_F(PopupWidget, AFontInWhichTheTextFitsTakesTheScrollBarAway) {
+    cPopupWidget& popup = MakeShown();
+    std::string text;
+    for (int words = 1; words <= 36; ++words) {
+        text += "alarm ";
+        if (words < 15 || words % 3 != 0) continue;
+        for (double points = 8; points < 14; points += 0.5) {
+            popup.SetLabelFont("MS Sans Serif", 20);
+            popup.SetLabelText(text);
+            RunEvents(5);
+            EXPECT_TRUE(Label(popup).verticalScrollBar()->isVisible()) << words;
+            popup.SetLabelFont("MS Sans Serif", points);
+            RunEvents(5);
+            EXPECT_EQ(Label(popup).verticalScrollBar()->isVisible(), !FitsWithoutBar(Label(popup)))
+                << words << " words of " << points;
+        }
+    }
+}
+
 TEST_F(PopupWidget, TheLabelTakesItsFont) {
     cPopupWidget& popup = Make();
     popup.SetLabelFontStyle(true, true);
@@ -207,6 +234,9 @@ TEST_F(PopupWidget, TheLabelGoesWhereItIsPutAndRefusesNegativeSizes) {
     EXPECT_THROW(popup.SetLabelWidth(-1), cFailure);
     EXPECT_THROW(popup.SetLabelHeight(-1), cFailure);
     EXPECT_EQ(Label(popup).geometry(), QRect(20, 10, 100, 40));
+    popup.SetLabelWidth(0);
+    popup.SetLabelHeight(0);
+    EXPECT_EQ(Label(popup).geometry(), QRect(20, 10, 0, 0));
 }
 
 TEST_F(PopupWidget, TellsOfItsResizes) {
@@ -259,6 +289,14 @@ TEST_F(PopupWidget, TheSecondClickOfADoubleClickIsForNoPicture) {
     EXPECT_EQ(clicks, 1);
 }
 
+TEST_F(PopupWidget, AClickOnThePictureThatNobodyHearsDoesNothing) {
+    cPopupWidget& popup = MakeShown();
+    popup.SetPictureVisible(1, true);
+    QTest::mouseClick(&Picture(popup, 1), Qt::LeftButton);
+    EXPECT_TRUE(popup.isVisible());
+    EXPECT_TRUE(m_Windows.Holds(popup));
+}
+
 TEST_F(PopupWidget, TheLabelTakesNoClick) {
     cPopupWidget& popup = MakeShown();
     popup.OnPictureClick = [](int) { FAIL(); };
@@ -301,7 +339,11 @@ TEST_F(PopupWidget, AssistiveToolsFindAButtonWithAName) {
     QAccessibleInterface* picture = QAccessible::queryAccessibleInterface(&Picture(popup, 1));
     ASSERT_NE(picture, nullptr);
     EXPECT_EQ(picture->role(), QAccessible::Button);
-    EXPECT_EQ(picture->text(QAccessible::Name), "Active, close");
+    const char* const names[] = {"Inactive, close", "Active, close", "Acknowledged, close", "Message, close"};
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_EQ(Picture(popup, i).accessibleName(), names[i]);
+        EXPECT_EQ(Picture(popup, i).accessibleDescription(), "Closes the popup");
+    }
     popup.SetLabelText("Pump 1");
     QAccessibleInterface* label = QAccessible::queryAccessibleInterface(&Label(popup));
     ASSERT_NE(label, nullptr);
@@ -545,16 +587,22 @@ TEST_F(PopupWidget, APopupThatWasHiddenWhereNoScreenIsIsBroughtBack) {
 
 TEST_F(PopupWidget, NewPopupsStandOnAStairThatStaysOnTheScreen) {
     const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+    constexpr int kStep = 26;
     double last = 0;
-    int fresh = 0;
+    int fresh = 0, right = 0, bottom = 0;
     for (int i = 0; i < 60; ++i) {
         cPopupWidget& popup = Make();
-        EXPECT_TRUE(
-            room.contains(QRect(QPoint(ToPixels(popup.Left()), ToPixels(popup.Top())), popup.size())));
+        // With what the window manager puts around it.
+        const QRect frame(QPoint(ToPixels(popup.Left()), ToPixels(popup.Top())),
+                          popup.size() + QSize(kStep, kStep));
+        EXPECT_TRUE(room.contains(frame)) << i;
+        right = std::max(right, frame.right());
+        bottom = std::max(bottom, frame.bottom());
         if (popup.Left() < last) ++fresh;
         last = popup.Left();
     }
     EXPECT_GE(fresh, 1);
+    EXPECT_TRUE(right + kStep > room.right() || bottom + kStep > room.bottom()) << "down to the edge";
 }
 
 TEST_F(PopupWidget, TheStairBeginsAnewWhenAllPopupsAreGone) {

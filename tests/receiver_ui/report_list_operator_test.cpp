@@ -7,6 +7,7 @@
 
 #include "receiver_ui/list/key_codes.h"
 #include "receiver_ui/report_list_rig.h"
+#include "support/markup.h"
 
 namespace vigrel::testing {
 namespace {
@@ -111,6 +112,23 @@ TEST_F(ReportListResizing, AHiddenColumnThatSortsStaysHidden) {
     EXPECT_TRUE(View().horizontalHeader()->isSectionHidden(2));
 }
 
+TEST_F(ReportListResizing, AColumnCannotBeMadeWiderByKeysThanEveryScreen) {
+    QTest::keyClick(&View(), Qt::Key_2, Qt::ControlModifier);
+    m_List.SetColumnWidth(1, 31990);
+    for (int i = 0; i < 2; ++i) QTest::keyClick(&View(), Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_EQ(m_List.ColumnWidth(1), 32000);
+}
+
+TEST_F(ReportListResizing, AWidthMadeByKeysIsNotToldAgainByAClick) {
+    QTest::keyClick(&View(), Qt::Key_2, Qt::ControlModifier);
+    QTest::keyClick(&View(), Qt::Key_Plus, Qt::ControlModifier);
+    ASSERT_EQ(m_Told, std::vector<int>{1});
+    ClickHeader(0);
+    const QHeaderView* header = View().horizontalHeader();
+    QTest::mouseDClick(header->viewport(), Qt::LeftButton, Qt::NoModifier, {20, header->height() / 2});
+    EXPECT_EQ(m_Told.size(), 1u);
+}
+
 // --- columns
 
 TEST_F(ReportListResizing, ADoubleClickOnAnEdgeFitsTheColumnToItsTexts) {
@@ -124,12 +142,47 @@ TEST_F(ReportListResizing, ADoubleClickOnAnEdgeFitsTheColumnToItsTexts) {
 }
 
 TEST_F(ReportListResizing, AFittedColumnHasRoomForTheIconBesideItsText) {
-    m_Items.SetIcon(Add("a text of some width, in bold", 1), 1, 2);
+    for (const int icon : {0, 2}) {
+        m_List.RemoveAllRecords();
+        m_Items.SetIcon(Add("a text of some width, in bold", 1), 1, icon);
+        m_List.TakeOverRecords();
+        m_List.Rows();
+        LetItFlush();
+        m_Told.clear();
+        DoubleClickEdge(1);
+        EXPECT_EQ(m_List.ColumnWidth(1), 8 + 16 + 4 + BoldWidth("a text of some width, in bold")) << icon;
+    }
+}
+
+TEST_F(ReportListResizing, IconsOfLowRowsCanStillBeMadeOut) {
+    m_List.OnRowHeight = [] { return 10; };
+    m_List.SetFont("Arial", 6);
+    m_Items.SetIcon(Add("a text of some width", 1), 1, 2);
     m_List.TakeOverRecords();
     m_List.Rows();
     LetItFlush();
     DoubleClickEdge(1);
-    EXPECT_EQ(m_List.ColumnWidth(1), 8 + 16 + 4 + BoldWidth("a text of some width, in bold"));
+    EXPECT_EQ(m_List.ColumnWidth(1), 8 + 8 + 4 + BoldWidth("a text of some width"));
+}
+
+TEST_F(ReportListResizing, AColumnThatJustFitsItsTextHasNoToolTip) {
+    Add("a text of some width, in bold", 1);
+    m_List.TakeOverRecords();
+    m_List.Rows();
+    LetItFlush();
+    const auto hasToolTip = [this] {
+        QToolTip::hideText();
+        EXPECT_TRUE(WaitUntil([] { return ShownToolTip() == nullptr; }));
+        const QPoint place = Middle(0, 1);
+        QHelpEvent help(QEvent::ToolTip, place, View().viewport()->mapToGlobal(place));
+        QCoreApplication::sendEvent(View().viewport(), &help);
+        return ShownToolTip() != nullptr;
+    };
+    DoubleClickEdge(1);
+    EXPECT_FALSE(hasToolTip());
+    View().setColumnWidth(1, View().columnWidth(1) - 1);
+    EXPECT_TRUE(hasToolTip());
+    QToolTip::hideText();
 }
 
 TEST_F(ReportListResizing, AWidthThatTheOwnerSetsIsToldOnceAndReachesTheHeader) {
@@ -301,6 +354,36 @@ TEST_F(ReportList, ToGoElsewhereFromAMenuCountsOnceAsLosingTheFocus) {
     EXPECT_EQ(told, 1);
 }
 
+TEST(ReportListAlone, AWindowLeftBeforeTheListHadTheFocusIsNotTold) {
+    const cIconStrip icons;
+    cQtReportList list(nullptr, icons);
+    int told = 0;
+    list.OnFocusChange = [&] { ++told; };
+    QEvent elsewhere(QEvent::WindowDeactivate);
+    QCoreApplication::sendEvent(&list.View(), &elsewhere);
+    EXPECT_EQ(told, 0);
+}
+
+TEST_F(ReportListResizing, WhatTheOperatorDoesWhereNobodyHearsItWorksAllTheSame) {
+    Fill(3);
+    LetItFlush();
+    m_List.OnColumnWidthChanged = nullptr;
+    Drag(1, 2);
+    EXPECT_EQ(m_List.ColumnWidth(1), 320);
+    QTest::mouseClick(View().viewport(), Qt::LeftButton, Qt::NoModifier, Middle(1, 1));
+    QTest::mouseDClick(View().viewport(), Qt::LeftButton, Qt::NoModifier, Middle(1, 1));
+    QTest::keyClick(&View(), Qt::Key_Return);
+    QTest::keyClick(&View(), Qt::Key_Down);
+    EXPECT_EQ(m_List.SelectedRows(), std::vector<RecordId>{m_Records[2]});
+    QFocusEvent toMenu(QEvent::FocusOut, Qt::PopupFocusReason);
+    QFocusEvent away(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+    QEvent elsewhere(QEvent::WindowDeactivate);
+    for (QEvent* event : {static_cast<QEvent*>(&toMenu), &elsewhere, static_cast<QEvent*>(&away)}) {
+        QCoreApplication::sendEvent(&View(), event);
+    }
+    EXPECT_EQ(m_List.Rows(), m_Records);
+}
+
 // --- look
 
 TEST(ReportListAlone, ItsRowsFitItsFontUntilSomebodyKnowsBetter) {
@@ -317,6 +400,30 @@ TEST(ReportListAlone, ItsRowsFitItsFontUntilSomebodyKnowsBetter) {
     list.OnRowHeight = [] { return 0; };
     list.SetFont("Arial", 20);
     EXPECT_EQ(rows->defaultSectionSize(), 1);
+}
+
+TEST(ReportListAlone, HasNoFrameAndNoMarkOfAnOrderToBeginWith) {
+    const cIconStrip icons;
+    cQtReportList list(nullptr, icons);
+    list.AddColumn("Text", 100);
+    list.View().show();
+    EXPECT_EQ(list.View().viewport()->x(), 0);
+    EXPECT_EQ(list.View().Header().y(), 0);
+    EXPECT_EQ(list.View().Header().sortIndicatorSection(), -1);
+}
+
+TEST(ReportListAlone, TheKeysBeginInTheFirstColumnThatShows) {
+    const cIconStrip icons;
+    for (const auto& [key, row] : {std::pair{Qt::Key_End, 2}, {Qt::Key_Home, 0}}) {
+        cQtReportList list(nullptr, icons);
+        cItemTable items(list);
+        for (const int width : {0, 100, 100}) list.AddColumn("Text", width);
+        for (int i = 0; i < 3; ++i) items.Add({"text"});
+        list.TakeOverRecords();
+        ASSERT_EQ(list.Rows().size(), 3u);
+        QTest::keyClick(&list.View(), key);
+        EXPECT_EQ(list.View().currentIndex(), list.View().model()->index(row, 1));
+    }
 }
 
 TEST(ReportListAlone, CanBeHiddenAndShown) {
@@ -351,6 +458,43 @@ TEST_F(ReportListPicture, ASelectedCellShowsItsOwnColourThroughTheSelections) {
     };
     EXPECT_TRUE(middle == through(QPalette::Active) || middle == through(QPalette::Inactive))
         << middle.name().toStdString();
+}
+
+TEST_F(ReportListPicture, TheWordsOfACellWithoutColoursAreTheListsAndTheSelectionsWhereItIsSelected) {
+    QPalette palette = View().palette();
+    palette.setColor(QPalette::Text, QColor(0, 0, 200));
+    palette.setColor(QPalette::HighlightedText, QColor(200, 200, 0));
+    palette.setColor(QPalette::Highlight, QColor(0, 100, 0));
+    View().setPalette(palette);
+    Fill(1);
+    m_Items.SetText(m_Records[0], 0, "HH");
+    m_Items.SetIcon(m_Records[0], 0, -1);
+    const QImage plain = Picture(0, 0);
+    m_List.SelectAndShow(m_Records[0]);
+    const QImage selected = Picture(0, 0);
+    EXPECT_GT(Count(plain, QColor(0, 0, 200)), 5);
+    EXPECT_EQ(Count(plain, QColor(200, 200, 0)), 0);
+    EXPECT_GT(Count(selected, QColor(200, 200, 0)), 5);
+    EXPECT_EQ(Count(selected, QColor(0, 0, 200)), 0);
+}
+
+TEST_F(ReportListPicture, WhatChangesTheLookIsPaintedByItself) {
+    Fill(1);
+    LetItFlush();
+    int painted = 0;
+    m_List.OnBeforeDrawRow = [&](RecordId, cReportList::cFontStyle&) { ++painted; };
+    const auto isPainted = [&] {
+        painted = 0;
+        return WaitUntil([&] { return painted > 0; }, 2 * cQtReportList::kFlushMilliseconds);
+    };
+    RunEvents(50);
+    EXPECT_FALSE(isPainted());
+    m_List.Redraw();
+    EXPECT_TRUE(isPainted());
+    m_List.SetFontStyle(true, false);
+    EXPECT_TRUE(isPainted());
+    m_List.SetColumnPlacement(1, 1, 0);
+    EXPECT_TRUE(isPainted());
 }
 
 TEST_F(ReportListPicture, AFineLinePartsTheRows) {
@@ -428,6 +572,25 @@ TEST_F(ReportListPicture, EachPaintingAsksOnceForTheStyleOfARow) {
     asked.clear();
     View().viewport()->grab();
     EXPECT_EQ(asked, m_Records);
+}
+
+TEST_F(ReportListPicture, TheTextOfAnEmptyListStandsInItsMiddleInAFaintColour) {
+    LetItFlush();
+    QPalette palette = View().palette();
+    palette.setColor(QPalette::PlaceholderText, QColor(0, 0, 200));
+    View().setPalette(palette);
+    m_List.SetEmptyText("HHHHH");
+    LetItFlush();
+    const QImage picture = View().viewport()->grab().toImage();
+    QRect text;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (picture.pixelColor(x, y) == QColor(0, 0, 200)) text |= QRect(x, y, 1, 1);
+        }
+    }
+    EXPECT_GT(text.width(), 10);
+    EXPECT_LT(std::abs(text.center().x() - picture.width() / 2), 5);
+    EXPECT_LT(std::abs(text.center().y() - picture.height() / 2), 5);
 }
 
 TEST_F(ReportListPicture, TheTextOfAnEmptyListGoesWithTheFirstRow) {
