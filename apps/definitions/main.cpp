@@ -7,6 +7,7 @@
 
 #include "adapters/linux/application_folder.h"
 #include "adapters/linux/file_rights.h"
+#include "adapters/linux/folder_turn.h"
 #include "adapters/linux/linux_files.h"
 #include "adapters/linux/native_path.h"
 #include "adapters/linux/standard_error_box.h"
@@ -137,6 +138,8 @@ int Run(int argc, char** argv) {
     cLinuxFiles files;
     if (!HasConfiguration(files, applicationPath)) return kExitRefused;
     application.Guard([&] {
+        MakeApplicationFolder(applicationPath);
+        const cFolderTurn turn(applicationPath);
         FillApplicationFolder(files, applicationPath, FindInstalledFolder(hints.programFolder),
                               FormerFolder(hints));
     });

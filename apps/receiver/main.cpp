@@ -9,6 +9,7 @@
 
 #include "adapters/linux/application_folder.h"
 #include "adapters/linux/file_rights.h"
+#include "adapters/linux/folder_turn.h"
 #include "adapters/linux/linux_files.h"
 #include "adapters/linux/native_path.h"
 #include "adapters/linux/notify_socket.h"
@@ -69,6 +70,17 @@ cFirstStartHints FirstStartHints() {
             screen.height()};
 }
 
+// True when it was no application folder before.
+bool PrepareFolder(cFiles& files, const cFolderHints& hints, cFirstStart& firstStart) {
+    const std::string applicationPath = FindApplicationFolder(hints);
+    MakeApplicationFolder(applicationPath);
+    const cFolderTurn turn(applicationPath);
+    const bool isNew = FillApplicationFolder(files, applicationPath, FindInstalledFolder(hints.programFolder),
+                                             FormerFolder(hints));
+    firstStart.Prepare();
+    return isNew;
+}
+
 // Why the station's files lie elsewhere than by the program, when they do.
 void TellElsewhere(const cFolderHints& hints, bool isNew, cMessageBox& box) {
     const auto why = WhyElsewhere(hints);
@@ -90,12 +102,10 @@ int RunStation(cApplication& application, cServiceManager& serviceManager, const
         messageBox.Show(*why, eMessageIcon::Stop, eMessageButtons::Ok);
         return kExitRefused;
     }
-    const bool isNew = FillApplicationFolder(files, applicationPath, FindInstalledFolder(hints.programFolder),
-                                             FormerFolder(hints));
     const cQtLocale locale;
     cIni ini(files, applicationPath);
     cFirstStart firstStart(files, ini, locale, FirstStartHints());
-    firstStart.Prepare();
+    const bool isNew = PrepareFolder(files, hints, firstStart);
     const auto speakLanguage = [&] {
         application.SpeakLanguage(cSettingReader(ini, "General").Text("Language"));
     };

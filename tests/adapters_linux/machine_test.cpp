@@ -5,15 +5,18 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <chrono>
 #include <cstdlib>
 #include <ctime>
 #include <memory>
 #include <optional>
 #include <string>
+#include <thread>
 
 #include "adapters/linux/file_rights.h"
 #include "adapters/linux/folder_lock.h"
+#include "adapters/linux/folder_turn.h"
 #include "adapters/linux/linux_files.h"
 #include "adapters/linux/local_running_apps.h"
 #include "adapters/linux/standard_random.h"
@@ -230,6 +233,30 @@ TEST(FolderLock, AProgramThatWasKilledLeavesTheFolderFree) {
     EXPECT_EQ(WEXITSTATUS(status), 0);
     cFolderLock lock(folder.Folder());
     EXPECT_FALSE(lock.AnotherIsRunning());
+}
+
+TEST(FolderTurn, TheNextOneBeginsWhereTheOneBeforeEnds) {
+    const cTemporaryFolder folder;
+    std::atomic<bool> ended{false};
+    auto first = std::make_unique<cFolderTurn>(folder.Folder());
+    std::thread next([&] {
+        const cFolderTurn turn(folder.Folder());
+        EXPECT_TRUE(ended);
+    });
+    std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    ended = true;
+    first.reset();
+    next.join();
+}
+
+TEST(FolderTurn, OneThatDoesNotEndAndAFolderThatIsNotThereStandInNobodysWay) {
+    const cTemporaryFolder folder;
+    const cFolderTurn first(folder.Folder());
+    const auto start = std::chrono::steady_clock::now();
+    const cFolderTurn next(folder.Folder(), std::chrono::milliseconds(50));
+    const cFolderTurn nowhere(folder.Folder() + "nowhere\\");
+    EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(50));
+    EXPECT_LT(std::chrono::steady_clock::now() - start, cFolderTurn::kLongestWait / 2);
 }
 
 TEST(RunningApps, StatesAreKeptPerApplication) {

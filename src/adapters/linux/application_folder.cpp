@@ -61,15 +61,6 @@ bool IsApplicationFolder(const cFiles& files, const std::string& applicationPath
                                              " can't be " + what + ": " + Utf8ToCodePage(reason.message()));
 }
 
-void MakeApplicationFolder(const std::string& applicationPath) {
-    const std::string native = NativePath(applicationPath);
-    std::error_code error;
-    fs::create_directories(native, error);
-    if (error) RefuseFolder(applicationPath, "made", error);
-    if (access(native.c_str(), R_OK | X_OK) == 0) return;
-    RefuseFolder(applicationPath, "read", std::error_code(errno, std::generic_category()));
-}
-
 // What is copied of an installation: never the programs, which can lie there too.
 struct cFileGroup {
     std::string_view folder, mask;
@@ -153,6 +144,15 @@ std::optional<std::string> WhyNoConfiguration(const cFiles& files, const std::st
     const auto failure = CatchFailure([&] { files.ReadFile(path); });
     if (!failure) return std::nullopt;
     return "The configuration can't be read: " + std::string(failure->what());
+}
+
+void MakeApplicationFolder(const std::string& applicationPath) {
+    const std::string native = NativePath(applicationPath);
+    std::error_code error;
+    fs::create_directories(native, error);
+    if (error) RefuseFolder(applicationPath, "made", error);
+    if (access(native.c_str(), R_OK | X_OK) == 0) return;
+    RefuseFolder(applicationPath, "read", std::error_code(errno, std::generic_category()));
 }
 
 bool FillApplicationFolder(cFiles& files, const std::string& applicationPath,

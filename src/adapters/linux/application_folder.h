@@ -37,11 +37,14 @@ std::string FindInstalledFolder(const std::string& programFolder);
 // taken for one that says nothing. Nothing when it can, or when there is none.
 std::optional<std::string> WhyNoConfiguration(const cFiles& files, const std::string& applicationPath);
 
-// Makes the folder with all folders above it, and copies to it each installed file (templates, texts, sounds)
+// Makes the folder with all folders above it. Throws cFailure, with the name and the reason, when there is no
+// folder to start in (it can't be made, or not be read).
+void MakeApplicationFolder(const std::string& applicationPath);
+
+// Makes the folder, and copies to it each installed file (templates, texts, sounds)
 // that it doesn't hold; before these the configuration, texts and sounds of a former folder, where there is
 // one (no alarms, no logs, no programs). Nothing is ever overwritten. A file that can't be copied is skipped:
-// the start-up tells of what is missing. True when it was no application folder before. Throws cFailure, with
-// the name and the reason, when there is no folder to start in (it can't be made, or not be read).
+// the start-up tells of what is missing. True when it was no application folder before.
 bool FillApplicationFolder(cFiles& files, const std::string& applicationPath,
                            const std::string& installedFolder, const std::string& formerFolder = "");
 

@@ -3,10 +3,17 @@
 #include <gtest/gtest.h>
 #include <signal.h>
 
+#include <algorithm>
+#include <chrono>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <map>
+#include <set>
 #include <string>
+#include <thread>
+#include <utility>
+#include <vector>
 
 #include "e2e/station.h"
 #include "e2e/windows/operator.h"
@@ -67,6 +74,63 @@ class cFreshStation : public cStation {
         Launch();
     }
 };
+
+// What a first start has put into the folder, by name.
+std::map<std::string, std::string> Prepared(const cStation& station) {
+    std::map<std::string, std::string> files;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(station.Folder())) {
+        const std::string name = std::filesystem::relative(entry.path(), station.Folder()).string();
+        const bool ofTheRun = name.starts_with("LogFiles") || name.starts_with("stderr") ||
+                              entry.path().extension() == ".lock" || entry.is_directory();
+        if (!ofTheRun) files[name] = ReadAll(entry.path());
+    }
+    return files;
+}
+
+// The names of files that are not in both alike.
+std::set<std::string> Differing(const std::map<std::string, std::string>& a,
+                                const std::map<std::string, std::string>& b) {
+    std::set<std::string> names;
+    std::vector<std::pair<std::string, std::string>> files;
+    std::set_symmetric_difference(a.begin(), a.end(), b.begin(), b.end(), std::back_inserter(files));
+    for (const auto& file : files) names.insert(file.first);
+    return names;
+}
+
+// Whether so many starts have come to their first line in the log, by now or soon.
+bool Begin(const cStation& station, std::ptrdiff_t starts) {
+    const std::string line = DeliveredText("046", 10040);
+    const auto begun = [&] {
+        const std::vector<std::string> log = station.Log();
+        return std::count(log.begin(), log.end(), line);
+    };
+    for (int tries = 0; tries < 500 && begun() < starts; ++tries)
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    return begun() == starts;
+}
+
+// As by two double clicks. Each took the other's files away half made.
+TEST(FirstStart, SeveralAtTheSameMomentPrepareTheFolderAsOneDoes) {
+    const std::map<std::string, std::string> environment{{"QT_QPA_PLATFORM", "offscreen"},
+                                                         {"LC_ALL", "sv_SE.UTF-8"}};
+    cFreshStation alone(environment);
+    alone.ExpectStandardError();
+    ASSERT_TRUE(Begin(alone, 1)) << alone.StandardError();
+    const auto expected = Prepared(alone);
+    for (int round = 0; round < 5; ++round) {
+        cFreshStation first(environment);
+        cStation second(&first), third(&first);
+        first.ExpectStandardError();
+        for (cStation* other : {&second, &third}) {
+            other->ExpectStandardError();
+            other->m_Environment = environment;
+            other->m_MakesConfiguration = true;
+            other->Launch();
+        }
+        EXPECT_TRUE(Begin(first, 3)) << first.StandardError() << second.StandardError();
+        EXPECT_EQ(Differing(Prepared(first), expected), std::set<std::string>()) << round;
+    }
+}
 
 TEST(FirstStart, WithoutAScreenTemplateTextsAndConfigurationAreInTheLanguageOfTheLocale) {
     cFreshStation station({{"QT_QPA_PLATFORM", "offscreen"}, {"LC_ALL", "sv_SE.UTF-8"}});
