@@ -19,6 +19,7 @@
 #include "adapters/linux/native_path.h"
 #include "adapters/linux/open_file.h"
 #include "adapters/linux/read_ahead.h"
+#include "adapters/linux/start_thread.h"
 #include "common/failure.h"
 #include "common/path_text.h"
 
@@ -41,10 +42,10 @@ int OpenFolder(const std::string& native) {
 class cSyncThread : public cPendingSync {
   public:
     explicit cSyncThread(cFileHandle folder)
-        : m_Folder(std::move(folder)), m_Thread([this] {
+        : m_Folder(std::move(folder)), m_Thread(StartThread([this] {
               m_Synced = syncfs(m_Folder.Get()) == 0;
               m_Done = true;
-          }) {}
+          })) {}
     ~cSyncThread() override { cSyncThread::Wait(); }
     bool Done() const override { return m_Done; }
     bool Wait() override {

@@ -3,8 +3,10 @@
 #include <condition_variable>
 #include <mutex>
 #include <optional>
-#include <thread>
 #include <utility>
+
+#include "adapters/linux/start_thread.h"
+#include "common/failure.h"
 
 namespace vigrel {
 
@@ -21,12 +23,10 @@ struct cPrinterThread::cShared {
 
 cPrinterThread::cPrinterThread(PrinterPtr printer) : m_Shared(std::make_shared<cShared>()) {
     m_Shared->printer = std::move(printer);
-    std::packaged_task<void()> task([shared = m_Shared] { Run(*shared); });
-    m_Ended = task.get_future();
-    std::thread(std::move(task)).detach();
 }
 
 cPrinterThread::~cPrinterThread() {
+    if (!m_Ended.valid()) return;
     {
         const std::lock_guard lock(m_Shared->mutex);
         m_Shared->ends = true;
@@ -35,7 +35,16 @@ cPrinterThread::~cPrinterThread() {
     m_Ended.wait_for(kLongestEnd);
 }
 
+void cPrinterThread::Start() {
+    const auto task = std::make_shared<std::packaged_task<void()>>([shared = m_Shared] { Run(*shared); });
+    StartThread([task] { (*task)(); }).detach();
+    m_Ended = task->get_future();
+}
+
 PrintProblem cPrinterThread::Print(std::string_view line, std::chrono::milliseconds time) {
+    if (!m_Ended.valid()) {
+        if (const auto failure = CatchFailure([this] { Start(); })) return failure->what();
+    }
     std::unique_lock lock(m_Shared->mutex);
     if (m_Shared->busy) return "the printer still holds up the line before";
     m_Shared->line = line;

@@ -27,15 +27,16 @@ class cPrinterThread {
     cPrinterThread& operator=(const cPrinterThread&) = delete;
 
     // Comes back when the line is printed, has failed, or the time is over. While a line before it is still
-    // waited for in the thread, it fails at once.
+    // waited for in the thread, it fails at once; so it does where the machine gives no thread for now.
     PrintProblem Print(std::string_view line, std::chrono::milliseconds time);
 
   private:
     struct cShared;
     static void Run(cShared& shared);
+    void Start();
 
     std::shared_ptr<cShared> m_Shared;
-    std::future<void> m_Ended;
+    std::future<void> m_Ended;  // valid once there is a thread: from the first line on
 };
 
 }  // namespace vigrel

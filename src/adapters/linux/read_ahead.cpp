@@ -7,6 +7,9 @@
 #include <thread>
 #include <utility>
 
+#include "adapters/linux/start_thread.h"
+#include "common/failure.h"
+
 namespace vigrel {
 namespace {
 
@@ -27,7 +30,11 @@ class cReader {
           m_Folder(folder),
           m_Names(names),
           m_Chunks((names.size() + kChunkFiles - 1) / kChunkFiles) {
-        for (int i = 0; i < kThreads; ++i) m_Threads.emplace_back([this] { Run(); });
+        m_Threads.reserve(kThreads);
+        // Where the machine gives none, the caller reads.
+        SkipFailure([this] {
+            for (int i = 0; i < kThreads; ++i) m_Threads.push_back(StartThread([this] { Run(); }));
+        });
     }
     ~cReader() {
         {
@@ -42,7 +49,7 @@ class cReader {
 
     void Deliver(const cFileReader::TakeContent& take) {
         for (std::size_t i = 0; i < m_Chunks.size(); ++i) {
-            cChunk chunk = TakeChunk(i);
+            cChunk chunk = m_Threads.empty() ? Read(i * kChunkFiles) : TakeChunk(i);
             std::size_t name = i * kChunkFiles;
             for (std::string& content : chunk.contents) take(name++, std::move(content));
             if (chunk.failure) std::rethrow_exception(chunk.failure);

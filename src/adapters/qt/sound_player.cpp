@@ -4,10 +4,11 @@
 #include <chrono>
 #include <condition_variable>
 #include <mutex>
-#include <thread>
 #include <utility>
 
+#include "adapters/linux/start_thread.h"
 #include "adapters/sound/pulse_play.h"
+#include "common/failure.h"
 
 namespace vigrel {
 
@@ -84,7 +85,6 @@ class cSoundPlayer::cThread {
 };
 
 cSoundPlayer::cSoundPlayer() : m_Thread(std::make_shared<cThread>(*this)) {
-    std::thread([thread = m_Thread] { thread->Run(); }).detach();
     m_Watchdog.setSingleShot(true);
     connect(&m_Watchdog, &QTimer::timeout, this, [this] {
         m_Thread->Silence();
@@ -93,12 +93,18 @@ cSoundPlayer::cSoundPlayer() : m_Thread(std::make_shared<cThread>(*this)) {
 }
 
 cSoundPlayer::~cSoundPlayer() {
-    m_Thread->End();
+    if (m_Started) m_Thread->End();
+}
+
+bool cSoundPlayer::Start() {
+    m_Started =
+        m_Started || SkipFailure([this] { StartThread([thread = m_Thread] { thread->Run(); }).detach(); });
+    return m_Started;
 }
 
 void cSoundPlayer::Play(SourceMaker maker) {
     m_Playing = true;
-    m_Watchdog.start(kPatienceMilliseconds);
+    m_Watchdog.start(Start() ? kPatienceMilliseconds : 0);
     m_Thread->Order(++m_Play, std::move(maker));
 }
 
