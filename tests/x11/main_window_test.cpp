@@ -280,6 +280,21 @@ TEST_F(ComingToTheFront, FromHiddenAfterTheWindowManagerHadRestoredIt) {
     EXPECT_TRUE(IsInFront());
 }
 
+// A window manager may refuse, and the operator may be quicker elsewhere.
+TEST_F(ComingToTheFront, ThatFailsAsksForAttention) {
+    const auto asks = [&] { return m_Screen.HasState(IdOf(m_Main), "_NET_WM_STATE_DEMANDS_ATTENTION"); };
+    ShowMain();
+    RunEvents(800);
+    EXPECT_FALSE(asks()) << "of one that is in front";
+    TypeInOther();
+    RunEvents(100);
+    m_Main.SetFocus();
+    m_Other.activateWindow();
+    FlushToScreen();
+    EXPECT_TRUE(WaitUntil(asks, 5000));
+    EXPECT_EQ(m_Screen.ActiveWindow(), IdOf(m_Other));
+}
+
 TEST_F(MainWindowUnderX, AMaximisedWindowThatHidesAsAnIconKeepsItsGeometry) {
     m_Main.SetState(eWindowState::Maximised);
     ShowMain();
