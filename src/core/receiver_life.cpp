@@ -129,10 +129,11 @@ void cVigrelReceiverMain::Stop(eCloseReason reason) {
 }
 
 void cVigrelReceiverMain::DisplayIsLost() {
-    if (m_Life.Ended()) return;
-    End();
+    const bool wasEnded = m_Life.Ended();
+    if (!wasEnded) End();
+    // It can go in the middle of an end, too.
     SaveTheLast();
-    m_Log.WriteLog(m_Texts.GetText(TextDisplayGone));
+    if (!wasEnded) m_Log.WriteLog(m_Texts.GetText(TextDisplayGone));
 }
 
 }  // namespace vigrel

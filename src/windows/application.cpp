@@ -69,7 +69,6 @@ cApplication::cApplication(int& argc, char** argv, cDisplayGuard&& guard) : QApp
         this, &QGuiApplication::commitDataRequest, this,
         [this, neverRestart](QSessionManager& session) {
             neverRestart(session);
-            if (OnSessionEnds) OnSessionEnds();
             if (MaySessionEnd) AskBeforeSessionEnds(session);
         },
         Qt::DirectConnection);
@@ -140,6 +139,10 @@ void cApplication::MakeHintsReadable() {
 bool cApplication::event(QEvent* event) {
     if (event->type() == QEvent::Quit && m_EndsWithSession) {
         exit();
+        return true;
+    }
+    if (event->type() == QEvent::Quit && OnSessionEnds && !m_Failed) {
+        OnSessionEnds();
         return true;
     }
     const bool handled = QApplication::event(event);

@@ -65,8 +65,8 @@ class cApplication : public QApplication {
     // the event loop never turns again. The program ends with kExitDisplayLost behind it.
     std::function<void()> OnDisplayLost;
 
-    // The desktop's session is about to end, or may be. Windows are closed later, unless the end is called
-    // off.
+    // The desktop's session ends, and the program with it. Not told when it may only come to that: a session
+    // can be saved and go on, and another program can call its end off.
     std::function<void()> OnSessionEnds;
     // Asks what has to be asked before the session ends; false calls the end off. Behind a yes the program
     // ends with the session, and without another question.

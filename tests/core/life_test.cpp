@@ -330,6 +330,20 @@ TEST_F(Life, ALostDisplayIsTheLastWordOfTheLog) {
     EXPECT_TRUE(Log().ends_with("T11008\n"));
 }
 
+TEST_F(Life, ADisplayThatGoesInTheMiddleOfTheEndTakesNoAlarmAlong) {
+    Start();
+    files.m_DiskFull = true;
+    listener.Knock(1);
+    data.Arrive(MakeFrame("PLC1", "S1||Fan"));
+    files.m_DiskFull = false;
+    ASSERT_TRUE(AlarmFiles().empty());
+    // Accepted; what belongs to it comes next.
+    EXPECT_TRUE(receiver->Form_QueryUnload(eCloseReason::SessionEnd));
+    receiver->DisplayIsLost();
+    EXPECT_EQ(AlarmFiles().size(), 1u);
+    EXPECT_TRUE(Log().ends_with("T10020\n")) << Log();
+}
+
 TEST_F(Life, NoEventReachesAReceiverThatIsGone) {
     Start();
     receiver.reset();

@@ -26,10 +26,13 @@ class cSessionManager {
         InteractDone = 7,
         SaveYourselfDone = 8,
         Die = 9,
-        ShutdownCancelled = 10
+        ShutdownCancelled = 10,
+        SaveComplete = 18
     };
     // The session is to end: the program is to save, and may ask.
     void EndSession() { Send(eMessage::SaveYourself, std::string("\x02\x01\x02\x00\x00\x00\x00\x00", 8)); }
+    // The session is to be saved as it is, and goes on.
+    void SaveSession() { Send(eMessage::SaveYourself, std::string("\x02\x00\x00\x00\x00\x00\x00\x00", 8)); }
     void Send(eMessage message, const std::string& body = "") const;
     // Waits for the message, whatever comes before it; what it says in its first byte.
     std::optional<bool> Await(eMessage message);

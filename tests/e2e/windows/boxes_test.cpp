@@ -112,5 +112,12 @@ TEST(BoxesWhileRunning, AFailureBoxThatNobodyAnswersClosesByItself) {
     EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(1400));
 }
 
+TEST(BoxesWhileRunning, NothingRunsAnyMoreWhenTheSessionEndsOverAFailureBox) {
+    const testing::cResult result = testing::RunProgram("failing_program", {"session"});
+    EXPECT_EQ(result.exitCode, 70);
+    EXPECT_NE(result.output.find("Failure: an event failed\n"), std::string::npos) << result.output;
+    EXPECT_EQ(result.output.find("the program runs on"), std::string::npos) << result.output;
+}
+
 }  // namespace
 }  // namespace vigrel::testing
