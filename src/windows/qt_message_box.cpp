@@ -7,6 +7,7 @@
 #include "adapters/qt/qt_text.h"
 #include "windows/application.h"
 #include "windows/plain_text.h"
+#include "windows/shown_desktop.h"
 
 namespace vigrel {
 namespace {
@@ -31,6 +32,10 @@ class cBox : public cPlainMessageBox {
     cBox() : cPlainMessageBox(nullptr) {
         setWindowModality(Qt::ApplicationModal);
         setWindowFlag(Qt::WindowStaysOnTopHint);
+    }
+    void showEvent(QShowEvent* event) override {
+        cPlainMessageBox::showEvent(event);
+        LeaveShownDesktop();
     }
     void done(int result) override {
         const bool hasKeyboard = isActiveWindow();

@@ -201,6 +201,13 @@ TEST_F(BoxesUnderX, LieOverAMainWindowThatStaysOnTop) {
     });
 }
 
+TEST_F(BoxesUnderX, AreSeenThoughTheBareDesktopWasShown) {
+    RunEvents(200);  // the main window has come to the front
+    m_Screen.ShowDesktop();
+    ASSERT_TRUE(WaitUntil([&] { return !m_Screen.IsSeen(IdOf(m_Main)); }));
+    Ask([&](QMessageBox& box) { EXPECT_TRUE(WaitUntil([&] { return m_Screen.IsSeen(IdOf(box)); })); });
+}
+
 TEST_F(BoxesUnderX, LieOverANotice) {
     cNoticeWindow notice(m_Windows);
     Ask([&](QMessageBox& box) {

@@ -205,6 +205,17 @@ TEST_F(ComingToTheFront, FromBehindOthers) {
     EXPECT_TRUE(IsInFront());
 }
 
+TEST_F(ComingToTheFront, FromAShownDesktop) {
+    ShowMain();
+    RunEvents(200);
+    m_Screen.ShowDesktop();
+    ASSERT_TRUE(WaitUntil([&] { return !m_Screen.IsSeen(IdOf(m_Main)); }));
+    RunEvents(50);
+    Restore();
+    EXPECT_TRUE(WaitUntil([&] { return m_Screen.IsSeen(IdOf(m_Main)); }));
+    EXPECT_TRUE(IsInFront());
+}
+
 TEST_F(ComingToTheFront, FromMinimisedByTheProgram) {
     ShowMain();
     m_Main.SetState(eWindowState::Minimised);

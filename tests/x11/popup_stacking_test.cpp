@@ -150,6 +150,24 @@ TEST_F(PopupsUnderX, PopupsLieOverOtherWindowsWithoutTakingTheKeyboard) {
 }
 
 // Alarms that keep coming in would let nobody get at an entry.
+// Whoever looks at his desktop sees the alarm, and what he has open comes back.
+TEST_F(PopupsUnderX, APopupIsSeenWhileTheBareDesktopIsShown) {
+    Open("X");
+    ASSERT_TRUE(StacksAs("1"));
+    m_Screen.ShowDesktop();
+    ASSERT_TRUE(WaitUntil([&] { return !m_Screen.IsSeen(IdOf(m_Typing)); }));
+    RunEvents(50);
+    EXPECT_FALSE(m_Screen.IsSeen(IdOf(Popup(1))));
+    Open("Y");
+    EXPECT_TRUE(StacksAs("21"));
+    for (const QWidget* window : {static_cast<QWidget*>(&Popup(2)), static_cast<QWidget*>(&Popup(1)),
+                                  static_cast<QWidget*>(&m_Typing)}) {
+        EXPECT_TRUE(WaitUntil([&] { return m_Screen.IsSeen(IdOf(*window)); }));
+    }
+    RunEvents(200);
+    EXPECT_FALSE(Popup(2).isActiveWindow());
+}
+
 TEST_F(PopupsUnderX, AnOpenMenuStaysOpenAndWorks) {
     QMenu menu(&m_Typing);
     int chosen = 0;

@@ -51,6 +51,25 @@ xcb_window_t cXScreen::ActiveWindow() const {
     return windows.empty() ? xcb_window_t{0} : windows[0];
 }
 
+bool cXScreen::IsSeen(xcb_window_t window) const {
+    const auto cookie = xcb_get_window_attributes(m_Connection, window);
+    const auto reply = Owned(xcb_get_window_attributes_reply(m_Connection, cookie, nullptr));
+    return reply && reply->map_state == XCB_MAP_STATE_VIEWABLE;
+}
+
+void cXScreen::ShowDesktop() const {
+    xcb_client_message_event_t message{};
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 32;
+    message.window = m_Root;
+    message.type = Atom("_NET_SHOWING_DESKTOP");
+    message.data.data32[0] = 1;
+    xcb_send_event(m_Connection, 0, m_Root,
+                   XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
+                   reinterpret_cast<const char*>(&message));
+    xcb_flush(m_Connection);
+}
+
 void cXScreen::WatchPlaces() {
     const std::uint32_t mask = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
     xcb_change_window_attributes(m_Connection, m_Root, XCB_CW_EVENT_MASK, &mask);

@@ -21,6 +21,9 @@ class cXScreen {
     std::vector<std::uint32_t> Property(xcb_window_t window, const std::string& property) const;
     bool HasState(xcb_window_t window, const std::string& state) const;
     xcb_window_t ActiveWindow() const;
+    bool IsSeen(xcb_window_t window) const;
+    // As a key of the desktop does: takes all windows away.
+    void ShowDesktop() const;
 
     // From now on, notes where top-level windows, the frames among them, are put while they can be seen.
     void WatchPlaces();

@@ -7,6 +7,7 @@
 
 #include "adapters/qt/qt_text.h"
 #include "common/settings.h"
+#include "windows/shown_desktop.h"
 
 namespace vigrel {
 
@@ -37,6 +38,7 @@ void cNoticeWindow::Show() {
     cWidgetWindow::Show();
     RaiseAgain();
     Windows().KeepOver(eLayer::Notice);
+    LeaveShownDesktop();
     FlushToScreen();
 }
 

@@ -7,6 +7,7 @@
 
 #include "adapters/qt/qt_text.h"
 #include "common/failure.h"
+#include "windows/shown_desktop.h"
 
 namespace vigrel {
 namespace {
@@ -101,6 +102,7 @@ void cMainWindow::SetFocus() {
 void cMainWindow::ComeToFront() {
     m_FrontWished = m_FrontTimer.isActive();
     if (m_FrontWished) return;
+    LeaveShownDesktop();
     raise();
     activateWindow();
     if (windowFlags().testFlag(Qt::WindowStaysOnTopHint)) {

@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "windows/screen_flush.h"
+#include "windows/shown_desktop.h"
 
 namespace vigrel {
 namespace {
@@ -89,14 +90,18 @@ void cPopupStack::Apply() {
 void cPopupStack::Turn(qint64 milliseconds) {
     QElapsedTimer turn;
     turn.start();
+    bool comes = false;
     while (Waits() && turn.elapsed() < milliseconds) {
         cStackedPopup& popup = *m_Waiting.front();
         m_Waiting.pop_front();
         popup.m_Waits = false;
-        if (popup.ReachScreen()) Erase(m_OnScreen, popup);
+        if (!popup.ReachScreen()) continue;
+        Erase(m_OnScreen, popup);
+        comes = comes || popup.OnScreen();
     }
     BringInOrder();
     GiveKeyboard();
+    if (comes) LeaveShownDesktop();
     m_Rest = turn.elapsed() * kRestsPerTurn;
     m_SinceTurn.start();
     m_NewWishes = false;
