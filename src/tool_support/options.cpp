@@ -17,6 +17,12 @@ std::string ToCodePage(const std::string& word) {
     return text;
 }
 
+// An empty name comes from a variable of the shell that was never set, and is no wish for the default.
+std::string PathIn(const std::string& word, const std::string& refusal) {
+    if (word.empty()) RefuseOption(refusal);
+    return PathText(word);
+}
+
 }  // namespace
 
 void RefuseOption(const std::string& description) {
@@ -28,7 +34,7 @@ void ReadOptionWords(const std::vector<std::string>& words, const cOptionTable& 
     for (std::size_t i = 0; i < words.size(); ++i) {
         const std::string& word = words[i];
         if (onlyPaths || !word.starts_with("-") || word == "-") {
-            table.path(PathText(word));
+            table.path(PathIn(word, "the name of a file or folder is empty"));
         } else if (word == "--") {
             onlyPaths = true;
         } else if (const auto flag = table.flags.find(word); flag != table.flags.end()) {
@@ -38,7 +44,7 @@ void ReadOptionWords(const std::vector<std::string>& words, const cOptionTable& 
             value->second(ToCodePage(words[i]));
         } else if (const auto path = table.paths.find(word); path != table.paths.end()) {
             if (++i >= words.size()) RefuseOption(word + " needs a value");
-            path->second(PathText(words[i]));
+            path->second(PathIn(words[i], word + " needs a value"));
         } else {
             RefuseOption("the option " + Utf8ToCodePage(word) + " is not known");
         }

@@ -43,6 +43,15 @@ TEST_F(OptionWords, PathsKeepTheirBytes) {
     EXPECT_EQ(Read({"--file"}), "--file needs a value");
 }
 
+// The value of a shell's variable that was never set.
+TEST_F(OptionWords, ANameThatIsEmptyNamesNoFile) {
+    EXPECT_EQ(Read({"--file", ""}), "--file needs a value");
+    EXPECT_EQ(Read({"a", ""}), "the name of a file or folder is empty");
+    EXPECT_EQ(Read({"--", ""}), "the name of a file or folder is empty");
+    EXPECT_EQ(Read({"--name", ""}), "");
+    EXPECT_EQ(m_Values, ";");
+}
+
 TEST_F(OptionWords, DatesAreMeantAsWritten) {
     EXPECT_EQ(DateFromWord("--from", "2026-03-15"), DateSerial(2026, 3, 15));
     EXPECT_EQ(EndFromWord("--to", "2026-03-15"), DateSerial(2026, 3, 16));

@@ -130,6 +130,9 @@ TEST(VigrelSend, ABadCommandLineIsRefusedWithOptionAndValue) {
     EXPECT_EQ(message({"--kind", "1.5"}), "--kind: \"1.5\" is not a whole number from 0 to 3");
     EXPECT_EQ(message({"--count", "2.5"}), "--count: \"2.5\" is not a whole number from 1 to 1000000000");
     EXPECT_EQ(ReadOptions({"--port", "5e3"}).port, "5000");
+    // Not the one alarm that goes out without a file.
+    EXPECT_EQ(message({"--file", ""}), "--file: the name is empty");
+    EXPECT_EQ(message({"--file="}), "--file: the name is empty");
     EXPECT_EQ(message({"--corrupt", "x"}), "--corrupt: \"x\" is not one of checksum, etx, kind");
     EXPECT_EQ(message({"--raw", "4"}), "--raw: \"4\" is not a sequence of hexadecimal bytes");
     EXPECT_EQ(message({"--raw", "zz"}), "--raw: \"zz\" is not a sequence of hexadecimal bytes");

@@ -77,6 +77,13 @@ std::string FieldText(const std::string& option, const std::string& utf8) {
     return text;
 }
 
+// An empty name comes from a variable of the shell that was never set; it must not send the one alarm that
+// goes out without a file.
+std::string FileName(const std::string& option, const std::string& name) {
+    if (name.empty()) throw cUsageError(option + ": the name is empty");
+    return name;
+}
+
 using Setter = std::function<void(const std::string& option, const std::string& value)>;
 
 std::map<std::string, Setter> ValueOptions(cOptions& o) {
@@ -88,7 +95,7 @@ std::map<std::string, Setter> ValueOptions(cOptions& o) {
         {"--date", [&o](auto& n, auto& v) { o.date = FieldText(n, v); }},
         {"--time", [&o](auto& n, auto& v) { o.time = FieldText(n, v); }},
         {"--message", [&o](auto& n, auto& v) { o.message = FieldText(n, v); }},
-        {"--file", [&o](auto&, auto& v) { o.file = v; }},
+        {"--file", [&o](auto& n, auto& v) { o.file = FileName(n, v); }},
         {"--raw", [&o](auto&, auto& v) { o.raw.push_back(HexBytes(v)); }},
         {"--count", [&o](auto& n, auto& v) { o.count = WholeNumber(n, v, 1, 1'000'000'000); }},
         {"--rate", [&o](auto& n, auto& v) { o.rate = Number(n, v, 0, 1e6); }},
