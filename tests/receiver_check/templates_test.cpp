@@ -1,6 +1,7 @@
 #include <map>
 #include <string>
 
+#include "common/failure.h"
 #include "receiver-check/sample_texts.h"
 #include "receiver_check/checked_station.h"
 #include "support/fake_clock.h"
@@ -120,6 +121,20 @@ TEST_F(CheckedTemplates, ASampleShowsWhatThePopupsAndThePrinterWouldShow) {
               std::string::npos)
         << text;
     EXPECT_TRUE(text.ends_with("Printed line:\n    Buil|\n")) << text;
+}
+
+// They would all be empty, as if the station had been set up so.
+TEST_F(CheckedTemplates, WithoutAConfigurationThatCanBeReadThereIsNoSample) {
+    const auto refusal = [this]() -> std::string {
+        const auto failure = CatchFailure(
+            [this] { SampleTexts(cInstallation(m_Files, kApp), &m_Machine, testing::cFakeClock()); });
+        return failure ? failure->what() : "";
+    };
+    EXPECT_EQ(refusal(), kApp + "VigrelReceiver.INI: the file does not exist");
+    m_Files.Put(kApp + "VigrelReceiver.INI", Content("", ""));
+    EXPECT_EQ(refusal(), "");
+    m_Files.SetUnreadable(kApp + "VigrelReceiver.INI", true);
+    EXPECT_NE(refusal(), "");
 }
 
 }  // namespace

@@ -87,6 +87,8 @@ class cSamples {
 }  // namespace
 
 std::string SampleTexts(const cInstallation& installation, const cMachine* machine, const cClock& clock) {
+    // Without it all would be empty, as if the station had been set up so.
+    installation.Files().ReadFile(installation.IniPath());
     return cSamples(installation, machine, clock).Make();
 }
 
