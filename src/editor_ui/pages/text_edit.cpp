@@ -4,6 +4,7 @@
 #include <QValidator>
 
 #include "adapters/qt/qt_text.h"
+#include "editor_ui/pages/one_line.h"
 #include "editor_ui/pages/undo_keys.h"
 
 namespace vigrel {
@@ -14,10 +15,17 @@ constexpr int kLongestText = 65535;
 
 class cCodePageValidator : public QValidator {
   public:
-    using QValidator::QValidator;
-    State validate(QString& input, int&) const override {
+    explicit cCodePageValidator(cTextEdit& field) : QValidator(&field), m_Field(field) {}
+    State validate(QString& input, int& cursor) const override {
+        if (!m_Field.HasLines()) {
+            cursor = static_cast<int>(OneLine(input.left(cursor)).size());
+            input = OneLine(input);
+        }
         return FitsCodePage(input) ? QValidator::Acceptable : QValidator::Invalid;
     }
+
+  private:
+    const cTextEdit& m_Field;
 };
 
 }  // namespace
@@ -25,9 +33,14 @@ class cCodePageValidator : public QValidator {
 cTextEdit::cTextEdit(QWidget* parent) : QLineEdit(parent) {
     setMaxLength(kLongestText);
     LeaveUndoToPage(*this);
-    setValidator(new cCodePageValidator(this));
+    setValidator(new cCodePageValidator(*this));
     connect(this, &QLineEdit::inputRejected, this,
             [this] { QToolTip::showText(mapToGlobal(rect().bottomLeft()), LettersHint(), this); });
+}
+
+void cTextEdit::setText(const QString& text) {
+    m_HasLines = OneLine(text) != text;
+    QLineEdit::setText(text);
 }
 
 QString cTextEdit::LettersHint() {

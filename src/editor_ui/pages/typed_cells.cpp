@@ -1,6 +1,7 @@
 #include "editor_ui/pages/typed_cells.h"
 
 #include "adapters/qt/qt_text.h"
+#include "editor_ui/pages/one_line.h"
 
 namespace vigrel {
 
@@ -20,7 +21,8 @@ void cTypedCells::Restore(const TypedTexts& texts, std::size_t rows) {
     }
 }
 
-std::string CellText(const QString& text) {
+std::string CellText(const QString& typed) {
+    const QString text = OneLine(typed);
     if (!FitsCodePage(text)) {
         throw cFailure(eFailure::InvalidCall,
                        Pattern("Reasons", "the text has characters that can't be stored"));

@@ -61,6 +61,6 @@ class cTypedCells {
 };
 
 // What a cell holds, for the file. Throws cFailure for letters that the code page lacks.
-std::string CellText(const QString& text);
+std::string CellText(const QString& typed);
 
 }  // namespace vigrel

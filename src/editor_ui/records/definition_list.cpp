@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "editor_ui/pages/one_line.h"
 #include "windows/plain_text.h"
 
 namespace vigrel {
@@ -53,7 +54,7 @@ void cDefinitionList::MakeSearch() {
     m_Search->setPlaceholderText(tr("Search (Ctrl+F)"));
     m_Search->setClearButtonEnabled(true);
     connect(m_Search, &QLineEdit::textChanged, this, [this](const QString& text) {
-        m_Filter->setFilterFixedString(text);
+        m_Filter->setFilterFixedString(OneLine(text));
         ShowCount();
     });
 }

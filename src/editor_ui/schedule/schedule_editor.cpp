@@ -90,7 +90,11 @@ QWidget* cScheduleEditor::MakePeriodBox() {
         // swap a start that lies behind the old stop.
         const QLineEdit* other = field == &m_Start ? &m_Stop : &m_Start;
         LeaveUndoToPage(*field, [this] { TakeBackTyping(); });
-        connect(field, &QLineEdit::textEdited, this, &cContentEditor::ProblemChanged);
+        connect(field, &QLineEdit::textEdited, this, [this, field] {
+            // A text that is dragged here comes without the keyboard, and is taken over when that leaves.
+            if (!field->hasFocus()) field->setFocus();
+            emit ProblemChanged();
+        });
         connect(field, &QLineEdit::editingFinished, this, [this, other] {
             if (!other->hasFocus()) TakeTimes();
         });

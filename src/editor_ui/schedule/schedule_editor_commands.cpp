@@ -2,6 +2,7 @@
 
 #include "adapters/qt/qt_text.h"
 #include "editor_ui/pages/editor_action.h"
+#include "editor_ui/pages/one_line.h"
 #include "editor_ui/pages/text_edit.h"
 #include "editor_ui/schedule/schedule_editor.h"
 
@@ -106,7 +107,7 @@ std::optional<int> cScheduleEditor::ChosenSpecialType() {
 // Asked again with what was typed where that can't be stored. Empty for none.
 QString cScheduleEditor::AskName(QString name) {
     do {
-        name = m_Services.m_Prompts.AskText(this, tr("Name of the day type"), name);
+        name = OneLine(m_Services.m_Prompts.AskText(this, tr("Name of the day type"), name));
         if (FitsCodePage(name)) return name;
         m_Services.m_Prompts.ShowFailure(this, cTextEdit::LettersHint());
     } while (true);

@@ -3,6 +3,7 @@
 #include <tuple>
 
 #include "adapters/qt/qt_text.h"
+#include "editor_ui/pages/one_line.h"
 #include "editor_ui/pages/reasons.h"
 #include "editor_ui/schedule/schedule_editor.h"
 #include "schedule/time_text.h"
@@ -14,8 +15,8 @@ void cScheduleEditor::TakeTimes() {
     const PeriodPtr period = m_Schedule.SelectedPeriod();
     if (!IsTyping() || period == nullptr || m_Schedule.IsDragging()) return;
     const QString name = TypedName(m_Schedule.SelectedDayType(), *period);
+    for (QLineEdit* field : {&m_Start, &m_Stop}) field->setText(OneLine(field->text()));
     const QString fault = FaultOfTimes();
-    for (QLineEdit* field : {&m_Start, &m_Stop}) field->setModified(false);
     Edit(tr("typing times"), [&] {
         m_Typed.erase(name);
         if (fault.isEmpty()) {
