@@ -1,5 +1,7 @@
 #include "windows/plain_text.h"
 
+#include "windows/short_text.h"
+
 namespace vigrel {
 
 cPlainLabel::cPlainLabel(const QString& text, QWidget* parent) : QLabel(parent) {
@@ -16,7 +18,7 @@ cPlainMessageBox::cPlainMessageBox(Icon icon, const QString& title, const QStrin
     : cPlainMessageBox(owner) {
     setIcon(icon);
     setWindowTitle(title);
-    setText(text);
+    setText(BoxText(text));
     setStandardButtons(buttons);
 }
 

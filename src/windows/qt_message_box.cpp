@@ -7,6 +7,7 @@
 #include "adapters/qt/qt_text.h"
 #include "windows/application.h"
 #include "windows/plain_text.h"
+#include "windows/short_text.h"
 #include "windows/shown_desktop.h"
 
 namespace vigrel {
@@ -54,7 +55,7 @@ class cBox : public cPlainMessageBox {
 void cQtMessageBox::Furnish(QMessageBox& box, std::string_view text, eMessageIcon icon) const {
     box.setObjectName("Vigrel_MessageBox");
     box.setWindowTitle(ToQString(m_Title));
-    box.setText(WithPathsToQString(text));
+    box.setText(BoxText(WithPathsToQString(text)));
     box.setIcon(IconOf(icon));
     box.setStandardButtons(QMessageBox::Ok);
 }

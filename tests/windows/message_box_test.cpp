@@ -10,6 +10,7 @@
 #include <functional>
 
 #include "support/qt_wait.h"
+#include "windows/plain_text.h"
 
 namespace vigrel::testing {
 namespace {
@@ -66,6 +67,29 @@ TEST_F(MessageBox, ABoxForAWhileHasTheSameTextAndCanBeClosedBefore) {
     });
     m_Box.ShowForAWhile("no disk", eMessageIcon::Warning);
     EXPECT_TRUE(seen);
+}
+
+// Names of any length stand in it, and reasons of many lines.
+TEST_F(MessageBox, OfALongTextHasItsButtonsOnTheScreen) {
+    const QString words = "Begin " + QString("W ").repeated(30000) + "end",
+                  lines = "Begin\n" + QString("line\n").repeated(3000) + "end";
+    for (const QString& text : {words, lines}) {
+        const auto look = [](const QMessageBox& box) {
+            EXPECT_LT(box.height(), 700);
+            EXPECT_TRUE(box.text().startsWith("Begin") && box.text().endsWith("end"));
+        };
+        cPlainMessageBox plain(QMessageBox::Question, "Vigrel", text, QMessageBox::Yes | QMessageBox::No);
+        plain.show();
+        look(plain);
+        QTimer::singleShot(0, [&] {
+            ASSERT_TRUE(WaitUntil([] { return QApplication::activeModalWidget() != nullptr; }));
+            auto& box = *qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            look(box);
+            box.close();
+        });
+        plain.hide();
+        m_Box.Show(text.toStdString(), eMessageIcon::Stop, eMessageButtons::Ok);
+    }
 }
 
 TEST_F(MessageBox, LeavesTheKeyboardToTheWindowThatHadIt) {

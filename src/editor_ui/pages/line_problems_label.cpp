@@ -1,6 +1,7 @@
 #include "editor_ui/pages/line_problems_label.h"
 
 #include "editor_ui/pages/reasons.h"
+#include "windows/short_text.h"
 
 namespace vigrel {
 
@@ -13,7 +14,7 @@ cLineProblemsLabel::cLineProblemsLabel() {
 void cLineProblemsLabel::Show(std::string_view file, const std::vector<cLineProblem>& problems) {
     QStringList lines;
     for (const cLineProblem& problem : problems) lines += Told(LineProblemPhrase(file, problem));
-    setText(tr("Some lines were not understood. They stay in the file:\n%1").arg(lines.join('\n')));
+    setText(tr("Some lines were not understood. They stay in the file:\n%1").arg(FewLines(lines.join('\n'))));
     setVisible(!lines.isEmpty());
 }
 

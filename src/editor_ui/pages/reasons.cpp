@@ -4,13 +4,15 @@
 
 #include "adapters/qt/qt_text.h"
 #include "common/failure.h"
+#include "windows/short_text.h"
 
 namespace vigrel {
 
 QString Told(const cPhrase& phrase) {
-    return WithPathsToQString(phrase.Told([](const cPattern& pattern) {
+    const QString told = WithPathsToQString(phrase.Told([](const cPattern& pattern) {
         return FromQString(QCoreApplication::translate(pattern.context, pattern.english));
     }));
+    return FewLines(told);
 }
 
 QString ToldReason(const cFailure& failure) {

@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "editor_ui/pages/editor_action.h"
+#include "windows/short_text.h"
 
 namespace vigrel {
 
@@ -93,7 +94,7 @@ QString cTableEditor::Reasons() const {
                            .arg(m_Table->horizontalHeaderItem(column)->text(), typed.problem);
         }
     }
-    return reasons.join('\n');
+    return FewLines(reasons.join('\n'));
 }
 
 // Opens the first of the cells.

@@ -14,6 +14,7 @@
 #include "editor_ui/pages/remembered_sizes.h"
 #include "editor_ui/pages/scrolled.h"
 #include "windows/plain_text.h"
+#include "windows/short_text.h"
 
 namespace vigrel {
 namespace {
@@ -182,7 +183,7 @@ void cDefinitionPage::NoteEdit(const cFieldStep& step) {
 }
 
 QString cDefinitionPage::NameAt(int position) const {
-    return m_Source->Name(static_cast<std::size_t>(position));
+    return ShortName(m_Source->Name(static_cast<std::size_t>(position)));
 }
 
 void cDefinitionPage::TellFailure(const QString& text) {

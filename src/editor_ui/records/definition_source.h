@@ -11,6 +11,7 @@
 #include "adapters/qt/qt_text.h"
 #include "definitions/definition_folder.h"
 #include "editor_ui/pages/typed_texts.h"
+#include "windows/short_text.h"
 
 namespace vigrel {
 
@@ -29,7 +30,7 @@ using RecordPtr = std::shared_ptr<const cRecord>;
 // What another program saved took the place of a definition, or the definition went with its file.
 struct cTakenUp {
     int position;
-    QString name;  // that of before
+    QString name;  // that of before, shortened
     RecordPtr before;
     RecordPtr after;  // none for one that has gone
 };
@@ -153,7 +154,7 @@ class cFolderSource : public cDefinitionSource {
                         [&](std::size_t position, std::unique_ptr<Definition> before, bool isGone) {
                             // Written anew as it was, it is no news.
                             if (!isGone && before->HasSameContentAs(m_Folder.At(position))) return;
-                            const QString name = ToQString(NameOf(*before));
+                            const QString name = ShortName(ToQString(NameOf(*before)));
                             auto record = Record(std::move(before), m_Marks[position]);
                             if (isGone) {
                                 record->identity = record->content->m_DiskIdentity;

@@ -3,14 +3,28 @@
 #include <QHBoxLayout>
 #include <QListWidget>
 #include <QMenu>
+#include <QProxyStyle>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <algorithm>
 
 #include "adapters/qt/qt_text.h"
 #include "definitions/receiver_list.h"
+#include "windows/short_text.h"
 
 namespace vigrel {
+namespace {
+
+// Of many entries the toolkit makes columns, which lead out of the screen.
+class cScrolledMenus : public QProxyStyle {
+  public:
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* result) const override {
+        return hint == SH_Menu_Scrollable ? 1 : QProxyStyle::styleHint(hint, option, widget, result);
+    }
+};
+
+}  // namespace
 
 cReceiverPicker::cReceiverPicker(const char* objectName, const QString& name,
                                  const cReceiverFolder& receivers, QWidget* parent)
@@ -38,6 +52,9 @@ QWidget* cReceiverPicker::MakeButtons() {
     auto* panel = new QWidget;
     auto* layout = new QVBoxLayout(panel);
     layout->setContentsMargins(0, 0, 0, 0);
+    auto* style = new cScrolledMenus;
+    style->setParent(m_Menu);
+    m_Menu->setStyle(style);
     m_Add->setMenu(m_Menu);
     for (const auto& [button, name] : {std::pair{m_Add, "Add"}, std::pair{m_Remove, "Remove"},
                                        std::pair{m_Up, "Up"}, std::pair{m_Down, "Down"}}) {
@@ -66,7 +83,7 @@ void cReceiverPicker::FillMenu() {
     std::sort(free.begin(), free.end(),
               [](const auto& a, const auto& b) { return QString::localeAwareCompare(a.first, b.first) < 0; });
     for (const auto& [name, item] : free) {
-        m_Menu->addAction(QString(name).replace('&', "&&"), this, [this, item = item] { Add(item); });
+        m_Menu->addAction(ShortName(name).replace('&', "&&"), this, [this, item = item] { Add(item); });
     }
     if (free.empty()) m_Menu->addAction(tr("No other saved receiver"))->setEnabled(false);
 }

@@ -2,6 +2,7 @@
 
 #include "common/text.h"
 #include "editor_ui/records/receiver_form.h"
+#include "windows/short_text.h"
 
 namespace vigrel {
 namespace {
@@ -57,7 +58,7 @@ QString cReceiversPage::DeleteWarning(int position) {
     const std::int16_t identity = m_Station.Receivers().At(static_cast<std::size_t>(position)).m_DiskIdentity;
     if (identity < 0) return {};
     QStringList names;
-    for (const std::string& name : m_Station.ProfilesWith(identity)) names += ToQString(name);
+    for (const std::string& name : m_Station.ProfilesWith(identity)) names += ShortName(ToQString(name));
     if (names.isEmpty()) return {};
     if (names.size() > kMostNames) names = names.mid(0, kMostNames) + QStringList{"..."};
     return tr("These profiles send alarms to it:\n%1").arg(names.join('\n'));

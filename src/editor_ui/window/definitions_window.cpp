@@ -19,6 +19,7 @@
 #include "editor_ui/records/profiles_page.h"
 #include "editor_ui/records/receivers_page.h"
 #include "schedule/definition_files.h"
+#include "windows/short_text.h"
 
 namespace vigrel {
 namespace {
@@ -319,7 +320,7 @@ void cDefinitionsWindow::Print() {
     const std::optional<cPrintout> printout = FinishedPrintout();
     if (!printout) return;
     QPrinter printer;
-    printer.setDocName(printout->title);
+    printer.setDocName(ShortName(printout->title));
     SetUpSheet(printer);
     if (!m_Services.m_Prompts.AskPrinter(this, printer)) return;
     if (!PrintOn(printer, *printout))
@@ -331,7 +332,7 @@ void cDefinitionsWindow::SaveAsPdf() {
     if (!printout) return;
     const QString folder = PathToQString(m_Services.m_Ini.ApplicationPath());
     // A profile may be called "East/West".
-    const QString name = QString(printout->title).replace('/', '-');
+    const QString name = ShortName(printout->title).replace('/', '-');
     const QString chosen = m_Services.m_Prompts.AskSavePath(this, folder + name + ".pdf",
                                                             tr("PDF files (*.pdf);;All files (*)"), "pdf");
     if (chosen.isEmpty()) return;

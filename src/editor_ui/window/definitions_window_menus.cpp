@@ -10,11 +10,17 @@
 #include "editor_ui/pages/editor_action.h"
 #include "editor_ui/window/definitions_window.h"
 #include "windows/plain_text.h"
+#include "windows/short_text.h"
 
 namespace vigrel {
 namespace {
 
 constexpr int kZooms[] = {100, 150, 200, 300};  // percent
+constexpr qsizetype kMostLetters = 120;         // of an entry
+
+QString EntryText(const QString& text) {
+    return ShortLine(text, kMostLetters).replace('&', "&&");
+}
 
 }  // namespace
 
@@ -57,7 +63,7 @@ void cDefinitionsWindow::MakeFileMenu() {
 void cDefinitionsWindow::FillRecentMenu() {
     m_RecentMenu->clear();
     for (const QString& path : m_Recent.Paths()) {
-        m_RecentMenu->addAction(QString(path).replace('&', "&&"), this, [this, path] { OpenRecent(path); });
+        m_RecentMenu->addAction(EntryText(path), this, [this, path] { OpenRecent(path); });
     }
     if (m_RecentMenu->isEmpty()) m_RecentMenu->addAction(tr("None yet"))->setEnabled(false);
 }
@@ -80,10 +86,10 @@ void cDefinitionsWindow::MakeEditMenu() {
     connect(&m_UndoGroup, &QUndoGroup::canRedoChanged, m_Redo, &QAction::setEnabled);
     // Languages differ in where the step stands, so that the toolkit's own way, a word in front, doesn't do.
     connect(&m_UndoGroup, &QUndoGroup::undoTextChanged, m_Undo, [this](const QString& step) {
-        m_Undo->setText(step.isEmpty() ? tr("&Undo") : tr("&Undo %1").arg(QString(step).replace('&', "&&")));
+        m_Undo->setText(step.isEmpty() ? tr("&Undo") : tr("&Undo %1").arg(EntryText(step)));
     });
     connect(&m_UndoGroup, &QUndoGroup::redoTextChanged, m_Redo, [this](const QString& step) {
-        m_Redo->setText(step.isEmpty() ? tr("&Redo") : tr("&Redo %1").arg(QString(step).replace('&', "&&")));
+        m_Redo->setText(step.isEmpty() ? tr("&Redo") : tr("&Redo %1").arg(EntryText(step)));
     });
     FillEditMenu();
 }
