@@ -1,7 +1,10 @@
+#include <sys/resource.h>
+
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QStatusBar>
+#include <csignal>
 
 #include "common/path_text.h"
 #include "editor_ui/editor_bench.h"
@@ -109,6 +112,23 @@ TEST_F(DefinitionsWindow, AFileMayBeNamedInAnyScript) {
     m_Files.Put(PathText("/app/Łódź.sch"), Sample("schedule.dat"));
     EXPECT_TRUE(m_Window->OpenFile(QString::fromUtf8("/app/Łódź.sch")));
     EXPECT_EQ(m_Window->CurrentPage()->Title(), QString::fromUtf8("Łódź.sch"));
+}
+
+// The print dialog prints into files, too.
+TEST_F(DefinitionsWindow, ASheetOnAFullDiskIsTold) {
+    NewSchedule();
+    m_Prompts.m_PrintedFile = m_Folder.filePath("printed.pdf");
+    // A file can't become larger than this.
+    rlimit before{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
+    const rlimit full{1000, before.rlim_max};
+    const auto signalBefore = std::signal(SIGXFSZ, SIG_IGN);
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &full), 0);
+    Choose(*m_Window, "Menu_Print");
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &before), 0);
+    std::signal(SIGXFSZ, signalBefore);
+    EXPECT_EQ(m_Prompts.m_Asked.toStdString(),
+              "printer for Schedule 1\nfailure: Schedule 1 was not printed.\n");
 }
 
 TEST_F(DefinitionsWindow, AFailedSaveTellsWhyAndKeepsTheChanges) {

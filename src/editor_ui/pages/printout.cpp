@@ -1,6 +1,8 @@
 #include "editor_ui/pages/printout.h"
 
 #include <QBuffer>
+#include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QPageLayout>
 #include <QPagedPaintDevice>
@@ -50,6 +52,14 @@ bool PrintOn(QPagedPaintDevice& device, const cPrintout& printout) {
     if (!painter.begin(&device)) return false;
     PaintSheet(painter, QRectF(0, 0, device.width(), device.height()), printout);
     return painter.end();
+}
+
+bool IsPrintedWhole(const QString& path) {
+    constexpr qint64 kEnd = 16;  // bytes, more than the mark and its line ends
+    if (!QFileInfo(path).isFile()) return true;
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.seek(std::max<qint64>(file.size() - kEnd, 0)) &&
+           file.read(kEnd).contains("%%EOF");
 }
 
 void PaintSheet(QPainter& painter, const QRectF& sheet, const cPrintout& printout) {

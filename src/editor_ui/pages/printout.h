@@ -35,6 +35,9 @@ void SetUpSheet(QPagedPaintDevice& device);
 
 // False when nothing could be drawn on the device, a printer that is gone.
 bool PrintOn(QPagedPaintDevice& device, const cPrintout& printout);
+// Whether all of a sheet is in the file that it was printed into, which the toolkit doesn't tell. Of what is
+// no file nothing can be known.
+bool IsPrintedWhole(const QString& path);
 
 // The sheet as a PDF file, A4 across.
 std::string PdfOf(const cPrintout& printout);

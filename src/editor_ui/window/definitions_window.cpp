@@ -323,7 +323,7 @@ void cDefinitionsWindow::Print() {
     printer.setDocName(ShortName(printout->title));
     SetUpSheet(printer);
     if (!m_Services.m_Prompts.AskPrinter(this, printer)) return;
-    if (!PrintOn(printer, *printout))
+    if (!PrintOn(printer, *printout) || !IsPrintedWhole(printer.outputFileName()))
         m_Services.m_Prompts.ShowFailure(this, tr("%1 was not printed.").arg(printout->title));
 }
 
