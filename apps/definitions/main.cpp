@@ -14,6 +14,7 @@
 #include "adapters/linux/standard_random.h"
 #include "adapters/linux/standard_streams.h"
 #include "adapters/linux/system_clock.h"
+#include "adapters/qt/qt_setting_store.h"
 #include "common/exit_codes.h"
 #include "common/ini.h"
 #include "common/setting_keys.h"
@@ -104,7 +105,7 @@ int RunEditor(cApplication& application, cLinuxFiles& files, const std::string& 
     const cDeliveredTexts deliveredTexts = BuiltInTexts();
     cTexts texts(files, ini, &deliveredTexts);
     cDialogPrompts prompts;
-    QSettings settings(QSettings::IniFormat, QSettings::UserScope, "Vigrel", "VigrelDefinitions");
+    QSettings settings(SettingsFile("VigrelDefinitions"), QSettings::IniFormat);
     cStandardRandom random;
     random.Seed(clock.Now());
     cStationDefinitions station(files, clock, random, texts, ini);
