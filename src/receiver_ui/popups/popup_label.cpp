@@ -4,9 +4,21 @@
 #include <QScrollBar>
 
 namespace vigrel {
+namespace {
+
+// Templates end in fields that are often empty, each on a line of its own.
+QString WithoutBlankEnd(QString text) {
+    for (qsizetype end = text.lastIndexOf('\n');
+         end >= 0 && QStringView(text).sliced(end).trimmed().isEmpty(); end = text.lastIndexOf('\n')) {
+        text.truncate(end);
+    }
+    return text;
+}
+
+}  // namespace
 
 void cPopupLabel::ShowText(const QString& text) {
-    setPlainText(text);
+    setPlainText(WithoutBlankEnd(text));
     ReconsiderBar();
 }
 
