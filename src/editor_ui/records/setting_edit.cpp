@@ -49,9 +49,10 @@ cSettingEdit::cSettingEdit(const QString& name, QWidget* parent)
     layout->addWidget(m_Problem);
     // One line, however high the form.
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    setFocusProxy(m_Text);
-    // Else the access key of a label passes it over.
+    // Else the access key of a label passes it over. Of a widget with a proxy it would become the proxy's,
+    // too, which the key Tab is to reach.
     setFocusPolicy(Qt::ClickFocus);
+    setFocusProxy(m_Text);
     connect(m_Text, &QLineEdit::textEdited, this, [this](const QString& text) { EditText(text); });
     connect(m_Choice, &QComboBox::activated, this, [this](int choice) { EditChoice(choice); });
 }
