@@ -134,6 +134,18 @@ TEST_F(CalendarPage, TheMarkOfTheKeysIsNotPrintedAndStaysOnTheScreen) {
     EXPECT_EQ(View().grab().toImage(), marked);
 }
 
+TEST_F(CalendarPage, TheMarkOfTheKeysIsTheBoxOfItsDay) {
+    m_Page.Editor().ShowMonth(2026, 6);
+    const QImage unmarked = View().grab().toImage();
+    QApplication::setActiveWindow(m_Window.get());
+    View().setFocus();
+    Key(Qt::Key_Home);
+    m_Page.Editor().ShowMonth(2026, 6);
+    // The 15th is a Monday in the third week.
+    const QPoint cell = Cell(0, 2) - QPoint(20, 12);
+    EXPECT_EQ(Difference(unmarked, View().grab().toImage()), QRect(cell + QPoint(1, 1), QSize(38, 23)));
+}
+
 TEST_F(CalendarPage, TheFirstPressPaintsASpecialDayType) {
     m_Page.Editor().ShowMonth(2026, 6);
     Drag(View(), {Cell(0, 0), Cell(1, 0)});
@@ -149,6 +161,13 @@ TEST_F(CalendarPage, TheDayTypesArePicturesToPickFrom) {
     m_Page.Editor().ShowMonth(2026, 6);
     Drag(View(), {Cell(0, 0)});
     EXPECT_EQ(Value(2026, 6, 1), 3);
+}
+
+TEST_F(CalendarPage, AChoiceBesideTheDrawingHasRoomForTwelveLetters) {
+    for (const char* name : {"Combo_Calendar_Holidays", "Combo_Calendar_TimeSchedule"}) {
+        const QComboBox& choice = Combo(name);
+        EXPECT_EQ(choice.minimumWidth(), 12 * choice.fontMetrics().averageCharWidth()) << name;
+    }
 }
 
 // The drawing is the main thing: what the window gains is the drawing's, and the choices keep their width.
@@ -283,6 +302,16 @@ TEST_F(CalendarPage, KeysChooseADayAcrossMonthsAndPaintIt) {
     Key(Qt::Key_Space);
     EXPECT_EQ(Value(2026, 3, 7), 7);
     EXPECT_EQ(m_Page.UndoStack()->count(), 5);
+}
+
+TEST_F(CalendarPage, AMonthThatIsShorterHasItsLastDayChosen) {
+    m_Clock.Set(2026, 3, 31);
+    Key(Qt::Key_Home);
+    Key(Qt::Key_PageDown);
+    DayTypes().setCurrentRow(7);
+    Key(Qt::Key_Space);
+    EXPECT_EQ(Value(2026, 4, 30), 7);
+    EXPECT_EQ(m_Page.UndoStack()->count(), 1);
 }
 
 TEST_F(CalendarPage, KeysGoOnFromTheDayThatWasClicked) {

@@ -206,6 +206,15 @@ TEST_F(ColourRulesOfAlarms, TheNewestComesFirstInTheColoursOfItsRule) {
     EXPECT_EQ(Rule(0), "2");
 }
 
+TEST_F(ColourRulesOfAlarms, ACategoryOfMoreThanFourDigitsIsNoNumber) {
+    PutAlarm(1, 8, "PU1", "0005");
+    PutAlarm(2, 9, "PU2", "00005");
+    PutAlarm(3, 10, "PU3", "");
+    Put("ColourRules.txt", "* | 5 | * | 0,0,0 | 200,0,0 | 15\r\n* | 7 | * | 0,0,0 | 0,200,0 | 15\r\n");
+    Find<QSpinBox>(Page(), "Number_Preview_Category")->setValue(7);
+    EXPECT_EQ(Rule(0) + Rule(1) + Rule(2), "221");
+}
+
 // The numbers of the files are drawn at random.
 TEST_F(ColourRulesOfAlarms, OfVeryManyTheNewestAreShown) {
     PutAlarm(1, 1, "old", "5");

@@ -23,7 +23,6 @@
 
 namespace vigrel::testing {
 
-// The editor over fake files in the application folder /app, on 2026-03-15.
 // What a page puts into an area of a white sheet.
 inline QImage OnPaper(const std::optional<cPrintout>& printout, const QRectF& area) {
     QImage sheet(area.size().toSize(), QImage::Format_RGB32);
@@ -37,6 +36,18 @@ inline QImage OnPaper(const std::optional<cPrintout>& printout, const QRectF& ar
     return sheet;
 }
 
+// The smallest rectangle that holds all in which two pictures of one size differ.
+inline QRect Difference(const QImage& a, const QImage& b) {
+    QRect all;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            if (a.pixel(x, y) != b.pixel(x, y)) all |= QRect(x, y, 1, 1);
+        }
+    }
+    return all;
+}
+
+// The editor over fake files in the application folder /app, on 2026-03-15.
 class cEditorBench {
   public:
     cEditorBench() {

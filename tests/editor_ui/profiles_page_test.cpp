@@ -213,6 +213,17 @@ TEST_F(ProfilesPage, AllSystemsAreSetOrClearedAtOnce) {
     for (std::int16_t i = 0; i < 64; ++i) EXPECT_EQ(Shown().GetSystem(i), 0) << i;
 }
 
+TEST_F(ProfilesPage, SettingAllSystemsWhereAllAreSetIsNoStep) {
+    ShowTab(7);
+    Press(Page(), "Button_Systems_All");
+    const int steps = Page().UndoStack()->count();
+    Press(Page(), "Button_Systems_All");
+    EXPECT_EQ(Page().UndoStack()->count(), steps);
+    Press(Page(), "Button_Systems_None");
+    Press(Page(), "Button_Systems_None");
+    EXPECT_EQ(Page().UndoStack()->count(), steps + 1);
+}
+
 TEST_F(ProfilesPage, ReceiversAreShownByNameAndMissingOnesStay) {
     ShowTab(2);
     EXPECT_EQ(Items("List_Parallel"), "\xC3\x96st (0007)\n(missing receiver 0008)");
@@ -249,6 +260,30 @@ TEST_F(ProfilesPage, ReceiversAreAddedFromTheListOfReceiversRemovedAndPutInOrder
     const QList<QAction*> none = Offers("Button_Parallel_Add");
     ASSERT_EQ(none.size(), 1);
     EXPECT_FALSE(none[0]->isEnabled());
+}
+
+TEST_F(ProfilesPage, TheButtonsOfTheReceiversFitTheChosenOne) {
+    ShowTab(2);
+    auto* list = Find<QListWidget>(Page(), "List_Parallel");
+    const auto enabled = [&] {
+        std::string names;
+        for (const char* name : {"Remove", "Up", "Down"}) {
+            const QString button = QString("Button_Parallel_%1").arg(name);
+            if (Find<QPushButton>(Page(), button.toLatin1().constData())->isEnabled()) names += name;
+        }
+        return names;
+    };
+    ASSERT_EQ(list->currentRow(), 0);
+    EXPECT_EQ(enabled(), "RemoveDown");
+    list->setCurrentRow(1);
+    EXPECT_EQ(enabled(), "RemoveUp");
+    list->setCurrentRow(0);
+    Press(Page(), "Button_Parallel_Remove");
+    EXPECT_EQ(list->currentRow(), 0);
+    EXPECT_EQ(enabled(), "Remove");
+    Press(Page(), "Button_Parallel_Remove");
+    EXPECT_EQ(Shown().m_ParallellReceivers, "");
+    EXPECT_EQ(enabled(), "");
 }
 
 TEST_F(ProfilesPage, TheReceiversOfferedAreComparedByNumber) {
@@ -752,6 +787,14 @@ TEST_F(ProfilesPage, TheActiveHoursAreALineOfTheDay) {
     EXPECT_EQ(at(10 * 60 + 30), QColor(0, 150, 60));
     EXPECT_EQ(at(5 * 60 + 30), QColor(220, 220, 220));
     EXPECT_EQ(at(19 * 60 + 30), QColor(220, 220, 220));
+}
+
+TEST_F(ProfilesPage, TheLineOfTheDayTellsAssistiveToolsTheAnswer) {
+    ShowTab(5);
+    const auto* line = Find<QWidget>(Page(), "Picture_ActiveDay");
+    EXPECT_EQ(line->accessibleName(), "The day's 24 hours");
+    EXPECT_EQ(line->accessibleDescription().toStdString(),
+              LabelOf(Page(), "Label_ActiveDay_Answer") + "\n" + LabelOf(Page(), "Label_ActiveDay_Reason"));
 }
 
 TEST_F(ProfilesPage, AVersion4FileIsToldAsBroughtUp) {

@@ -289,6 +289,19 @@ TEST_F(ReceiversPage, AnEmptyStationOffersTheFirstReceiver) {
     EXPECT_TRUE(Find<QWidget>(Page(), "Label_NoDefinitions")->isVisible());
 }
 
+TEST_F(ReceiversPage, TheCountBelowTheListFollows) {
+    EXPECT_EQ(LabelOf(Page(), "Label_Count"), "1 in all");
+    Press(Page(), "Button_New");
+    EXPECT_EQ(LabelOf(Page(), "Label_Count"), "2 in all");
+    Press(Page(), "Button_Copy");
+    EXPECT_EQ(LabelOf(Page(), "Label_Count"), "3 in all");
+    Page().UndoStack()->undo();
+    EXPECT_EQ(LabelOf(Page(), "Label_Count"), "2 in all");
+    m_Prompts.m_YesNoAnswers = {true};
+    Press(Page(), "Button_Delete");
+    EXPECT_EQ(LabelOf(Page(), "Label_Count"), "1 in all");
+}
+
 // The toolkit asks for the text of the row that is none.
 TEST_F(ReceiversPage, TheKeyThatCopiesTakesNothingFromAListWithoutRows) {
     m_Files.RemoveFile(Path("Receivers\\Receiver_0007.dat"));

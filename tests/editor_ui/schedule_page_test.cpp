@@ -68,6 +68,16 @@ TEST_F(SchedulePage, TheMarkOfTheKeysIsNotPrintedAndStaysOnTheScreen) {
     EXPECT_EQ(View().grab().toImage(), marked);
 }
 
+TEST_F(SchedulePage, TheMarkOfTheKeysIsTheNamesPlaceInItsRow) {
+    Click(2, 600);
+    View().clearFocus();
+    const QImage unmarked = View().grab().toImage();
+    QApplication::setActiveWindow(m_Window.get());
+    View().setFocus();
+    // Left of the axis, with a pixel between.
+    EXPECT_EQ(Difference(unmarked, View().grab().toImage()), QRect(0, 2 * 25 + 1, 29, 21));
+}
+
 TEST_F(SchedulePage, ADragMakesAPeriodInOneStepOfUndo) {
     Drag(View(), {At(5, 600), At(5, 640), At(5, 700)});
     EXPECT_EQ(Day(5), "600-700");
@@ -749,6 +759,44 @@ TEST_F(SchedulePage, ANameThatCantBeStoredIsRefusedAndCanBeMended) {
     m_Prompts.m_Texts = {greek};
     Entry("Rename");
     EXPECT_EQ(m_Files.ReadFile("/app/VigrelDefinitions.INI"), "[DayTypes]\r\n7=Athens\r\n");
+}
+
+TEST_F(SchedulePage, TheListOfDayTypesTicksThoseThatHaveARow) {
+    auto& list = Find<QListWidget>(m_Page, "List_DayTypes");
+    const auto ticks = [&] {
+        std::string all;
+        for (int row = 0; row < list.count(); ++row)
+            all += list.item(row)->checkState() == Qt::Checked ? 'x' : '-';
+        return all;
+    };
+    EXPECT_EQ(ticks(), "xxxxxxx----------------");
+    list.item(0)->setCheckState(Qt::Unchecked);
+    list.item(22)->setCheckState(Qt::Checked);
+    EXPECT_EQ(ticks(), "-xxxxxx---------------x");
+    Choose(*m_Window, "Menu_Undo");
+    Choose(*m_Window, "Menu_Undo");
+    EXPECT_EQ(ticks(), "xxxxxxx----------------");
+}
+
+TEST_F(SchedulePage, TheMenuOfTheListOfDayTypesGivesThemNameAndImage) {
+    const auto& list = Find<QListWidget>(m_Page, "List_DayTypes");
+    EXPECT_EQ(list.contextMenuPolicy(), Qt::ActionsContextMenu);
+    QStringList entries;
+    for (const QAction* entry : list.actions()) entries += entry->text().remove('&');
+    EXPECT_EQ(entries.join('|'), "Rename the day type...|Image of the day type");
+}
+
+// Escape, for one, is the window's.
+TEST_F(SchedulePage, AKeyThatIsNotTheDrawingsGoesOnToThePage) {
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_A}) {
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+        // To the view alone, without those that the toolkit would hand it on to.
+        static_cast<QObject&>(View()).event(&press);
+        EXPECT_FALSE(press.isAccepted()) << key;
+    }
+    QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
+    static_cast<QObject&>(View()).event(&down);
+    EXPECT_TRUE(down.isAccepted());
 }
 
 TEST_F(SchedulePage, ASpecialDayTypeGetsOneOfTheDrawings) {

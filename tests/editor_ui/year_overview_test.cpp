@@ -139,6 +139,13 @@ TEST_F(YearOverview, TurnsByYearsAndIsPaintedOnByKeys) {
     EXPECT_EQ(Find<QLabel>(m_Page, "Text_Calendar_Month").text(), "March 2027");
 }
 
+TEST_F(YearOverview, LeavesTheChoiceOfAMonthToTheMonth) {
+    auto& months = Find<QComboBox>(m_Page, "Combo_Calendar_Month");
+    EXPECT_FALSE(months.isEnabled());
+    Find<QToolButton>(m_Page, "Button_Calendar_ShowYear").click();
+    EXPECT_TRUE(months.isEnabled());
+}
+
 // On a narrow sheet too, with names that have no room.
 TEST_F(YearOverview, TellsTheColoursOfAllItsDayTypes) {
     std::string bytes(29220, '\0');
@@ -221,6 +228,63 @@ TEST_F(YearOverview, KeepsItsLettersWithinTheirCellsOnANarrowSheet) {
     }
 }
 
+// Letters of a size of their own would cover all of it.
+TEST_F(YearOverview, HasNoLettersOnASheetWithoutRoomForThem) {
+    const QRectF area(0, 0, 40, 1200);
+    const QImage sheet = OnPaper(m_Page.Printout(), area);
+    const QRectF cell = cYearDrawing(area, 2026).CellOf(Index(2026, 1, 1));
+    // Over the month's name, which stands in the middle of its line.
+    const int name = static_cast<int>(cell.top() - 1.5 * cell.height());
+    for (int y = name - 12; y < name - 2; ++y) {
+        for (int x = 0; x < 10; ++x) EXPECT_EQ(sheet.pixelColor(x, y), QColor(Qt::white)) << x << "," << y;
+    }
+}
+
+TEST_F(YearOverview, NamesItsMonthsInBold) {
+    const QRectF area(0, 0, 1200, 900);
+    const QImage sheet = OnPaper(m_Page.Printout(), area);
+    // September 2026 begins on a Tuesday.
+    const QRectF first = cYearDrawing(area, 2026).CellOf(Index(2026, 9, 1));
+    const QRectF line(first.left() - first.width(), first.top() - 2 * first.height(), 7 * first.width(),
+                      first.height());
+    QImage expected(sheet.size(), QImage::Format_RGB32);
+    expected.fill(Qt::white);
+    QPainter painter(&expected);
+    QFont letters = painter.font();
+    letters.setPixelSize(static_cast<int>(std::min(first.height() * 0.75, first.width() * 0.55)));
+    letters.setBold(true);
+    painter.setFont(letters);
+    painter.drawText(line, Qt::AlignCenter, "September");
+    painter.end();
+    EXPECT_EQ(sheet.copy(line.toRect()), expected.copy(line.toRect()));
+}
+
+// The letters' edges are mixed with the ground, their middle is not.
+TEST_F(YearOverview, HasSundaysAndHolidaysInRed) {
+    QComboBox& countries = Find<QComboBox>(m_Page, "Combo_Calendar_Holidays");
+    countries.setCurrentIndex(countries.findData("DE-BY"));
+    emit countries.activated(0);
+    const QRectF area(0, 0, 2400, 1800);
+    const QImage sheet = OnPaper(m_Page.Printout(), area);
+    const auto has = [&](int month, int day, const QColor& colour) {
+        const QImage cell = sheet.copy(
+            cYearDrawing(area, 2026).CellOf(Index(2026, month, day)).toRect().adjusted(2, 2, -2, -2));
+        for (int y = 0; y < cell.height(); ++y) {
+            for (int x = 0; x < cell.width(); ++x) {
+                if (cell.pixelColor(x, y) == colour) return true;
+            }
+        }
+        return false;
+    };
+    const QColor red(176, 0, 0);
+    EXPECT_TRUE(has(6, 28, red));  // a Sunday
+    EXPECT_TRUE(has(5, 1, red));   // a holiday on a Friday
+    for (const int day : {26, 27}) {
+        EXPECT_FALSE(has(6, day, red)) << day;
+        EXPECT_TRUE(has(6, day, Qt::black)) << day;
+    }
+}
+
 TEST_F(YearOverview, TellsDayTypesApartWhoseNamesHaveNoRoom) {
     std::string bytes(29220, '\0');
     const auto first = static_cast<std::size_t>(Index(2026, 3, 2));
@@ -259,6 +323,37 @@ TEST_F(YearOverview, IsPrintedAsTheDialogSays) {
     EXPECT_TRUE(PrintOn(printer, *m_Page.Printout()));
     EXPECT_EQ(printer.pageLayout().orientation(), QPageLayout::Portrait);
     EXPECT_EQ(printer.pageLayout().margins(QPageLayout::Millimeter).left(), 30);
+}
+
+TEST_F(YearOverview, TakesTheWholeSheetBelowItsTitle) {
+    QPrinter printer;
+    printer.setOutputFileName(m_Folder.filePath("whole.pdf"));
+    SetUpSheet(printer);
+    QRectF place;
+    bool isBold = true;
+    const auto paint = [&](QPainter& painter, const QRectF& given) {
+        place = given;
+        isBold = painter.font().bold();
+    };
+    ASSERT_TRUE(PrintOn(printer, {"Title", {}, paint, {}}));
+    const QRectF sheet(0, 0, printer.width(), printer.height());
+    EXPECT_EQ(place, sheet.adjusted(0, sheet.height() * 0.05, 0, 0));
+    EXPECT_FALSE(isBold);
+}
+
+TEST_F(YearOverview, StandsUnderItsTitleInBold) {
+    QImage sheet(1000, 700, QImage::Format_RGB32), expected = sheet;
+    for (QImage* each : {&sheet, &expected}) each->fill(Qt::white);
+    QPainter painter(&sheet), wanted(&expected);
+    PaintSheet(painter, sheet.rect(), {"Calendar 1 - 2026", {}, [](QPainter&, const QRectF&) {}, {}});
+    QFont letters = QGuiApplication::font();
+    letters.setPixelSize(21);
+    letters.setBold(true);
+    wanted.setFont(letters);
+    wanted.drawText(QRectF(0, 0, 1000, 35), Qt::AlignTop, "Calendar 1 - 2026");
+    painter.end();
+    wanted.end();
+    EXPECT_EQ(sheet, expected);
 }
 
 QStringList NamesOf(const cPrintout& printout) {
