@@ -201,16 +201,6 @@ TEST_F(PopupWidget, AFontInWhichTheTextFitsTakesTheScrollBarAway) {
     }
 }
 
-TEST_F(PopupWidget, LinesAtTheEndInWhichNothingShowsTakeNoRoom) {
-    cPopupWidget& popup = MakeShown();
-    popup.SetLabelText("\r\nFire \r\n\r\nWing 4  \r\n \r\n\t\r\n");
-    EXPECT_EQ(Label(popup).toPlainText(), "\nFire \n\nWing 4  ");
-    popup.SetLabelText("\r\n");
-    EXPECT_EQ(Label(popup).toPlainText(), "");
-    popup.SetLabelText("Fire  ");
-    EXPECT_EQ(Label(popup).toPlainText(), "Fire  ");
-}
-
 TEST_F(PopupWidget, TheLabelTakesItsFont) {
     cPopupWidget& popup = Make();
     popup.SetLabelFontStyle(true, true);

@@ -4,21 +4,9 @@
 #include <QScrollBar>
 
 namespace vigrel {
-namespace {
-
-// Templates end in fields that are often empty, each on a line of its own.
-QString WithoutBlankEnd(QString text) {
-    for (qsizetype end = text.lastIndexOf('\n');
-         end >= 0 && QStringView(text).sliced(end).trimmed().isEmpty(); end = text.lastIndexOf('\n')) {
-        text.truncate(end);
-    }
-    return text;
-}
-
-}  // namespace
 
 void cPopupLabel::ShowText(const QString& text) {
-    setPlainText(WithoutBlankEnd(text));
+    setPlainText(text);
     ReconsiderBar();
 }
 

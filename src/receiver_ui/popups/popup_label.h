@@ -9,7 +9,6 @@ namespace vigrel {
 class cPopupLabel : public QPlainTextEdit {
   public:
     using QPlainTextEdit::QPlainTextEdit;
-    // Lines at the end in which nothing shows are left away.
     void ShowText(const QString& text);
 
   protected:
