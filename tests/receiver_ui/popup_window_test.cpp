@@ -261,40 +261,15 @@ TEST_F(PopupWidget, StaysLargeEnoughToBeSeen) {
 
 // --- closing
 
-// As long as an operator takes to see it.
-void See() {
-    RunEvents(cPopupPicture::kUnseenMilliseconds + 10);
-}
-
 TEST_F(PopupWidget, AClickOnThePictureIsTold) {
     cPopupWidget& popup = MakeShown();
     popup.SetPictureVisible(1, true);
-    See();
     int clicked = -1;
     popup.OnPictureClick = [&](int picture) { clicked = picture; };
     QTest::mouseClick(&Picture(popup, 1), Qt::RightButton);
     EXPECT_EQ(clicked, -1);
     QTest::mouseClick(&Picture(popup, 1), Qt::LeftButton);
     EXPECT_EQ(clicked, 1);
-}
-
-// It was meant for what stood there before.
-TEST_F(PopupWidget, AClickInTheMomentInWhichThePopupComesUpIsForNoPicture) {
-    cPopupWidget& popup = Make();
-    popup.SetPictureVisible(1, true);
-    int clicks = 0;
-    popup.OnPictureClick = [&](int) { ++clicks; };
-    for (int i = 0; i < 2; ++i) {
-        popup.Show();
-        m_Maker.Stack().Apply();
-        QTest::mouseClick(&Picture(popup, 1), Qt::LeftButton);
-        EXPECT_EQ(clicks, i);
-        See();
-        QTest::mouseClick(&Picture(popup, 1), Qt::LeftButton);
-        EXPECT_EQ(clicks, i + 1);
-        popup.Hide();
-        m_Maker.Stack().Apply();
-    }
 }
 
 // Its first click has closed another popup that lay over this one.
@@ -304,7 +279,6 @@ TEST_F(PopupWidget, TheSecondClickOfADoubleClickIsForNoPicture) {
     int clicks = 0;
     popup.OnPictureClick = [&](int) { ++clicks; };
     cPopupPicture& picture = Picture(popup, 1);
-    See();
     QMouseEvent second(QEvent::MouseButtonDblClick, picture.rect().center(),
                        picture.mapToGlobal(picture.rect().center()), Qt::LeftButton, Qt::LeftButton,
                        Qt::NoModifier);
@@ -817,7 +791,6 @@ TEST_F(PopupScreen, OneOfSixShowsAndTheNextComesWithEachClick) {
         ASSERT_EQ(shown.size(), 1u);
         seen += shown;
         const auto index = static_cast<std::size_t>(shown[0] - '1');
-        See();
         QTest::mouseClick(m_Shown[index]->findChild<QWidget*>("Picture_Alarm_1"), Qt::LeftButton);
     }
     EXPECT_EQ(seen, "352416");

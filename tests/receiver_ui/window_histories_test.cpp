@@ -182,7 +182,7 @@ class cWindowedStation {
     }
     static void ClickPicture(cPopupWidget& popup) {
         for (auto* picture : popup.findChildren<QAbstractButton*>()) {
-            if (picture->isVisible()) return picture->click();
+            if (picture->isVisible()) return QTest::mouseClick(picture, Qt::LeftButton);
         }
         FAIL() << "a popup without a picture";
     }

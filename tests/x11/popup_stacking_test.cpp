@@ -67,7 +67,7 @@ class PopupsUnderX : public ::testing::Test, protected cPopupStation {
         const QPoint place = picture.mapToGlobal(picture.rect().center());
         QProcess mouse;
         mouse.start("xdotool", {"mousemove", QString::number(place.x()), QString::number(place.y()), "sleep",
-                                "0.4", "click", "--repeat", QString::number(clicks), "--delay", "120", "1"});
+                                "0.2", "click", "--repeat", QString::number(clicks), "--delay", "120", "1"});
         EXPECT_TRUE(WaitUntil([&] { return mouse.state() == QProcess::NotRunning; }, 5000));
     }
     // As the operator does with Alt+Tab.

@@ -31,16 +31,6 @@ void cPopupPicture::paintEvent(QPaintEvent*) {
     style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
 }
 
-void cPopupPicture::showEvent(QShowEvent* event) {
-    QAbstractButton::showEvent(event);
-    m_SinceShown.start();
-}
-
-void cPopupPicture::mousePressEvent(QMouseEvent* event) {
-    if (!m_SinceShown.hasExpired(kUnseenMilliseconds)) return event->accept();
-    QAbstractButton::mousePressEvent(event);
-}
-
 void cPopupPicture::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (!enter) {
