@@ -12,7 +12,7 @@
 namespace vigrel {
 namespace {
 
-cFileHandle OpenFolder(const std::string& folder) {
+cFileHandle OpenLocked(const std::string& folder) {
     cFileHandle opened;
     SkipFailure(
         [&] { opened = cFileHandle(open(NativePath(folder).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)); });
@@ -22,7 +22,7 @@ cFileHandle OpenFolder(const std::string& folder) {
 }  // namespace
 
 cFolderTurn::cFolderTurn(const std::string& folder, std::chrono::milliseconds longestWait)
-    : m_Folder(OpenFolder(folder)) {
+    : m_Folder(OpenLocked(folder)) {
     constexpr std::chrono::milliseconds kAgain{10};
     const auto end = std::chrono::steady_clock::now() + longestWait;
     while (m_Folder && flock(m_Folder.Get(), LOCK_EX | LOCK_NB) != 0) {
