@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "e2e/station.h"
+#include "support/no_threads.h"
 
 namespace vigrel::testing {
 namespace {
@@ -167,6 +168,19 @@ TEST_F(Unseen, AFailureIsTold) {
     const std::string error = station.StandardError();
     EXPECT_TRUE(error.starts_with("vigrel-receiver: " + station.Folder().string() + "/: Failure: ")) << error;
     EXPECT_EQ(std::count(error.begin(), error.end(), '\n'), 1) << error;
+}
+
+// Whoever looks after the station tries again; it must not hang half started.
+TEST_F(Unseen, AMachineWithoutThreadsIsToldAndEndsTheStart) {
+    cStation station;
+    station.ExpectStandardError();
+    station.m_InChild = [] {
+        if (!RefuseThreads()) _exit(1);
+    };
+    station.Launch();
+    EXPECT_EQ(station.WaitForEnd(), 70);
+    EXPECT_NE(station.StandardError().find("Failure: no thread: "), std::string::npos)
+        << station.StandardError();
 }
 
 TEST_F(Unseen, AlarmsPopupsAndTheirEndPrintNothing) {

@@ -2,12 +2,10 @@
 
 #include <QThread>
 #include <atomic>
-#include <cstdlib>
 #include <memory>
 
 #include "common/failure.h"
 #include "sound/sound_fixture.h"
-#include "support/no_threads.h"
 
 namespace vigrel::testing {
 namespace {
@@ -17,17 +15,6 @@ constexpr int kTolerance = 150;
 constexpr qint64 kLongestGap = 250;
 
 using WaveDevice = cSoundTest;
-using WaveDeviceDeathTest = cSoundTest;
-
-TEST_F(WaveDeviceDeathTest, WithoutAThreadAPlayEndsSoon) {
-    OpenFile(File("a.wav", WaveFile(200)));
-    EXPECT_EXIT(
-        {
-            const bool ended = RefuseThreads() && PlayToTheEnd(1000) && PlayToTheEnd(1000);
-            std::_Exit(ended ? 0 : 1);
-        },
-        ::testing::ExitedWithCode(0), "");
-}
 
 TEST_F(WaveDevice, AFileIsHeardOnceAndWhole) {
     ASSERT_TRUE(m_Server.Start());

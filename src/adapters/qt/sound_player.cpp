@@ -8,7 +8,6 @@
 
 #include "adapters/linux/start_thread.h"
 #include "adapters/sound/pulse_play.h"
-#include "common/failure.h"
 
 namespace vigrel {
 
@@ -85,6 +84,7 @@ class cSoundPlayer::cThread {
 };
 
 cSoundPlayer::cSoundPlayer() : m_Thread(std::make_shared<cThread>(*this)) {
+    StartThread([thread = m_Thread] { thread->Run(); }).detach();
     m_Watchdog.setSingleShot(true);
     connect(&m_Watchdog, &QTimer::timeout, this, [this] {
         m_Thread->Silence();
@@ -93,18 +93,12 @@ cSoundPlayer::cSoundPlayer() : m_Thread(std::make_shared<cThread>(*this)) {
 }
 
 cSoundPlayer::~cSoundPlayer() {
-    if (m_Started) m_Thread->End();
-}
-
-bool cSoundPlayer::Start() {
-    m_Started =
-        m_Started || SkipFailure([this] { StartThread([thread = m_Thread] { thread->Run(); }).detach(); });
-    return m_Started;
+    m_Thread->End();
 }
 
 void cSoundPlayer::Play(SourceMaker maker) {
     m_Playing = true;
-    m_Watchdog.start(Start() ? kPatienceMilliseconds : 0);
+    m_Watchdog.start(kPatienceMilliseconds);
     m_Thread->Order(++m_Play, std::move(maker));
 }
 

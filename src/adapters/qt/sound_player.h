@@ -36,14 +36,11 @@ class cSoundPlayer : public QObject {
   private:
     class cThread;
 
-    // Whether there is a thread, by now. It comes with the first play: the machine may give none.
-    bool Start();
     void Begun(std::uint64_t play, std::int64_t milliseconds);
     void Ended(std::uint64_t play, bool failed);
     void Tell(bool failed);
 
     std::shared_ptr<cThread> m_Thread;
-    bool m_Started = false;
     std::uint64_t m_Play = 0;  // number of the latest
     bool m_Playing = false;
     QTimer m_Watchdog;
