@@ -79,7 +79,7 @@ void cSessionManager::SendFrame(std::uint8_t protocol, std::uint8_t message, std
     frame += static_cast<char>(message == kProtocolReply && protocol == kCarrier ? kSession : 0);
     frame += static_cast<char>(body.size() / 8);
     frame += std::string(3, '\0') + body;
-    EXPECT_EQ(send(m_Connection, frame.data(), frame.size(), MSG_NOSIGNAL),
+    EXPECT_EQ(::send(m_Connection, frame.data(), frame.size(), MSG_NOSIGNAL),
               static_cast<ssize_t>(frame.size()));
 }
 
