@@ -236,12 +236,35 @@ TEST_F(SignalLight, ALightThatIsPulledOutWhileOpenTakesNoMorePackets) {
     const std::int32_t light = OpenOne();
     PlugIn("");
     EXPECT_THROW(m_Light.DelcomSyncLeds(light), cFailure);
-    PlugIn("/dev/hidraw3 77 good\n");
     EXPECT_THROW(m_Light.DelcomSyncLeds(light), cFailure);
     m_Light.DelcomCloseDevice(light);
     EXPECT_EQ(Packets(), "");
+    PlugIn("/dev/hidraw3 77 good\n");
     m_Light.DelcomSyncLeds(m_Light.DelcomOpenDevice("serial-77", 0));
     EXPECT_EQ(Packets(), "/dev/hidraw3 65 19 0F 0F 00 00 00 00\n");
+}
+
+// A light that doesn't know one of the commands must not stay dark for it.
+TEST_F(SignalLight, APacketThatTheLightRefusesCostsNoOther) {
+    PlugIn("/dev/hidraw3 77 plain\n");
+    const std::int32_t light = m_Light.DelcomOpenDevice("serial-77", 0);
+    EXPECT_THROW(m_Light.DelcomLoadLedFreqDuty(light, 0, 1, 2), cFailure);
+    EXPECT_THROW(m_Light.DelcomLoadInitialPhaseDelay(light, 0, 1), cFailure);
+    EXPECT_THROW(m_Light.DelcomLEDControl(light, 0, 1), cFailure);
+    EXPECT_EQ(Packets(), "/dev/hidraw3 65 0C 01 00 00 00 00 00\n");
+}
+
+TEST_F(SignalLight, ALightThatRefusesPacketByPacketIsWaitedForNoLongerThanOneThatHangs) {
+    PlugIn("/dev/hidraw3 77 hesitant\n");
+    Place("hidraw3", "1-1.2");
+    const std::int32_t light = m_Light.DelcomOpenDevice("port-1-1.2", 0);
+    ASSERT_GT(light, 0);
+    const double waited = Seconds([&] {
+        for (int packet = 0; packet < 22; ++packet) EXPECT_THROW(m_Light.DelcomSyncLeds(light), cFailure);
+    });
+    EXPECT_LT(waited, 2);
+    m_Light.DelcomCloseDevice(light);
+    EXPECT_EQ(m_Light.DelcomOpenDevice("port-1-1.2", 0), 0);
 }
 
 TEST_F(SignalLight, ALightThatHangsIsWaitedForOnceAndThenRests) {

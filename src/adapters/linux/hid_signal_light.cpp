@@ -56,17 +56,20 @@ std::string UsbPort(const std::filesystem::path& device) {
 
 class cHidSignalLight::cStopwatch {
   public:
-    cStopwatch(cHidSignalLight& lights, std::string port)
-        : m_Lights(lights), m_Port(std::move(port)), m_Start(lights.m_Clock.Steady()) {}
+    // Goes on from an earlier reading.
+    cStopwatch(cHidSignalLight& lights, std::string port, double earlier = 0)
+        : m_Lights(lights), m_Port(std::move(port)), m_Start(lights.m_Clock.Steady() - earlier) {}
     ~cStopwatch() {
-        const double now = m_Lights.m_Clock.Steady();
-        if ((now - m_Start) * kSecondsOfDay < kSlowSeconds) return;
-        m_Lights.m_RestUntil[m_Port] = now + kRestSeconds / kSecondsOfDay;
+        if (IsSlow(Reading())) m_Lights.m_RestUntil[m_Port] = m_Lights.m_Clock.Steady() + kRest;
     }
     cStopwatch(const cStopwatch&) = delete;
     cStopwatch& operator=(const cStopwatch&) = delete;
+    double Reading() const { return m_Lights.m_Clock.Steady() - m_Start; }
+    static bool IsSlow(double reading) { return reading * kSecondsOfDay >= kSlowSeconds; }
 
   private:
+    static constexpr double kRest = kRestSeconds / kSecondsOfDay;
+
     cHidSignalLight& m_Lights;
     std::string m_Port;
     double m_Start;
@@ -159,7 +162,7 @@ std::int32_t cHidSignalLight::DelcomOpenDevice(std::string_view name, std::int32
     for (const cLightPlace& light : Lights()) {
         hid_device* device = OpenNamed(light, name);
         if (device == nullptr) continue;
-        m_Open[++m_LastHandle] = {device, light.port, false};
+        m_Open[++m_LastHandle] = {device, light.port};
         return m_LastHandle;
     }
     return 0;
@@ -178,11 +181,13 @@ void cHidSignalLight::Send(std::int32_t handle, std::uint8_t minor, int lsb, int
     const auto found = m_Open.find(handle);
     if (found == m_Open.end()) throw cFailure(eFailure::InvalidCall, "signal light: no such handle");
     cOpenLight& light = found->second;
-    if (light.failed) throw cFailure(eFailure::Device, light.port + ": the light has failed before");
-    const cStopwatch stopwatch(*this, light.port);
+    if (cStopwatch::IsSlow(light.wasted))
+        throw cFailure(eFailure::Device, light.port + ": the light has failed before");
+    const cStopwatch stopwatch(*this, light.port, light.wasted);
     const Packet packet{kWrite, minor, static_cast<std::uint8_t>(lsb), static_cast<std::uint8_t>(msb)};
-    light.failed = hid_write(light.device, packet.data(), packet.size()) < 0;
-    if (light.failed) throw cFailure(eFailure::Device, light.port + ": the light takes no packet");
+    if (hid_write(light.device, packet.data(), packet.size()) >= 0) return;
+    light.wasted = stopwatch.Reading();
+    throw cFailure(eFailure::Device, light.port + ": the light takes no packet");
 }
 
 void cHidSignalLight::DelcomLoadPreScalar(std::int32_t handle, std::uint8_t value) {
@@ -213,8 +218,10 @@ void cHidSignalLight::DelcomLEDControl(std::int32_t handle, std::int32_t led, st
     constexpr std::int32_t kOff = 0, kFlashing = 2;  // 1: on
     const int pin = Pin(led);
     if (mode < kOff || mode > kFlashing) throw cFailure(eFailure::OutOfBounds, "signal light: no such mode");
-    Send(handle, kFlash, mode == kFlashing ? 0 : pin, mode == kFlashing ? pin : 0);
+    const auto failure =
+        CatchFailure([&] { Send(handle, kFlash, mode == kFlashing ? 0 : pin, mode == kFlashing ? pin : 0); });
     Send(handle, kPins, mode == kOff ? 0 : pin, mode == kOff ? pin : 0);
+    if (failure) throw *failure;
 }
 
 void cHidSignalLight::DelcomSyncLeds(std::int32_t handle) {

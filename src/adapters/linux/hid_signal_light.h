@@ -18,8 +18,9 @@ namespace vigrel {
 // A light has up to two names: "serial-12345", where it tells its number, and "port-1-1.2", the place where
 // it is plugged in; both open it. Lights are looked for anew at each opening, so they can come and go.
 //
-// The kernel waits for a light that doesn't answer, up to 5 s a packet. After the first failure a handle
-// tries no more; a light that kept the caller waiting for kSlowSeconds is passed over for kRestSeconds.
+// A packet that the light refuses costs that call alone. The kernel waits for a light that doesn't answer, up
+// to 5 s a packet: one that kept the caller waiting for kSlowSeconds, by one call or by several refused
+// packets of a handle, is passed over for kRestSeconds, and the handle whose packets did so tries no more.
 class cHidSignalLight : public cSignalLight {
   public:
     static constexpr std::int32_t kDeviceType = 1;  // all lights are of this type
@@ -56,7 +57,7 @@ class cHidSignalLight : public cSignalLight {
     struct cOpenLight {
         hid_device_* device;
         std::string port;
-        bool failed;
+        double wasted = 0;  // with packets that it refused, in days
     };
     // Notes how long the light of a port keeps the caller waiting.
     class cStopwatch;

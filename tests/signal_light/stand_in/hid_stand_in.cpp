@@ -1,7 +1,8 @@
 // Lights made up by a test. The folder that the environment variable VIGREL_TEST_LIGHTS names holds
 //   lights  one line a light: path, serial number (0: the light tells none), how it is:
 //           "good", "locked" (can't be opened), "broken" (takes no packet), "slow" (neither, after a while),
-//           "twice" (good, and listed twice)
+//           "twice" (good, and listed twice), "plain" (good, but refuses packets of flashing: 65 14 to 65
+//           1D), "hesitant" (refuses each packet, after a while)
 //   packets what was sent, one line a packet: path, bytes in hexadecimal
 #include <hidapi.h>
 #include <unistd.h>
@@ -21,7 +22,7 @@ struct hid_device_ {
 
 namespace {
 
-constexpr unsigned kSlowMicroseconds = 1200000;
+constexpr unsigned kSlowMicroseconds = 1200000, kHesitantMicroseconds = 400000;
 
 struct cLight {
     std::string path;
@@ -54,7 +55,14 @@ cLight Find(const std::string& path) {
 
 bool Works(const cLight& light) {
     if (light.state == "slow") usleep(kSlowMicroseconds);
-    return light.state == "good" || light.state == "twice" || light.state == "locked";
+    return light.state == "good" || light.state == "twice" || light.state == "locked" ||
+           light.state == "plain";
+}
+
+bool TakesPacket(const cLight& light, const unsigned char* data) {
+    if (light.state == "hesitant") usleep(kHesitantMicroseconds);
+    const bool ofFlashing = data[1] >= 0x14 && data[1] <= 0x1D;
+    return Works(light) && !(light.state == "plain" && ofFlashing);
 }
 
 }  // namespace
@@ -106,7 +114,7 @@ int hid_get_feature_report(hid_device* device, unsigned char* data, std::size_t 
 }
 
 int hid_write(hid_device* device, const unsigned char* data, std::size_t length) {
-    if (!Works(Find(device->path))) return -1;
+    if (!TakesPacket(Find(device->path), data)) return -1;
     std::ofstream packets(Folder() + "/packets", std::ios::app);
     packets << device->path << std::hex << std::uppercase << std::setfill('0');
     for (std::size_t i = 0; i < length; ++i) packets << ' ' << std::setw(2) << unsigned{data[i]};
