@@ -19,6 +19,7 @@ namespace {
 
 constexpr std::string_view kMask = "A???????.Alm";
 constexpr double kLargestFileId = 9'999'999;
+constexpr double kSecondsPerDay = 86400;
 
 std::string OwnName(std::int32_t fileId) {
     return "A" + LastDigits(std::to_string(fileId), 7) + ".alm";
@@ -91,8 +92,8 @@ bool cAlarmStore::IsTooOld(const cVigrelRecieverAlarm& alarm, DateTime now) cons
 }
 
 void cAlarmStore::DeleteAlarmFile(const cVigrelRecieverAlarm& alarm) {
-    const auto unsaved =
-        std::erase_if(m_Unsaved, [&](const AlarmPtr& other) { return other.get() == &alarm; });
+    const auto isThis = [&](const AlarmPtr& other) { return other.get() == &alarm; };
+    const auto unsaved = std::erase_if(m_Unsaved, isThis) + std::erase_if(m_Retried, isThis);
     // Without a number yet it has no file; that of number 0 is another alarm's.
     if (unsaved > 0 && alarm.m_FileId == 0) return;
     SkipFailure([&] { m_Services.ownFiles.RemoveFile(FileName(alarm.m_FileId)); });
@@ -114,9 +115,10 @@ void cAlarmStore::RemoveOldest() {
 // An alarm that is not on disk yet has its number all the same: given to another one, one of the two would
 // take the other's file. Throws where the disk doesn't tell.
 bool cAlarmStore::IsTaken(std::int32_t fileId) const {
+    const auto hasIt = [&](const AlarmPtr& unsaved) { return unsaved->m_FileId == fileId; };
     return IsThere(m_Services.ownFiles, FileName(fileId)) ||
-           std::any_of(m_Unsaved.begin(), m_Unsaved.end(),
-                       [&](const AlarmPtr& unsaved) { return unsaved->m_FileId == fileId; });
+           std::any_of(m_Unsaved.begin(), m_Unsaved.end(), hasIt) ||
+           std::any_of(m_Retried.begin(), m_Retried.end(), hasIt);
 }
 
 void cAlarmStore::DrawFileId(cVigrelRecieverAlarm& alarm) {
@@ -163,17 +165,25 @@ void cAlarmStore::SaveAlarms(std::vector<AlarmPtr> alarms) {
 
 void cAlarmStore::Timer_Save_Tick() {
     m_Pending.Turn();
-    if (m_Pending.Empty()) m_Services.timerSave.SetEnabled(false);
+    if (m_Pending.Empty()) EndTurns();
+}
+
+void cAlarmStore::EndTurns() {
+    m_Retried.clear();
+    m_Services.timerSave.SetEnabled(false);
 }
 
 void cAlarmStore::FinishSaves() {
     m_Pending.Finish();
-    m_Services.timerSave.SetEnabled(false);
+    EndTurns();
+    RetryUnsaved();
+    m_Pending.Finish();
+    EndTurns();
 }
 
 void cAlarmStore::NoteUnsaved(const AlarmPtr& alarm) {
     if (std::find(m_Unsaved.begin(), m_Unsaved.end(), alarm) != m_Unsaved.end()) return;
-    if (m_Unsaved.empty()) m_UnsavedSince = m_Services.clock.Now();
+    if (UnsavedCount() == 0) m_UnsavedSince = m_Services.clock.Now();
     m_Unsaved.push_back(alarm);
 }
 
@@ -185,15 +195,28 @@ void cAlarmStore::MakeFolder() const {
 }
 
 void cAlarmStore::RetryUnsaved() {
+    if (m_Unsaved.empty() || !m_Retried.empty()) return;
     // The folder can be what is missing: the disk was full when it was to be made.
-    if (!m_Unsaved.empty()) MakeFolder();
-    // What stopped one file mostly stops them all; the rest waits for the next round.
-    const auto stillUnsaved = std::find_if_not(m_Unsaved.begin(), m_Unsaved.end(),
-                                               [&](const AlarmPtr& alarm) { return TrySave(*alarm); });
-    m_Unsaved.erase(m_Unsaved.begin(), stillUnsaved);
-    // That round begins behind the one that failed, lest a single file that can never be written keeps all
-    // others from the disk.
-    if (!m_Unsaved.empty()) std::rotate(m_Unsaved.begin(), m_Unsaved.begin() + 1, m_Unsaved.end());
+    MakeFolder();
+    const double until = m_Services.clock.Steady() + cPendingSaves::kTurnSeconds / kSecondsPerDay;
+    auto next = m_Unsaved.begin();
+    bool taken = true;
+    while (taken && next != m_Unsaved.end() && m_Services.clock.Steady() <= until) {
+        taken = TrySave(**next);
+        if (taken) ++next;
+    }
+    m_Unsaved.erase(m_Unsaved.begin(), next);
+    // What stopped one file mostly stops them all; the rest waits for the next round. That begins behind the
+    // one that failed, lest a single file that can never be written keeps all others from the disk.
+    if (!taken) std::rotate(m_Unsaved.begin(), m_Unsaved.begin() + 1, m_Unsaved.end());
+    if (taken && !m_Unsaved.empty()) RetryTheRest();
+}
+
+// A disk that was full for a night has thousands waiting, and alarms come in meanwhile.
+void cAlarmStore::RetryTheRest() {
+    m_Retried = std::exchange(m_Unsaved, {});
+    m_Pending.Add(m_Retried);
+    m_Services.timerSave.SetEnabled(true);
 }
 
 std::size_t cAlarmStore::FindPlace(const cVigrelRecieverAlarm& alarm) const {

@@ -63,7 +63,7 @@ class cAlarmStore {
     // alone is written at once.
     void SaveAlarms(std::vector<AlarmPtr> alarms);
     void Timer_Save_Tick();
-    // Writes now what still waits for its turn.
+    // Writes now what still waits for its turn, and what could not be written before.
     void FinishSaves();
     void DeleteAlarmFile(const cVigrelRecieverAlarm& alarm);
     // Puts the alarm in its place and enforces both limits; false when an alarm was removed for it, which can
@@ -71,11 +71,11 @@ class cAlarmStore {
     bool InsertAlarm(const AlarmPtr& alarm, std::int32_t maxEvents);
     // Removes the alarms at the front that are older than m_MaxDays; how many they were.
     std::int32_t SweepOldAlarms();
-    // Writes what could not be written before.
+    // Writes what could not be written before: what a turn allows at once, the rest as SaveAlarms does.
     void RetryUnsaved();
     // The alarms whose file could not be written as they are now; since when there are any, and what stopped
     // the last try.
-    std::size_t UnsavedCount() const { return m_Unsaved.size(); }
+    std::size_t UnsavedCount() const { return m_Unsaved.size() + m_Retried.size(); }
     DateTime UnsavedSince() const { return m_UnsavedSince; }
     const std::string& UnsavedReason() const { return m_UnsavedReason; }
     // The folder, and why it could not be listed when the alarms were loaded; empty when it could. There can
@@ -103,12 +103,15 @@ class cAlarmStore {
     std::int32_t InsertAll(const std::vector<AlarmPtr>& alarms);
     std::int32_t InsertOneByOne(const std::vector<AlarmPtr>& alarms);
     void NoteUnsaved(const AlarmPtr& alarm);
+    void RetryTheRest();
+    void EndTurns();
 
     cServices m_Services;
     std::string m_ApplicationPath, m_Folder;
     // The names of files that came from elsewhere and are not spelled as the store spells them.
     std::map<std::int32_t, std::string> m_Spellings;
     std::vector<AlarmPtr> m_Unsaved;
+    std::vector<AlarmPtr> m_Retried;  // of them, what m_Pending is writing; one that fails comes back
     DateTime m_UnsavedSince = 0;
     std::string m_UnsavedReason;
     std::string m_FolderProblem;

@@ -411,6 +411,89 @@ TEST_F(AlarmStore, ATurnEndsWhenItsTimeIsOver) {
     for (const AlarmPtr& alarm : alarms) ExpectStored(*this, alarm);
 }
 
+// A disk that was full for a night, and has room again.
+class AFullDisk : public AlarmStore {
+  protected:
+    // So many wait; each write takes as long as a turn allows two of.
+    std::vector<AlarmPtr> LetWait(int count) {
+        files.m_DiskFull = true;
+        const std::vector<AlarmPtr> alarms = TakeSome(*this, count);
+        files.m_DiskFull = false;
+        files.m_OnCall = [this](std::string_view operation, std::string_view) {
+            if (operation == "write") clock.AddSeconds(0.015);
+        };
+        return alarms;
+    }
+    void ExpectAllDurable(const std::vector<AlarmPtr>& alarms) {
+        EXPECT_EQ(store.UnsavedCount(), 0u);
+        EXPECT_FALSE(timerSave.Enabled());
+        files.Crash();
+        for (const AlarmPtr& alarm : alarms) ExpectStored(*this, alarm);
+        EXPECT_EQ(AlarmFiles().size(), alarms.size());
+    }
+};
+
+TEST_F(AFullDisk, ThatHasRoomAgainIsGivenWhatWaitedInShortTurns) {
+    const std::vector<AlarmPtr> alarms = LetWait(10);
+    const double before = clock.Steady();
+    store.RetryUnsaved();
+    EXPECT_LT((clock.Steady() - before) * 86400, 0.035);
+    EXPECT_EQ(AlarmFiles().size(), 2u);
+    EXPECT_TRUE(timerSave.Enabled());
+    const DateTime since = store.UnsavedSince();
+    while (timerSave.Enabled()) {
+        // They count as what they are, until all are on disk, and no other try begins.
+        EXPECT_EQ(store.UnsavedCount(), 8u);
+        const double turn = clock.Steady();
+        store.RetryUnsaved();
+        store.Timer_Save_Tick();
+        EXPECT_LT((clock.Steady() - turn) * 86400, 0.035);
+    }
+    EXPECT_EQ(store.UnsavedSince(), since);
+    ExpectAllDurable(alarms);
+}
+
+TEST_F(AFullDisk, ThatFillsAgainMeanwhileLosesNothing) {
+    const std::vector<AlarmPtr> alarms = LetWait(10);
+    store.RetryUnsaved();
+    store.Timer_Save_Tick();
+    files.m_DiskFull = true;
+    RunTimer(*this);
+    EXPECT_GE(store.UnsavedCount(), 6u);
+    files.m_DiskFull = false;
+    store.RetryUnsaved();
+    RunTimer(*this);
+    ExpectAllDurable(alarms);
+}
+
+TEST_F(AFullDisk, ThatHasRoomAtTheEndIsGivenAll) {
+    const std::vector<AlarmPtr> alarms = LetWait(10);
+    store.FinishSaves();
+    ExpectAllDurable(alarms);
+}
+
+TEST_F(AFullDisk, GivesNoNumberTwiceWhileWhatWaitedIsWritten) {
+    random.m_Values = {0.1, 0.2, 0.3, 0.4};
+    std::vector<AlarmPtr> alarms = LetWait(4);
+    store.RetryUnsaved();
+    random.m_Values = {0.3, 0.5};
+    alarms.push_back(Take(MakeAlarm("meanwhile")));
+    EXPECT_EQ(alarms.back()->m_FileId, 5000000);
+    RunTimer(*this);
+    ExpectAllDurable(alarms);
+}
+
+TEST_F(AFullDisk, BringsNothingBackThatTheLimitsRemoveMeanwhile) {
+    std::vector<AlarmPtr> alarms = LetWait(4);
+    store.RetryUnsaved();
+    store.DeleteAlarmFile(*alarms[3]);
+    alarms[3]->m_Removed = true;
+    EXPECT_EQ(store.UnsavedCount(), 1u);
+    alarms.pop_back();
+    RunTimer(*this);
+    ExpectAllDurable(alarms);
+}
+
 TEST_F(AlarmStore, WhileTheDiskIsBusyTurnsPassAndNoNameIsTouched) {
     const std::vector<AlarmPtr> alarms = TakeSome(*this, 3);
     files.m_DiskIsBusy = true;
