@@ -2,12 +2,13 @@
 """Breaks one place of the logic at a time and looks whether a test notices.
 
     tests/campaigns/mutants/mutants.py [FOLDER...] [--number N] [--seed S] [--since COMMIT] [--again] [--life]
-        [--list | --report]
+        [--together] [--list | --report]
 
 A place is a comparison or its boundary, a constant, a default, the order of two statements, a call or an assignment, a
-condition, a "!", an operator. Each is broken in a copy of the sources (build/mutants), what depends on it is built there,
-and the tests of the folder and of those that use it run, until one fails. A change that makes them ten times as slow is
-noticed too. What survived is listed, and told apart from what tests/campaigns/mutants/equivalent.txt names with the
+condition, a "!", an operator. They are broken in a copy of the sources (build/mutants): all of a folder are built into one
+program, in which a variable chooses the broken one, and what can't be chosen there is built one by one. The tests of the
+folder and of those that use it that come by the place run, until one fails. A change that makes them five times as slow,
+and ten seconds more, is noticed too. What survived is listed, and told apart from what tests/campaigns/mutants/equivalent.txt names with the
 reason why it changes nothing.
 
 FOLDER       folders of src: of the logic, all of it unless told, or of the windows: windows, receiver_ui, editor_ui
@@ -18,7 +19,8 @@ FOLDER       folders of src: of the logic, all of it unless told, or of the wind
 --life       let survivors face the whole lives of a station too, which takes half a minute each
 --list       only list the places
 --report     only tell what became of those that were tried so far
---jobs N     compilers at once (2)
+--together   leave those that have to be built one by one
+--jobs N     compilers, or tests, at once (2)
 
 What was tried is kept in build/mutants/tried.json, so that a campaign that is cut off goes on where it stopped.
 """
@@ -35,6 +37,7 @@ import sys
 
 sys.dont_write_bytecode = True
 import changes  # noqa: E402
+import together  # noqa: E402
 import trial  # noqa: E402
 
 ROOT = pathlib.Path(__file__).resolve().parents[3]
@@ -79,15 +82,18 @@ def changed_lines(commit):
 
 
 def equivalents(text=None):
-    """What changes nothing: the name of a place, and why."""
+    """What changes nothing: the name of a place, and why. Names in a row have their reason together."""
     text = (HERE / "equivalent.txt").read_text() if text is None else text
-    found, name = {}, ""
+    found, names, told = {}, [], False
     for line in text.splitlines():
         if line.startswith("src/"):
-            name = line
-            found[name] = ""
-        elif line.startswith("    ") and name:
-            found[name] += line[3:]
+            names = ([] if told else names) + [line]
+            told = False
+            found[line] = ""
+        elif line.startswith("    "):
+            told = True
+            for name in names:
+                found[name] += line[3:]
     return found
 
 
@@ -138,18 +144,39 @@ def try_all(folders, wish, tried, known):
     work = {folder: chosen(folder, wish, lines) for folder in folders}
     untried = {folder: [place for place in work[folder] if place[0] not in known and
                         tried.outcome(place[0], place[1], wish.again) is None] for folder in folders}
-    benches = [trial.Trial(ROOT, windows, wish.jobs) for windows in (False, True)]
-    for folder in folders:
-        bench = benches[folder in WINDOWS]
-        if untried[folder]:
-            bench.prepare()
-        for number, (name, file, change) in enumerate(untried[folder], 1):
-            source = (ROOT / file).read_text()
-            programs = programs_of(folder) + (["life_tests"] if wish.life else [])
-            outcome, by = bench.outcome(file, change.made(source), programs)
+    for windows in (False, True):
+        wanted = [(folder, *place) for folder in folders if (folder in WINDOWS) == windows for place in untried[folder]]
+        for number, (place, outcome, by) in enumerate(outcomes(wanted, windows, wish), 1):
+            folder, name, file, change = place
             tried.note(name, file, outcome, by)
-            print(f"{folder} {number}/{len(untried[folder])} {outcome:8} {file}:{change.line}: {change.name} {by}", flush=True)
+            print(f"{number}/{len(wanted)} {outcome:8} {file}:{change.line}: {change.name} {by}", flush=True)
     return work
+
+
+def outcomes(wanted, windows, wish):
+    """(place, outcome, by) of each: many are built into one program, few and what can't be chosen at run time one by one."""
+    programs = {folder: programs_of(folder) + (["life_tests"] if wish.life else []) for folder, *_ in wanted}
+    one_by_one = wanted
+    if len(wanted) > 12:
+        # All places of the folders, so that the program stays the same while more of them are tried.
+        every = [(folder, *place) for folder in programs for place in places(folder)]
+        needed = list(dict.fromkeys(name for names in programs.values() for name in names))
+        bench = together.Together(ROOT, windows, wish.jobs)
+        built = bench.build_all([place[1:] for place in every], needed)
+        print(f"{len(built)} of {len(every)} places are in one program", flush=True)
+        bench.learn_all(needed)
+        names = {place[1] for place in wanted}
+        chosen_now = {number: programs[every[number - 1][0]] for number in sorted(built) if every[number - 1][1] in names}
+        for number, outcome, by in bench.outcomes(chosen_now):
+            yield every[number - 1], outcome, by
+        there = {every[number - 1][1] for number in chosen_now}
+        one_by_one = [place for place in wanted if place[1] not in there]
+    if one_by_one and not wish.together:
+        bench = trial.Trial(ROOT, windows, wish.jobs)
+        bench.prepare()
+        for place in one_by_one:
+            folder, _, file, change = place
+            yield place, *bench.outcome(file, change.made((ROOT / file).read_text()), programs[folder])
 
 
 def report(work, tried, known):
@@ -176,7 +203,7 @@ def main():
     parser.add_argument("folders", nargs="*", choices=[[], *LOGIC, *WINDOWS], metavar="FOLDER", help=argparse.SUPPRESS)
     for option, kind in (("--number", int), ("--seed", int), ("--since", str), ("--jobs", int)):
         parser.add_argument(option, type=kind, help=argparse.SUPPRESS)
-    for option in ("--again", "--list", "--life", "--report"):
+    for option in ("--again", "--list", "--life", "--report", "--together"):
         parser.add_argument(option, action="store_true", help=argparse.SUPPRESS)
     parser.set_defaults(seed=1, jobs=2)
     wish = parser.parse_args()

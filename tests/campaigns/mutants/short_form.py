@@ -11,6 +11,7 @@ sys.dont_write_bytecode = True
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent))
 import changes  # noqa: E402
 import mutants  # noqa: E402
+import together  # noqa: E402
 import trial  # noqa: E402
 
 
@@ -105,8 +106,8 @@ class Lists(unittest.TestCase):
             self.assertGreater(len(reason.split()), 2, name)
 
     def test_reasons_are_read_line_by_line(self):
-        self.assertEqual(mutants.equivalents("# x\n\nsrc/a: b\n    One\n    two.\nsrc/c: d\n    Three.\n"),
-                         {"src/a: b": " One two.", "src/c: d": " Three."})
+        self.assertEqual(mutants.equivalents("# x\n\nsrc/a: b\n    One\n    two.\n\nsrc/c: d\nsrc/e: f\n    Three.\n"),
+                         {"src/a: b": " One two.", "src/c: d": " Three.", "src/e: f": " Three."})
 
     def test_the_folders_that_use_one_stand_in_the_table(self):
         self.assertEqual(mutants.users("link"), ["link", "core"])
@@ -149,11 +150,53 @@ class Trials(unittest.TestCase):
             self.assertEqual((bench.copy / "src" / "a.cpp").read_text(), self.SOURCE)
 
 
+class AllInOneProgram(unittest.TestCase):
+    """A project of one source and one test program, whose changes are built together."""
+
+    SOURCE = ("constexpr int kLimit = 3;\nconstexpr int kSize = 2;\nint room[kSize];\n"
+              "constexpr bool IsOdd(int a) {\n    return a == 1;\n}\n"
+              "bool IsBelow(int a, int b) {\n    return a < b;\n}\n"
+              "int Limited(int a) {\n    if (a > kLimit) a = kLimit;\n    return a;\n}\n"
+              "int Unused(int a) {\n    return -a - 5;\n}\n")
+    TEST = ('#include <gtest/gtest.h>\nbool IsBelow(int, int);\nint Limited(int);\n'
+            'TEST(A, IsBelow) { EXPECT_TRUE(IsBelow(1, 2)); EXPECT_FALSE(IsBelow(2, 1)); }\n'
+            'TEST(A, Limits) { EXPECT_EQ(Limited(9), 3); EXPECT_EQ(Limited(1), 1); }\n')
+    NINJA = ("rule link\n  command = c++ -O0 -w $in -o $out -lgtest -lgtest_main -lpthread\n"
+             "build tests: phony bin/tests\nbuild bin/tests: link ../../src/a.cpp ../../src/test.cpp\n")
+
+    def test_each_is_chosen_alone_and_what_has_to_be_a_constant_is_left_out(self):
+        with tempfile.TemporaryDirectory() as folder:
+            bench = together.Together(pathlib.Path(folder))
+            bench.prepare = lambda: None
+            for where in (bench.root, bench.copy):
+                (where / "src").mkdir(parents=True)
+                (where / "src" / "a.cpp").write_text(self.SOURCE)
+                (where / "src" / "test.cpp").write_text(self.TEST)
+            bench.build.mkdir(parents=True)
+            (bench.build / "build.ninja").write_text(self.NINJA)
+            places = [(change.name, "src/a.cpp", change) for change in changes.changes(self.SOURCE)]
+            built = bench.build_all(places, ["tests"])
+            left_out = [name for number, (name, *_) in enumerate(places, 1) if number not in built]
+            self.assertEqual(left_out, ["default: constexpr int kSize = [2 -> 3];", "comparison: return a [== -> !=] 1;",
+                                        "constant: return a == [1 -> 0];", "constant: return a == [1 -> 2];"])
+            bench.learn_all(["tests"])
+            found = {places[number - 1][0]: (outcome, by)
+                     for number, outcome, by in bench.outcomes(dict.fromkeys(built, ["tests"]))}
+            below, limits = ("noticed", "tests: A.IsBelow"), ("noticed", "tests: A.Limits")
+            self.assertEqual(found["comparison: return a [< -> >=] b;"], below)
+            self.assertEqual(found["boundary: return a [< -> <=] b;"], ("survived", ""))
+            self.assertEqual(found["default: constexpr int kLimit = [3 -> 4];"], limits)
+            self.assertEqual(found["guard: if ([a > kLimit -> true]) a = kLimit;"], limits)
+            self.assertEqual(found["boundary: if (a [> -> >=] kLimit) a = kLimit;"], ("survived", ""))
+            self.assertEqual(found["constant: return -a - [5 -> 6];"], ("survived", ""))
+            self.assertEqual(bench.tests["tests", "A.IsBelow"][1] & bench.tests["tests", "A.Limits"][1], set())
+
+
 class Help(unittest.TestCase):
     def test_tells_every_option(self):
         said = subprocess.run([sys.executable, str(mutants.HERE / "mutants.py"), "--help"], check=True,
                               capture_output=True, text=True).stdout
-        for option in ("--number", "--seed", "--since", "--again", "--life", "--list", "--report", "--jobs"):
+        for option in ("--number", "--seed", "--since", "--again", "--life", "--list", "--report", "--together", "--jobs"):
             self.assertIn(option, said)
 
 

@@ -13,6 +13,12 @@ QUIET = "".join(f'#pragma GCC diagnostic ignored "-W{name}"\n' for name in (
     "overflow", "bool-compare", "int-in-bool-context", "array-bounds", "maybe-uninitialized"))
 
 
+def first_failure(done):
+    """Which test of a program that has ended failed first."""
+    names = re.findall(r"\[  FAILED  \] ([\w/]+\.[\w/]+)", done.stdout)
+    return names[0] if names else f"ended with {done.returncode}"
+
+
 class Trial:
     """Builds and runs in a copy of its own, so that a campaign that is cut off leaves nothing broken."""
 
@@ -20,6 +26,7 @@ class Trial:
         self.root, self.windows, self.jobs = root, windows, jobs
         self.copy = root / "build" / "mutants" / "source"
         self.build = self.copy / "build" / ("windows" if windows else "dev")
+        self.flags = []
         self.limits = {}
         self.environment = {**os.environ, "TZ": "Europe/Stockholm", "LC_ALL": "C.UTF-8",
                             "CCACHE_BASEDIR": str(self.copy), "CCACHE_NOHASHDIR": "1"}
@@ -46,7 +53,7 @@ class Trial:
         launcher = "-DCMAKE_CXX_COMPILER_LAUNCHER=" + ("ccache" if shutil.which("ccache") else "")
         linker = "-DCMAKE_EXE_LINKER_FLAGS=" + ("-fuse-ld=lld" if shutil.which("ld.lld") else "")
         windows = "-DVIGREL_WITH_QT=" + ("ON" if self.windows else "OFF")
-        self.must(["cmake", "--preset", "dev", "-B", self.build, windows, launcher, linker,
+        self.must(["cmake", "--preset", "dev", "-B", self.build, windows, launcher, linker, *self.flags,
                    "-DCMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE=PRE_TEST"])
 
     def learn(self, program):
@@ -74,8 +81,7 @@ class Trial:
             return f"{program}: too slow"
         if done.returncode == 0:
             return ""
-        names = re.findall(r"\[  FAILED  \] ([\w/]+\.[\w/]+)", done.stdout)
-        return f"{program}: {names[0] if names else f'ended with {done.returncode}'}"
+        return f"{program}: {first_failure(done)}"
 
     def built(self, program):
         """Whether the program could be built. The log tells why not."""
