@@ -21,13 +21,23 @@ void cHolidays::Add(cHolidayLabel label) {
     m_HolidayLabels.insert(place, std::move(label));
 }
 
+void cHolidays::Add(std::vector<cHolidayLabel> labels) {
+    for (cHolidayLabel& label : labels) {
+        if (label.m_Day < 0 || label.m_Day >= kCalendarDays) continue;
+        m_HolidayMarks[static_cast<std::size_t>(label.m_Day)] = True16;
+        m_HolidayLabels.push_back(std::move(label));
+    }
+    std::stable_sort(m_HolidayLabels.begin(), m_HolidayLabels.end(), ComesBefore);
+}
+
 const cHolidayLabel* cHolidays::LabelOf(std::int32_t day) const {
     if (day < 0 || day >= kCalendarDays || m_HolidayMarks[static_cast<std::size_t>(day)] == False16) {
         return nullptr;
     }
-    const auto found = std::find_if(m_HolidayLabels.begin(), m_HolidayLabels.end(),
-                                    [day](const cHolidayLabel& label) { return label.m_Day == day; });
-    return found == m_HolidayLabels.end() ? nullptr : &*found;
+    const auto found = std::lower_bound(
+        m_HolidayLabels.begin(), m_HolidayLabels.end(), day,
+        [](const cHolidayLabel& label, std::int32_t searched) { return label.m_Day < searched; });
+    return found == m_HolidayLabels.end() || found->m_Day != day ? nullptr : &*found;
 }
 
 }  // namespace vigrel

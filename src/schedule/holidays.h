@@ -20,6 +20,8 @@ class cHolidays {
 
     // Sorts the label in and sets the mark. A day outside the calendar's span is left out.
     void Add(cHolidayLabel label);
+    // The same with many, in their order. Each for itself would move all behind it.
+    void Add(std::vector<cHolidayLabel> labels);
     // The first label of a day that has a mark; none otherwise.
     const cHolidayLabel* LabelOf(std::int32_t day) const;
 };

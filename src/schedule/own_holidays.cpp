@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 #include "common/dates.h"
 #include "common/failure.h"
@@ -118,8 +119,9 @@ std::string LineFromHoliday(const cOwnHoliday& holiday) {
     return DaysOf(holiday) + " | " + holiday.m_Name;
 }
 
-void Mark(cHolidays& holidays, const std::string& name, std::int32_t first, std::int32_t last) {
-    for (std::int32_t day = first; day <= last; ++day) holidays.Add({day, kLikeSunday, True16, name});
+void Mark(std::vector<cHolidayLabel>& labels, const std::string& name, std::int32_t first,
+          std::int32_t last) {
+    for (std::int32_t day = first; day <= last; ++day) labels.push_back({day, kLikeSunday, True16, name});
 }
 
 }  // namespace
@@ -158,18 +160,20 @@ void cOwnHolidays::Remove(std::size_t index) {
 
 // Days that end before they begin go over the new year; the first January of all has had them too.
 void cOwnHolidays::AddTo(cHolidays& holidays) const {
+    std::vector<cHolidayLabel> labels;
     for (const cOwnHoliday& holiday : m_Holidays) {
         const auto [first, last] = SpanOf(holiday);
         if (first.year != 0) {
-            Mark(holidays, holiday.m_Name, IndexIn(first, first.year), IndexIn(last, last.year));
+            Mark(labels, holiday.m_Name, IndexIn(first, first.year), IndexIn(last, last.year));
             continue;
         }
         for (int year = kFirstCalendarYear - 1; year <= kLastCalendarYear; ++year) {
             const bool overNewYear = IndexIn(last, year) < IndexIn(first, year);
             if (!IsOfYear(first, year) && holiday.m_Last.empty()) continue;
-            Mark(holidays, holiday.m_Name, IndexIn(first, year), IndexIn(last, year + (overNewYear ? 1 : 0)));
+            Mark(labels, holiday.m_Name, IndexIn(first, year), IndexIn(last, year + (overNewYear ? 1 : 0)));
         }
     }
+    holidays.Add(std::move(labels));
 }
 
 }  // namespace vigrel

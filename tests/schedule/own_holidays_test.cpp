@@ -50,6 +50,17 @@ TEST_F(OwnHolidays, ADayWithAYearIsOnceAndOneWithoutIsEveryYear) {
     EXPECT_TRUE(m_Own.m_Holidays[1].IsEveryYear());
 }
 
+// Each mark in its place moves all that stand behind it: that took a minute and more.
+TEST_F(OwnHolidays, SpansOfAllYearsAreMarkedInTheirOrder) {
+    std::string text = "06-06 | In front\n";
+    for (int i = 0; i < 20; ++i) text += "2000-01-01..2039-12-31 | Open " + std::to_string(i) + "\n";
+    EXPECT_EQ(Parse(text), "");
+    EXPECT_EQ(NameOn(2000, 1, 1), "Open 0");
+    EXPECT_EQ(NameOn(2026, 6, 6), "In front");
+    EXPECT_EQ(NameOn(2039, 12, 31), "Open 0");
+    EXPECT_EQ(Marks(), 40u + 20u * kCalendarDays);
+}
+
 TEST_F(OwnHolidays, SeveralDaysOnEndBelongToBothOfTheirEnds) {
     EXPECT_EQ(Parse("2026-07-06..2026-07-31 | Works holiday\n2026-12-30 .. 2027-01-02 | Stocktaking\n"), "");
     EXPECT_EQ(NameOn(2026, 7, 5), "");

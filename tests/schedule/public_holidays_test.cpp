@@ -310,6 +310,20 @@ TEST(Holidays, OfOneDayTheShownLabelComesFirst) {
     EXPECT_EQ(holidays.LabelOf(11), nullptr);
 }
 
+TEST(Holidays, ManyLabelsStandAsIfEachWasAddedForItself) {
+    const std::vector<cHolidayLabel> labels{{10, 6, True16, "second"}, {3, 6, False16, "hidden"},
+                                            {-1, 6, True16, "before"}, {3, 6, True16, "shown"},
+                                            {10, 6, True16, "third"},  {kCalendarDays, 6, True16, "behind"}};
+    cHolidays holidays;
+    holidays.Add({10, 6, True16, "first"});
+    holidays.Add(labels);
+    std::string names;
+    for (const cHolidayLabel& label : holidays.m_HolidayLabels) names += label.m_Label + " ";
+    EXPECT_EQ(names, "shown hidden first second third ");
+    EXPECT_EQ(holidays.LabelOf(3)->m_Label, "shown");
+    EXPECT_EQ(holidays.LabelOf(-1), nullptr);
+}
+
 TEST(Holidays, ADayOutsideTheSpanIsLeftOut) {
     cHolidays holidays;
     holidays.Add({-1, 6, True16, "before"});
