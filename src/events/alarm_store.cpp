@@ -91,19 +91,33 @@ bool cAlarmStore::IsTooOld(const cVigrelRecieverAlarm& alarm, DateTime now) cons
     return days > 0 && Earlier(alarm.m_CreatedTime + days, now);
 }
 
-void cAlarmStore::DeleteAlarmFile(const cVigrelRecieverAlarm& alarm) {
+// Empty for an alarm that has none.
+std::string cAlarmStore::ForgetFile(const cVigrelRecieverAlarm& alarm) {
     const auto isThis = [&](const AlarmPtr& other) { return other.get() == &alarm; };
     const auto unsaved = std::erase_if(m_Unsaved, isThis) + std::erase_if(m_Retried, isThis);
     // Without a number yet it has no file; that of number 0 is another alarm's.
-    if (unsaved > 0 && alarm.m_FileId == 0) return;
-    SkipFailure([&] { m_Services.ownFiles.RemoveFile(FileName(alarm.m_FileId)); });
+    if (unsaved > 0 && alarm.m_FileId == 0) return {};
+    std::string file = FileName(alarm.m_FileId);
     m_Spellings.erase(alarm.m_FileId);
+    return file;
+}
+
+void cAlarmStore::RemoveAlarmFile(const std::string& file) const {
+    if (!file.empty()) SkipFailure([&] { m_Services.ownFiles.RemoveFile(file); });
+}
+
+void cAlarmStore::DeleteAlarmFile(const cVigrelRecieverAlarm& alarm) {
+    RemoveAlarmFile(ForgetFile(alarm));
+}
+
+void cAlarmStore::TellGivenUp(cVigrelRecieverAlarm& alarm) const {
+    alarm.m_Removed = true;
+    if (OnGivenUp) OnGivenUp(alarm);
 }
 
 void cAlarmStore::GiveUp(cVigrelRecieverAlarm& alarm) {
     DeleteAlarmFile(alarm);
-    alarm.m_Removed = true;
-    if (OnGivenUp) OnGivenUp(alarm);
+    TellGivenUp(alarm);
 }
 
 void cAlarmStore::RemoveOldest() {
@@ -112,11 +126,11 @@ void cAlarmStore::RemoveOldest() {
     GiveUp(*oldest);
 }
 
-// An alarm that is not on disk yet has its number all the same: given to another one, one of the two would
-// take the other's file. Throws where the disk doesn't tell.
+// An alarm that is not on disk yet has its number all the same, and so has one whose file is still to go:
+// given to another one, one of the two would take the other's file. Throws where the disk doesn't tell.
 bool cAlarmStore::IsTaken(std::int32_t fileId) const {
     const auto hasIt = [&](const AlarmPtr& unsaved) { return unsaved->m_FileId == fileId; };
-    return IsThere(m_Services.ownFiles, FileName(fileId)) ||
+    return IsThere(m_Services.ownFiles, FileName(fileId)) || m_OldFiles.contains(fileId) ||
            std::any_of(m_Unsaved.begin(), m_Unsaved.end(), hasIt) ||
            std::any_of(m_Retried.begin(), m_Retried.end(), hasIt);
 }
@@ -163,22 +177,29 @@ void cAlarmStore::SaveAlarms(std::vector<AlarmPtr> alarms) {
     m_Services.timerSave.SetEnabled(true);
 }
 
-void cAlarmStore::Timer_Save_Tick() {
-    m_Pending.Turn();
-    if (m_Pending.Empty()) EndTurns();
+double cAlarmStore::EndOfTurn() const {
+    return m_Services.clock.Steady() + cPendingSaves::kTurnSeconds / kSecondsPerDay;
 }
 
-void cAlarmStore::EndTurns() {
-    m_Retried.clear();
-    m_Services.timerSave.SetEnabled(false);
+void cAlarmStore::Timer_Save_Tick() {
+    m_Pending.Turn();
+    if (m_Pending.Empty()) m_Retried.clear();
+    RemoveOldFiles(EndOfTurn());
+    if (m_Pending.Empty() && m_OldFiles.empty()) m_Services.timerSave.SetEnabled(false);
 }
 
 void cAlarmStore::FinishSaves() {
-    m_Pending.Finish();
-    EndTurns();
+    FinishPending();
     RetryUnsaved();
+    FinishPending();
+    // Last of all, and no longer than a turn: what stays is too old for the next start, too.
+    RemoveOldFiles(EndOfTurn());
+    m_Services.timerSave.SetEnabled(false);
+}
+
+void cAlarmStore::FinishPending() {
     m_Pending.Finish();
-    EndTurns();
+    m_Retried.clear();
 }
 
 void cAlarmStore::NoteUnsaved(const AlarmPtr& alarm) {
@@ -198,7 +219,7 @@ void cAlarmStore::RetryUnsaved() {
     if (m_Unsaved.empty() || !m_Retried.empty()) return;
     // The folder can be what is missing: the disk was full when it was to be made.
     MakeFolder();
-    const double until = m_Services.clock.Steady() + cPendingSaves::kTurnSeconds / kSecondsPerDay;
+    const double until = EndOfTurn();
     auto next = m_Unsaved.begin();
     bool taken = true;
     while (taken && next != m_Unsaved.end() && m_Services.clock.Steady() <= until) {
@@ -238,9 +259,23 @@ bool cAlarmStore::InsertAlarm(const AlarmPtr& alarm, std::int32_t maxEvents) {
 
 std::int32_t cAlarmStore::SweepOldAlarms() {
     std::int32_t removed = 0;
-    for (; !m_Alarms.empty() && IsTooOld(*m_Alarms.front(), m_Services.clock.Now()); ++removed)
-        RemoveOldest();
+    for (; !m_Alarms.empty() && IsTooOld(*m_Alarms.front(), m_Services.clock.Now()); ++removed) {
+        const AlarmPtr oldest = m_Alarms.front();
+        m_Alarms.pop_front();
+        std::string file = ForgetFile(*oldest);
+        if (!file.empty()) m_OldFiles.emplace(oldest->m_FileId, std::move(file));
+        TellGivenUp(*oldest);
+    }
+    RemoveOldFiles(EndOfTurn());
+    if (!m_OldFiles.empty()) m_Services.timerSave.SetEnabled(true);
     return removed;
+}
+
+void cAlarmStore::RemoveOldFiles(double until) {
+    while (!m_OldFiles.empty() && m_Services.clock.Steady() <= until) {
+        RemoveAlarmFile(m_OldFiles.begin()->second);
+        m_OldFiles.erase(m_OldFiles.begin());
+    }
 }
 
 // The number of a file of the mask; nothing for one that is no alarm.

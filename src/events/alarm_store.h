@@ -34,7 +34,7 @@ class cAlarmStore {
         const cTexts& texts;
         const cSettings& settings;
         const cCategorySettings& categories;
-        cTimer& timerSave;  // runs while files of many alarms wait to be written
+        cTimer& timerSave;  // runs while files of many alarms wait to be written or removed
     };
     // m_ApplicationPath ends in a backslash.
     cAlarmStore(const cServices& services, std::string applicationPath);
@@ -69,7 +69,8 @@ class cAlarmStore {
     // Puts the alarm in its place and enforces both limits; false when an alarm was removed for it, which can
     // be the alarm itself.
     bool InsertAlarm(const AlarmPtr& alarm, std::int32_t maxEvents);
-    // Removes the alarms at the front that are older than m_MaxDays; how many they were.
+    // Removes the alarms at the front that are older than m_MaxDays; how many they were. Their files go as
+    // far as a turn allows, the rest at ticks of timerSave.
     std::int32_t SweepOldAlarms();
     // Writes what could not be written before: what a turn allows at once, the rest as SaveAlarms does.
     void RetryUnsaved();
@@ -90,6 +91,10 @@ class cAlarmStore {
     void RenameToFreeNumber(const std::string& name, cVigrelRecieverAlarm& alarm);
     bool IsTooOld(const cVigrelRecieverAlarm& alarm, DateTime now) const;
     std::size_t FindPlace(const cVigrelRecieverAlarm& alarm) const;
+    std::string ForgetFile(const cVigrelRecieverAlarm& alarm);
+    void RemoveAlarmFile(const std::string& file) const;
+    void RemoveOldFiles(double until);
+    void TellGivenUp(cVigrelRecieverAlarm& alarm) const;
     void GiveUp(cVigrelRecieverAlarm& alarm);
     void RemoveOldest();
     bool IsTaken(std::int32_t fileId) const;
@@ -104,7 +109,8 @@ class cAlarmStore {
     std::int32_t InsertOneByOne(const std::vector<AlarmPtr>& alarms);
     void NoteUnsaved(const AlarmPtr& alarm);
     void RetryTheRest();
-    void EndTurns();
+    double EndOfTurn() const;  // on the steady clock
+    void FinishPending();
 
     cServices m_Services;
     std::string m_ApplicationPath, m_Folder;
@@ -115,6 +121,8 @@ class cAlarmStore {
     DateTime m_UnsavedSince = 0;
     std::string m_UnsavedReason;
     std::string m_FolderProblem;
+    // Of alarms that are gone, and have still to go themselves; by number.
+    std::map<std::int32_t, std::string> m_OldFiles;
     cPendingSaves m_Pending;
 };
 

@@ -946,6 +946,60 @@ TEST_F(AlarmStore, TheSweepStopsAtTheFirstAlarmThatIsYoungEnough) {
     EXPECT_EQ(store.m_Alarms.size(), 2u);
 }
 
+// A station of a busy plant has tens of thousands of them at midnight.
+class ManyOldAlarms : public AlarmStore {
+  protected:
+    // All too old, and one that is not; a turn allows the removal of two files.
+    void Sweep(int count) {
+        TakeSome(*this, count);
+        clock.Set(2026, 3, 17);
+        young = Take(MakeAlarm("young"));
+        settings.m_MaxDays = 1;
+        files.m_OnCall = [this](std::string_view operation, std::string_view) {
+            if (operation == "remove") clock.AddSeconds(0.015);
+        };
+        EXPECT_EQ(store.SweepOldAlarms(), count);
+        EXPECT_EQ(store.m_Alarms.size(), 1u);
+    }
+    AlarmPtr young;
+};
+
+TEST_F(ManyOldAlarms, LeaveTheListAtOnceAndTheDiskInShortTurns) {
+    Sweep(7);
+    EXPECT_EQ(AlarmFiles().size(), 6u);
+    EXPECT_TRUE(timerSave.Enabled());
+    store.Timer_Save_Tick();
+    EXPECT_EQ(AlarmFiles().size(), 4u);
+    RunTimer(*this);
+    EXPECT_EQ(AlarmFiles().size(), 1u);
+    ExpectStored(*this, young);
+}
+
+TEST_F(ManyOldAlarms, HoldNoEndUpAndAreRemovedByTheNextStart) {
+    Sweep(7);
+    store.FinishSaves();
+    EXPECT_FALSE(timerSave.Enabled());
+    EXPECT_EQ(AlarmFiles().size(), 4u);
+    files.m_OnCall = nullptr;
+    EXPECT_EQ(store.LoadAlarms(), 3);
+    EXPECT_EQ(AlarmFiles().size(), 1u);
+}
+
+// Somebody else tidies up at midnight too.
+TEST_F(ManyOldAlarms, KeepTheirNumbersUntilTheirFilesAreGone) {
+    random.m_Values = {0.1, 0.2, 0.3, 0.4, 0.5};
+    Sweep(4);
+    for (const std::string& name : AlarmFiles()) {
+        if (name != "A5000000.alm") files.RemoveFile(std::string(kApp) + "Alarms\\" + name);
+    }
+    random.m_Values = {0.4, 0.6};
+    const AlarmPtr fresh = Take(MakeAlarm("fresh"));
+    RunTimer(*this);
+    EXPECT_EQ(fresh->m_FileId, 6000000 - 1);
+    ExpectStored(*this, fresh);
+    ExpectStored(*this, young);
+}
+
 TEST_F(AlarmStore, AnAlarmStaysToTheLastMomentOfItsDays) {
     settings.m_MaxDays = 30;
     const AlarmPtr alarm = At(clock.Now() - 30, "at the limit");
