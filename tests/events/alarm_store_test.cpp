@@ -417,7 +417,7 @@ class AFullDisk : public AlarmStore {
     // So many wait; each write takes as long as a turn allows two of.
     std::vector<AlarmPtr> LetWait(int count) {
         files.m_DiskFull = true;
-        const std::vector<AlarmPtr> alarms = TakeSome(*this, count);
+        std::vector<AlarmPtr> alarms = TakeSome(*this, count);
         files.m_DiskFull = false;
         files.m_OnCall = [this](std::string_view operation, std::string_view) {
             if (operation == "write") clock.AddSeconds(0.015);
