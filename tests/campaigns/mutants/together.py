@@ -172,12 +172,12 @@ class Together(trial.Trial):
                 guilty |= lines.get(file, {}).get(int(line), set())
             guilty -= dropped
             rounds += 1
-            if not guilty or rounds > 5:
+            if not guilty or rounds > 9:
                 # A constant that has to be one elsewhere. After a few are found, all that are left are taken for such.
                 beside = {which for one in held.values() for found in one.beside.values() for which, _ in found} - dropped
                 named = set(re.findall(r"\w+", " ".join(SHOWN.findall(done.stdout))))
                 by_name = {which for which in beside for one in held.values() if one.declared(which) in named}
-                guilty |= by_name if by_name and rounds < 4 else beside
+                guilty |= by_name if by_name and rounds < 9 else beside
             if not guilty:
                 raise SystemExit("mutants: can't be built together:\n" + "\n".join(re.findall(r".*error: .*", done.stdout)[:20]))
             dropped |= guilty
@@ -226,6 +226,9 @@ class Together(trial.Trial):
                     self.tests[entry] = (seconds, marked)
                 else:
                     failed.append("/".join(entry))
+        # What a program takes to start is not the tests' time.
+        start = min((seconds for seconds, _ in self.tests.values()), default=0)
+        self.tests = {entry: (seconds - start, marked) for entry, (seconds, marked) in self.tests.items()}
         if failed:
             print(f"left out, since they fail without a change: {', '.join(failed)}", flush=True)
         if len(failed) > 10:
