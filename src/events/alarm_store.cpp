@@ -164,6 +164,7 @@ void cAlarmStore::SaveAlarm(const AlarmPtr& alarm) {
     if (alarm->m_Removed) return;
     if (TrySave(*alarm)) {
         std::erase(m_Unsaved, alarm);
+        std::erase(m_Retried, alarm);
     } else {
         NoteUnsaved(alarm);
     }
@@ -190,8 +191,12 @@ void cAlarmStore::Timer_Save_Tick() {
 
 void cAlarmStore::FinishSaves() {
     FinishPending();
-    RetryUnsaved();
-    FinishPending();
+    if (!m_Unsaved.empty()) {
+        // The last chance: each is tried, whatever becomes of another.
+        MakeFolder();
+        RetryTheRest();
+        FinishPending();
+    }
     // Last of all, and no longer than a turn: what stays is too old for the next start, too.
     RemoveOldFiles(EndOfTurn());
     m_Services.timerSave.SetEnabled(false);
@@ -205,6 +210,7 @@ void cAlarmStore::FinishPending() {
 void cAlarmStore::NoteUnsaved(const AlarmPtr& alarm) {
     if (std::find(m_Unsaved.begin(), m_Unsaved.end(), alarm) != m_Unsaved.end()) return;
     if (UnsavedCount() == 0) m_UnsavedSince = m_Services.clock.Now();
+    std::erase(m_Retried, alarm);
     m_Unsaved.push_back(alarm);
 }
 

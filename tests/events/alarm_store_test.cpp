@@ -466,6 +466,43 @@ TEST_F(AFullDisk, ThatFillsAgainMeanwhileLosesNothing) {
     ExpectAllDurable(alarms);
 }
 
+TEST_F(AFullDisk, ThatFillsAgainCountsEachThatWaitsOnce) {
+    LetWait(10);
+    store.RetryUnsaved();
+    store.Timer_Save_Tick();
+    files.m_DiskFull = true;
+    while (timerSave.Enabled()) {
+        EXPECT_EQ(store.UnsavedCount(), 8u);
+        store.Timer_Save_Tick();
+    }
+}
+
+TEST_F(AFullDisk, CountsAnAlarmNoMoreThatIsAcknowledgedAndWrittenMeanwhile) {
+    const std::vector<AlarmPtr> alarms = LetWait(10);
+    store.RetryUnsaved();
+    store.SaveAlarm(alarms.back());
+    EXPECT_EQ(store.UnsavedCount(), 7u);
+    files.m_OnCall = nullptr;
+    RunTimer(*this);
+    store.RetryUnsaved();
+    ExpectAllDurable(alarms);
+}
+
+TEST_F(AFullDisk, AFileThatCanNeverBeWrittenCostsNoOtherTheEnd) {
+    std::vector<AlarmPtr> alarms = LetWait(4);
+    const std::string name = store.FileName(alarms.front()->m_FileId);
+    files.m_OnCall = [&](std::string_view operation, std::string_view path) {
+        if (operation == "write" && path.starts_with(name)) {
+            throw cFailure(eFailure::PermissionDenied, std::string(path));
+        }
+    };
+    store.FinishSaves();
+    EXPECT_EQ(store.UnsavedCount(), 1u);
+    alarms.erase(alarms.begin());
+    files.Crash();
+    for (const AlarmPtr& alarm : alarms) ExpectStored(*this, alarm);
+}
+
 TEST_F(AFullDisk, ThatHasRoomAtTheEndIsGivenAll) {
     const std::vector<AlarmPtr> alarms = LetWait(10);
     store.FinishSaves();
