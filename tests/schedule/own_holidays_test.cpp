@@ -50,7 +50,7 @@ TEST_F(OwnHolidays, ADayWithAYearIsOnceAndOneWithoutIsEveryYear) {
     EXPECT_TRUE(m_Own.m_Holidays[1].IsEveryYear());
 }
 
-// Each mark in its place moves all that stand behind it: that took a minute and more.
+// Each mark in its place moves all that stand behind it: twenty lines took longer than a minute.
 TEST_F(OwnHolidays, SpansOfAllYearsAreMarkedInTheirOrder) {
     std::string text = "06-06 | In front\n";
     for (int i = 0; i < 20; ++i) text += "2000-01-01..2039-12-31 | Open " + std::to_string(i) + "\n";
