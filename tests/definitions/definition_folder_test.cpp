@@ -117,6 +117,45 @@ TEST_F(DefinitionFolder, TheIdentitiesRiseWhateverOrderTheFolderGives) {
     EXPECT_EQ(m_Receivers.At(1).m_DiskIdentity, 9);
 }
 
+TEST_F(DefinitionFolder, AFileThatCannotBeReadIsToldOnceWhateverOrderTheFolderGives) {
+    m_Files.SetUnreadable(ReceiverPath("0007"), true);
+    m_Files.SetUnreadable(ReceiverPath("0009"), true);
+    for (const bool backwards : {false, true}) {
+        m_Files.m_ListsBackwards = backwards;
+        m_Receivers.Load();
+        EXPECT_EQ(m_Receivers.Unreadable().size(), 3u) << backwards;
+    }
+}
+
+TEST_F(DefinitionFolder, EveryLoadTellsAgainWhatCannotBeRead) {
+    m_Receivers.Load();
+    m_Notes.clear();
+    m_Receivers.Load();
+    ASSERT_EQ(m_Notes.size(), 1u);
+    EXPECT_EQ(m_Notes[0].kind, eNote::Failed);
+}
+
+TEST_F(DefinitionFolder, OneOfTheNumber0IsLikeEveryOther) {
+    m_Files.Put(ReceiverPath("0000"), testing::Sample("receiver_version_5.dat"));
+    m_Receivers.Load();
+    ASSERT_EQ(m_Receivers.At(0).m_DiskIdentity, 0);
+    m_Receivers.At(0).m_ReceiverName = "x";
+    EXPECT_TRUE(m_Receivers.Revert(0));
+    EXPECT_EQ(m_Receivers.Count(), 3u);
+    EXPECT_EQ(m_Receivers.At(0).m_ReceiverName, "\xD6st");
+    m_Receivers.At(0).m_ReceiverName = "x";
+    EXPECT_TRUE(m_Receivers.Save(0));
+    EXPECT_EQ(m_Receivers.At(0).m_DiskIdentity, 0);
+    EXPECT_EQ(m_Receivers.At(0).m_HasUpdatedDiskIdentity, False16);
+    m_Files.Put(ReceiverPath("0000"), testing::Sample("receiver_version_4.dat"));
+    EXPECT_EQ(m_Receivers.StateOfFile(0), eFileState::Changed);
+    const auto content = m_Receivers.CopyOf(0);
+    EXPECT_TRUE(m_Receivers.Remove(0));
+    EXPECT_FALSE(m_Files.FileExists(ReceiverPath("0000")));
+    EXPECT_TRUE(m_Receivers.BringBack(0, *content, 0, std::nullopt));
+    EXPECT_EQ(m_Receivers.At(0).m_DiskIdentity, 0);
+}
+
 TEST_F(DefinitionFolder, WhatACrashLeftOfASaveGoesAtTheNextLoad) {
     cProfileFolder profiles(m_Services);
     const std::string profile = profiles.At(profiles.Add("Day")).CreateFileName(5);
@@ -235,6 +274,7 @@ TEST_F(DefinitionFolder, RevertingReadsTheFileAgainOrDropsANewOne) {
     m_Files.Put(ReceiverPath("0007"), "");
     EXPECT_FALSE(m_Receivers.Revert(0));
     EXPECT_EQ(m_Receivers.At(0).m_ReceiverName, "x");
+    EXPECT_EQ(m_Receivers.StateOfFile(0), eFileState::Changed);
 }
 
 TEST_F(DefinitionFolder, AnUpgradeThatCantBeWrittenIsTold) {
@@ -305,11 +345,16 @@ TEST_F(DefinitionFolder, WhatOthersWriteWhileAFileIsReadIsNoticed) {
 // Somebody who goes on writing is seen at the next look.
 TEST_F(DefinitionFolder, AFileThatOthersWriteAgainAndAgainCountsAsChanged) {
     const std::string sample = testing::Sample("receiver_version_5.dat");
-    m_Files.m_OnRead = [this, &sample](std::string_view path) {
-        if (path == ReceiverPath("0007")) m_Files.Put(ReceiverPath("0007"), sample);
+    int reads = 0;
+    m_Files.m_OnRead = [&](std::string_view path) {
+        if (path != ReceiverPath("0007")) return;
+        m_Files.Put(ReceiverPath("0007"), sample);
+        ++reads;
     };
     m_Receivers.Load();
     m_Files.m_OnRead = nullptr;
+    // Twice it was looked whether it is there, then read.
+    EXPECT_EQ(reads, 4);
     EXPECT_EQ(m_Receivers.StateOfFile(0), eFileState::Changed);
     EXPECT_TRUE(m_Receivers.Rescan(HoldsNone));
     EXPECT_EQ(m_Receivers.StateOfFile(0), eFileState::Unchanged);
@@ -384,6 +429,11 @@ TEST_F(DefinitionFolder, OneThatWasNeverSavedHasNoFileToChange) {
     EXPECT_EQ(m_Receivers.InFile(position), nullptr);
     EXPECT_EQ(m_Receivers.FileOf(position), std::nullopt);
     EXPECT_EQ(m_Receivers.AddFromFile(position), std::nullopt);
+    // Nor does it take what has the name that its missing number would give.
+    m_Files.Put(m_Receivers.At(position).CreateFileName(-1), testing::Sample("receiver_version_5.dat"));
+    EXPECT_EQ(m_Receivers.StateOfFile(position), eFileState::Unchanged);
+    EXPECT_EQ(m_Receivers.InFile(position), nullptr);
+    EXPECT_EQ(m_Receivers.FileOf(position), std::nullopt);
 }
 
 // Stamps of paths in this set can't be had, though the files are there and can be read.
@@ -465,6 +515,10 @@ TEST_F(DefinitionFolder, TheirVersionCanBeAddedBesideOnesOwn) {
     EXPECT_EQ(m_Receivers.At(*added).m_ReceiverName, "Nord");
     EXPECT_EQ(m_Receivers.At(*added).m_DiskIdentity, -1);
     EXPECT_EQ(m_Receivers.At(0).m_ReceiverName, "mine");
+    // Whose name is taken gets a free one.
+    const auto second = m_Receivers.AddFromFile(0);
+    ASSERT_TRUE(second);
+    EXPECT_EQ(m_Receivers.At(*second).m_ReceiverName, "Nord 2");
     m_Files.Put(ReceiverPath("0007"), "??");
     EXPECT_EQ(m_Receivers.AddFromFile(0), std::nullopt);
     m_Files.RemoveFile(ReceiverPath("0007"));
@@ -516,6 +570,7 @@ TEST_F(DefinitionFolder, WhatComesBackOverwritesNoFileOfOthersAndNeedsOneThatCan
     EXPECT_EQ(m_Files.ReadFile(ReceiverPath("0007")), "of others");
     EXPECT_FALSE(m_Receivers.BringBack(0, *content, 12, std::string("??")));
     EXPECT_EQ(m_Receivers.At(0).m_ReceiverName, "\xD6st");
+    EXPECT_EQ(m_Receivers.StateOfFile(0), eFileState::Changed);
 }
 
 // Two spellings of one name, as other systems can put them into the folder.
@@ -637,6 +692,7 @@ TEST_F(DefinitionFolder, AChangedFileThatCantBeReadIsLookedAtOnce) {
 
 TEST(ReceiverList, IsIdentitiesSeparatedBySemicolons) {
     EXPECT_EQ(ReceiverItems("7; 12 ;;abc"), (std::vector<std::string>{"7", "12", "abc"}));
+    EXPECT_EQ(ReceiverItems("7;8;9"), (std::vector<std::string>{"7", "8", "9"}));
     EXPECT_TRUE(ReceiverItems("").empty());
     EXPECT_EQ(ReceiverText({"7", "12", "abc"}), "7;12;abc");
     EXPECT_EQ(ReceiverText({}), "");

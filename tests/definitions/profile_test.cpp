@@ -82,6 +82,9 @@ TEST_F(Profile, ANewProfileIsEnabledWithoutIdentityOrSchedule) {
     EXPECT_EQ(profile.m_DiskIdentity, -1);
     EXPECT_EQ(profile.m_Enabled, True16);
     EXPECT_FALSE(profile.m_TimeSchedule);
+    EXPECT_EQ(profile.m_ParentName, "");
+    EXPECT_EQ(profile.m_NestingLevels, 0);
+    EXPECT_EQ(profile.m_FileDateTimeStamp, 0);
     EXPECT_TRUE(profile.HasChangedSinceLastLoadFromDisk());
 }
 
@@ -479,6 +482,18 @@ TEST_F(Profile, WithNestingANameOfThreePartsHasTheFirstTwoAsParentAndLevel2) {
     profile.SetName("@x");
     EXPECT_EQ(profile.m_ParentName, "");
     EXPECT_EQ(profile.m_NestingLevels, 1);
+}
+
+TEST_F(Profile, WithNestingALoadedNameHasItsParentToo) {
+    m_Services.m_ProfileNesting = true;
+    std::string bytes = kProfileVersion5;
+    bytes.replace(bytes.find("Night"), 5, "Ni@ht");
+    cProfile profile(m_Services);
+    Load(profile, bytes);
+    EXPECT_EQ(profile.GetName(), "Ni@ht");
+    EXPECT_EQ(profile.m_ParentName, "NI");
+    EXPECT_EQ(profile.m_NestingLevels, 1);
+    EXPECT_FALSE(profile.HasChangedSinceLastLoadFromDisk());
 }
 
 TEST_F(Profile, WithNestingANameWithoutSignHasLevel0) {

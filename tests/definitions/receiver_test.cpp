@@ -43,6 +43,8 @@ TEST_F(Receiver, ANewReceiverIsEnabledWithoutIdentityOrType) {
     EXPECT_EQ(receiver.m_Enabled, True16);
     EXPECT_EQ(receiver.m_ReceiverTypeIndex, -1);
     EXPECT_EQ(receiver.GetReceiverTypeId(), -1);
+    EXPECT_EQ(receiver.m_KeepAliveInterval, 0);
+    EXPECT_EQ(receiver.m_LastKeepAlive, 0);
     EXPECT_TRUE(receiver.HasChangedSinceLastLoadFromDisk());
     EXPECT_TRUE(m_Files.ListFiles("C:\\App\\Receivers\\", "*").empty());
 }
@@ -235,6 +237,18 @@ TEST_F(Receiver, AVersion3TypeIdBeyond16BitsIsAFailureAndTheFileStays) {
               "Err:the number 65543 does not fit 16 bits\r\n");
 }
 
+// What stands in front of the type id has been taken by then, what follows it not.
+TEST_F(Receiver, AVersion3TypeIdThatDoesNotFitLeavesTheNumbersOfTheObject) {
+    std::string bytes = kReceiverVersion3;
+    bytes[4] = 1;
+    m_Files.Put(ReceiverPath("0007"), bytes);
+    cReceiver receiver(m_Services);
+    receiver.m_ParallellNumbers = "12";
+    EXPECT_FALSE(receiver.LoadFromDisk(7));
+    EXPECT_EQ(receiver.m_ReceiverName, "Duty1");
+    EXPECT_EQ(receiver.m_ParallellNumbers, "12");
+}
+
 TEST_F(Receiver, AnUnknownVariantTypeIsAFailureThatNamesIt) {
     std::string bytes = kReceiverVersion3;
     bytes[13] = 9;
@@ -283,6 +297,12 @@ TEST_F(Receiver, AFileOfManyMegabytesIsNotTakenIntoMemory) {
     EXPECT_NE(Log().find("Err:a file of 9439"), std::string::npos) << Log();
 }
 
+TEST_F(Receiver, AFileOf8MegabytesIsTheLargestThatIsRead) {
+    constexpr std::size_t kLargest = 8 << 20;
+    Loaded(kReceiverVersion5 + std::string(kLargest - kReceiverVersion5.size(), '\0'));
+    ExpectRefused(kReceiverVersion5 + std::string(kLargest + 1 - kReceiverVersion5.size(), '\0'));
+}
+
 TEST_F(Receiver, AFirstSaveInventsAnIdentityOf1To9991) {
     for (const auto& [random, digits] : {std::pair{0.0, "0001"}, {0.5, "4996"}, {0.99999, "9991"}}) {
         m_Random.m_Values = {random};
@@ -306,15 +326,29 @@ TEST_F(Receiver, ASaveOfANewObjectNeverOverwritesAFileOfAnotherIdentity) {
     EXPECT_EQ(m_Files.ReadFile(ReceiverPath("4996")), "second");
 }
 
+TEST_F(Receiver, AThousandNumbersAreTriedAtRandomThenTheFirstFreeOneIsTaken) {
+    m_Files.Put(ReceiverPath("4996"), "taken");
+    m_Random.m_Values.assign(999, 0.5);
+    m_Random.m_Values.push_back(0.25);
+    cReceiver random(m_Services);
+    EXPECT_TRUE(random.SaveToDisk());
+    EXPECT_EQ(random.m_DiskIdentity, 2498);
+    m_Random.m_Values.assign(1000, 0.5);
+    m_Random.m_Values.push_back(0.75);
+    cReceiver first(m_Services);
+    EXPECT_TRUE(first.SaveToDisk());
+    EXPECT_EQ(first.m_DiskIdentity, 1);
+}
+
 TEST_F(Receiver, TheLastFreeIdentityIsFoundAndAFullFolderIsAFailure) {
     const cReceiver name(m_Services);
     for (std::int16_t i = 1; i <= 9991; ++i) {
-        if (i != 9990) m_Files.Put(name.CreateFileName(i), "taken");
+        if (i != 9991) m_Files.Put(name.CreateFileName(i), "taken");
     }
     m_Random.m_Values.assign(1000, 0.0);
     cReceiver last(m_Services);
     EXPECT_TRUE(last.SaveToDisk());
-    EXPECT_EQ(last.m_DiskIdentity, 9990);
+    EXPECT_EQ(last.m_DiskIdentity, 9991);
     cReceiver none(m_Services);
     EXPECT_FALSE(none.SaveToDisk());
     EXPECT_EQ(none.m_DiskIdentity, -1);
@@ -475,6 +509,7 @@ TEST_F(Receiver, ASettingOutside0To3IsABoundsFailure) {
         ASSERT_TRUE(read && written);
         EXPECT_EQ(read->Number(), eFailure::OutOfBounds);
         EXPECT_EQ(written->Number(), eFailure::OutOfBounds);
+        EXPECT_STREQ(read->what(), ("setting " + std::to_string(index) + " is not one of 0 to 3").c_str());
     }
 }
 
@@ -498,7 +533,8 @@ TEST_F(Receiver, TheKeepAliveOfAnXrtIsItsSetting1InAnyCaseOfTheKind) {
 
 TEST_F(Receiver, AKeepAliveThatIsNoWholeNumberIsRounded) {
     m_Files.Put("C:\\App\\Tele.INI", "[ReceiverTypeSettings]\r\nT11=10.7\r\n");
-    for (const auto& [text, interval] : {std::pair{"30.7", 31}, {"31.5", 32}, {"30.5", 30}, {"0.4", 0}}) {
+    for (const auto& [text, interval] :
+         {std::pair{"30.7", 31}, {"31.5", 32}, {"30.5", 30}, {"0.4", 0}, {"1", 1}}) {
         cReceiver receiver(m_Services);
         receiver.SaveSetting(1, cVariant::String(text));
         receiver.SetReceiverTypeId(7);

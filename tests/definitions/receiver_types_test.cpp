@@ -33,6 +33,13 @@ TEST_F(ReceiverTypesFile, AnIdIsFoundAtItsRow) {
     EXPECT_EQ(m_Types.RowOf(-1), -1);
 }
 
+TEST_F(ReceiverTypesFile, TheLargestIdIs32767) {
+    EXPECT_EQ(
+        Load("32767;XRT;Radio\n32768;XRT;Radio\n"),
+        (std::vector<cLineProblem>{{2, "the type id \"32768\" is not a whole number from 0 to 32767"}}));
+    EXPECT_EQ(m_Types.RowOf(32767), 0);
+}
+
 TEST_F(ReceiverTypesFile, AWrongLineIsNamedAndSkipped) {
     const auto problems = Load(
         "1;PRINTER;Printer\n"

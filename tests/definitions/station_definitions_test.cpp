@@ -39,14 +39,25 @@ TEST_F(StationDefinitions, WrongLinesOfTheTypesUpgradesAndFailuresAreNotes) {
 }
 
 TEST_F(StationDefinitions, OpeningMakesTheFolders) {
-    testing::cFakeFiles files;
-    files.PutFolder("C:\\Other");
-    cIni ini(files, "C:\\Other\\");
-    cStationDefinitions station(files, m_Clock, m_Random, m_Texts, ini);
-    station.OpenProfiles();
-    for (const char* folder : {"LogFiles", "Receivers", "Profiles"}) {
-        EXPECT_TRUE(files.HasFolder(std::string("C:\\Other\\") + folder)) << folder;
+    for (const bool profiles : {true, false}) {
+        testing::cFakeFiles files;
+        files.PutFolder("C:\\Other");
+        cIni ini(files, "C:\\Other\\");
+        cStationDefinitions station(files, m_Clock, m_Random, m_Texts, ini);
+        profiles ? station.OpenProfiles() : station.OpenReceivers();
+        for (const char* folder : {"LogFiles", "Receivers", "Profiles"}) {
+            EXPECT_TRUE(files.HasFolder(std::string("C:\\Other\\") + folder)) << folder;
+        }
     }
+}
+
+TEST_F(StationDefinitions, OpeningTheProfilesReadsTheReceiversOnce) {
+    m_Files.Put(ReceiverPath("0007"), testing::Sample("receiver_version_5.dat"));
+    m_Station.OpenProfiles();
+    ASSERT_EQ(m_Station.Receivers().Count(), 1u);
+    m_Station.Receivers().At(0).m_ReceiverName = "x";
+    m_Station.OpenProfiles();
+    EXPECT_EQ(m_Station.Receivers().At(0).m_ReceiverName, "x");
 }
 
 TEST_F(StationDefinitions, TellsWhichProfilesListAReceiver) {
@@ -55,6 +66,11 @@ TEST_F(StationDefinitions, TellsWhichProfilesListAReceiver) {
     EXPECT_EQ(m_Station.ProfilesWith(7), std::vector<std::string>{"Night"});
     EXPECT_EQ(m_Station.ProfilesWith(9), std::vector<std::string>{"Night"});
     EXPECT_TRUE(m_Station.ProfilesWith(10).empty());
+    // One without changes is as its file has it.
+    int reads = 0;
+    m_Files.m_OnRead = [&](std::string_view) { ++reads; };
+    EXPECT_TRUE(m_Station.ProfilesWith(10).empty());
+    EXPECT_EQ(reads, 0);
 }
 
 TEST_F(StationDefinitions, AProfileListsAReceiverAsLongAsItsFileDoes) {

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "common/failure.h"
+#include "common/numbers.h"
 #include "support/bytes.h"
 
 namespace vigrel::testing {
@@ -148,16 +149,50 @@ TEST(Variant, ADateOutsideTheCalendarShowsItsDayCount) {
     EXPECT_EQ(cVariant::Date(1e9).Text(), "1000000000");
 }
 
+TEST(VariantFromText, TheLargestNumberOfEachTypeFits) {
+    const std::pair<eVariantType, const char*> largest[] = {{eVariantType::Int16, "32767"},
+                                                            {eVariantType::Int16, "-32768"},
+                                                            {eVariantType::Byte, "255"},
+                                                            {eVariantType::Int32, "2147483647"},
+                                                            {eVariantType::Currency, "899999999999.9999"},
+                                                            {eVariantType::Currency, "-899999999999.9999"}};
+    for (const auto& [type, text] : largest) EXPECT_EQ(VariantFromText(type, text).Text(), text);
+    constexpr float kLargest = std::numeric_limits<float>::max();
+    for (const float value : {kLargest, -kLargest}) {
+        EXPECT_EQ(VariantFromText(eVariantType::Single, NumberText(value)), cVariant::Single(value));
+    }
+}
+
+TEST(VariantFromText, YesAndNoHaveSeveralWords) {
+    for (const char* word : {"True", "yes", "YES", "1", "-1"}) {
+        EXPECT_EQ(VariantFromText(eVariantType::Boolean, word), cVariant::Boolean(true)) << word;
+    }
+    for (const char* word : {"False", "no", "NO", "0"}) {
+        EXPECT_EQ(VariantFromText(eVariantType::Boolean, word), cVariant::Boolean(false)) << word;
+    }
+}
+
 TEST(VariantFromText, ATextThatDoesntFitItsTypeIsRefusedByName) {
     const struct {
         eVariantType type;
         const char* text;
     } refused[] = {
-        {eVariantType::Int16, "abc"},      {eVariantType::Int16, "1.5"},    {eVariantType::Int16, "40000"},
-        {eVariantType::Int32, "3e9"},      {eVariantType::Byte, "-1"},      {eVariantType::Byte, "256"},
-        {eVariantType::Single, "1e39"},    {eVariantType::Double, "12 kg"}, {eVariantType::Currency, "1e15"},
-        {eVariantType::Date, "yesterday"}, {eVariantType::Boolean, "2"},    {eVariantType::Empty, "x"},
-        {eVariantType::Currency, "-1e15"}, {eVariantType::Single, "-1e39"},
+        {eVariantType::Int16, "abc"},
+        {eVariantType::Int16, "1.5"},
+        {eVariantType::Int16, "40000"},
+        {eVariantType::Int32, "3e9"},
+        {eVariantType::Byte, "-1"},
+        {eVariantType::Byte, "256"},
+        {eVariantType::Single, "1e39"},
+        {eVariantType::Double, "12 kg"},
+        {eVariantType::Currency, "1e15"},
+        {eVariantType::Date, "yesterday"},
+        {eVariantType::Boolean, "2"},
+        {eVariantType::Empty, "x"},
+        {eVariantType::Currency, "-1e15"},
+        {eVariantType::Currency, "900000000000"},
+        {eVariantType::Currency, "-900000000000"},
+        {eVariantType::Single, "-1e39"},
     };
     for (const auto& entry : refused) {
         const auto failure = CatchFailure([&] { VariantFromText(entry.type, entry.text); });
