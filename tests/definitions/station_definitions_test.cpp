@@ -73,6 +73,13 @@ TEST_F(StationDefinitions, TellsWhichProfilesListAReceiver) {
     EXPECT_EQ(reads, 0);
 }
 
+TEST_F(StationDefinitions, AProfileThatOthersAddedIsToldToo) {
+    m_Station.OpenReceivers();
+    EXPECT_TRUE(m_Station.ProfilesWith(7).empty());
+    m_Files.Put(ProfilePath("0012"), testing::Sample("profile_version_5.dat"));
+    EXPECT_EQ(m_Station.ProfilesWith(7), std::vector<std::string>{"Night"});
+}
+
 TEST_F(StationDefinitions, AProfileListsAReceiverAsLongAsItsFileDoes) {
     m_Files.Put(ProfilePath("0012"), testing::Sample("profile_version_5.dat"));
     m_Station.OpenReceivers();

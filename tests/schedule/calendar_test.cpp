@@ -205,7 +205,9 @@ TEST(CalendarMouse, APressPaintsTheSelectedEntryLessOne) {
     bench.m_Container.m_Selected = 9;
     bench.Down(cCalendarBench::X(2), cCalendarBench::Y(1));
     EXPECT_EQ(bench.Value(2026, 6, 10), 8);
-    EXPECT_NE(bench.m_Transcript.Text().find("print 112 47 10\n"), std::string::npos);
+    // With its new type already.
+    EXPECT_EQ(bench.m_Transcript.Text(),
+              "box 112 47 149 69 #F0F0F0\nprint 112 47 10\nimage 77 1 131.75 50\n");
 }
 
 TEST(CalendarMouse, AnEntryOfNumberZeroPaintsZeroLikeTheFirst) {
@@ -415,9 +417,10 @@ TEST(CalendarMouse, ChangingTheMonthEndsTheStroke) {
     bench.Show(2026, 6);
     bench.m_Container.m_Selected = 9;
     bench.Down(cCalendarBench::X(0), cCalendarBench::Y(0));
+    bench.SetValue(2026, 7, 9, 5);
     bench.Show(2026, 7);
     bench.Move(cCalendarBench::X(3), cCalendarBench::Y(1));
-    EXPECT_EQ(bench.Value(2026, 7, 9), 0);
+    EXPECT_EQ(bench.Value(2026, 7, 9), 5);
 }
 
 // --- painting
@@ -519,6 +522,20 @@ TEST(CalendarPainting, TheTimeAxisShowsTheDaysPeriodsInTheLowerPart) {
                                     "line 59.75 43 69 43 #00A400\n"
                                     "line 59.75 39 59.75 44 #808080\n"
                                     "line 69 39 69 44 #808080\n");
+}
+
+TEST(CalendarPainting, TheTimeAxisIsThatOfTheDayAndStandsBehindItsType) {
+    cCalendarBench bench;
+    cTimeSchedule schedule;
+    testing::Load(schedule, cContent().Day(1, {{0, 1440}}));
+    bench.m_Calendar.m_ShowTimeAxis = True16;
+    bench.m_Calendar.m_AssociatedTimeSchedule = &schedule;
+    bench.SetValue(2026, 6, 1, 8);
+    bench.Show(2026, 6);
+    EXPECT_EQ(bench.DateBox(1),
+              std::string("box 32 22 69 44 #F0F0F0\nprint 32 22 1\nimage 77 1 51.75 22\n") + kAxisBase);
+    EXPECT_NE(bench.DateBox(2).find("line 72 39 109 39 #00F000\n"), std::string::npos);
+    EXPECT_EQ(bench.DateBox(8).find("#00F000"), std::string::npos);
 }
 
 TEST(CalendarPainting, TheTimeAxisShortensTheBands) {

@@ -58,6 +58,26 @@ TEST_F(CalendarYear, TakesEachOfSeveralDaysThatShareAName) {
     EXPECT_EQ(Value(2027, 7, 6), 0);
 }
 
+TEST_F(CalendarYear, ItsLastDayMayBeAHoliday) {
+    cOwnHolidays own;
+    own.Parse("12-31 | Eve\n");
+    own.AddTo(m_Holidays);
+    SetValue(2026, 12, 31, 8);
+    CopyToNextYear(m_Calendar, m_Holidays, 2026);
+    EXPECT_EQ(Value(2027, 12, 31), 8);
+}
+
+TEST_F(CalendarYear, TheNextsHolidaysArePutWhereItHasThemOnce) {
+    cOwnHolidays own;
+    own.Parse("2026-01-01 | Ours\n2027-01-01..2027-01-02 | Ours\n");
+    own.AddTo(m_Holidays);
+    SetValue(2026, 1, 1, 8);
+    SetValue(2026, 1, 2, 9);
+    CopyToNextYear(m_Calendar, m_Holidays, 2026);
+    EXPECT_EQ(Value(2027, 1, 1), 8);
+    EXPECT_EQ(Value(2027, 1, 2), 9);
+}
+
 TEST_F(CalendarYear, TheLastHasNoNext) {
     SetValue(2039, 5, 1, 8);
     CopyToNextYear(m_Calendar, m_Holidays, 2039);

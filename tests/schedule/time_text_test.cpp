@@ -18,6 +18,7 @@ TEST(TimeText, WhatIsNoneIsRefusedWithItsReason) {
     EXPECT_EQ(FaultOfTimeText("25:30"), "\"25:30\" lies behind 24:00.");
     EXPECT_EQ(FaultOfTimeText("24:01"), "\"24:01\" lies behind 24:00.");
     EXPECT_EQ(FaultOfTimeText("25"), "\"25\" lies behind 24:00.");
+    EXPECT_EQ(FaultOfTimeText("80"), "\"80\" lies behind 24:00.");
     EXPECT_EQ(FaultOfTimeText("1375"), "\"1375\" has more than 59 minutes.");
     EXPECT_EQ(FaultOfTimeText("8:60"), "\"8:60\" has more than 59 minutes.");
     EXPECT_EQ(FaultOfTimeText(" "), "The time is missing.");
