@@ -40,6 +40,11 @@ TEST(CompleteTexts, WhatIsThereStaysInEveryByte) {
     EXPECT_TRUE(completed.added.empty());
 }
 
+TEST(CompleteTexts, ANumberWithoutATextIsNoEntry) {
+    EXPECT_EQ(CompleteTexts("10011=x\r\n10049\r\n", kDelivered).content,
+              "10011=x\r\n10049\r\n10049=larm\r\n10050=sedan\r\n");
+}
+
 TEST(CompleteTexts, ALanguagesNameIsNotAdded) {
     EXPECT_EQ(CompleteTexts("", kDelivered).content, "10011=klar\r\n10049=larm\r\n10050=sedan\r\n");
 }
@@ -78,6 +83,18 @@ TEST_F(TextFiles, AreCompletedOnceAndToldInALine) {
     const int calls = files.m_Calls;
     EXPECT_TRUE(CompleteTextFiles(files, kFolder, delivered, texts).empty());
     EXPECT_EQ(files.m_Calls, calls);
+}
+
+TEST_F(TextFiles, AreToldByTheirNamesWhateverOrderTheFolderGives) {
+    delivered.Add("044", "10049=alarms\r\n");
+    for (const bool backwards : {false, true}) {
+        files.m_ListsBackwards = backwards;
+        files.Put(kFolder + "Vigrel_Texts.044", "10011=x\r\n");
+        files.Put(kFile, "11000=added\r\n11001=not added\r\n10011=x\r\n10050=x\r\n");
+        EXPECT_EQ(Complete(), (std::vector<std::string>{"Vigrel_Texts.044: 1 added: 10049",
+                                                        "Vigrel_Texts.046: 1 added: 10049"}))
+            << backwards;
+    }
 }
 
 TEST_F(TextFiles, OfManyAddedTextsTheFirstTwentyAreNamed) {

@@ -136,6 +136,20 @@ TEST(WriteRefusal, ANewMinuteTakesThemAgain) {
     EXPECT_NE(today.find("a99\r\n12:31:16 ... 900 more like this\r\n12:31:16 b0\r\n"), std::string::npos);
 }
 
+TEST(WriteRefusal, ANewMinuteBeginsSixtySecondsBehindTheFirstOfTheLast) {
+    cLoggingStation station;
+    station.clock.m_Steady = 0;
+    std::string expected;
+    for (int i = 0; i < kRefusalsAMinute; ++i) {
+        station.log.WriteRefusal("a" + std::to_string(i));
+        expected += Lines(1, "a" + std::to_string(i));
+    }
+    station.clock.m_Steady = 59.0 / 86400;
+    EXPECT_EQ(Refusals(station, 1, "b"), expected);
+    station.clock.m_Steady = 60.0 / 86400;
+    EXPECT_EQ(Refusals(station, 1, "b"), expected + Lines(1, "... 1 more like this") + Lines(1, "b"));
+}
+
 TEST(WriteLog, EachDayHasItsFile) {
     cLoggingStation station;
     station.log.WriteLog("a");

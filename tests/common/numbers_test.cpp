@@ -60,6 +60,8 @@ TEST(Val, IsInfiniteAboveTheRangeAndZeroBelowIt) {
     EXPECT_EQ(Val("1e400"), infinity);
     EXPECT_EQ(Val("-1e400"), -infinity);
     EXPECT_EQ(Val("1e+400"), infinity);
+    EXPECT_EQ(Val("0.00001e+400"), infinity);
+    EXPECT_EQ(Val("10000e-400"), 0);
     EXPECT_EQ(Val("1e-400"), 0);
     EXPECT_EQ(Val("-1e-400"), 0);
     EXPECT_EQ(Val("1e99999999999999999999"), infinity);
