@@ -50,10 +50,11 @@ void CheckItem(const std::string& item, std::int32_t last, const cPhrase& what) 
 
 // The filter as the setters of cUserColor take it: every item, also a single one, with a ";" behind it.
 std::string CheckedFilter(const std::string& filter, std::int32_t last, const cPhrase& what) {
+    std::vector<std::string> items = Split(filter, ';');
+    // A ";" at the end ends the last item.
+    if (items.size() > 1 && items.back().empty()) items.pop_back();
     std::string checked;
-    for (const std::string& item : Split(filter, ';')) {
-        // A ";" at the end ends the last item.
-        if (item.empty() && !checked.empty() && filter.ends_with(';')) continue;
+    for (const std::string& item : items) {
         CheckItem(item, last, what);
         checked += item + ";";
     }
@@ -82,8 +83,9 @@ cColourRule RuleFromLine(std::string_view line) {
     rule.m_AreaFilter = fields[2];
     rule.m_ForeColor = fields[3];
     rule.m_BackColor = fields[4];
-    rule.m_ZebraFade = NumberFromText(fields[5], kLastPart, Pattern("Reasons", "fade"));
+    // Of several faults the one furthest left is told.
     MakeUserColor(rule);
+    rule.m_ZebraFade = NumberFromText(fields[5], kLastPart, Pattern("Reasons", "fade"));
     return rule;
 }
 
@@ -100,16 +102,16 @@ cUserColor MakeUserColor(const cColourRule& rule) {
         Refuse(Pattern("Reasons", "tag: it must not hold \"|\""));
     if (rule.m_TagFilter[0] == '#')
         Refuse(Pattern("Reasons", "tag: it must not begin with \"#\"; write \"?\" for it"));
-    CheckColour(rule.m_ForeColor, Pattern("Reasons", "text colour"));
-    CheckColour(rule.m_BackColor, Pattern("Reasons", "background"));
-    if (rule.m_ZebraFade < 0 || rule.m_ZebraFade > kLastPart)
-        Refuse(Pattern("Reasons", "fade: it is not a number from 0 to 255"));
     cUserColor color;
     color.SetTagFilter(rule.m_TagFilter);
     color.SetCategoryFilter(
         CheckedFilter(rule.m_CategoryFilter, kLastCategory, Pattern("Reasons", "categories")));
     color.SetAreaFilter(CheckedFilter(rule.m_AreaFilter, kLastArea, Pattern("Reasons", "areas")));
     color.m_AreaFilter = rule.m_AreaFilter;
+    CheckColour(rule.m_ForeColor, Pattern("Reasons", "text colour"));
+    CheckColour(rule.m_BackColor, Pattern("Reasons", "background"));
+    if (rule.m_ZebraFade < 0 || rule.m_ZebraFade > kLastPart)
+        Refuse(Pattern("Reasons", "fade: it is not a number from 0 to 255"));
     color.SetForeColor(rule.m_ForeColor);
     color.SetBackColor(rule.m_BackColor, rule.m_ZebraFade);
     return color;

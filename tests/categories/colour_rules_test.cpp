@@ -61,6 +61,30 @@ TEST_F(ColourRules, ASingleItemNeedsNoSeparator) {
     EXPECT_FALSE(MakeUserColor(rule).IsMatching("Pump", 5, 4));
 }
 
+TEST_F(ColourRules, ASeparatorAtTheEndEndsTheLastItemAlone) {
+    cColourRule rule = Rule();
+    for (const char* filter : {"5;;6;", "5;;", ";", ";5"}) {
+        rule.m_CategoryFilter = filter;
+        EXPECT_EQ(Refusal(rule), "categories: \"\" is not a number from 0 to 255") << filter;
+    }
+    rule.m_CategoryFilter = "5; 6 ; ";
+    EXPECT_TRUE(MakeUserColor(rule).IsMatching("Pump", 6, 0));
+}
+
+TEST_F(ColourRules, OfSeveralFaultsTheOneFurthestLeftIsTold) {
+    std::vector<std::string> fields{"", "a", "b", "c", "d", "e"};
+    const std::vector<std::string> right{"P", "5", "*", "0,0,0", "0,0,0", "0"};
+    const std::vector<std::string> told{"tag", "categories", "areas", "text colour", "background", "fade"};
+    for (std::size_t first = 0; first < fields.size(); ++first) {
+        std::string line = fields[0];
+        for (std::size_t i = 1; i < fields.size(); ++i) line += " | " + fields[i];
+        const auto problems = Load(line + "\n");
+        ASSERT_EQ(problems.size(), 1u) << line;
+        EXPECT_TRUE(problems[0].description.English().starts_with(told[first] + ":")) << line;
+        fields[first] = right[first];
+    }
+}
+
 TEST_F(ColourRules, TheFirstRuleThatMatchesCounts) {
     Load("P* | 5 | * | 0,0,0 | 1,1,1 | 0\n* | * | * | 0,0,0 | 1,1,1 | 0\n");
     std::vector<cUserColor> colors;
