@@ -167,6 +167,17 @@ TEST_F(CategorySettings, ARelativeSoundFileLiesInTheApplicationFolder) {
     EXPECT_EQ(soundFile(""), "C:\\App\\");
 }
 
+TEST_F(CategorySettings, ARootOrADriveMakesASoundFilesPathFull) {
+    for (const char* full : {"\\a.wav", "/a.wav", "\\\\server\\a.wav", "C:", "c:a.wav", "\\"}) {
+        Read(std::string("[General]\r\nEventSoundFile=") + full + "\r\n");
+        EXPECT_EQ(General().m_EventSoundFile, full);
+    }
+    for (const char* relative : {"a", "a\\b.wav", "a/b.wav", "ab:c", ":a"}) {
+        Read(std::string("[General]\r\nEventSoundFile=") + relative + "\r\n");
+        EXPECT_EQ(General().m_EventSoundFile, std::string("C:\\App\\") + relative);
+    }
+}
+
 TEST_F(CategorySettings, AnInheritedSoundFileStaysAsItIsBelowARootedApplicationFolder) {
     files.Put("/home/u/VigrelReceiver.INI",
               "[General]\r\nEventSoundFile=a.wav\r\n[CategorySpecificSetting_F]\r\n");

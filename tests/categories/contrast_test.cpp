@@ -15,6 +15,11 @@ TEST(Contrast, GreyOnWhiteIsAsPublished) {
     EXPECT_NEAR(Contrast(0x767676, 0xFFFFFF), 4.54, 0.01);
 }
 
+TEST(Contrast, ADarkGreyOnBlackIsAsPublished) {
+    // Below 0.03928 a part counts for a 12.92th: 10 / 255 / 12.92 / 0.05 + 1.
+    EXPECT_NEAR(Contrast(0x0A0A0A, 0), 1.0607, 0.0001);
+}
+
 TEST(Contrast, RedGreenAndBlueWeighAsPublished) {
     EXPECT_NEAR(Contrast(0x0000FF, 0xFFFFFF), 4.00, 0.01) << "red is the low byte";
     EXPECT_NEAR(Contrast(0x00FF00, 0xFFFFFF), 1.37, 0.01);

@@ -29,6 +29,17 @@ TEST(ReadableColours, ContrastIsTheLeastOfTheThreeGrounds) {
 
 TEST(ReadableColours, AReadableTextStays) {
     EXPECT_EQ(ReadableForeColor(Rule("10,20,30", "255,255,255", 15)), 10 + 20 * 256 + 30 * 65536);
+    EXPECT_EQ(ReadableForeColor(Rule("0,0,201", "255,255,255", 0)), 201 * 65536);
+    EXPECT_EQ(ReadableForeColor(Rule("255,255,0", "0,0,0", 0)), 255 + 255 * 256);
+}
+
+// White, and flashing black: neither end can be read on both, a grey in the middle can.
+TEST(ReadableColours, BothWaysAreTried) {
+    for (const char* fore : {"0,0,0", "255,255,255"}) {
+        cUserColor rule = Rule(fore, "255,255,255", 255);
+        rule.m_ForeColor = ReadableForeColor(rule);
+        EXPECT_GE(LeastContrast(rule), kReadableContrast) << fore;
+    }
 }
 
 // Grey on white becomes the lightest grey that is readable, not black.

@@ -274,6 +274,14 @@ TEST_F(RecordDecoder, DatePartsThatAreNoNumbersCountAsZero) {
     EXPECT_EQ(EventTime("abcd-ef-gh", "12:00:00"), DateSerial(0, 0, 0) + 0.5);
 }
 
+TEST_F(RecordDecoder, OnlyTheTwoDigitsOfAPartCountAndNoneBehindAnotherCharacter) {
+    const DateTime expected = DateSerial(2026, 3, 15) + TimeSerial(12, 30, 45);
+    EXPECT_DOUBLE_EQ(EventTime("26-03115", "12:30:45"), expected);
+    EXPECT_DOUBLE_EQ(EventTime("26-03-155", "12:30:45"), expected);
+    EXPECT_DOUBLE_EQ(EventTime("2026-03-155", "12930945"), expected);
+    EXPECT_DOUBLE_EQ(EventTime("26-03-15", "x9:30:45"), DateSerial(2026, 3, 15) + TimeSerial(0, 30, 45));
+}
+
 TEST_F(RecordDecoder, MissingSubFieldsLeaveConditionsEmpty) {
     EXPECT_EQ(Frame("Alpha", "S12024-03-05"), kPositiveReply);
     for (int i = 0; i < 6; ++i) EXPECT_EQ(Last().GetCondition(i), "");
@@ -375,8 +383,8 @@ TEST_F(RecordDecoder, ANameIsLoggedInFullUpToAHundredCharacters) {
 }
 
 TEST_F(RecordDecoder, ALongerNameIsCutInTheLogAndWholeInTheAlarm) {
-    const std::string name(30'000, 'n');
-    const std::string cut = std::string(100, 'n') + "... (+29900)";
+    const std::string name = "first" + std::string(29'995, 'n');
+    const std::string cut = "first" + std::string(95, 'n') + "... (+29900)";
     Frame(name, "S1||text");
     EXPECT_EQ(alarms.back()->m_Sender, name);
     Frame(name, "S3||hello");

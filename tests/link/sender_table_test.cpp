@@ -149,6 +149,12 @@ TEST_F(SenderTable, ASilentSenderIsReportedWhenItsTimeIsOverAndNotBefore) {
     EXPECT_EQ(Log(), "");
 }
 
+TEST_F(SenderTable, OneThatIsHeardHidesNoSilenceOfThoseBehindIt) {
+    Read("Alpha=5\r\nBeta=0\r\nGamma=1\r\nDelta=9\r\nEpsilon=1\r\n");
+    Minutes(2);
+    EXPECT_EQ(Alarms(), "1: Gamma - T10032\n1: Epsilon - T10032\n");
+}
+
 TEST_F(SenderTable, ASenderIsNotDueAtItsLastMoment) {
     Read("Alpha=45\r\n");  // 1/32 day, which a double holds exactly
     Row(0).LastSeenSteady = clock.Steady() - 1.0 / 32;
