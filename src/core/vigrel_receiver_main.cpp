@@ -183,7 +183,7 @@ void cVigrelReceiverMain::Form_Unload() {
     m_Ports.trayArea.SetVisible(false);
     m_Ports.runningApps.SetRunningApps(kApplication, 0);
     m_Light.Menu_StopLight();
-    if (m_State.m_PopupFormCount > 0) m_Popups.ClosePopups();
+    m_Popups.ClosePopups();
     SaveTheLast();
 }
 

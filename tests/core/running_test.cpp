@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+
 #include "common/failure.h"
 #include "link/frame.h"
 #include "support/fake_receiver.h"
@@ -186,6 +188,16 @@ TEST_F(Running, F9AcknowledgesAllAndEscapeDeselectsWhateverTheShiftState) {
     EXPECT_TRUE(list.SelectedRows().empty());
 }
 
+TEST_F(Running, OtherKeysNeitherAcknowledgeNorDeselect) {
+    Ini("Columns=StateIcon,Observed\r\n");
+    Start();
+    Send("PLC1", "S1||a");
+    list.SelectAllRows();
+    for (const int keyCode : {8, 13, 26, 28, 46, 65, 119, 121}) list.PressKey(keyCode, 0);
+    EXPECT_EQ(list.Screen(), "#0|#26|\n");
+    EXPECT_EQ(list.SelectedRows().size(), 1u);
+}
+
 TEST_F(Running, TheListForgetsItsSelectionWhenAttentionLeavesIt) {
     Start();
     Send("PLC1", "S1||a");
@@ -221,6 +233,93 @@ TEST_F(Running, TheFileMenuEnablesWhatCanBeDone) {
     receiver->Menu_File();
     EXPECT_FALSE(menus["Menu_StopSound"].enabled);
     EXPECT_NE(Log().find("T10044\n"), std::string::npos);
+}
+
+TEST_F(Running, EveryMenuEntryDoesItsWork) {
+    Ini("Columns=StateIcon,Observed\r\nViewPopupForm=1\r\nEventSignal=3\r\n",
+        "[CategorySpecificSetting_Fire]\r\nUSBLED_DeviceName_Active=L\r\n");
+    light.m_Version = 1;
+    light.m_Devices = {{1, {"L"}}};
+    Start();
+    menus.OnMenuFileOpens();
+    EXPECT_FALSE(menus["Menu_StopSound"].enabled);
+    EXPECT_FALSE(menus["Menu_StopLight"].enabled);
+    Send("PLC1", "S1||a||Fire");
+    EXPECT_TRUE(menus["Menu_StopLight"].enabled);
+    EXPECT_TRUE(Did("light: open L"));
+    menus.OnMenuStopLight();
+    EXPECT_FALSE(menus["Menu_StopLight"].enabled);
+    EXPECT_EQ(receiver->State().m_SoundState, 3);
+    menus.OnMenuStopSound();
+    EXPECT_EQ(receiver->State().m_SoundState, 0);
+    menus.OnMenuAckAll();
+    EXPECT_EQ(list.Screen(), "#0|#27|\n");
+    Send("PLC1", "S1||b");
+    EXPECT_EQ(popups.Open(), "1 2");
+    menus.OnMenuAckAllAndClosePopups();
+    EXPECT_EQ(list.Screen(), "#0|#27|\n#0|#27|\n");
+    EXPECT_EQ(popups.Open(), "");
+    menus.OnMenuExit();
+    EXPECT_EQ(messageBox.m_Shown, std::vector<std::string>{"question, yes/no: T10022"});
+}
+
+TEST_F(Running, AcknowledgedTogetherAlarmsAreWrittenInTurns) {
+    Start();
+    for (const char* text : {"a", "b", "c"}) Send("PLC1", std::string("S1||") + text);
+    const std::vector<std::string> names = AlarmFiles();
+    std::map<std::string, std::string> before;
+    for (const std::string& name : names) before[name] = files.ReadFile("C:\\App\\Alarms\\" + name);
+    receiver->Menu_AckAll();
+    for (int i = 0; i < 20; ++i) timerSave.Tick();
+    EXPECT_FALSE(timerSave.Enabled());
+    files.Crash();
+    EXPECT_EQ(names.size(), 3u);
+    for (const auto& [name, bytes] : before)
+        EXPECT_NE(files.ReadFile("C:\\App\\Alarms\\" + name), bytes) << name;
+}
+
+TEST_F(Running, APopupThatIsClosedAcknowledgesItsEventWhereThatIsSet) {
+    for (const std::string flag : {"0", "1"}) {
+        Ini("Columns=StateIcon,Observed\r\nViewPopupForm=1\r\nAckEventWhenPopupFormIsClosed=" + flag +
+            "\r\n");
+        list = testing::cFakeReportList();
+        Start();
+        receiver->Menu_AckAll();
+        Send("PLC1", "S1||Fan");
+        popups[flag == "0" ? 1 : 2].CloseFor(eCloseReason::Control);
+        EXPECT_TRUE(list.Screen().ends_with(flag == "0" ? "#0|#26|\n" : "#0|#27|\n")) << list.Screen();
+    }
+}
+
+TEST_F(Running, WhatAnOldLogLeavesFreeTakesTheWaitingAlarmsAtOnce) {
+    files.Put("C:\\App\\LogFiles\\20260301.Log", "old");
+    Ini("KeepForDays=15\r\n");
+    Start();
+    timerKeepAlive.Tick();
+    files.m_DiskFull = true;
+    Send("PLC1", "S1||one");
+    files.m_OnCall = [this](std::string_view operation, std::string_view path) {
+        if (operation == "remove" && path.ends_with(".LOG")) files.m_DiskFull = false;
+    };
+    clock.AddSeconds(2.0 * 86400);
+    EXPECT_TRUE(AlarmFiles().empty());
+    timerKeepAlive.Tick();
+    EXPECT_EQ(AlarmFiles().size(), 1u);
+}
+
+TEST_F(Running, WaitingAlarmsHaveTheDiskBeforeTheLog) {
+    Start();
+    files.m_DiskFull = true;
+    Send("PLC1", "S1||one");
+    for (int i = 0; i < 50; ++i) Send("PLC1", "S9");
+    files.m_DiskFull = false;
+    std::string steps;
+    files.m_OnCall = [&](std::string_view operation, std::string_view path) {
+        if (operation == "append") steps += "log;";
+        if (operation == "rename" && path.find("Alarms") != std::string_view::npos) steps += "alarm;";
+    };
+    timerKeepAlive.Tick();
+    EXPECT_EQ(steps, "alarm;log;");
 }
 
 TEST_F(Running, ASilentSenderRaisesAnAlarmAndItsFrameTheReturn) {
@@ -303,6 +402,24 @@ TEST_F(Running, TheChangeOfDateTakesOverRecordsThoughNothingWasRemoved) {
     clock.AddSeconds(86400);
     timerKeepAlive.Tick();
     EXPECT_EQ(list.Rows().size(), 2u);
+}
+
+TEST_F(Running, TheTrayIconFlashesWhileAnAlarmIsNotAcknowledged) {
+    Ini("ShowInTaskBar=0\r\n");
+    Start();
+    Send("PLC1", "S1||a");
+    const auto icons = [this] {
+        int changes = 0;
+        for (int i = 0; i < 10; ++i) {
+            const int before = trayArea.m_Image;
+            timerPlay.Tick();
+            if (trayArea.m_Image != before) ++changes;
+        }
+        return changes;
+    };
+    EXPECT_GE(icons(), 9);
+    receiver->Menu_AckAll();
+    EXPECT_LE(icons(), 1);
 }
 
 TEST_F(Running, InThePauseOfARepeatTheTrayPartOfTheTickIsLeftOut) {
@@ -423,12 +540,12 @@ TEST_F(Running, WithoutATrayHostAMinimisedWindowStaysAndTheLogSaysSoOnce) {
     trayArea.m_HostAvailable = false;
     Start();
     const std::size_t before = Log().size();
-    mainWindow.SetState(eWindowState::Minimised);
-    mainWindow.SetState(eWindowState::Normal);
-    mainWindow.SetState(eWindowState::Minimised);
-    EXPECT_TRUE(mainWindow.m_Visible);
-    const std::string lines = Log().substr(before);
-    EXPECT_EQ(std::count(lines.begin(), lines.end(), '\n'), 1);
+    for (int i = 0; i < 3; ++i) {
+        mainWindow.SetState(eWindowState::Minimised);
+        EXPECT_TRUE(mainWindow.m_Visible);
+        EXPECT_EQ(Log().substr(before), "T11006\n");
+        mainWindow.SetState(eWindowState::Normal);
+    }
 }
 
 TEST_F(Running, AHiddenWindowShowsWhenTheTrayHostGoes) {

@@ -107,8 +107,9 @@ TEST_F(StartUp, AFirstStartCopiesTheDefaultConfigurationAndALaterOneKeepsChanges
     EXPECT_EQ(mainWindow.m_Caption, "T10000 (Mine) - Version 3.00.04");
 }
 
-TEST_F(StartUp, TheFoldersAreMade) {
+TEST_F(StartUp, TheFoldersAreMadeAndSurviveAPowerCut) {
     Load();
+    files.Crash();
     EXPECT_TRUE(files.HasFolder("C:\\App\\LogFiles"));
     EXPECT_TRUE(files.HasFolder("C:\\App\\Alarms"));
 }
@@ -154,10 +155,10 @@ TEST_F(StartUp, TextsThatAFileLacksAreAddedAndTold) {
 
 TEST_F(StartUp, ATextFileThatCannotBeReadIsToldAndTheDeliveredTextsSpeak) {
     files.SetUnreadable("C:\\App\\Vigrel_Texts.046", true);
-    deliveredTexts.Add("046", "10011=delivered\r\n11002=not read\r\n");
+    deliveredTexts.Add("046", "10011=delivered\r\n10040=begins\r\n11002=not read\r\n");
     EXPECT_EQ(Load(), eStartUp::Running);
     const std::string told = "not read: C:\\App\\Vigrel_Texts.046: the file can't be read";
-    EXPECT_NE(Log().find(told + "\n"), std::string::npos) << Log();
+    EXPECT_TRUE(Log().starts_with(dashes + "begins\n" + told + "\n")) << Log();
     EXPECT_TRUE(Log().ends_with("delivered\n")) << Log();
     EXPECT_EQ(status.m_Texts, std::vector<std::string>{told});
 }
@@ -287,6 +288,8 @@ TEST_F(StartUp, WithoutSwitchesTheWindowTakesItsStoredPlace) {
     EXPECT_FALSE(mainWindow.m_TopMost);
     EXPECT_FALSE(menus["Menu_Simulate"].visible);
     EXPECT_FALSE(Did("about box"));
+    EXPECT_FALSE(Did("debug window"));
+    EXPECT_FALSE(receiver->State().m_DebugMode);
 }
 
 TEST_F(StartUp, MaximisedTheStoredPlaceIsNotApplied) {

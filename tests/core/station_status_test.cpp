@@ -67,6 +67,18 @@ TEST_F(StationStatus, AlarmsThatAreNotOnDiskAreToldWithTheirTimeAndTheReasonUnti
     EXPECT_EQ(Told(), cLines{normal});
 }
 
+TEST_F(StationStatus, ASingleAlarmThatIsNotOnDiskIsTold) {
+    Start();
+    listener.Knock(1);
+    files.m_DiskFull = true;
+    Send();
+    Told();
+    timerKeepAlive.Tick();
+    const cLines told = Told();
+    ASSERT_EQ(told.size(), 1u);
+    EXPECT_NE(told[0].find("; T10049 1, "), std::string::npos) << told[0];
+}
+
 TEST_F(StationStatus, APrinterThatFailsIsTold) {
     Start();
     Told();
