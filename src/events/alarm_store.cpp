@@ -19,7 +19,6 @@ namespace {
 
 constexpr std::string_view kMask = "A???????.Alm";
 constexpr double kLargestFileId = 9'999'999;
-constexpr double kSecondsPerDay = 86400;
 
 std::string OwnName(std::int32_t fileId) {
     return "A" + LastDigits(std::to_string(fileId), 7) + ".alm";
@@ -178,14 +177,10 @@ void cAlarmStore::SaveAlarms(std::vector<AlarmPtr> alarms) {
     m_Services.timerSave.SetEnabled(true);
 }
 
-double cAlarmStore::EndOfTurn() const {
-    return m_Services.clock.Steady() + cPendingSaves::kTurnSeconds / kSecondsPerDay;
-}
-
 void cAlarmStore::Timer_Save_Tick() {
     m_Pending.Turn();
     if (m_Pending.Empty()) m_Retried.clear();
-    RemoveOldFiles(EndOfTurn());
+    RemoveOldFiles(m_Pending.EndOfTurn());
     if (m_Pending.Empty() && m_OldFiles.empty()) m_Services.timerSave.SetEnabled(false);
 }
 
@@ -198,7 +193,7 @@ void cAlarmStore::FinishSaves() {
         FinishPending();
     }
     // Last of all, and no longer than a turn: what stays is too old for the next start, too.
-    RemoveOldFiles(EndOfTurn());
+    RemoveOldFiles(m_Pending.EndOfTurn());
     m_Services.timerSave.SetEnabled(false);
 }
 
@@ -225,7 +220,7 @@ void cAlarmStore::RetryUnsaved() {
     if (m_Unsaved.empty() || !m_Retried.empty()) return;
     // The folder can be what is missing: the disk was full when it was to be made.
     MakeFolder();
-    const double until = EndOfTurn();
+    const double until = m_Pending.EndOfTurn();
     auto next = m_Unsaved.begin();
     bool taken = true;
     while (taken && next != m_Unsaved.end() && m_Services.clock.Steady() <= until) {
@@ -272,7 +267,7 @@ std::int32_t cAlarmStore::SweepOldAlarms() {
         if (!file.empty()) m_OldFiles.emplace(oldest->m_FileId, std::move(file));
         TellGivenUp(*oldest);
     }
-    RemoveOldFiles(EndOfTurn());
+    RemoveOldFiles(m_Pending.EndOfTurn());
     if (!m_OldFiles.empty()) m_Services.timerSave.SetEnabled(true);
     return removed;
 }

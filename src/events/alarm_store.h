@@ -109,7 +109,6 @@ class cAlarmStore {
     std::int32_t InsertOneByOne(const std::vector<AlarmPtr>& alarms);
     void NoteUnsaved(const AlarmPtr& alarm);
     void RetryTheRest();
-    double EndOfTurn() const;  // on the steady clock
     void FinishPending();
 
     cServices m_Services;

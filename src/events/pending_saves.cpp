@@ -19,6 +19,10 @@ void cPendingSaves::Add(const std::vector<AlarmPtr>& alarms) {
     if (m_Batch.empty()) Begin();
 }
 
+double cPendingSaves::EndOfTurn() const {
+    return m_Services.clock.Steady() + kTurnSeconds / kSecondsPerDay;
+}
+
 void cPendingSaves::Begin() {
     m_Batch = std::exchange(m_Next, {});
     m_Done = 0;
@@ -26,7 +30,7 @@ void cPendingSaves::Begin() {
 }
 
 bool cPendingSaves::Advance(Work work) {
-    const double until = m_Services.clock.Steady() + kTurnSeconds / kSecondsPerDay;
+    const double until = EndOfTurn();
     for (int files = 0; m_Done < m_Batch.size(); ++m_Done, ++files) {
         if (files == kTurnFiles || m_Services.clock.Steady() > until) return false;
         (this->*work)(m_Batch[m_Done]);

@@ -34,6 +34,8 @@ class cPendingSaves {
     explicit cPendingSaves(cServices services) : m_Services(std::move(services)) {}
 
     void Add(const std::vector<AlarmPtr>& alarms);
+    // Of one that begins now, on the steady clock.
+    double EndOfTurn() const;
     bool Empty() const { return m_Batch.empty(); }
     // Does what a turn allows; at once what is left where it is the last chance.
     void Turn();
