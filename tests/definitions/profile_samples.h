@@ -31,7 +31,7 @@ inline const std::string kProfileFields =
         "02 00 68 69 (hi)"
         "FF FF (scan systems)"
         "01 00 (system 0)") +
-    std::string(2 * 62, '\0') + testing::Bytes("03 00 (system 63)");
+    std::string(std::size_t{2} * 62, '\0') + testing::Bytes("03 00 (system 63)");
 
 // The schedule: Monday from 07:00 to 16:00 in row 0, the other weekdays active without periods; day types
 // that have no row are given the one behind the last.

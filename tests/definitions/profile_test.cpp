@@ -11,7 +11,6 @@
 namespace vigrel::testing {
 namespace {
 
-using samples::kProfileFields;
 using samples::kProfileSchedule;
 using samples::kProfileVersion4;
 using samples::kProfileVersion5;
