@@ -183,6 +183,8 @@ void cVigrelReceiverMain::Form_Unload() {
     m_Ports.trayArea.SetVisible(false);
     m_Ports.runningApps.SetRunningApps(kApplication, 0);
     m_Light.Menu_StopLight();
+    // Each can acknowledge its alarm, and the machine's own end doesn't wait for thousands of single files.
+    m_Store.GatherSaves();
     m_Popups.ClosePopups();
     SaveTheLast();
 }

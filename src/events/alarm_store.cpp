@@ -161,6 +161,7 @@ bool cAlarmStore::TrySave(cVigrelRecieverAlarm& alarm) {
 void cAlarmStore::SaveAlarm(const AlarmPtr& alarm) {
     // Its number may be another alarm's by now.
     if (alarm->m_Removed) return;
+    if (m_Gathers) return m_Pending.Add({alarm});
     if (TrySave(*alarm)) {
         std::erase(m_Unsaved, alarm);
         std::erase(m_Retried, alarm);
@@ -185,6 +186,7 @@ void cAlarmStore::Timer_Save_Tick() {
 }
 
 void cAlarmStore::FinishSaves() {
+    m_Gathers = false;
     FinishPending();
     if (!m_Unsaved.empty()) {
         // The last chance: each is tried, whatever becomes of another.

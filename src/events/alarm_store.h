@@ -62,6 +62,8 @@ class cAlarmStore {
     // The same for several, but written behind the call: in short turns, each at a tick of timerSave. One
     // alone is written at once.
     void SaveAlarms(std::vector<AlarmPtr> alarms);
+    // What is saved from now on is written by FinishSaves, all together.
+    void GatherSaves() { m_Gathers = true; }
     void Timer_Save_Tick();
     // Writes now what still waits for its turn, and what could not be written before.
     void FinishSaves();
@@ -123,6 +125,7 @@ class cAlarmStore {
     // Of alarms that are gone, and have still to go themselves; by number.
     std::map<std::int32_t, std::string> m_OldFiles;
     cPendingSaves m_Pending;
+    bool m_Gathers = false;
 };
 
 }  // namespace vigrel

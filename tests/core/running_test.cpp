@@ -67,6 +67,25 @@ TEST_F(Running, WhatCouldNotBeWrittenIsTriedOnceMoreAtTheEnd) {
     }
 }
 
+TEST_F(Running, WhatThePopupsOfTheEndAcknowledgeIsWrittenTogether) {
+    Ini("Columns=StateIcon,t0\r\nMaxEvents=0\r\nViewPopupForm=1\r\nAckEventWhenPopupFormIsClosed=1\r\n");
+    Start();
+    for (int i = 0; i < 20; ++i) Send("PLC1", "S1||" + std::to_string(i));
+    int syncs = 0;
+    files.m_OnCall = [&](std::string_view operation, std::string_view) {
+        syncs += operation.starts_with("sync") ? 1 : 0;
+    };
+    receiver->Form_Unload();
+    EXPECT_LT(syncs, 10);
+    files.m_OnCall = nullptr;
+    files.Crash();
+    Start();
+    EXPECT_EQ(list.Rows().size(), 20u);
+    receiver->Menu_AckAll();
+    // Nothing is left to be acknowledged.
+    EXPECT_EQ(timerSave.Enabled(), false);
+}
+
 TEST_F(Running, ClosedPopupsBringBackNoFileThatTheLimitTookAway) {
     Ini("Columns=StateIcon,t0\r\nMaxEvents=1\r\nViewPopupForm=1\r\nAckEventWhenPopupFormIsClosed=1\r\n");
     Start();
