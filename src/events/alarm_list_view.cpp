@@ -174,7 +174,7 @@ void cAlarmListView::UpdateAlarmRow(cVigrelRecieverAlarm& alarm) {
 
 void cAlarmListView::ShowNewAlarm(const cVigrelRecieverAlarm& alarm) {
     m_Services.list.TakeOverRecords();
-    if (alarm.m_Record != 0) SkipFailure([&] { m_Services.list.SelectAndShow(alarm.m_Record); });
+    SkipFailure([&] { m_Services.list.SelectAndShow(alarm.m_Record); });
     // The operator's selection goes too: what is selected is what he looked at before this alarm came.
     m_Services.list.ClearSelection();
 }

@@ -18,6 +18,14 @@ class Acknowledgement : public ::testing::Test, public cFakeStation {
         state.m_SoundState = 4;
     }
     int Icon(const AlarmPtr& alarm, int item) const { return list.Item(alarm->m_Record, item).icon; }
+    // The mark in the alarm's file.
+    Boolean16 StoredMark(const AlarmPtr& alarm) const {
+        cVigrelRecieverAlarm read(clock, kNoCategorySetting);
+        const std::string bytes = files.ReadFile(store.FileName(alarm->m_FileId));
+        cBinaryReader file(bytes);
+        read.ReadFromDisk(file);
+        return read.m_Observed;
+    }
 };
 
 TEST_F(Acknowledgement, OfNothingDoesNothing) {
@@ -41,11 +49,7 @@ TEST_F(Acknowledgement, OfARowSetsTheAlarmObservedWithIconFileLogAndSilence) {
     EXPECT_TRUE(state.m_ListChanged);
     EXPECT_EQ(Log(), "T10039 Active - Fire in hall (///)\n");
     files.Crash();
-    cVigrelRecieverAlarm read(clock, kNoCategorySetting);
-    const std::string bytes = files.ReadFile(store.FileName(alarm->m_FileId));
-    cBinaryReader file(bytes);
-    read.ReadFromDisk(file);
-    EXPECT_EQ(read.m_Observed, True16);
+    EXPECT_EQ(StoredMark(alarm), True16);
 }
 
 TEST_F(Acknowledgement, OfAnAlarmThatTheLimitsRemovedBringsNoFileBack) {
@@ -160,7 +164,32 @@ TEST_F(Acknowledgement, OfAllOnAnEmptyListOnlyEndsTheSound) {
     acknowledgement.Menu_AckAll();
     EXPECT_EQ(state.m_SoundState, 0);
     EXPECT_FALSE(state.m_ListChanged);
+    EXPECT_FALSE(timerSave.Enabled());
     EXPECT_EQ(Log(), "");
+}
+
+TEST_F(Acknowledgement, OfAllThatFailsHalfWayKeepsWhatWasAnswered) {
+    const std::vector<AlarmPtr> alarms{Take(MakeAlarm("a")), Take(MakeAlarm("b")), Take(MakeAlarm("c"))};
+    files.m_OnCall = [&](std::string_view, std::string_view path) {
+        if (path.ends_with(".Log") && list.RecordCount() == 3) list.RemoveRecord(alarms[2]->m_Record);
+    };
+    EXPECT_THROW(acknowledgement.Menu_AckAll(), cFailure);
+    EXPECT_EQ(Log(), "T10039 Active - a (///)\nT10039 Active - b (///)\n");
+    store.FinishSaves();
+    files.Crash();
+    EXPECT_EQ(StoredMark(alarms[0]), True16);
+    EXPECT_EQ(StoredMark(alarms[1]), True16);
+    EXPECT_EQ(StoredMark(alarms[2]), False16);
+}
+
+TEST_F(Acknowledgement, TellsTheListThatTheRowIsAnother) {
+    const AlarmPtr first = Take(MakeAlarm("first"));
+    const AlarmPtr second = Take(MakeAlarm("second"));
+    list.m_Changed.clear();
+    acknowledgement.AckAlarm(first->m_Record, nullptr);
+    EXPECT_EQ(list.m_Changed, std::vector<RecordId>{first->m_Record});
+    acknowledgement.Menu_AckAll();
+    EXPECT_EQ(list.m_Changed, (std::vector<RecordId>{first->m_Record, second->m_Record}));
 }
 
 TEST_F(Acknowledgement, OfAllWithPopupsClosesThemAndEndsTheSound) {
@@ -200,11 +229,7 @@ TEST_F(Acknowledgement, ThatCannotBeWrittenIsTriedAgain) {
     EXPECT_EQ(alarm->m_Observed, True16);
     files.m_DiskFull = false;
     store.RetryUnsaved();
-    cVigrelRecieverAlarm read(clock, kNoCategorySetting);
-    const std::string bytes = files.ReadFile(store.FileName(alarm->m_FileId));
-    cBinaryReader file(bytes);
-    read.ReadFromDisk(file);
-    EXPECT_EQ(read.m_Observed, True16);
+    EXPECT_EQ(StoredMark(alarm), True16);
 }
 
 TEST_F(Acknowledgement, KeepsRowColoursAndPlace) {

@@ -110,6 +110,16 @@ TEST_F(AlarmListView, EveryKindOfColumnHasItsText) {
               "main|c1|Brand|c3|c4|c5|call 112|#26|\n");
 }
 
+TEST_F(AlarmListView, OnlyTheStateAndTheMarkHaveIcons) {
+    Start(
+        "[General]\r\nColumns=StateText,AlarmDate,AlarmTime,AlarmDateTime,Date,Time,DateTime,"
+        "t0,t1,t2,t3,t4,t5,ExtraText\r\nIcon_Active=2,3\r\n");
+    const AlarmPtr alarm = Take(MakeAlarm());
+    for (int column = 0; column < list.ColumnCount(); ++column) {
+        EXPECT_EQ(list.Item(alarm->m_Record, column).icon, -1) << column;
+    }
+}
+
 TEST_F(AlarmListView, StateTextsAreTrimmedAndAMessageHasNone) {
     Start("[General]\r\nColumns=t5,StateText\r\n");
     files.Put(std::string(kApp) + "Vigrel_Texts.046", "837= off \r\n838=on\r\n839=acked\r\n");
@@ -163,6 +173,19 @@ TEST_F(AlarmListView, ATranslationWithEmptyValueLeavesTheCellEmpty) {
     Start("[General]\r\nColumns=StateIcon,t2\r\n[CategoryTranslations]\r\nFire=\r\n");
     EXPECT_EQ(Value(Take(MakeAlarm("x", "Fire")), 1), "");
     EXPECT_EQ(Value(Take(MakeAlarm("x", "Gas")), 1), "Gas");
+}
+
+// A station that runs for months meets any number of names.
+TEST_F(AlarmListView, OnlyTranslationsThatAColumnShowsAreKept) {
+    const std::string translations = "[CategoryTranslations]\r\nFire=Brand\r\nGas=Gas\r\n";
+    Start("[General]\r\nColumns=StateIcon,t0\r\n" + translations);
+    EXPECT_EQ(Take(MakeAlarm("x", "Fire"))->m_CategoryText, nullptr);
+    cFakeStation other;
+    other.Ini("[General]\r\nColumns=StateIcon,t2\r\n" + translations);
+    other.view.SetUpColumns(other.settings);
+    EXPECT_EQ(other.Take(other.MakeAlarm("x", "Gas"))->m_CategoryText, nullptr);
+    EXPECT_EQ(other.Take(other.MakeAlarm("x", "Water"))->m_CategoryText, nullptr);
+    EXPECT_NE(other.Take(other.MakeAlarm("x", "Fire"))->m_CategoryText, nullptr);
 }
 
 TEST_F(AlarmListView, TheTranslationIsOfTheDisplayOnly) {
@@ -251,6 +274,11 @@ TEST_F(AlarmListView, TheRowHeightFollowsTheFontSize) {
     list.SetFont("Arial", 10.5);
     screen.m_TwipsPerPixel = 7.5;
     EXPECT_EQ(view.RowHeight(), 33);
+}
+
+TEST_F(AlarmListView, ARowHeightThatCannotBeToldIsNone) {
+    list.SetFont("Arial", 1e300);
+    EXPECT_EQ(view.RowHeight(), 0);
 }
 
 TEST_F(AlarmListView, TheRowHeightIsRoundedAsAWhole) {

@@ -28,7 +28,7 @@ TEST(AlarmObjects, AFreshAlarmWithEmptyStringsWrites180Bytes) {
     EXPECT_EQ(core.Bytes().size(), 104u);
 }
 
-TEST(AlarmObjects, TheRecordIsWrittenByteForByte) {
+TEST(AlarmObjects, TheRecordIsWrittenAndReadByteForByte) {
     cFakeClock clock;
     clock.m_Now = 2.5;  // IEEE 754: 00 00 00 00 00 00 04 40
     cVigrelRecieverAlarm alarm(clock, kNoCategorySetting);
@@ -51,6 +51,10 @@ TEST(AlarmObjects, TheRecordIsWrittenByteForByte) {
                                  Zeros(40) + "\x03\0PLC"s + "\xFF\xFF"s + "\0\0\0\0\0\0\x04\x40"s +
                                  "\xA5\xA7\0\0"s + Zeros(20) + Zeros(40);
     EXPECT_EQ(Written(alarm), expected);
+    cVigrelRecieverAlarm read(clock, kNoCategorySetting);
+    cBinaryReader file(expected);
+    read.ReadFromDisk(file);
+    EXPECT_EQ(Written(read), expected);
 }
 
 TEST(AlarmObjects, ReadingTakesBackWhatWasWrittenAndLeavesTheRest) {

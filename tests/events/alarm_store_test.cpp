@@ -289,6 +289,17 @@ TEST_F(AlarmStore, AnAlarmThatCannotBeWrittenTwiceIsOneAndWaitsSinceTheFirstTime
     EXPECT_EQ(AlarmFiles().size(), 1u);
 }
 
+TEST_F(AlarmStore, AnAlarmThatASaveOfItsOwnBringsToTheDiskWaitsNoMore) {
+    files.m_DiskFull = true;
+    const AlarmPtr alarm = Take(MakeAlarm());
+    Take(MakeAlarm());
+    files.m_DiskFull = false;
+    acknowledgement.AckAlarm(0, alarm);
+    EXPECT_EQ(store.UnsavedCount(), 1u);
+    store.RetryUnsaved();
+    EXPECT_EQ(store.UnsavedCount(), 0u);
+}
+
 TEST_F(AlarmStore, AnUnsavedAlarmThatLeavesTheStoreIsNotWrittenAnyMore) {
     settings.m_MaxEvents = 1;
     files.m_DiskFull = true;
@@ -623,6 +634,7 @@ TEST_F(AlarmStore, ACrashWhileManyAreWrittenLeavesEachFileWhole) {
         station.view.SetUpColumns(station.settings);
         const std::vector<AlarmPtr> alarms = TakeSome(station, 3);
         std::vector<std::string> old;
+        old.reserve(alarms.size());
         for (const AlarmPtr& alarm : alarms) {
             old.push_back(station.files.ReadFile(station.store.FileName(alarm->m_FileId)));
         }

@@ -52,6 +52,28 @@ TEST_F(ListedAlarms, LoadingAgainStartsAfreshBehindAHiddenList) {
     EXPECT_TRUE(state.m_ListChanged);
 }
 
+// Nobody watches rows come or lose their selection, and who reads the log sees the list that it tells of.
+TEST_F(ListedAlarms, LoadingAndSweepingTakeTheirStepsInOneOrder) {
+    PutFile(1, 31);
+    PutFile(2, 2);
+    PutFile(3, 1);
+    files.m_OnCall = [this](std::string_view, std::string_view path) {
+        if (path.ends_with(".Log")) transcript.Add("log written");
+    };
+    listed.LoadAlarms();
+    EXPECT_EQ(transcript.Take(),
+              "list: hidden\nlist: all records removed\nlist: take over 2 rows\nlist: clear selection\n"
+              "list: shown\nlog written\nlog written\n");
+    clock.AddSeconds(28.5 * 86400);
+    listed.SweepOldAlarms();
+    EXPECT_EQ(transcript.Take(), "list: record 1 removed\nlist: take over 1 row\nlog written\n");
+}
+
+TEST_F(ListedAlarms, AStoreThatOutlivesItsListTellsNobody) {
+    { const cListedAlarms shorter({store, view, list, log, texts, settings, state}); }
+    EXPECT_FALSE(store.OnGivenUp);
+}
+
 TEST_F(ListedAlarms, ATooOldFileIsDeletedAtStartAndNeverGetsARow) {
     PutFile(1, 31);
     PutFile(2, 29);

@@ -138,6 +138,10 @@ void cFakeReportList::SelectAndShow(RecordId record) {
     m_Selected.insert(record);
     Note("show record " + std::to_string(record));
 }
+void cFakeReportList::SetVisible(bool visible) {
+    m_Visible = visible;
+    Note(visible ? "shown" : "hidden");
+}
 void cFakeReportList::AddSortColumn(int column, bool ascending) {
     Column(column);
     m_SortColumns.push_back({column, ascending});

@@ -32,7 +32,10 @@ class cFakeReportList : public cReportList {
     void RemoveAllRecords() override;
     int RecordCount() const override { return static_cast<int>(m_Records.size()); }
     RecordTag RecordTagOf(RecordId record) const override { return Record(record); }
-    void RecordChanged(RecordId record) override { Record(record); }
+    void RecordChanged(RecordId record) override {
+        Record(record);
+        m_Changed.push_back(record);
+    }
     ItemValue GetItemValue(RecordId record, int item) const override { return Item(record, item).value; }
 
     void TakeOverRecords() override;
@@ -42,7 +45,7 @@ class cFakeReportList : public cReportList {
     void SelectAllRows() override;
     void ClearSelection() override;
     void SelectAndShow(RecordId record) override;
-    void SetVisible(bool visible) override { m_Visible = visible; }
+    void SetVisible(bool visible) override;
 
     void ClearSortOrder() override { m_SortColumns.clear(); }
     void AddSortColumn(int column, bool ascending) override;
@@ -76,6 +79,7 @@ class cFakeReportList : public cReportList {
     double m_FontPoints = 8;
     cFontStyle m_Style;
     bool m_Visible = true;
+    std::vector<RecordId> m_Changed;  // each time that a record's owner told so
     std::function<void()> m_OnAddRecord;
 
   private:
