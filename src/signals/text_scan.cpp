@@ -21,7 +21,6 @@ void cTextScan::Replace(std::string_view replacement) {
 
 std::string cTextScan::Take() {
     m_Out += m_Text.substr(m_From);
-    m_From = m_Text.size();
     return std::move(m_Out);
 }
 

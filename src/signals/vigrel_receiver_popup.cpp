@@ -6,7 +6,6 @@
 namespace vigrel {
 
 void Vigrel_Receiver_Popup::Load() {
-    m_PriorityIndex = kUnlistedPriority;
     const std::string object = cSettingReader(m_Services.ini, "General").Text("Object");
     m_Window.SetCaption(m_Services.texts.GetText(TextTitle) + " (" + object + ")");
     m_Services.state.m_PopupFormCount = ToInt16(m_Services.state.m_PopupFormCount + 1);

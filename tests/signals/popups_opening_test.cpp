@@ -229,6 +229,13 @@ TEST_F(ShowPopup, MovingStartsOnlyOnceAndGoesOnFromAnotherKindsPlace) {
     EXPECT_EQ(Places(1), "49,49");
 }
 
+TEST_F(ShowPopup, AStartThatCannotBeReadIsStillTheNextPopupsPlace) {
+    Configure("WindowPosition=MOVING\nX_Start=1e10\n");
+    EXPECT_THROW(Show("C"), cFailure);
+    Configure("WindowPosition=MOVING\nX_Start=70\nY_Start=80\nX_Stop=900\nY_Stop=900\n");
+    EXPECT_EQ(Places(2), "70,80 120,130");
+}
+
 TEST_F(ShowPopup, ABoundThatIsReachedIsNotPassed) {
     Configure("WindowPosition=MOVING\nX_Stop=100\nY_Stop=100\n");
     EXPECT_EQ(Places(3), "50,50 100,100 50,50");
