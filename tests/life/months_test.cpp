@@ -64,6 +64,7 @@ class Months : public ::testing::Test, public cFakeReceiver {
         transcript.Take();
         // What the fakes remember for tests.
         serviceManager.m_Told.clear();
+        list.m_Changed.clear();
         files.SyncFolder("C:\\App\\LogFiles\\");
         files.DropUnreachable();
     }
