@@ -7,9 +7,9 @@
 A place is a comparison or its boundary, a constant, a default, the order of two statements, a call or an assignment, a
 condition, a "!", an operator. They are broken in a copy of the sources (build/mutants): all of a folder are built into one
 program, in which a variable chooses the broken one, and what can't be chosen there is built one by one. The tests of the
-folder and of those that use it that come by the place run, until one fails. A change that makes them five times as slow,
-and ten seconds more, is noticed too. What survived is listed, and told apart from what tests/campaigns/mutants/equivalent.txt names with the
-reason why it changes nothing.
+folder and of those that use it that come by the place run, until one fails; but for those that take more than ten seconds
+alone. A change that makes them five times as slow, and ten seconds more, is noticed too. What survived is listed, and told
+apart from what tests/campaigns/mutants/equivalent.txt names with the reason why it changes nothing.
 
 FOLDER       folders of src: of the logic, all of it unless told, or of the windows: windows, receiver_ui, editor_ui
 --number N   so many places of each folder, chosen at random; all of them unless told

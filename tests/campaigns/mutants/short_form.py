@@ -6,6 +6,7 @@ import subprocess
 import sys
 import tempfile
 import unittest
+import unittest.mock
 
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent))
@@ -190,6 +191,9 @@ class AllInOneProgram(unittest.TestCase):
             self.assertEqual(found["boundary: if (a [> -> >=] kLimit) a = kLimit;"], ("survived", ""))
             self.assertEqual(found["constant: return -a - [5 -> 6];"], ("survived", ""))
             self.assertEqual(bench.tests["tests", "A.IsBelow"][1] & bench.tests["tests", "A.Limits"][1], set())
+            with unittest.mock.patch("together.SLOW", -1):
+                bench.learn_all(["tests"])
+            self.assertEqual(bench.tests, {}, "what takes too long is left out")
 
 
 class Help(unittest.TestCase):

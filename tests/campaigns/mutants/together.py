@@ -43,6 +43,8 @@ inline int At(int function) {
 #endif
 """
 MARKS = 1 << 16
+# What survives faces every test that comes by; one of a minute would make a campaign of a thousand last a day.
+SLOW = 10
 ERROR = re.compile(r"^\S*?(src/[^:\s]+):(\d+):\d+: (?:fatal )?error: ", re.M)
 # What a compiler shows of a source, and the names that it quotes.
 SHOWN = re.compile(r"^ +\d+ \| .*$|\W'[^']+'|‘[^’]+’", re.M)
@@ -219,18 +221,22 @@ class Together(trial.Trial):
             marked = {at for at, byte in enumerate(keep.marks.read()) if byte}
             return entry, seconds, marked, done is not None and done.returncode == 0
         entries = [(program, name) for program in programs for name in self.listed(program)]
-        failed = []
+        failed, slow = [], []
         with concurrent.futures.ThreadPoolExecutor(self.jobs) as pool:
             for entry, seconds, marked, passed in pool.map(one, entries):
-                if passed:
-                    self.tests[entry] = (seconds, marked)
-                else:
+                if not passed:
                     failed.append("/".join(entry))
+                elif seconds > SLOW:
+                    slow.append("/".join(entry))
+                else:
+                    self.tests[entry] = (seconds, marked)
         # What a program takes to start is not the tests' time.
         start = min((seconds for seconds, _ in self.tests.values()), default=0)
         self.tests = {entry: (seconds - start, marked) for entry, (seconds, marked) in self.tests.items()}
         if failed:
             print(f"left out, since they fail without a change: {', '.join(failed)}", flush=True)
+        if slow:
+            print(f"left out, since they take more than {SLOW} s alone: {', '.join(slow)}", flush=True)
         if len(failed) > 10:
             raise SystemExit("mutants: too many tests fail without a change")
 
