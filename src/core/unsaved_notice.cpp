@@ -43,10 +43,18 @@ void cUnsavedNotice::Tick() {
     const bool changes = count == 0 || m_Told == 0;
     const double now = m_Services.clock.Steady();
     if (count == m_Told || (!changes && now < m_ToldSteady + kStatusPause)) return;
-    m_Services.status.SetStatus(count == 0 ? m_Services.texts.GetText(TextAllSaved)
-                                           : Summary() + " (" + m_Services.store.UnsavedReason() + ")");
-    m_Told = count;
+    TellStatus();
     m_ToldSteady = now;
+}
+
+void cUnsavedNotice::TellTheLast() {
+    if (m_Services.store.UnsavedCount() != m_Told) TellStatus();
+}
+
+void cUnsavedNotice::TellStatus() {
+    m_Told = m_Services.store.UnsavedCount();
+    m_Services.status.SetStatus(m_Told == 0 ? m_Services.texts.GetText(TextAllSaved)
+                                            : Summary() + " (" + m_Services.store.UnsavedReason() + ")");
 }
 
 }  // namespace vigrel

@@ -27,12 +27,16 @@ class cUnsavedNotice {
     // Compares what is with what was told. The window follows at once, the status at most every ten seconds
     // while the number only changes.
     void Tick();
+    // Behind the last try to write: by the status alone, what has changed since it was told. Alarms of the
+    // last moment are lost with the program, unheard of, if they are not named here.
+    void TellTheLast();
 
   private:
     std::string Summary() const;
     // Empty where the folder could be read.
     std::string FolderText() const;
     void TellOfFolder();
+    void TellStatus();
 
     cServices m_Services;
     bool m_ToldOfFolder = false;

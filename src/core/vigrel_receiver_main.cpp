@@ -192,6 +192,7 @@ void cVigrelReceiverMain::Form_Unload() {
 // What is in memory alone goes with the program: the disk may have room again since the last try.
 void cVigrelReceiverMain::SaveTheLast() {
     m_Store.FinishSaves();
+    m_UnsavedNotice.TellTheLast();
 }
 
 }  // namespace vigrel

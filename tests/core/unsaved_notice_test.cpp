@@ -103,6 +103,72 @@ TEST_F(UnsavedNotice, AnAlarmThatTheLimitsRemoveIsMissedNoMore) {
     EXPECT_EQ(otherWindows.m_Notices.back(), "");
 }
 
+// What a station tells that is ended while alarms wait.
+class LastUnsavedNotice : public UnsavedNotice {
+  protected:
+    void End() { EXPECT_TRUE(mainWindow.CloseFor(eCloseReason::SessionEnd)); }
+    static std::string Summary(int count) {
+        return "T10049 " + std::to_string(count) + ", T10050 2026-03-15 12:30:15 (";
+    }
+    void ExpectTold(const cLines& beginnings) const {
+        ASSERT_EQ(status.m_Texts.size(), beginnings.size());
+        for (std::size_t i = 0; i < beginnings.size(); ++i) {
+            EXPECT_EQ(status.m_Texts[i].substr(0, beginnings[i].size()), beginnings[i]);
+        }
+    }
+};
+
+TEST_F(LastUnsavedNotice, TellsOfAlarmsForWhichNoTickCame) {
+    FillDisk();
+    Send(3);
+    End();
+    ExpectTold({Summary(3)});
+}
+
+TEST_F(LastUnsavedNotice, TellsOfTheNumberThatIsLostInTheEnd) {
+    FillDisk();
+    Send();
+    timerPlay.Tick();
+    Send(4);
+    timerPlay.Tick();
+    End();
+    ExpectTold({Summary(1), Summary(5)});
+}
+
+TEST_F(LastUnsavedNotice, RepeatsNothing) {
+    FillDisk();
+    Send(2);
+    timerPlay.Tick();
+    End();
+    ExpectTold({Summary(2)});
+}
+
+TEST_F(LastUnsavedNotice, TellsThatTheDiskTookAllAfterAll) {
+    FillDisk();
+    Send(2);
+    timerPlay.Tick();
+    FreeDisk();
+    End();
+    ExpectTold({Summary(2), "T10052"});
+}
+
+TEST_F(LastUnsavedNotice, IsNotGivenWhereAllIsOnDisk) {
+    Send(2);
+    End();
+    ExpectTold({});
+}
+
+TEST_F(LastUnsavedNotice, TellsOfAcknowledgementsThatTheEndBrought) {
+    Ini("DateFormat=yyyy-mm-dd\r\nTimeFormat=hh:nn:ss\r\nViewPopupForm=1\r\nAckEventWhenPopupFormIsClosed="
+        "1\r\n");
+    Start();
+    listener.Knock(1);
+    Send(2);
+    FillDisk();
+    End();
+    ExpectTold({Summary(2)});
+}
+
 // A station whose stored alarms can't be read.
 class UnlistedFolder : public ::testing::Test, public testing::cFakeReceiver {
   protected:
