@@ -47,7 +47,6 @@ void cAlarmListView::SetUpColumns(cSettings& settings) {
     }
     const int hidden = m_Services.list.AddColumn(kHiddenColumn, 0);
     m_Services.list.SetColumnTag(hidden, kHiddenColumn);
-    m_Services.list.SetColumnWidth(hidden, 0);
     m_Services.list.OnItem = [this](const RecordTag& tag, int column) {
         return Item(*static_cast<const cVigrelRecieverAlarm*>(tag.get()), column);
     };

@@ -170,8 +170,7 @@ void cAlarmStore::SaveAlarm(const AlarmPtr& alarm) {
     }
 }
 
-void cAlarmStore::SaveAlarms(std::vector<AlarmPtr> alarms) {
-    std::erase_if(alarms, [](const AlarmPtr& alarm) { return alarm->m_Removed; });
+void cAlarmStore::SaveAlarms(const std::vector<AlarmPtr>& alarms) {
     if (alarms.empty()) return;
     if (alarms.size() == 1) return SaveAlarm(alarms.front());
     m_Pending.Add(alarms);

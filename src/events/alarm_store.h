@@ -61,7 +61,7 @@ class cAlarmStore {
     void SaveAlarm(const AlarmPtr& alarm);
     // The same for several, but written behind the call: in short turns, each at a tick of timerSave. One
     // alone is written at once.
-    void SaveAlarms(std::vector<AlarmPtr> alarms);
+    void SaveAlarms(const std::vector<AlarmPtr>& alarms);
     // What is saved from now on is written by FinishSaves, all together.
     void GatherSaves() { m_Gathers = true; }
     void Timer_Save_Tick();

@@ -25,7 +25,6 @@ double cPendingSaves::EndOfTurn() const {
 
 void cPendingSaves::Begin() {
     m_Batch = std::exchange(m_Next, {});
-    m_Done = 0;
     m_Step = eStep::Write;
 }
 
@@ -70,7 +69,6 @@ void cPendingSaves::Rename(const AlarmPtr& alarm) {
 
 void cPendingSaves::StartWait(eStep step) {
     m_Step = step;
-    m_Sync.reset();
     const auto first =
         std::find_if(m_Batch.begin(), m_Batch.end(), [](const AlarmPtr& alarm) { return alarm; });
     if (first == m_Batch.end()) return;

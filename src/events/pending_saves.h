@@ -60,7 +60,7 @@ class cPendingSaves {
     std::vector<AlarmPtr> m_Batch, m_Next;  // what comes while a batch is written is the next one
     std::size_t m_Done = 0;                 // of the batch, in this step
     eStep m_Step = eStep::Write;
-    std::unique_ptr<cPendingSync> m_Sync;
+    std::unique_ptr<cPendingSync> m_Sync;  // none but in a wait that could begin
     bool m_Synced = true;
     bool m_Finishing = false;
 };

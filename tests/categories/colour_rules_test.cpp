@@ -154,6 +154,14 @@ TEST_F(ColourRules, FieldsThatCantBeWrittenAreRefused) {
     EXPECT_EQ(m_Files.ReadFile(kPath), "old");
 }
 
+TEST_F(ColourRules, AFadeIsTakenFromNothingToTheWholeAndIsNothingUnlessGiven) {
+    cColourRule rule = Rule();
+    rule.m_ZebraFade = cColourRule().m_ZebraFade;
+    EXPECT_EQ(MakeUserColor(rule).m_BackColorFade, MakeUserColor(rule).m_BackColor);
+    rule.m_ZebraFade = 255;
+    EXPECT_EQ(MakeUserColor(rule).m_BackColorFade, 0);
+}
+
 TEST_F(ColourRules, AMissingFileIsAnEmptyListAndAnUnreadableOneSaysSo) {
     EXPECT_TRUE(m_Rules.Load(m_Files, kPath).empty());
     EXPECT_TRUE(m_Rules.m_Rules.empty());

@@ -53,6 +53,11 @@ TEST(ReadableColours, TheNearestIsTaken) {
     EXPECT_EQ(ReadableForeColor(Rule("40,40,40", "0,0,0", 0)) & 0xFF, 117);
 }
 
+// 79 of 255 steps to black: 255 - 79, 64 - 19, 32 - 9.
+TEST(ReadableColours, ThePartsKeepTheirProportion) {
+    EXPECT_EQ(ReadableForeColor(Rule("255,64,32", "255,255,255", 0)), 176 + 45 * 256 + 23 * 65536);
+}
+
 TEST(ReadableColours, WhereNoneIsReadableItIsTheBestEnd) {
     // White, and flashing black.
     EXPECT_EQ(ReadableForeColor(Rule("255,255,255", "255,255,255", 215)), 0);

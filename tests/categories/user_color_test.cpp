@@ -139,6 +139,14 @@ constexpr Colour Rgb(int red, int green, int blue) {
     return red | green << 8 | blue << 16;
 }
 
+TEST(UserColorColours, OfANewRuleAreBlack) {
+    const cUserColor rule;
+    EXPECT_EQ(rule.m_ForeColor, 0);
+    EXPECT_EQ(rule.m_BackColor, 0);
+    EXPECT_EQ(rule.m_BackColorFade, 0);
+    EXPECT_EQ(rule.m_BackColorFlash, 0);
+}
+
 TEST(UserColorColours, TheForeColourIsRedGreenBlue) {
     cUserColor rule;
     rule.SetForeColor("10,20,30");

@@ -186,10 +186,14 @@ TEST_F(Acknowledgement, TellsTheListThatTheRowIsAnother) {
     const AlarmPtr first = Take(MakeAlarm("first"));
     const AlarmPtr second = Take(MakeAlarm("second"));
     list.m_Changed.clear();
+    // It finds the alarm's new icons then.
+    std::vector<int> icons;
+    list.m_OnRecordChanged = [&](RecordId row) { icons.push_back(list.Item(row, 1).icon); };
     acknowledgement.AckAlarm(first->m_Record, nullptr);
     EXPECT_EQ(list.m_Changed, std::vector<RecordId>{first->m_Record});
     acknowledgement.Menu_AckAll();
     EXPECT_EQ(list.m_Changed, (std::vector<RecordId>{first->m_Record, second->m_Record}));
+    EXPECT_EQ(icons, (std::vector<int>{27, 27}));
 }
 
 TEST_F(Acknowledgement, OfAllWithPopupsClosesThemAndEndsTheSound) {
@@ -214,6 +218,13 @@ TEST_F(Acknowledgement, PopupsThatCannotBeClosedKeepTheSoundByTheirCount) {
         });
         EXPECT_EQ(state.m_SoundState, left == 0 ? 0 : 4);
     }
+}
+
+TEST_F(Acknowledgement, OfAllWithPopupsClosesASingleOneToo) {
+    state.m_PopupFormCount = 1;
+    bool closed = false;
+    acknowledgement.Menu_AckAll_AndClosePopups([&] { closed = true; });
+    EXPECT_TRUE(closed);
 }
 
 TEST_F(Acknowledgement, WithoutPopupsNoneIsClosed) {

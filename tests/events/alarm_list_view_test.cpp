@@ -211,6 +211,18 @@ TEST_F(AlarmListView, ANewRowMarksTheListAsChanged) {
     EXPECT_TRUE(state.m_ListChanged);
 }
 
+TEST_F(AlarmListView, ANewRowIsTheAlarmsOwnWhenTheListIsToldOfIt) {
+    Start("[General]\r\nColumns=t0\r\n");
+    const AlarmPtr alarm = MakeAlarm("text");
+    std::string told;
+    list.m_OnRecordChanged = [&](RecordId row) {
+        told += std::get<std::string>(list.Item(row, 0).value);
+        EXPECT_EQ(row, alarm->m_Record);
+    };
+    view.AddAlarmRow(alarm);
+    EXPECT_EQ(told, "text");
+}
+
 TEST_F(AlarmListView, TheHiddenColumnHoldsTheTimeOfCreation) {
     Start("[General]\r\nColumns=t0\r\n");
     const AlarmPtr alarm = Take(MakeAlarm());
@@ -318,6 +330,7 @@ TEST_F(AlarmListView, ControlAAndControlCActWithControlAlone) {
     EXPECT_EQ(clipboard.m_Text, "before");
     view.HandleListShortcut(67, 2);
     EXPECT_EQ(clipboard.m_Text, "1\ta\t2026-03-15 12:30:15\t\r\n1\tb\t2026-03-15 12:30:16\t\r\n");
+    EXPECT_TRUE(clipboard.m_WasClear);
 }
 
 TEST_F(AlarmListView, AnArrivalInTheLastMomentOfADayHasThatDaysDate) {

@@ -28,6 +28,35 @@ TEST(AlarmObjects, AFreshAlarmWithEmptyStringsWrites180Bytes) {
     EXPECT_EQ(core.Bytes().size(), 104u);
 }
 
+TEST(AlarmObjects, AFreshAlarmHasTheTimeAndNothingElse) {
+    cFakeClock clock;
+    const cVigrelRecieverAlarm alarm(clock, kNoCategorySetting);
+    EXPECT_EQ(alarm.m_CreatedTime, clock.Now());
+    EXPECT_EQ(alarm.m_Sender, "");
+    EXPECT_EQ(alarm.m_Observed, False16);
+    EXPECT_EQ(alarm.m_FileId, 0);
+    EXPECT_EQ(alarm.m_Record, 0u);
+    EXPECT_EQ(alarm.m_CategoryText, nullptr);
+    EXPECT_FALSE(alarm.m_Removed);
+    const cAlarm& event = alarm.m_Alarm;
+    EXPECT_EQ(event.m_EventId, 0);
+    EXPECT_EQ(event.m_TimeStampFromSCADA, 0);
+    EXPECT_EQ(event.m_TimeStampFromPC, clock.Now());
+    EXPECT_EQ(event.m_Status, StatusInactive);
+    EXPECT_EQ(event.m_ParallellNumbers, 0);
+    EXPECT_EQ(event.m_System, 0);
+    EXPECT_EQ(event.m_SequenceNumbers, 0);
+    EXPECT_EQ(event.m_WaitingForConfirmation, False16);
+    EXPECT_EQ(event.m_TimeToContinue, 0);
+    EXPECT_EQ(event.m_TimeToSend, 0);
+    EXPECT_EQ(event.m_NextSequenceReceiver, 0);
+    EXPECT_EQ(event.m_RepeatCount, 0);
+    EXPECT_EQ(event.m_TriedToSendAtLeastOnce, False16);
+    EXPECT_EQ(event.m_ShouldNotBeRepeatedAnyMore, False16);
+    EXPECT_EQ(event.m_SimulationBehaviour, 0);
+    for (int i = 0; i < 6; ++i) EXPECT_EQ(event.GetCondition(i), "") << i;
+}
+
 TEST(AlarmObjects, TheRecordIsWrittenAndReadByteForByte) {
     cFakeClock clock;
     clock.m_Now = 2.5;  // IEEE 754: 00 00 00 00 00 00 04 40

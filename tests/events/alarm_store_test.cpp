@@ -208,8 +208,27 @@ TEST_F(AlarmStore, AnAlarmThatLeavesBeforeItHasANumberTakesNoFileAlong) {
     faulty.m_Count = 2;
     ofFaulty.SaveAlarm(alarm);
     ASSERT_EQ(alarm->m_FileId, 0);
+    const int calls = files.m_Calls;
     ofFaulty.DeleteAlarmFile(*alarm);
+    EXPECT_EQ(files.m_Calls, calls);
     EXPECT_TRUE(files.FileExists(zero));
+}
+
+TEST_F(AlarmStore, AnAlarmThatIsSweptBeforeItHasANumberLeavesNoFileOfAnotherBehind) {
+    settings.m_MaxDays = 0;
+    const std::string zero = PutFile(0, 40, "zero");
+    cFaultyFiles faulty(files);
+    cAlarmStore ofFaulty({faulty, faulty, clock, random, log, texts, settings, categories, timerSave}, kApp);
+    ofFaulty.LoadAlarms();
+    const AlarmPtr alarm = At(clock.Now() - 41, "older");
+    faulty.m_First = faulty.m_Calls;
+    faulty.m_Count = 2;
+    ofFaulty.SaveAlarm(alarm);
+    ASSERT_EQ(alarm->m_FileId, 0);
+    ofFaulty.InsertAlarm(alarm, 0);
+    settings.m_MaxDays = 30;
+    EXPECT_EQ(ofFaulty.SweepOldAlarms(), 2);
+    EXPECT_FALSE(files.FileExists(zero));
 }
 
 TEST_F(AlarmStore, TheFileOfNumberZeroGoesWithItsAlarm) {
@@ -273,6 +292,12 @@ TEST_F(AlarmStore, AnAlarmThatCouldNotBeWrittenIsTriedAgainUntilItIsOnDisk) {
     const int calls = files.m_Calls;
     store.RetryUnsaved();
     EXPECT_EQ(files.m_Calls, calls);
+}
+
+TEST_F(AlarmStore, ThatIsNewHasNothingThatWaitsForTheDisk) {
+    EXPECT_EQ(store.UnsavedCount(), 0u);
+    EXPECT_EQ(store.UnsavedSince(), 0);
+    EXPECT_EQ(store.UnsavedReason(), "");
 }
 
 TEST_F(AlarmStore, AnAlarmThatCannotBeWrittenTwiceIsOneAndWaitsSinceTheFirstTime) {
@@ -397,15 +422,25 @@ TEST_F(AlarmStore, ManySavesTogetherAreWrittenBehindAndThenDurable) {
     EXPECT_EQ(AlarmFiles().size(), 5u);
 }
 
+TEST_F(AlarmStore, OfManySavesThatFailTheReasonIsTold) {
+    const std::vector<AlarmPtr> alarms = TakeSome(*this, 3);
+    files.m_DiskFull = true;
+    SeeAll(*this, alarms);
+    RunTimer(*this);
+    EXPECT_EQ(store.UnsavedCount(), 3u);
+    EXPECT_TRUE(store.UnsavedReason().ends_with(": the disk is full")) << store.UnsavedReason();
+}
+
 TEST_F(AlarmStore, ManySavesTakeManyShortTurns) {
     const std::vector<AlarmPtr> alarms = TakeSome(*this, 2 * cPendingSaves::kTurnFiles + 10);
     SeeAll(*this, alarms);
-    int turns = 0;
+    int turns = 0, most = 0;
     for (; timerSave.Enabled(); ++turns) {
         const int before = files.m_Calls;
         store.Timer_Save_Tick();
-        EXPECT_LE(files.m_Calls - before, cPendingSaves::kTurnFiles + 1);
+        most = std::max(most, files.m_Calls - before);
     }
+    EXPECT_EQ(most, 1000);
     EXPECT_GE(turns, 6);
     for (const AlarmPtr& alarm : alarms) ExpectStored(*this, alarm);
 }
@@ -420,6 +455,32 @@ TEST_F(AlarmStore, ATurnEndsWhenItsTimeIsOver) {
     files.m_OnCall = nullptr;
     RunTimer(*this);
     for (const AlarmPtr& alarm : alarms) ExpectStored(*this, alarm);
+}
+
+// Whatever the turn does, what begins in its very last moment belongs to it.
+TEST_F(AlarmStore, AFileThatTakesAWholeTurnIsFollowedByOneMore) {
+    files.m_DiskFull = true;
+    TakeSome(*this, 4);
+    files.m_DiskFull = false;
+    int done = 0;
+    std::string counted = "write";
+    files.m_OnCall = [&](std::string_view operation, std::string_view) {
+        if (operation != counted) return;
+        clock.AddSeconds(cPendingSaves::kTurnSeconds);
+        ++done;
+    };
+    store.RetryUnsaved();
+    EXPECT_EQ(std::exchange(done, 0), 2);
+    store.Timer_Save_Tick();
+    EXPECT_EQ(std::exchange(done, 0), 2);
+    RunTimer(*this);
+    ASSERT_EQ(AlarmFiles().size(), 4u);
+    counted = "remove";
+    done = 0;
+    settings.m_MaxDays = 1;
+    clock.Set(2026, 3, 17);
+    EXPECT_EQ(store.SweepOldAlarms(), 4);
+    EXPECT_EQ(done, 2);
 }
 
 // A disk that was full for a night, and has room again.
@@ -514,6 +575,17 @@ TEST_F(AFullDisk, AFileThatCanNeverBeWrittenCostsNoOtherTheEnd) {
     for (const AlarmPtr& alarm : alarms) ExpectStored(*this, alarm);
 }
 
+TEST_F(AFullDisk, ThatStaysFullToTheEndHasLetThemWaitSinceTheFirst) {
+    LetWait(10);
+    const DateTime since = store.UnsavedSince();
+    store.RetryUnsaved();
+    files.m_DiskFull = true;
+    clock.AddSeconds(60);
+    store.FinishSaves();
+    EXPECT_EQ(store.UnsavedCount(), 8u);
+    EXPECT_EQ(store.UnsavedSince(), since);
+}
+
 TEST_F(AFullDisk, ThatHasRoomAtTheEndIsGivenAll) {
     const std::vector<AlarmPtr> alarms = LetWait(10);
     store.FinishSaves();
@@ -558,6 +630,50 @@ TEST_F(AlarmStore, WhileTheDiskIsBusyTurnsPassAndNoNameIsTouched) {
     EXPECT_FALSE(timerSave.Enabled());
     files.Crash();
     for (const AlarmPtr& alarm : alarms) ExpectStored(*this, alarm);
+}
+
+TEST_F(AlarmStore, SavesBehindTheLastOnesWaitBesideTheTurnsAgain) {
+    const std::vector<AlarmPtr> alarms = TakeSome(*this, 3);
+    store.FinishSaves();
+    files.m_DiskIsBusy = true;
+    SeeAll(*this, alarms);
+    bool renamed = false;
+    files.m_OnCall = [&](std::string_view operation, std::string_view) {
+        renamed = renamed || operation == "rename";
+    };
+    for (int tick = 0; tick < 20; ++tick) store.Timer_Save_Tick();
+    EXPECT_FALSE(renamed);
+    EXPECT_TRUE(timerSave.Enabled());
+}
+
+TEST_F(AlarmStore, WhatIsSavedBehindTheLastSavesIsWrittenAtOnce) {
+    store.GatherSaves();
+    store.SaveAlarm(MakeAlarm());
+    EXPECT_TRUE(AlarmFiles().empty());
+    store.FinishSaves();
+    EXPECT_EQ(AlarmFiles().size(), 1u);
+    store.SaveAlarm(MakeAlarm());
+    EXPECT_EQ(AlarmFiles().size(), 2u);
+}
+
+TEST_F(AlarmStore, TheLastSavesOfNothingLeaveTheDiskAlone) {
+    TakeSome(*this, 3);
+    const int calls = files.m_Calls;
+    store.FinishSaves();
+    EXPECT_EQ(files.m_Calls, calls);
+}
+
+TEST_F(AlarmStore, AFolderThatIsMissingIsMadeForTheLastSaves) {
+    files.PutFolder("C:\\Other\\");
+    cAlarmStore other({files, files, clock, random, log, texts, settings, categories, timerSave},
+                      "C:\\Other\\");
+    const AlarmPtr alarm = MakeAlarm();
+    other.SaveAlarm(alarm);
+    EXPECT_EQ(other.UnsavedCount(), 1u);
+    other.FinishSaves();
+    EXPECT_EQ(other.UnsavedCount(), 0u);
+    files.Crash();
+    EXPECT_TRUE(files.FileExists(other.FileName(alarm->m_FileId)));
 }
 
 TEST_F(AlarmStore, AlsoTheWaitForTheNamesGoesOnBesideTheTurns) {
@@ -612,6 +728,7 @@ TEST_F(AlarmStore, AnAlarmThatIsRemovedWhileItWaitsGetsNoFileBack) {
         newest->m_CreatedTime += 1;
         station.Take(newest);
         RunTimer(station);
+        EXPECT_EQ(station.store.UnsavedCount(), 0u) << ticks;
         EXPECT_FALSE(station.files.FileExists(station.store.FileName(alarms[0]->m_FileId))) << ticks;
         ExpectStored(station, alarms[1]);
         EXPECT_EQ(station.AlarmFiles().size(), 3u) << ticks;
@@ -778,7 +895,9 @@ TEST_F(AlarmStore, ALoweredLimitRemovesOneAlarmForEachFileBeyondIt) {
 }
 
 TEST_F(AlarmStore, ANameWithoutANumberIsLeftAloneForGood) {
-    files.Put(std::string(kApp) + "Alarms\\ABCDEFGH.alm", "not an alarm");
+    const std::string alarm = PutFile(1, 1);
+    files.Put(std::string(kApp) + "Alarms\\ABCDEFGH.alm", files.ReadFile(alarm));
+    files.RemoveFile(alarm);
     Load();
     EXPECT_TRUE(store.m_Alarms.empty());
     EXPECT_TRUE(files.FileExists(std::string(kApp) + "Alarms\\ABCDEFGH.alm"));
@@ -909,11 +1028,14 @@ TEST_F(AlarmStore, WhatIsKnownNotToBeReadableIsLeftOutAndNamedOnce) {
     PutFile(3, 1, "c");
     files.m_Unreadable[std::string(kApp) + "Alarms\\"] = {{"A0000002.alm", "Permission denied"},
                                                           {"A0000004.ALM", "no ordinary file"},
+                                                          {"A5.00000.alm", "a folder"},
+                                                          {"AB000002.alm", "no alarm"},
                                                           {"Areports.alm", "no alarm"}};
     Load();
     EXPECT_EQ(Senders(), "ac");
     EXPECT_EQ(Log(),
-              "2 T11004 A0000002.alm (Permission denied), A0000004.ALM (no ordinary file)\n"
+              "3 T11004 A0000002.alm (Permission denied), A0000004.ALM (no ordinary file), "
+              "A5.00000.alm (a folder)\n"
               "2 T10041\n");
 }
 
@@ -925,6 +1047,53 @@ TEST_F(AlarmStore, AnyNumberOfFilesThatCannotBeReadTakesOneLine) {
     const std::string line = SplitLines(Log()).front();
     EXPECT_TRUE(line.starts_with("500 T11004 A1000001.alm (x), ")) << line;
     EXPECT_TRUE(line.ends_with(", A1000020.alm (x)... (+480)")) << line;
+}
+
+TEST_F(AlarmStore, UpToTwentyFilesThatCannotBeReadAreAllNamed) {
+    auto& unreadable = files.m_Unreadable[std::string(kApp) + "Alarms\\"];
+    std::string names;
+    for (int count = 1; count <= 21; ++count) {
+        const std::string name = "A" + std::to_string(1000000 + count) + ".alm";
+        unreadable.push_back({name, "x"});
+        names += count <= 20 ? (count > 1 ? ", " : "") + name + " (x)" : "... (+1)";
+        clock.AddSeconds(86400);  // another day's log
+        Load();
+        EXPECT_EQ(SplitLines(Log()).front(), std::to_string(count) + " T11004 " + names);
+    }
+}
+
+// A disk that spells the folder in its own way, and counts how often it is asked for a spelling.
+class cSpellingDisk : public cFakeFiles {
+  public:
+    mutable int m_Asked = 0;
+    std::string Spelling(std::string_view path) const override {
+        ++m_Asked;
+        return path.ends_with("\\Alarms\\") ? "C:\\App\\ALARMS\\" : cFakeFiles::Spelling(path);
+    }
+};
+
+TEST_F(AlarmStore, TheSpellingOfAFolderIsAskedForOnceWhateverNumberOfFilesItHas) {
+    cSpellingDisk disk;
+    cAlarmStore ofDisk({disk, disk, clock, random, log, texts, settings, categories, timerSave}, kApp);
+    for (const std::int32_t id : {1, 2, 3}) {
+        const std::string name = PutFile(id, 1);
+        disk.Put(name, files.ReadFile(name));
+    }
+    ofDisk.LoadAlarms();
+    EXPECT_EQ(ofDisk.m_Alarms.size(), 3u);
+    EXPECT_EQ(disk.m_Asked, 1);
+    EXPECT_EQ(ofDisk.FileName(1), "C:\\App\\ALARMS\\A0000001.alm");
+}
+
+TEST_F(AlarmStore, AFileThatIsSpelledAnewIsKnownByThatNameBehindTheNextLoad) {
+    const std::string own = PutFile(7, 1);
+    const std::string odd = std::string(kApp) + "Alarms\\a0000007.ALM";
+    files.RenameFile(own, odd);
+    Load();
+    EXPECT_EQ(store.FileName(7), odd);
+    files.RenameFile(odd, own);
+    Load();
+    EXPECT_EQ(store.FileName(7), own);
 }
 
 TEST_F(AlarmStore, AFolderThatCannotBeListedIsNotTakenForAnEmptyOne) {
@@ -977,6 +1146,21 @@ TEST_F(AlarmStore, ATooOldAlarmIsGivenUpWithItsFileAndNotInserted) {
     EXPECT_EQ(givenUp, std::vector<std::string>{"old"});
 }
 
+TEST_F(AlarmStore, WhoIsToldThatAnAlarmIsGivenUpFindsNothingOfItAnyMore) {
+    std::string seen;
+    store.OnGivenUp = [&](const cVigrelRecieverAlarm& alarm) {
+        EXPECT_TRUE(alarm.m_Removed);
+        seen += alarm.m_Sender + " " + Senders() + " " + std::to_string(AlarmFiles().size()) + "\n";
+    };
+    const AlarmPtr first = At(clock.Now() - 2, "a"), second = At(clock.Now() - 1, "b"),
+                   old = At(clock.Now() - 31, "o");
+    for (const AlarmPtr& alarm : {first, second, old}) {
+        store.SaveAlarm(alarm);
+        store.InsertAlarm(alarm, 1);
+    }
+    EXPECT_EQ(seen, "a b 1\no b 1\n");
+}
+
 TEST_F(AlarmStore, WithNobodyToTellATooOldAlarmGoesAllTheSame) {
     store.OnGivenUp = nullptr;
     const AlarmPtr alarm = At(clock.Now() - 31, "old");
@@ -993,6 +1177,7 @@ TEST_F(AlarmStore, TheSweepStopsAtTheFirstAlarmThatIsYoungEnough) {
     settings.m_MaxDays = 30;
     EXPECT_EQ(store.SweepOldAlarms(), 2);
     EXPECT_EQ(store.m_Alarms.size(), 2u);
+    EXPECT_FALSE(timerSave.Enabled());
 }
 
 // A station of a busy plant has tens of thousands of them at midnight.

@@ -32,6 +32,12 @@ TEST(InsertionOrder, ANewcomerStandsBehindTheFirstEqualThatTheSearchMeets) {
     EXPECT_EQ(FindInsertionPlace(3, all), 3u);  // half of 3 is 2
     EXPECT_EQ(FindInsertionPlace(4, all), 3u);
     EXPECT_EQ(FindInsertionPlace(5, all), 3u);  // half of 5 is 2
+    EXPECT_EQ(FindInsertionPlace(6, all), 4u);
+    EXPECT_EQ(FindInsertionPlace(7, all), 5u);  // half of 7 is 4
+    EXPECT_EQ(FindInsertionPlace(8, all), 5u);
+    EXPECT_EQ(FindInsertionPlace(9, all), 5u);   // half of 9 is 4
+    EXPECT_EQ(FindInsertionPlace(11, all), 7u);  // half of 11 is 6
+    EXPECT_EQ(FindInsertionPlace(13, all), 7u);  // half of 13 is 6
 }
 
 TEST(InsertionOrder, AnEarlierOrLaterOneFindsTheEnds) {

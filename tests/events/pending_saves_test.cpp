@@ -62,6 +62,26 @@ struct cSavesOnRefusingDisk {
                          }}};
 };
 
+// The store gives the number of an alarm that it removed to another one at once.
+TEST(PendingSaves, ARemovedAlarmLeavesTheFileOfItsNumbersNextOwnerAloneInTheSameBatch) {
+    for (const bool removedFirst : {true, false}) {
+        cFakeStation station;
+        std::vector<std::string> failed;
+        cPendingSaves saves{
+            {station.files, station.clock, [](const cVigrelRecieverAlarm& alarm) { return alarm.m_Sender; },
+             [](const cVigrelRecieverAlarm&) { return "C:\\App\\A0000001.alm"; },
+             [&](const AlarmPtr& alarm, const std::string&) { failed.push_back(alarm->m_Sender); }}};
+        const AlarmPtr removed = station.MakeAlarm(), owner = station.MakeAlarm();
+        removed->m_Sender = "removed";
+        removed->m_Removed = true;
+        owner->m_Sender = "owner";
+        saves.Add(removedFirst ? std::vector{removed, owner} : std::vector{owner, removed});
+        for (int turn = 0; turn < 10; ++turn) saves.Turn();
+        EXPECT_TRUE(failed.empty()) << removedFirst;
+        EXPECT_EQ(station.files.ReadFile("C:\\App\\A0000001.alm"), "owner") << removedFirst;
+    }
+}
+
 const std::vector<std::string> kBothNotTaken{"1: the disk has not taken what was written",
                                              "2: the disk has not taken what was written"};
 

@@ -35,6 +35,7 @@ class cFakeReportList : public cReportList {
     void RecordChanged(RecordId record) override {
         Record(record);
         m_Changed.push_back(record);
+        if (m_OnRecordChanged) m_OnRecordChanged(record);
     }
     ItemValue GetItemValue(RecordId record, int item) const override { return Item(record, item).value; }
 
@@ -81,6 +82,7 @@ class cFakeReportList : public cReportList {
     bool m_Visible = true;
     std::vector<RecordId> m_Changed;  // each time that a record's owner told so
     std::function<void()> m_OnAddRecord;
+    std::function<void(RecordId)> m_OnRecordChanged;
 
   private:
     struct cSortColumn {

@@ -171,8 +171,12 @@ class cFakeMessageBox : public cMessageBox {
 class cFakeClipboard : public cClipboard {
   public:
     void Clear() override { m_Text.clear(); }
-    void SetText(std::string_view text) override { m_Text = text; }
+    void SetText(std::string_view text) override {
+        m_WasClear = m_Text.empty();
+        m_Text = text;
+    }
     std::string m_Text;
+    bool m_WasClear = false;  // when the last text came
 };
 
 class cFakeBeeper : public cBeeper {
