@@ -132,7 +132,8 @@ void cVigrelReceiverMain::TellOfMissingLock(const std::string& problem) {
     m_Ports.status.SetStatus(text);
 }
 
-// Limits that had their defaults for once would remove alarms that are meant to stay.
+// Limits that had their defaults for once would remove alarms that are meant to stay, and at a default port
+// nobody would call.
 void cVigrelReceiverMain::RequireReadSettings() const {
     if (!m_Ini.Problem().empty()) throw cFailure(eFailure::InputOutput, m_Ini.Problem());
 }
@@ -191,6 +192,7 @@ void cVigrelReceiverMain::LoadAlarms() {
 eStartUp cVigrelReceiverMain::OpenPort() {
     const std::int32_t port = ReadPort(m_Ini);
     const std::string address = ReadAddress(m_Ini);
+    RequireReadSettings();
     const std::string name = (address.empty() ? "" : address + " ") + std::to_string(port);
     const auto failure = CatchFailure([&] { m_Link.Listen(address, port); });
     if (!failure) {

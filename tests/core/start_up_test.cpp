@@ -330,6 +330,15 @@ TEST_F(StartUp, TheFirstActivationShowsTheAboutBoxAndTheNextUnloadsIt) {
     EXPECT_EQ(transcript.Take(), "about box unloaded\n");
 }
 
+TEST_F(StartUp, AnActivationOfTheWindowReachesTheReceiverOnceItRuns) {
+    Make();
+    mainWindow.OnActivate();
+    EXPECT_FALSE(Did("about box"));
+    receiver->Form_Load();
+    mainWindow.OnActivate();
+    EXPECT_TRUE(Did("about box\n"));
+}
+
 TEST_F(StartUp, AnActivationByTheAboutBoxItselfShowsNoSecondOne) {
     Load();
     transcript.Take();
@@ -477,6 +486,19 @@ TEST_F(StartUp, AConfigurationThatCouldNotBeReadForAMomentEndsTheStartToo) {
     EXPECT_TRUE(Did("about box"));
     EXPECT_FALSE(listener.m_Listening);
     EXPECT_TRUE(files.FileExists("C:\\App\\LogFiles\\20260101.log"));
+}
+
+// At the default one nobody would call.
+TEST_F(StartUp, APortThatCannotBeReadAnyMoreEndsTheStart) {
+    Ini("", "[Senders]\r\nPLC1=5\r\n[TCPIP]\r\nPort=12500\r\n");
+    files.m_OnCall = [this](std::string_view operation, std::string_view) {
+        if (operation != "append" || Log().find("T10041") == std::string::npos) return;
+        Ini("Object=Plant\r\n", "[TCPIP]\r\nPort=12500\r\n");
+        files.SetUnreadable("C:\\App\\VigrelReceiver.INI", true);
+    };
+    EXPECT_THROW(Load(), cFailure);
+    EXPECT_FALSE(listener.m_Listening);
+    EXPECT_EQ(Log(), dashes + "T10040\n0 T10041\nPLC1 - T10013 5 T10014\n");
 }
 
 }  // namespace
