@@ -137,7 +137,6 @@ bool IsCutUntil(std::string_view name) {
 }  // namespace
 
 std::string ShapeValue(std::string value, std::string_view token) {
-    if (token.find(':') == std::string_view::npos) return value;
     value = ApplyRange(std::move(value), GetField(token, 1, ":"));
     return ApplyWidth(std::move(value), GetField(token, 2, ":"));
 }

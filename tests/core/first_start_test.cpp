@@ -238,6 +238,22 @@ TEST_F(FirstStart, AScreenWithoutRoomToTellOfIsNone) {
     }
 }
 
+TEST_F(FirstStart, AScreenOfWhichOnlyTheSizeIsToldBeginsAtItsCorner) {
+    const auto placed = [this](const cFirstStartHints& hints) {
+        cFakeFiles files = m_Files;
+        cIni ini(files, kFolder);
+        cFirstStart(files, ini, m_Locale, hints).Prepare();
+        return ini.GetIniString("General", "Vigrel_Receiver_Main.Left", "(none)") + " " +
+               ini.GetIniString("General", "Vigrel_Receiver_Main.Top", "(none)");
+    };
+    cFirstStartHints width, height, both;
+    width.width = both.width = 800;
+    height.height = both.height = 560;
+    EXPECT_EQ(placed(width), "(none) (none)");
+    EXPECT_EQ(placed(height), "(none) (none)");
+    EXPECT_EQ(placed(both), "0 0");
+}
+
 TEST_F(FirstStart, ColumnsGetWhatTheWindowLeavesTheAlarmsTextMostOfAll) {
     Start({"", true, 0, 0, 40 + 200 + 100 + 28 + 1000, 600});
     EXPECT_EQ(Setting("StateIcon", "ColumnWidth"), "40");

@@ -347,6 +347,10 @@ TEST_F(Life, ADisplayThatGoesInTheMiddleOfTheEndTakesNoAlarmAlong) {
 TEST_F(Life, NoEventReachesAReceiverThatIsGone) {
     Start();
     receiver.reset();
+    EXPECT_FALSE(timerKeepAlive.OnTick);
+    EXPECT_FALSE(menus.OnMenuExit);
+    EXPECT_FALSE(list.OnBeforeDrawRow);
+    EXPECT_FALSE(list.OnRowHeight);
     const std::string before = Traces();
     EverythingHappens();
     EXPECT_EQ(Traces(), before);

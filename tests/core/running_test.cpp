@@ -217,6 +217,27 @@ TEST_F(Running, OtherKeysNeitherAcknowledgeNorDeselect) {
     EXPECT_EQ(list.SelectedRows().size(), 1u);
 }
 
+TEST_F(Running, ControlWithASelectsAllAndWithCCopies) {
+    Ini("Columns=StateIcon,t0\r\n");
+    Start();
+    Send("PLC1", "S1||one");
+    Send("PLC1", "S1||two");
+    list.PressKey(65, 2);
+    EXPECT_EQ(list.SelectedRows().size(), 2u);
+    list.PressKey(67, 2);
+    EXPECT_NE(clipboard.m_Text.find("one"), std::string::npos) << clipboard.m_Text;
+    EXPECT_NE(clipboard.m_Text.find("two"), std::string::npos) << clipboard.m_Text;
+}
+
+TEST_F(Running, ARowIsDrawnInTheStyleOfItsCategory) {
+    Ini("Columns=StateIcon,t0\r\n", "[CategorySpecificSetting_Fire]\r\nFontBold_Active=1\r\n");
+    Start();
+    Send("PLC1", "S1||a||Fire");
+    Send("PLC1", "S1||b||Water");
+    EXPECT_TRUE(list.DrawnStyle(list.Rows()[0]).bold);
+    EXPECT_FALSE(list.DrawnStyle(list.Rows()[1]).bold);
+}
+
 TEST_F(Running, TheListForgetsItsSelectionWhenAttentionLeavesIt) {
     Start();
     Send("PLC1", "S1||a");
@@ -310,6 +331,18 @@ TEST_F(Running, APopupThatIsClosedAcknowledgesItsEventWhereThatIsSet) {
     }
 }
 
+TEST_F(Running, APopupLeftHalfPreparedAcknowledgesNothingWhenItIsClosed) {
+    Ini("Columns=StateIcon,Observed\r\nViewPopupForm=1\r\nAckEventWhenPopupFormIsClosed=1\r\n",
+        "[PopupForm]\r\nFontBold=99999999999\r\n");
+    Start();
+    Send("PLC1", "S1||a");
+    Send("PLC1", "S1||b");
+    EXPECT_EQ(popups.Open(), "1 2");
+    EXPECT_EQ(popups.Visible(), "");
+    popups[1].CloseFor(eCloseReason::Control);
+    EXPECT_EQ(list.Screen(), "#0|#26|\n#0|#26|\n");
+}
+
 TEST_F(Running, WhatAnOldLogLeavesFreeTakesTheWaitingAlarmsAtOnce) {
     files.Put("C:\\App\\LogFiles\\20260301.Log", "old");
     Ini("KeepForDays=15\r\n");
@@ -380,11 +413,15 @@ TEST_F(Running, AtTheChangeOfDateOldLogsAndAlarmsGo) {
     EXPECT_EQ(list.RecordCount(), 1);
     EXPECT_EQ(list.Rows().size(), 1u);
     EXPECT_FALSE(files.FileExists("C:\\App\\LogFiles\\20260315.Log"));
-    EXPECT_NE(Log("20260415").find("1 T10036\n"), std::string::npos);
     const std::string log = Log("20260415");
+    EXPECT_NE(log.find("1 T10036\n"), std::string::npos);
+    EXPECT_LT(log.find("20260315.LOG"), log.find("1 T10036\n")) << log;
+    // Once a day.
+    files.Put("C:\\App\\LogFiles\\20260101.log", "old");
     clock.AddSeconds(3600);
     timerKeepAlive.Tick();
     EXPECT_EQ(Log("20260415"), log);
+    EXPECT_TRUE(files.FileExists("C:\\App\\LogFiles\\20260101.log"));
 }
 
 TEST_F(Running, SilentSendersAreReportedBeforeOldAlarmsGo) {
@@ -573,10 +610,11 @@ TEST_F(Running, AHiddenWindowShowsWhenTheTrayHostGoes) {
     const std::size_t before = Log().size();
     mainWindow.SetState(eWindowState::Minimised);
     ASSERT_FALSE(mainWindow.m_Visible);
+    transcript.Take();
     trayArea.m_HostAvailable = false;
     trayArea.OnHostGone();
-    EXPECT_TRUE(mainWindow.m_Visible);
-    EXPECT_EQ(mainWindow.m_State, eWindowState::Normal);
+    // It never shows as minimised.
+    EXPECT_EQ(transcript.Take(), "Vigrel_Receiver_Main: normal\nVigrel_Receiver_Main: show\n");
     EXPECT_NE(Log().find("T11007\n", before), std::string::npos);
 }
 

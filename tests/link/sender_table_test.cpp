@@ -59,6 +59,12 @@ TEST_F(SenderTable, ALineIsNameEqualsMinutes) {
     EXPECT_TRUE(messageBox.m_Shown.empty());
 }
 
+TEST_F(SenderTable, UntilItIsReadItHoldsNobody) {
+    EXPECT_EQ(Frame("", ""), eHeard::Unknown);
+    Minutes(2000);
+    EXPECT_EQ(Alarms(), "");
+}
+
 TEST_F(SenderTable, AZeroByteEndsALineAndTheOneThatLeavesItEmptyEndsTheList) {
     using std::string_literals::operator""s;
     Read("Alpha=5\0Beta=6\r\nGamma=7\r\n\0Delta=8\r\nEpsilon=9\r\n"s);

@@ -129,7 +129,7 @@ const cRow kShapes[] = {
     {"RangeReachesPastTheEnd", "[T0:6-99]", "tripped"},
     {"RangeBeyondTheEndIsEmpty", "[T0:13-20]|[T0:50]|[T0:32767]", "||"},
     {"RangeNumbersAreRounded", "[T0:0.5-1.5]", "Fan"},
-    {"FailedRangeNumberIsZero", "[T0:99999-3]|[T0:2-99999]", "Fan |n"},
+    {"FailedRangeNumberIsZero", "[T0:99999-3]|[T0:2-99999]|[T0:0-99999]", "Fan |n|F"},
     {"EmptyRangeAndWidthShapeNothing", "[T1:::]|[T1:]|[T1::]", "banana|banana|banana"},
     {"RangeComesBeforeWidth", "[T0:0-2:5]!|[T0:6-12:4]!", "Fan  !|trip!"},
     {"ThirdFieldIsNotLookedAt", "[T1::3:9]", "ban"},
@@ -160,14 +160,15 @@ const cRow kModifiers[] = {
     {"CutUntilInFrontOfTheValueLeavesIt", "[CU:3:-6][T0]|[CU:3:-99][T0]", "Fan 3 tripped|Fan 3 tripped"},
     {"CutUntilBehindTheValueEmptiesIt", "[CU:3:99][T0]", ""},
     {"CutUntilWithAnOffsetBeyond16BitsCutsAtTheFind", "[CU:3:99999][T0]", "3 tripped"},
-    {"CutUntilOfWhatIsNotThere", "[CU:z][T1]|[CU:][T1]|[CU][T1]", "banana|banana|banana"},
+    {"CutUntilOfWhatIsNotThere", "[CU:z][T1]|[CU:zzz][T1]|[CU:z:3][T1]|[CU:][T1]|[CU][T1]",
+     "banana|banana|banana|banana|banana"},
     {"CutFrom", "[CF:trip][T0]", "Fan 3 "},
     {"CutFromByItsLongName", "[CUTFROM:TRIP][T0]", "Fan 3 "},
     {"CutFromWithAnOffset", "[CF:3:1][T0]|[CF:3:-1][T0]", "Fan 3|Fan"},
     {"CutFromBehindTheValueLeavesIt", "[CF:3:99][T0]", "Fan 3 tripped"},
     {"CutFromInFrontOfTheValueEmptiesIt", "[CF:3:-5][T0]|[CF:3:-99][T0]|[CF:F][T0]", "||"},
     {"CutFromWithAnOffsetBeyond16BitsCutsAtTheFind", "[CF:3:99999][T0]", "Fan "},
-    {"CutFromOfWhatIsNotThere", "[CF:z][T1]|[CF:][T1]|[CF][T1]", "banana|banana|banana"},
+    {"CutFromOfWhatIsNotThere", "[CF:z][T1]|[CF:z:3][T1]|[CF:][T1]|[CF][T1]", "banana|banana|banana|banana"},
     {"SeveralModifiersActInTheirOrder", "[CU:fan :0][CF:trip][T0]", "3 "},
     {"LaterModifierSeesWhatTheEarlierLeft", "[R:Fan:Pump][R:ump:ipe][T0]", "Pipe 3 tripped"},
     {"ModifiersAreSpentByOneValue", "[R:a:o][T1][T1]",
@@ -329,8 +330,7 @@ TEST(EventText, ReplacementRoundsEndBehindPosition32767) {
     cEventTextStation station;
     station.alarm.m_Sender = std::string(40000, 'a');
     // Rounds at positions 1, 3, 5, ... 32767.
-    EXPECT_EQ(station.Expand("[R:a:bb][SENDER]"),
-              std::string(2 * 16384, 'b') + std::string(40000 - 16384, 'a'));
+    EXPECT_EQ(station.Expand("[R:a:bb][SENDER]"), std::string(32768, 'b') + std::string(40000 - 16384, 'a'));
     // Every removal moves the next occurrence to position 1.
     EXPECT_EQ(station.Expand("[R:a:][SENDER]"), "");
 }

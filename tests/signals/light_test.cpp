@@ -89,6 +89,13 @@ TEST_F(Light, ANameEndsAtItsFirstCharacterOfCodeZero) {
     EXPECT_EQ(Log(), "T10027 1\nT10047 (type 1): A\n");
 }
 
+TEST_F(Light, ANameHasRoomFor512Characters) {
+    m_Library.m_Devices[1] = {std::string(600, 'x')};
+    LoadTexts({10027, 10047});
+    m_Light.ScanDevices();
+    EXPECT_EQ(Log(), "T10027 1\nT10047 (type 1): " + std::string(512, 'x') + "\n");
+}
+
 TEST_F(Light, WithoutADeviceTheScanSaysSo) {
     m_Library.m_Devices.clear();
     LoadTexts({10027, 10046});

@@ -151,6 +151,14 @@ TEST_F(ClosePopups, ThreePopupsGoOneByOneAndOtherWindowsStay) {
     EXPECT_EQ(m_State.m_PopupFormCount, 0);
 }
 
+TEST_F(ClosePopups, APopupThatIsTheFirstOfAllWindowsGoesToo) {
+    m_List.Remove(m_Main);
+    Show("C");
+    Show("C");
+    m_Popups.ClosePopups();
+    EXPECT_EQ(m_Maker.Open(), "");
+}
+
 TEST_F(ClosePopups, HiddenPopupsGoToo) {
     m_Settings.m_ViewOnlyOnePopupForm = true;
     for (int i = 0; i < 3; ++i) Show("C");
@@ -196,6 +204,10 @@ TEST_F(ClosePopups, PopupsThatAreOpenAtTheEndAreLetGo) {
     m_Maker[1].SetWidth(3000);
     m_Maker[1].Close();
     EXPECT_EQ(m_Transcript.Take(), "popup 1: width 3000\npopup 1: closed\n");
+    EXPECT_FALSE(m_Maker[1].OnQueryUnload);
+    EXPECT_FALSE(m_Maker[1].OnUnload);
+    EXPECT_FALSE(m_Maker[1].OnResize);
+    EXPECT_FALSE(m_Maker[1].OnPictureClick);
 }
 
 }  // namespace

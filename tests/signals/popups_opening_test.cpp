@@ -299,6 +299,11 @@ TEST_F(ShowPopup, AFailureHalfWayLeavesALoadedPopupThatDoesNotShow) {
     EXPECT_EQ(m_Maker.Open(), "1");
     EXPECT_EQ(m_Maker.Visible(), "");
     EXPECT_EQ(m_State.m_PopupFormCount, 1);
+    const Vigrel_Receiver_Popup* popup = m_Popups.SelectTopPopup(nullptr);
+    ASSERT_NE(popup, nullptr);
+    EXPECT_EQ(popup->m_Alarm, nullptr);
+    EXPECT_EQ(popup->m_FormId, 0);
+    EXPECT_EQ(popup->m_TimeStamp, 0);
 }
 
 TEST_F(ShowPopup, AStatusWithoutColoursStopsBehindTheText) {

@@ -211,6 +211,13 @@ TEST_F(AllPopups, UnlistedPopupsAloneLieNewestOnTop) {
     EXPECT_EQ(Steps("behind"), "");
 }
 
+TEST_F(AllPopups, OfUnlistedCategoriesNotEvenOneOfTheFirstDayOfAllIsChosen) {
+    m_Clock.m_Now = 0.5;
+    Show("X");
+    Show("Y");
+    EXPECT_EQ(Steps("behind"), "");
+}
+
 TEST_F(AllPopups, APopupOfTheFirstCategoryLiesOverAll) {
     Show("A");
     Show("X");

@@ -70,6 +70,7 @@ TEST(Replace, EqualsItsRoundsDoneByTheWordForLongerTexts) {
 TEST(Replace, NeverMakesAValueLongerThanTheLongest) {
     const std::string value(kLongestValue - 10, 'a');
     EXPECT_EQ(ApplyModifier(value, "R:a:aaaa").size(), kLongestValue - 1);
+    EXPECT_EQ(ApplyModifier(value, "R:a:" + std::string(11, 'b')).size(), kLongestValue);
     EXPECT_EQ(ApplyModifier(value, "R:a:" + std::string(12, 'b')), value);
     const std::string longer(kLongestValue + 10, 'a');
     EXPECT_EQ(ApplyModifier(longer, "R:a:bb"), longer);

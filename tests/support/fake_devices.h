@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <map>
 #include <set>
@@ -121,8 +122,8 @@ class cFakeSignalLight : public cSignalLight {
     void DelcomGetNthDevice(std::int32_t type, std::int32_t index, std::string& buffer) override {
         const std::vector<std::string>& names = m_Devices[type];
         const auto i = static_cast<std::size_t>(index);
-        const std::string name = i < names.size() ? names[i] : "";
-        buffer.replace(0, name.size() + 1, name + '\0');
+        const std::string name = (i < names.size() ? names[i] : "") + '\0';
+        std::copy_n(name.begin(), std::min(name.size(), buffer.size()), buffer.begin());
     }
     std::int32_t DelcomOpenDevice(std::string_view name, std::int32_t mode) override {
         Note("open " + std::string(name) + " " + std::to_string(mode));
