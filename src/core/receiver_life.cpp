@@ -1,9 +1,19 @@
 // What reaches the receiver, and when: its events in one list, and the two moments between which they count.
 
+#include <utility>
+
 #include "common/failure.h"
 #include "core/vigrel_receiver_main.h"
 
 namespace vigrel {
+
+template <class... Arguments>
+void cVigrelReceiverMain::SaveBehindFailure(std::function<void(Arguments...)>& event) {
+    if (!event) return;
+    event = [this, handler = std::move(event)](Arguments... arguments) {
+        CleanUpBehind([&] { handler(arguments...); }, [this] { SaveTheLast(); });
+    };
+}
 
 void cVigrelReceiverMain::ConnectEvents() {
     m_Link.ProcessRecord = [this](const std::string& line) { m_Decoder.ProcessRecord(line); };
@@ -21,7 +31,12 @@ void cVigrelReceiverMain::ConnectEvents() {
     window.OnUnload = [this] { Form_Unload(); };
     ConnectList();
     ConnectMenus();
-    ForEachEvent([this](auto& event) { m_Life.Gate(event); });
+    SaveBehindFailure(window.OnUnload);
+    ForEachEvent([this](auto& event) {
+        SaveBehindFailure(event);
+        m_Life.Gate(event);
+    });
+    m_Ports.otherWindows.OnFailing = [this] { SaveTheLast(); };
     // A timer's first interval begins when the start has ended.
     m_Ports.timerKeepAlive.SetEnabled(false);
     m_Ports.timerPlay.SetEnabled(false);
@@ -86,6 +101,7 @@ cVigrelReceiverMain::~cVigrelReceiverMain() {
     m_Ports.list.OnRowHeight = nullptr;
     m_Ports.mainWindow.OnQueryUnload = nullptr;
     m_Ports.mainWindow.OnUnload = nullptr;
+    m_Ports.otherWindows.OnFailing = nullptr;
 }
 
 eStartUp cVigrelReceiverMain::Start() {

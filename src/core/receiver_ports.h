@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string_view>
 
 #include "common/delivered_texts.h"
@@ -47,6 +48,9 @@ class cOtherWindows {
     virtual void RefuseDialogs() = 0;
     // Dialogs are asked again.
     virtual void AllowDialogs() = 0;
+
+    // Something that these windows do has failed, and is about to be thrown.
+    std::function<void()> OnFailing;
 };
 
 // Everything that the receiver needs of the machine. What is referred to outlives the receiver.

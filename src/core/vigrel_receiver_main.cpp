@@ -2,7 +2,6 @@
 
 #include "common/code_page.h"
 #include "common/dates.h"
-#include "common/failure.h"
 #include "common/file_procedures.h"
 #include "core/form_geometry.h"
 
@@ -81,7 +80,7 @@ bool cVigrelReceiverMain::PrintEvent(const cVigrelRecieverAlarm& alarm) {
 void cVigrelReceiverMain::Timer_KeepAlive_Tick() {
     m_Senders.Tick();
     // A log that can't be deleted ends the program.
-    CleanUpBehind([this] { DailyHousekeeping(); }, [this] { SaveTheLast(); });
+    DailyHousekeeping();
     m_Store.RetryUnsaved();
     m_Log.WriteRepeats();
     m_StationStatus.Tick();

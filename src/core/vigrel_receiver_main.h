@@ -97,6 +97,9 @@ class cVigrelReceiverMain {
     void ConnectMenus();
     template <class Visit>
     void ForEachEvent(Visit visit);
+    // A failure of an event ends the program: what only memory holds is written before.
+    template <class... Arguments>
+    void SaveBehindFailure(std::function<void(Arguments...)>& event);
     void Run();
     void End();
     bool AskForTheEnd();

@@ -712,5 +712,56 @@ TEST_F(Running, ALogThatCannotBeDeletedEndsTheProgramAndTakesNoAlarmAlong) {
     EXPECT_EQ(AlarmFiles().size(), 1u);
 }
 
+// What ends the program by a failure while something is in memory alone.
+class Failing : public Running {
+  protected:
+    void LetASenderEndTheStation() { EXPECT_THROW(data.Arrive(std::string(32'768, 'x') + "\r\n"), cFailure); }
+};
+
+TEST_F(Failing, ASendersWayToEndTheStationTakesNoAcknowledgementAlong) {
+    Start();
+    for (const char* text : {"one", "two", "three"}) Send("PLC1", std::string("S1||") + text);
+    const std::string before = AlarmBytes();
+    receiver->Menu_AckAll();
+    EXPECT_EQ(AlarmBytes(), before);
+    LetASenderEndTheStation();
+    files.Crash();
+    const std::string behind = AlarmBytes();
+    EXPECT_EQ(behind.size(), before.size());
+    EXPECT_NE(behind, before);
+    // Nothing is left to be acknowledged.
+    Start();
+    receiver->Menu_AckAll();
+    EXPECT_EQ(AlarmBytes(), behind);
+    EXPECT_FALSE(timerSave.Enabled());
+}
+
+TEST_F(Failing, ASendersWayToEndTheStationTakesNoAlarmAlongForWhichTheDiskHasRoomAgain) {
+    Start();
+    files.m_DiskFull = true;
+    EXPECT_EQ(Send("PLC1", "S1||one"), kPositiveReply);
+    files.m_DiskFull = false;
+    LetASenderEndTheStation();
+    EXPECT_EQ(AlarmFiles().size(), 1u);
+}
+
+TEST_F(Failing, WhatIsLostIsTold) {
+    Start();
+    files.m_DiskFull = true;
+    EXPECT_EQ(Send("PLC1", "S1||one"), kPositiveReply);
+    LetASenderEndTheStation();
+    ASSERT_EQ(status.m_Texts.size(), 1u);
+    EXPECT_TRUE(status.m_Texts[0].starts_with("T10049 1, "));
+}
+
+TEST_F(Failing, ATraceThatCannotBeSavedTakesNoAlarmAlong) {
+    Start("/debug");
+    files.m_DiskFull = true;
+    EXPECT_EQ(Send("PLC1", "S1||one"), kPositiveReply);
+    files.m_DiskFull = false;
+    otherWindows.OnFailing();
+    EXPECT_EQ(AlarmFiles().size(), 1u);
+}
+
 }  // namespace
 }  // namespace vigrel::testing

@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QTableView>
 
+#include "common/failure.h"
 #include "common/settings.h"
 #include "support/fake_clock.h"
 #include "support/fake_files.h"
@@ -67,6 +68,20 @@ TEST_F(OtherWindows, TheDebugViewShowsWhatIsTracedAndSavesBesideTheProgram) {
     Shown("Vigrel_Receiver_Debug")->close();
     EXPECT_FALSE(m_State.m_DebugMode);
     EXPECT_NO_THROW(m_Others.WriteTrace("late", 1));
+}
+
+TEST_F(OtherWindows, ATraceThatCannotBeSavedIsAnnouncedBeforeItsFailure) {
+    m_Others.ShowDebugWindow(m_Texts, m_State);
+    auto* save = Shown("Vigrel_Receiver_Debug")->findChild<QAction*>("Menu_Save");
+    int announced = 0;
+    m_Others.OnFailing = [&] { ++announced; };
+    save->trigger();
+    EXPECT_EQ(announced, 0);
+    m_Files.m_DiskFull = true;
+    EXPECT_THROW(save->trigger(), cFailure);
+    EXPECT_EQ(announced, 1);
+    m_Others.OnFailing = nullptr;
+    EXPECT_THROW(save->trigger(), cFailure);
 }
 
 TEST_F(OtherWindows, TheAboutBoxStandsUntilItIsUnloaded) {

@@ -8,6 +8,8 @@
 #include <QShortcut>
 #include <QTableView>
 
+#include "common/failure.h"
+
 namespace vigrel {
 namespace {
 
@@ -45,7 +47,12 @@ void cDebugWindow::AddMenu(const cTexts& texts) {
     QAction* save = file->addAction("&Save to DEBUG.TXT");
     save->setObjectName("Menu_Save");
     save->setShortcut(QKeySequence::Save);
-    QObject::connect(save, &QAction::triggered, this, [this] { m_Trace.Menu_Save(); });
+    QObject::connect(save, &QAction::triggered, this, [this] {
+        CleanUpBehind([this] { m_Trace.Menu_Save(); },
+                      [this] {
+                          if (OnSaveFails) OnSaveFails();
+                      });
+    });
 }
 
 void cDebugWindow::SetUpList() {

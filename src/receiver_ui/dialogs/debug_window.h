@@ -20,6 +20,9 @@ class cDebugWindow : public cWidgetWindow<cWindow, QMainWindow> {
                  const cSettingStore& settings);
     ~cDebugWindow() override;
 
+    // Before the failure of a save is thrown.
+    std::function<void()> OnSaveFails;
+
     double InnerWidth() const override { return ToTwips(centralWidget()->width()); }
     double InnerHeight() const override { return ToTwips(centralWidget()->height()); }
 

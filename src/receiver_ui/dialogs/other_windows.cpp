@@ -23,6 +23,9 @@ void cQtOtherWindows::ShowLanguageWindow() {
 void cQtOtherWindows::ShowDebugWindow(const cTexts& texts, cReceiverState& state) {
     m_Trace = std::make_unique<cProtocolTrace>(state, m_Services.clock, m_Services.files, m_ApplicationPath);
     m_Debug = std::make_unique<cDebugWindow>(m_Services.windows, *m_Trace, texts, m_Services.settings);
+    m_Debug->OnSaveFails = [this] {
+        if (OnFailing) OnFailing();
+    };
     m_Debug->Show();
 }
 
