@@ -204,6 +204,8 @@ void cApplication::ShowFailure(const std::string& failure) {
     closer->start(m_FailureBoxMilliseconds);
     m_FailureBox = &box;
     m_Failed = true;
+    // The box begins by closing open menus, and these wait in vain for an event to do so.
+    while (QWidget* menu = activePopupWidget()) menu->hide();
     box.exec();
 }
 

@@ -119,5 +119,14 @@ TEST(BoxesWhileRunning, NothingRunsAnyMoreWhenTheSessionEndsOverAFailureBox) {
     EXPECT_EQ(result.output.find("the program runs on"), std::string::npos) << result.output;
 }
 
+TEST(BoxesWhileRunning, AFailureIsShownAndEndsTheProgramThoughAMenuIsOpen) {
+    const auto start = std::chrono::steady_clock::now();
+    const testing::cResult result = testing::RunProgram("failing_program", {"menu"});
+    EXPECT_EQ(result.exitCode, 70);
+    EXPECT_NE(result.output.find("Failure: an event failed\n"), std::string::npos) << result.output;
+    EXPECT_EQ(result.output.find("the program runs on"), std::string::npos) << result.output;
+    EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(1400));
+}
+
 }  // namespace
 }  // namespace vigrel::testing
