@@ -82,6 +82,16 @@ TEST_F(ReceiversPage, AReceiverIsMadeEditedSavedReopenedAndDeleted) {
     EXPECT_TRUE(m_Files.FileExists(Path("Receivers\\Receiver_0007.dat")));
 }
 
+TEST_F(ReceiversPage, ATypeThatWasNotChosenHasNoTextBehindUndoAndInACopyEither) {
+    Press(Page(), "Button_New");
+    const std::string rows = Rows(Page());
+    Type(Page(), "Text_ParallellNumbers", "17");
+    Page().UndoStack()->undo();
+    EXPECT_EQ(Rows(Page()), rows);
+    Press(Page(), "Button_Copy");
+    EXPECT_EQ(Rows(Page()), kEast + "New receiver * |  | \nNew receiver 2 * |  | \n");
+}
+
 TEST_F(ReceiversPage, NothingIsDeletedWithoutAYes) {
     Press(Page(), "Button_Delete");
     EXPECT_EQ(Rows(Page()), kEast);

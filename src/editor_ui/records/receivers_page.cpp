@@ -18,11 +18,14 @@ cFieldProblem ReceiverProblem(const cReceiver& receiver) {
     return {};
 }
 
+// Nothing where no type was chosen yet, as for a new receiver: a copy of one calls that an unknown type.
+QString TypeText(const cReceiver& receiver) {
+    return receiver.GetReceiverTypeId() < 0 ? QString() : ToQString(receiver.m_ReceiverTypeName);
+}
+
 std::unique_ptr<cFolderSource<cReceiver>> ReadReceivers(cStationDefinitions& station) {
     station.OpenReceivers();
-    return std::make_unique<cFolderSource<cReceiver>>(
-        station.Receivers(), [](const cReceiver& receiver) { return ToQString(receiver.m_ReceiverTypeName); },
-        ReceiverProblem);
+    return std::make_unique<cFolderSource<cReceiver>>(station.Receivers(), TypeText, ReceiverProblem);
 }
 
 }  // namespace
