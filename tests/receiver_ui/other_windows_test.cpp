@@ -84,6 +84,15 @@ TEST_F(OtherWindows, ATraceThatCannotBeSavedIsAnnouncedBeforeItsFailure) {
     EXPECT_THROW(save->trigger(), cFailure);
 }
 
+TEST_F(OtherWindows, ANoticeStandsUntilItIsTakenBack) {
+    m_Others.ShowNotice("");  // none stood
+    EXPECT_EQ(Shown("Vigrel_Receiver_Notice"), nullptr);
+    m_Others.ShowNotice("Full");
+    EXPECT_NE(Shown("Vigrel_Receiver_Notice"), nullptr);
+    m_Others.ShowNotice("");
+    EXPECT_EQ(Shown("Vigrel_Receiver_Notice"), nullptr);
+}
+
 TEST_F(OtherWindows, TheAboutBoxStandsUntilItIsUnloaded) {
     EXPECT_NO_THROW(m_Others.UnloadAboutBox());
     m_Others.ShowAboutBox(m_Texts);

@@ -115,6 +115,7 @@ TEST_F(ReportListResizing, ADraggedWidthIsToldOnceWhenTheMouseIsLetGo) {
 TEST_F(ReportListResizing, AColumnCannotBeDraggedOutOfReach) {
     Drag(0, -20);
     EXPECT_GE(m_List.ColumnWidth(0), 8);
+    EXPECT_EQ(m_Told, std::vector<int>{0});
 }
 
 TEST_F(ReportListResizing, AFixedColumnDoesNotFollowTheMouse) {
@@ -174,6 +175,25 @@ TEST_F(ReportList, CtrlWithADigitSortsByTheColumnThatShowsThereAndTurnsTheOrder)
     m_List.SetColumnSortable(1, false);
     QTest::keyClick(&View(), Qt::Key_1, Qt::ControlModifier);
     EXPECT_EQ(m_List.Rows(), (std::vector<RecordId>{a, b}));
+}
+
+TEST_F(ReportList, AZeroByteInATextSortsInFrontOfEveryCharacter) {
+    const RecordId longer = Add("aa", 1), withZero = Add(std::string("a\0b", 3), 2), a = Add("a", 3);
+    m_List.AddSortColumn(1, true);
+    m_List.TakeOverRecords();
+    EXPECT_EQ(m_List.Rows(), (std::vector<RecordId>{a, withZero, longer}));
+}
+
+TEST_F(ReportList, ARecordThatChangesItsPlaceTwiceBeforeTheListIsSortedStandsThereOnce) {
+    const RecordId a = Add("a", 1), b = Add("b", 2), c = Add("c", 3);
+    m_List.AddSortColumn(1, true);
+    m_List.TakeOverRecords();
+    ASSERT_EQ(m_List.Rows(), (std::vector<RecordId>{a, b, c}));
+    m_Items.SetText(a, 1, "x");
+    m_Items.SetText(a, 1, "y");
+    m_List.TakeOverRecords();
+    EXPECT_EQ(m_List.Rows(), (std::vector<RecordId>{b, c, a}));
+    EXPECT_EQ(View().model()->rowCount(), 3);
 }
 
 TEST_F(ReportList, AClickOnAHeaderSortsByItAndASecondClickTurnsTheOrder) {
