@@ -715,6 +715,12 @@ TEST_F(Running, ALogThatCannotBeDeletedEndsTheProgramAndTakesNoAlarmAlong) {
 // What ends the program by a failure while something is in memory alone.
 class Failing : public Running {
   protected:
+    // What is in the files of all alarms.
+    std::string AlarmBytes() const {
+        std::string bytes;
+        for (const std::string& name : AlarmFiles()) bytes += files.ReadFile("C:\\App\\Alarms\\" + name);
+        return bytes;
+    }
     void LetASenderEndTheStation() { EXPECT_THROW(data.Arrive(std::string(32'768, 'x') + "\r\n"), cFailure); }
 };
 
