@@ -55,17 +55,21 @@ int Export(const cInspectOptions& options) {
     return result.damaged == 0 ? kFits : kDoesNotFit;
 }
 
-void RefuseFolder(const std::string& path) {
+void RefuseFolder(const cFileReader& files, const std::string& path) {
     std::error_code error;
     if (!std::filesystem::is_directory(NativePath(path), error)) return;
-    throw cFailure(eFailure::PathAccess, path + " is a folder: \"vigrel-inspect " + path +
-                                             " --alarms --csv\" makes a table of its alarms; to print files, "
-                                             "name them, such as " +
-                                             path + "/Alarms/*.alm");
+    std::string advice = path + " is a folder; to print files, name them";
+    SkipFailure([&] {
+        const std::string alarms = FindAlarmFolder(files, path).path;
+        advice = path + " is a folder: \"vigrel-inspect " + path +
+                 " --alarms --csv\" makes a table of its alarms; to print files, name them, such as " +
+                 alarms + "*.alm";
+    });
+    throw cFailure(eFailure::PathAccess, advice);
 }
 
 cNamedContent ReadNamed(const cFileReader& files, const std::string& path) {
-    RefuseFolder(path);
+    RefuseFolder(files, path);
     if (files.Stamp(path).size > kLargestFile) {
         throw cFailure(eFailure::InputOutput, path + ": the file is too large for a file of the system");
     }

@@ -201,10 +201,21 @@ TEST_F(VigrelInspect, ATableOnATerminalSteersItByNoAlarm) {
 }
 
 TEST_F(VigrelInspect, AFolderIsAnsweredByWhatCanBeDoneWithIt) {
-    const cRun run = RunTelling("App");
-    EXPECT_EQ(run.exitCode, 1);
-    EXPECT_NE(run.errors.find("App is a folder: \"vigrel-inspect App --alarms --csv\""), std::string::npos)
-        << run.errors;
+    Put("App/Alarms/A0000001.alm", samples::kAlarm);
+    const auto told = [this](const std::string& folder) {
+        const cRun run = RunTelling(folder);
+        EXPECT_EQ(run.exitCode, 1);
+        return run.errors;
+    };
+    for (const std::string folder : {"App", "App/Alarms"}) {
+        const std::string errors = told(folder);
+        EXPECT_NE(errors.find(folder + " is a folder: \"vigrel-inspect " + folder + " --alarms --csv\""),
+                  std::string::npos)
+            << errors;
+        EXPECT_NE(errors.find("such as App/Alarms/*.alm"), std::string::npos) << errors;
+    }
+    const std::string errors = told(".");
+    EXPECT_NE(errors.find(". is a folder; to print files, name them"), std::string::npos) << errors;
     EXPECT_TRUE(Run("--version").output.starts_with("vigrel-inspect "));
 }
 
