@@ -644,6 +644,7 @@ TEST_F(AlarmStore, SavesBehindTheLastOnesWaitBesideTheTurnsAgain) {
     for (int tick = 0; tick < 20; ++tick) store.Timer_Save_Tick();
     EXPECT_FALSE(renamed);
     EXPECT_TRUE(timerSave.Enabled());
+    files.m_OnCall = nullptr;
 }
 
 TEST_F(AlarmStore, WhatIsSavedBehindTheLastSavesIsWrittenAtOnce) {
